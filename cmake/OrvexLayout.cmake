@@ -1,0 +1,21 @@
+# Where things go in the build tree and in an installation.
+#
+# In the build tree all that runs together lies together in bin/: programs, libraries, the module, its resource library
+# and Support/. A program finds the module beside itself there. Tests, benchmarks and fuzzers have folders of their own
+# next to it.
+#
+# An installation has bin/ for the programs, lib/orvex/ for libraries and module, share/orvex/ for data.
+
+include(GNUInstallDirs)
+
+set(ORVEX_BIN_DIR ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${ORVEX_BIN_DIR})
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${ORVEX_BIN_DIR})
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+
+set(ORVEX_INSTALL_LIB lib/orvex)
+set(ORVEX_INSTALL_DATA share/orvex)
+
+# Relative, so that a build tree or an installation may be moved as a whole.
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/../lib/orvex")

@@ -1,0 +1,58 @@
+# Programs, and the data files that lie beside them.
+#
+#   orvex_program(<name> SOURCES <file>... [USES <target>...] [MOC])
+#       A program in bin/. USES are rooms, orvex::host, interfaces and packages.
+#
+#   orvex_resource_library(<file name> QRC <file.qrc>)
+#       A binary Qt resource file under that name in bin/, made by Qt's resource compiler; data only.
+#
+#   orvex_data(<file>... [FOLDER <folder>])
+#       Copies files of this folder to bin/<folder>, and installs them likewise.
+
+function(orvex_program name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "MOC" "" "SOURCES;USES")
+    orvex_refuse_rest("orvex_program(${name})" "${arg_UNPARSED_ARGUMENTS}" "${arg_KEYWORDS_MISSING_VALUES}")
+    orvex_need_targets("orvex_program(${name})" ${arg_USES})
+    add_executable(${name} ${arg_SOURCES})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    set_target_properties(${name} PROPERTIES AUTOMOC ${arg_MOC})
+    orvex_link_rooms(${name} ${arg_USES})
+    if(TARGET OmxMLStyle)
+        # The module is opened at run time; whoever builds the program wants both.
+        add_dependencies(${name} OmxMLStyle)
+    endif()
+    install(TARGETS ${name} RUNTIME DESTINATION bin)
+endfunction()
+
+function(orvex_resource_library file)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "QRC" "")
+    orvex_refuse_rest("orvex_resource_library(${file})" "${arg_UNPARSED_ARGUMENTS}" "${arg_KEYWORDS_MISSING_VALUES}")
+    cmake_path(ABSOLUTE_PATH arg_QRC)
+    cmake_path(GET file STEM stem)
+    set(result ${ORVEX_BIN_DIR}/${file})
+    # The pictures and texts are named in the .qrc alone; ask it, so that a change to one of them counts.
+    file(STRINGS ${arg_QRC} entries REGEX "<file")
+    set(parts "")
+    foreach(entry IN LISTS entries)
+        if(entry MATCHES "<file[^>]*>([^<]+)</file>")
+            cmake_path(GET arg_QRC PARENT_PATH folder)
+            list(APPEND parts ${folder}/${CMAKE_MATCH_1})
+        endif()
+    endforeach()
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${arg_QRC})
+    add_custom_command(OUTPUT ${result}
+        COMMAND Qt5::rcc -binary ${arg_QRC} -o ${result}
+        DEPENDS ${arg_QRC} ${parts}
+        COMMENT "Packing ${file}" VERBATIM)
+    add_custom_target(${stem} ALL DEPENDS ${result})
+    install(FILES ${result} DESTINATION ${ORVEX_INSTALL_DATA})
+endfunction()
+
+function(orvex_data)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "FOLDER" "")
+    foreach(name IN LISTS arg_UNPARSED_ARGUMENTS)
+        cmake_path(GET name FILENAME leaf)
+        configure_file(${name} ${ORVEX_BIN_DIR}/${arg_FOLDER}/${leaf} COPYONLY)
+        install(FILES ${name} DESTINATION ${ORVEX_INSTALL_DATA}/${arg_FOLDER})
+    endforeach()
+endfunction()
