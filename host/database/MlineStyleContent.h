@@ -1,0 +1,34 @@
+#pragma once
+
+#include "KdCmColor.h"
+#include "KdDbObjectId.h"
+#include "ObjectContent.h"
+
+#include <string>
+#include <vector>
+
+namespace orvex {
+
+struct StyleElement {
+    double offset = 0.0; // drawing units at scale 1
+    KdCmColor color;
+    KdDbObjectId linetype;     // null when the drawing has no such line type
+    std::wstring linetypeName; // as the file has it, for one that isn't there
+
+    friend bool operator==(const StyleElement&, const StyleElement&) = default;
+};
+
+// A multiline style. Angles in radians.
+struct MlineStyleContent final : ObjectContent {
+    std::wstring name;
+    std::wstring description;
+    int flags = 0; // 1 filled, 2 miters, 16 32 64 start square, arcs, round, 256 512 1024 end
+    KdCmColor fillColor;
+    double startAngle = 1.5707963267948966;
+    double endAngle = 1.5707963267948966;
+    std::vector<StyleElement> elements;
+
+    [[nodiscard]] bool equals(const ObjectContent& other) const override;
+};
+
+} // namespace orvex

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "KdCmColor.h"
+#include "KdDbSymbolTable.h"
+
+class KdDbLayerTable : public KdDbSymbolTable {
+public:
+    static KdRxClass* desc();
+    [[nodiscard]] KdRxClass* isA() const override;
+};
+
+// A layer: colour, line type and whether its entities are seen.
+class KdDbLayerTableRecord : public KdDbSymbolTableRecord {
+public:
+    static KdRxClass* desc();
+    [[nodiscard]] KdRxClass* isA() const override;
+
+    [[nodiscard]] const KdCmColor& color() const { return m_color; }
+    void setColor(const KdCmColor& color);
+    [[nodiscard]] const std::wstring& linetype() const { return m_linetype; }
+    void setLinetype(const wchar_t* name);
+    [[nodiscard]] bool isOff() const { return m_off; }
+    void setIsOff(bool off);
+    [[nodiscard]] bool isFrozen() const { return m_frozen; }
+    void setIsFrozen(bool frozen);
+    [[nodiscard]] bool isLocked() const { return m_locked; }
+    void setIsLocked(bool locked);
+
+private:
+    KdCmColor m_color;
+    std::wstring m_linetype = L"Continuous";
+    bool m_off = false;
+    bool m_frozen = false;
+    bool m_locked = false;
+};

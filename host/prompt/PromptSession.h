@@ -1,0 +1,52 @@
+#pragma once
+
+#include "KdGePoint3d.h"
+
+#include <optional>
+#include <string>
+
+struct KdDbStub;
+
+namespace orvex {
+
+class PromptSource;
+
+// Finds what a pick means. Implemented by the view.
+class EntityFinder {
+public:
+    virtual ~EntityFinder() = default;
+
+    // The entity under the pick box at a world point; null for nothing.
+    virtual KdDbStub* entityAt(const KdGePoint3d& worldPoint, int pickBoxPixels) = 0;
+};
+
+// Shows what kdedRedraw asks for. Implemented by the view.
+class DisplayListener {
+public:
+    virtual ~DisplayListener() = default;
+
+    virtual void showEntity(KdDbStub& entity) = 0;
+    virtual void hideEntity(KdDbStub& entity) = 0;
+    virtual void refresh() = 0;
+    // World to display units and back, for frame 2 of conversions.
+    virtual KdGePoint3d worldToDisplay(const KdGePoint3d& world) const = 0;
+    virtual KdGePoint3d displayToWorld(const KdGePoint3d& display) const = 0;
+};
+
+// What the prompt library works with at the moment. One a process; pointers aren't owned and may
+// be null: without a source every prompt is cancelled, without a finder nothing is found.
+struct PromptSession {
+    PromptSource* source = nullptr;
+    EntityFinder* finder = nullptr;
+    DisplayListener* display = nullptr;
+
+    int pickBox = 3;     // PICKBOX, pixels to each side; not stored in the drawing
+    int errorNumber = 0; // ERRNO
+    int dimzin = 8;      // DIMZIN where the drawing has none
+    std::wstring armedKeywords;
+    std::wstring lastKeyword;
+
+    static PromptSession& current();
+};
+
+} // namespace orvex

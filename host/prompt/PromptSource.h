@@ -1,0 +1,54 @@
+#pragma once
+
+#include "KdGePoint3d.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orvex {
+
+enum class PromptKind { command, keyword, entity, point, real, text };
+
+// A question to the user.
+struct PromptRequest {
+    PromptKind kind = PromptKind::text;
+    std::wstring text;
+    std::vector<std::wstring> keywords; // armed for this prompt, as the list spells them
+    std::optional<KdGePoint3d> base;    // world; a window draws a line from it
+};
+
+// The answer, before the prompt library has judged it.
+struct PromptAnswer {
+    enum class Kind { cancel, empty, keyword, point, number, text } kind = Kind::cancel;
+    std::wstring keyword; // as the list spells it
+    KdGePoint3d point;    // current user coordinate system
+    double number = 0.0;
+    std::wstring text;
+    // An entity named beside the point: found whatever lies there. 0 is a handle that names
+    // nothing.
+    std::optional<std::uint64_t> handle;
+    std::wstring echo; // what the user typed or clicked, for the command line
+};
+
+// Who answers. Every source ends in a cancel, for ever.
+class PromptSource {
+public:
+    virtual ~PromptSource() = default;
+
+    virtual PromptAnswer ask(const PromptRequest& request) = 0;
+    // A line of text for the command line, without its line end.
+    virtual void print(const std::wstring& line) = 0;
+    // A file chosen by the user; nothing when he declines or the source can't ask.
+    virtual std::optional<std::wstring> chooseFile(const std::wstring& title,
+                                                   const std::wstring& defaultPath,
+                                                   const std::wstring& extension, int flags);
+};
+
+// The keyword that a typed word means: in any case, in full or cut to its capitals where it is
+// spelt with both. Nothing when it means none.
+std::optional<std::wstring> matchKeyword(const std::vector<std::wstring>& keywords,
+                                         const std::wstring& typed);
+
+} // namespace orvex

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "KdGePoint3d.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace orvex {
+
+// A place in the plan, drawing units.
+struct PlanPoint {
+    double x = 0.0;
+    double y = 0.0;
+
+    friend bool operator==(const PlanPoint&, const PlanPoint&) = default;
+};
+
+// A box in the plan; empty when the low corner lies above the high one.
+struct PlanBox {
+    PlanPoint low{1.0, 1.0};
+    PlanPoint high{-1.0, -1.0};
+
+    [[nodiscard]] bool isEmpty() const { return low.x > high.x || low.y > high.y; }
+    void include(const PlanPoint& point);
+    void include(const PlanBox& box);
+};
+
+// What a line is for. Only drawn lines are picked.
+enum class StrokeRole : std::uint8_t { line, cap, joint };
+
+// A chain of straight pieces in one colour; arcs come as chains.
+struct Stroke {
+    std::vector<PlanPoint> points; // one point is a dot
+    std::uint32_t rgb = 0xFFFFFF;
+    StrokeRole role = StrokeRole::line;
+    std::uint32_t dashes = 0; // index into Appearance::dashPatterns plus 1; 0 is continuous
+};
+
+struct Fill {
+    std::vector<PlanPoint> outline;
+    std::uint32_t rgb = 0xFFFFFF;
+};
+
+// Text is drawn by the painter's fonts; its box is what it covers.
+struct Label {
+    PlanPoint anchor;
+    double height = 0.0; // drawing units
+    double angle = 0.0;  // radians, counter-clockwise from the plan's x
+    int horizontal = 0;  // 0 left, 1 middle, 2 right
+    int vertical = 0;    // 0 base line, 1 bottom, 2 middle, 3 top
+    std::wstring text;
+    std::uint32_t rgb = 0xFFFFFF;
+};
+
+// What an entity looks like, in the plan: the one value that painting, pictures and picking read.
+struct Appearance {
+    std::vector<Fill> fills;     // drawn first
+    std::vector<Stroke> strokes; // a multiline's element lines, then caps and joints
+    std::vector<Label> labels;
+    std::vector<std::vector<double>> dashPatterns; // drawing units, line type scales applied
+    bool seen = true; // false on frozen or switched-off layers, and for invisible entities
+
+    [[nodiscard]] PlanBox box() const;
+};
+
+} // namespace orvex
