@@ -1,0 +1,31 @@
+#pragma once
+
+#include "pointTable.h"
+
+class KdDbMline;
+
+// One picked multiline: where the pick landed and where every element runs. Segment i of the chain
+// goes from vertex i to the next one, on a closed multiline also from the last vertex to vertex 0.
+// An element is one of the parallel lines, in the style's order. Coordinates are world, lengths in
+// drawing units.
+//
+// The mapped members are the pick carried over to the element that a tool is working on; the pick
+// itself stays. A plain record: CMlineEdit frees the table, and whoever opened the entity closes
+// it.
+struct CMlineSegment {
+    long m_name[2] = {0, 0};                 // the first word alone tells entities apart
+    double m_pickPoint[3] = {0.0, 0.0, 0.0}; // on the picked element's line
+    double m_pickDistance = 0.0;             // of it from the element's start of the segment
+    int m_segment = 0;
+    int m_element = 0;
+    int m_numVertices = 0;
+    int m_numElements = 0;
+    KdDbMline* m_mline = nullptr;  // the open entity, null when there is none
+    PointTable m_ptList = nullptr; // [element][vertex]: where the element passes the vertex
+    int m_ptListSize = 0;          // rows of the table
+    double m_mappedPoint[3] = {0.0, 0.0, 0.0};
+    double m_mappedDistance = 0.0;
+    int m_mappedSegment = 0;
+    int m_mappedElement = 0;
+    double m_weldPoint[3] = {0.0, 0.0, 0.0}; // the pick pulled back to its segment's ends
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+class CMlineEdit;
+struct CMlineSegment;
+
+// How a tool's own work ended, and with it the cycle.
+enum class StepOutcome {
+    done,           // the display is refreshed, the cycle can be taken back
+    noCrossing,     // text 4007 is printed, no refresh, nothing can be taken back any more
+    failedSilently, // as noCrossing without the text
+};
+
+// What one editing tool does differently from the others in the cycle that they share.
+struct EditTool {
+    // Which first pick goes on; any other repeats the prompt.
+    enum class FirstPick { multiline, anyEntity };
+    enum class SecondPick { none, multiline, sameEntity };
+    enum class Closes { both, first, neither };
+    using Initialise = void (CMlineEdit::*)(CMlineSegment*, long*, CMlineSegment*);
+    using Step = StepOutcome (CMlineEdit::*)();
+
+    // Numbers of the texts.
+    unsigned promptWithUndo = 0;
+    unsigned prompt = 0;
+    unsigned secondPrompt = 0;
+
+    FirstPick firstPick = FirstPick::multiline;
+    SecondPick secondPick = SecondPick::multiline;
+    bool refusesClosedFirst = false;
+    bool refusesClosedSecond = false;
+    int undoCopies = 1;      // 1: of the first entity; 2: of both
+    bool hidesFirst = false; // before an undo copy is written back
+    bool hidesSecond = false;
+    Closes closesAtExit = Closes::both;
+    Initialise initialise = nullptr; // fills a record from a pick
+    Step step = nullptr;             // the tool's own work; none: the tool runs nothing
+};
+
+// The tool of that number, 1 to 12.
+const EditTool& editTool(int number);
