@@ -7,6 +7,9 @@
 template <class T>
 class KdArray {
 public:
+    using value_type = T;
+    using const_iterator = typename std::vector<T>::const_iterator;
+
     KdArray() = default;
 
     void append(const T& value) { m_items.push_back(value); }

@@ -42,7 +42,8 @@ public:
 
 private:
     std::uint32_t m_value = 0xC0000000U; // by layer
-    std::uint16_t m_index = 256;         // what is shown where the value alone doesn't tell
+    std::uint32_t m_shown = 0xC0000000U; // the last value that had a valid method
+    std::uint16_t m_index = 256;         // of a true colour: 1 to 255 when one was stored before
     std::wstring m_bookName;
     std::wstring m_colorName;
 };

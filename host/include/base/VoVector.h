@@ -26,6 +26,9 @@ struct VoVectorDefaultGrowPolicy {
 template <class T, class Policy = VoVectorDefaultGrowPolicy>
 class VoVector {
 public:
+    using value_type = T;
+    using const_iterator = const T*;
+
     VoVector() = default;
     explicit VoVector(unsigned size) { resize(size); }
     VoVector(const VoVector& other) : m_block(other.m_block), m_policy(other.m_policy) { share(); }

@@ -1,0 +1,166 @@
+#include "KdCmColor.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+KdCmColor withValue(std::uint32_t value) {
+    KdCmColor colour;
+    colour.setColor(value);
+    return colour;
+}
+
+std::wstring keyOf(const KdCmColor& colour) {
+    std::wstring key(static_cast<std::size_t>(colour.dictionaryKeyLength()) + 1, L'?');
+    colour.getDictionaryKey(key.data());
+    EXPECT_EQ(key.back(), L'\0');
+    key.pop_back();
+    return key;
+}
+
+TEST(KdCmColorTest, StartsByLayer) {
+    const KdCmColor colour;
+    EXPECT_EQ(colour.colorMethod(), KdCmColor::byLayer);
+    EXPECT_EQ(colour.colorIndex(), 256);
+    EXPECT_EQ(colour.color(), 0xC0000000U);
+    EXPECT_EQ(colour.rgb(), 0xFFFFFFU);
+    EXPECT_EQ(colour.colorNameForDisplay(), L"ByLayer");
+}
+
+TEST(KdCmColorTest, ThePackedValueTellsMethodAndIndex) {
+    struct Case {
+        std::uint32_t value;
+        int method;
+        int index;
+        const wchar_t* name;
+    };
+    const Case cases[] = {
+        {0xC0000000U, 192, 256, L"ByLayer"},
+        {0xC1000000U, 193, 0, L"ByBlock"},
+        {0xC3000005U, 195, 5, L"5"},
+        {0xC30000FFU, 195, 255, L"255"},
+        {0xC2FF8000U, 194, 30, L"255,128,0"},
+        {0xC20080FFU, 194, 150, L"0,128,255"},
+        // None is black; the darkest blue, red and green have 38 in one channel, red comes first.
+        {0xC2000000U, 194, 18, L"0,0,0"},
+    };
+    for (const Case& each : cases) {
+        const KdCmColor colour = withValue(each.value);
+        EXPECT_EQ(colour.color(), each.value);
+        EXPECT_EQ(colour.colorMethod(), each.method) << std::hex << each.value;
+        EXPECT_EQ(colour.colorNameForDisplay(), each.name);
+        EXPECT_EQ(colour.colorIndex(), each.index) << std::hex << each.value;
+    }
+}
+
+TEST(KdCmColorTest, AValueWithoutMethodIsKeptAndChangesNothingThatShows) {
+    for (const std::uint32_t value : {192U, 196608U, 0U, 0xFFFFFFFFU}) {
+        KdCmColor colour = withValue(value);
+        EXPECT_EQ(colour.color(), value);
+        EXPECT_EQ(colour.colorMethod(), KdCmColor::byLayer);
+        EXPECT_EQ(colour.colorIndex(), 256);
+
+        colour.setColorIndex(3);
+        colour.setColor(value);
+        EXPECT_EQ(colour.color(), value);
+        EXPECT_EQ(colour.colorIndex(), 3);
+        EXPECT_EQ(colour.rgb(), 0x00FF00U);
+
+        colour.setColor(0xC2123456U);
+        colour.setColor(value);
+        EXPECT_EQ(colour.rgb(), 0x123456U);
+    }
+}
+
+TEST(KdCmColorTest, ATrueColourKeepsTheIndexStoredBeforeIt) {
+    KdCmColor colour;
+    colour.setColorIndex(5);
+    colour.setColorMethod(194);
+    colour.setColor(0xC2FF8000U);
+    EXPECT_EQ(colour.colorIndex(), 5);
+    EXPECT_EQ(colour.rgb(), 0xFF8000U);
+
+    colour.setColorIndex(7);
+    EXPECT_EQ(colour.colorMethod(), KdCmColor::byIndex);
+    EXPECT_EQ(colour.color(), 0xC3000007U);
+    EXPECT_EQ(colour.rgb(), 0xFFFFFFU);
+
+    // By layer is no index a true colour could fall back to.
+    colour.setColorIndex(256);
+    colour.setColor(0xC2FF8000U);
+    EXPECT_EQ(colour.colorIndex(), 30);
+}
+
+TEST(KdCmColorTest, AnIndexBeyondThePaletteIsStoredAndShownAsWhite) {
+    KdCmColor colour;
+    colour.setColorIndex(65535);
+    EXPECT_EQ(colour.colorIndex(), 65535);
+    EXPECT_EQ(colour.rgb(), 0xFFFFFFU);
+    EXPECT_EQ(withValue(colour.color()).colorIndex(), 65535);
+}
+
+TEST(KdCmColorTest, NamesStandBesideTheValue) {
+    struct Case {
+        const wchar_t* key;
+        const wchar_t* book;
+        const wchar_t* name;
+        const wchar_t* keyAgain;
+    };
+    const Case cases[] = {{L"RAL$RAL 3000", L"RAL", L"RAL 3000", L"RAL$RAL 3000"},
+                          {L"Brick", L"", L"Brick", L"Brick"},
+                          {L"", L"", L"", L""},
+                          {L"a$b$c", L"a", L"b$c", L"a$b$c"},
+                          {nullptr, L"", L"", L""}};
+    for (const Case& each : cases) {
+        KdCmColor colour = withValue(0xC2102030U);
+        colour.setNamesFromDictionaryKey(L"old$names");
+        colour.setNamesFromDictionaryKey(each.key);
+        EXPECT_STREQ(colour.bookName(), each.book);
+        EXPECT_STREQ(colour.colorName(), each.name);
+        EXPECT_EQ(keyOf(colour), each.keyAgain);
+        EXPECT_EQ(colour.hasColorName(), *each.name != L'\0');
+        EXPECT_EQ(colour.color(), 0xC2102030U);
+
+        colour.setColor(0xC3000001U);
+        EXPECT_STREQ(colour.bookName(), each.book);
+    }
+}
+
+TEST(KdCmColorTest, ColoursAreEqualWhenTheyLookAndReadTheSame) {
+    KdCmColor first = withValue(0xC3000005U);
+    KdCmColor second;
+    EXPECT_NE(first, second);
+    second.setColorIndex(5);
+    EXPECT_EQ(first, second);
+    second.setNamesFromDictionaryKey(L"RAL$5005");
+    EXPECT_NE(first, second);
+}
+
+TEST(PaletteTest, HuesAndGreysStandWhereTheyAreExpected) {
+    struct Case {
+        std::uint16_t index;
+        std::uint32_t rgb;
+    };
+    // A quarter step between primaries: 255 * 1/4 = 63, 255 * 1/2 = 127, 255 * 3/4 = 191.
+    const Case cases[] = {{1, 0xFF0000},   {2, 0xFFFF00},   {7, 0xFFFFFF},   {10, 0xFF0000},
+                          {11, 0xFF7F7F},  {12, 0xA50000},  {19, 0x261313},  {20, 0xFF3F00},
+                          {30, 0xFF7F00},  {40, 0xFFBF00},  {50, 0xFFFF00},  {60, 0xBFFF00},
+                          {90, 0x00FF00},  {130, 0x00FFFF}, {150, 0x007FFF}, {170, 0x0000FF},
+                          {210, 0xFF00FF}, {240, 0xFF003F}, {250, 0x333333}, {255, 0xFFFFFF}};
+    for (const Case& each : cases) {
+        EXPECT_EQ(orvex::paletteRgb(each.index), each.rgb) << each.index;
+    }
+}
+
+TEST(PaletteTest, TheNearestIndexOfAColourOfThePaletteShowsThatColour) {
+    for (std::uint16_t index = 1; index < 256; ++index) {
+        const std::uint32_t rgb = orvex::paletteRgb(index);
+        const std::uint16_t nearest = orvex::nearestPaletteIndex(rgb);
+        EXPECT_LE(nearest, index);
+        EXPECT_EQ(orvex::paletteRgb(nearest), rgb) << index;
+    }
+}
+
+} // namespace

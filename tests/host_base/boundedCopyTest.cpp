@@ -1,0 +1,53 @@
+#include "boundedCopy.h"
+#include "VoCharOp.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+
+namespace {
+
+TEST(BoundedCopyTest, BytesAreCopiedWholeOrNotAtAll) {
+    char target[4] = "xyz";
+    EXPECT_NE(memcpy_s(target, 2, "abc", 3), 0);
+    EXPECT_NE(memcpy_s(target, 4, nullptr, 3), 0);
+    EXPECT_NE(memcpy_s(nullptr, 4, "abc", 3), 0);
+    EXPECT_STREQ(target, "xyz");
+    EXPECT_EQ(memcpy_s(target, 3, "abc", 3), 0);
+    EXPECT_STREQ(target, "abc");
+    EXPECT_EQ(memcpy_s(nullptr, 0, nullptr, 0), 0);
+}
+
+TEST(BoundedCopyTest, TextIsCutAndAlwaysTerminated) {
+    struct Case {
+        std::size_t capacity;
+        std::size_t count;
+        const wchar_t* result;
+        bool whole;
+    };
+    const Case cases[] = {{6, 99, L"abcde", true}, {5, 99, L"abcd", false}, {1, 99, L"", false},
+                          {6, 2, L"ab", true},     {3, 2, L"ab", true},     {2, 2, L"a", false}};
+    for (const Case& each : cases) {
+        std::wstring target(6, L'#');
+        EXPECT_EQ(wcsncpy_s(target.data(), each.capacity, L"abcde", each.count) == 0, each.whole);
+        EXPECT_STREQ(target.c_str(), each.result);
+        for (std::size_t i = each.capacity; i < target.size(); ++i) {
+            EXPECT_EQ(target[i], L'#');
+        }
+    }
+    wchar_t target[3] = L"xy";
+    EXPECT_EQ(wcscpy_s(target, 3, L"ab"), 0);
+    EXPECT_STREQ(target, L"ab");
+    EXPECT_NE(wcscpy_s(target, 0, L"cd"), 0);
+    EXPECT_STREQ(target, L"ab");
+    EXPECT_NE(wcscpy_s(target, 3, nullptr), 0);
+    EXPECT_STREQ(target, L"");
+}
+
+TEST(BoundedCopyTest, CharactersOfANullTextAreNone) {
+    EXPECT_EQ(VoCharOp::numOfChars(nullptr), 0);
+    EXPECT_EQ(VoCharOp::numOfChars("W\xC3\xA4nde"), 6);
+}
+
+} // namespace

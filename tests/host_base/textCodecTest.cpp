@@ -1,0 +1,66 @@
+#include "textCodec.h"
+#include "KdString.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using orvex::foldCase;
+using orvex::narrow;
+using orvex::widen;
+
+TEST(TextCodecTest, EveryCodePointGoesThereAndBack) {
+    std::wstring text;
+    for (char32_t value = 1; value <= 0x10FFFF; value += value < 0x3000 ? 1 : 0xFB) {
+        if (value < 0xD800 || value > 0xDFFF) {
+            text += static_cast<wchar_t>(value);
+        }
+    }
+    text += static_cast<wchar_t>(0x10FFFF);
+    EXPECT_EQ(widen(narrow(text)), text);
+}
+
+TEST(TextCodecTest, BytesThatAreNoUtf8AreReplacedOneByOne) {
+    struct Case {
+        const char* bytes;
+        const wchar_t* text;
+    };
+    const Case cases[] = {
+        {"a\xFF"
+         "b",
+         L"a\uFFFDb"},
+        {"\xC3", L"\uFFFD"},                               // cut off
+        {"\xC3(", L"\uFFFD("},                             // no follower
+        {"\xC0\x80", L"\uFFFD\uFFFD"},                     // longer than needed
+        {"\xE0\x80\x80", L"\uFFFD\uFFFD\uFFFD"},           // likewise
+        {"\xED\xA0\x80", L"\uFFFD\uFFFD\uFFFD"},           // a surrogate
+        {"\xF4\x90\x80\x80", L"\uFFFD\uFFFD\uFFFD\uFFFD"}, // behind the last code point
+        {"\x80x", L"\uFFFDx"},
+        {"\xE2\x82\xAC", L"\u20AC"},
+        {"\xF0\x9F\x98\x80", L"\U0001F600"},
+    };
+    for (const Case& each : cases) {
+        EXPECT_EQ(widen(each.bytes), each.text) << each.bytes;
+    }
+}
+
+TEST(TextCodecTest, WideValuesThatAreNoCodePointsAreReplaced) {
+    const std::wstring text{static_cast<wchar_t>(0xD800), static_cast<wchar_t>(0x110000),
+                            static_cast<wchar_t>(-1)};
+    EXPECT_EQ(narrow(text), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
+TEST(TextCodecTest, FoldingMakesCaseVanishAndNothingElse) {
+    EXPECT_EQ(foldCase(L"Wand_1 \u00E4\u00DF\u0441"), L"WAND_1 \u00C4\u00DF\u0421");
+    const std::wstring odd{static_cast<wchar_t>(-1), static_cast<wchar_t>(0xD800)};
+    EXPECT_EQ(foldCase(odd), odd);
+}
+
+TEST(KdStringTest, HoldsBothForms) {
+    const KdString text(L"W\u00E4nde");
+    EXPECT_STREQ(text.kszPtr(), "W\xC3\xA4nde");
+    EXPECT_STREQ(text.wide(), L"W\u00E4nde");
+    EXPECT_STREQ(KdString(nullptr).kszPtr(), "");
+}
+
+} // namespace
