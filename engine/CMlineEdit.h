@@ -7,6 +7,8 @@
 #include <vector>
 
 class KdDbMline;
+struct CrossCut;
+enum class CrossKind;
 
 // One run of an editing tool on the multilines of the open drawing. A tool repeats its cycle, picks
 // and then its own step, until the user ends it; the keyword UNDO takes back the last cycle.
@@ -29,6 +31,10 @@ public:
     KdDbMline* m_undoSecond;
     PointTable m_crossing; // owned: [element of first][element of second]
     int m_crossingSize;    // rows of m_crossing
+    // Beside the matrix: which of its entries are crossings. The others read as zeros and cut
+    // nothing.
+    int m_crossingColumns = 0;
+    std::vector<bool> m_crossingSolved;
 
     CMlineEdit();
     ~CMlineEdit();
@@ -54,7 +60,8 @@ public:
     StepOutcome stepClosedCross(); // crossTools.cpp
     StepOutcome stepOpenCross();
     StepOutcome stepMergedCross();
-    StepOutcome stepClosedTree(); // teeTools.cpp
+    StepOutcome stepCross(CrossKind kind); // what the three share
+    StepOutcome stepClosedTree();          // teeTools.cpp
     StepOutcome stepOpenTree();
     StepOutcome stepMergedTree();
     StepOutcome stepCornerJoint(); // cornerJoint.cpp
@@ -111,6 +118,9 @@ public:
                         int secondSegment, PointTable* crossing, int* crossingSize);
     void getXPoint(KdDbMline* first, int firstSegment, KdDbMline* second, int secondSegment,
                    double* point);
+    [[nodiscard]] bool isCrossingSolved(int i, int j) const; // false outside the matrix
+    [[nodiscard]] std::size_t crossingIndex(int i, int j) const;
+    void cutBetween(const CrossCut& cut, int segment); // crossTools.cpp
 
     // Ends of elements and of the whole: trim.cpp.
     void change41GroupNumber(CMlineSegment* seg, int element, int vertex, const double* point,
