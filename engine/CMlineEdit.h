@@ -88,6 +88,9 @@ public:
                           int* size);
     // The pick aperture in display units; without a view it stays as it was.
     void set_SpaceBetween(double* radius);
+    // Its parts, for the weld tool too: name and open entity, then counts, table and aperture.
+    void openPicked(CMlineSegment* seg, const long* name, const CMlineSegment* other);
+    void fillTable(CMlineSegment* seg);
 
     // Where a pick lies on another element, square across: mapping.cpp. Element -1 is the vertex
     // chain; its place goes to `out`, which is written for it alone.
@@ -151,15 +154,13 @@ public:
     void Weld_Mongline(CMlineSegment* first, CMlineSegment* second);
 
     // Parts of the cycle: editCycle.cpp.
-    enum class FirstPrompt { leave, again, picked };
-    enum class SecondPrompt { leave, again, picked };
-    FirstPrompt askFirst(const EditTool& tool, HINSTANCE resources);
-    SecondPrompt askSecond(const EditTool& tool, HINSTANCE resources);
+    enum class Prompted { leave, again, picked };
+    Prompted askFirst(const EditTool& tool, HINSTANCE resources);
+    Prompted askSecond(const EditTool& tool, HINSTANCE resources);
+    bool isRefusedAsClosed(HINSTANCE resources);
     void takeBackLastCycle(const EditTool& tool);
-    bool refusesClosed(HINSTANCE resources);
     void workOnPicks(const EditTool& tool, HINSTANCE resources);
-    StepOutcome runStep(const EditTool& tool);
     void renewUndoCopies(const EditTool& tool);
-    void discardUndoCopies(const EditTool& tool);
-    int closeAtExit(const EditTool& tool);
+    StepOutcome runStep(const EditTool& tool);
+    void closeAtExit(const EditTool& tool);
 };

@@ -19,11 +19,13 @@ struct EditTool {
     using Initialise = void (CMlineEdit::*)(CMlineSegment*, long*, CMlineSegment*);
     using Step = StepOutcome (CMlineEdit::*)();
 
-    // Numbers of the texts.
-    unsigned promptWithUndo = 0;
-    unsigned prompt = 0;
-    unsigned secondPrompt = 0;
+    struct Prompts {
+        unsigned firstWithUndo = 0; // numbers of the texts
+        unsigned first = 0;
+        unsigned second = 0;
+    };
 
+    Prompts prompts;
     FirstPick firstPick = FirstPick::multiline;
     SecondPick secondPick = SecondPick::multiline;
     bool refusesClosedFirst = false;

@@ -1,0 +1,92 @@
+#include "breakList.h"
+
+#include "VoMath.h"
+
+#include <cstddef>
+
+namespace {
+
+constexpr double kSameBreak = 1e-10;
+
+bool areEqual(double a, double b) {
+    return VoMath::isEqual(a, b, kSameBreak);
+}
+
+// The first entry behind the offset that is not before `from`; all of them when `from` is the
+// segment's start. The size when there is none.
+std::size_t firstReached(const BreakList& list, double from) {
+    std::size_t k = 1;
+    while (k < list.size() && !(list[k] > from || areEqual(from, 0.0) || areEqual(list[k], from))) {
+        ++k;
+    }
+    return k;
+}
+
+bool isBeforeOrAt(double entry, double to) {
+    return entry < to || areEqual(entry, to);
+}
+
+BreakList::iterator at(BreakList& list, std::size_t index) {
+    return list.begin() + static_cast<std::ptrdiff_t>(index);
+}
+
+} // namespace
+
+BreakList cutWithin(BreakList list, double from, double to, bool insertsEnds) {
+    if (list.empty()) {
+        return list;
+    }
+    std::size_t low = firstReached(list, from);
+    std::size_t high = list.size() - 1;
+    while (high > 0 && !isBeforeOrAt(list[high], to)) {
+        --high;
+    }
+    // An end of the gap inside a drawn stretch becomes a break of its own.
+    if (insertsEnds && high % 2 == 1) {
+        list.insert(at(list, high + 1), to);
+    }
+    if (insertsEnds && low % 2 == 0) {
+        list.insert(at(list, low), from);
+        ++low;
+        ++high;
+    }
+    if (low <= high) {
+        list.erase(at(list, low), at(list, high + 1));
+    }
+    return list;
+}
+
+BreakList cutToSegmentEnd(BreakList list, double from, bool insertsStart) {
+    if (const std::size_t reached = firstReached(list, from); reached < list.size()) {
+        list.resize(reached);
+    }
+    if (insertsStart) {
+        list.push_back(from);
+    }
+    return list;
+}
+
+BreakList cutFromSegmentStart(BreakList list, double to, bool insertsEnd) {
+    if (list.empty()) {
+        return list;
+    }
+    // This scan takes in the offset too, so that a segment without a break before `to` keeps all.
+    std::size_t behind = list.size();
+    while (behind > 0 && !isBeforeOrAt(list[behind - 1], to)) {
+        --behind;
+    }
+    if (behind > 1) {
+        list.erase(at(list, 1), at(list, behind));
+    }
+    if (insertsEnd) {
+        list.insert(at(list, 1), to);
+    }
+    return list;
+}
+
+BreakList cutWhole(BreakList list) {
+    if (list.size() > 1) {
+        list.resize(1);
+    }
+    return list;
+}

@@ -1,0 +1,127 @@
+// The twelve tools: a row each of what is particular about it, and the members that run it.
+
+#include "CMlineEdit.h"
+
+#include <array>
+
+namespace {
+
+using FirstPick = EditTool::FirstPick;
+using SecondPick = EditTool::SecondPick;
+using Closes = EditTool::Closes;
+
+constexpr EditTool::Prompts kCrossingPrompts{.firstWithUndo = 4003, .first = 4004, .second = 4005};
+constexpr EditTool::Prompts kVertexPrompts{.firstWithUndo = 4008, .first = 4009};
+constexpr EditTool::Prompts kBreakPrompts{.firstWithUndo = 4010, .first = 4011, .second = 4012};
+
+constexpr int kTools = 12;
+
+constexpr std::array<EditTool, kTools> kTable{{
+    // 1 closed cross, 2 open cross, 3 merged cross: crossTools.cpp
+    {.prompts = kCrossingPrompts, .initialise = &CMlineEdit::mlineEditInitialize},
+    {.prompts = kCrossingPrompts, .undoCopies = 2, .initialise = &CMlineEdit::mlineEditInitialize},
+    {.prompts = kCrossingPrompts, .undoCopies = 2, .initialise = &CMlineEdit::mlineEditInitialize},
+    // 4 closed tee, 5 open tee, 6 merged tee: teeTools.cpp
+    {.prompts = kCrossingPrompts,
+     .refusesClosedFirst = true,
+     .initialise = &CMlineEdit::mlineEditInitialize},
+    {.prompts = kCrossingPrompts,
+     .refusesClosedFirst = true,
+     .undoCopies = 2,
+     .hidesFirst = true,
+     .initialise = &CMlineEdit::mlineEditInitialize},
+    {.prompts = kCrossingPrompts,
+     .refusesClosedFirst = true,
+     .undoCopies = 2,
+     .initialise = &CMlineEdit::mlineEditInitialize},
+    // 7 corner joint: cornerJoint.cpp
+    {.prompts = kCrossingPrompts,
+     .refusesClosedFirst = true,
+     .refusesClosedSecond = true,
+     .undoCopies = 2,
+     .hidesFirst = true,
+     .hidesSecond = true,
+     .initialise = &CMlineEdit::mlineEditInitialize},
+    // 8 add vertex, 9 delete vertex: vertexTools.cpp
+    {.prompts = kVertexPrompts,
+     .secondPick = SecondPick::none,
+     .hidesFirst = true,
+     .closesAtExit = Closes::first,
+     .initialise = &CMlineEdit::mlineEditInitialize},
+    {.prompts = kVertexPrompts,
+     .secondPick = SecondPick::none,
+     .hidesFirst = true,
+     .closesAtExit = Closes::first,
+     .initialise = &CMlineEdit::mlineEditInitialize},
+    // 10 cut single, 11 cut all: cutTools.cpp
+    {.prompts = kBreakPrompts,
+     .secondPick = SecondPick::sameEntity,
+     .hidesFirst = true,
+     .initialise = &CMlineEdit::mlineEditInitialize,
+     .step = &CMlineEdit::stepCutSingle},
+    {.prompts = kBreakPrompts,
+     .secondPick = SecondPick::sameEntity,
+     .hidesFirst = true,
+     .initialise = &CMlineEdit::mlineEditInitialize,
+     .step = &CMlineEdit::stepCutAll},
+    // 12 weld all: weldTool.cpp
+    {.prompts = kBreakPrompts,
+     .firstPick = FirstPick::anyEntity,
+     .secondPick = SecondPick::sameEntity,
+     .hidesFirst = true,
+     .closesAtExit = Closes::neither},
+}};
+
+} // namespace
+
+const EditTool& editTool(int number) {
+    return kTable.at(static_cast<std::size_t>(number - 1));
+}
+
+int CMlineEdit::cmd_mledit_ClosedCross(HINSTANCE resources) {
+    return runTool(editTool(1), resources);
+}
+
+int CMlineEdit::cmd_mledit_OpenCross(HINSTANCE resources) {
+    return runTool(editTool(2), resources);
+}
+
+int CMlineEdit::cmd_mledit_MergedCross(HINSTANCE resources) {
+    return runTool(editTool(3), resources);
+}
+
+int CMlineEdit::cmd_mledit_ClosedTree(HINSTANCE resources) {
+    return runTool(editTool(4), resources);
+}
+
+int CMlineEdit::cmd_mledit_OpenTree(HINSTANCE resources) {
+    return runTool(editTool(5), resources);
+}
+
+int CMlineEdit::cmd_mledit_MergedTree(HINSTANCE resources) {
+    return runTool(editTool(6), resources);
+}
+
+int CMlineEdit::cmd_mledit_CornerJoint(HINSTANCE resources) {
+    return runTool(editTool(7), resources);
+}
+
+int CMlineEdit::cmd_mledit_AddVertex(HINSTANCE resources) {
+    return runTool(editTool(8), resources);
+}
+
+int CMlineEdit::cmd_mledit_DeleteVertex(HINSTANCE resources) {
+    return runTool(editTool(9), resources);
+}
+
+int CMlineEdit::cmd_mledit_CutSingle(HINSTANCE resources) {
+    return runTool(editTool(10), resources);
+}
+
+int CMlineEdit::cmd_mledit_CutAll(HINSTANCE resources) {
+    return runTool(editTool(11), resources);
+}
+
+int CMlineEdit::cmd_mledit_WeldAll(HINSTANCE resources) {
+    return runTool(editTool(12), resources);
+}
