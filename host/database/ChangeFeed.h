@@ -10,7 +10,9 @@ namespace orvex {
 class DatabaseCore;
 
 // Collects which objects were changed, made, erased or brought back, each once till it is taken.
-// Views settle what they derive from objects when they are asked next, never per setter.
+// Views settle what they derive from objects when they are asked next, never per setter. A feed
+// may outlive its database and is empty from then on. A database serves up to eight at a time;
+// more are refused by std::length_error.
 class ChangeFeed {
 public:
     explicit ChangeFeed(DatabaseCore& core);
@@ -24,7 +26,7 @@ public:
 
 private:
     friend class DatabaseCore;
-    DatabaseCore& m_core;
+    DatabaseCore* m_core; // null once the database is gone
     std::uint8_t m_bit = 0;
     std::vector<KdDbStub*> m_pending;
 };

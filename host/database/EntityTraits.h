@@ -2,6 +2,7 @@
 
 #include "KdCmColor.h"
 
+#include <memory>
 #include <string>
 
 namespace orvex {
@@ -17,5 +18,11 @@ struct EntityTraits {
 
     friend bool operator==(const EntityTraits&, const EntityTraits&) = default;
 };
+
+// As operator==, but -0.0 differs from 0.0.
+[[nodiscard]] bool sameTraits(const EntityTraits& a, const EntityTraits& b);
+
+// One common copy for entities alike, as far as such a copy is remembered; never null.
+[[nodiscard]] std::shared_ptr<const EntityTraits> shareTraits(const EntityTraits& traits);
 
 } // namespace orvex

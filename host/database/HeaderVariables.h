@@ -17,6 +17,9 @@ struct HeaderHandle {
 };
 using HeaderValue = std::variant<int, double, KdGePoint3d, std::wstring, HeaderHandle>;
 
+// Equal as they would be written: -0.0 differs from 0.0.
+[[nodiscard]] bool sameBits(const HeaderValue& a, const HeaderValue& b);
+
 // The header variables that the system understands, by name without the "$" ("CMLSTYLE"). Absent
 // ones have the default that the system gives them.
 class HeaderVariables {
@@ -26,6 +29,7 @@ public:
     [[nodiscard]] bool has(std::string_view name) const { return m_values.contains(name); }
     [[nodiscard]] const HeaderValue* find(std::string_view name) const; // null when unknown
     void set(std::string_view name, HeaderValue value);
+    void remove(std::string_view name);
 
     [[nodiscard]] int integer(std::string_view name) const; // 0 for another type
     [[nodiscard]] double real(std::string_view name) const;

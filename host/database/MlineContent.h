@@ -30,11 +30,12 @@ struct ChainVertex {
 class ParameterLists {
 public:
     // From a file: `counts` has, for each vertex and element, the number of line and of area
-    // values; `values` has them in that order.
+    // values; `values` has them in that order. Counts beyond the values are cut. Without elements
+    // there is nothing to tell vertices by: call appendVertex for each of them.
     void assignFlat(unsigned elements, std::vector<std::uint32_t> counts,
                     std::vector<double> values);
 
-    [[nodiscard]] unsigned vertexCount() const { return static_cast<unsigned>(m_nested.size()); }
+    [[nodiscard]] unsigned vertexCount() const { return m_vertices; }
     // Elements of one vertex; those of vertex 0 count for the multiline.
     [[nodiscard]] unsigned elementCount(unsigned vertex) const;
 
@@ -48,24 +49,35 @@ public:
     void appendVertex(); // as many empty records as vertex 0 has
     void dropLastVertex();
 
+    // Bytes that no copy shares.
+    [[nodiscard]] std::size_t memoryUse() const;
+
+    // Bit for bit.
     friend bool operator==(const ParameterLists& a, const ParameterLists& b);
 
 private:
+    using Record = VoVector<KdMLSegment>;
+
     struct Flat {
         unsigned elements = 0;
         std::vector<std::uint32_t> ends; // of each list in `values`, lines and areas in turn
         std::vector<double> values;
     };
+    [[nodiscard]] const Record* nestedOrNull(unsigned vertex) const;
+    [[nodiscard]] std::span<const double> flatList(std::size_t index) const;
+
+    unsigned m_vertices = 0;
     std::shared_ptr<const Flat> m_flat; // shared by copies
-    mutable std::vector<std::shared_ptr<const VoVector<KdMLSegment>>>
-        m_nested; // null: as in m_flat
+    // A null entry, and every entry of an empty array, is as in m_flat. Most multilines are only
+    // looked at and never have any.
+    mutable std::vector<std::shared_ptr<const Record>> m_nested;
 };
 
 // A multiline.
 struct MlineContent final : ObjectContent {
-    std::shared_ptr<const EntityTraits> traits;
-    KdDbObjectId style;     // null when the drawing has no such style
-    std::wstring styleName; // as the file has it, for a style that isn't there
+    std::shared_ptr<const EntityTraits> traits; // null: those that the entity has
+    KdDbObjectId style;                         // null when the drawing has no such style
+    std::wstring styleName; // as the file has it; matters only where `style` is null
     double scale = 1.0;
     int justification = 0; // 0 top, 1 zero, 2 bottom
     bool closed = false;
@@ -79,6 +91,7 @@ struct MlineContent final : ObjectContent {
         return vertices.empty() ? 0 : lists.elementCount(0);
     }
     [[nodiscard]] bool equals(const ObjectContent& other) const override;
+    [[nodiscard]] std::size_t memoryUse() const override;
 };
 
 } // namespace orvex

@@ -13,7 +13,7 @@ struct StyleElement {
     double offset = 0.0; // drawing units at scale 1
     KdCmColor color;
     KdDbObjectId linetype;     // null when the drawing has no such line type
-    std::wstring linetypeName; // as the file has it, for one that isn't there
+    std::wstring linetypeName; // as the file has it; matters only where `linetype` is null
 
     friend bool operator==(const StyleElement&, const StyleElement&) = default;
 };
@@ -29,6 +29,7 @@ struct MlineStyleContent final : ObjectContent {
     std::vector<StyleElement> elements;
 
     [[nodiscard]] bool equals(const ObjectContent& other) const override;
+    [[nodiscard]] std::size_t memoryUse() const override;
 };
 
 } // namespace orvex

@@ -6,8 +6,9 @@
 #include <string>
 
 namespace orvex {
+class DatabaseCore;
 struct DictionaryContent;
-}
+} // namespace orvex
 
 // Walks a dictionary in its order. Made by newIterator, freed by the caller. Entries removed
 // meanwhile are passed over.
@@ -37,8 +38,9 @@ public:
     Status nameAt(KdDbObjectId id, std::wstring& key) const;
     // An unknown key writes a null id.
     Status getAt(const wchar_t* key, KdDbObjectId& id) const;
-    // Puts an object under the key, in place of what stood there. An object outside any database
-    // becomes this database's, gets a handle, and is left open for write.
+    // Puts an object under the key, in place of what stood there, which is erased. An object
+    // outside any database becomes this database's, gets a handle, and is left open for write. One
+    // of another database is refused, and so is everything by a dictionary outside of them.
     Status setAt(const wchar_t* key, KdDbObject* object, KdDbObjectId& id);
     // Takes the entry out and erases its object.
     Status remove(const wchar_t* key);
@@ -51,6 +53,8 @@ public:
     [[nodiscard]] const orvex::DictionaryContent& entries() const { return *m_content; }
 
 private:
+    friend class orvex::DatabaseCore;
     orvex::DictionaryContent& change();
+    void dropEntry(KdDbObjectId id); // for an object that is erased
     std::shared_ptr<orvex::DictionaryContent> m_content;
 };

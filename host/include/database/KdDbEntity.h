@@ -37,8 +37,18 @@ public:
     virtual void setDatabaseDefaults(const KdDbDatabase* database);
 
     [[nodiscard]] const orvex::EntityTraits& traits() const;
-    void setTraits(const orvex::EntityTraits& traits);
+    // Refused, like every setter here, by a drawing's entity of this class itself.
+    Status setTraits(const orvex::EntityTraits& traits);
+
+protected:
+    [[nodiscard]] const std::shared_ptr<const orvex::EntityTraits>& sharedTraits() const {
+        return m_traits;
+    }
+    // Whoever keeps the traits a second time has to follow.
+    virtual void storeTraits(std::shared_ptr<const orvex::EntityTraits> traits);
 
 private:
+    [[nodiscard]] bool isOnlySeen() const;
+
     std::shared_ptr<const orvex::EntityTraits> m_traits; // never null; shared by entities alike
 };

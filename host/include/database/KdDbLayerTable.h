@@ -26,6 +26,9 @@ public:
     [[nodiscard]] bool isLocked() const { return m_locked; }
     void setIsLocked(bool locked);
 
+    [[nodiscard]] std::shared_ptr<const orvex::ObjectContent> content() const override;
+    Status setContent(const std::shared_ptr<const orvex::ObjectContent>& content) override;
+
 private:
     KdCmColor m_color;
     std::wstring m_linetype = L"Continuous";

@@ -20,6 +20,9 @@ public:
     [[nodiscard]] const std::vector<double>& dashes() const { return m_dashes; }
     void setDashes(std::vector<double> dashes);
 
+    [[nodiscard]] std::shared_ptr<const orvex::ObjectContent> content() const override;
+    Status setContent(const std::shared_ptr<const orvex::ObjectContent>& content) override;
+
 private:
     std::wstring m_comments;
     std::vector<double> m_dashes;

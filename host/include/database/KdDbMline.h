@@ -57,6 +57,9 @@ public:
     [[nodiscard]] std::shared_ptr<const orvex::ObjectContent> content() const override;
     Status setContent(const std::shared_ptr<const orvex::ObjectContent>& content) override;
 
+protected:
+    void storeTraits(std::shared_ptr<const orvex::EntityTraits> traits) override;
+
 private:
     friend class KdDbMlineImp;
     friend class KdDbSystemInternals;

@@ -1,0 +1,68 @@
+#include "HandleIndex.h"
+
+#include "KdDbStub.h"
+
+#include <algorithm>
+
+namespace orvex {
+
+KdDbStub* HandleIndex::find(std::deque<KdDbStub>& stubs, std::uint64_t handle) {
+    if (m_taken == 0) {
+        build(stubs);
+    }
+    for (; m_taken < stubs.size(); ++m_taken) {
+        add(stubs[m_taken]);
+    }
+    KdDbStub** const found = place(handle);
+    return found != nullptr ? *found : nullptr;
+}
+
+void HandleIndex::noteHandle(KdDbStub& stub) {
+    if (stub.ordinal < m_taken) {
+        add(stub);
+    }
+}
+
+KdDbStub** HandleIndex::place(std::uint64_t handle) {
+    const auto entry =
+        std::lower_bound(m_sorted.begin(), m_sorted.end(), handle,
+                         [](const Entry& each, std::uint64_t h) { return each.handle < h; });
+    if (entry != m_sorted.end() && entry->handle == handle) {
+        return &entry->stub;
+    }
+    const auto other = m_rest.find(handle);
+    return other != m_rest.end() ? &other->second : nullptr;
+}
+
+void HandleIndex::add(KdDbStub& stub) {
+    if (stub.handle == 0) {
+        return;
+    }
+    if (m_sorted.empty() || m_sorted.back().handle < stub.handle) {
+        m_sorted.push_back({stub.handle, &stub});
+    } else if (KdDbStub** const known = place(stub.handle)) {
+        if ((*known)->erased) {
+            *known = &stub;
+        }
+    } else {
+        m_rest.emplace(stub.handle, &stub);
+    }
+}
+
+void HandleIndex::build(std::deque<KdDbStub>& stubs) {
+    m_sorted.reserve(stubs.size());
+    for (KdDbStub& stub : stubs) {
+        if (stub.handle != 0) {
+            m_sorted.push_back({stub.handle, &stub});
+        }
+    }
+    m_taken = stubs.size();
+    const auto isBelow = [](const Entry& a, const Entry& b) { return a.handle < b.handle; };
+    if (!std::is_sorted(m_sorted.begin(), m_sorted.end(), isBelow)) {
+        std::stable_sort(m_sorted.begin(), m_sorted.end(), isBelow);
+    }
+    const auto isSame = [](const Entry& a, const Entry& b) { return a.handle == b.handle; };
+    m_sorted.erase(std::unique(m_sorted.begin(), m_sorted.end(), isSame), m_sorted.end());
+}
+
+} // namespace orvex

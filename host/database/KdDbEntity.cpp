@@ -1,0 +1,108 @@
+#include "KdDbEntity.h"
+
+#include "DatabaseCore.h"
+#include "EntityTraits.h"
+#include "KdDbDatabase.h"
+
+namespace {
+
+std::wstring textOf(const wchar_t* text) {
+    return text != nullptr ? text : L"";
+}
+
+} // namespace
+
+KdDbEntity::KdDbEntity() {
+    static const auto standard = orvex::shareTraits({});
+    m_traits = standard;
+}
+
+KdDbEntity::~KdDbEntity() = default;
+
+KdRxClass* KdDbEntity::desc() {
+    static KdRxClass description(L"KdDbEntity", KdDbObject::desc());
+    return &description;
+}
+
+KdRxClass* KdDbEntity::isA() const {
+    return desc();
+}
+
+const std::wstring& KdDbEntity::layer() const {
+    return m_traits->layer;
+}
+
+const std::wstring& KdDbEntity::linetype() const {
+    return m_traits->linetype;
+}
+
+double KdDbEntity::linetypeScale() const {
+    return m_traits->linetypeScale;
+}
+
+const KdCmColor& KdDbEntity::color() const {
+    return m_traits->color;
+}
+
+bool KdDbEntity::isVisible() const {
+    return m_traits->visible;
+}
+
+const orvex::EntityTraits& KdDbEntity::traits() const {
+    return *m_traits;
+}
+
+bool KdDbEntity::isOnlySeen() const {
+    return !objectId().isNull() && isA() == desc();
+}
+
+Status KdDbEntity::setTraits(const orvex::EntityTraits& traits) {
+    if (isOnlySeen()) {
+        return Status::wrongClass;
+    }
+    aboutToChange();
+    storeTraits(orvex::shareTraits(traits));
+    return Status::done;
+}
+
+void KdDbEntity::storeTraits(std::shared_ptr<const orvex::EntityTraits> traits) {
+    m_traits = std::move(traits);
+}
+
+Status KdDbEntity::setLayer(const wchar_t* name) {
+    auto traits = *m_traits;
+    traits.layer = textOf(name);
+    return setTraits(traits);
+}
+
+Status KdDbEntity::setLinetype(const wchar_t* name) {
+    auto traits = *m_traits;
+    traits.linetype = textOf(name);
+    return setTraits(traits);
+}
+
+Status KdDbEntity::setColor(const KdCmColor& color) {
+    auto traits = *m_traits;
+    traits.color = color;
+    return setTraits(traits);
+}
+
+Status KdDbEntity::setColorIndex(std::uint16_t index, bool /*subEntities*/) {
+    auto traits = *m_traits;
+    traits.color.setColorIndex(index);
+    return setTraits(traits);
+}
+
+void KdDbEntity::setDatabaseDefaults(const KdDbDatabase* database) {
+    if (database == nullptr) {
+        return;
+    }
+    const orvex::HeaderVariables& variables = database->core().variables();
+    auto traits = *m_traits;
+    traits.layer = variables.text("CLAYER");
+    traits.linetype = variables.text("CELTYPE");
+    traits.linetypeScale = variables.real("CELTSCALE");
+    traits.color = KdCmColor();
+    traits.color.setColorIndex(static_cast<std::uint16_t>(variables.integer("CECOLOR")));
+    setTraits(traits);
+}

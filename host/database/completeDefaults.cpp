@@ -1,0 +1,129 @@
+#include "DatabaseCore.h"
+#include "DictionaryContent.h"
+#include "KdDbBlockTable.h"
+#include "KdDbDictionary.h"
+#include "KdDbLayerTable.h"
+#include "KdDbLinetypeTable.h"
+#include "KdDbMlineStyle.h"
+
+namespace orvex {
+
+// Makes what every drawing has and a file may have left out. Nothing that it does is a change.
+class DefaultsBuilder {
+public:
+    explicit DefaultsBuilder(DatabaseCore& core) : m_core(core), m_before(core.m_completing) {
+        m_core.m_completing = true;
+    }
+    ~DefaultsBuilder() { m_core.m_completing = m_before; }
+    DefaultsBuilder(const DefaultsBuilder&) = delete;
+    DefaultsBuilder& operator=(const DefaultsBuilder&) = delete;
+
+    void completeTables() {
+        ensure<KdDbLayerTable>(m_core.layerTable);
+        ensure<KdDbLinetypeTable>(m_core.linetypeTable);
+        ensure<KdDbBlockTable>(m_core.blockTable);
+    }
+
+    void completeRecords() {
+        for (const wchar_t* const name : {L"ByBlock", L"ByLayer", L"Continuous"}) {
+            ensureRecord<KdDbLinetypeTableRecord>(m_core.linetypeTable, name);
+        }
+        ensureRecord<KdDbLayerTableRecord>(m_core.layerTable, L"0");
+    }
+
+    void completeBlocks() {
+        static_cast<void>(m_core.modelSpace());
+        if (m_core.findBlock(L"*Paper_Space") == nullptr) {
+            m_core.addBlock(L"*Paper_Space");
+        }
+        for (BlockEntities& block : m_core.blocks()) {
+            if (block.record == nullptr) {
+                auto record = std::make_unique<KdDbBlockTableRecord>();
+                record->setName(block.name.c_str());
+                block.record = &make(std::move(record), m_core.blockTable);
+                noteIn(m_core.blockTable, *block.record);
+            }
+        }
+    }
+
+    void completeStyles() {
+        ensure<KdDbDictionary>(m_core.rootDictionary);
+        if (m_core.styleDictionary == nullptr) {
+            ensure<KdDbDictionary>(m_core.styleDictionary, m_core.rootDictionary);
+            enter(m_core.rootDictionary, L"ACAD_MLINESTYLE", *m_core.styleDictionary);
+        }
+        if (m_core.findStyle(L"STANDARD") == nullptr) {
+            auto style = std::make_unique<KdDbMlineStyle>();
+            style->initMlineStyle();
+            setByLayer(*style);
+            enter(m_core.styleDictionary, L"STANDARD",
+                  make(std::move(style), m_core.styleDictionary));
+        }
+    }
+
+private:
+    template <class T>
+    KdDbStub& make(std::unique_ptr<T> object, KdDbStub* owner) {
+        const ObjectKind kind = kindOf(*object);
+        return m_core.adopt(std::move(object), kind, owner);
+    }
+
+    template <class T>
+    void ensure(KdDbStub*& stub, KdDbStub* owner = nullptr) {
+        if (stub == nullptr) {
+            stub = &make(std::make_unique<T>(), owner);
+        }
+    }
+
+    template <class Record>
+    void ensureRecord(KdDbStub* table, const wchar_t* name) {
+        const auto* const object = dynamic_cast<KdDbSymbolTable*>(m_core.load(*table));
+        KdDbObjectId id;
+        if (object != nullptr && object->getAt(name, id) != Status::done) {
+            auto record = std::make_unique<Record>();
+            record->setName(name);
+            noteIn(table, make(std::move(record), table));
+        }
+    }
+
+    void noteIn(KdDbStub* table, KdDbStub& record) {
+        if (auto* const object = dynamic_cast<KdDbSymbolTable*>(m_core.load(*table))) {
+            object->noteRecord(KdDbObjectId(&record));
+        }
+    }
+
+    void enter(KdDbStub* dictionary, const wchar_t* key, KdDbStub& entry) {
+        if (auto* const object = dynamic_cast<KdDbDictionary*>(m_core.load(*dictionary))) {
+            KdDbObjectId id;
+            object->setAt(key, entry.object.get(), id);
+        }
+    }
+
+    void setByLayer(KdDbMlineStyle& style) const {
+        const KdDbObjectId linetype(m_core.findLinetype(L"ByLayer"));
+        for (int index = 0; index < style.numElements(); ++index) {
+            double offset = 0.0;
+            KdCmColor color;
+            KdDbObjectId none;
+            style.getElementAt(index, offset, color, none);
+            style.setElement(index, offset, color, linetype);
+        }
+    }
+
+    DatabaseCore& m_core;
+    bool m_before;
+};
+
+void DatabaseCore::completeTables() {
+    DefaultsBuilder(*this).completeTables();
+}
+
+void DatabaseCore::completeDefaults() {
+    DefaultsBuilder builder(*this);
+    builder.completeTables();
+    builder.completeRecords();
+    builder.completeBlocks();
+    builder.completeStyles();
+}
+
+} // namespace orvex
