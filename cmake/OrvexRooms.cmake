@@ -59,6 +59,8 @@ function(orvex_room name)
     endif()
     if(arg_VISIBILITY STREQUAL "hidden")
         set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+        # A library with a unique symbol in it stays in memory after it was closed.
+        target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
     endif()
     set_target_properties(${name} PROPERTIES
         AUTOMOC ${arg_MOC}

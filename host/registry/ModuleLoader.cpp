@@ -1,0 +1,128 @@
+#include "ModuleLoader.h"
+
+#include "KdRxDictionary.h"
+#include "KdRxDynamicLinker.h"
+#include "LoadedModules.h"
+#include "kdrxRegistry.h"
+#include "moduleEntry.h"
+
+#include <dlfcn.h>
+
+#include <filesystem>
+
+namespace orvex {
+
+namespace {
+
+using DllMainFunction = int (*)(HINSTANCE, int, void*);
+using EntryPointFunction = int (*)(int, void*);
+using ApiVersionFunction = int (*)(int);
+
+struct LibraryCloser {
+    void operator()(void* library) const { dlclose(library); }
+};
+
+// dlopen searches library folders for a name without a "/".
+std::string absolutePath(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    return error ? path : absolute.lexically_normal().string();
+}
+
+template <class Function>
+Function entry(void* library, const char* name) {
+    return reinterpret_cast<Function>(dlsym(library, name));
+}
+
+std::string lastLinkerError() {
+    const char* const text = dlerror();
+    return text != nullptr ? text : "it can't be opened";
+}
+
+} // namespace
+
+struct ModuleLoader::Module {
+    std::string path;
+    std::unique_ptr<void, LibraryCloser> library;
+    HINSTANCE handle = nullptr;
+    DllMainFunction dllMain = nullptr;
+    EntryPointFunction entryPoint = nullptr;
+};
+
+ModuleLoader::ModuleLoader() = default;
+
+ModuleLoader::~ModuleLoader() {
+    unloadAll();
+}
+
+ModuleLoader::Module* ModuleLoader::find(const std::string& path) const {
+    const std::string wanted = absolutePath(path);
+    for (const auto& each : m_modules) {
+        if (each->path == wanted) {
+            return each.get();
+        }
+    }
+    return nullptr;
+}
+
+bool ModuleLoader::isLoaded(const std::string& path) const {
+    return find(path) != nullptr;
+}
+
+std::optional<std::string> ModuleLoader::load(const std::string& path) {
+    if (isLoaded(path)) {
+        return std::nullopt;
+    }
+    auto module = std::make_unique<Module>();
+    module->path = absolutePath(path);
+    module->library.reset(dlopen(module->path.c_str(), RTLD_NOW | RTLD_LOCAL));
+    if (!module->library) {
+        return lastLinkerError();
+    }
+    void* const library = module->library.get();
+    module->dllMain = entry<DllMainFunction>(library, "DllMain");
+    module->entryPoint = entry<EntryPointFunction>(library, "kdrxEntryPoint");
+    const auto apiVersion = entry<ApiVersionFunction>(library, "kdrxGetApiVersion");
+    if (module->dllMain == nullptr || module->entryPoint == nullptr || apiVersion == nullptr) {
+        return module->path + ": it isn't a module";
+    }
+    if (apiVersion(0) != kApiVersion) {
+        return module->path + ": the module is for another version of the host";
+    }
+    module->handle = addModuleHandle(module->path);
+    module->dllMain(module->handle, kReasonAttach, nullptr);
+    if (module->entryPoint(kMessageLoad, module.get()) == kLoadFailed) {
+        module->dllMain(module->handle, kReasonDetach, nullptr);
+        dropModuleHandle(module->handle);
+        return module->path + ": the module or its texts can't be loaded";
+    }
+    m_modules.push_back(std::move(module));
+    return std::nullopt;
+}
+
+std::optional<int> ModuleLoader::send(const std::string& path, int message) {
+    Module* const module = find(path);
+    return module != nullptr ? std::optional(module->entryPoint(message, module)) : std::nullopt;
+}
+
+void ModuleLoader::unload(Module& module) {
+    module.entryPoint(kMessageUnload, &module);
+    module.dllMain(module.handle, kReasonDetach, nullptr);
+    dropModuleHandle(module.handle);
+    if (auto* const linker = KdRxDynamicLinker::cast(kdrxSysRegistry()->at(L"DynamicLinker"))) {
+        linker->forget(&module);
+    }
+}
+
+bool ModuleLoader::unloadAll() {
+    if (m_uses > 0) {
+        return false;
+    }
+    while (!m_modules.empty()) {
+        unload(*m_modules.back());
+        m_modules.pop_back();
+    }
+    return true;
+}
+
+} // namespace orvex

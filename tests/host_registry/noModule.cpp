@@ -1,0 +1,3 @@
+extern "C" [[gnu::visibility("default")]] int kdrxEntryPoint(int, void*) {
+    return 0;
+}
