@@ -1,0 +1,72 @@
+#include "vertexSnapshot.h"
+
+#include "MlineBuilder.h"
+#include "parameterLists.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+using Snapshot = std::unique_ptr<db_mlvertlink[]>;
+
+TEST(VertexSnapshot, CopiesTheWholeChain) {
+    KdDbMline mline;
+    const KdGePoint3d chain[] = {{0, 0, 1}, {10, 0, 2}, {10, 10, 3}};
+    const double offsets[] = {1.0, -2.0};
+    orvex::testing::buildMline(mline, chain, offsets);
+    storeLineList(&mline, 1, 1, {0.5, 0, 3});
+    storeAreaList(&mline, 1, 1, {4, 6});
+    storeLineList(&mline, 2, 0, {});
+
+    const Snapshot snapshot(ret_vert(&mline));
+    ASSERT_NE(snapshot, nullptr);
+    EXPECT_EQ(snapshot[1].pt[0], 10.0);
+    EXPECT_EQ(snapshot[2].pt[2], 3.0);
+    EXPECT_EQ(snapshot[0].axis[0], 1.0);
+    EXPECT_EQ(snapshot[0].miter[1], 1.0);
+    const db_mlelemlink& element = snapshot[1].elem[1];
+    ASSERT_EQ(element.numLine, 3);
+    EXPECT_EQ(element.lineParams[2], 3.0);
+    ASSERT_EQ(element.numArea, 2);
+    EXPECT_EQ(element.areaParams[1], 6.0);
+    EXPECT_EQ(snapshot[2].elem[0].numLine, 0);
+    EXPECT_EQ(snapshot[2].elem[0].lineParams, nullptr);
+    EXPECT_EQ(snapshot[0].elem[0].areaParams, nullptr);
+
+    // A copy: what is written to it stays in it.
+    element.lineParams[0] = 99.0;
+    EXPECT_EQ(elementOffset(mline, 1, 1), 0.5);
+}
+
+TEST(VertexSnapshot, HasNoElementsWhereTheMultilineHasNone) {
+    KdDbMline mline;
+    EXPECT_EQ(ret_vert(&mline), nullptr);
+    EXPECT_EQ(ret_vert(nullptr), nullptr);
+    const KdGePoint3d chain[] = {{0, 0, 0}, {10, 0, 0}};
+    orvex::testing::buildMline(mline, chain, {});
+    const Snapshot snapshot(ret_vert(&mline));
+    ASSERT_NE(snapshot, nullptr);
+    EXPECT_EQ(snapshot[0].elem, nullptr);
+    EXPECT_EQ(snapshot[1].elem, nullptr);
+}
+
+// Drawings exist whose vertices differ in their number of elements; vertex 0 counts.
+TEST(VertexSnapshot, RepeatsTheLastElementAtAVertexThatHasFewer) {
+    KdDbMline mline;
+    const KdGePoint3d chain[] = {{0, 0, 0}, {10, 0, 0}};
+    const double offsets[] = {1.0, 0.0, -1.0};
+    orvex::testing::buildMline(mline, chain, offsets);
+    VoVector<KdMLSegment> fewer;
+    fewer.append(orvex::testing::segmentRecord({5.0, 0.0}));
+    KdArray<void*> entry;
+    entry.append(&fewer);
+    mline.setParametersAt(1, entry);
+
+    const Snapshot snapshot(ret_vert(&mline));
+    EXPECT_EQ(snapshot[0].elem[2].lineParams[0], -1.0);
+    EXPECT_EQ(snapshot[1].elem[2].lineParams[0], 5.0);
+}
+
+} // namespace
