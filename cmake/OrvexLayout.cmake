@@ -16,6 +16,8 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(ORVEX_INSTALL_LIB lib/orvex)
 set(ORVEX_INSTALL_DATA share/orvex)
 
-# Relative, so that a build tree or an installation may be moved as a whole.
-set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+# Relative and the same in the build tree and in an installation, so that either may be moved as a whole.
+set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
 set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/../lib/orvex")
+# For what lies in a folder beside bin/ and is never installed.
+set(ORVEX_BESIDE_BIN_RPATH "$ORIGIN/../bin")

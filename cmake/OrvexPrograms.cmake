@@ -9,6 +9,10 @@
 #   orvex_data(<file>... [FOLDER <folder>])
 #       Copies files of this folder to bin/<folder>, and installs them likewise.
 
+if(orvex_sanitizers)
+    add_library(orvex_sanitizer_defaults OBJECT ${PROJECT_SOURCE_DIR}/tests/support/sanitizerDefaults.cpp)
+endif()
+
 function(orvex_program name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "MOC" "" "SOURCES;USES")
     orvex_refuse_rest("orvex_program(${name})" "${arg_UNPARSED_ARGUMENTS}" "${arg_KEYWORDS_MISSING_VALUES}")

@@ -35,11 +35,6 @@ std::filesystem::path binDir() { return "@ORVEX_BIN_DIR@"; }
     target_include_directories(orvex_test_paths PUBLIC ${PROJECT_SOURCE_DIR}/tests/support)
 endif()
 
-set(orvex_test_environment
-    "QT_QPA_PLATFORM=offscreen"
-    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0"
-    "UBSAN_OPTIONS=print_stacktrace=1")
-
 function(orvex_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "OWN_MAIN;GUI;WIDGETS;MOC" "" "SOURCES;USES")
     orvex_refuse_rest("orvex_test(${name})" "${arg_UNPARSED_ARGUMENTS}" "${arg_KEYWORDS_MISSING_VALUES}")
@@ -51,6 +46,7 @@ function(orvex_test name)
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests
+        INSTALL_RPATH ${ORVEX_BESIDE_BIN_RPATH}
         AUTOMOC ${arg_MOC})
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE orvex_test_paths GTest::gmock)
@@ -71,13 +67,7 @@ function(orvex_test name)
     gtest_discover_tests(${name}
         TEST_PREFIX "${name}."
         DISCOVERY_TIMEOUT 120
-        PROPERTIES LABELS ${name} TIMEOUT ${ORVEX_TEST_TIMEOUT})
-    # The properties above can't hold a list, and an environment is one.
-    set(late ${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake)
-    file(CONFIGURE OUTPUT ${late} CONTENT [[
-set_tests_properties(${@name@_TESTS} PROPERTIES ENVIRONMENT "@orvex_test_environment@")
-]] @ONLY)
-    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${late})
+        PROPERTIES LABELS ${name} TIMEOUT ${ORVEX_TEST_TIMEOUT} ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 endfunction()
 
 function(orvex_script_test name)
@@ -91,7 +81,7 @@ function(orvex_script_test name)
     endif()
     add_test(NAME ${name} COMMAND ${ORVEX_PYTHON} ${CMAKE_CURRENT_SOURCE_DIR}/${arg_SCRIPT} ${arg_ARGS})
     set_tests_properties(${name} PROPERTIES
-        LABELS ${name} TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "${orvex_test_environment}")
+        LABELS ${name} TIMEOUT ${arg_TIMEOUT} ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 endfunction()
 
 function(orvex_benchmark name)
@@ -102,7 +92,9 @@ function(orvex_benchmark name)
     endif()
     orvex_need_targets("orvex_benchmark(${name})" ${arg_USES})
     add_executable(${name} ${arg_SOURCES})
-    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bench)
+    set_target_properties(${name} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bench
+        INSTALL_RPATH ${ORVEX_BESIDE_BIN_RPATH})
     target_link_libraries(${name} PRIVATE benchmark::benchmark_main)
     orvex_link_rooms(${name} ${arg_USES})
 endfunction()
@@ -124,7 +116,9 @@ function(orvex_fuzzer name)
     endif()
 
     add_executable(${name} ${arg_SOURCES})
-    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/fuzz)
+    set_target_properties(${name} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/fuzz
+        INSTALL_RPATH ${ORVEX_BESIDE_BIN_RPATH})
     orvex_link_rooms(${name} ${arg_USES})
     if(ORVEX_FUZZ)
         target_link_options(${name} PRIVATE -fsanitize=fuzzer,address)
@@ -135,5 +129,5 @@ function(orvex_fuzzer name)
     endif()
     add_test(NAME ${name} COMMAND ${name} ${play} ${corpus})
     set_tests_properties(${name} PROPERTIES
-        LABELS "${name};fuzz" TIMEOUT ${ORVEX_TEST_TIMEOUT} ENVIRONMENT "${orvex_test_environment}")
+        LABELS "${name};fuzz" TIMEOUT ${ORVEX_TEST_TIMEOUT} ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 endfunction()
