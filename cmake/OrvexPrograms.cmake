@@ -21,10 +21,7 @@ function(orvex_program name)
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
     set_target_properties(${name} PROPERTIES AUTOMOC ${arg_MOC})
     orvex_link_rooms(${name} ${arg_USES})
-    if(TARGET OmxMLStyle)
-        # The module is opened at run time; whoever builds the program wants both.
-        add_dependencies(${name} OmxMLStyle)
-    endif()
+    orvex_depend_on_run_time_files(${name})
     install(TARGETS ${name} RUNTIME DESTINATION bin)
 endfunction()
 
@@ -49,6 +46,7 @@ function(orvex_resource_library file)
         DEPENDS ${arg_QRC} ${parts}
         COMMENT "Packing ${file}" VERBATIM)
     add_custom_target(${stem} ALL DEPENDS ${result})
+    set_property(GLOBAL APPEND PROPERTY ORVEX_RUN_TIME_FILES ${stem})
     install(FILES ${result} DESTINATION ${ORVEX_INSTALL_DATA})
 endfunction()
 
@@ -59,4 +57,12 @@ function(orvex_data)
         configure_file(${name} ${ORVEX_BIN_DIR}/${arg_FOLDER}/${leaf} COPYONLY)
         install(FILES ${name} DESTINATION ${ORVEX_INSTALL_DATA}/${arg_FOLDER})
     endforeach()
+endfunction()
+
+# The module and the resource libraries are opened at run time; whoever builds a program or a test wants them too.
+function(orvex_depend_on_run_time_files name)
+    get_property(files GLOBAL PROPERTY ORVEX_RUN_TIME_FILES)
+    if(files)
+        add_dependencies(${name} ${files})
+    endif()
 endfunction()

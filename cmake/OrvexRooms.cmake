@@ -90,6 +90,7 @@ function(orvex_library target)
 
     if(arg_MODULE)
         add_library(${target} MODULE)
+        set_property(GLOBAL APPEND PROPERTY ORVEX_RUN_TIME_FILES ${target})
     else()
         add_library(${target} SHARED)
         set_property(TARGET ${present_arg_ROOMS} PROPERTY ORVEX_LIBRARY ${target})

@@ -33,6 +33,7 @@ std::filesystem::path binDir() { return "@ORVEX_BIN_DIR@"; }
 ]] @ONLY)
     add_library(orvex_test_paths STATIC ${PROJECT_BINARY_DIR}/generated/TestPaths.cpp)
     target_include_directories(orvex_test_paths PUBLIC ${PROJECT_SOURCE_DIR}/tests/support)
+    add_custom_target(fuzzers)
 endif()
 
 function(orvex_test name)
@@ -60,9 +61,7 @@ function(orvex_test name)
         target_link_libraries(${name} PRIVATE GTest::gmock_main)
     endif()
     orvex_link_rooms(${name} ${arg_USES})
-    if(TARGET OmxMLStyle)
-        add_dependencies(${name} OmxMLStyle)
-    endif()
+    orvex_depend_on_run_time_files(${name})
 
     gtest_discover_tests(${name}
         TEST_PREFIX "${name}."
@@ -116,6 +115,7 @@ function(orvex_fuzzer name)
     endif()
 
     add_executable(${name} ${arg_SOURCES})
+    add_dependencies(fuzzers ${name})
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/fuzz
         INSTALL_RPATH ${ORVEX_BESIDE_BIN_RPATH})
