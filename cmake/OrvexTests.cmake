@@ -4,8 +4,9 @@
 #       A GoogleTest program in tests/ beside bin/. Each test in it becomes a test of CTest called
 #       <name>.<suite>.<test>, with the label <name>. USES as for orvex_link_rooms: rooms, or orvex::host for a test that
 #       loads the module. GMock's main unless the sources have one (OWN_MAIN); GUI and WIDGETS give a main that holds a
-#       QGuiApplication or a QApplication for the tests, on the offscreen platform.
-#       "TestPaths.h" tells where the source tree and bin/ are.
+#       QGuiApplication or a QApplication for the tests.
+#       "TestPaths.h" tells where the source tree and bin/ are. Each process has a temporary folder and settings of its
+#       own, removed at its end, and the offscreen platform unless QT_QPA_PLATFORM says otherwise.
 #
 #   orvex_script_test(<name> SCRIPT <file> [ARGS <argument>...] [TIMEOUT <seconds>])
 #       A Python script that is a test: 0 is passed.
@@ -31,8 +32,10 @@ std::filesystem::path binDir() { return "@ORVEX_BIN_DIR@"; }
 
 } // namespace orvex::testing
 ]] @ONLY)
-    add_library(orvex_test_paths STATIC ${PROJECT_BINARY_DIR}/generated/TestPaths.cpp)
-    target_include_directories(orvex_test_paths PUBLIC ${PROJECT_SOURCE_DIR}/tests/support)
+    add_library(orvex_test_support OBJECT
+        ${PROJECT_BINARY_DIR}/generated/TestPaths.cpp
+        ${PROJECT_SOURCE_DIR}/tests/support/testProcess.cpp)
+    target_include_directories(orvex_test_support PUBLIC ${PROJECT_SOURCE_DIR}/tests/support)
     add_custom_target(fuzzers)
 endif()
 
@@ -50,7 +53,7 @@ function(orvex_test name)
         INSTALL_RPATH ${ORVEX_BESIDE_BIN_RPATH}
         AUTOMOC ${arg_MOC})
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
-    target_link_libraries(${name} PRIVATE orvex_test_paths GTest::gmock)
+    target_link_libraries(${name} PRIVATE orvex_test_support GTest::gmock)
     if(arg_GUI)
         target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/guiMain.cpp)
         target_link_libraries(${name} PRIVATE Qt5::Gui)
@@ -66,7 +69,7 @@ function(orvex_test name)
     gtest_discover_tests(${name}
         TEST_PREFIX "${name}."
         DISCOVERY_TIMEOUT 120
-        PROPERTIES LABELS ${name} TIMEOUT ${ORVEX_TEST_TIMEOUT} ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+        PROPERTIES LABELS ${name} TIMEOUT ${ORVEX_TEST_TIMEOUT})
 endfunction()
 
 function(orvex_script_test name)
