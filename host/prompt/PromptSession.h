@@ -31,6 +31,11 @@ public:
     // World to display units and back, for frame 2 of conversions.
     virtual KdGePoint3d worldToDisplay(const KdGePoint3d& world) const = 0;
     virtual KdGePoint3d displayToWorld(const KdGePoint3d& display) const = 0;
+    // The window on the plan, drawing units, for VIEWCTR and VIEWSIZE.
+    virtual KdGePoint3d viewCenter() const = 0;
+    virtual double viewHeight() const = 0;
+    // A height that isn't finite and above 0 changes nothing.
+    virtual void setView(const KdGePoint3d& center, double height) = 0;
 };
 
 // What the prompt library works with at the moment. One a process; pointers aren't owned and may

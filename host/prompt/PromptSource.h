@@ -40,6 +40,9 @@ public:
     virtual PromptAnswer ask(const PromptRequest& request) = 0;
     // A line of text for the command line, without its line end.
     virtual void print(const std::wstring& line) = 0;
+    // The last answer was understood but can't be taken, and why. A script can't go on then; others
+    // show the reason, and the user tries again.
+    virtual void reject(const std::wstring& reason) { print(reason); }
     // A file chosen by the user; nothing when he declines or the source can't ask.
     virtual std::optional<std::wstring> chooseFile(const std::wstring& title,
                                                    const std::wstring& defaultPath,

@@ -1,0 +1,167 @@
+#include "ScriptSource.h"
+
+#include "textCodec.h"
+#include "typedAnswer.h"
+
+#include <cstdint>
+
+namespace orvex {
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::wstring_view kCancel = L"*CANCEL*";
+
+// Length of the UTF-8 character at the beginning of a text that isn't empty; 0 when it is none.
+std::size_t characterLength(std::string_view text) {
+    const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(text[i]); };
+    const std::uint8_t first = byte(0);
+    if (first < 0x80) {
+        return 1;
+    }
+    const std::size_t length = first >= 0xC2 && first < 0xE0   ? 2
+                               : first >= 0xE0 && first < 0xF0 ? 3
+                               : first >= 0xF0 && first < 0xF5 ? 4
+                                                               : 0;
+    if (length == 0 || length > text.size()) {
+        return 0;
+    }
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byte(i) & 0xC0U) != 0x80) {
+            return 0;
+        }
+    }
+    // Forms that are too long, surrogates, and what lies behind the last code point.
+    const std::uint8_t second = byte(1);
+    const bool valid = !(first == 0xE0 && second < 0xA0) && !(first == 0xED && second >= 0xA0) &&
+                       !(first == 0xF0 && second < 0x90) && !(first == 0xF4 && second >= 0x90);
+    return valid ? length : 0;
+}
+
+std::wstring wanted(PromptKind kind) {
+    switch (kind) {
+    case PromptKind::keyword:
+        return L"a keyword";
+    case PromptKind::entity:
+        return L"a pick";
+    case PromptKind::point:
+        return L"a point";
+    case PromptKind::real:
+        return L"a number";
+    case PromptKind::command:
+    case PromptKind::text:
+        break;
+    }
+    return L"an answer";
+}
+
+std::wstring complaint(const PromptRequest& request, const std::wstring& text) {
+    std::wstring message = L"'" + text + L"' is not " + wanted(request.kind);
+    if (!request.keywords.empty()) {
+        message +=
+            request.kind == PromptKind::keyword ? L" on offer (" : L" or one of the keywords (";
+        for (const std::wstring& keyword : request.keywords) {
+            message += keyword + L' ';
+        }
+        message.back() = L')';
+    } else if (request.kind == PromptKind::keyword) {
+        message += L" on offer";
+    }
+    return message;
+}
+
+} // namespace
+
+ScriptSource::ScriptSource(std::string_view utf8, Printer printer) : m_printer(std::move(printer)) {
+    if (utf8.starts_with(kByteOrderMark)) {
+        utf8.remove_prefix(kByteOrderMark.size());
+    }
+    for (std::size_t number = 1; !utf8.empty(); ++number) {
+        const std::size_t end = utf8.find('\n');
+        std::string_view line = utf8.substr(0, end);
+        utf8.remove_prefix(end == std::string_view::npos ? utf8.size() : end + 1);
+        while (line.ends_with('\r')) {
+            line.remove_suffix(1);
+        }
+        const std::wstring wide = widen(line);
+        const std::wstring_view text = trimmed(wide);
+        if (!text.starts_with(L';')) {
+            m_lines.push_back({number, std::wstring(text)});
+        }
+    }
+}
+
+std::optional<std::size_t> ScriptSource::firstLineThatIsNoUtf8(std::string_view text) {
+    std::size_t line = 1;
+    while (!text.empty()) {
+        const std::size_t length = characterLength(text);
+        if (length == 0) {
+            return line;
+        }
+        if (text.front() == '\n') {
+            ++line;
+        }
+        text.remove_prefix(length);
+    }
+    return std::nullopt;
+}
+
+PromptAnswer ScriptSource::ask(const PromptRequest& request) {
+    if (atEnd()) {
+        PromptAnswer end;
+        end.echo = kCancel;
+        return end;
+    }
+    const Line& line = m_lines[m_next++];
+    m_line = line.number;
+    PromptAnswer answer = answerTo(request, line.text);
+    answer.echo = line.text;
+    return answer;
+}
+
+PromptAnswer ScriptSource::answerTo(const PromptRequest& request, const std::wstring& text) {
+    using Kind = PromptAnswer::Kind;
+    PromptAnswer answer;
+    if (text == kCancel) {
+        return answer;
+    }
+    if (text.empty()) {
+        answer.kind = Kind::empty;
+        return answer;
+    }
+    if (const auto keyword = matchKeyword(request.keywords, text)) {
+        answer.kind = Kind::keyword;
+        answer.keyword = *keyword;
+        return answer;
+    }
+    if (request.kind == PromptKind::command || request.kind == PromptKind::text) {
+        answer.kind = Kind::text;
+        answer.text = text;
+        return answer;
+    }
+    if (request.kind == PromptKind::real) {
+        if (const auto number = parseReal(text)) {
+            answer.kind = Kind::number;
+            answer.number = *number;
+            return answer;
+        }
+    } else if (request.kind != PromptKind::keyword) {
+        const auto pick = parsePick(text);
+        if (pick && (request.kind == PromptKind::entity || !pick->handle)) {
+            answer.kind = Kind::point;
+            answer.point = pick->point;
+            answer.handle = pick->handle;
+            return answer;
+        }
+    }
+    reject(complaint(request, text));
+    return answer;
+}
+
+void ScriptSource::reject(const std::wstring& reason) {
+    if (!m_failure) {
+        m_failure = Failure{m_line, reason};
+    }
+}
+
+} // namespace orvex

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "PromptSource.h"
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvex {
+
+// Answers prompts from the lines of a script, UTF-8. Blanks at both ends of a line don't count;
+// lines that begin with ";" are comments. An empty line is no input, "*CANCEL*" a cancel. The end
+// of the script answers with a cancel for ever, and so does all that follows an answer that fits
+// no prompt: `failure` then tells which line it was.
+class ScriptSource final : public PromptSource {
+public:
+    struct Failure {
+        std::size_t line = 0; // from 1
+        std::wstring text;
+    };
+    using Printer = std::function<void(const std::wstring&)>;
+
+    ScriptSource(std::string_view utf8, Printer printer);
+
+    // The line (from 1) of the first byte that makes the text no UTF-8; nothing when it is.
+    static std::optional<std::size_t> firstLineThatIsNoUtf8(std::string_view text);
+
+    PromptAnswer ask(const PromptRequest& request) override;
+    void print(const std::wstring& line) override { m_printer(line); }
+    void reject(const std::wstring& reason) override;
+
+    [[nodiscard]] bool atEnd() const { return m_failure || m_next == m_lines.size(); }
+    [[nodiscard]] const std::optional<Failure>& failure() const { return m_failure; }
+    [[nodiscard]] std::size_t line() const { return m_line; } // of the last answer, from 1
+
+private:
+    struct Line {
+        std::size_t number = 0;
+        std::wstring text;
+    };
+    PromptAnswer answerTo(const PromptRequest& request, const std::wstring& text);
+
+    std::vector<Line> m_lines; // without comments
+    std::size_t m_next = 0;
+    std::size_t m_line = 0;
+    Printer m_printer;
+    std::optional<Failure> m_failure;
+};
+
+} // namespace orvex

@@ -1,0 +1,44 @@
+#include "dictionarySearch.h"
+
+#include "DatabaseCore.h"
+#include "KdDbDatabase.h"
+#include "KdDbDictionary.h"
+#include "KdDocument.h"
+#include "kddbObjects.h"
+#include "promptStatus.h"
+
+int kddbNamedObjDict(long* name) {
+    KdDocument* const document = curDoc();
+    if (name == nullptr || document == nullptr || document->database() == nullptr) {
+        return kPromptError;
+    }
+    KdDbStub* const root = document->database()->core().rootDictionary;
+    if (root == nullptr) {
+        return kPromptError;
+    }
+    kddbGetEntityName(name, KdDbObjectId(root));
+    return kPromptNormal;
+}
+
+resbuf* kddbDictSearch(const long* dictionary, const wchar_t* key, int /*next*/) {
+    if (dictionary == nullptr || key == nullptr) {
+        return nullptr;
+    }
+    KdDbObjectId id;
+    kddbGetObjectId(id, dictionary);
+    KdDbDictionary* opened = nullptr;
+    kddbOpenObject(opened, id, kForRead);
+    if (opened == nullptr) {
+        return nullptr;
+    }
+    KdDbObjectId entry;
+    opened->getAt(key, entry);
+    opened->close();
+    if (entry.isNull()) {
+        return nullptr;
+    }
+    auto* const result = new resbuf;
+    result->restype = kResultObjectName;
+    kddbGetEntityName(result->resval.rlname, entry);
+    return result;
+}

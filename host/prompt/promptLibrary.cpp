@@ -1,0 +1,188 @@
+#include "promptLibrary.h"
+
+#include "DatabaseCore.h"
+#include "KdDbDatabase.h"
+#include "KdDbStub.h"
+#include "KdDocument.h"
+#include "PromptSession.h"
+#include "boundedCopy.h"
+#include "coordinateFrames.h"
+#include "kddbObjects.h"
+#include "keywords.h"
+#include "promptExchange.h"
+#include "promptStatus.h"
+
+#include <utility>
+
+namespace orvex {
+
+PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
+                     const std::optional<KdGePoint3d>& base) {
+    PromptSession& session = PromptSession::current();
+    session.errorNumber = 0;
+    session.lastKeyword.clear();
+
+    PromptRequest request;
+    request.kind = kind;
+    request.text = prompt != nullptr ? prompt : L"";
+    request.keywords = splitKeywords(std::exchange(session.armedKeywords, {}));
+    request.base = base;
+
+    PromptAnswer answer;
+    if (session.source == nullptr) {
+        return answer;
+    }
+    answer = session.source->ask(request);
+    printLines(request.text + answer.echo);
+    if (answer.kind == PromptAnswer::Kind::keyword) {
+        const auto keyword = matchKeyword(request.keywords, answer.keyword);
+        session.lastKeyword = keyword.value_or(L"");
+        answer.keyword = session.lastKeyword;
+        if (!keyword) {
+            session.source->reject(L"the keyword isn't on offer");
+            answer.kind = PromptAnswer::Kind::cancel;
+        }
+    }
+    return answer;
+}
+
+} // namespace orvex
+
+namespace {
+
+using orvex::PromptAnswer;
+using orvex::PromptKind;
+using orvex::PromptSession;
+
+constexpr int kErrorNothingFound = 7;
+
+void putText(wchar_t* buffer, const std::wstring& text) {
+    wcscpy_s(buffer, kPromptTextSize, text.c_str());
+}
+
+KdGePoint3d userToWorld(const KdGePoint3d& point) {
+    resbuf user;
+    user.restype = kResultShort;
+    user.resval.rint = 1;
+    resbuf world;
+    world.restype = kResultShort;
+    world.resval.rint = 0;
+    const double in[3] = {point.x, point.y, point.z};
+    double out[3] = {point.x, point.y, point.z};
+    kdedTrans(in, &user, &world, 0, out);
+    return {out[0], out[1], out[2]};
+}
+
+// An entity named by its handle is found wherever it is, seen or not.
+KdDbStub* entityOfHandle(std::uint64_t handle) {
+    KdDocument* const document = curDoc();
+    if (handle == 0 || document == nullptr || document->database() == nullptr) {
+        return nullptr;
+    }
+    KdDbStub* const stub = document->database()->core().findHandle(handle);
+    const bool isEntity =
+        stub != nullptr && !stub->erased &&
+        (stub->kind == orvex::ObjectKind::entity || stub->kind == orvex::ObjectKind::mline);
+    return isEntity ? stub : nullptr;
+}
+
+KdDbStub* pickedEntity(const PromptAnswer& answer) {
+    if (answer.handle) {
+        return entityOfHandle(*answer.handle);
+    }
+    const PromptSession& session = PromptSession::current();
+    return session.finder == nullptr
+               ? nullptr
+               : session.finder->entityAt(userToWorld(answer.point), session.pickBox);
+}
+
+void putPoint(double* target, const KdGePoint3d& point) {
+    target[0] = point.x;
+    target[1] = point.y;
+    target[2] = point.z;
+}
+
+// What every prompt makes of the answers that are no value of its own.
+int statusWithoutValue(const PromptAnswer& answer) {
+    switch (answer.kind) {
+    case PromptAnswer::Kind::empty:
+        return kPromptNone;
+    case PromptAnswer::Kind::keyword:
+        return kPromptKeyword;
+    case PromptAnswer::Kind::cancel:
+        return kPromptCancelled;
+    default:
+        // No value that was asked for. An error would be asked again for ever.
+        return kPromptCancelled;
+    }
+}
+
+} // namespace
+
+int kdedInitGet(int /*flags*/, const wchar_t* keywords) {
+    PromptSession::current().armedKeywords = keywords != nullptr ? keywords : L"";
+    return kPromptNormal;
+}
+
+int kdedGetInput(wchar_t* keyword) {
+    if (keyword == nullptr) {
+        return kPromptError;
+    }
+    putText(keyword, PromptSession::current().lastKeyword);
+    return kPromptNormal;
+}
+
+int kdedGetKword(const wchar_t* prompt, wchar_t* keyword) {
+    const PromptAnswer answer = orvex::askUser(PromptKind::keyword, prompt);
+    if (answer.kind != PromptAnswer::Kind::keyword || keyword == nullptr) {
+        return statusWithoutValue(answer);
+    }
+    putText(keyword, answer.keyword);
+    return kPromptNormal;
+}
+
+int kdedEntSel(const wchar_t* prompt, long* name, double* point) {
+    const PromptAnswer answer = orvex::askUser(PromptKind::entity, prompt);
+    if (answer.kind != PromptAnswer::Kind::point) {
+        return statusWithoutValue(answer);
+    }
+    KdDbStub* const found = pickedEntity(answer);
+    if (found == nullptr || name == nullptr || point == nullptr) {
+        PromptSession::current().errorNumber = kErrorNothingFound;
+        return kPromptError;
+    }
+    kddbGetEntityName(name, KdDbObjectId(found));
+    putPoint(point, answer.point);
+    return kPromptNormal;
+}
+
+int kdedGetPoint(const double* base, const wchar_t* prompt, double* point) {
+    std::optional<KdGePoint3d> start;
+    if (base != nullptr) {
+        start = userToWorld({base[0], base[1], base[2]});
+    }
+    const PromptAnswer answer = orvex::askUser(PromptKind::point, prompt, start);
+    if (answer.kind != PromptAnswer::Kind::point || point == nullptr) {
+        return statusWithoutValue(answer);
+    }
+    putPoint(point, answer.point);
+    return kPromptNormal;
+}
+
+int kdedGetReal(const wchar_t* prompt, double* value) {
+    const PromptAnswer answer = orvex::askUser(PromptKind::real, prompt);
+    if (answer.kind != PromptAnswer::Kind::number || value == nullptr) {
+        return statusWithoutValue(answer);
+    }
+    *value = answer.number;
+    return kPromptNormal;
+}
+
+int kdedGetString(const wchar_t* prompt, wchar_t* text) {
+    const PromptAnswer answer = orvex::askUser(PromptKind::text, prompt);
+    if (answer.kind != PromptAnswer::Kind::text || text == nullptr) {
+        return statusWithoutValue(answer);
+    }
+    putText(text, answer.text);
+    return kPromptNormal;
+}

@@ -1,0 +1,101 @@
+#include "typedAnswer.h"
+
+#include <charconv>
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace orvex {
+
+namespace {
+
+// Nothing for a text that isn't plain ASCII, as no number is.
+std::optional<std::string> ascii(std::wstring_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (const wchar_t each : text) {
+        if (each <= 0 || each > 126) {
+            return std::nullopt;
+        }
+        result += static_cast<char>(each);
+    }
+    return result;
+}
+
+std::optional<std::uint64_t> parseHandle(std::wstring_view text) {
+    const std::optional<std::string> digits = ascii(text);
+    if (!digits || digits->empty() ||
+        digits->find_first_not_of("0123456789abcdefABCDEF") != std::string::npos) {
+        return std::nullopt;
+    }
+    std::uint64_t handle = 0;
+    const auto result =
+        std::from_chars(digits->data(), digits->data() + digits->size(), handle, 16);
+    return result.ec == std::errc() ? handle : 0;
+}
+
+} // namespace
+
+std::wstring_view trimmed(std::wstring_view text) {
+    constexpr std::wstring_view kBlanks = L" \t";
+    const std::size_t first = text.find_first_not_of(kBlanks);
+    if (first == std::wstring_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::optional<double> parseReal(std::wstring_view text) {
+    std::optional<std::string> digits = ascii(trimmed(text));
+    if (!digits || digits->empty()) {
+        return std::nullopt;
+    }
+    if (digits->front() == '+' && digits->size() > 1 && (*digits)[1] != '-') {
+        digits->erase(0, 1);
+    }
+    double value = 0.0;
+    const char* const end = digits->data() + digits->size();
+    const auto result = std::from_chars(digits->data(), end, value);
+    if (result.ec != std::errc() || result.ptr != end || !std::isfinite(value)) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::optional<KdGePoint3d> parsePoint(std::wstring_view text) {
+    std::vector<double> coordinates;
+    for (bool more = true; more;) {
+        const std::size_t comma = text.find(L',');
+        more = comma != std::wstring_view::npos;
+        const std::optional<double> coordinate = parseReal(text.substr(0, comma));
+        if (!coordinate || coordinates.size() == 3) {
+            return std::nullopt;
+        }
+        coordinates.push_back(*coordinate);
+        text.remove_prefix(more ? comma + 1 : text.size());
+    }
+    if (coordinates.size() < 2) {
+        return std::nullopt;
+    }
+    return KdGePoint3d{coordinates[0], coordinates[1],
+                       coordinates.size() == 3 ? coordinates[2] : 0.0};
+}
+
+std::optional<TypedPick> parsePick(std::wstring_view text) {
+    const std::size_t mark = text.find(L'#');
+    TypedPick pick;
+    if (mark != std::wstring_view::npos) {
+        pick.handle = parseHandle(trimmed(text.substr(mark + 1)));
+        if (!pick.handle) {
+            return std::nullopt;
+        }
+    }
+    const std::optional<KdGePoint3d> point = parsePoint(text.substr(0, mark));
+    if (!point) {
+        return std::nullopt;
+    }
+    pick.point = *point;
+    return pick;
+}
+
+} // namespace orvex

@@ -1,0 +1,93 @@
+#include "variableText.h"
+
+#include "hostHeap.h"
+#include "promptStatus.h"
+#include "systemVariables.h"
+#include "typedAnswer.h"
+#include "variableTable.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace orvex {
+
+namespace {
+
+std::wstring realText(double value) {
+    std::array<char, 32> buffer{};
+    const auto end = std::to_chars(buffer.begin(), buffer.end(), value).ptr;
+    return {buffer.begin(), end};
+}
+
+// Nothing for a text that is no value of the row's type.
+std::optional<resbuf> parseValue(const VariableRow& row, const std::wstring& text) {
+    resbuf value;
+    value.restype = row.type;
+    if (row.type == kResultText) {
+        return kdutNewString(text.c_str(), value.resval.rstring) == Status::done
+                   ? std::optional(value)
+                   : std::nullopt;
+    }
+    if (row.type == kResultPoint) {
+        const std::optional<KdGePoint3d> point = parsePoint(text);
+        if (point) {
+            value.resval.rpoint[0] = point->x;
+            value.resval.rpoint[1] = point->y;
+            value.resval.rpoint[2] = point->z;
+        }
+        return point ? std::optional(value) : std::nullopt;
+    }
+    const std::optional<double> number = parseReal(text);
+    if (!number) {
+        return std::nullopt;
+    }
+    value.restype = kResultReal; // a short takes it where nothing is lost
+    value.resval.rreal = *number;
+    return value;
+}
+
+} // namespace
+
+std::optional<std::wstring> variableText(const std::wstring& name) {
+    resbuf value;
+    if (kdedGetVar(name.c_str(), &value) != kPromptNormal) {
+        return std::nullopt;
+    }
+    switch (value.restype) {
+    case kResultShort:
+        return std::to_wstring(value.resval.rint);
+    case kResultReal:
+        return realText(value.resval.rreal);
+    case kResultPoint:
+        return realText(value.resval.rpoint[0]) + L',' + realText(value.resval.rpoint[1]) + L',' +
+               realText(value.resval.rpoint[2]);
+    case kResultText: {
+        std::wstring text = value.resval.rstring;
+        rvex_free(value.resval.rstring);
+        return text;
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<std::wstring> setVariableText(const std::wstring& name, const std::wstring& text) {
+    const VariableRow* const row = findVariable(name);
+    if (row == nullptr) {
+        return L"there is no variable '" + name + L"'";
+    }
+    std::optional<resbuf> value = parseValue(*row, text);
+    if (value) {
+        const int status = kdedSetVar(name.c_str(), &*value);
+        if (value->restype == kResultText) {
+            rvex_free(value->resval.rstring);
+        }
+        if (status == kPromptNormal) {
+            return std::nullopt;
+        }
+    }
+    return L"'" + text + L"' is no value for " + name;
+}
+
+} // namespace orvex
