@@ -127,14 +127,17 @@ def element_length(vertices, segment, element):
 def open_gap(vertices, first, last, elements=None):
     """Open a gap between two places (segment, distance on the chain).
 
-    For whole elements only, or gaps given in ascending order of place: the
-    list of each segment must still run to the segment's end.
+    Gaps of an element have to come in ascending order: a new one lies behind
+    the others, and the segment it ends on has none when it ends beyond a vertex.
     """
     (segment, begin), (last_segment, end) = first, last
     for element in elements or range(len(vertices[0].lines)):
         head = vertices[segment].lines[element]
         begin_distance = distance_along(vertices, segment, element, begin)
         end_distance = distance_along(vertices, last_segment, element, end)
+        tail_broken = segment != last_segment and len(vertices[last_segment].lines[element]) != 2
+        if len(head) % 2 == 1 or begin_distance <= head[-1] or tail_broken:
+            raise ValueError(f"gap at {begin} on segment {segment} is not behind the ones before it")
         head.append(begin_distance)
         if segment == last_segment:
             head.append(end_distance)

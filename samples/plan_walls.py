@@ -234,8 +234,8 @@ class Opening:
 
 
 OPENINGS = [
-    Opening("DOOR-1010", "outer", 0, 6500.0, "left"),
     Opening("WINDOW-2010", "outer", 0, 2200.0),
+    Opening("DOOR-1010", "outer", 0, 6500.0, "left"),
     Opening("WINDOW-1510", "outer", 0, 9200.0),
     Opening("WINDOW-1010", "outer", 0, 12100.0),
     Opening("WINDOW-1010", "outer", 1, 1000.0),
