@@ -154,7 +154,8 @@ def make_drawing():
 README_HEAD = """# Samples
 
 `floorplan.dxf` is a ground floor with its garage, shed, roads, pipes and garden, in millimetres, whose walls
-are multilines. `./play ORVEX_BATCH` (in this folder) cuts its doors and windows and draws it before and after.
+are multilines. `./run` in the project's root plays `play`, which cuts its doors and windows and draws it before and
+after.
 
 | file | what it is |
 |---|---|
@@ -164,6 +165,8 @@ are multilines. `./play ORVEX_BATCH` (in this folder) cuts its doors and windows
 | `corner.scr` | gaps over a corner, through all lines and through one |
 | `undo.scr` | cuts and takes everything back: the drawing comes out as it went in |
 | `empty.scr` | nothing: opened and saved, a drawing stays the same byte for byte |
+| `play` | the script behind `./run`: cuts, undoes, draws |
+| `runs.txt` | runs that every build has to play alike |
 
 The scripts are made by `make_scripts.py`, which works out every pick from the plan and makes sure that it can
 mean one wall only. Both makers take `--check`, which writes nothing and tells whether the files are up to date.
