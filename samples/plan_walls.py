@@ -116,7 +116,7 @@ HOUSE = [
          "filled; ends on the inner faces of outer (tees 2 to 4); crossed square by partition (2x2), "
          "store (2x5) and slanting by dressing (2x3); locked layer"),
     Wall("partition", "WALL-INT", "Standard", [(4600, 365), (4600, 9635)],
-         "crosses spine square (2x2); bar of kitchen, bedroom and study", 115.0),
+         "crosses spine square (2x2); bar of kitchen and bedroom", 115.0),
     Wall("study", "WALL-INT", "PART125", [(8200, 365), (8200, 5080)],
          "stem that ends on the face of spine (tee 3 to 2); crosses kitchen square (3x3)"),
     Wall("kitchen", "WALL-INT", "PART125", [(4600, 2600), (11250, 2600)],
@@ -192,7 +192,7 @@ SITE = [
     Wall("drive", "ROAD", "Standard", [(19200, -600), (19200, -5000)],
          "stem that stops short of road (tee 2 to 5); crossed square by gas (2x2)", 3000.0),
     Wall("path", "ROAD", "Standard", [(7000, -300), (7000, -3000), (2500, -5500)],
-         "3 vertices; crosses porch (2x3); slanting stem that stops short of road (tee 2 to 5)", 1200.0),
+         "3 vertices; crosses porch (2x3) and gas (2x2) square; slanting stem that stops short of road (tee 2 to 5)", 1200.0),
     Wall("sewer", "PIPE", "PIPE", [(9800, -400), (9800, -14000)],
          "crosses road square (3x5), gas square (3x2), drain slanting (3x3)", 100.0),
     Wall("gas", "PIPE", "Standard",
@@ -217,7 +217,7 @@ SITE = [
          "normal points down, as after mirroring; offsets lie to the right", 1000.0, ZERO, False, (), 0,
          (0.0, 0.0, -1.0)),
     Wall("overhead", "PIPE", "PIPE", [(-5000, -1000), (15500, -5500)],
-         "at height 2800: meets gas, path and sewer in plan but not in space", 60.0, ZERO, False, (), 0,
+         "at height 2800: meets garden wall, gas, path and sewer in plan but not in space", 60.0, ZERO, False, (), 0,
          (0.0, 0.0, 1.0), 2800.0),
 ]
 
