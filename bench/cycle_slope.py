@@ -31,8 +31,8 @@ def main():
     for count in (options.small, options.large):
         opened, first, last = (results[count, c].seconds for c in (0, 1, 1 + options.cycles))
         slopes[count] = (last - first) / options.cycles
-        print(f"{count:8} multilines: open {measure.milliseconds(opened)}, first cut {measure.milliseconds(first - opened)},"
-              f" each further cut {slopes[count] * 1e6:8.2f} us")
+        print(f"{count:8} multilines: open {measure.milliseconds(opened)},"
+              f" first cut {measure.milliseconds(first - opened)}, each further cut {slopes[count] * 1e6:8.2f} us")
     print(f"large beside small: {slopes[options.large] / slopes[options.small]:.2f} times for each further cut")
 
 

@@ -9,20 +9,23 @@ make 100 MB, with 9 each a million entities. grid.py tells where they lie.
 """
 
 import argparse
-import io
 import math
 import pathlib
+import sys
 
 import grid
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "samples"))
 
 LAYERS = ("WALLS", "DOORS", "FURNITURE", "TEXT")
 
 
 def frame(count):
     """Text before and behind the entities, the handle of model space, and the next free handle."""
+    # Here, since a script of cuts needs neither.
+    from stable_dxf import drawing_text
     import ezdxf
 
-    ezdxf.options.write_fixed_meta_data_for_testing = True
     doc = ezdxf.new("R2013", units=4)
     for colour, name in enumerate(LAYERS, 1):
         doc.layers.add(name, color=colour)
@@ -36,9 +39,7 @@ def frame(count):
     reach = grid.SHIFT + grid.columns(count) * grid.CELL
     doc.header["$EXTMIN"] = (grid.SHIFT, grid.SHIFT - grid.HALF_WIDTH, 0.0)
     doc.header["$EXTMAX"] = (reach, reach, 0.0)
-    stream = io.StringIO()
-    doc.write(stream)
-    before, entities, behind = stream.getvalue().partition("  2\nENTITIES\n")
+    before, entities, behind = drawing_text(doc).partition("  2\nENTITIES\n")
     handles = {f"WALL{n}": doc.mline_styles.get(f"WALL{n}").dxf.handle for n in range(2, 6)}
     seed = int(doc.header["$HANDSEED"], 16)
     return before + entities, behind, doc.modelspace().layout_key, handles, seed
@@ -108,7 +109,8 @@ def other_entity(kind, handle, owner, x, y):
         return f"  0\nTEXT\n{common}100\nAcDbText\n{point(10, x, y)} 40\n50.0\n  1\nRoom {handle}\n100\nAcDbText\n"
     if kind == 3:
         return f"  0\nINSERT\n{common}100\nAcDbBlockReference\n  2\nDOOR\n{point(10, x, y)} 50\n90.0\n"
-    corners = "".join(f" 10\n{number(x + dx)}\n 20\n{number(y + dy)}\n" for dx, dy in ((0, 0), (90, 0), (90, 60), (0, 60)))
+    outline = ((0, 0), (90, 0), (90, 60), (0, 60))
+    corners = "".join(f" 10\n{number(x + dx)}\n 20\n{number(y + dy)}\n" for dx, dy in outline)
     return f"  0\nLWPOLYLINE\n{common}100\nAcDbPolyline\n 90\n4\n 70\n1\n{corners}"
 
 

@@ -3,8 +3,8 @@ labels, dimensions, paving and a sheet in paper space."""
 
 import math
 
-from mline_geometry import add, build, cross
-from plan_walls import OPENINGS, STYLES, opening_width
+from mline_geometry import add, cross
+from plan_walls import OPENINGS
 
 
 def make_blocks(doc, add_multiline):
@@ -23,7 +23,8 @@ def make_blocks(doc, add_multiline):
         )
     tag = doc.blocks.new("ROOMTAG")
     tag.add_circle((0, 0), 260, dxfattribs={"layer": "TEXT"})
-    tag.add_attdef("NUMBER", (0, -80), dxfattribs={"layer": "TEXT", "height": 170, "halign": 1, "align_point": (0, -80)})
+    centred = {"layer": "TEXT", "height": 170, "halign": 1, "align_point": (0, -80)}
+    tag.add_attdef("NUMBER", (0, -80), dxfattribs=centred)
     planter = doc.blocks.new("PLANTER", base_point=(500, 0))
     add_multiline(planter, "0", "Standard", [(0, 0), (1000, 0), (1000, 600), (0, 600)], 60.0, closed=True)
     planter.add_circle((500, 300), 180, dxfattribs={"color": 3})

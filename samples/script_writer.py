@@ -13,7 +13,7 @@ from ezdxf import path
 
 from make_floorplan import wall_vertices
 from mline_geometry import (
-    add, distance_along, dot, drawn_stretches, element_length, element_position, open_gap, point_along)
+    add, dot, drawn_stretches, element_length, element_position, open_gap, point_along)
 from plan_walls import LAYERS, WALLS
 
 VIEW_HEIGHT_PIXELS = 1200

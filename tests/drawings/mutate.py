@@ -194,7 +194,8 @@ def swap_tags(rng, drawing):
 
 
 def strange_bytes(rng, drawing):
-    values = (b"\xff\xfe", b"\xc3", b"\x00\x00", b"\\U+12", b"\\U+ZZZZ", b"^J", b"%%d %s %n", b"\xed\xa0\x80", b"x" * 5000)
+    values = (b"\xff\xfe", b"\xc3", b"\x00\x00", b"\\U+12", b"\\U+ZZZZ", b"^J", b"%%d %s %n", b"\xed\xa0\x80",
+              b"x" * 5000)
     return change_value(rng, drawing, {1, 2, 3, 6, 8}, values, MLINE_KINDS + (b"TEXT", b"LINE"))
 
 
@@ -250,7 +251,8 @@ def cut_behind_code(rng, content):
 def code_no_integer(rng, content):
     drawing = Drawing(content)
     place = rng.randrange(len(drawing.tags))
-    drawing.tags[place][0] = drawing.line(rng.choice((b"abc", b"1.5", b"", b"   ", b"0x10", b"1 0", b"--1", b"\x00", b"10;")))
+    wrong = (b"abc", b"1.5", b"", b"   ", b"0x10", b"1 0", b"--1", b"\x00", b"10;")
+    drawing.tags[place][0] = drawing.line(rng.choice(wrong))
     return drawing.content()
 
 
@@ -279,7 +281,8 @@ TAG_MUTATIONS = (
     odd_number, odd_multiline_number, odd_handle, missing_style, odd_version, drop_record, drop_frame, double_record,
     drop_tag, swap_tags, strange_bytes,
 )
-OPENING = (no_final_line_end, byte_order_mark, bytes_behind_end, missing_end, cut_between_tags, cut_in_value, nothing_left)
+OPENING = (no_final_line_end, byte_order_mark, bytes_behind_end, missing_end, cut_between_tags, cut_in_value,
+           nothing_left)
 REFUSED = (cut_behind_code, code_no_integer, lost_line, binary)
 
 

@@ -25,7 +25,10 @@ def complaint(program, content, opens):
         drawing, output = pathlib.Path(scratch) / "in.dxf", pathlib.Path(scratch) / "out.dxf"
         drawing.write_bytes(content)
         command = [program, "run", str(drawing), "--script", "-", "--output", str(output)]
-        run = subprocess.run(command, input=b"", capture_output=True, timeout=60)
+        try:
+            run = subprocess.run(command, input=b"", capture_output=True, timeout=60)
+        except subprocess.TimeoutExpired:
+            return "doesn't end"
         if opens and run.returncode != 0:
             return f"status {run.returncode}: {run.stderr.decode(errors='replace').strip()}"
         if opens:
