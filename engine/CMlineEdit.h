@@ -8,7 +8,10 @@
 
 class KdDbMline;
 struct CrossCut;
+struct CrossingAt;
+struct TeeEnd;
 enum class CrossKind;
+enum class TeeKind;
 
 // One run of an editing tool on the multilines of the open drawing. A tool repeats its cycle, picks
 // and then its own step, until the user ends it; the keyword UNDO takes back the last cycle.
@@ -64,8 +67,9 @@ public:
     StepOutcome stepClosedTree();          // teeTools.cpp
     StepOutcome stepOpenTree();
     StepOutcome stepMergedTree();
-    StepOutcome stepCornerJoint(); // cornerJoint.cpp
-    StepOutcome stepAddVertex();   // vertexTools.cpp
+    StepOutcome stepTee(TeeKind kind); // what the three share
+    StepOutcome stepCornerJoint();     // cornerJoint.cpp
+    StepOutcome stepAddVertex();       // vertexTools.cpp
     StepOutcome stepDeleteVertex();
     StepOutcome stepCutSingle(); // cutTools.cpp
     StepOutcome stepCutAll();
@@ -119,11 +123,14 @@ public:
                            int* secondSegment, double* point, bool crossMode);
     bool set_PTCrossing(const CMlineSegment* first, int firstSegment, const CMlineSegment* second,
                         int secondSegment, PointTable* crossing, int* crossingSize);
-    void getXPoint(KdDbMline* first, int firstSegment, KdDbMline* second, int secondSegment,
+    // False when the axes don't cross; the result has no meaning to callers that drop it.
+    bool getXPoint(KdDbMline* first, int firstSegment, KdDbMline* second, int secondSegment,
                    double* point);
     [[nodiscard]] bool isCrossingSolved(int i, int j) const; // false outside the matrix
     [[nodiscard]] std::size_t crossingIndex(int i, int j) const;
     void cutBetween(const CrossCut& cut, int segment); // crossTools.cpp
+    // Whether the mapped pick lies before the crossing of the two elements 0: teeTools.cpp.
+    [[nodiscard]] bool crossingLiesAhead(const CMlineSegment& seg) const;
 
     // Ends of elements and of the whole: trim.cpp.
     void change41GroupNumber(CMlineSegment* seg, int element, int vertex, const double* point,
@@ -143,10 +150,28 @@ public:
     void getCornerPoint(int element, int count, int otherCount, double* point, bool oppositeEnds,
                         bool keepStart, bool isSecond);
 
+    // The parts of a corner joint.
+    void joinTwo(const double* corner, bool firstKeepsStart, bool secondKeepsStart);
+    void removeBeyondCorner(CMlineSegment& seg, bool keepStart);
+    void moveEnd(CMlineSegment& seg, int vertex, const double* place);
+    void trimToCorner(CMlineSegment& seg, int otherElements, bool oppositeEnds, bool keepStart,
+                      bool isSecond);
+    StepOutcome joinWithItself(const double* corner, bool firstKeepsStart, bool secondKeepsStart);
+    void cutLoopOut(CMlineSegment& seg, int laterSegment, const double* corner);
+    void closeLoop(CMlineSegment& seg, int earlierSegment, const double* corner);
+
+    // The parts of a tee: teeTools.cpp.
+    bool removeBeyondBar(int stemSegment, int barSegment, bool keepStart);
+    [[nodiscard]] bool isNearerToFirstLine(int element, int reference) const;
+    void trimStemEach(const TeeEnd& end);
+    void trimAt(const CrossingAt& at, const TeeEnd& end);
+
     // Changing the number of vertices: vertexTools.cpp.
     void add_OneVertex(CMlineSegment* seg);
     void delete_OneVertex(CMlineSegment* seg, int vertex);
     int getDeleteVertexNumver(CMlineSegment* seg);
+    void splitLists(CMlineSegment* seg, const KdDbMline& copy, const double* from, const double* to,
+                    const double* normal);
 
     // Taking back cuts: weldTool.cpp.
     void mlineEditInitializeForWeldAll(CMlineSegment* seg, long* name, CMlineSegment* other);

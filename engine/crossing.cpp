@@ -6,8 +6,8 @@
 #include "VoMath.h"
 #include "crossingSearch.h"
 #include "lineMath.h"
-#include "mlineRecord.h"
 #include "pickTests.h"
+#include "segments.h"
 #include "vectorMath.h"
 
 #include <vector>
@@ -27,12 +27,6 @@ std::vector<ChainPoint> chainOf(const CMlineSegment& seg) {
     return chain;
 }
 
-bool isClosed(const KdDbMline* mline) {
-    int flags = 0;
-    GetFlag(mline, &flags);
-    return (flags & kFlagClosed) != 0;
-}
-
 KdGePoint3d asPoint(const ChainPoint& point) {
     return {point.xyz[0], point.xyz[1], point.xyz[2]};
 }
@@ -44,6 +38,11 @@ bool continues(std::span<const ChainPoint> chain, const ChainPoint& start, const
     const auto at = static_cast<std::size_t>(picked);
     return picked >= 0 && at + 1 < chain.size() &&
            isCollinear(asPoint(start), asPoint(end), asPoint(chain[at]), asPoint(chain[at + 1]));
+}
+
+// Whether linexline3d has written a point: overlapping lines give one of the overlap.
+bool hasPoint(int result) {
+    return result >= 0 || result == -2;
 }
 
 // Which pair of segments the user means.
@@ -107,13 +106,13 @@ private:
 // records' segments. False, with the outputs untouched, when there are none.
 bool CMlineEdit::getSegmentNumbers(CMlineSegment* first, CMlineSegment* second, int* firstSegment,
                                    int* secondSegment, double* point, bool crossMode) {
-    const bool sameEntity = first->m_name[0] == second->m_name[0];
+    const bool sameEntity = isSameEntity(first->m_name, second->m_name);
     if (sameEntity && first->m_segment == second->m_segment) {
         return false;
     }
     const std::vector<ChainPoint> firstChain = chainOf(*first);
     const std::vector<ChainPoint> secondChain = chainOf(*second);
-    const ChainPair chains{firstChain, secondChain, isClosed(second->m_mline), sameEntity};
+    const ChainPair chains{firstChain, secondChain, isClosed(*second), sameEntity};
 
     PairChoice choice(*this, *first, *second);
     CrossingSearch search(chains, crossMode ? CrossRule::cross : CrossRule::tee);
@@ -176,8 +175,7 @@ bool CMlineEdit::set_PTCrossing(const CMlineSegment* first, int firstSegment,
                 first->m_ptList[i][firstSegment], first->m_ptList[i][firstSegment + 1],
                 second->m_ptList[j][secondSegment], second->m_ptList[j][next], (*crossing)[i][j]);
             anySolved = anySolved || result >= 0;
-            // Overlapping elements give a point of the overlap.
-            m_crossingSolved[crossingIndex(i, j)] = result >= 0 || result == -2;
+            m_crossingSolved[crossingIndex(i, j)] = hasPoint(result);
         }
     }
     return anySolved;
@@ -194,18 +192,19 @@ std::size_t CMlineEdit::crossingIndex(int i, int j) const {
 }
 
 // The crossing of two axes. Segments past a chain's end leave the point as it is.
-void CMlineEdit::getXPoint(KdDbMline* first, int firstSegment, KdDbMline* second, int secondSegment,
+bool CMlineEdit::getXPoint(KdDbMline* first, int firstSegment, KdDbMline* second, int secondSegment,
                            double* point) {
     const auto hasSegment = [](const KdDbMline* mline, int segment) {
         return segment >= 0 && segment + 1 < mline->numVertices();
     };
     if (!hasSegment(first, firstSegment) || !hasSegment(second, secondSegment)) {
-        return;
+        return false;
     }
     const auto vertex = [](const KdDbMline* mline, int index) {
         const KdGePoint3d at = mline->vertexAt(index);
         return ChainPoint{{at.x, at.y, at.z}};
     };
-    linexline3d(vertex(first, firstSegment).xyz, vertex(first, firstSegment + 1).xyz,
-                vertex(second, secondSegment).xyz, vertex(second, secondSegment + 1).xyz, point);
+    return hasPoint(linexline3d(
+        vertex(first, firstSegment).xyz, vertex(first, firstSegment + 1).xyz,
+        vertex(second, secondSegment).xyz, vertex(second, secondSegment + 1).xyz, point));
 }

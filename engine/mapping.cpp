@@ -4,6 +4,7 @@
 
 #include "KdDbMline.h"
 #include "VoMath.h"
+#include "acrossPick.h"
 #include "lineMath.h"
 #include "mlineRecord.h"
 #include "segments.h"
@@ -30,6 +31,32 @@ double distanceFromLine(const double* point, const double* a, const double* b) {
 
 } // namespace
 
+bool acrossPick(const CMlineSegment& seg, int element, AcrossPick& place) {
+    const int start = seg.m_segment;
+    const int end = segmentEnd(seg, start);
+    if (seg.m_mline == nullptr || end < 0 || !hasElement(seg, seg.m_element) ||
+        (element != kChain && !hasElement(seg, element))) {
+        return false;
+    }
+    if (element == kChain) {
+        const KdGePoint3d a = seg.m_mline->vertexAt(start);
+        const KdGePoint3d b = seg.m_mline->vertexAt(end);
+        place = {{a.x, a.y, a.z}, {b.x, b.y, b.z}, {}};
+    } else {
+        copyPoint(seg.m_ptList[element][start], place.start);
+        copyPoint(seg.m_ptList[element][end], place.end);
+    }
+    // A line through the pick, square on the segment in plan; only its direction counts.
+    constexpr double kLength = 10.0;
+    const double* const pick = seg.m_pickPoint;
+    const double angle = tklengine_angle(pick, seg.m_ptList[seg.m_element][start]);
+    const double across[3] = {pick[0] + std::sin(angle) * kLength,
+                              pick[1] - std::cos(angle) * kLength, pick[2]};
+    copyPoint(pick, place.crossing);
+    gx_linexline(pick, across, place.start, place.end, place.crossing);
+    return true;
+}
+
 void CMlineEdit::mappingToSpecifyMongline(CMlineSegment* seg, int element, double* out) {
     if (element == seg->m_element) {
         copyPoint(seg->m_pickPoint, seg->m_mappedPoint);
@@ -38,39 +65,17 @@ void CMlineEdit::mappingToSpecifyMongline(CMlineSegment* seg, int element, doubl
         seg->m_mappedDistance = seg->m_pickDistance;
         return;
     }
-    const int start = seg->m_segment;
-    const int end = segmentEnd(*seg, start);
-    if (seg->m_mline == nullptr || end < 0 || !hasElement(*seg, seg->m_element)) {
+    AcrossPick place{};
+    if (!acrossPick(*seg, element, place)) {
         return;
     }
-    // A line through the pick, square on the segment in plan; only its direction counts.
-    constexpr double kLength = 10.0;
-    const double* const pick = seg->m_pickPoint;
-    const double angle = tklengine_angle(pick, seg->m_ptList[seg->m_element][start]);
-    const double across[3] = {pick[0] + std::sin(angle) * kLength,
-                              pick[1] - std::cos(angle) * kLength, pick[2]};
-
-    // Lines that don't cross leave the pick itself.
-    double crossing[3];
-    copyPoint(pick, crossing);
-    if (element == -1) {
-        const KdGePoint3d a = seg->m_mline->vertexAt(start);
-        const KdGePoint3d b = seg->m_mline->vertexAt(end);
-        const double chainStart[3] = {a.x, a.y, a.z};
-        const double chainEnd[3] = {b.x, b.y, b.z};
-        gx_linexline(pick, across, chainStart, chainEnd, crossing);
-        copyPoint(crossing, out);
+    if (element == kChain) {
+        copyPoint(place.crossing, out);
         return;
     }
-    if (!hasElement(*seg, element)) {
-        return;
-    }
-    const double* const a = seg->m_ptList[element][start];
-    const double* const b = seg->m_ptList[element][end];
-    gx_linexline(pick, across, a, b, crossing);
-    copyPoint(heldToSegment(crossing, a, b), seg->m_mappedPoint);
+    copyPoint(heldToSegment(place.crossing, place.start, place.end), seg->m_mappedPoint);
     seg->m_mappedElement = element;
-    seg->m_mappedDistance = tklengine_distance(seg->m_mappedPoint, a);
+    seg->m_mappedDistance = tklengine_distance(seg->m_mappedPoint, place.start);
 }
 
 void CMlineEdit::correctMapping(CMlineSegment* seg) {

@@ -10,6 +10,7 @@
 #include "measure.h"
 #include "mlineRecord.h"
 #include "parameterLists.h"
+#include "pickSearch.h"
 #include "segments.h"
 #include "systemVariables.h"
 #include "vertexSnapshot.h"
@@ -64,32 +65,20 @@ private:
     double m_pickOnDisplay[3] = {0.0, 0.0, 0.0};
 };
 
-// The lowest segment, and in it the lowest element, that the pick lies on; the nearest doesn't win,
-// and the closing segment comes last. Without a match the record keeps what it had.
+// Without a match the record keeps what it had.
 void takePick(CMlineSegment& seg, const double* pick, double radius) {
     const PickMatcher matcher(seg, pick, radius);
-    const auto takesSegment = [&seg, &matcher](int segment, int to) {
-        for (int e = 0; e < seg.m_numElements; ++e) {
-            double foot[3];
-            if (matcher.matches(e, segment, to, foot)) {
-                seg.m_segment = segment;
-                seg.m_element = e;
-                copyPoint(foot, seg.m_pickPoint);
-                seg.m_pickDistance = kdutDistance(seg.m_pickPoint, seg.m_ptList[e][segment]);
-                return true;
-            }
+    searchPick(seg, [&seg, &matcher](int element, int segment, int end) {
+        double foot[3];
+        if (!matcher.matches(element, segment, end, foot)) {
+            return false;
         }
-        return false;
-    };
-    const int last = seg.m_numVertices - 1;
-    for (int i = 0; i < last; ++i) {
-        if (takesSegment(i, i + 1)) {
-            return;
-        }
-    }
-    if (isClosed(seg) && last >= 0) {
-        takesSegment(last, 0);
-    }
+        seg.m_segment = segment;
+        seg.m_element = element;
+        copyPoint(foot, seg.m_pickPoint);
+        seg.m_pickDistance = kdutDistance(seg.m_pickPoint, seg.m_ptList[element][segment]);
+        return true;
+    });
 }
 
 } // namespace

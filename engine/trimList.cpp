@@ -1,0 +1,58 @@
+#include "trimList.h"
+
+#include "VoMath.h"
+
+namespace {
+
+constexpr double kEqualBreaks = 1e-10; // drawing units
+
+BreakList::iterator at(BreakList& list, std::size_t index) {
+    return list.begin() + static_cast<BreakList::difference_type>(index);
+}
+
+} // namespace
+
+BreakList keepUpTo(BreakList list, double distance, bool ahead) {
+    if (list.empty()) {
+        return list;
+    }
+    if (!ahead) {
+        list.push_back(distance);
+        return list;
+    }
+    std::size_t stop = list.size() - 1;
+    while (stop > 0 && list[stop] >= distance &&
+           !VoMath::isEqual(list[stop], distance, kEqualBreaks)) {
+        --stop;
+    }
+    const std::size_t erased = list.size() - 1 - stop;
+    list.resize(stop + 1);
+    // After an odd number the point lay on a stretch, which now runs open to the segment's end.
+    if (erased % 2 == 0 && !VoMath::isEqual(list.back(), distance, kEqualBreaks)) {
+        list.push_back(distance);
+    }
+    return list;
+}
+
+BreakList keepFrom(BreakList list, double distance, TrimPlace place) {
+    if (list.empty()) {
+        return list;
+    }
+    if (place == TrimPlace::beyondEnd) {
+        list.push_back(distance);
+        return list;
+    }
+    if (list.size() == 1) {
+        return list;
+    }
+    const double start = place == TrimPlace::behindStart ? -distance : distance;
+    std::size_t stop = list.size() - 1;
+    while (stop > 1 && !(list[stop] < start)) {
+        --stop;
+    }
+    list.erase(at(list, 1), at(list, stop + 1));
+    if (stop % 2 == 1) {
+        list.insert(at(list, 1), start);
+    }
+    return list;
+}

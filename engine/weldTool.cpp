@@ -1,0 +1,207 @@
+// The weld tool: between two picks on one multiline every break of every element goes. Picks may
+// lie in gaps, so matching and mapping have forms of their own.
+
+#include "CMlineEdit.h"
+
+#include "KdDbMline.h"
+#include "VoMath.h"
+#include "acrossPick.h"
+#include "comparisons.h"
+#include "frames.h"
+#include "lineMath.h"
+#include "measure.h"
+#include "parameterLists.h"
+#include "pickSearch.h"
+#include "segments.h"
+#include "vectorMath.h"
+#include "weldList.h"
+#include "weldPick.h"
+
+#include <utility>
+
+namespace {
+
+constexpr double kSameLength = 1e-10; // drawing units
+
+// A place on the line of a segment, held to the segment's ends, and how far it is from the start.
+struct HeldPlace {
+    double point[3];
+    double distance;
+};
+
+HeldPlace heldToSegment(const double* place, const double* start, const double* end) {
+    HeldPlace held{};
+    const bool ahead = mlineAngleEqual(kdutAngle(start, place), kdutAngle(start, end), kHalfPi);
+    if (!ahead || gx_pt_equal(place, start) != 0) {
+        copyPoint(start, held.point);
+        return held;
+    }
+    copyPoint(place, held.point);
+    held.distance = tklengine_distance(place, start);
+    const double length = tklengine_distance(start, end);
+    if (VoMath::isEqual(held.distance, length, kSameLength) || length < held.distance) {
+        held.distance = length;
+        copyPoint(end, held.point);
+    }
+    return held;
+}
+
+// Within the aperture of the element's line between its ends, gaps included.
+bool matches(const double* pick, const double* start, const double* end, double radius,
+             double* foot) {
+    gx_ptlndist(pick, start, end, nullptr, foot);
+    double pickOnDisplay[3] = {0.0, 0.0, 0.0};
+    double footOnDisplay[3] = {0.0, 0.0, 0.0};
+    tkl_wcs2dcs(pick, pickOnDisplay);
+    tkl_wcs2dcs(foot, footOnDisplay);
+    return mlineRealBetween(foot[0], start[0], end[0], radius) &&
+           mlineRealBetween(foot[1], start[1], end[1], radius) &&
+           radius > kdutDistance(pickOnDisplay, footOnDisplay);
+}
+
+void takeWeldPick(CMlineSegment& seg, const double* pick, double radius) {
+    searchPick(seg, [&seg, pick, radius](int element, int segment, int endVertex) {
+        const double* const start = seg.m_ptList[element][segment];
+        const double* const end = seg.m_ptList[element][endVertex];
+        double foot[3];
+        if (!matches(pick, start, end, radius, foot)) {
+            return false;
+        }
+        const HeldPlace held = heldToSegment(foot, start, end);
+        seg.m_segment = segment;
+        seg.m_element = element;
+        copyPoint(foot, seg.m_pickPoint);
+        copyPoint(held.point, seg.m_weldPoint);
+        seg.m_pickDistance = held.distance;
+        return true;
+    });
+}
+
+bool isBehind(const CMlineSegment& a, const CMlineSegment& b) {
+    return a.m_mappedSegment > b.m_mappedSegment ||
+           (a.m_mappedSegment == b.m_mappedSegment && a.m_mappedDistance > b.m_mappedDistance);
+}
+
+// Whether the mapped place is the mapped element's position at a vertex.
+bool isAtVertex(const CMlineSegment& seg, int vertex) {
+    return vertex >= 0 && vertex < seg.m_numVertices && hasElement(seg, seg.m_mappedElement) &&
+           gx_pt_equal(seg.m_mappedPoint, seg.m_ptList[seg.m_mappedElement][vertex]) != 0;
+}
+
+// An end on a vertex belongs to the segment that lies between the ends. The lower end moves in the
+// lower half of the chain alone. The records keep the new segments for the elements mapped next.
+void moveOffVertices(CMlineSegment& lower, CMlineSegment& upper) {
+    if (lower.m_mappedSegment + 1 < lower.m_numVertices / 2 &&
+        isAtVertex(lower, lower.m_mappedSegment + 1)) {
+        ++lower.m_mappedSegment;
+        lower.m_mappedDistance = 0.0;
+    }
+    if (upper.m_mappedSegment > 0 && isAtVertex(upper, upper.m_mappedSegment)) {
+        --upper.m_mappedSegment;
+        upper.m_mappedDistance = tklengine_distance(
+            upper.m_ptList[upper.m_mappedElement][upper.m_mappedSegment], upper.m_mappedPoint);
+    }
+}
+
+} // namespace
+
+StepOutcome CMlineEdit::stepWeldAll() {
+    for (int element = 0; element < m_first.m_numElements; ++element) {
+        mappingToSpecifyMonglineForWeldAll(&m_first, element, nullptr);
+        mappingToSpecifyMonglineForWeldAll(&m_second, element, nullptr);
+        Weld_Mongline(&m_first, &m_second);
+    }
+    return StepOutcome::done;
+}
+
+void CMlineEdit::mlineEditInitializeForWeldAll(CMlineSegment* seg, long* name,
+                                               CMlineSegment* other) {
+    if (seg == nullptr) {
+        return;
+    }
+    double pick[3];
+    copyPoint(m_pickedPoint, pick);
+    uc2wc(m_pickedPoint, pick, false);
+    openPicked(seg, name, other);
+    if (seg->m_mline == nullptr) {
+        return; // the name stays: a second pick of the same entity goes on to do nothing
+    }
+    fillTable(seg);
+    takeWeldPick(*seg, pick, m_pickRadius);
+    copyPoint(seg->m_weldPoint, seg->m_mappedPoint);
+    seg->m_mappedDistance = seg->m_pickDistance;
+    seg->m_mappedSegment = seg->m_segment;
+    seg->m_mappedElement = seg->m_element;
+    name[0] = 0;
+    name[1] = 0;
+}
+
+void CMlineEdit::mappingToSpecifyMonglineForWeldAll(CMlineSegment* seg, int element, double* out) {
+    if (seg == nullptr) {
+        return;
+    }
+    if (element == seg->m_element) {
+        copyPoint(seg->m_weldPoint, seg->m_mappedPoint);
+        seg->m_mappedElement = seg->m_element;
+        seg->m_mappedSegment = seg->m_segment;
+        seg->m_mappedDistance = seg->m_pickDistance;
+        return;
+    }
+    AcrossPick place{};
+    if (!acrossPick(*seg, element, place)) {
+        return;
+    }
+    if (element == kChain) {
+        copyPoint(place.crossing, out);
+        return;
+    }
+    const HeldPlace held = heldToSegment(place.crossing, place.start, place.end);
+    copyPoint(held.point, seg->m_mappedPoint);
+    seg->m_mappedElement = element;
+    seg->m_mappedDistance = held.distance;
+}
+
+bool IsPositionCutPt(const CMlineSegment* seg, bool lowerEnd, double tolerance) {
+    if (seg == nullptr || seg->m_mline == nullptr) {
+        return false;
+    }
+    return standsInGap(lineList(seg->m_mline, seg->m_mappedSegment, seg->m_mappedElement),
+                       seg->m_mappedDistance, tolerance) == lowerEnd;
+}
+
+void CMlineEdit::Weld_Mongline(CMlineSegment* first, CMlineSegment* second) {
+    if (first == nullptr || second == nullptr || first->m_mline == nullptr ||
+        second->m_mline == nullptr ||
+        gx_pt_equal(first->m_mappedPoint, second->m_mappedPoint) != 0) {
+        return;
+    }
+    // By number alone, on a closed multiline too: a weld never runs across the closing vertex.
+    CMlineSegment* lower = first;
+    CMlineSegment* upper = second;
+    if (isBehind(*lower, *upper)) {
+        std::swap(lower, upper);
+    }
+    moveOffVertices(*lower, *upper);
+
+    double aperture = 0.0;
+    set_SpaceBetween(&aperture);
+    const WeldEnd from{lower->m_mappedDistance, IsPositionCutPt(lower, true, aperture)};
+    const WeldEnd to{upper->m_mappedDistance, IsPositionCutPt(upper, false, aperture)};
+    const auto rewrite = [this, lower](int vertex, auto weld) {
+        setRealVector(lower->m_mline, vertex, lower->m_mappedElement);
+        m_breaks = weld(std::move(m_breaks));
+        storeLineList(lower->m_mline, vertex, lower->m_mappedElement, m_breaks);
+    };
+    if (lower->m_mappedSegment == upper->m_mappedSegment) {
+        rewrite(lower->m_mappedSegment,
+                [&](BreakList list) { return weldWithin(std::move(list), from, to, aperture); });
+        return;
+    }
+    rewrite(lower->m_mappedSegment,
+            [&](BreakList list) { return weldToSegmentEnd(std::move(list), from, aperture); });
+    rewrite(upper->m_mappedSegment,
+            [&](BreakList list) { return weldFromSegmentStart(std::move(list), to, aperture); });
+    for (int v = lower->m_mappedSegment + 1; v < upper->m_mappedSegment; ++v) {
+        rewrite(v, weldWhole);
+    }
+}
