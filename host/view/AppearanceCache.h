@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Appearance.h"
+
+#include <cstddef>
+#include <unordered_map>
+
+struct KdDbStub;
+
+namespace orvex {
+
+// Looks that were asked for, up to a bounded amount of memory. Two generations: what is used goes
+// into the young one, and when that is full it becomes the old one, whose looks are dropped unless
+// they are used again. So a look found or kept just now always survives.
+class AppearanceCache {
+public:
+    explicit AppearanceCache(std::size_t bytes) : m_youngLimit(bytes / 2) {}
+
+    [[nodiscard]] const Appearance* find(const KdDbStub& entity); // null when it isn't here
+    const Appearance& keep(const KdDbStub& entity, Appearance&& appearance);
+    void drop(const KdDbStub& entity);
+    void clear();
+
+    [[nodiscard]] std::size_t size() const { return m_young.size() + m_old.size(); }
+
+private:
+    using Generation = std::unordered_map<const KdDbStub*, Appearance>;
+    void makeRoom();
+
+    std::size_t m_youngLimit;
+    std::size_t m_youngBytes = 0;
+    Generation m_young;
+    Generation m_old;
+};
+
+} // namespace orvex

@@ -1,0 +1,113 @@
+#include "EntityDrawer.h"
+
+#include "DatabaseCore.h"
+#include "mlinePainter.h"
+#include "shapePainter.h"
+
+#include <algorithm>
+
+namespace orvex {
+
+namespace {
+
+// What one insert, with all that is in it, may come to.
+constexpr std::size_t kDeepestInsert = 32;
+constexpr int kMostEntities = 50'000;
+constexpr std::size_t kMostPoints = 1'000'000;
+
+} // namespace
+
+bool EntityDrawer::draw(const EntityReading& entity) {
+    Pencil pencil(m_ink);
+    return draw(entity, {}, pencil);
+}
+
+bool EntityDrawer::draw(const EntityReading& entity, const Context& context, Pencil& pencil) {
+    const EntityTraits& traits = entity.traits();
+    const bool inherits = context.insertLayer != nullptr && traits.layer == L"0";
+    const LayerLook& layer = inherits ? *context.insertLayer : m_table.layer(traits.layer);
+    if (!traits.visible || !layer.seen) {
+        return false;
+    }
+    Means means{layer, {}, traits.linetypeScale};
+    if (m_ink.wantsPens()) {
+        means.pen = m_table.pen(traits.color, traits.linetype, traits.linetypeScale, layer,
+                                context.byBlock);
+    }
+    if (const auto* mline = std::get_if<std::shared_ptr<const MlineContent>>(&entity.geometry)) {
+        if (*mline != nullptr) {
+            drawMultiline(**mline, means, pencil);
+        }
+        return true;
+    }
+    const auto drawOne = [&](const auto& shape) {
+        using Shape = std::decay_t<decltype(shape)>;
+        if constexpr (std::is_same_v<Shape, InsertShape>) {
+            drawInsert(shape, means, pencil);
+        } else if constexpr (!std::is_same_v<Shape, NoShape>) {
+            paintShape(shape, means.pen, pencil);
+        }
+    };
+    std::visit(drawOne, std::get<EntityShape>(entity.geometry));
+    return true;
+}
+
+void EntityDrawer::drawMultiline(const MlineContent& mline, const Means& means, Pencil& pencil) {
+    const MlineStyleContent* style = m_table.style(mline.style);
+    MlinePens pens;
+    if (m_ink.wantsPens()) {
+        // By block means by the multiline: it is to its elements what an insert is to a block.
+        const auto penOf = [&](const KdCmColor& color, const std::wstring& linetype) {
+            return m_table.pen(color, linetype, means.linetypeScale, means.layer, means.pen);
+        };
+        pens.own = means.pen;
+        if (style != nullptr) {
+            for (const StyleElement& element : style->elements) {
+                pens.elements.push_back(penOf(element.color, m_table.linetypeName(element)));
+            }
+            pens.fillRgb = penOf(style->fillColor, {}).rgb;
+        }
+    }
+    paintMline(mline, style, pens, pencil);
+}
+
+void EntityDrawer::drawInsert(const InsertShape& insert, const Means& means, const Pencil& pencil) {
+    const BlockContent& block = m_blocks.block(insert.block);
+    const bool inItself = std::find(m_open.begin(), m_open.end(), block.block) != m_open.end();
+    if (block.entities.empty() || inItself || m_open.size() >= kDeepestInsert) {
+        return;
+    }
+    m_open.push_back(block.block);
+    const Context context{&means.layer, means.pen};
+    Placement own{insert.position, insert.xAxis, insert.yAxis, insert.zAxis};
+    const KdGePoint3d base = block.basePoint;
+    const KdGePoint3d corner = own.place({-base.x, -base.y, -base.z});
+    for (int row = 0; row < std::max(insert.rows, 1); ++row) {
+        for (int column = 0; column < std::max(insert.columns, 1); ++column) {
+            if (isExhausted()) {
+                m_open.pop_back();
+                return;
+            }
+            own.origin = corner + insert.columnStep * column + insert.rowStep * row;
+            Pencil inside(m_ink, pencil.isPlaced() ? pencil.placement().around(own) : own);
+            drawBlock(block, context, inside);
+        }
+    }
+    m_open.pop_back();
+}
+
+void EntityDrawer::drawBlock(const BlockContent& block, const Context& context, Pencil& pencil) {
+    for (const EntityReading& entity : block.entities) {
+        if (isExhausted()) {
+            return;
+        }
+        ++m_entitiesDrawn;
+        draw(entity, context, pencil);
+    }
+}
+
+bool EntityDrawer::isExhausted() const {
+    return m_entitiesDrawn >= kMostEntities || m_ink.pointCount() >= kMostPoints;
+}
+
+} // namespace orvex

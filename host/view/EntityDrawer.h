@@ -1,0 +1,48 @@
+#pragma once
+
+#include "BlockContents.h"
+#include "EntityReader.h"
+#include "LookTable.h"
+#include "Pencil.h"
+
+#include <vector>
+
+namespace orvex {
+
+// Draws one entity of model space, with all that it inserts. Cycles of blocks, and blocks that
+// multiply without end, stop at limits that no real drawing comes near.
+class EntityDrawer {
+public:
+    EntityDrawer(LookTable& table, BlockContents& blocks, Ink& ink)
+        : m_table(table), m_blocks(blocks), m_ink(ink) {}
+
+    // False, with nothing drawn, when the entity isn't seen for its layer or by itself.
+    bool draw(const EntityReading& entity);
+
+private:
+    // What its surroundings give an entity.
+    struct Context {
+        const LayerLook* insertLayer = nullptr; // stands for layer 0 inside of a block
+        Pen byBlock;
+    };
+    // What an entity is drawn with.
+    struct Means {
+        const LayerLook& layer;
+        Pen pen;
+        double linetypeScale = 1.0;
+    };
+
+    bool draw(const EntityReading& entity, const Context& context, Pencil& pencil);
+    void drawMultiline(const MlineContent& mline, const Means& means, Pencil& pencil);
+    void drawInsert(const InsertShape& insert, const Means& means, const Pencil& pencil);
+    void drawBlock(const BlockContent& block, const Context& context, Pencil& pencil);
+    [[nodiscard]] bool isExhausted() const;
+
+    LookTable& m_table;
+    BlockContents& m_blocks;
+    Ink& m_ink;
+    std::vector<const BlockEntities*> m_open; // blocks that are being drawn, outermost first
+    int m_entitiesDrawn = 0;                  // by inserts
+};
+
+} // namespace orvex

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "KdCmColor.h"
+#include "KdDbObjectId.h"
+#include "MlineStyleContent.h"
+#include "looksInk.h"
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace orvex {
+
+class DatabaseCore;
+
+// What a layer gives its entities.
+struct LayerLook {
+    Pen pen;
+    bool seen = true; // neither frozen nor off
+};
+
+// Looks up what entities share: layers, line types, styles. What was looked up is kept until
+// `forget`; whoever owns the table asks `covers` whether a changed object was among it.
+class LookTable {
+public:
+    explicit LookTable(DatabaseCore& core) : m_core(core) {}
+
+    // Layers that the drawing doesn't have are seen and white.
+    const LayerLook& layer(const std::wstring& name);
+    // Null for a null id and for a style that was erased.
+    const MlineStyleContent* style(KdDbObjectId id);
+    // A colour and a line type as they are meant on this layer and in this block. `scale` is the
+    // entity's line type scale; the drawing's own comes on top.
+    Pen pen(const KdCmColor& color, const std::wstring& linetype, double scale,
+            const LayerLook& layer, const Pen& byBlock);
+    // The name of an element's line type.
+    std::wstring linetypeName(const StyleElement& element);
+
+    [[nodiscard]] bool covers(const KdDbStub& changed) const;
+    // True when the drawing's line type scale isn't what was used any more.
+    [[nodiscard]] bool isScaleStale() const;
+    void forget();
+
+private:
+    struct Linetype {
+        enum class Meaning { own, byLayer, byBlock } meaning = Meaning::own;
+        std::vector<double> dashes;
+    };
+    const Linetype& linetype(const std::wstring& name);
+    [[nodiscard]] double drawingScale() const;
+
+    DatabaseCore& m_core;
+    std::unordered_map<std::wstring, LayerLook> m_layers;
+    std::unordered_map<std::wstring, Linetype> m_linetypes;
+    std::unordered_set<const KdDbStub*> m_covered;
+    bool m_missedOne = false; // a name was asked for that a new object might now have
+    double m_scale = 0.0;     // 0 till a line type is scaled
+};
+
+} // namespace orvex

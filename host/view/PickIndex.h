@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Appearance.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace orvex {
+
+// Finds numbered boxes in the plan: an R-tree, packed when it is built and balanced from then on.
+// Queries and changes cost the same in large and small drawings, but for the tree's height.
+class PickIndex {
+public:
+    PickIndex();
+    ~PickIndex();
+    PickIndex(const PickIndex&) = delete;
+    PickIndex& operator=(const PickIndex&) = delete;
+
+    // Anew from boxes that are numbered as they stand; empty ones aren't found.
+    void build(std::vector<PlanBox> boxes);
+    // Gives a number another box; numbers may be new.
+    void set(std::uint32_t number, const PlanBox& box);
+
+    // The numbers of all boxes that meet the area, edges included, in ascending order.
+    [[nodiscard]] std::vector<std::uint32_t> query(const PlanBox& area) const;
+    [[nodiscard]] PlanBox bounds() const;
+
+private:
+    struct Tree;
+    std::unique_ptr<Tree> m_tree;
+    std::vector<PlanBox> m_boxes; // by number, to take them out of the tree again
+};
+
+} // namespace orvex

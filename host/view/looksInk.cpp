@@ -1,0 +1,135 @@
+#include "looksInk.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace orvex {
+
+namespace {
+
+// The limit of coordinates in drawings. Products of two of them stay finite.
+constexpr double kFarthest = 1e100;
+
+bool isDrawable(double value) {
+    return std::abs(value) <= kFarthest;
+} // false for NaN
+
+bool isDrawable(std::span<const PlanPoint> points) {
+    return std::all_of(points.begin(), points.end(), [](const PlanPoint& point) {
+        return isDrawable(point.x) && isDrawable(point.y);
+    });
+}
+
+// A pattern of nothing but dots would never get on along the line.
+bool isUsablePattern(const std::vector<double>& dashes, double scale) {
+    double length = 0.0;
+    for (const double dash : dashes) {
+        length += std::abs(dash) * scale;
+    }
+    return dashes.size() > 1 && length > 0.0 && std::isfinite(length);
+}
+
+} // namespace
+
+void Ink::stroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) {
+    m_pointCount += points.size();
+    if (!points.empty() && isDrawable(points)) {
+        takeStroke(points, role, pen);
+    }
+}
+
+void Ink::fill(std::span<const PlanPoint> outline, std::uint32_t rgb) {
+    m_pointCount += outline.size();
+    if (outline.size() > 2 && isDrawable(outline)) {
+        takeFill(outline, rgb);
+    }
+}
+
+void Ink::label(const Label& label) {
+    const PlanPoint anchor = label.anchor;
+    const bool drawable = isDrawable({&anchor, 1}) && std::isfinite(label.angle) &&
+                          label.height > 0.0 && isDrawable(label.height);
+    if (drawable && !label.text.empty()) {
+        takeLabel(label);
+    }
+}
+
+void AppearanceInk::takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) {
+    m_appearance.strokes.push_back({.points = {points.begin(), points.end()},
+                                    .rgb = pen.rgb,
+                                    .role = role,
+                                    .dashes = dashesOf(pen)});
+}
+
+void AppearanceInk::takeFill(std::span<const PlanPoint> outline, std::uint32_t rgb) {
+    m_appearance.fills.push_back({.outline = {outline.begin(), outline.end()}, .rgb = rgb});
+}
+
+void AppearanceInk::takeLabel(const Label& label) {
+    m_appearance.labels.push_back(label);
+}
+
+std::uint32_t AppearanceInk::dashesOf(const Pen& pen) {
+    if (pen.dashes == nullptr || !isUsablePattern(*pen.dashes, pen.dashScale)) {
+        return 0;
+    }
+    std::vector<double> scaled = *pen.dashes;
+    for (double& dash : scaled) {
+        dash *= pen.dashScale;
+    }
+    auto& known = m_appearance.dashPatterns;
+    auto found = std::find(known.begin(), known.end(), scaled);
+    if (found == known.end()) {
+        found = known.insert(known.end(), std::move(scaled));
+    }
+    return static_cast<std::uint32_t>(found - known.begin() + 1);
+}
+
+void BoxInk::takeStroke(std::span<const PlanPoint> points, StrokeRole, const Pen&) {
+    for (const PlanPoint& point : points) {
+        m_box.include(point);
+    }
+}
+
+void BoxInk::takeFill(std::span<const PlanPoint> outline, std::uint32_t) {
+    for (const PlanPoint& point : outline) {
+        m_box.include(point);
+    }
+}
+
+void BoxInk::takeLabel(const Label& label) {
+    m_box.include(labelBox(label));
+}
+
+PlanBox labelBox(const Label& label) {
+    // Of a capital's height: a usual letter's width, one of the broad scripts, what hangs below.
+    constexpr double kLetter = 0.85;
+    constexpr double kBroadLetter = 1.4;
+    constexpr double kDescent = 0.3;
+    constexpr wchar_t kFirstBroad = 0x1100;
+
+    double width = 0.0;
+    for (const wchar_t letter : label.text) {
+        width += (letter < kFirstBroad ? kLetter : kBroadLetter) * label.height;
+    }
+    const double left = -width * label.horizontal / 2.0;
+    const std::array<double, 4> bottoms{-kDescent, 0.0, -0.5, -1.0};
+    const auto vertical = static_cast<std::size_t>(std::clamp(label.vertical, 0, 3));
+    const double bottom = bottoms[vertical] * label.height;
+    const double top = (vertical == 0 ? 1.0 : bottoms[vertical] + 1.0) * label.height;
+
+    const double cosine = std::cos(label.angle);
+    const double sine = std::sin(label.angle);
+    PlanBox box;
+    for (const double x : {left, left + width}) {
+        for (const double y : {bottom, top}) {
+            const PlanPoint corner{label.anchor.x + x * cosine - y * sine,
+                                   label.anchor.y + x * sine + y * cosine};
+            box.include(corner);
+        }
+    }
+    return box;
+}
+
+} // namespace orvex

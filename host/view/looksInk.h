@@ -1,0 +1,81 @@
+#pragma once
+
+#include "Appearance.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace orvex {
+
+// What a line is drawn with.
+struct Pen {
+    std::uint32_t rgb = 0xFFFFFF;
+    const std::vector<double>* dashes = nullptr; // of a line type at scale 1; null is continuous
+    double dashScale = 1.0;
+
+    friend bool operator==(const Pen&, const Pen&) = default;
+};
+
+// Takes what entities draw, in the plan. What has a coordinate that isn't a number, or lies out
+// of the range of drawings, is passed over: it can't be seen, and it must not spoil the rest.
+class Ink {
+public:
+    Ink() = default;
+    Ink(const Ink&) = delete;
+    Ink& operator=(const Ink&) = delete;
+    virtual ~Ink() = default;
+
+    void stroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen);
+    void fill(std::span<const PlanPoint> outline, std::uint32_t rgb);
+    void label(const Label& label);
+
+    // All that it was given so far.
+    [[nodiscard]] std::size_t pointCount() const { return m_pointCount; }
+    // False when colours and line types needn't be looked up.
+    [[nodiscard]] virtual bool wantsPens() const = 0;
+
+private:
+    virtual void takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) = 0;
+    virtual void takeFill(std::span<const PlanPoint> outline, std::uint32_t rgb) = 0;
+    virtual void takeLabel(const Label& label) = 0;
+
+    std::size_t m_pointCount = 0;
+};
+
+// Keeps all of it.
+class AppearanceInk final : public Ink {
+public:
+    explicit AppearanceInk(Appearance& appearance) : m_appearance(appearance) {}
+
+    [[nodiscard]] bool wantsPens() const override { return true; }
+
+private:
+    void takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) override;
+    void takeFill(std::span<const PlanPoint> outline, std::uint32_t rgb) override;
+    void takeLabel(const Label& label) override;
+    std::uint32_t dashesOf(const Pen& pen);
+
+    Appearance& m_appearance;
+};
+
+// Keeps only what it covers, so that a whole drawing can be measured in no more memory than one
+// box.
+class BoxInk final : public Ink {
+public:
+    [[nodiscard]] const PlanBox& box() const { return m_box; }
+    [[nodiscard]] bool wantsPens() const override { return false; }
+
+private:
+    void takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) override;
+    void takeFill(std::span<const PlanPoint> outline, std::uint32_t rgb) override;
+    void takeLabel(const Label& label) override;
+
+    PlanBox m_box;
+};
+
+// What a text covers, by the usual width of letters; fonts differ a little.
+PlanBox labelBox(const Label& label);
+
+} // namespace orvex

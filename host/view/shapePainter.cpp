@@ -1,0 +1,84 @@
+#include "shapePainter.h"
+
+#include "arcs.h"
+
+#include <array>
+#include <cmath>
+
+namespace orvex {
+
+namespace {
+
+constexpr double kLineSpacing = 5.0 / 3.0; // base line to base line, of a capital's height
+
+// How many lines the text's first line stands above its anchor.
+double linesAboveAnchor(const TextShape& text) {
+    const auto following = static_cast<double>(text.lines.size()) - 1.0;
+    switch (text.vertical) {
+    case 3:
+        return 0.0;
+    case 2:
+        return following / 2.0;
+    default:
+        return following;
+    }
+}
+
+} // namespace
+
+void paintShape(const LineShape& line, const Pen& pen, Pencil& pencil) {
+    const std::array<KdGePoint3d, 2> ends{line.start, line.end};
+    pencil.stroke(ends, StrokeRole::line, pen);
+}
+
+void paintShape(const PolylineShape& polyline, const Pen& pen, Pencil& pencil) {
+    pencil.stroke(polylineChain(polyline), StrokeRole::line, pen);
+}
+
+void paintShape(const ConicShape& conic, const Pen& pen, Pencil& pencil) {
+    pencil.stroke(conicChain(conic), StrokeRole::line, pen);
+}
+
+void paintShape(const TextShape& text, const Pen& pen, Pencil& pencil) {
+    const PlanPoint along = pencil.directionInPlan(text.direction);
+    const PlanPoint up = pencil.directionInPlan(text.up * text.height);
+    Label label;
+    label.height = std::hypot(up.x, up.y);
+    label.angle = std::atan2(along.y, along.x);
+    label.horizontal = text.horizontal;
+    label.vertical = text.vertical;
+    label.rgb = pen.rgb;
+    double above = linesAboveAnchor(text);
+    for (const std::wstring& line : text.lines) {
+        const double rise = above * kLineSpacing * text.height;
+        label.anchor = pencil.inPlan(text.position + text.up * rise);
+        label.text = line;
+        pencil.label(label);
+        above -= 1.0;
+    }
+}
+
+void paintShape(const SolidShape& solid, const Pen& pen, Pencil& pencil) {
+    if (solid.corners.empty()) {
+        return;
+    }
+    pencil.fill(solid.corners, pen.rgb);
+    std::vector<KdGePoint3d> outline = solid.corners;
+    outline.push_back(outline.front());
+    pencil.stroke(outline, StrokeRole::line, pen);
+}
+
+void paintShape(const OutlinesShape& outlines, const Pen& pen, Pencil& pencil) {
+    for (const PolylineShape& path : outlines.paths) {
+        paintShape(path, pen, pencil);
+    }
+    for (const ConicShape& arc : outlines.arcs) {
+        paintShape(arc, pen, pencil);
+    }
+}
+
+void paintShape(const PointShape& point, const Pen& pen, Pencil& pencil) {
+    pencil.stroke({&point.position, 1}, StrokeRole::line, pen);
+}
+
+} // namespace orvex

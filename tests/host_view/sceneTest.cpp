@@ -1,0 +1,220 @@
+#include "Scene.h"
+
+#include "MlineSketch.h"
+#include "TestDrawing.h"
+
+#include <cmath>
+#include <numbers>
+
+#include <gmock/gmock.h>
+
+namespace orvex::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+EntityTraits onLayer(const wchar_t* layer, std::uint16_t colour = 256) {
+    EntityTraits traits;
+    traits.layer = layer;
+    traits.color.setColorIndex(colour);
+    return traits;
+}
+
+void expectBox(const PlanBox& box, double x1, double y1, double x2, double y2) {
+    EXPECT_NEAR(box.low.x, x1, 1e-9);
+    EXPECT_NEAR(box.low.y, y1, 1e-9);
+    EXPECT_NEAR(box.high.x, x2, 1e-9);
+    EXPECT_NEAR(box.high.y, y2, 1e-9);
+}
+
+TEST(ScenePick, TakesTheNearestAndOfEquallyNearOnesTheLater) {
+    TestDrawing drawing;
+    KdDbStub& far = drawing.addLine(0, 10.8, 20, 10.8);
+    KdDbStub& near = drawing.addLine(0, 10.2, 20, 10.2);
+    KdDbStub& below = drawing.addLine(0, 9.8, 20, 9.8);
+    Scene scene(drawing.database);
+    EXPECT_EQ(scene.pick({5, 10.1}, 1), &near);
+    EXPECT_EQ(scene.pick({5, 10}, 1), &below) << "0.2 on either side";
+    EXPECT_EQ(scene.pick({5, 10.7}, 1), &far);
+    EXPECT_EQ(scene.pick({5, 12}, 1), nullptr);
+    EXPECT_EQ(scene.pick({5, 10.8}, 0), &far) << "a square of no size";
+}
+
+TEST(ScenePick, FindsAMultilineByItsStretchesAlone) {
+    TestDrawing drawing;
+    MlineContent wall = sketchEastward(0, 0, 10, {{1, 0, 4, 6}, {-1, 0}});
+    wall.style = KdDbObjectId(&drawing.addStyle(sketchStyle(1 | 16 | 1024, {1, -1})));
+    KdDbStub& stub = drawing.addMline(wall);
+    Scene scene(drawing.database);
+    ASSERT_EQ(scene.appearance(stub).strokes.size(), 5U) << "three stretches and two caps";
+    EXPECT_EQ(scene.pick({3, 1}, 0.5), &stub);
+    EXPECT_EQ(scene.pick({5, 1}, 0.5), nullptr) << "in the gap";
+    EXPECT_EQ(scene.pick({5, -1}, 0.5), &stub) << "beside the gap";
+    EXPECT_EQ(scene.pick({0, 0}, 0.5), nullptr) << "on the start's cap";
+    EXPECT_EQ(scene.pick({11, 0}, 0.5), nullptr) << "on the end's arc";
+    EXPECT_EQ(scene.pick({2, 0}, 0.5), nullptr) << "on the fill";
+}
+
+TEST(ScenePick, PassesOverWhatIsNotSeen) {
+    TestDrawing drawing;
+    drawing.addLayer(L"OFF", 1).setIsOff(true);
+    drawing.addLayer(L"FROZEN", 1).setIsFrozen(true);
+    drawing.addLine(0, 0, 10, 0, onLayer(L"OFF"));
+    drawing.addLine(0, 0, 10, 0, onLayer(L"frozen"));
+    EntityTraits invisible;
+    invisible.visible = false;
+    drawing.addLine(0, 0, 10, 0, invisible);
+    drawing.core.erase(drawing.addLine(0, 0, 10, 0));
+    BlockEntities& paper = drawing.core.addBlock(L"*Paper_Space7");
+    drawing.addShape(LineShape{{0, 0, 0}, {10, 0, 0}}, {}, &paper);
+    Scene scene(drawing.database);
+    EXPECT_EQ(scene.pick({5, 0}, 1), nullptr);
+    EXPECT_TRUE(scene.extents().isEmpty());
+
+    KdDbStub& hidden = drawing.addLine(0, 0, 10, 0);
+    scene.hide(hidden);
+    EXPECT_EQ(scene.pick({5, 0}, 1), nullptr);
+    scene.show(hidden);
+    EXPECT_EQ(scene.pick({5, 0}, 1), &hidden);
+}
+
+TEST(ScenePick, TurnsPixelsIntoItsReach) {
+    TestDrawing drawing;
+    KdDbStub& line = drawing.addLine(0, 0, 10, 0);
+    Scene scene(drawing.database);
+    scene.setUnitsPerPixel([] { return 0.5; });
+    EXPECT_EQ(scene.entityAt({5, 1.5, 99}, 3), &line);
+    EXPECT_EQ(scene.entityAt({5, 1.6, 0}, 3), nullptr);
+    EXPECT_EQ(scene.entityAt({std::nan(""), 0, 0}, 3), nullptr);
+}
+
+TEST(SceneExtents, AreThoseOfAllStrokes) {
+    TestDrawing drawing;
+    Scene scene(drawing.database);
+    EXPECT_TRUE(scene.extents().isEmpty());
+    // A half circle of radius 1 beyond the end.
+    MlineContent wall = sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}});
+    wall.style = KdDbObjectId(&drawing.addStyle(sketchStyle(1024, {1, -1})));
+    drawing.addMline(wall);
+    expectBox(scene.extents(), 0, -1, 11, 1);
+    drawing.addShape(ConicShape{{20, 0, 0}, {5, 0, 0}, {0, 5, 0}});
+    drawing.addLine(std::nan(""), 0, 1e300, 1e200);
+    expectBox(scene.extents(), 0, -5, 25, 5);
+}
+
+TEST(SceneLook, ResolvesColoursByLayerAndByBlock) {
+    TestDrawing drawing;
+    drawing.addLayer(L"RED", 1);
+    auto style = sketchStyle(0, {1, 0, -1});
+    style.elements[1].color.setColorIndex(0); // by block: as the multiline
+    style.elements[2].color.setColorIndex(5);
+    const KdDbObjectId id(&drawing.addStyle(style));
+    MlineContent wall = sketchEastward(0, 0, 10, {{1, 0}, {0, 0}, {-1, 0}, {-2, 0}});
+    wall.style = id;
+    KdDbStub& stub = drawing.addMline(wall, L"RED");
+    TestDrawing::mline(stub).setColorIndex(3);
+    Scene scene(drawing.database);
+    const Appearance& look = scene.appearance(stub);
+    ASSERT_EQ(look.strokes.size(), 4U);
+    EXPECT_EQ(look.strokes[0].rgb, paletteRgb(1));
+    EXPECT_EQ(look.strokes[1].rgb, paletteRgb(3));
+    EXPECT_EQ(look.strokes[2].rgb, paletteRgb(5));
+    EXPECT_EQ(look.strokes[3].rgb, paletteRgb(3)) << "an element that the style doesn't have";
+}
+
+TEST(SceneLook, AnInsertPlacesItsBlockAndGivesItLayerAndColour) {
+    TestDrawing drawing;
+    drawing.addLayer(L"RED", 1);
+    drawing.addLayer(L"GREEN", 3);
+    BlockEntities& block = drawing.core.addBlock(L"CHAIR");
+    block.basePoint = {1, 1, 0};
+    const LineShape line{{1, 1, 0}, {3, 1, 0}};
+    drawing.addShape(line, onLayer(L"0"), &block);
+    drawing.addShape(line, onLayer(L"GREEN"), &block);
+    drawing.addShape(line, onLayer(L"GREEN", 0), &block);
+    drawing.addShape(ConicShape{{1, 1, 0}, {1, 0, 0}, {0, 1, 0}}, onLayer(L"0", 4), &block);
+
+    // A quarter turn, twice as large, two columns 10 apart.
+    InsertShape insert = insertAt({100, 0, 0}, L"chair");
+    insert.xAxis = {0, 2, 0};
+    insert.yAxis = {-2, 0, 0};
+    insert.columns = 2;
+    insert.columnStep = {10, 0, 0};
+    KdDbStub& stub = drawing.addShape(insert, onLayer(L"RED", 6));
+    Scene scene(drawing.database);
+    const Appearance& look = scene.appearance(stub);
+    ASSERT_EQ(look.strokes.size(), 8U);
+    EXPECT_THAT(look.strokes[0].points, ElementsAre(PlanPoint{100, 0}, PlanPoint{100, 4}));
+    EXPECT_THAT(look.strokes[4].points, ElementsAre(PlanPoint{110, 0}, PlanPoint{110, 4}));
+    EXPECT_EQ(look.strokes[0].rgb, paletteRgb(1)) << "by layer, and layer 0 is the insert's";
+    EXPECT_EQ(look.strokes[1].rgb, paletteRgb(3));
+    EXPECT_EQ(look.strokes[2].rgb, paletteRgb(6));
+    EXPECT_EQ(look.strokes[3].rgb, paletteRgb(4));
+    expectBox(scene.extents(), 98, -2, 112, 4);
+    EXPECT_EQ(scene.pick({100, 3}, 0.5), &stub);
+}
+
+TEST(SceneLook, BlocksInBlocksEndSomewhere) {
+    TestDrawing drawing;
+    // A block that holds itself beside a line, and a tower of blocks that doubles at each floor.
+    BlockEntities& cycle = drawing.core.addBlock(L"CYCLE");
+    drawing.addShape(LineShape{{0, 0, 0}, {1, 0, 0}}, {}, &cycle);
+    drawing.addShape(insertAt({5, 0, 0}, L"CYCLE"), {}, &cycle);
+    KdDbStub& round = drawing.addShape(insertAt({}, L"CYCLE"));
+    for (int floor = 0; floor < 30; ++floor) {
+        BlockEntities& tower = drawing.core.addBlock(L"TOWER" + std::to_wstring(floor));
+        const std::wstring below = L"TOWER" + std::to_wstring(floor - 1);
+        for (const double shift : {0.0, 1.0}) {
+            if (floor == 0) {
+                drawing.addShape(LineShape{{shift, 0, 0}, {shift, 1, 0}}, {}, &tower);
+            } else {
+                drawing.addShape(insertAt({shift, 0, 0}, below), {}, &tower);
+            }
+        }
+    }
+    InsertShape grid = insertAt({}, L"TOWER29");
+    grid.columns = grid.rows = 32767;
+    KdDbStub& bomb = drawing.addShape(grid);
+    Scene scene(drawing.database);
+    EXPECT_EQ(scene.appearance(round).strokes.size(), 1U);
+    EXPECT_LE(scene.appearance(bomb).strokes.size(), 50'000U);
+    EXPECT_THAT(scene.appearance(drawing.addShape(insertAt({}, L"*Model_Space"))).strokes,
+                IsEmpty());
+}
+
+TEST(SceneLook, TextBecomesLabelsLineByLine) {
+    TestDrawing drawing;
+    const TextShape text{{10, 20, 0}, {0, 1, 0}, {-1, 0, 0}, 3, 1, 3, {L"one", L"two"}};
+    KdDbStub& stub = drawing.addShape(text);
+    Scene scene(drawing.database);
+    const Appearance& look = scene.appearance(stub);
+    ASSERT_EQ(look.labels.size(), 2U);
+    EXPECT_EQ(look.labels[0].anchor, (PlanPoint{10, 20}));
+    EXPECT_NEAR(look.labels[1].anchor.x, 15, 1e-9) << "5/3 of the height further down";
+    EXPECT_EQ(look.labels[1].text, L"two");
+    EXPECT_DOUBLE_EQ(look.labels[0].angle, std::numbers::pi / 2);
+    EXPECT_DOUBLE_EQ(look.labels[0].height, 3);
+}
+
+TEST(SceneVisit, GoesThroughWhatIsSeenInDrawingOrder) {
+    TestDrawing drawing;
+    KdDbStub& first = drawing.addLine(0, 0, 10, 0);
+    KdDbStub& away = drawing.addLine(0, 100, 10, 100);
+    KdDbStub& last = drawing.addLine(5, -5, 5, 5);
+    Scene scene(drawing.database);
+    std::vector<KdDbStub*> visited;
+    const auto note = [&](KdDbStub& stub, const Appearance& look) {
+        EXPECT_TRUE(look.seen);
+        visited.push_back(&stub);
+    };
+    scene.visit({{0, -10}, {20, 10}}, note);
+    EXPECT_THAT(visited, ElementsAre(&first, &last));
+    visited.clear();
+    scene.hide(last);
+    scene.visitAll(note);
+    EXPECT_THAT(visited, ElementsAre(&first, &away));
+}
+
+} // namespace
+} // namespace orvex::testing
