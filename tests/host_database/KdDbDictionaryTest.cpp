@@ -1,0 +1,142 @@
+#include "KdDbDictionary.h"
+#include "DatabaseCore.h"
+#include "KdDbDatabase.h"
+#include "KdDbMlineStyle.h"
+#include "kddbObjects.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Names = std::vector<std::wstring>;
+
+class Dictionary : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_EQ(m_database.getMLStyleDictionary(m_styles, kForWrite), Status::done);
+    }
+
+    KdDbObjectId put(const wchar_t* key) {
+        auto* const style = new KdDbMlineStyle;
+        style->initMlineStyle();
+        style->setName(key);
+        KdDbObjectId id;
+        EXPECT_EQ(m_styles->setAt(key, style, id), Status::done);
+        EXPECT_EQ(style->objectId(), id);
+        return id;
+    }
+
+    Names names() const {
+        Names result;
+        const std::unique_ptr<KdDbDictionaryIterator> iterator(m_styles->newIterator());
+        for (; !iterator->done(); iterator->next()) {
+            result.emplace_back(iterator->name());
+        }
+        return result;
+    }
+
+    KdDbDatabase m_database;
+    KdDbDictionary* m_styles = nullptr;
+};
+
+TEST_F(Dictionary, KeysIgnoreCaseAndStayAsTyped) {
+    const KdDbObjectId wall = put(L"Wall");
+    KdDbObjectId found;
+    EXPECT_EQ(m_styles->getAt(L"WALL", found), Status::done);
+    EXPECT_EQ(found, wall);
+    EXPECT_TRUE(m_styles->has(L"wALL"));
+    std::wstring key;
+    EXPECT_EQ(m_styles->nameAt(wall, key), Status::done);
+    EXPECT_EQ(key, L"Wall");
+    EXPECT_NE(m_styles->getAt(L"Wal", found), Status::done);
+    EXPECT_TRUE(found.isNull());
+    EXPECT_NE(m_styles->getAt(nullptr, found), Status::done);
+    EXPECT_NE(m_styles->nameAt(KdDbObjectId(), key), Status::done);
+    EXPECT_EQ(key, L"");
+}
+
+TEST_F(Dictionary, WhatIsPutInIsOpenAndHasAHandle) {
+    const KdDbObjectId id = put(L"Wall");
+    EXPECT_GT(id.stub()->openForWrite, 0);
+    EXPECT_NE(id.stub()->handle, 0U);
+    EXPECT_EQ(m_database.core().findHandle(id.stub()->handle), id.stub());
+    KdDbMlineStyle* style = nullptr;
+    EXPECT_EQ(kddbOpenObject(style, id, kForRead), Status::done);
+    EXPECT_EQ(style->ownerId(), m_styles->objectId());
+}
+
+TEST_F(Dictionary, RemovingErasesAndLeavesNoName) {
+    const KdDbObjectId id = put(L"Wall");
+    EXPECT_EQ(m_styles->remove(L"wall"), Status::done);
+    EXPECT_FALSE(m_styles->has(L"Wall"));
+    EXPECT_FALSE(id.isValid());
+    EXPECT_NE(m_styles->remove(L"wall"), Status::done);
+    EXPECT_EQ(names(), Names{L"STANDARD"});
+}
+
+TEST_F(Dictionary, AnErasedObjectTakesItsEntryAlong) {
+    const KdDbObjectId id = put(L"Wall");
+    id.stub()->object->erase();
+    EXPECT_FALSE(m_styles->has(L"Wall"));
+}
+
+TEST_F(Dictionary, ANewNameKeepsIdAndPlace) {
+    const KdDbObjectId a = put(L"A");
+    put(L"B");
+    EXPECT_EQ(m_styles->setName(L"a", L"C"), Status::done);
+    EXPECT_EQ(names(), (Names{L"STANDARD", L"C", L"B"}));
+    KdDbObjectId found;
+    m_styles->getAt(L"C", found);
+    EXPECT_EQ(found, a);
+    EXPECT_NE(m_styles->setName(L"C", L"b"), Status::done); // another entry's
+    EXPECT_NE(m_styles->setName(L"A", L"D"), Status::done); // gone
+    EXPECT_EQ(m_styles->setName(L"C", L"c"), Status::done); // its own in another case
+    EXPECT_EQ(names(), (Names{L"STANDARD", L"c", L"B"}));
+}
+
+TEST_F(Dictionary, AnotherObjectTakesThePlaceOfTheOld) {
+    const KdDbObjectId first = put(L"A");
+    put(L"B");
+    const KdDbObjectId second = put(L"a");
+    EXPECT_FALSE(first.isValid());
+    EXPECT_TRUE(second.isValid());
+    EXPECT_EQ(names(), (Names{L"STANDARD", L"A", L"B"}));
+}
+
+TEST_F(Dictionary, AnIteratorPassesOverWhatIsRemovedMeanwhile) {
+    put(L"A");
+    put(L"B");
+    put(L"C");
+    const std::unique_ptr<KdDbDictionaryIterator> iterator(m_styles->newIterator());
+    m_styles->remove(L"B");
+    Names seen;
+    for (; !iterator->done(); iterator->next()) {
+        seen.emplace_back(iterator->name());
+        m_styles->remove(iterator->name());
+    }
+    EXPECT_EQ(seen, (Names{L"STANDARD", L"A", L"C"}));
+    EXPECT_EQ(m_styles->numEntries(), 0);
+    EXPECT_TRUE(iterator->objectId().isNull());
+}
+
+TEST_F(Dictionary, ForeignObjectsAreRefused) {
+    KdDbDatabase other;
+    KdDbDictionary* others = nullptr;
+    other.getMLStyleDictionary(others, kForWrite);
+    KdDbObjectId standard;
+    others->getAt(L"STANDARD", standard);
+    KdDbObjectId id = standard;
+    EXPECT_NE(m_styles->setAt(L"X", standard.stub()->object.get(), id), Status::done);
+    EXPECT_TRUE(id.isNull());
+    EXPECT_NE(m_styles->setAt(L"X", nullptr, id), Status::done);
+    KdDbDictionary outside;
+    KdDbMlineStyle style;
+    EXPECT_NE(outside.setAt(L"X", &style, id), Status::done);
+    EXPECT_FALSE(m_styles->has(L"X"));
+}
+
+} // namespace

@@ -1,0 +1,140 @@
+#include "KdDbMlineStyle.h"
+#include "KdDbDatabase.h"
+#include "MlineStyleContent.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+
+std::vector<double> offsets(const KdDbMlineStyle& style) {
+    std::vector<double> result;
+    for (int index = 0; index < style.numElements(); ++index) {
+        double offset = 0.0;
+        KdCmColor color;
+        KdDbObjectId linetype;
+        EXPECT_EQ(style.getElementAt(index, offset, color, linetype), Status::done);
+        result.push_back(offset);
+    }
+    return result;
+}
+
+void add(KdDbMlineStyle& style, int index, double offset) {
+    int given = index;
+    EXPECT_EQ(style.addElement(given, offset, KdCmColor(), KdDbObjectId(), true), Status::done);
+    EXPECT_EQ(given, index);
+}
+
+TEST(KdDbMlineStyle, ElementsKeepTheirOrderAndMayRepeat) {
+    KdDbMlineStyle style;
+    style.initMlineStyle();
+    EXPECT_EQ(offsets(style), (std::vector{0.5, -0.5}));
+    add(style, 0, 0.5);
+    add(style, 0, -9.0);
+    add(style, 4, 7.0);
+    EXPECT_EQ(offsets(style), (std::vector{-9.0, 0.5, 0.5, -0.5, 7.0}));
+    int index = 2;
+    EXPECT_EQ(style.setElement(index, 0.5, KdCmColor(), KdDbObjectId()), Status::done);
+    EXPECT_EQ(index, 2);
+    EXPECT_EQ(style.removeElementAt(0), Status::done);
+    EXPECT_EQ(offsets(style), (std::vector{0.5, 0.5, -0.5, 7.0}));
+}
+
+TEST(KdDbMlineStyle, IndicesOutsideAreRefused) {
+    KdDbMlineStyle style;
+    style.initMlineStyle();
+    double offset = 42.0;
+    KdCmColor color;
+    color.setColorIndex(3);
+    KdDbObjectId linetype;
+    for (int index : {-1, 2, 99}) {
+        EXPECT_NE(style.getElementAt(index, offset, color, linetype), Status::done);
+        EXPECT_NE(style.setElement(index, 1.0, color, linetype), Status::done);
+        EXPECT_NE(style.removeElementAt(index), Status::done);
+    }
+    EXPECT_EQ(offset, 42.0);
+    EXPECT_EQ(color.colorIndex(), 3);
+    int beyond = 3;
+    EXPECT_NE(style.addElement(beyond, 1.0, color, linetype, false), Status::done);
+    EXPECT_EQ(offsets(style), (std::vector{0.5, -0.5}));
+}
+
+TEST(KdDbMlineStyle, EachFlagStandsForItself) {
+    using Setter = void (KdDbMlineStyle::*)(bool);
+    using Getter = bool (KdDbMlineStyle::*)() const;
+    const struct {
+        int bit;
+        Setter set;
+        Getter get;
+    } flags[] = {
+        {1, &KdDbMlineStyle::setFilled, &KdDbMlineStyle::filled},
+        {2, &KdDbMlineStyle::setShowMiters, &KdDbMlineStyle::showMiters},
+        {16, &KdDbMlineStyle::setStartSquareCap, &KdDbMlineStyle::startSquareCap},
+        {32, &KdDbMlineStyle::setStartInnerArcs, &KdDbMlineStyle::startInnerArcs},
+        {64, &KdDbMlineStyle::setStartRoundCap, &KdDbMlineStyle::startRoundCap},
+        {256, &KdDbMlineStyle::setEndSquareCap, &KdDbMlineStyle::endSquareCap},
+        {512, &KdDbMlineStyle::setEndInnerArcs, &KdDbMlineStyle::endInnerArcs},
+        {1024, &KdDbMlineStyle::setEndRoundCap, &KdDbMlineStyle::endRoundCap},
+    };
+    for (const auto& flag : flags) {
+        KdDbMlineStyle style;
+        (style.*flag.set)(true);
+        EXPECT_EQ(style.values().flags, flag.bit);
+        for (const auto& other : flags) {
+            EXPECT_EQ((style.*other.get)(), other.bit == flag.bit);
+        }
+        (style.*flag.set)(false);
+        EXPECT_EQ(style.values().flags, 0);
+    }
+}
+
+TEST(KdDbMlineStyle, SetTakesAllButTheName) {
+    KdDbMlineStyle source;
+    source.initMlineStyle();
+    source.setName(L"WALL");
+    source.setDescription(L"of brick");
+    source.setFilled(true);
+    source.setStartAngle(0.25);
+    add(source, 1, 0.125);
+    KdDbMlineStyle target;
+    target.initMlineStyle();
+    target.setName(L"COPY");
+    ASSERT_EQ(target.set(source, true), Status::done);
+    EXPECT_STREQ(target.name(), L"COPY");
+    EXPECT_STREQ(target.description(), L"of brick");
+    EXPECT_TRUE(target.filled());
+    EXPECT_EQ(target.startAngle(), 0.25);
+    EXPECT_EQ(offsets(target), offsets(source));
+    ASSERT_EQ(target.set(target, true), Status::done);
+    EXPECT_EQ(offsets(target), offsets(source));
+}
+
+TEST(KdDbMlineStyle, ACopyDoesntFollow) {
+    KdDbMlineStyle style;
+    style.initMlineStyle();
+    const KdDbMlineStyle copy(style);
+    style.removeElementAt(0);
+    style.setName(L"OTHER");
+    EXPECT_EQ(copy.numElements(), 2);
+    EXPECT_STREQ(copy.name(), L"STANDARD");
+}
+
+TEST(KdDbMlineStyle, AnUnknownLineTypeKeepsItsNameTillAnotherIsSet) {
+    const KdDbDatabase database;
+    auto content = std::make_shared<orvex::MlineStyleContent>();
+    content->elements.push_back({1.0, KdCmColor(), KdDbObjectId(), L"HEDGE"});
+    KdDbMlineStyle style;
+    style.setContent(content);
+    int index = 0;
+    style.setElement(index, 2.0, KdCmColor(), KdDbObjectId());
+    EXPECT_EQ(style.values().elements[0].linetypeName, L"HEDGE");
+    EXPECT_EQ(style.values().elements[0].offset, 2.0);
+    EXPECT_EQ(content->elements[0].offset, 1.0);
+    style.setElement(index, 2.0, KdCmColor(), database.linetypeTableId());
+    EXPECT_TRUE(style.values().elements[0].linetypeName.empty());
+    style.setElement(index, 2.0, KdCmColor(), KdDbObjectId());
+    EXPECT_TRUE(style.values().elements[0].linetypeName.empty());
+}
+
+} // namespace
