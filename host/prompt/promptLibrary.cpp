@@ -33,7 +33,8 @@ PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
         return answer;
     }
     answer = session.source->ask(request);
-    printLines(request.text + answer.echo);
+    const bool needsBlank = !request.text.empty() && !request.text.ends_with(L' ');
+    printLines(request.text + (needsBlank ? L" " : L"") + answer.echo);
     if (answer.kind == PromptAnswer::Kind::keyword) {
         const auto keyword = matchKeyword(request.keywords, answer.keyword);
         session.lastKeyword = keyword.value_or(L"");

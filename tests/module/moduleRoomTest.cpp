@@ -1,0 +1,63 @@
+#include "CKdExtensionModule.h"
+#include "resourceLibrary.h"
+#include "resourceLibraryName.h"
+#include "toolTable.h"
+
+#include <gmock/gmock.h>
+
+#include <set>
+
+namespace {
+
+TEST(ResourceLibraryName, isMadeOfTheModulesStem) {
+    const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+        {L"C:\\cad\\OmxMLStyle.omx", L"OmxMLStyleRes.dll"},
+        {L"libOmxMLStyle.omx", L"libOmxMLStyleRes.dll"},
+        {L"/usr/lib/libOmxMLStyle.omx", L"/usr/lib/libOmxMLStyleRes.dll"},
+        {L"a.b\\stem", L"stemRes.dll"}, // the only "." stands before the stem
+        {L"nodots", L"nodotsRes.dll"},
+        {L"ends\\", L"Res.dll"},
+        {L"a.om", L"a.om"},
+        {L"", L""},
+    };
+    for (const auto& [path, name] : cases) {
+        EXPECT_EQ(resourceLibraryName(path), name) << path;
+    }
+}
+
+TEST(ResourceLibraryName, ofAnUnknownModuleOpensNothing) {
+    EXPECT_EQ(_loadResLib(nullptr), nullptr);
+}
+
+TEST(ExtensionModule, attachesOnceTillItIsDetached) {
+    CKdExtensionModule record;
+    const auto first = reinterpret_cast<HINSTANCE>(&record);
+    AfxSetResourceHandle(first);
+    EXPECT_TRUE(record.AttachInstance(first));
+    EXPECT_EQ(record.m_defaultResourceHandle, first);
+
+    AfxSetResourceHandle(nullptr);
+    EXPECT_FALSE(record.AttachInstance(nullptr));
+    EXPECT_EQ(record.m_moduleResourceHandle, first);
+
+    record.DetachInstance();
+    EXPECT_TRUE(record.AttachInstance(nullptr));
+    EXPECT_EQ(record.m_moduleResourceHandle, nullptr);
+}
+
+TEST(ToolTable, numbersTwelveToolsWithKeywordsOfTheirOwn) {
+    std::set<std::wstring> keywords;
+    int number = 0;
+    for (const ToolRow& row : toolTable()) {
+        EXPECT_EQ(row.number, ++number);
+        keywords.insert(row.keyword);
+        EXPECT_EQ(toolOfKeyword(row.keyword), row.number);
+    }
+    EXPECT_EQ(number, 12);
+    EXPECT_EQ(keywords.size(), 12U);
+    EXPECT_EQ(toolOfKeyword(L"wa"), 12);
+    EXPECT_EQ(toolOfKeyword(L"WAX"), 0);
+    EXPECT_EQ(toolOfKeyword(L""), 0);
+}
+
+} // namespace
