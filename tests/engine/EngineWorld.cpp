@@ -1,0 +1,146 @@
+#include "EngineWorld.h"
+
+#include "DatabaseCore.h"
+#include "KdDbStub.h"
+#include "MlineBuilder.h"
+#include "kddbObjects.h"
+#include "parameterLists.h"
+
+#include <algorithm>
+
+namespace orvex::testing {
+
+PromptAnswer QueueSource::ask(const PromptRequest& request) {
+    std::wstring text = request.text;
+    m_echo = text;
+    for (const std::wstring& word : request.keywords) {
+        text += L" [" + word + L"]";
+    }
+    prompts.push_back(text);
+    if (answers.empty()) {
+        return {};
+    }
+    PromptAnswer answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+void QueueSource::print(const std::wstring& line) {
+    if (!m_echo.empty() && line.starts_with(m_echo)) {
+        m_echo.clear();
+    } else {
+        lines.push_back(line);
+    }
+}
+
+void RecordingDisplay::showEntity(KdDbStub& entity) {
+    events.push_back("show " + letterOf(entity));
+}
+
+void RecordingDisplay::hideEntity(KdDbStub& entity) {
+    events.push_back("hide " + letterOf(entity));
+}
+
+std::string RecordingDisplay::letterOf(const KdDbStub& entity) const {
+    const auto found = std::find(known.begin(), known.end(), &entity);
+    return found == known.end() ? "?"
+                                : std::string(1, static_cast<char>('A' + (found - known.begin())));
+}
+
+namespace {
+
+char theLibrary = 0;
+
+} // namespace
+
+EngineWorld::EngineWorld()
+    : resources(reinterpret_cast<HINSTANCE>(&theLibrary)),
+      m_documentBefore(setCurrentDocument(&m_document)), m_sessionBefore(PromptSession::current()) {
+    PromptSession& session = PromptSession::current();
+    session = PromptSession();
+    session.source = &user;
+    session.display = &display;
+    HostSeams::current() = {.resources = resources, .errorNumber = 0};
+}
+
+EngineWorld::~EngineWorld() {
+    PromptSession::current() = m_sessionBefore;
+    setCurrentDocument(m_documentBefore);
+}
+
+KdDbMline* EngineWorld::addMline(const std::vector<KdGePoint3d>& chain,
+                                 const std::vector<double>& offsets, bool closed) {
+    auto made = std::make_unique<KdDbMline>();
+    KdDbMline* const mline = made.get();
+    buildMline(*mline, chain, offsets, closed);
+    mline->setStyle(database.cmlstyle());
+    DatabaseCore& core = database.core();
+    KdDbStub& stub = core.adopt(std::move(made), ObjectKind::mline, nullptr);
+    core.appendEntity(core.modelSpace(), stub);
+    display.known.push_back(&stub);
+    return mline;
+}
+
+KdDbObject* EngineWorld::addLine() {
+    auto made = std::make_unique<KdDbEntity>();
+    KdDbObject* const line = made.get();
+    DatabaseCore& core = database.core();
+    KdDbStub& stub = core.adopt(std::move(made), ObjectKind::entity, nullptr);
+    core.appendEntity(core.modelSpace(), stub);
+    display.known.push_back(&stub);
+    return line;
+}
+
+PromptAnswer EngineWorld::pick(const KdDbObject* entity, double x, double y) {
+    PromptAnswer answer;
+    answer.kind = PromptAnswer::Kind::point;
+    answer.point = {x, y, 0.0};
+    answer.handle = entity->objectId().stub()->handle;
+    return answer;
+}
+
+PromptAnswer EngineWorld::miss() {
+    PromptAnswer answer;
+    answer.kind = PromptAnswer::Kind::point;
+    answer.handle = 0;
+    return answer;
+}
+
+PromptAnswer EngineWorld::keyword(const wchar_t* word) {
+    PromptAnswer answer;
+    answer.kind = PromptAnswer::Kind::keyword;
+    answer.keyword = word;
+    return answer;
+}
+
+PromptAnswer EngineWorld::cancel() {
+    return {};
+}
+
+PromptAnswer EngineWorld::enter() {
+    PromptAnswer answer;
+    answer.kind = PromptAnswer::Kind::empty;
+    return answer;
+}
+
+void EngineWorld::answer(std::initializer_list<PromptAnswer> answers) {
+    user.answers.assign(answers);
+    user.prompts.clear();
+    user.lines.clear();
+    display.events.clear();
+}
+
+void EngineWorld::nameOf(const KdDbObject* entity, long (&name)[2]) {
+    kddbGetEntityName(name, entity->objectId());
+}
+
+bool EngineWorld::isOpen(const KdDbObject* entity) {
+    const KdDbStub& stub = *entity->objectId().stub();
+    return stub.openForRead + stub.openForWrite > 0;
+}
+
+std::vector<double> EngineWorld::breaks(const KdDbMline* mline, int vertex, int element) {
+    return lineList(mline, vertex, element);
+}
+
+} // namespace orvex::testing

@@ -1,0 +1,252 @@
+#include "CMlineEdit.h"
+
+#include "EngineWorld.h"
+#include "ObjectContent.h"
+#include "parameterLists.h"
+
+namespace {
+
+using orvex::testing::HostSeams;
+using Prompts = std::vector<std::wstring>;
+using Events = std::vector<std::string>;
+
+// A tool whose step marks the first multiline, and the second where told, and ends as told.
+struct TestRun : CMlineEdit {
+    std::vector<StepOutcome> outcomes; // of the cycles in turn, then done
+    bool marksSecond = false;
+    int steps = 0;
+    bool copiedSecond = false;
+
+    StepOutcome step() {
+        mark(m_first);
+        if (marksSecond) {
+            mark(m_second);
+        }
+        copiedSecond = m_undoSecond != nullptr;
+        const auto index = static_cast<std::size_t>(steps++);
+        return index < outcomes.size() ? outcomes[index] : StepOutcome::done;
+    }
+    static void mark(const CMlineSegment& seg) {
+        std::vector<double> list = lineList(seg.m_mline, 0, 0);
+        list.push_back(list.back() + 1.0);
+        storeLineList(seg.m_mline, 0, 0, list);
+    }
+};
+
+class EditCycle : public orvex::testing::EngineWorld {
+protected:
+    KdDbMline* a = addMline({{0, 0, 0}, {10, 0, 0}}, {0});
+    KdDbMline* b = addMline({{0, 5, 0}, {10, 5, 0}}, {0});
+    KdDbObject* line = addLine();
+    TestRun run;
+    EditTool tool = withStep(1);
+
+    // The row of a tool with the test's step.
+    static EditTool withStep(int number) {
+        EditTool row = editTool(number);
+        row.initialise = &CMlineEdit::mlineEditInitialize;
+        row.step = static_cast<EditTool::Step>(&TestRun::step);
+        return row;
+    }
+    int play(std::initializer_list<orvex::PromptAnswer> answers) {
+        answer(answers);
+        return run.runTool(tool, resources);
+    }
+    std::size_t marks(const KdDbMline* mline) const { return breaks(mline, 0, 0).size() - 2; }
+
+    orvex::PromptAnswer onA = pick(a, 5, 0);
+    orvex::PromptAnswer onB = pick(b, 5, 5);
+};
+
+TEST_F(EditCycle, AToolWithoutAStepRunsNothing) {
+    answer({onA});
+    EXPECT_EQ(run.runTool(EditTool(), resources), 5100);
+    EXPECT_TRUE(user.prompts.empty());
+}
+
+TEST_F(EditCycle, EndsWithTheStatusOfTheLastPrompt) {
+    EXPECT_EQ(play({cancel()}), -5002);
+    EXPECT_EQ(play({enter()}), 5000);
+    EXPECT_EQ(play({onA, enter()}), 5000);
+    EXPECT_EQ(play({onA, cancel()}), -5002);
+    EXPECT_FALSE(isOpen(a)) << "open for read across the second prompt, closed at the exit";
+    EXPECT_EQ(run.steps, 0);
+    EXPECT_EQ(display.events, Events{});
+}
+
+TEST_F(EditCycle, RepeatsItsPromptsTillAMultilineIsPicked) {
+    play({pick(line, 1, 1), miss(), onA, pick(line, 1, 1), miss(), onB, cancel()});
+    EXPECT_EQ(user.prompts, (Prompts{L"#4004", L"#4004", L"#4004", L"#4005", L"#4005", L"#4005",
+                                     L"#4003 [UNDO]"}));
+    EXPECT_EQ(run.steps, 1);
+    EXPECT_TRUE(user.lines.empty());
+    EXPECT_FALSE(isOpen(a));
+    EXPECT_FALSE(isOpen(b));
+}
+
+TEST_F(EditCycle, AnErrorEndsTheToolWhenTheInputIsClosed) {
+    HostSeams::current().errorNumber = 52;
+    EXPECT_EQ(play({miss(), onA}), -5001);
+    EXPECT_EQ(user.prompts.size(), 1U);
+    // Only at the first prompt.
+    HostSeams::current().errorNumber = 52;
+    EXPECT_EQ(play({onA, miss(), cancel()}), -5002);
+    EXPECT_EQ(user.prompts, (Prompts{L"#4004", L"#4005", L"#4005"}));
+}
+
+TEST_F(EditCycle, TakesBackTheLastCycleAlone) {
+    play({onA, onB, onA, onB, keyword(L"undo"), cancel()});
+    EXPECT_EQ(marks(a), 1U) << "the first cycle stays";
+    EXPECT_EQ(user.prompts.back(), L"#4004") << "one deep";
+    EXPECT_EQ(display.events, (Events{"refresh", "refresh", "show A"}));
+}
+
+TEST_F(EditCycle, UndoIsNotOnOfferAtTheSecondPrompt) {
+    play({onA, onB, onA, keyword(L"UNDO")});
+    EXPECT_EQ(user.prompts[3], L"#4005");
+    EXPECT_EQ(marks(a), 1U);
+}
+
+TEST_F(EditCycle, CopiesTheSecondEntityForToolsThatChangeIt) {
+    run.marksSecond = true;
+    play({onA, onB, keyword(L"UNDO")});
+    EXPECT_FALSE(run.copiedSecond) << "one copy";
+    EXPECT_EQ(marks(a), 0U);
+    EXPECT_EQ(marks(b), 1U) << "so the second stays changed";
+
+    tool = withStep(2);
+    play({onA, onB, keyword(L"UNDO")});
+    EXPECT_TRUE(run.copiedSecond);
+    EXPECT_EQ(marks(a), 0U);
+    EXPECT_EQ(marks(b), 1U);
+    EXPECT_EQ(display.events, (Events{"refresh", "show A", "show B"}));
+}
+
+TEST_F(EditCycle, OneEntityTwiceIsCopiedOnce) {
+    tool = withStep(2);
+    play({onA, onA, keyword(L"UNDO")});
+    EXPECT_FALSE(run.copiedSecond);
+    EXPECT_EQ(marks(a), 0U);
+    EXPECT_EQ(display.events, (Events{"refresh", "show A"}));
+    EXPECT_FALSE(isOpen(a));
+}
+
+TEST_F(EditCycle, HidesWhatTheRowSaysBeforeWritingBack) {
+    struct {
+        int number;
+        Events events;
+    } const cases[] = {
+        {3, {"refresh", "show A", "show B"}},
+        {5, {"refresh", "hide A", "show A", "show B"}},
+        {6, {"refresh", "show A", "show B"}},
+        {7, {"refresh", "hide A", "show A", "hide B", "show B"}},
+    };
+    for (const auto& c : cases) {
+        tool = withStep(c.number);
+        play({onA, onB, keyword(L"UNDO")});
+        EXPECT_EQ(display.events, c.events) << c.number;
+    }
+}
+
+TEST_F(EditCycle, AFailedCycleDropsTheCopiesOfEarlierOnes) {
+    for (const StepOutcome failure : {StepOutcome::failedSilently, StepOutcome::noCrossing}) {
+        for (const int number : {1, 2}) {
+            TestRun fresh;
+            fresh.outcomes = {StepOutcome::done, failure};
+            tool = withStep(number);
+            answer({onA, onB, onA, onB, cancel()});
+            fresh.runTool(tool, resources);
+            EXPECT_EQ(user.prompts[2].substr(0, 5), L"#4003");
+            EXPECT_EQ(user.prompts[4], L"#4004");
+            EXPECT_EQ(fresh.m_undoFirst, nullptr);
+            EXPECT_EQ(fresh.m_undoSecond, nullptr);
+            EXPECT_EQ(display.events, Events{"refresh"}) << "of the first cycle";
+            const bool told = failure == StepOutcome::noCrossing;
+            EXPECT_EQ(user.lines, told ? Prompts{L"#4007"} : Prompts{});
+            EXPECT_FALSE(isOpen(a));
+        }
+    }
+}
+
+TEST_F(EditCycle, RefusesClosedMultilinesWhereTheToolDoes) {
+    KdDbMline* const ring = addMline({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}}, {0}, true);
+    const auto onRing = pick(ring, 5, 0);
+    tool = withStep(1);
+    play({onRing, onB, cancel()});
+    EXPECT_EQ(run.steps, 1) << "crosses take them";
+
+    tool = withStep(4);
+    play({onRing, onA, onRing, cancel()});
+    EXPECT_EQ(run.steps, 2);
+    EXPECT_EQ(user.lines, Prompts{L"#4006"});
+    EXPECT_EQ(user.prompts[1].substr(0, 5), L"#4003") << "back to the first prompt";
+
+    TestRun fresh;
+    answer({onRing, cancel()});
+    fresh.runTool(tool, resources);
+    EXPECT_TRUE(isOpen(ring)) << "the refused one stays open for read";
+}
+
+// The corner joint refuses at the second pick too and starts over, with the first record on the
+// new pick and the copies of the cycle before. UNDO then writes them to that pick.
+TEST_F(EditCycle, ARefusedSecondPickLeavesTheFirstRecordBehind) {
+    KdDbMline* const ring = addMline({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}}, {0}, true);
+    const auto onRing = pick(ring, 5, 0);
+    KdDbMline* const c = addMline({{0, 7, 0}, {10, 7, 0}, {20, 7, 0}}, {0});
+    const auto original = a->content();
+    tool = withStep(7);
+    play({onA, onB, pick(c, 5, 7), onRing, keyword(L"UNDO"), cancel()});
+    // The refused name is still there when the keyword comes, and is refused once more.
+    EXPECT_EQ(user.lines, (Prompts{L"#4006", L"#4006"}));
+    EXPECT_EQ(user.prompts[4], L"#4003 [UNDO]") << "back to the first prompt";
+    EXPECT_EQ(marks(a), 1U);
+    EXPECT_TRUE(c->content()->equals(*original));
+}
+
+TEST_F(EditCycle, SinglePickToolsAskOnce) {
+    tool = withStep(8);
+    play({onA, keyword(L"UNDO"), onB, cancel()});
+    EXPECT_EQ(user.prompts, (Prompts{L"#4009", L"#4008 [UNDO]", L"#4009", L"#4008 [UNDO]"}));
+    EXPECT_EQ(display.events, (Events{"refresh", "hide A", "show A", "refresh"}));
+    EXPECT_EQ(marks(a), 0U);
+    EXPECT_EQ(marks(b), 1U);
+}
+
+TEST_F(EditCycle, ARowThatTakesAnyEntityCountsALineAsDone) {
+    tool = withStep(12);
+    const auto onLine = pick(line, 1, 1);
+    play({miss(), onLine, onA, onLine, keyword(L"UNDO"), cancel()});
+    EXPECT_EQ(user.prompts,
+              (Prompts{L"#4011", L"#4011", L"#4012", L"#4012", L"#4010 [UNDO]", L"#4011"}));
+    EXPECT_EQ(run.steps, 0);
+    EXPECT_EQ(display.events, (Events{"refresh", "hide C", "show C"}));
+    // Its exit closes nothing.
+    play({onA, cancel()});
+    EXPECT_TRUE(isOpen(a));
+}
+
+TEST_F(EditCycle, AnEntityThatGoesAwayBetweenThePicksFailsTheCycle) {
+    struct ErasingSource : orvex::PromptSource {
+        orvex::PromptSource* next = nullptr;
+        KdDbObject* victim = nullptr;
+        int prompts = 0;
+        orvex::PromptAnswer ask(const orvex::PromptRequest& request) override {
+            const orvex::PromptAnswer answer = next->ask(request);
+            if (++prompts == 2) {
+                victim->erase();
+            }
+            return answer;
+        }
+        void print(const std::wstring& text) override { next->print(text); }
+    } source;
+    source.next = &user;
+    source.victim = a;
+    orvex::PromptSession::current().source = &source;
+    play({onA, onB, cancel()});
+    EXPECT_EQ(run.steps, 0);
+    EXPECT_EQ(user.prompts.back(), L"#4004");
+    EXPECT_EQ(display.events, Events{});
+    EXPECT_FALSE(isOpen(b));
+}
+
+} // namespace

@@ -1,0 +1,178 @@
+#include "CMlineEdit.h"
+
+#include "DatabaseCore.h"
+#include "EngineWorld.h"
+#include "parameterLists.h"
+
+namespace {
+
+const std::vector<KdGePoint3d> kStraight = {{0, 0, 0}, {10, 0, 0}, {20, 0, 0}};
+const std::vector<KdGePoint3d> kSquare = {{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}};
+
+class PickMatching : public orvex::testing::EngineWorld {
+protected:
+    CMlineEdit run;
+
+    // Fills a record from a pick at that place; what it holds before is an unlikely mark.
+    CMlineSegment& pickAt(const KdDbMline* mline, double x, double y) {
+        CMlineSegment& seg = run.m_first;
+        seg.m_segment = kOldSegment;
+        seg.m_element = kOldElement;
+        nameOf(mline, run.m_pickedName);
+        run.m_pickedPoint[0] = x;
+        run.m_pickedPoint[1] = y;
+        run.mlineEditInitialize(&seg, run.m_pickedName, nullptr);
+        return seg;
+    }
+    static bool missed(const CMlineSegment& seg) {
+        return seg.m_segment == kOldSegment && seg.m_element == kOldElement;
+    }
+
+    static constexpr int kOldSegment = 77;
+    static constexpr int kOldElement = 88;
+};
+
+TEST_F(PickMatching, FillsTheWholeRecord) {
+    KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
+    const CMlineSegment& seg = pickAt(mline, 13.0, -0.4);
+    long name[2];
+    nameOf(mline, name);
+    EXPECT_EQ(seg.m_name[0], name[0]);
+    EXPECT_EQ(seg.m_mline, mline);
+    EXPECT_TRUE(isOpen(mline));
+    EXPECT_EQ(seg.m_numVertices, 3);
+    EXPECT_EQ(seg.m_numElements, 2);
+    EXPECT_EQ(seg.m_ptListSize, 2);
+    EXPECT_EQ(seg.m_ptList[1][2][0], 20.0);
+    EXPECT_EQ(seg.m_ptList[1][2][1], -0.5);
+    EXPECT_EQ(seg.m_segment, 1);
+    EXPECT_EQ(seg.m_element, 1);
+    EXPECT_DOUBLE_EQ(seg.m_pickPoint[0], 13.0);
+    EXPECT_DOUBLE_EQ(seg.m_pickPoint[1], -0.5);
+    EXPECT_DOUBLE_EQ(seg.m_pickDistance, 3.0);
+    EXPECT_EQ(seg.m_mappedSegment, 1);
+    EXPECT_EQ(seg.m_mappedElement, 1);
+    EXPECT_EQ(seg.m_mappedPoint[0], seg.m_pickPoint[0]);
+    EXPECT_EQ(seg.m_mappedDistance, seg.m_pickDistance);
+    EXPECT_EQ(run.m_pickedName[0], 0);
+    EXPECT_DOUBLE_EQ(run.m_pickRadius, 3 * 0.1 * 1.4142135623730951);
+}
+
+TEST_F(PickMatching, TheLowerElementWinsOverTheNearer) {
+    view.unitsPerPixel = 1.0; // aperture 4.24: both elements within
+    KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
+    EXPECT_EQ(pickAt(mline, 3.0, -0.5).m_element, 0);
+}
+
+TEST_F(PickMatching, TheApertureIsStrict) {
+    KdDbMline* const mline = addMline(kStraight, {0.0});
+    const double radius = 3 * 0.1 * 1.4142135623730951;
+    EXPECT_TRUE(missed(pickAt(mline, 3.0, radius)));
+    EXPECT_FALSE(missed(pickAt(mline, 3.0, radius - 1e-9)));
+}
+
+TEST_F(PickMatching, ASegmentHasItsStartButNotItsEnd) {
+    KdDbMline* const mline = addMline(kStraight, {0.0});
+    EXPECT_EQ(pickAt(mline, 0.0, 0.1).m_segment, 0);
+    EXPECT_EQ(pickAt(mline, 10.0, 0.1).m_segment, 1);
+    EXPECT_EQ(run.m_first.m_pickDistance, 0.0);
+    EXPECT_TRUE(missed(pickAt(mline, 20.0, 0.1))) << "the chain's end belongs to no segment";
+    EXPECT_TRUE(missed(pickAt(mline, -0.1, 0.1)));
+    KdDbMline* const back = addMline({{20, 5, 0}, {10, 5, 0}, {10, -5, 0}}, {0.0});
+    EXPECT_EQ(pickAt(back, 20.0, 5.1).m_segment, 0) << "against x";
+    EXPECT_EQ(pickAt(back, 10.1, 0.0).m_segment, 1) << "against y";
+}
+
+TEST_F(PickMatching, OnlyWhatIsDrawnIsPicked) {
+    KdDbMline* const mline = addMline({{0, 0, 0}, {10, 0, 0}}, {0.0});
+    storeLineList(mline, 0, 0, {0.0, 1, 3, 5});
+    struct {
+        double x;
+        bool hit;
+    } const cases[] = {
+        {0.5, false}, {1.0, true}, {2.0, true}, {3.0, false},
+        {4.0, false}, {5.0, true}, {9.0, true},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(missed(pickAt(mline, c.x, 0.0)), !c.hit) << c.x;
+    }
+    storeLineList(mline, 0, 0, {});
+    EXPECT_TRUE(missed(pickAt(mline, 2.0, 0.0)));
+}
+
+// The offset at the front of the list takes part in the search for the stretch.
+TEST_F(PickMatching, NearTheStartAnElementWithALargerOffsetIsRefused) {
+    KdDbMline* const mline = addMline({{0, 0, 0}, {10, 0, 0}}, {2.0, -2.0});
+    EXPECT_TRUE(missed(pickAt(mline, 1.5, 2.0)));
+    EXPECT_FALSE(missed(pickAt(mline, 2.0, 2.0)));
+    EXPECT_EQ(pickAt(mline, 1.5, -2.0).m_element, 1) << "a negative offset never is";
+}
+
+TEST_F(PickMatching, TheClosingSegmentComesLast) {
+    KdDbMline* const mline = addMline(kSquare, {0.0}, true);
+    CMlineSegment& seg = pickAt(mline, 0.1, 4.0);
+    EXPECT_EQ(seg.m_segment, 3);
+    EXPECT_DOUBLE_EQ(seg.m_pickDistance, 6.0) << "from the last vertex";
+    EXPECT_EQ(pickAt(mline, 0.0, 0.0).m_segment, 0);
+
+    mline->setClosedMline(false);
+    EXPECT_TRUE(missed(pickAt(mline, 0.1, 4.0)));
+}
+
+TEST_F(PickMatching, WithoutAViewNothingIsWithinTheAperture) {
+    view.links = 2;
+    KdDbMline* const mline = addMline(kStraight, {0.0});
+    EXPECT_TRUE(missed(pickAt(mline, 3.0, 0.0)));
+    EXPECT_EQ(run.m_pickRadius, 0.0);
+    // The view's aperture stays when the view goes.
+    view.links = 3;
+    EXPECT_FALSE(missed(pickAt(mline, 3.0, 0.0)));
+    view.links = 0;
+    EXPECT_FALSE(missed(pickAt(mline, 3.0, 0.0)));
+}
+
+TEST_F(PickMatching, ThePickIsInTheUsersSystem) {
+    database.core().setVariable("UCSORG", KdGePoint3d{100, 0, 0});
+    KdDbMline* const mline = addMline(kStraight, {0.0});
+    const CMlineSegment& seg = pickAt(mline, -97.0, 0.0);
+    EXPECT_EQ(seg.m_segment, 0);
+    EXPECT_DOUBLE_EQ(seg.m_pickPoint[0], 3.0);
+}
+
+TEST_F(PickMatching, ASecondPickOnTheSameEntitySharesItsOpening) {
+    KdDbMline* const mline = addMline(kStraight, {0.0});
+    CMlineSegment& first = pickAt(mline, 3.0, 0.0);
+    mline->close();
+    nameOf(mline, run.m_pickedName);
+    run.mlineEditInitialize(&run.m_second, run.m_pickedName, &first);
+    EXPECT_EQ(run.m_second.m_mline, mline);
+    EXPECT_FALSE(isOpen(mline)) << "not opened again";
+}
+
+TEST_F(PickMatching, AnEntityThatDoesntOpenLeavesAnEmptyRecord) {
+    KdDbMline* const mline = addMline(kStraight, {0.0});
+    pickAt(mline, 3.0, 0.0);
+    mline->erase();
+    const CMlineSegment& seg = pickAt(mline, 3.0, 0.0);
+    EXPECT_EQ(seg.m_mline, nullptr);
+    EXPECT_EQ(seg.m_numVertices, 0);
+    EXPECT_EQ(seg.m_numElements, 0);
+}
+
+TEST_F(PickMatching, PositionsThatTheEntityDoesntHaveAreZero) {
+    KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
+    storeLineList(mline, 1, 1, {});
+    PointTable table = nullptr;
+    int rows = 0;
+    run.ptListInitialize(mline, 4, 3, &table, &rows);
+    ASSERT_EQ(rows, 3);
+    EXPECT_EQ(table[0][1][1], 0.5);
+    EXPECT_EQ(table[1][1][1], 0.0) << "without a list the offset is 0";
+    EXPECT_EQ(table[0][3][0], 0.0);
+    EXPECT_EQ(table[2][1][0], 0.0);
+    run.ptListInitialize(nullptr, 0, 0, &table, &rows);
+    EXPECT_EQ(rows, 0);
+    freePointTable(table, rows);
+}
+
+} // namespace
