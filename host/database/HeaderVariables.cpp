@@ -1,17 +1,17 @@
 #include "HeaderVariables.h"
 
-#include <cstring>
+#include "sameBits.h"
 
 namespace orvex {
 
 bool sameBits(const HeaderValue& a, const HeaderValue& b) {
     if (const auto* const real = std::get_if<double>(&a)) {
         const auto* const other = std::get_if<double>(&b);
-        return other != nullptr && std::memcmp(real, other, sizeof(double)) == 0;
+        return other != nullptr && sameBits(*real, *other);
     }
     if (const auto* const point = std::get_if<KdGePoint3d>(&a)) {
         const auto* const other = std::get_if<KdGePoint3d>(&b);
-        return other != nullptr && std::memcmp(point, other, sizeof(KdGePoint3d)) == 0;
+        return other != nullptr && sameBits(*point, *other);
     }
     return a == b;
 }

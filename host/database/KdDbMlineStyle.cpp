@@ -84,8 +84,7 @@ const KdCmColor& KdDbMlineStyle::fillColor() const {
 }
 
 Status KdDbMlineStyle::setFillColor(const KdCmColor& color) {
-    KdCmColor copy = color;
-    change().fillColor = std::move(copy);
+    change().fillColor = color;
     return Status::done;
 }
 
@@ -184,10 +183,9 @@ Status KdDbMlineStyle::setElement(int& index, double offset, const KdCmColor& co
     if (index < 0 || index >= numElements()) {
         return Status::invalidInput;
     }
-    const KdCmColor copy = color; // may be an element's own
     orvex::StyleElement& element = change().elements[static_cast<std::size_t>(index)];
     element.offset = offset;
-    element.color = copy;
+    element.color = color;
     // Written back as it was read, an unknown line type keeps its name.
     if (!(element.linetype.isNull() && linetype.isNull())) {
         element.linetype = linetype;

@@ -110,11 +110,11 @@ bool UndoLog::undo() {
     const Step step = std::move(m_steps.back());
     m_steps.pop_back();
     m_memory -= step.memory;
-    for (auto image = step.images.rbegin(); image != step.images.rend(); ++image) {
-        m_core.noteChange(*image->stub);
-        image->stub->erased = image->erased;
-        if (image->content != nullptr) {
-            image->stub->object->setContent(image->content);
+    for (const Image& image : step.images) {
+        m_core.noteChange(*image.stub);
+        image.stub->erased = image.erased;
+        if (image.content != nullptr) {
+            image.stub->object->setContent(image.content);
         }
     }
     restoreVariables(step);
