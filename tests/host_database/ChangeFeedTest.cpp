@@ -40,16 +40,19 @@ TEST(ChangeFeed, TellsEachObjectOnceTillItIsTaken) {
     EXPECT_EQ(feed.take(), Stubs{});
 }
 
-TEST(ChangeFeed, TellsWhatUndoBringsBack) {
+TEST(ChangeFeed, TellsWhatUndoBringsBackAndTakesAway) {
     KdDbDatabase database;
     DatabaseCore& core = database.core();
-    KdDbMline& mline = makeMline(core);
+    KdDbStub& line = core.addStub(ObjectKind::entity, 0x900, 1, nullptr); // never read
     core.beginCommand();
-    mline.erase();
+    core.erase(line);
+    const KdDbMline& made = makeMline(core);
     core.endCommand();
     ChangeFeed feed(core);
     core.undo();
-    EXPECT_EQ(feed.take(), Stubs{mline.objectId().stub()});
+    EXPECT_EQ(feed.take(), (Stubs{&line, made.objectId().stub()}));
+    EXPECT_FALSE(line.erased);
+    EXPECT_TRUE(made.isErased());
 }
 
 TEST(ChangeFeed, FeedsDontTakeFromEachOther) {
