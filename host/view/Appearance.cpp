@@ -1,6 +1,6 @@
 #include "Appearance.h"
 
-#include "looksInk.h"
+#include "labelBox.h"
 
 #include <algorithm>
 

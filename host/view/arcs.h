@@ -23,7 +23,7 @@ std::vector<KdGePoint3d> conicChain(const ConicShape& conic);
 std::vector<KdGePoint3d> polylineChain(const PolylineShape& polyline);
 
 // The cross product of two vectors.
-inline KdGeVector3d crossProduct(const KdGeVector3d& a, const KdGeVector3d& b) {
+inline KdGeVector3d crossOf(const KdGeVector3d& a, const KdGeVector3d& b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 

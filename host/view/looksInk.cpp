@@ -1,7 +1,8 @@
 #include "looksInk.h"
 
+#include "labelBox.h"
+
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace orvex {
@@ -100,36 +101,6 @@ void BoxInk::takeFill(std::span<const PlanPoint> outline, std::uint32_t) {
 
 void BoxInk::takeLabel(const Label& label) {
     m_box.include(labelBox(label));
-}
-
-PlanBox labelBox(const Label& label) {
-    // Of a capital's height: a usual letter's width, one of the broad scripts, what hangs below.
-    constexpr double kLetter = 0.85;
-    constexpr double kBroadLetter = 1.4;
-    constexpr double kDescent = 0.3;
-    constexpr wchar_t kFirstBroad = 0x1100;
-
-    double width = 0.0;
-    for (const wchar_t letter : label.text) {
-        width += (letter < kFirstBroad ? kLetter : kBroadLetter) * label.height;
-    }
-    const double left = -width * label.horizontal / 2.0;
-    const std::array<double, 4> bottoms{-kDescent, 0.0, -0.5, -1.0};
-    const auto vertical = static_cast<std::size_t>(std::clamp(label.vertical, 0, 3));
-    const double bottom = bottoms[vertical] * label.height;
-    const double top = (vertical == 0 ? 1.0 : bottoms[vertical] + 1.0) * label.height;
-
-    const double cosine = std::cos(label.angle);
-    const double sine = std::sin(label.angle);
-    PlanBox box;
-    for (const double x : {left, left + width}) {
-        for (const double y : {bottom, top}) {
-            const PlanPoint corner{label.anchor.x + x * cosine - y * sine,
-                                   label.anchor.y + x * sine + y * cosine};
-            box.include(corner);
-        }
-    }
-    return box;
 }
 
 } // namespace orvex

@@ -75,7 +75,4 @@ private:
     PlanBox m_box;
 };
 
-// What a text covers, by the usual width of letters; fonts differ a little.
-PlanBox labelBox(const Label& label);
-
 } // namespace orvex

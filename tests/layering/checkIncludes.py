@@ -56,8 +56,9 @@ RULES = {
     "module": interface(*SUBJECTS, *WINDOWS)
     + ["dialogs", "controls", "engine", "record", "primitives"],
     # The programs. The module is a file to them.
-    "apps/batch": host(*SUBJECTS) + ["host/drawing", "host/session"],
-    "apps/desk": host(*SUBJECTS, *WINDOWS) + ["host/drawing", "host/session"],
+    "apps/common": host(*SUBJECTS) + ["host/drawing", "host/session"],
+    "apps/batch": host(*SUBJECTS) + ["host/drawing", "host/session", "apps/common"],
+    "apps/desk": host(*SUBJECTS, *WINDOWS) + ["host/drawing", "host/session", "apps/common"],
 }
 
 # Headers from outside the tree, and the only rooms that may reach them.

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Appearance.h"
+#include "PlanView.h"
+#include "paintAppearance.h"
+
+#include <string>
+
+namespace orvex {
+
+// A picture as SVG text: small files that a person can read. Lengths are pixels with two decimals;
+// neighbouring lines that look alike share a path.
+class SvgPicture {
+public:
+    // The view has to outlive the picture.
+    SvgPicture(const PlanView& view, const PaintSettings& settings)
+        : m_view(view), m_settings(settings) {}
+
+    void add(const Appearance& appearance);
+    // The whole file: fills below lines below labels.
+    [[nodiscard]] std::string text();
+
+private:
+    void addFill(const Fill& fill);
+    void addStroke(const Stroke& stroke, const Appearance& appearance);
+    void addLabel(const Label& label);
+    [[nodiscard]] std::string strokeLook(const Stroke& stroke, const Appearance& appearance) const;
+    void endPath();
+
+    const PlanView& m_view;
+    PaintSettings m_settings;
+    std::string m_fills;
+    std::string m_lines;
+    std::string m_labels;
+    std::string m_pathLook; // attributes of the path that is being written
+    std::string m_path;
+    std::string m_pathEnd; // where it has come to
+};
+
+} // namespace orvex

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Appearance.h"
+#include "PlanView.h"
+
+#include <cstdint>
+
+class QPainter;
+
+namespace orvex {
+
+struct PaintSettings {
+    double lineWidth = 1.0; // pixels
+    bool onPaper = false;   // on white, where what is white on a dark ground is drawn black
+};
+
+// What to paint of an appearance; fills of many entities may go below all their lines.
+enum class PaintParts : std::uint8_t { all, fills, linesAndLabels };
+
+// 0xRRGGBB as it is painted.
+std::uint32_t paintedRgb(std::uint32_t rgb, const PaintSettings& settings);
+
+// Paints what an entity looks like. The painter's coordinates are the view's pixels; its pen,
+// brush and font are changed.
+void paintAppearance(QPainter& painter, const Appearance& appearance, const PlanView& view,
+                     const PaintSettings& settings, PaintParts parts = PaintParts::all);
+
+} // namespace orvex
