@@ -17,6 +17,8 @@ constexpr double kOnSegmentReach = 3.2e-4;
 // kStray of the greatest coordinate.
 constexpr double kWellConditionedSine = 1e-3;
 constexpr double kStray = 1e-7;
+// A steeper line, as y over x, magnifies an error of x too much when y is taken from it.
+constexpr double kSteep = 1e3;
 // Below this, the line primitive calls two lines parallel whatever else it finds.
 constexpr double kParallel = 1e-11;
 // Shorter segments may count as points, and then as parallel to anything.
@@ -105,6 +107,10 @@ bool CrossingSearch::mayMeet(int i, int j) const {
                 return false;
             }
         }
+        return true;
+    }
+    const Line& flatter = std::abs(a.direction[0]) > std::abs(b.direction[0]) ? a : b;
+    if (std::abs(flatter.direction[1]) > kSteep * std::abs(flatter.direction[0])) {
         return true;
     }
     const double bEnd[2] = {b.start[0] + b.direction[0], b.start[1] + b.direction[1]};

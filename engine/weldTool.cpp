@@ -29,10 +29,13 @@ struct HeldPlace {
     double distance;
 };
 
-HeldPlace heldToSegment(const double* place, const double* start, const double* end) {
+// `isAtStart`: the place counts as the start. That comparison is relative to one of its points, and
+// the callers' differ in which.
+HeldPlace heldToSegment(const double* place, bool isAtStart, const double* start,
+                        const double* end) {
     HeldPlace held{};
     const bool ahead = mlineAngleEqual(kdutAngle(start, place), kdutAngle(start, end), kHalfPi);
-    if (!ahead || gx_pt_equal(place, start) != 0) {
+    if (!ahead || isAtStart) {
         copyPoint(start, held.point);
         return held;
     }
@@ -67,7 +70,7 @@ void takeWeldPick(CMlineSegment& seg, const double* pick, double radius) {
         if (!matches(pick, start, end, radius, foot)) {
             return false;
         }
-        const HeldPlace held = heldToSegment(foot, start, end);
+        const HeldPlace held = heldToSegment(foot, gx_pt_equal(start, foot) != 0, start, end);
         seg.m_segment = segment;
         seg.m_element = element;
         copyPoint(foot, seg.m_pickPoint);
@@ -155,7 +158,8 @@ void CMlineEdit::mappingToSpecifyMonglineForWeldAll(CMlineSegment* seg, int elem
         copyPoint(place.crossing, out);
         return;
     }
-    const HeldPlace held = heldToSegment(place.crossing, place.start, place.end);
+    const bool isAtStart = gx_pt_equal(place.crossing, place.start) != 0;
+    const HeldPlace held = heldToSegment(place.crossing, isAtStart, place.start, place.end);
     copyPoint(held.point, seg->m_mappedPoint);
     seg->m_mappedElement = element;
     seg->m_mappedDistance = held.distance;

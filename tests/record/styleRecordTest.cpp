@@ -1,0 +1,175 @@
+#include "styleRecord.h"
+
+#include "KdDbDatabase.h"
+#include "KdDbLinetypeTable.h"
+#include "KdDbMlineStyle.h"
+#include "KdDocument.h"
+#include "kddbObjects.h"
+#include "supportFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+class StyleRecord : public testing::Test {
+protected:
+    KdDbDatabase database;
+    KdDocument document{&database};
+    KdDocument* before = orvex::setCurrentDocument(&document);
+    KdDbMlineStyle style;
+
+    StyleRecord() {
+        style.initMlineStyle();
+        SetNumElements(&style, 3);
+        const double offsets[] = {1, 2, 3};
+        SetElemOffset(&style, offsets, 3);
+    }
+    ~StyleRecord() override {
+        orvex::setSupportFileFinder(nullptr);
+        orvex::setCurrentDocument(before);
+    }
+
+    KdCmColor colour(int i) const {
+        double offset = 0.0;
+        KdCmColor found;
+        KdDbObjectId linetype;
+        style.getElementAt(i, offset, found, linetype);
+        return found;
+    }
+    std::wstring linetype(int i) const {
+        double offset = 0.0;
+        KdCmColor found;
+        KdDbObjectId id;
+        style.getElementAt(i, offset, found, id);
+        KdDbLinetypeTableRecord* record = nullptr;
+        kddbOpenObject(record, id, kForRead);
+        std::wstring name = record != nullptr ? record->name() : L"";
+        if (record != nullptr) {
+            record->close();
+        }
+        return name;
+    }
+    std::vector<double> offsets(int count) const {
+        std::vector<double> all(static_cast<std::size_t>(count), 99.0);
+        GetElemOffset(&style, all.data(), count);
+        return all;
+    }
+};
+
+using Offsets = std::vector<double>;
+
+TEST_F(StyleRecord, ElementsComeAndGoAtTheFront) {
+    EXPECT_EQ(SetNumElements(&style, 2), 1);
+    EXPECT_EQ(offsets(2), (Offsets{2, 3}));
+    SetNumElements(&style, 4);
+    EXPECT_EQ(offsets(5), (Offsets{0.5, 0.5, 2, 3, 0})) << "0.0 past the last element";
+    EXPECT_EQ(colour(0).color(), 192U);
+    EXPECT_EQ(SetNumElements(&style, -3), 1);
+    EXPECT_EQ(style.numElements(), 0);
+}
+
+TEST_F(StyleRecord, OffsetsBeyondTheArrayAreZero) {
+    const double one[] = {7};
+    SetElemOffset(&style, one, 1);
+    EXPECT_EQ(offsets(3), (Offsets{7, 0, 0}));
+}
+
+TEST_F(StyleRecord, ColourIndicesAreClampedInTheCallersArrayToo) {
+    int indices[] = {300, -1};
+    SetElemColor(&style, indices, 2);
+    EXPECT_EQ(indices[0], 256);
+    EXPECT_EQ(indices[1], 256);
+    int good[] = {5, 0};
+    SetElemColor(&style, good, 2);
+    EXPECT_EQ(colour(0).colorIndex(), 5);
+    EXPECT_EQ(colour(1).colorIndex(), 0);
+    EXPECT_EQ(colour(2).colorIndex(), 256) << "beyond the array";
+    EXPECT_EQ(offsets(3), (Offsets{1, 2, 3})) << "the other attributes stay";
+}
+
+TEST_F(StyleRecord, TrueColoursAndNamesStartFromWhatIsStored) {
+    int indices[] = {5, 6, 7};
+    SetElemColor(&style, indices, 3);
+    const unsigned rgb[] = {0x102030, 0x1000000, 0xFFFFFF};
+    SetElemRgb(&style, rgb, 3);
+    EXPECT_EQ(colour(0).color(), 0xC2102030U);
+    EXPECT_EQ(colour(1).colorIndex(), 6) << "a value above 0xFFFFFF is none";
+    EXPECT_EQ(colour(2).color(), 0xC2FFFFFFU);
+
+    wchar_t valid[] = L"book$red";
+    wchar_t invalid[] = L"$x";
+    wchar_t* names[] = {valid, valid, invalid};
+    SetElemName(&style, names, 3);
+    EXPECT_STREQ(colour(0).bookName(), L"book");
+    EXPECT_STREQ(colour(0).colorName(), L"red");
+    EXPECT_EQ(colour(0).color(), 0xC2102030U);
+    EXPECT_FALSE(colour(2).hasColorName());
+    names[1] = nullptr;
+    SetElemName(&style, names, 2);
+    EXPECT_FALSE(colour(1).hasColorName()) << "a null entry clears";
+    names[0] = nullptr;
+    names[1] = valid;
+    SetElemName(&style, names, 2);
+    EXPECT_FALSE(colour(1).hasColorName()) << "without a first name nothing changes";
+    EXPECT_TRUE(colour(0).hasColorName());
+}
+
+TEST_F(StyleRecord, LineTypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
+    static std::vector<std::wstring> asked;
+    asked.clear();
+    orvex::setSupportFileFinder([](const std::wstring& file) {
+        asked.push_back(file);
+        return std::wstring();
+    });
+    wchar_t byLayer[] = L"bylayer";
+    wchar_t unknown[] = L"Nowhere";
+    wchar_t* names[] = {byLayer, nullptr, unknown};
+    EXPECT_EQ(SetElemLtype(&style, names, 0, &database), 1) << "the count doesn't matter";
+    EXPECT_EQ(linetype(0), L"ByLayer");
+    EXPECT_EQ(linetype(1), L"");
+    EXPECT_EQ(linetype(2), L"Continuous") << "what can't be found";
+    database.setMeasurement(1);
+    SetElemLtype(&style, names, 3, &database);
+    EXPECT_EQ(asked, (std::vector<std::wstring>{L"orvex.lin", L"orvexiso.lin"}));
+    EXPECT_EQ(offsets(3), (Offsets{1, 2, 3}));
+}
+
+TEST_F(StyleRecord, WritesAllFlags) {
+    SetFlag(&style, 1 + 32 + 1024);
+    EXPECT_TRUE(style.filled() && style.startInnerArcs() && style.endRoundCap());
+    EXPECT_FALSE(style.showMiters() || style.startSquareCap() || style.startRoundCap() ||
+                 style.endSquareCap() || style.endInnerArcs());
+    SetFlag(&style, 2 + 16 + 64 + 256 + 512);
+    EXPECT_FALSE(style.filled() || style.startInnerArcs() || style.endRoundCap());
+    EXPECT_TRUE(style.showMiters() && style.startSquareCap() && style.startRoundCap() &&
+                style.endSquareCap() && style.endInnerArcs());
+}
+
+TEST_F(StyleRecord, NullsChangeNothing) {
+    EXPECT_EQ(SetNumElements(nullptr, 2) + SetElemOffset(nullptr, nullptr, 1) +
+                  GetElemOffset(nullptr, nullptr, 1) + SetElemColor(nullptr, nullptr, 1) +
+                  SetElemRgb(nullptr, nullptr, 1) + SetElemName(nullptr, nullptr, 1) +
+                  SetElemLtype(nullptr, nullptr, 1, &database) + SetFlag(nullptr, 1),
+              0);
+    const KdCmColor colourBefore = colour(0);
+    EXPECT_EQ(SetElemOffset(&style, nullptr, 1) + GetElemOffset(&style, nullptr, 1) +
+                  SetElemColor(&style, nullptr, 1) + SetElemRgb(&style, nullptr, 1) +
+                  SetElemName(&style, nullptr, 1) + SetElemLtype(&style, nullptr, 1, &database),
+              6);
+    EXPECT_EQ(offsets(3), (Offsets{1, 2, 3}));
+    EXPECT_EQ(colour(0), colourBefore);
+}
+
+TEST(ColorBookName, HasAtMostOneMarkInside) {
+    EXPECT_TRUE(IsColorBookNameValid(L"a$b"));
+    EXPECT_TRUE(IsColorBookNameValid(L"ab"));
+    for (const wchar_t* name : {L"$ab", L"ab$", L"a$b$c", L"a$$b", L"$", L""}) {
+        EXPECT_FALSE(IsColorBookNameValid(name));
+    }
+    EXPECT_FALSE(IsColorBookNameValid(nullptr));
+}
+
+} // namespace
