@@ -57,6 +57,7 @@ struct InsertShape {
     int rows = 1;
     KdGeVector3d columnStep;
     KdGeVector3d rowStep;
+    std::vector<TextShape> attributes; // where they stand in the world, once for all
 };
 
 struct SolidShape {

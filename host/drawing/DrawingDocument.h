@@ -1,0 +1,70 @@
+#pragma once
+
+#include "DrawingText.h"
+#include "HeaderVariables.h"
+#include "MlineParser.h"
+#include "ObjectSource.h"
+#include "RecordContext.h"
+#include "RecordTable.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace orvex {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// A run of records, from the one that opens it to the one that closes it.
+struct RecordRun {
+    std::string name; // of the section, or the kind of the table
+    std::uint32_t begin = 0;
+    std::uint32_t end = 0;    // the record behind the last one inside
+    bool closed = false;      // `end` is its ENDSEC, ENDTAB or ENDBLK
+    int entries = 0;          // of a table
+    KdDbStub* stub = nullptr; // of a table
+    BlockEntities* block = nullptr;
+};
+
+// The file's bytes, cut into records, with what they stand for. Made once by DrawingReader; never
+// changed by an edit, so that what is saved always starts from the bytes that were opened.
+class DrawingDocument final : public ObjectSource {
+public:
+    explicit DrawingDocument(std::string fileBytes) : bytes(std::move(fileBytes)) {}
+
+    std::string bytes;
+    CutDrawing cut;
+    DrawingText text;
+    std::vector<RecordRun> sections;
+    std::vector<RecordRun> tables;
+    std::vector<RecordRun> blocks; // as they stand in BLOCKS
+
+    std::vector<KdDbStub*> layers;
+    std::vector<KdDbStub*> linetypes;
+    std::vector<KdDbStub*> blockRecords;
+    std::unordered_map<std::uint64_t, KdDbStub*> objects; // styles and what dictionaries name
+    // The dictionaries as they were before any edit, and what every drawing has and this file
+    // lacks, as it was made in memory; null for what has no content.
+    std::unordered_map<const KdDbStub*, std::shared_ptr<const ObjectContent>> untouched;
+    HeaderVariables variables; // as the file has them
+
+    [[nodiscard]] RecordSpan span(std::uint32_t record) const {
+        return {cut.records.begin(record), cut.records.end(record)};
+    }
+    [[nodiscard]] RecordContext context(DatabaseCore& core) const { return {bytes, text, core}; }
+    [[nodiscard]] const RecordRun* findSection(std::string_view name) const; // the first one
+    [[nodiscard]] const RecordRun* findTable(std::string_view kind) const;
+    [[nodiscard]] KdDbStub* findObject(std::uint64_t handle) const;
+
+    [[nodiscard]] std::unique_ptr<KdDbObject> load(const KdDbStub& stub) override;
+    [[nodiscard]] EntityShape shapeOf(const KdDbStub& stub) const override;
+
+private:
+    [[nodiscard]] std::unique_ptr<KdDbObject> loadDictionary(const RecordContext& context,
+                                                             const RecordSpan& span) const;
+    MlineParser m_parser; // lends its memory to one multiline after the other
+};
+
+} // namespace orvex

@@ -1,0 +1,137 @@
+#include "DrawingFile.h"
+
+#include "AtomicFile.h"
+#include "DatabaseCore.h"
+#include "DrawingDocument.h"
+#include "DrawingReader.h"
+#include "DrawingWriter.h"
+#include "NewDrawing.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace orvex {
+
+namespace {
+
+// A file opened for reading.
+class InputFile {
+public:
+    explicit InputFile(const std::string& path)
+        : m_descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
+    ~InputFile() {
+        if (m_descriptor >= 0) {
+            close(m_descriptor);
+        }
+    }
+    InputFile(const InputFile&) = delete;
+    InputFile& operator=(const InputFile&) = delete;
+
+    // All its bytes; false with `errno` set when that fails.
+    bool readAll(std::string& bytes) const {
+        struct stat status {};
+        if (m_descriptor < 0 || fstat(m_descriptor, &status) != 0) {
+            return false;
+        }
+        // One more than the file has, so that its end is seen; a pipe has no size.
+        constexpr std::size_t kPiece = std::size_t{1} << 16U;
+        bytes.resize(S_ISREG(status.st_mode) ? static_cast<std::size_t>(status.st_size) + 1
+                                             : kPiece);
+        std::size_t filled = 0;
+        for (;;) {
+            const ssize_t got = ::read(m_descriptor, bytes.data() + filled, bytes.size() - filled);
+            if (got < 0 && errno == EINTR) {
+                continue;
+            }
+            if (got < 0) {
+                return false;
+            }
+            if (got == 0) {
+                break;
+            }
+            filled += static_cast<std::size_t>(got);
+            if (filled == bytes.size()) {
+                bytes.resize(filled * 2);
+            }
+        }
+        bytes.resize(filled);
+        return true;
+    }
+
+private:
+    int m_descriptor;
+};
+
+// Enough to see what is wrong with a file in which everything is.
+void limitWarnings(std::vector<DrawingWarning>& warnings) {
+    constexpr std::size_t kMost = 100;
+    if (warnings.size() > kMost) {
+        const std::size_t more = warnings.size() - kMost;
+        warnings.resize(kMost);
+        warnings.push_back({0, "and " + std::to_string(more) + " more"});
+    }
+}
+
+} // namespace
+
+DrawingFile::DrawingFile() : m_database(std::make_unique<KdDbDatabase>(false, true)) {}
+
+DrawingFile::~DrawingFile() = default;
+
+DrawingFile::Opened DrawingFile::open(const std::string& path, const DrawingProgress& progress) {
+    std::string bytes;
+    if (!InputFile(path).readAll(bytes)) {
+        return DrawingError{0, std::strerror(errno), false};
+    }
+    return openBytes(std::move(bytes), progress);
+}
+
+DrawingFile::Opened DrawingFile::openBytes(std::string bytes, const DrawingProgress& progress) {
+    std::unique_ptr<DrawingFile> file(new DrawingFile);
+    file->m_document = std::make_shared<DrawingDocument>(std::move(bytes));
+    DatabaseCore& core = file->m_database->core();
+    core.setSource(file->m_document);
+    if (auto error = readDrawing(*file->m_document, core, progress, file->m_warnings)) {
+        return std::move(*error);
+    }
+    limitWarnings(file->m_warnings);
+    return file;
+}
+
+std::unique_ptr<DrawingFile> DrawingFile::create() {
+    auto opened = openBytes(newDrawingText());
+    return std::move(std::get<std::unique_ptr<DrawingFile>>(opened));
+}
+
+std::unique_ptr<DrawingError> DrawingFile::save(const std::string& path) {
+    const std::vector<FileEdit> edits = collectEdits(*m_document, m_database->core());
+    AtomicFile target(path);
+    std::string error = target.open();
+    if (error.empty()) {
+        writeEdited(m_document->bytes, edits, [&](std::string_view piece) {
+            error = target.write(piece);
+            return error.empty();
+        });
+    }
+    if (error.empty()) {
+        error = target.commit();
+    }
+    return error.empty() ? nullptr : std::make_unique<DrawingError>(DrawingError{0, error, false});
+}
+
+std::string DrawingFile::bytes() {
+    const std::vector<FileEdit> edits = collectEdits(*m_document, m_database->core());
+    std::string result;
+    result.reserve(m_document->bytes.size() + m_document->bytes.size() / 64);
+    writeEdited(m_document->bytes, edits, [&](std::string_view piece) {
+        result += piece;
+        return true;
+    });
+    return result;
+}
+
+} // namespace orvex

@@ -1,0 +1,437 @@
+#include "DrawingReader.h"
+
+#include "CStdStr.h"
+#include "DictionaryRecord.h"
+#include "HeaderRecord.h"
+#include "NumberText.h"
+#include "StyleRecord.h"
+#include "TableRecords.h"
+#include "textCodec.h"
+
+#include <algorithm>
+
+namespace orvex {
+
+namespace {
+
+constexpr std::string_view kOldestVersion = "AC1012";
+constexpr std::string_view kNewestVersion = "AC1032";
+
+// The binary form begins with 18 letters and blanks, then these.
+bool isBinary(std::string_view bytes) {
+    constexpr std::size_t kLetters = 18;
+    constexpr std::string_view kSignatureEnd("\r\n\x1A\0", 4);
+    return bytes.size() >= kLetters + kSignatureEnd.size() &&
+           bytes.substr(kLetters, kSignatureEnd.size()) == kSignatureEnd;
+}
+
+class DrawingReader {
+public:
+    DrawingReader(DrawingDocument& document, DatabaseCore& core,
+                  std::vector<DrawingWarning>& warnings)
+        : m_document(document), m_records(document.cut.records), m_core(core),
+          m_warnings(warnings) {}
+
+    std::optional<DrawingError> run(const DrawingProgress& progress);
+
+private:
+    void warnOfForm(std::size_t start);
+    void warnOfVersion(std::string_view version);
+    void findSections();
+    void readHeader();
+    void readTables(const RecordRun& section);
+    void startTable(std::uint32_t record);
+    void addTableEntry(RecordRun& table, std::uint32_t record);
+    void readBlocks(const RecordRun& section);
+    void startBlock(std::uint32_t record);
+    void readEntities(const RecordRun& section);
+    void addEntity(std::uint32_t record, BlockEntities& block);
+    void readObjects(const RecordRun& section);
+    KdDbStub* addDictionary(std::uint32_t record, KdDbStub* owner);
+    void addStyles(const RecordRun& section);
+    void noteEntries(const KdDbStub& dictionary);
+    void warnOfStyles();
+    void completeDefaults();
+    BlockEntities& blockNamed(const std::wstring& name);
+
+    [[nodiscard]] std::string_view nameOf(std::uint32_t record) const {
+        return readName(m_document.bytes, m_document.span(record));
+    }
+    [[nodiscard]] std::size_t lineOf(std::size_t offset) const {
+        const auto begin = m_document.bytes.begin();
+        return 1 + static_cast<std::size_t>(
+                       std::count(begin, begin + static_cast<std::ptrdiff_t>(offset), '\n'));
+    }
+    void warn(std::size_t line, std::string text) { m_warnings.push_back({line, std::move(text)}); }
+
+    DrawingDocument& m_document;
+    RecordTable& m_records;
+    DatabaseCore& m_core;
+    std::vector<DrawingWarning>& m_warnings;
+    std::unordered_map<std::wstring, KdDbStub*> m_blockRecords; // by name in one case
+};
+
+std::optional<DrawingError> DrawingReader::run(const DrawingProgress& progress) {
+    const std::string_view bytes = m_document.bytes;
+    if (isBinary(bytes)) {
+        return DrawingError{1, "a binary drawing, which isn't read", false};
+    }
+    const std::size_t start = bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
+    if (auto error = cutDrawing(bytes, start, progress, m_document.cut)) {
+        return error;
+    }
+    warnOfForm(start);
+    findSections();
+    readHeader();
+    m_warnings.insert(m_warnings.end(), m_document.cut.warnings.begin(),
+                      m_document.cut.warnings.end());
+    m_core.noteHighestHandle(m_document.cut.highestHandle);
+    for (const RecordRun& section : m_document.sections) {
+        if (section.name == "TABLES") {
+            readTables(section);
+        }
+    }
+    for (const RecordRun& section : m_document.sections) {
+        if (section.name == "BLOCKS") {
+            readBlocks(section);
+        }
+    }
+    // A drawing has a model space, whether its file lists it as a block or not.
+    if (BlockEntities& model = m_core.modelSpace(); model.record == nullptr) {
+        model.record = m_blockRecords[foldCase(model.name)];
+    }
+    for (const RecordRun& section : m_document.sections) {
+        if (section.name == "ENTITIES") {
+            readEntities(section);
+        } else if (section.name == "OBJECTS") {
+            readObjects(section);
+        }
+    }
+    warnOfStyles();
+    completeDefaults();
+    return std::nullopt;
+}
+
+void DrawingReader::warnOfForm(std::size_t start) {
+    const CutDrawing& cut = m_document.cut;
+    if (start > 0) {
+        warn(1, "a byte-order mark stands before the drawing");
+    }
+    const std::size_t end = m_records.begin(m_records.size());
+    const bool unended = end > start && m_document.bytes[end - 1] != '\n';
+    const std::size_t lineFeeds = cut.lineEnds.lineFeeds - (unended ? 1 : 0);
+    if (cut.lineEnds.carriageReturns > 0 && cut.lineEnds.carriageReturns < lineFeeds) {
+        warn(0, "the lines end in different ways");
+    }
+    if (unended) {
+        warn(cut.lineCount, "the last line has no end");
+    }
+    if (!cut.hasEnd) {
+        warn(cut.lineCount, "the drawing stops without EOF");
+    }
+    if (end < m_document.bytes.size()) {
+        warn(cut.lineCount + 1, "bytes follow behind EOF");
+    }
+}
+
+void DrawingReader::findSections() {
+    RecordRun* open = nullptr;
+    for (std::uint32_t i = 0; i < m_records.size(); ++i) {
+        const RecordKind kind = m_records[i].kind;
+        const bool opens = kind == RecordKind::section;
+        if (!opens && kind != RecordKind::endSection && kind != RecordKind::endOfFile) {
+            continue;
+        }
+        if (open != nullptr) {
+            open->end = i;
+            open->closed = kind == RecordKind::endSection;
+            open = nullptr;
+        }
+        if (opens) {
+            open = &m_document.sections.emplace_back();
+            open->name = nameOf(i);
+            open->begin = i;
+        }
+    }
+    if (open != nullptr) {
+        open->end = m_records.size();
+    }
+}
+
+void DrawingReader::readHeader() {
+    HeaderBasics basics;
+    const RecordRun* const header = m_document.findSection("HEADER");
+    if (header != nullptr) {
+        basics = readBasics(m_document.bytes, m_document.span(header->begin));
+    }
+    m_document.text = DrawingText(basics.version, basics.codePage);
+    warnOfVersion(basics.version);
+    if (header != nullptr) {
+        readVariables(m_document.context(m_core), m_document.span(header->begin));
+    }
+    m_document.variables = m_core.variables();
+}
+
+void DrawingReader::warnOfVersion(std::string_view version) {
+    if (version.empty()) {
+        warn(0, "the drawing doesn't say its version");
+    } else if (version < kOldestVersion) {
+        warn(0, "the drawing's version " + std::string(version) + " is older than " +
+                    std::string(kOldestVersion));
+    } else if (version > kNewestVersion) {
+        warn(0, "the drawing's version " + std::string(version) + " is newer than " +
+                    std::string(kNewestVersion));
+    }
+}
+
+// ---- tables -------------------------------------------------------------------------------------
+
+void DrawingReader::readTables(const RecordRun& section) {
+    RecordRun* table = nullptr;
+    for (std::uint32_t i = section.begin + 1; i < section.end; ++i) {
+        const RecordKind kind = m_records[i].kind;
+        if (kind == RecordKind::table || kind == RecordKind::endTable) {
+            if (table != nullptr) {
+                table->end = i;
+                table->closed = kind == RecordKind::endTable;
+                table = nullptr;
+            }
+            if (kind == RecordKind::table) {
+                startTable(i);
+                table = &m_document.tables.back();
+            }
+        } else if (table != nullptr) {
+            addTableEntry(*table, i);
+        }
+    }
+    if (table != nullptr) {
+        table->end = section.end;
+    }
+}
+
+void DrawingReader::startTable(std::uint32_t record) {
+    RecordRun& table = m_document.tables.emplace_back();
+    table.name = nameOf(record);
+    table.begin = record;
+    struct Known {
+        std::string_view kind;
+        ObjectKind object;
+        KdDbStub** place;
+    };
+    for (const Known& known : {Known{"LAYER", ObjectKind::layerTable, &m_core.layerTable},
+                               Known{"LTYPE", ObjectKind::linetypeTable, &m_core.linetypeTable},
+                               Known{"BLOCK_RECORD", ObjectKind::blockTable, &m_core.blockTable}}) {
+        if (table.name == known.kind) {
+            if (*known.place == nullptr) {
+                *known.place =
+                    &m_core.addStub(known.object, m_records[record].handle, record, nullptr);
+            }
+            table.stub = *known.place; // a second table of a kind counts as more of the first
+        }
+    }
+}
+
+void DrawingReader::addTableEntry(RecordRun& table, std::uint32_t record) {
+    ++table.entries;
+    const Record& entry = m_records[record];
+    const auto add = [&](ObjectKind kind, std::vector<KdDbStub*>& list) {
+        list.push_back(&m_core.addStub(kind, entry.handle, record, table.stub));
+        return list.back();
+    };
+    if (entry.kind == RecordKind::layer && table.name == "LAYER") {
+        add(ObjectKind::layer, m_document.layers);
+    } else if (entry.kind == RecordKind::linetype && table.name == "LTYPE") {
+        add(ObjectKind::linetype, m_document.linetypes);
+    } else if (entry.kind == RecordKind::blockRecord && table.name == "BLOCK_RECORD") {
+        KdDbStub* const stub = add(ObjectKind::blockRecord, m_document.blockRecords);
+        m_blockRecords.try_emplace(foldCase(m_document.text.decode(nameOf(record))), stub);
+    }
+}
+
+// ---- blocks and entities ------------------------------------------------------------------------
+
+BlockEntities& DrawingReader::blockNamed(const std::wstring& name) {
+    BlockEntities* block = m_core.findBlock(name);
+    if (block == nullptr) {
+        block = &m_core.addBlock(name);
+        if (const auto found = m_blockRecords.find(foldCase(name)); found != m_blockRecords.end()) {
+            block->record = found->second;
+        }
+    }
+    return *block;
+}
+
+void DrawingReader::readBlocks(const RecordRun& section) {
+    RecordRun* block = nullptr;
+    for (std::uint32_t i = section.begin + 1; i < section.end; ++i) {
+        const RecordKind kind = m_records[i].kind;
+        if (kind == RecordKind::block || kind == RecordKind::endBlock) {
+            if (block != nullptr) {
+                block->end = i;
+                block->closed = kind == RecordKind::endBlock;
+                block = nullptr;
+            }
+            if (kind == RecordKind::block) {
+                startBlock(i);
+                block = &m_document.blocks.back();
+            }
+        } else if (block != nullptr) {
+            addEntity(i, *block->block);
+        }
+    }
+    if (block != nullptr) {
+        block->end = section.end;
+    }
+}
+
+void DrawingReader::startBlock(std::uint32_t record) {
+    RecordRun& run = m_document.blocks.emplace_back();
+    run.name = nameOf(record);
+    run.begin = record;
+    run.block = &blockNamed(m_document.text.decode(run.name));
+    const RecordSpan span = m_document.span(record);
+    TagReader reader(m_document.bytes, span.begin, span.end);
+    Tag tag;
+    while (reader.next(tag) == TagReader::Result::tag) {
+        KdGePoint3d& base = run.block->basePoint;
+        double* const part = tag.code == 10   ? &base.x
+                             : tag.code == 20 ? &base.y
+                             : tag.code == 30 ? &base.z
+                                              : nullptr;
+        if (part != nullptr) {
+            parseReal(tag.value, *part);
+        }
+    }
+}
+
+void DrawingReader::readEntities(const RecordRun& section) {
+    BlockEntities& model = m_core.modelSpace();
+    BlockEntities* paper = nullptr;
+    for (std::uint32_t i = section.begin + 1; i < section.end; ++i) {
+        if (!m_records[i].inPaperSpace) {
+            addEntity(i, model);
+            continue;
+        }
+        if (paper == nullptr) {
+            paper = &blockNamed(L"*Paper_Space");
+        }
+        addEntity(i, *paper);
+    }
+}
+
+void DrawingReader::addEntity(std::uint32_t record, BlockEntities& block) {
+    const Record& entry = m_records[record];
+    if (isPartOfEntity(entry.kind)) {
+        return;
+    }
+    const ObjectKind kind = entry.kind != RecordKind::mline ? ObjectKind::entity
+                            : entry.opaque                  ? ObjectKind::opaque
+                                                            : ObjectKind::mline;
+    m_core.appendEntity(block, m_core.addStub(kind, entry.handle, record, block.record));
+}
+
+// ---- objects ------------------------------------------------------------------------------------
+
+void DrawingReader::readObjects(const RecordRun& section) {
+    if (m_core.rootDictionary != nullptr) {
+        return; // a second section of objects isn't looked at
+    }
+    std::uint32_t root = section.begin + 1;
+    while (root < section.end && m_records[root].kind != RecordKind::dictionary) {
+        ++root;
+    }
+    if (root < section.end) {
+        m_core.rootDictionary = addDictionary(root, nullptr);
+        std::uint64_t handle = 0;
+        for (const DictionaryPair& pair : readPairs(m_document.bytes, m_document.span(root))) {
+            if (StrCmpI(m_document.text.decode(pair.key).c_str(), L"ACAD_MLINESTYLE") == 0) {
+                handle = pair.handle;
+                break;
+            }
+        }
+        for (std::uint32_t i = root + 1; handle != 0 && i < section.end; ++i) {
+            if (m_records[i].handle == handle && m_records[i].kind == RecordKind::dictionary) {
+                m_core.styleDictionary = addDictionary(i, m_core.rootDictionary);
+                break;
+            }
+        }
+    }
+    addStyles(section);
+    for (const KdDbStub* const dictionary : {m_core.rootDictionary, m_core.styleDictionary}) {
+        if (dictionary != nullptr) {
+            noteEntries(*dictionary);
+        }
+    }
+}
+
+KdDbStub* DrawingReader::addDictionary(std::uint32_t record, KdDbStub* owner) {
+    const std::uint64_t handle = m_records[record].handle;
+    KdDbStub& stub = m_core.addStub(ObjectKind::dictionary, handle, record, owner);
+    m_document.objects.try_emplace(handle, &stub);
+    return &stub;
+}
+
+void DrawingReader::addStyles(const RecordRun& section) {
+    for (std::uint32_t i = section.begin + 1; i < section.end; ++i) {
+        Record& record = m_records[i];
+        if (record.kind != RecordKind::mlineStyle) {
+            continue;
+        }
+        if (const char* const reason = checkStyle(m_document.bytes, m_document.span(i))) {
+            record.opaque = true;
+            warn(lineOf(record.offset),
+                 std::string("a multiline style contradicts itself, ") + reason);
+        }
+        KdDbStub& stub = m_core.addStub(record.opaque ? ObjectKind::opaque : ObjectKind::mlineStyle,
+                                        record.handle, i, m_core.styleDictionary);
+        m_document.objects.try_emplace(record.handle, &stub);
+    }
+}
+
+// Entries stand for objects that aren't understood, too; those are named by their handle alone.
+void DrawingReader::noteEntries(const KdDbStub& dictionary) {
+    for (const DictionaryPair& pair :
+         readPairs(m_document.bytes, m_document.span(dictionary.record))) {
+        if (!m_document.objects.contains(pair.handle)) {
+            KdDbStub& stub = m_core.addStub(ObjectKind::opaque, pair.handle, kNoRecord, nullptr);
+            m_document.objects.emplace(pair.handle, &stub);
+        }
+    }
+}
+
+void DrawingReader::warnOfStyles() {
+    std::vector<std::size_t> lines;
+    for (const auto& [handle, line] : m_document.cut.mlineStyles) {
+        const KdDbStub* const style = m_document.findObject(handle);
+        if (style == nullptr || style->kind != ObjectKind::mlineStyle) {
+            lines.push_back(line);
+        }
+    }
+    std::ranges::sort(lines);
+    for (const std::size_t line : lines) {
+        warn(line, "a multiline names a style that the drawing doesn't have");
+    }
+}
+
+void DrawingReader::completeDefaults() {
+    const std::size_t present = m_core.stubs().size();
+    m_core.completeDefaults();
+    const auto keep = [this](const KdDbStub& stub) {
+        m_document.untouched[&stub] = stub.object != nullptr ? stub.object->content() : nullptr;
+    };
+    keep(*m_core.rootDictionary);
+    keep(*m_core.styleDictionary);
+    for (std::size_t i = present; i < m_core.stubs().size(); ++i) {
+        keep(m_core.stubs()[i]);
+    }
+}
+
+} // namespace
+
+std::optional<DrawingError> readDrawing(DrawingDocument& document, DatabaseCore& core,
+                                        const DrawingProgress& progress,
+                                        std::vector<DrawingWarning>& warnings) {
+    return DrawingReader(document, core, warnings).run(progress);
+}
+
+} // namespace orvex

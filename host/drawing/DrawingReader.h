@@ -1,0 +1,13 @@
+#pragma once
+
+#include "DrawingDocument.h"
+
+namespace orvex {
+
+// Cuts the document's bytes and fills the database with what they stand for. Warnings come in the
+// order in which they were found.
+[[nodiscard]] std::optional<DrawingError> readDrawing(DrawingDocument& document, DatabaseCore& core,
+                                                      const DrawingProgress& progress,
+                                                      std::vector<DrawingWarning>& warnings);
+
+} // namespace orvex

@@ -1,0 +1,289 @@
+#include "MlineParser.h"
+
+#include "NumberText.h"
+
+#include <array>
+
+namespace orvex {
+
+namespace {
+
+enum Field : std::uint32_t {
+    kStyleName = 1U << 0U,
+    kStyle = 1U << 1U,
+    kScale = 1U << 2U,
+    kJustification = 1U << 3U,
+    kFlags = 1U << 4U,
+    kVertexCount = 1U << 5U,
+    kElementCount = 1U << 6U,
+    kStart = 1U << 7U,   // three bits
+    kNormal = 1U << 10U, // three bits
+};
+
+constexpr unsigned kPlaces = 9; // position, axis and miter have three coordinates each
+constexpr unsigned kLastNeeded = 7;
+
+// Every third coordinate may be missing; it is 0 then.
+constexpr bool isZ(unsigned place) {
+    return place % 3 == 2;
+}
+
+// The place of codes 11 to 33 among a vertex's coordinates; kPlaces for other codes.
+constexpr unsigned placeOf(int code) {
+    const int column = code % 10;
+    const int row = code / 10;
+    return code > 10 && code < 34 && column >= 1 && column <= 3
+               ? static_cast<unsigned>((column - 1) * 3 + row - 1)
+               : kPlaces;
+}
+
+double& coordinate(ChainVertex& vertex, unsigned place) {
+    const std::array<double*, kPlaces> all{
+        &vertex.position.x, &vertex.position.y, &vertex.position.z, &vertex.axis.x, &vertex.axis.y,
+        &vertex.axis.z,     &vertex.miter.x,    &vertex.miter.y,    &vertex.miter.z};
+    return *all[place];
+}
+
+} // namespace
+
+void MlineParser::begin() {
+    styleName = {};
+    style = 0;
+    scale = 1.0;
+    justification = 0;
+    flags = 0;
+    vertexCount = 0;
+    elementCount = 0;
+    normal = {0.0, 0.0, 1.0};
+    vertices.clear();
+    counts.clear();
+    values.clear();
+    m_stage = Stage::fields;
+    m_inGroup = false;
+    m_seen = 0;
+    m_nextPlace = 0;
+    m_elementsLeft = 0;
+    m_valuesLeft = 0;
+    m_error = nullptr;
+}
+
+MlineRole MlineParser::feed(const Tag& tag) {
+    if (tag.code >= 1000) {
+        m_stage = m_stage == Stage::fields ? m_stage : Stage::done;
+        return MlineRole::extra;
+    }
+    if (tag.code == 102) {
+        m_inGroup = tag.value.starts_with('{');
+        return MlineRole::extra;
+    }
+    if (m_inGroup || tag.code == 999) {
+        return MlineRole::extra;
+    }
+    if (tag.code == 11 && m_stage != Stage::done) {
+        return feedVertex(tag);
+    }
+    return m_stage == Stage::fields ? feedField(tag) : feedVertex(tag);
+}
+
+MlineRole MlineParser::feedField(const Tag& tag) {
+    std::uint32_t bit = 0;
+    double unused = 0.0;
+    switch (tag.code) {
+    case 2:
+        bit = kStyleName;
+        styleName = tag.value;
+        break;
+    case 340:
+        bit = kStyle;
+        if (!parseHandle(tag.value, style)) {
+            fail("its style's handle is no handle");
+        }
+        break;
+    case 40:
+        bit = kScale;
+        readReal(tag, scale);
+        break;
+    case 70:
+        bit = kJustification;
+        readCount(tag, justification);
+        if (justification > 2) {
+            fail("its justification is none of the three");
+        }
+        break;
+    case 71:
+        bit = kFlags;
+        if (!parseInteger(tag.value, flags)) {
+            fail("its flags are no number");
+        }
+        break;
+    case 72:
+        bit = kVertexCount;
+        readCount(tag, vertexCount);
+        break;
+    case 73:
+        bit = kElementCount;
+        readCount(tag, elementCount);
+        break;
+    case 10:
+    case 20:
+    case 30:
+        bit = kStart << static_cast<unsigned>(tag.code / 10 - 1);
+        readReal(tag, unused); // the first vertex counts
+        break;
+    case 210:
+        bit = kNormal;
+        readReal(tag, normal.x);
+        break;
+    case 220:
+        bit = kNormal << 1U;
+        readReal(tag, normal.y);
+        break;
+    case 230:
+        bit = kNormal << 2U;
+        readReal(tag, normal.z);
+        break;
+    case 74:
+    case 75:
+    case 41:
+    case 42:
+        fail("a list stands before its first vertex");
+        return MlineRole::extra;
+    default:
+        return MlineRole::extra;
+    }
+    if ((m_seen & bit) != 0) {
+        fail("a value is there twice");
+    }
+    m_seen |= bit;
+    return MlineRole::field;
+}
+
+MlineRole MlineParser::feedVertex(const Tag& tag) {
+    if (m_stage == Stage::done) {
+        return MlineRole::extra;
+    }
+    if (const unsigned place = placeOf(tag.code); place < kPlaces) {
+        return feedCoordinate(tag, place);
+    }
+    switch (tag.code) {
+    case 74:
+        return feedCount(tag, false);
+    case 75:
+        return feedCount(tag, true);
+    case 41:
+        return feedValue(tag, false);
+    case 42:
+        return feedValue(tag, true);
+    case 2:
+    case 340:
+    case 40:
+    case 70:
+    case 71:
+    case 72:
+    case 73:
+    case 10:
+    case 20:
+    case 30:
+    case 210:
+    case 220:
+    case 230:
+        fail("a value stands behind the vertices that belongs before them");
+        return MlineRole::extra;
+    default:
+        return MlineRole::extra;
+    }
+}
+
+MlineRole MlineParser::feedCoordinate(const Tag& tag, unsigned place) {
+    if (place == 0) {
+        if (m_stage != Stage::fields && !vertexIsComplete()) {
+            fail("a vertex is not complete");
+        }
+        vertices.emplace_back();
+        m_stage = Stage::coordinates;
+        m_nextPlace = 0;
+        m_elementsLeft = elementCount;
+        m_valuesLeft = 0;
+    } else if (m_stage != Stage::coordinates || place < m_nextPlace) {
+        fail("a vertex is out of order");
+        return MlineRole::extra;
+    }
+    for (unsigned skipped = m_nextPlace; skipped < place; ++skipped) {
+        if (!isZ(skipped)) {
+            fail("a vertex is not complete");
+        }
+    }
+    m_nextPlace = place + 1;
+    readReal(tag, coordinate(vertices.back(), place));
+    return MlineRole::vertex;
+}
+
+MlineRole MlineParser::feedCount(const Tag& tag, bool areas) {
+    const bool inOrder = areas
+                             ? m_stage == Stage::lines && m_valuesLeft == 0
+                             : m_elementsLeft > 0 && m_valuesLeft == 0 &&
+                                   ((m_stage == Stage::coordinates && m_nextPlace > kLastNeeded) ||
+                                    m_stage == Stage::areas);
+    int count = 0;
+    readCount(tag, count);
+    if (!inOrder) {
+        fail("its lists don't match the number of its elements");
+        return MlineRole::extra;
+    }
+    m_stage = areas ? Stage::areas : Stage::lines;
+    m_elementsLeft -= areas ? 1 : 0;
+    m_valuesLeft = static_cast<std::uint32_t>(count);
+    counts.push_back(m_valuesLeft);
+    return areas ? MlineRole::areaCount : MlineRole::lineCount;
+}
+
+MlineRole MlineParser::feedValue(const Tag& tag, bool areas) {
+    if (m_stage != (areas ? Stage::areas : Stage::lines) || m_valuesLeft == 0) {
+        fail("a list is longer than it says");
+        return MlineRole::extra;
+    }
+    --m_valuesLeft;
+    readReal(tag, values.emplace_back());
+    return areas ? MlineRole::area : MlineRole::line;
+}
+
+void MlineParser::readReal(const Tag& tag, double& value) {
+    if (!parseReal(tag.value, value)) {
+        fail("a value is no finite number");
+    }
+}
+
+void MlineParser::readCount(const Tag& tag, int& value) {
+    if (!parseInteger(tag.value, value) || value < 0) {
+        value = 0;
+        fail("a count is no count");
+    }
+}
+
+// The elements of a vertex end with an area list; without elements there is no list.
+bool MlineParser::vertexIsComplete() const {
+    return m_nextPlace > kLastNeeded && m_elementsLeft == 0 && m_valuesLeft == 0 &&
+           m_stage != Stage::lines;
+}
+
+const char* MlineParser::finish() {
+    if (m_error != nullptr) {
+        return m_error;
+    }
+    if ((m_seen & (kStyleName | kStyle)) == 0) {
+        return "it names no style";
+    }
+    constexpr std::uint32_t kCounts = kVertexCount | kElementCount;
+    if ((m_seen & kCounts) != kCounts) {
+        return "a count is missing";
+    }
+    if (m_stage != Stage::fields && !vertexIsComplete()) {
+        return "its last vertex is not complete";
+    }
+    if (vertices.size() != static_cast<std::size_t>(vertexCount)) {
+        return "the number of its vertices is not what it says";
+    }
+    return nullptr;
+}
+
+} // namespace orvex

@@ -1,0 +1,176 @@
+#include "MlineRecord.h"
+
+#include "KdDbMlineStyle.h"
+#include "MlineParser.h"
+#include "MlineVertexEdit.h"
+#include "NumberText.h"
+#include "RecordEdit.h"
+#include "TraitsRecord.h"
+
+namespace orvex {
+
+namespace {
+
+enum Flag : int { kHasVertices = 1, kClosed = 2, kNoStartCaps = 4, kNoEndCaps = 8 };
+constexpr std::size_t kElementCountField = 6; // in the order of mlineFields
+constexpr int kKnownFlags = kHasVertices | kClosed | kNoStartCaps | kNoEndCaps;
+
+// By handle; by name in drawings whose multilines have none.
+KdDbStub* findStyle(const RecordContext& context, const MlineParser& parser,
+                    const std::wstring& name) {
+    if (parser.style == 0) {
+        return context.core.findStyle(name);
+    }
+    KdDbStub* const found = context.core.findHandle(parser.style);
+    return found != nullptr && found->kind == ObjectKind::mlineStyle ? found : nullptr;
+}
+
+int flagsOf(const MlineContent& content) {
+    return (content.vertices.empty() ? 0 : kHasVertices) | (content.closed ? kClosed : 0) |
+           (content.startCapsSuppressed ? kNoStartCaps : 0) |
+           (content.endCapsSuppressed ? kNoEndCaps : 0);
+}
+
+std::wstring styleName(const RecordContext& context, const MlineContent& content) {
+    KdDbStub* const stub = content.style.stub();
+    if (stub == nullptr) {
+        return content.styleName;
+    }
+    const auto* const style = dynamic_cast<const KdDbMlineStyle*>(context.core.load(*stub));
+    return style != nullptr ? style->name() : content.styleName;
+}
+
+Field realField(int code, double value) {
+    return {code, realText(value)};
+}
+
+void addPointFields(Fields& fields, int code, double x, double y, double z) {
+    fields.push_back(realField(code, x));
+    fields.push_back(realField(code + 10, y));
+    fields.push_back(realField(code + 20, z));
+}
+
+// The fields of the multiline as a whole, in the order of a record. Flags that aren't known come
+// from `otherFlags`.
+Fields mlineFields(const RecordContext& context, const MlineContent& content, int otherFlags) {
+    Fields fields;
+    fields.push_back({2, context.text.encode(styleName(context, content))});
+    KdDbStub* const style = content.style.stub();
+    fields.push_back(
+        {340, style != nullptr ? std::optional(handleText(style->handle)) : std::nullopt});
+    fields.push_back(realField(40, content.scale));
+    fields.push_back({70, std::to_string(content.justification)});
+    fields.push_back({71, std::to_string(flagsOf(content) | (otherFlags & ~kKnownFlags))});
+    fields.push_back({72, std::to_string(content.vertices.size())});
+    fields.push_back({73, std::to_string(content.elementCount())});
+    const KdGePoint3d start =
+        content.vertices.empty() ? KdGePoint3d() : content.vertices.front().position;
+    addPointFields(fields, 10, start.x, start.y, start.z);
+    addPointFields(fields, 210, content.normal.x, content.normal.y, content.normal.z);
+    return fields;
+}
+
+std::shared_ptr<MlineContent> contentOf(const RecordContext& context, const MlineParser& parser) {
+    auto content = std::make_shared<MlineContent>();
+    content->styleName = context.text.decode(trimBlanks(parser.styleName));
+    content->style = KdDbObjectId(findStyle(context, parser, content->styleName));
+    content->scale = parser.scale;
+    content->justification = parser.justification;
+    content->closed = (parser.flags & kClosed) != 0;
+    content->startCapsSuppressed = (parser.flags & kNoStartCaps) != 0;
+    content->endCapsSuppressed = (parser.flags & kNoEndCaps) != 0;
+    content->normal = parser.normal;
+    content->vertices.assign(parser.vertices.begin(), parser.vertices.end());
+    if (parser.elementCount > 0) {
+        content->lists.assignFlat(static_cast<unsigned>(parser.elementCount),
+                                  {parser.counts.begin(), parser.counts.end()},
+                                  {parser.values.begin(), parser.values.end()});
+    } else {
+        for (std::size_t i = 0; i < parser.vertices.size(); ++i) {
+            content->lists.appendVertex();
+        }
+    }
+    return content;
+}
+
+// Some fields keep what the file says: without vertices nothing tells the elements and the start,
+// and neither name nor handle of a style is judged as long as it is the same style.
+void keepFileFields(Fields& before, Fields& after, const MlineContent& old,
+                    const MlineContent& content) {
+    for (std::size_t i = 0; i < after.size(); ++i) {
+        const int code = after[i].code;
+        const bool ofVertices = code == 73 || code == 10 || code == 20 || code == 30;
+        const bool ofStyle = code == 2 || code == 340;
+        if ((ofVertices && content.vertices.empty()) || (ofStyle && content.style == old.style)) {
+            after[i] = before[i];
+        }
+    }
+}
+
+} // namespace
+
+std::shared_ptr<MlineContent> readMline(const RecordContext& context, const RecordSpan& span,
+                                        MlineParser& parser) {
+    parser.begin();
+    TagReader reader(context.bytes, span.begin, span.end);
+    Tag tag;
+    reader.next(tag); // the code 0
+    while (reader.next(tag) == TagReader::Result::tag) {
+        parser.feed(tag);
+    }
+    if (parser.finish() != nullptr) {
+        return nullptr;
+    }
+    auto content = contentOf(context, parser);
+    content->traits = shareTraits(readTraits(context.bytes, span.begin, span.end, context.text));
+    return content;
+}
+
+std::optional<std::string> editMline(const RecordContext& context, const RecordSpan& span,
+                                     const MlineContent& content) {
+    MlineParser parser;
+    const std::shared_ptr<MlineContent> old = readMline(context, span, parser);
+    if (old == nullptr || old->equals(content)) {
+        return std::nullopt;
+    }
+    if (KdDbStub* const style = content.style.stub();
+        style != nullptr && content.style != old->style) {
+        context.core.ensureHandle(*style);
+    }
+    RecordEdit edit(context.bytes, span.begin, span.end);
+    const std::size_t commonEnd = commonPartEnd(edit.tags());
+    const EntityTraits& traits = content.traits != nullptr ? *content.traits : *old->traits;
+    edit.apply(traitsFields(*old->traits, context.text), traitsFields(traits, context.text), 1,
+               commonEnd);
+
+    const MlineLayout layout(edit.tags());
+    const std::size_t fieldsEnd = layout.verticesBegin();
+    Fields before = mlineFields(context, *old, parser.flags);
+    Fields after = mlineFields(context, content, parser.flags);
+    before[kElementCountField].text = std::to_string(parser.elementCount);
+    keepFileFields(before, after, *old, content);
+    edit.apply(before, after, commonEnd < fieldsEnd ? commonEnd + 1 : 1, fieldsEnd);
+    editVertices(edit, layout, *old, content);
+    return edit.text();
+}
+
+void writeMline(TagText& target, const RecordContext& context, const MlineContent& content,
+                std::uint64_t handle, std::uint64_t owner, bool inPaperSpace) {
+    EntityTraits traits = content.traits != nullptr ? *content.traits : EntityTraits();
+    traits.inPaperSpace = inPaperSpace;
+    if (KdDbStub* const style = content.style.stub()) {
+        context.core.ensureHandle(*style);
+    }
+    target.add(0, "MLINE");
+    target.addHandle(5, handle);
+    if (owner != 0) {
+        target.addHandle(330, owner);
+    }
+    target.add(100, "AcDbEntity");
+    addFields(target, traitsFields(traits, context.text));
+    target.add(100, "AcDbMline");
+    addFields(target, mlineFields(context, content, 0));
+    writeVertices(target, content);
+}
+
+} // namespace orvex

@@ -1,0 +1,106 @@
+#include "NumberText.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace orvex {
+
+namespace {
+
+// from_chars tells neither which end of the range was left; the text does.
+bool isTiny(std::string_view text) {
+    if (const std::size_t exponent = text.find_first_of("eE"); exponent != text.npos) {
+        return text.substr(exponent + 1).starts_with('-');
+    }
+    return text.find_first_not_of("-0.") > text.find('.');
+}
+
+// A plus sign is read by other programs, from_chars refuses it.
+std::string_view withoutPlus(std::string_view text) {
+    if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
+        text.remove_prefix(1);
+    }
+    return text;
+}
+
+template <class Number, class... Format>
+std::errc parseAll(std::string_view text, Number& value, Format... format) {
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value, format...);
+    return stop != end ? std::errc::invalid_argument : error;
+}
+
+} // namespace
+
+std::string_view trimBlanks(std::string_view text) {
+    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+bool parseReal(std::string_view text, double& value) {
+    text = withoutPlus(trimBlanks(text));
+    double number = 0.0;
+    const std::errc error = parseAll(text, number);
+    if (error == std::errc::result_out_of_range) {
+        if (!isTiny(text)) {
+            return false;
+        }
+        number = 0.0;
+    } else if (error != std::errc() || !std::isfinite(number)) {
+        return false;
+    }
+    value = number;
+    return true;
+}
+
+bool parseInteger(std::string_view text, int& value) {
+    text = withoutPlus(trimBlanks(text));
+    int number = 0;
+    if (parseAll(text, number, 10) != std::errc()) {
+        return false;
+    }
+    value = number;
+    return true;
+}
+
+bool parseHandle(std::string_view text, std::uint64_t& value) {
+    std::uint64_t number = 0;
+    if (parseAll(trimBlanks(text), number, 16) != std::errc()) {
+        return false;
+    }
+    value = number;
+    return true;
+}
+
+std::string realText(double value) {
+    if (!std::isfinite(value)) {
+        value = 0.0;
+    }
+    std::array<char, 32> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    std::string text(buffer.data(), result.ptr);
+    if (text.find_first_of(".e") == text.npos) {
+        text += ".0";
+    }
+    return text;
+}
+
+std::string handleText(std::uint64_t value) {
+    std::array<char, 16> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, 16);
+    std::string text(buffer.data(), result.ptr);
+    for (char& digit : text) {
+        if (digit >= 'a') {
+            digit = static_cast<char>(digit - 'a' + 'A');
+        }
+    }
+    return text;
+}
+
+} // namespace orvex

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "DatabaseCore.h"
+#include "DrawingText.h"
+
+#include <cstddef>
+#include <string_view>
+
+namespace orvex {
+
+// What it takes to read a record or to write one: the file's bytes, its texts, and the objects
+// that records name by handle.
+struct RecordContext {
+    std::string_view bytes;
+    const DrawingText& text;
+    DatabaseCore& core;
+};
+
+// One record's place in the file's bytes.
+struct RecordSpan {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+};
+
+} // namespace orvex

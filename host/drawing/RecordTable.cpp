@@ -1,0 +1,125 @@
+#include "RecordTable.h"
+
+#include "MlineParser.h"
+#include "NumberText.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace orvex {
+
+std::uint32_t RecordTable::skipParts(std::uint32_t index) const {
+    while (index < size() && isPartOfEntity(m_records[index].kind)) {
+        ++index;
+    }
+    return index;
+}
+
+class RecordCutter {
+public:
+    RecordCutter(std::string_view bytes, std::size_t start, CutDrawing& result)
+        : m_size(bytes.size()), m_reader(bytes, start, bytes.size()), m_result(result) {}
+
+    std::optional<DrawingError> run(const DrawingProgress& progress);
+
+private:
+    [[nodiscard]] std::size_t line() const { return 2 * m_reader.tagCount() + 1; }
+    void startRecord(const Tag& tag);
+    void endRecord();
+    void take(const Tag& tag);
+
+    std::size_t m_size;
+    TagReader m_reader;
+    CutDrawing& m_result;
+    MlineParser m_mline;
+    RecordKind m_kind = RecordKind::other; // of the record at hand
+    bool m_hasHandle = false;
+    std::size_t m_recordLine = 0;
+    std::uint64_t m_lastStyle = 0; // the one that the multiline before named
+};
+
+std::optional<DrawingError> RecordCutter::run(const DrawingProgress& progress) {
+    constexpr std::size_t kStep = std::size_t{4} << 20U; // bytes between two calls of `progress`
+    std::size_t nextCall = kStep;
+    Tag tag;
+    TagReader::Result read = TagReader::Result::end;
+    while ((read = m_reader.next(tag)) == TagReader::Result::tag) {
+        if (tag.code != 0) {
+            take(tag);
+            continue;
+        }
+        startRecord(tag);
+        if (m_kind == RecordKind::endOfFile) {
+            m_result.hasEnd = true;
+            break;
+        }
+        if (tag.begin >= nextCall) {
+            nextCall = tag.begin + kStep;
+            if (progress &&
+                !progress(static_cast<double>(tag.begin) / static_cast<double>(m_size))) {
+                return DrawingError{line(), "given up", true};
+            }
+        }
+    }
+    endRecord();
+    m_result.records.m_records.push_back({m_reader.position(), 0, RecordKind::other, false, false});
+    m_result.lineCount = 2 * m_reader.tagCount();
+    m_result.lineEnds = {m_result.lineCount, m_reader.carriageReturns()};
+    if (read == TagReader::Result::badCode) {
+        return DrawingError{line(), "a group code is no integer", false};
+    }
+    if (read == TagReader::Result::noValue) {
+        return DrawingError{line(), "a group code has no value", false};
+    }
+    return std::nullopt;
+}
+
+void RecordCutter::startRecord(const Tag& tag) {
+    endRecord();
+    m_kind = recordKind(trimBlanks(tag.value));
+    m_hasHandle = m_kind == RecordKind::section; // the header's code 5 names no section
+    m_recordLine = line() - 2;
+    m_result.records.m_records.push_back({tag.begin, 0, m_kind, false, false});
+    if (m_kind == RecordKind::mline) {
+        m_mline.begin();
+    }
+}
+
+void RecordCutter::take(const Tag& tag) {
+    if (m_kind == RecordKind::mline) {
+        m_mline.feed(tag);
+    }
+    const bool isHandle = m_kind == RecordKind::dimStyle ? tag.code == 105 : tag.code == 5;
+    if (isHandle && !m_hasHandle && !m_result.records.m_records.empty()) {
+        m_hasHandle = true;
+        Record& record = m_result.records.m_records.back();
+        parseHandle(tag.value, record.handle);
+        m_result.highestHandle = std::max(m_result.highestHandle, record.handle);
+    } else if (tag.code == 67 && !m_result.records.m_records.empty()) {
+        m_result.records.m_records.back().inPaperSpace = trimBlanks(tag.value) == "1";
+    }
+}
+
+void RecordCutter::endRecord() {
+    if (m_kind != RecordKind::mline) {
+        return;
+    }
+    m_kind = RecordKind::other;
+    if (const char* const reason = m_mline.finish(); reason != nullptr) {
+        m_result.records.m_records.back().opaque = true;
+        m_result.warnings.push_back(
+            {m_recordLine, std::string("a multiline contradicts itself, ") + reason});
+    } else if (m_mline.style == 0) {
+        m_result.warnings.push_back({m_recordLine, "a multiline names its style by name alone"});
+    } else if (m_mline.style != m_lastStyle) {
+        m_lastStyle = m_mline.style;
+        m_result.mlineStyles.try_emplace(m_lastStyle, m_recordLine);
+    }
+}
+
+std::optional<DrawingError> cutDrawing(std::string_view bytes, std::size_t start,
+                                       const DrawingProgress& progress, CutDrawing& result) {
+    return RecordCutter(bytes, start, result).run(progress);
+}
+
+} // namespace orvex

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "DrawingFile.h"
+#include "RecordKind.h"
+#include "TagReader.h"
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace orvex {
+
+// Everything from one code 0 up to the next.
+struct Record {
+    std::uint64_t offset = 0; // of the line with the code 0
+    std::uint64_t handle = 0; // 0 for none
+    RecordKind kind = RecordKind::other;
+    bool inPaperSpace = false;
+    bool opaque = false; // contradicts what its kind claims
+};
+
+// How the lines of a file end.
+struct LineEnds {
+    std::size_t lineFeeds = 0; // all of them, those behind a carriage return included
+    std::size_t carriageReturns = 0;
+};
+
+// The drawing as a flat list of records in the order of the file.
+class RecordTable {
+public:
+    [[nodiscard]] std::uint32_t size() const {
+        return static_cast<std::uint32_t>(m_records.empty() ? 0 : m_records.size() - 1);
+    }
+    // The last index is one that marks the end of what was read.
+    [[nodiscard]] const Record& operator[](std::uint32_t index) const { return m_records[index]; }
+    [[nodiscard]] Record& operator[](std::uint32_t index) { return m_records[index]; }
+
+    [[nodiscard]] std::size_t begin(std::uint32_t index) const {
+        return static_cast<std::size_t>(m_records[index].offset);
+    }
+    [[nodiscard]] std::size_t end(std::uint32_t index) const { return begin(index + 1); }
+
+    // Where entities' followers end: the first record from `index` on that is part of no entity.
+    [[nodiscard]] std::uint32_t skipParts(std::uint32_t index) const;
+
+private:
+    friend class RecordCutter;
+    std::vector<Record> m_records; // and one behind the last for the end
+};
+
+// What is known of a file once it is cut.
+struct CutDrawing {
+    RecordTable records;
+    LineEnds lineEnds;
+    std::size_t lineCount = 0;
+    std::uint64_t highestHandle = 0;
+    // Style handles that multilines name, each with the line where the first such record starts.
+    std::unordered_map<std::uint64_t, std::size_t> mlineStyles;
+    std::vector<DrawingWarning> warnings;
+    bool hasEnd = false; // an EOF record
+};
+
+// Cuts `bytes` from `start` on into records and checks the multilines on the way. Stops at EOF.
+[[nodiscard]] std::optional<DrawingError> cutDrawing(std::string_view bytes, std::size_t start,
+                                                     const DrawingProgress& progress,
+                                                     CutDrawing& result);
+
+} // namespace orvex

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "DrawingText.h"
+#include "EntityTraits.h"
+#include "RecordEdit.h"
+#include "TagText.h"
+
+namespace orvex {
+
+// The part that the records of all entities begin with: layer, line type, colour, visibility.
+
+[[nodiscard]] EntityTraits readTraits(std::string_view bytes, std::size_t begin, std::size_t end,
+                                      const DrawingText& text);
+
+[[nodiscard]] Fields traitsFields(const EntityTraits& traits, const DrawingText& text);
+
+// Index of the first tag that is not of the common part.
+[[nodiscard]] std::size_t commonPartEnd(const std::vector<Tag>& tags);
+
+// ---- colours: index under 62, true colour under 420, name under 430 ---------------------------
+
+// Takes one of these codes into the colour; false for another code or no number.
+bool readColor(const Tag& tag, const DrawingText& text, KdCmColor& color);
+// With `always` an index is written by layer, too.
+void addColorFields(Fields& fields, const KdCmColor& color, const DrawingText& text, bool always);
+
+} // namespace orvex

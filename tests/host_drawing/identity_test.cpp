@@ -1,0 +1,152 @@
+// A drawing that was opened and saved is the same file, whatever is in it.
+
+#include "DatabaseCore.h"
+#include "sampleDrawing.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace orvex;
+using namespace orvex::testing;
+
+// Opens everything there is, for reading and for writing, and looks at every shape.
+void touchAll(DrawingFile& file) {
+    DatabaseCore& core = file.database().core();
+    core.beginCommand();
+    for (KdDbStub& stub : core.stubs()) {
+        if (core.open(stub, true) != nullptr) {
+            core.aboutToChange(stub);
+        }
+        if (stub.kind == ObjectKind::entity) {
+            static_cast<void>(core.source()->shapeOf(stub));
+        }
+    }
+    core.endCommand();
+}
+
+void expectIdentity(const std::string& bytes, const std::string& what) {
+    auto opened = DrawingFile::openBytes(bytes);
+    auto* const file = std::get_if<std::unique_ptr<DrawingFile>>(&opened);
+    if (file == nullptr) {
+        return; // refused; what is refused is another test's matter
+    }
+    ASSERT_TRUE((*file)->bytes() == bytes) << what;
+    touchAll(**file);
+    ASSERT_TRUE((*file)->bytes() == bytes) << what << ", with everything touched";
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find('\n', at), text.size() - 1);
+        lines.push_back(text.substr(at, end + 1 - at));
+        at = end + 1;
+    }
+    return lines;
+}
+
+std::string joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line;
+    }
+    return text;
+}
+
+TEST(Identity, HoldsForFilesOfAnyForm) {
+    const std::string sample = sampleDrawing();
+    const std::string withReturns = dxf(sampleTags(), "\r\n");
+    const struct {
+        const char* what;
+        std::string bytes;
+    } files[] = {
+        {"nothing at all", ""},
+        {"as it is", sample},
+        {"CR LF", withReturns},
+        {"mixed line ends", withReturns.substr(0, withReturns.find("  0\r\nLINE")) +
+                                sample.substr(sample.find("  0\nLINE"))},
+        {"byte-order mark", "\xEF\xBB\xBF" + sample},
+        {"bytes behind EOF", sample + std::string("junk\0\nmore", 10)},
+        {"no line end at the end", sample.substr(0, sample.size() - 1)},
+        {"no EOF", sample.substr(0, sample.find("  0\nEOF"))},
+        {"codes padded in odd ways", replaced(sample, "\n  8\nWalls", "\n\t  8 \nWalls")},
+        {"comments inside a multiline",
+         replaced(sample, "  8\nWalls\n 62", "999\nseen\n  8\nWalls\n 62")},
+        {"zero bytes in a value", replaced(sample, "of another", std::string("of\0another", 10))},
+        {"entities alone",
+         dxf("0 SECTION\n2 ENTITIES\n0 LINE\n10 1\n20 2\n11 3\n21 4\n0 ENDSEC\n0 EOF\n")},
+        {"records outside of sections", dxf("0 LINE\n10 1\n0 MLINE\n72 1\n0 EOF\n")},
+        {"sections and tables left open", dxf("0 SECTION\n2 TABLES\n0 TABLE\n2 LAYER\n0 LAYER\n2 "
+                                              "A\n0 SECTION\n2 BLOCKS\n0 BLOCK\n2 X\n0 LINE\n")},
+    };
+    for (const auto& file : files) {
+        openDrawing(file.bytes);
+        expectIdentity(file.bytes, file.what);
+    }
+}
+
+TEST(Identity, HoldsForTheNewDrawing) {
+    const auto file = DrawingFile::create();
+    EXPECT_TRUE(file->warnings().empty());
+    expectIdentity(file->bytes(), "new drawing");
+}
+
+// Cut anywhere, with any tag missing, twice, or with another value: whatever opens stays.
+TEST(Identity, HoldsForDamagedFiles) {
+    const std::vector<std::string> lines = linesOf(sampleDrawing());
+    for (std::size_t i = 0; i + 1 < lines.size(); i += 2) {
+        const auto at = static_cast<std::ptrdiff_t>(i);
+        const std::string what = "at line " + std::to_string(i + 1);
+        std::vector<std::string> damaged(lines.begin(), lines.begin() + at);
+        expectIdentity(joined(damaged), "cut " + what);
+        damaged = lines;
+        damaged.erase(damaged.begin() + at, damaged.begin() + at + 2);
+        expectIdentity(joined(damaged), "a tag less " + what);
+        damaged = lines;
+        damaged.insert(damaged.begin() + at, lines.begin() + at, lines.begin() + at + 2);
+        expectIdentity(joined(damaged), "a tag twice " + what);
+        for (const char* const value :
+             {"\n", "-1\n", "99999\n", "nan\n", "1e999\n", "{\n", "0\n"}) {
+            damaged = lines;
+            damaged[i + 1] = value;
+            expectIdentity(joined(damaged), "another value " + what);
+        }
+    }
+}
+
+TEST(Identity, HoldsForHugeCountsWithoutMemoryForThem) {
+    for (const char* const count : {"2147483647", "65535", "99999999999999999999"}) {
+        for (const char* const code :
+             {" 72\n     3", " 73\n     2", " 74\n     4", " 75\n     2"}) {
+            const std::string key(code);
+            const std::string damaged = replaced(sampleDrawing(), key, key.substr(0, 4) + count);
+            expectIdentity(damaged, key + count);
+            EXPECT_NE(warningsOf(damaged).find("contradicts"), std::string::npos) << key;
+        }
+    }
+}
+
+TEST(Identity, IsNotLostByProgressAndCancelledByIt) {
+    std::string large = "  0\nSECTION\n  2\nENTITIES\n";
+    while (large.size() < (std::size_t{10} << 20U)) {
+        large += "  0\nLINE\n 10\n1.0\n 20\n2.0\n 11\n3.0\n 21\n4.0\n";
+    }
+    std::vector<double> told;
+    auto opened = DrawingFile::openBytes(large, [&](double part) {
+        told.push_back(part);
+        return true;
+    });
+    ASSERT_TRUE(std::holds_alternative<std::unique_ptr<DrawingFile>>(opened));
+    EXPECT_TRUE(std::get<std::unique_ptr<DrawingFile>>(opened)->bytes() == large);
+    ASSERT_GE(told.size(), 2U);
+    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+    EXPECT_GT(told.front(), 0.0);
+    EXPECT_LT(told.back(), 1.0);
+
+    auto cancelled = DrawingFile::openBytes(large, [](double) { return false; });
+    ASSERT_TRUE(std::holds_alternative<DrawingError>(cancelled));
+    EXPECT_TRUE(std::get<DrawingError>(cancelled).cancelled);
+}
+
+} // namespace

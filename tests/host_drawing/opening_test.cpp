@@ -1,0 +1,184 @@
+// What is refused, what is told of, and what an opened drawing holds.
+
+#include "DatabaseCore.h"
+#include "KdDbBlockTable.h"
+#include "KdDbLayerTable.h"
+#include "KdDbLinetypeTable.h"
+#include "KdDbMline.h"
+#include "KdDbMlineImp.h"
+#include "KdDbMlineStyle.h"
+#include "KdDbSystemInternals.h"
+#include "MlineContent.h"
+#include "MlineStyleContent.h"
+#include "kddbObjects.h"
+#include "sampleDrawing.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace orvex;
+using namespace orvex::testing;
+using ::testing::HasSubstr;
+
+TEST(Opening, IsRefusedWithTheLine) {
+    const struct {
+        std::string bytes;
+        std::size_t line;
+        const char* text;
+    } files[] = {
+        {std::string("Drawing in bytes  \r\n\x1A\0\0\0SECTION", 33), 1, "binary"},
+        {"  0\nSECTION\n  x\nHEADER\n", 3, "no integer"},
+        {"  0\nSECTION\n\nHEADER\n", 3, "no integer"},
+        {"  0\nSECTION\n 2 2\nHEADER\n", 3, "no integer"},
+        {std::string("  0\nSECTION\n  2\0\nHEADER\n", 23), 3, "no integer"},
+        {"  0\nSECTION\n  2\nHEADER\n  0\n", 5, "no value"},
+        {"  0\nSECTION\n  2\nHEADER\n  0", 5, "no value"},
+        {"\xFF\xFE\x30", 1, "no integer"},
+    };
+    for (const auto& file : files) {
+        const DrawingError error = openFailing(file.bytes);
+        EXPECT_EQ(error.line, file.line) << file.bytes;
+        EXPECT_THAT(error.text, HasSubstr(file.text));
+        EXPECT_FALSE(error.cancelled);
+    }
+    EXPECT_TRUE(std::holds_alternative<DrawingError>(DrawingFile::open("/nowhere/at/all.dxf")));
+    EXPECT_TRUE(std::holds_alternative<DrawingError>(DrawingFile::open("/")));
+}
+
+TEST(Opening, TellsOfWhatIsOdd) {
+    const std::string sample = sampleDrawing();
+    const std::size_t lastLine = std::count(sample.begin(), sample.end(), '\n');
+    const auto odd = [&](const char* from, const char* to) { return replaced(sample, from, to); };
+    const struct {
+        std::string bytes;
+        std::string text; // of the only warning; with its line where one is to blame
+    } files[] = {
+        {"\xEF\xBB\xBF" + sample, "1: a byte-order mark"},
+        {replaced(sample, "\n", "\r\n"), "0: the lines end in different ways"},
+        {sample.substr(0, sample.size() - 1), std::to_string(lastLine) + ": the last line"},
+        {sample.substr(0, sample.find("  0\nEOF")), "stops without EOF"},
+        {sample + "\n", std::to_string(lastLine + 1) + ": bytes follow"},
+        {odd("AC1018", "AC1009"), "older than AC1012"},
+        {odd("AC1018", "AC1099"), "newer than AC1032"},
+        {odd("$ACADVER", "$NOTHING"), "doesn't say its version"},
+        {odd(" 72\n     3", " 72\n     4"),
+         ": a multiline contradicts itself, the number of its vert"},
+        {odd(" 73\n     2", " 73\n     3"), ": a multiline contradicts itself"},
+        {odd(" 74\n     4", " 74\n     3"), ": a multiline contradicts itself, a list is longer"},
+        {odd(" 74\n     4", " 74\n     5"), ": a multiline contradicts itself, its lists"},
+        {odd("0.250", "inf"), ": a multiline contradicts itself, a value is no finite"},
+        {odd("0.250", "0,25"), ": a multiline contradicts itself, a value is no finite"},
+        {odd("340\n2F\n", ""), ": a multiline names its style by name alone"},
+        {odd("  2\nWALL\n340\n2F\n", ""), ": a multiline contradicts itself, it names no style"},
+        {odd("340\n2F", "340\nFFF"), ": a multiline names a style that the drawing doesn't have"},
+        {odd(" 71\n2\n 49\n0.50", " 71\n3\n 49\n0.50"), ": a multiline style contradicts itself"},
+        {odd(" 51\n45.000", " 51\nx"), ": a multiline style contradicts itself, a value is no fin"},
+    };
+    EXPECT_EQ(warningsOf(sample), "");
+    for (const auto& file : files) {
+        EXPECT_THAT(warningsOf(file.bytes), HasSubstr(file.text));
+    }
+}
+
+TEST(Opening, NamesTheLineOfTheRecordThatContradictsItself) {
+    const std::string damaged = replaced(sampleDrawing(), " 72\n     3", " 72\n     4");
+    const auto before = damaged.substr(0, damaged.find("  0\nMLINE\n  5\n51"));
+    const auto line = 1 + std::count(before.begin(), before.end(), '\n');
+    EXPECT_THAT(warningsOf(damaged), HasSubstr(std::to_string(line) + ": a multiline"));
+}
+
+TEST(Opening, KeepsAContradictingMultilineOutOfReach) {
+    const auto file = openDrawing(replaced(sampleDrawing(), " 72\n     3", " 72\n     4"));
+    KdDbStub& stub = stubOf(*file, 0x51);
+    EXPECT_EQ(stub.kind, ObjectKind::opaque);
+    EXPECT_EQ(file->database().core().open(stub, true), nullptr);
+    EXPECT_TRUE(std::holds_alternative<NoShape>(file->database().core().source()->shapeOf(stub)));
+    const auto& entities = file->database().core().modelSpace().entities;
+    EXPECT_EQ(entities.size(), 5U);
+    EXPECT_EQ(entities[1], &stub);
+}
+
+TEST(Opening, PutsEntitiesIntoTheirBlocks) {
+    const auto file = openDrawing(sampleDrawing());
+    DatabaseCore& core = file->database().core();
+    const auto handles = [](const BlockEntities& block) {
+        std::vector<std::uint64_t> result;
+        for (const KdDbStub* const stub : block.entities) {
+            result.push_back(stub->handle);
+        }
+        return result;
+    };
+    using Handles = std::vector<std::uint64_t>;
+    EXPECT_EQ(handles(core.modelSpace()), (Handles{0x50, 0x51, 0x52, 0x53, 0x56}));
+    EXPECT_EQ(handles(*core.findBlock(L"*PAPER_SPACE")), (Handles{0x57}));
+    const BlockEntities* const room = core.findBlock(L"room");
+    ASSERT_NE(room, nullptr);
+    EXPECT_EQ(handles(*room), (Handles{0x41}));
+    EXPECT_EQ(room->basePoint, (KdGePoint3d{1.5, 2.5, 0.0}));
+    EXPECT_EQ(room->record, &stubOf(*file, 0x1C));
+    EXPECT_EQ(core.blockOf(stubOf(*file, 0x41)), room);
+}
+
+TEST(Opening, ReadsAMultiline) {
+    const auto file = openDrawing(sampleDrawing());
+    const auto* const mline =
+        dynamic_cast<KdDbMline*>(file->database().core().load(stubOf(*file, 0x51)));
+    ASSERT_NE(mline, nullptr);
+    EXPECT_EQ(mline->style().stub(), &stubOf(*file, 0x2F));
+    EXPECT_EQ(mline->scale(), 0.5);
+    EXPECT_EQ(mline->justification(), 1);
+    EXPECT_FALSE(mline->closedMline());
+    EXPECT_EQ(mline->layer(), L"Walls");
+    EXPECT_EQ(mline->color().colorIndex(), 1);
+    ASSERT_EQ(mline->numVertices(), 3);
+    EXPECT_EQ(mline->vertexAt(2), (KdGePoint3d{10.0, 5.0, 0.0}));
+    EXPECT_EQ(mline->axisAt(0), (KdGeVector3d{1.0, 0.0, 0.0}));
+    EXPECT_EQ(mline->miterAt(2), (KdGeVector3d{-1.0, 0.0, 0.0}));
+    const ParameterLists& lists = KdDbSystemInternals::getImpObject(mline)->content().lists;
+    EXPECT_THAT(lists.line(0, 1), ::testing::ElementsAre(-0.25, 0.0, 2.0, 3.5));
+    EXPECT_THAT(lists.area(1, 0), ::testing::ElementsAre(0.0, 1.0));
+    EXPECT_TRUE(lists.line(2, 1).empty());
+}
+
+TEST(Opening, ReadsStylesTablesAndVariables) {
+    const auto file = openDrawing(sampleDrawing());
+    DatabaseCore& core = file->database().core();
+    const auto* const style = dynamic_cast<KdDbMlineStyle*>(core.load(stubOf(*file, 0x2F)));
+    ASSERT_NE(style, nullptr);
+    EXPECT_STREQ(style->name(), L"WALL");
+    EXPECT_STREQ(style->description(), L"Thick wall");
+    EXPECT_EQ(style->values().flags, 1297);
+    EXPECT_EQ(style->fillColor().colorIndex(), 2);
+    EXPECT_DOUBLE_EQ(style->startAngle(), 0.7853981633974483);
+    double offset = 0.0;
+    KdCmColor color;
+    KdDbObjectId linetype;
+    ASSERT_EQ(style->getElementAt(0, offset, color, linetype), Status::done);
+    EXPECT_EQ(offset, 0.5);
+    EXPECT_EQ(color.colorMethod(), KdCmColor::byColor);
+    EXPECT_EQ(color.rgb(), 0xFF0000U);
+    EXPECT_EQ(color.colorIndex(), 1);
+    EXPECT_EQ(linetype.stub(), &stubOf(*file, 0x15));
+    EXPECT_EQ(core.findStyle(L"wall"), &stubOf(*file, 0x2F));
+
+    const auto* const layer =
+        dynamic_cast<KdDbLayerTableRecord*>(core.load(*core.findLayer(L"WALLS")));
+    ASSERT_NE(layer, nullptr);
+    EXPECT_TRUE(layer->isOff());
+    EXPECT_TRUE(layer->isLocked());
+    EXPECT_FALSE(layer->isFrozen());
+    EXPECT_EQ(layer->color().colorIndex(), 3);
+    EXPECT_EQ(layer->linetype(), L"DASHED");
+    const auto* const dashed =
+        dynamic_cast<KdDbLinetypeTableRecord*>(core.load(*core.findLinetype(L"dashed")));
+    ASSERT_NE(dashed, nullptr);
+    EXPECT_EQ(dashed->dashes(), (std::vector<double>{0.5, -0.25}));
+
+    EXPECT_EQ(core.variables().text("CMLSTYLE"), L"WALL");
+    EXPECT_EQ(core.variables().real("CMLSCALE"), 20.0);
+    EXPECT_EQ(core.variables().integer("CMLJUST"), 0);
+}
+
+} // namespace
