@@ -1,0 +1,24 @@
+#include "CommandBracket.h"
+
+#include "DatabaseCore.h"
+#include "PromptSession.h"
+#include "SessionDisplay.h"
+#include "resourceLibrary.h"
+
+namespace orvex {
+
+CommandBracket::CommandBracket(DatabaseCore& core, SessionDisplay& display, ModuleLoader& modules)
+    : m_core(core), m_display(display), m_use(modules), m_resources(AfxGetResourceHandle()) {
+    PromptSession::current().armedKeywords.clear();
+    m_core.beginCommand();
+}
+
+CommandBracket::~CommandBracket() {
+    m_core.closeAll();
+    m_core.endCommand();
+    m_display.showAll();
+    AfxSetResourceHandle(m_resources);
+    PromptSession::current().armedKeywords.clear();
+}
+
+} // namespace orvex

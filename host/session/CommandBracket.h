@@ -1,0 +1,27 @@
+#pragma once
+
+#include "HINSTANCE.h"
+#include "ModuleLoader.h"
+
+namespace orvex {
+
+class DatabaseCore;
+class SessionDisplay;
+
+// What stands around every command, whatever way it ends: objects left open are closed, hidden ones
+// shown, the resource handle and the keywords are as before, and all changes are one undo step.
+class CommandBracket {
+public:
+    CommandBracket(DatabaseCore& core, SessionDisplay& display, ModuleLoader& modules);
+    ~CommandBracket();
+    CommandBracket(const CommandBracket&) = delete;
+    CommandBracket& operator=(const CommandBracket&) = delete;
+
+private:
+    DatabaseCore& m_core;
+    SessionDisplay& m_display;
+    ModuleLoader::Use m_use;
+    HINSTANCE m_resources;
+};
+
+} // namespace orvex

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+namespace orvex {
+
+class Session;
+
+// A command of the host's own.
+struct HostCommand {
+    const wchar_t* name;
+    void (*run)(Session&);
+};
+
+// Null when the host has none of that name; names ignore case.
+const HostCommand* findHostCommand(const std::wstring& name);
+
+// E: the extents of the drawing. C: a centre point and the height of the view in drawing units.
+void zoomCommand(Session& session);
+// A variable's name, then its value; an empty answer keeps the value.
+void setVariableCommand(Session& session);
+// A new multiline in the current style.
+void mlineCommand(Session& session);
+
+// Tells the current source that its last answer can't be taken.
+void rejectAnswer(const std::wstring& reason);
+
+} // namespace orvex

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "DrawingFile.h"
+#include "KdDocument.h"
+#include "PlanView.h"
+#include "Scene.h"
+#include "SessionContexts.h"
+#include "SessionDisplay.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orvex {
+
+class ModuleLoader;
+class PromptSource;
+
+// What a session is given. Nothing of it is owned but the drawing.
+struct SessionSetup {
+    std::unique_ptr<DrawingFile> drawing; // never null
+    PromptSource* source = nullptr;       // who answers prompts; may be set later
+    EntityFinder* finder = nullptr;       // null: the session's own scene
+    bool hasWindow = false;               // commands with dialogs may run
+    int viewWidth = 1600;                 // pixels
+    int viewHeight = 1200;
+    std::vector<std::string> moduleFiles; // where the module may be, UTF-8, in order
+};
+
+// An open drawing with its view, its prompts and the commands that can be typed. There is one at a
+// time: while it lives, its document is the current one.
+class Session {
+public:
+    Session(SessionSetup setup, ModuleLoader& modules);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    [[nodiscard]] DrawingFile& drawing() { return *m_setup.drawing; }
+    [[nodiscard]] KdDbDatabase& database() { return m_setup.drawing->database(); }
+    [[nodiscard]] Scene& scene() { return m_scene; }
+    // Starts at the extents that the drawing has when the view is first needed, which is before
+    // the first command at the latest.
+    [[nodiscard]] PlanView& view();
+    [[nodiscard]] SessionDisplay& display() { return m_display; }
+
+    void setSource(PromptSource* source);
+
+    // Asks the source for a command's name; empty for an empty line or a cancel.
+    [[nodiscard]] std::wstring askCommand();
+
+    enum class Outcome {
+        done,
+        unknown,      // no such command, also after the module was loaded
+        needsWindow,  // the command works by a dialog
+        moduleFailed, // the module or its texts can't be loaded
+        busy,         // another command runs
+        failed,       // the command ended by an exception
+    };
+    struct Result {
+        Outcome outcome = Outcome::done;
+        std::wstring message; // why, where it isn't done
+    };
+    // Runs a command to its end within the bracket that all commands share.
+    Result run(const std::wstring& name);
+
+    [[nodiscard]] bool isRunning() const { return m_running; }
+
+private:
+    Result runInBracket(const std::wstring& name, const std::function<void()>& command);
+    Result undo();
+    std::optional<std::wstring> loadModule();
+
+    SessionSetup m_setup;
+    ModuleLoader& m_modules;
+    KdDocument m_document;
+    PlanView m_view;
+    bool m_viewStarted = false;
+    Scene m_scene;
+    SessionContexts m_contexts;
+    SessionDisplay m_display;
+    bool m_running = false;
+    KdDocument* m_documentBefore;
+    RvexDocContext* m_contextBefore;
+};
+
+} // namespace orvex

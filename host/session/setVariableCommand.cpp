@@ -1,0 +1,29 @@
+#include "HostCommand.h"
+#include "promptLibrary.h"
+#include "promptStatus.h"
+#include "textCodec.h"
+#include "variableText.h"
+
+namespace orvex {
+
+void setVariableCommand(Session& /*session*/) {
+    wchar_t text[kPromptTextSize] = L"";
+    if (kdedGetString(L"Variable name: ", text) != kPromptNormal) {
+        return;
+    }
+    const std::wstring name = foldCase(text);
+    const std::optional<std::wstring> value = variableText(name);
+    if (!value) {
+        rejectAnswer(L"there is no variable '" + name + L"'");
+        return;
+    }
+    const std::wstring prompt = L"New value for " + name + L" <" + *value + L">: ";
+    if (kdedGetString(prompt.c_str(), text) != kPromptNormal) {
+        return;
+    }
+    if (const auto refusal = setVariableText(name, text)) {
+        rejectAnswer(*refusal);
+    }
+}
+
+} // namespace orvex

@@ -1,0 +1,50 @@
+#include "HostCommand.h"
+#include "Session.h"
+#include "coordinateFrames.h"
+#include "promptLibrary.h"
+#include "promptStatus.h"
+
+#include <cmath>
+#include <string_view>
+
+namespace orvex {
+
+namespace {
+
+void zoomToCenter(Session& session) {
+    double center[3] = {0.0, 0.0, 0.0};
+    double height = 0.0;
+    if (kdedGetPoint(nullptr, L"Center point: ", center) != kPromptNormal ||
+        kdedGetReal(L"Height of the view: ", &height) != kPromptNormal) {
+        return;
+    }
+    if (!(height > 0.0)) {
+        rejectAnswer(L"the height of a view has to be above 0");
+        return;
+    }
+    resbuf user;
+    user.restype = kResultShort;
+    user.resval.rint = 1;
+    resbuf world;
+    world.restype = kResultShort;
+    world.resval.rint = 0;
+    kdedTrans(center, &user, &world, 0, center);
+    session.view().setView({center[0], center[1]}, height);
+}
+
+} // namespace
+
+void zoomCommand(Session& session) {
+    wchar_t keyword[kPromptTextSize] = L"";
+    kdedInitGet(0, L"Extents Center");
+    if (kdedGetKword(L"Extents or Center: ", keyword) != kPromptNormal) {
+        return;
+    }
+    if (std::wstring_view(keyword) == L"Extents") {
+        session.view().zoomTo(session.scene().extents());
+    } else {
+        zoomToCenter(session);
+    }
+}
+
+} // namespace orvex
