@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace orvex {
+
+// What the user calls the program for. Files in UTF-8, as typed.
+
+struct RunCall {
+    std::string drawing;
+    std::string script;                // "-" is standard input
+    std::optional<std::string> output; // nothing is saved without
+    std::optional<std::string> module; // else beside the program or in the library folder
+};
+
+struct ShowCall {
+    std::string drawing;
+    std::string output;
+    int width = 1600; // pixels
+    int height = 1200;
+};
+
+struct ListCall {
+    std::string drawing;
+    bool asJson = false;
+};
+
+// A call that is answered at once, by help, the version, or a complaint.
+struct AnsweredCall {
+    bool isWrong = false;
+    std::string text;
+};
+
+using BatchCall = std::variant<RunCall, ShowCall, ListCall, AnsweredCall>;
+
+BatchCall parseBatchCall(int argc, const char* const* argv);
+
+} // namespace orvex

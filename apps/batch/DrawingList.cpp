@@ -1,0 +1,144 @@
+#include "DrawingList.h"
+
+#include "DatabaseCore.h"
+#include "DictionaryContent.h"
+#include "KdDbDatabase.h"
+#include "KdDbDictionary.h"
+#include "KdDbLinetypeTable.h"
+#include "KdDbMline.h"
+#include "KdDbMlineStyle.h"
+#include "MlineStyleContent.h"
+#include "kddbObjects.h"
+#include "textCodec.h"
+
+#include <array>
+#include <charconv>
+
+namespace orvex {
+
+namespace {
+
+// As the file has it: hexadecimal, capitals.
+std::string handleText(std::uint64_t handle) {
+    std::array<char, 16> digits{};
+    const auto end = std::to_chars(digits.begin(), digits.end(), handle, 16).ptr;
+    std::string text(digits.begin(), end);
+    for (char& digit : text) {
+        digit = static_cast<char>(digit >= 'a' ? digit - 'a' + 'A' : digit);
+    }
+    return text;
+}
+
+std::string styleName(const MlineContent& content) {
+    KdDbMlineStyle* style = nullptr;
+    kddbOpenObject(style, content.style, kForRead);
+    if (style == nullptr) {
+        return narrow(content.styleName);
+    }
+    const std::string name = narrow(style->name());
+    style->close();
+    return name;
+}
+
+int flagWord(const MlineContent& content) {
+    return (content.vertices.empty() ? 0 : 1) | (content.closed ? 2 : 0) |
+           (content.startCapsSuppressed ? 4 : 0) | (content.endCapsSuppressed ? 8 : 0);
+}
+
+std::string linetypeName(const StyleElement& element) {
+    KdDbLinetypeTableRecord* record = nullptr;
+    kddbOpenObject(record, element.linetype, kForRead);
+    if (record == nullptr) {
+        return narrow(element.linetypeName);
+    }
+    const std::string name = narrow(record->name());
+    record->close();
+    return name;
+}
+
+// The shortest number of degrees that stands for these radians: what a file says, not what is left
+// of it after two conversions.
+double degrees(double radians) {
+    constexpr double kDegree = 3.141592653589793 / 180.0;
+    constexpr int kAllDigits = 17;
+    const double raw = radians / kDegree;
+    std::array<char, 32> text{};
+    for (int digits = 1; digits < kAllDigits; ++digits) {
+        const auto end =
+            std::to_chars(text.begin(), text.end(), raw, std::chars_format::general, digits).ptr;
+        double shorter = raw;
+        std::from_chars(text.begin(), end, shorter);
+        if (shorter * kDegree == radians) {
+            return shorter;
+        }
+    }
+    return raw;
+}
+
+ListedStyle listStyle(const KdDbStub& stub, const MlineStyleContent& content) {
+    ListedStyle listed;
+    listed.handle = handleText(stub.handle);
+    listed.name = narrow(content.name);
+    listed.description = narrow(content.description);
+    listed.flags = content.flags;
+    listed.startAngle = degrees(content.startAngle);
+    listed.endAngle = degrees(content.endAngle);
+    listed.fill = content.fillColor;
+    for (const StyleElement& element : content.elements) {
+        listed.elements.push_back({element.offset, element.color, linetypeName(element)});
+    }
+    return listed;
+}
+
+} // namespace
+
+void forEachMline(KdDbDatabase& database, const std::function<void(const ListedMline&)>& visitor) {
+    DatabaseCore& core = database.core();
+    for (KdDbStub& stub : core.stubs()) {
+        if (stub.kind != ObjectKind::mline || stub.erased) {
+            continue;
+        }
+        KdDbMline* mline = nullptr;
+        kddbOpenObject(mline, KdDbObjectId(&stub), kForRead);
+        if (mline == nullptr) {
+            continue;
+        }
+        const std::shared_ptr<const ObjectContent> held = mline->content();
+        const auto& content = static_cast<const MlineContent&>(*held);
+        const BlockEntities* const block = core.blockOf(stub);
+        ListedMline listed;
+        listed.handle = handleText(stub.handle);
+        listed.block = block != nullptr ? narrow(block->name) : std::string();
+        listed.layer = narrow(mline->layer());
+        listed.style = styleName(content);
+        listed.flags = flagWord(content);
+        listed.content = &content;
+        visitor(listed);
+        mline->close();
+    }
+}
+
+std::vector<ListedStyle> listStyles(KdDbDatabase& database) {
+    std::vector<ListedStyle> styles;
+    KdDbDictionary* dictionary = nullptr;
+    database.getMLStyleDictionary(dictionary, kForRead);
+    if (dictionary == nullptr) {
+        return styles;
+    }
+    for (const DictionaryEntry& entry : dictionary->entries().entries) {
+        KdDbMlineStyle* style = nullptr;
+        kddbOpenObject(style, entry.id, kForRead);
+        if (style != nullptr) {
+            styles.push_back(listStyle(*entry.id.stub(), style->values()));
+            style->close();
+        }
+    }
+    dictionary->close();
+    return styles;
+}
+
+std::string colorText(const KdCmColor& color) {
+    return narrow(color.colorNameForDisplay());
+}
+
+} // namespace orvex

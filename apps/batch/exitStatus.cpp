@@ -1,0 +1,23 @@
+#include "exitStatus.h"
+
+namespace orvex {
+
+ExitStatus exitStatus(const BatchFailure& failure) {
+    switch (failure.cause) {
+    case BatchFailure::Cause::call:
+        return ExitStatus::wrongCall;
+    case BatchFailure::Cause::reading:
+        return ExitStatus::unreadable;
+    case BatchFailure::Cause::writing:
+        return ExitStatus::unwritable;
+    case BatchFailure::Cause::playing:
+        break;
+    }
+    return ExitStatus::unplayable;
+}
+
+std::string atLine(const std::string& file, std::size_t line, const std::string& text) {
+    return file + ':' + (line > 0 ? std::to_string(line) + ": " : " ") + text;
+}
+
+} // namespace orvex
