@@ -2,12 +2,8 @@
 
 #include "KdDbMline.h"
 #include "kddbObjects.h"
-#include "promptStatus.h"
 
-CMlineEdit::CMlineEdit()
-    : m_status(kPromptNormal), m_buffer{}, m_pickedPoint{}, m_pickRadius(0.0), m_pickedName{},
-      m_reserved(-1), m_undoFirst(nullptr), m_undoSecond(nullptr), m_crossing(nullptr),
-      m_crossingSize(0) {
+CMlineEdit::CMlineEdit() {
     constexpr std::size_t kUsualBreaks = 128;
     m_breaks.reserve(kUsualBreaks);
 }

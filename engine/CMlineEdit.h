@@ -3,6 +3,7 @@
 #include "CMlineSegment.h"
 #include "EditTool.h"
 #include "HINSTANCE.h"
+#include "promptStatus.h"
 
 #include <vector>
 
@@ -21,19 +22,19 @@ enum class TeeKind;
 // breaks in drawing units, angles in radians.
 class CMlineEdit {
 public:
-    int m_status;            // of the last prompt; the tool's result
-    wchar_t m_buffer[2049];  // every prompt, keyword and message passes through here
-    double m_pickedPoint[3]; // last pick, current user coordinate system
-    double m_pickRadius;     // pick aperture, display units; 0 matches nothing
-    long m_pickedName[2];    // entity of the last pick till a record has taken it over
-    CMlineSegment m_first;   // the picked multilines of the cycle
+    int m_status = kPromptNormal;              // of the last prompt; the tool's result
+    wchar_t m_buffer[kPromptTextSize] = {};    // every prompt, keyword and message passes through
+    double m_pickedPoint[3] = {0.0, 0.0, 0.0}; // last pick, current user coordinate system
+    double m_pickRadius = 0.0;                 // pick aperture, display units; 0 matches nothing
+    long m_pickedName[2] = {0, 0}; // entity of the last pick till a record has taken it over
+    CMlineSegment m_first;         // the picked multilines of the cycle
     CMlineSegment m_second;
     std::vector<double> m_breaks; // the break list in hand
-    int m_reserved;
-    KdDbMline* m_undoFirst; // owned: the entities as they were before the cycle, or null
-    KdDbMline* m_undoSecond;
-    PointTable m_crossing; // owned: [element of first][element of second]
-    int m_crossingSize;    // rows of m_crossing
+    int m_reserved = -1;
+    KdDbMline* m_undoFirst = nullptr; // owned: the entities as they were before the cycle, or null
+    KdDbMline* m_undoSecond = nullptr;
+    PointTable m_crossing = nullptr; // owned: [element of first][element of second]
+    int m_crossingSize = 0;          // rows of m_crossing
     // Beside the matrix: which of its entries are crossings. The others read as zeros and cut
     // nothing.
     int m_crossingColumns = 0;

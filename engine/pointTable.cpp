@@ -5,7 +5,7 @@
 PointTable newPointTable(int rows, int columns) {
     const int height = std::max(rows, 0);
     const int width = std::max(columns, 0);
-    const PointTable table = new PointRow[static_cast<std::size_t>(height)]();
+    auto* const table = new PointRow[static_cast<std::size_t>(height)]();
     int made = 0;
     try {
         for (; made < height; ++made) {
