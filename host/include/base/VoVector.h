@@ -1,5 +1,6 @@
 #pragma once
 
+#include "VoVectorItems.h"
 #include "crashRecorder.h"
 
 #include <algorithm>
@@ -64,14 +65,14 @@ public:
     [[nodiscard]] bool isEmpty() const { return size() == 0; }
 
     [[nodiscard]] const T& at(int index) const {
-        return isIndex(index) ? m_block->items[static_cast<unsigned>(index)] : badElement();
+        return isIndex(index) ? m_block->items.get()[static_cast<unsigned>(index)] : badElement();
     }
     [[nodiscard]] T& at(int index) {
         if (!isIndex(index)) {
             return badElement();
         }
         makeUnique(m_block->physical);
-        return m_block->items[static_cast<unsigned>(index)];
+        return m_block->items.get()[static_cast<unsigned>(index)];
     }
     const T& operator[](int index) const { return at(index); }
     T& operator[](int index) { return at(index); }
@@ -88,7 +89,7 @@ public:
         T copy(value);
         const unsigned old = size();
         setLogicalLength(old + 1);
-        m_block->items[old] = std::move(copy);
+        m_block->items.get()[old] = std::move(copy);
     }
     void resize(unsigned count) { setLogicalLength(count); }
     void clear() { setLogicalLength(0); }
@@ -101,8 +102,8 @@ public:
         }
         makeUnique(count > physicalLength() ? m_policy.growCount(old, physicalLength(), count)
                                             : physicalLength());
-        for (unsigned i = count; i < old; ++i) {
-            m_block->items[i] = T();
+        if (count < old) {
+            m_block->items.clear(count, old);
         }
         m_block->logical = count;
     }
@@ -120,7 +121,7 @@ public:
     [[nodiscard]] const T* data() const {
         return m_block != nullptr ? m_block->items.get() : nullptr;
     }
-    // For writing: the array is made this object's alone first.
+    // For writing: the array is made this object's alone first. Good up to the physical length.
     [[nodiscard]] T* data() {
         if (m_block == nullptr) {
             return nullptr;
@@ -140,10 +141,12 @@ public:
 
 private:
     struct Block {
+        explicit Block(unsigned room) : physical(room), items(room) {}
+
         unsigned references = 1;
         unsigned logical = 0;
         unsigned physical = 0;
-        std::unique_ptr<T[]> items;
+        orvex::VoVectorItems<T> items;
     };
 
     [[nodiscard]] bool isIndex(int index) const {
@@ -173,17 +176,16 @@ private:
         }
     }
     void reallocate(unsigned physical) {
-        auto fresh = std::make_unique<Block>();
-        fresh->items = std::make_unique<T[]>(physical);
-        fresh->physical = physical;
-        fresh->logical = size();
+        if (m_block != nullptr && m_block->references == 1) {
+            m_block->items.resize(m_block->logical, m_block->physical, physical);
+            m_block->physical = physical;
+            return;
+        }
+        auto fresh = std::make_unique<Block>(physical);
         if (m_block != nullptr) {
-            T* const from = m_block->items.get();
-            if (m_block->references > 1) {
-                std::copy(from, from + m_block->logical, fresh->items.get());
-            } else {
-                std::move(from, from + m_block->logical, fresh->items.get());
-            }
+            fresh->items.copyFrom(m_block->items, m_block->logical,
+                                  std::min(m_block->physical, physical));
+            fresh->logical = m_block->logical;
         }
         release();
         m_block = fresh.release();
