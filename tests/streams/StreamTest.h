@@ -1,0 +1,61 @@
+#pragma once
+
+#include "BoundedCrashRecorder.h"
+#include "VoBitStream.h"
+#include "VoFlatMemBuf.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace orvex::testing {
+
+using Bytes = std::vector<int>;
+using Reports = std::vector<std::wstring>;
+
+constexpr const wchar_t* kBufferReport = L"Out of stream buffer!";
+constexpr const wchar_t* kBitsReport = L"Out of stream streamBuf!";
+
+// Listens to the reports for the time of a test.
+class StreamTest : public ::testing::Test {
+protected:
+    StreamTest() : m_before(setCrashRecorder(&m_recorder)) {}
+    ~StreamTest() override { setCrashRecorder(m_before); }
+
+    // The reports since the last call.
+    Reports reports() {
+        Reports messages = m_recorder.messages();
+        m_recorder.clear();
+        return messages;
+    }
+
+private:
+    BoundedCrashRecorder m_recorder;
+    CrashRecorder* m_before;
+};
+
+inline Bytes bytesOf(const VoStreamBuf& buffer) {
+    return {buffer.buffer(), buffer.buffer() + buffer.length()};
+}
+
+inline void fill(VoFlatMemBuf& buffer, const std::vector<unsigned char>& bytes,
+                 std::uint64_t position = 0) {
+    buffer.open(bytes.data(), static_cast<unsigned>(bytes.size()), 0);
+    buffer.moveTo(position);
+}
+
+// The bits of a stream from a position to its end, as "0" and "1".
+inline std::string bitsFrom(VoBitStream& stream, std::uint64_t position) {
+    std::string bits;
+    stream.seek(position, VoIO::fromStart);
+    while (!stream.isEOS()) {
+        std::uint8_t bit = 0;
+        stream.readBit(bit);
+        bits += bit != 0 ? '1' : '0';
+    }
+    return bits;
+}
+
+} // namespace orvex::testing

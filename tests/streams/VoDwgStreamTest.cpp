@@ -1,0 +1,247 @@
+#include "StreamTest.h"
+
+#include "VoDwgR21Stream.h"
+#include "hostHeap.h"
+
+#include <memory>
+
+namespace {
+
+using namespace orvex::testing;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+using Text = CStdStr<wchar_t>;
+
+class VoDwgStreamTest : public StreamTest {};
+
+Bytes written(const VoFlatMemBuf& buffer, const VoBitStream& stream) {
+    Bytes bytes = bytesOf(buffer);
+    bytes.resize((stream.length() + 7) / 8);
+    return bytes;
+}
+
+TEST_F(VoDwgStreamTest, HandlesCountTheirBytesAndStandHighestFirst) {
+    struct Case {
+        std::uint8_t code;
+        std::uint64_t value;
+        Bytes bytes;
+    };
+    const Case cases[] = {
+        {5, 0, {0x50}},
+        {0, 0x1234, {0x02, 0x12, 0x34}},
+        {4, 0xFF, {0x41, 0xFF}},
+        {15, ~std::uint64_t{0}, {0xF8, 255, 255, 255, 255, 255, 255, 255, 255}},
+        {0x12, 1, {0x21, 1}}, // the code's high half has no place
+    };
+    for (const Case& each : cases) {
+        for (unsigned start = 0; start < 8; ++start) {
+            VoFlatMemBuf buffer;
+            VoDwgStream stream(&buffer);
+            stream.writeBits(0, start);
+            stream.writeHandleParts(each.code, each.value);
+            ASSERT_EQ(stream.length(), start + each.bytes.size() * 8);
+            if (start == 0) {
+                EXPECT_EQ(written(buffer, stream), each.bytes);
+            }
+            stream.seek(start, VoIO::fromStart);
+            std::uint8_t code = 0;
+            std::uint64_t value = 77;
+            stream.readHandleParts(code, value);
+            EXPECT_EQ(code, each.bytes[0]); // with the count in it
+            EXPECT_EQ(value, each.value);
+            EXPECT_TRUE(stream.isEOS());
+        }
+    }
+    VoFlatMemBuf buffer;
+    VoDwgStream stream(&buffer);
+    stream.writeHandle(KdDbHandle{0xABC});
+    stream.seek(0, VoIO::fromStart);
+    KdDbHandle handle;
+    stream.readHandle(handle);
+    EXPECT_EQ(handle.value, 0xABCU);
+    EXPECT_THAT(reports(), IsEmpty());
+}
+
+TEST_F(VoDwgStreamTest, AHandleOfMoreThanEightBytesIsReportedAndNotRead) {
+    VoFlatMemBuf buffer;
+    fill(buffer, {0x29, 1, 2, 3});
+    VoDwgStream stream(&buffer, 32);
+    std::uint8_t code = 0;
+    std::uint64_t value = 77;
+    stream.readHandleParts(code, value);
+    EXPECT_EQ(code, 0x29);
+    EXPECT_EQ(value, 77U);
+    EXPECT_EQ(stream.tell(), 8U);
+    EXPECT_THAT(reports(), ElementsAre(L"Error status 67"));
+
+    stream.seek(28, VoIO::fromStart);
+    stream.readHandleParts(code, value);
+    EXPECT_EQ(code, 0x29);
+    EXPECT_EQ(value, 77U);
+    EXPECT_THAT(reports(), ElementsAre(kBitsReport));
+}
+
+TEST_F(VoDwgStreamTest, IdsArePassedOverWhenRead) {
+    VoFlatMemBuf buffer;
+    VoDwgStream stream(&buffer);
+    int place = 0;
+    const KdDbObjectId id(reinterpret_cast<KdDbStub*>(&place));
+    stream.writeHardOwnershipId(id);
+    stream.writeSoftOwnershipId(id);
+    stream.writeHardPointerId(id);
+    stream.writeSoftPointerId(id);
+    stream.writeObjectId(id, 2);
+    EXPECT_EQ(stream.length(), 5U * 66);
+
+    stream.seek(0, VoIO::fromStart);
+    KdDbObjectId kept;
+    for (const int type : {3, 2, 1, 0, 2}) {
+        std::uint8_t found = 9;
+        stream.readObjectId(kept, &found);
+        EXPECT_EQ(found, type);
+        EXPECT_TRUE(kept.isNull());
+    }
+    EXPECT_TRUE(stream.isEOS());
+    stream.seek(0, VoIO::fromStart);
+    stream.readHardOwnershipId(kept);
+    stream.readSoftOwnershipId(kept);
+    stream.readHardPointerId(kept);
+    stream.readSoftPointerId(kept);
+    stream.readObjectId(kept, nullptr);
+    EXPECT_TRUE(stream.isEOS());
+    EXPECT_TRUE(kept.isNull());
+    EXPECT_THAT(reports(), IsEmpty());
+}
+
+TEST_F(VoDwgStreamTest, AScaleInSpaceTakesNoBits) {
+    VoFlatMemBuf buffer;
+    VoDwgStream stream(&buffer);
+    VoBitStream& base = stream;
+    base.writeScale3d({2, 3, 4});
+    EXPECT_EQ(stream.length(), 0U);
+    KdGeScale3d scale{5, 6, 7};
+    base.readScale3d(scale);
+    EXPECT_EQ(scale, (KdGeScale3d{5, 6, 7}));
+    base.writeScale2d({2, 3});
+    EXPECT_EQ(stream.length(), 128U);
+}
+
+TEST_F(VoDwgStreamTest, OfUnicodeTextsTheFirstHalfOfTheMemoryGoesOut) {
+    VoFlatMemBuf buffer;
+    VoDwgStream stream(&buffer);
+    stream.writeUnicodeString(L"abcde");
+    EXPECT_EQ(stream.length(), 10U + 5 * 16);
+    stream.writeUnicodeString(nullptr);
+    EXPECT_EQ(stream.length(), 10U + 5 * 16 + 2);
+    stream.seek(0, VoIO::fromStart);
+    wchar_t* text = nullptr;
+    stream.readUnicodeString(text);
+    EXPECT_STREQ(text, L"abc"); // ten bytes: two characters and the low half of a third
+    wchar_t* const before = text;
+    stream.readUnicodeString(text);
+    EXPECT_EQ(text, before); // a count of 0 changes nothing
+    kdutDelString(text);
+}
+
+TEST_F(VoDwgStreamTest, ACountBeyondTheStreamGivesNoUnicodeText) {
+    for (const std::int32_t count : {-1, 4, 0x7FFFFFFF}) {
+        VoFlatMemBuf buffer;
+        VoDwgStream stream(&buffer);
+        stream.writeInt32(count);
+        stream.writeBytes("abcdefg", 7);
+        stream.seek(0, VoIO::fromStart);
+        wchar_t other = L'x';
+        wchar_t* text = &other;
+        stream.readUnicodeString(text);
+        EXPECT_EQ(text, nullptr);
+        EXPECT_EQ(reports(), count > 0 ? Reports{kBitsReport} : Reports{});
+    }
+}
+
+TEST_F(VoDwgStreamTest, TextsAreNarrow) {
+    VoFlatMemBuf buffer;
+    VoDwgStream stream(&buffer);
+    stream.writeBits(1, 3);
+    stream.writeString(L"W\u00E4nde");
+    stream.writeString(nullptr);
+    EXPECT_EQ(stream.length(), 3U + 10 + 6 * 8 + 2);
+    stream.seek(3, VoIO::fromStart);
+    Text text(L"old");
+    stream.readString(text);
+    EXPECT_STREQ(text, L"W\u00E4nde");
+    stream.readString(text);
+    EXPECT_STREQ(text, L"");
+    EXPECT_THAT(reports(), IsEmpty());
+}
+
+TEST_F(VoDwgStreamTest, LaterTextsAreUnitsOf16Bits) {
+    VoFlatMemBuf buffer;
+    VoDwgR21Stream stream(&buffer);
+    stream.writeString(L"W\u00E4nde \U0001F641");
+    EXPECT_EQ(stream.length(), 10U + 7 * 16);
+    stream.writeString(L"");
+    stream.seek(0, VoIO::fromStart);
+    Text text;
+    stream.readString(text);
+    EXPECT_STREQ(text, L"W\u00E4nde \uF641"); // the high bits are lost
+    stream.readString(text);
+    EXPECT_STREQ(text, L"W\u00E4nde \uF641"); // no characters: left as it was
+}
+
+TEST_F(VoDwgStreamTest, ACountBeyondTheStreamGivesAnEmptyText) {
+    VoFlatMemBuf buffer;
+    VoDwgR21Stream later(&buffer);
+    later.writeInt16(3);
+    later.writeBytes("abcde", 5);
+    Text text(L"old");
+    VoDwgStream(&buffer, later.length()).readString(text);
+    EXPECT_STREQ(text, L"abc");
+    later.seek(0, VoIO::fromStart);
+    later.readString(text);
+    EXPECT_STREQ(text, L"");
+    EXPECT_THAT(reports(), ElementsAre(kBitsReport));
+
+    VoDwgStream(&buffer, 20).readString(text);
+    EXPECT_STREQ(text, L"");
+    EXPECT_THAT(reports(), ElementsAre(kBitsReport));
+}
+
+TEST_F(VoDwgStreamTest, TheCountOfALongTextIsCutAndItsCharactersAreNot) {
+    struct Case {
+        std::size_t length;
+        std::uint64_t narrowBits;
+        std::uint64_t wideBits;
+    };
+    const Case cases[] = {{32767, 18 + 32767 * 8, 18 + 32767 * 16},
+                          {40000, 18 + 40000 * 8, 18 + 40000 * 16},
+                          {65536, 2 + 65536 * 8, 2}, // in 16 bits the count is 0
+                          {65537, 10 + 65537 * 8, 10 + 65537 * 16}};
+    for (const Case& each : cases) {
+        const std::wstring text(each.length, L'x');
+        VoFlatMemBuf buffer;
+        VoDwgStream narrow(&buffer);
+        narrow.writeString(text.c_str());
+        EXPECT_EQ(narrow.length(), each.narrowBits);
+        VoFlatMemBuf other;
+        VoDwgR21Stream wide(&other);
+        wide.writeString(text.c_str());
+        EXPECT_EQ(wide.length(), each.wideBits);
+
+        Text got(L"old");
+        narrow.seek(0, VoIO::fromStart);
+        narrow.readString(got);
+        const std::size_t low = each.length & 0xFFFFU;
+        EXPECT_EQ(got.GetLength(), low < 32768 ? static_cast<int>(low) : 0);
+    }
+    EXPECT_THAT(reports(), IsEmpty());
+}
+
+TEST_F(VoDwgStreamTest, StreamsLiveOnTheHostsHeapToo) {
+    VoFlatMemBuf buffer;
+    const std::unique_ptr<VoBufStream> stream(new VoDwgR21Stream(&buffer));
+    stream->writeInt32(5);
+    EXPECT_EQ(stream->length(), 10U);
+}
+
+} // namespace

@@ -1,0 +1,245 @@
+#include "VoDwgR21Stream.h"
+#include "VoFlatMemBuf.h"
+#include "hostHeap.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <memory>
+#include <span>
+
+// The first byte chooses the stream, the second says how many operations follow; the rest is what
+// they read. Each operation is one byte for its kind and one for its argument. Whatever the bytes
+// are, the streams must stay within their buffers and come to an end, and a value that was read
+// whole must be written and read again as the same.
+
+namespace {
+
+using Input = std::span<const std::uint8_t>;
+
+void require(bool condition) {
+    if (!condition) {
+        std::abort();
+    }
+}
+
+// The value goes through a second stream and must come back.
+template <class Stream, class T, class Read, class Write>
+void readForm(Stream& stream, T value, Read read, Write write) {
+    (stream.*read)(value);
+    VoFlatMemBuf buffer;
+    VoBitStream copy(&buffer);
+    copy.writeBits(0, static_cast<unsigned>(stream.tell() % 8));
+    const std::uint64_t start = copy.tell();
+    (copy.*write)(value);
+    copy.seek(start, VoIO::fromStart);
+    T again{};
+    (copy.*read)(again);
+    require(again == value);
+}
+
+void readText(VoDwgStream& stream, unsigned kind) {
+    switch (kind % 5) {
+    case 0: {
+        char* text = nullptr;
+        stream.readRawStr(text);
+        std::free(text);
+        break;
+    }
+    case 1: {
+        wchar_t* text = nullptr;
+        stream.readRawStr(text);
+        std::free(text);
+        break;
+    }
+    case 2: {
+        wchar_t* text = nullptr;
+        stream.readUnicodeString(text);
+        kdutDelString(text);
+        break;
+    }
+    default: {
+        CStdStr<wchar_t> text;
+        stream.readString(text);
+        stream.writeString(text);
+    }
+    }
+}
+
+void readReference(VoDwgStream& stream, unsigned kind) {
+    KdDbObjectId id;
+    switch (kind % 4) {
+    case 0: {
+        KdDbHandle handle;
+        stream.readHandle(handle);
+        stream.writeHandle(handle);
+        break;
+    }
+    case 1:
+        stream.readHardOwnershipId(id);
+        break;
+    case 2:
+        stream.readSoftPointerId(id);
+        break;
+    default: {
+        std::uint8_t type = 0;
+        stream.readObjectId(id, &type);
+        require(type < 4);
+    }
+    }
+    require(id.isNull());
+}
+
+void readValue(VoDwgStream& stream, unsigned kind) {
+    using S = VoBitStream;
+    switch (kind % 17) {
+    case 0:
+        return readForm(stream, std::uint8_t{}, &S::readUInt8, &S::writeUInt8);
+    case 1:
+        return readForm(stream, std::uint16_t{}, &S::readUInt16, &S::writeUInt16);
+    case 2:
+        return readForm(stream, std::int32_t{}, &S::readInt32, &S::writeInt32);
+    case 3:
+        return readForm(stream, std::uint64_t{}, &S::readRawUInt64, &S::writeRawUInt64);
+    case 4:
+        return readForm(stream, wchar_t{}, &S::readWChar, &S::writeWChar);
+    case 5:
+        return readForm(stream, false, &S::readBool, &S::writeBool);
+    case 6:
+        return readForm(stream, 0.0, &S::readDouble, &S::writeDouble);
+    case 7:
+        return readForm(stream, 0.0, &S::readRawDouble, &S::writeRawDouble);
+    case 8:
+        return readForm(stream, KdGePoint2d{}, &S::readPoint2d, &S::writePoint2d);
+    case 9:
+        return readForm(stream, KdGePoint3d{}, &S::readPoint3d, &S::writePoint3d);
+    case 10:
+        return readForm(stream, KdGeVector3d{}, &S::readVector3d, &S::writeVector3d);
+    case 11:
+        return readForm(stream, KdGeScale2d{}, &S::readScale2d, &S::writeScale2d);
+    case 12:
+        return readForm(stream, KdGeMatrix2d{}, &S::readMatrix2d, &S::writeMatrix2d);
+    case 13:
+        return readForm(stream, KdGeMatrix3d{}, &S::readMatrix3d, &S::writeMatrix3d);
+    case 14: {
+        // These two don't read back as written.
+        std::int64_t value = 0;
+        stream.readInt64(value);
+        stream.writeInt64(value);
+        return;
+    }
+    case 15: {
+        float value = 0.0F;
+        stream.readFloat(value);
+        stream.writeFloat(value);
+        return;
+    }
+    default: {
+        char value = 0;
+        stream.readChar(value);
+        void* address = nullptr;
+        stream.readAddress(address);
+    }
+    }
+}
+
+// Far, near and wrapping offsets out of one byte.
+std::uint64_t offsetOf(std::uint8_t argument) {
+    const std::uint64_t near = argument & 0x3FU;
+    return (argument & 0x40U) != 0 ? ~near : near;
+}
+
+void moveAbout(VoDwgStream& stream, VoFlatMemBuf& buffer, unsigned kind, std::uint8_t argument) {
+    const auto type = static_cast<VoIO::SeekType>(kind % 5);
+    const std::uint64_t offset = offsetOf(argument);
+    switch (kind / 5 % 9) {
+    case 0:
+        stream.seek(offset, type);
+        break;
+    case 1:
+        stream.seekByte(offset, type);
+        break;
+    case 2:
+        buffer.seek(offset, type);
+        break;
+    case 3:
+        buffer.setlength(argument);
+        break;
+    case 4:
+        buffer.writeByte(argument, 0x5A);
+        break;
+    case 5:
+        buffer.copyFrom(&buffer, argument & 7U, offset);
+        break;
+    case 6: {
+        VoFlatMemBuf other;
+        other.setlength(argument);
+        buffer.copyTo(&other, offset, argument & 7U);
+        other.copyFrom(&buffer, offset, kind % 3);
+        break;
+    }
+    case 7:
+        stream.truncate();
+        break;
+    default: {
+        VoFlatMemBuf other;
+        VoBitStream target(&other);
+        target.writeBytes("0123456", argument % 8);
+        stream.readBits(&target, argument % 61, argument);
+    }
+    }
+}
+
+void readPieces(VoDwgStream& stream, std::uint8_t argument) {
+    std::uint8_t bits = 0;
+    stream.readBits(bits, argument % 9U);
+    stream.readBit(bits);
+    require(bits < 2);
+    std::array<unsigned char, 64> bytes{};
+    stream.readBytes(bytes.data(), argument % 65U);
+    stream.writeBytes(bytes.data(), argument % 13U);
+    stream.writeBits(bits, argument % 9U);
+}
+
+void operate(VoDwgStream& stream, VoFlatMemBuf& buffer, std::uint8_t kind, std::uint8_t argument) {
+    const unsigned detail = kind / 5;
+    switch (kind % 5) {
+    case 0:
+        return readText(stream, detail);
+    case 1:
+        return readReference(stream, detail);
+    case 2:
+        return readValue(stream, detail);
+    case 3:
+        return moveAbout(stream, buffer, detail, argument);
+    default:
+        return readPieces(stream, argument);
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    if (size < 2) {
+        return 0;
+    }
+    const Input input(data, size);
+    const std::size_t operations = std::min<std::size_t>(input[1], (size - 2) / 2);
+    const Input content = input.subspan(2 + operations * 2);
+    VoFlatMemBuf buffer;
+    buffer.open(content.data(), static_cast<unsigned>(content.size()), 0);
+    buffer.setlength(content.size());
+    const std::uint64_t bits = content.size() * 8;
+    std::unique_ptr<VoDwgStream> stream;
+    if (input[0] % 2 != 0) {
+        stream = std::make_unique<VoDwgR21Stream>(&buffer, bits);
+    } else {
+        stream = std::make_unique<VoDwgStream>(&buffer, bits);
+    }
+    stream->seek(input[0] / 2 % 8, VoIO::fromStart);
+    for (std::size_t i = 0; i < operations; ++i) {
+        operate(*stream, buffer, input[2 + 2 * i], input[3 + 2 * i]);
+        require(buffer.length() < 1U << 24);
+    }
+    return 0;
+}
