@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QComboBox>
+
+#include <functional>
+
+namespace VOUI {
+
+// A combo box that tells the user's choice apart from what a program sets.
+class MRUComboBox : public QComboBox {
+    Q_OBJECT
+
+public:
+    explicit MRUComboBox(QWidget* parent = nullptr);
+
+    // Asked with the index before a choice is told; may change the entries and the current one.
+    // False keeps the choice quiet. Empty: every choice is told.
+    using Chooser = std::function<bool(int index)>;
+    void setChooser(Chooser chooser);
+
+signals:
+    // The user chose an entry.
+    void selChanged();
+
+private:
+    void choose(int index);
+
+    Chooser m_chooser;
+};
+
+} // namespace VOUI
