@@ -1,0 +1,177 @@
+#include "DatabaseCore.h"
+#include "ToolWorld.h"
+
+namespace {
+
+constexpr bool kClosed = true;
+
+class VertexShift : public orvex::testing::ToolWorld {
+protected:
+    VertexShift() { setStyle({1, -1}); }
+
+    static void move(KdDbMline* mline, int vertex, const KdGePoint3d& place) {
+        CMlineEdit run;
+        CMlineSegment seg;
+        GetSegmentsSize(mline, &seg.m_numElements);
+        run.ptListInitialize(mline, mline->numVertices(), seg.m_numElements, &seg.m_ptList,
+                             &seg.m_ptListSize);
+        const double to[3] = {place.x, place.y, place.z};
+        run.changePTPosition(mline, vertex, to, seg.m_ptList);
+        freePointTable(seg.m_ptList, seg.m_ptListSize);
+    }
+    // Three segments of 10 along x.
+    KdDbMline* straight() {
+        KdDbMline* const mline = add({{0, 0, 0}, {10, 0, 0}, {20, 0, 0}, {30, 0, 0}}, {1, -1});
+        for (int v = 0; v < 4; ++v) {
+            setBreaks(mline, v, {{0, 5, 7}, {0, 5, 7}});
+        }
+        return mline;
+    }
+};
+
+TEST_F(VertexShift, AlongItsSegmentsKeepsTheBreaksInPlace) {
+    const std::string kept = "1 0 5 7 | -1 0 5 7";
+    const struct {
+        const char* name;
+        int vertex;
+        double to;
+        std::vector<std::string> lists; // of vertices 0 to 3
+    } cases[] = {
+        {"forward", 1, 13, {kept, "1 0 2 4 | -1 0 2 4", kept, kept}},
+        {"forward into a gap", 1, 16, {kept, "1 1 | -1 1", kept, kept}},
+        {"back into the last run", 1, 8, {kept, "1 2 7 9 | -1 2 7 9", kept, kept}},
+        {"back into the gap", 1, 6, {"1 0 5 | -1 0 5", "1 4 9 11 | -1 4 9 11", kept, kept}},
+        // Seen from the vertex before, the new place lies behind: its lists stay.
+        {"back past the neighbour", 1, -2, {kept, "1 12 17 19 | -1 12 17 19", kept, kept}},
+        {"onto the neighbour", 1, 0, {"1 | -1", "1 10 15 17 | -1 10 15 17", kept, kept}},
+        {"the first", 0, 6, {"1 1 | -1 1", kept, kept, kept}},
+        {"the last", 3, 26, {kept, kept, "1 0 5 | -1 0 5", "1 0 | -1 0"}},
+        // The last vertex is written anew even then.
+        {"the last, to where it is", 3, 30, {kept, kept, kept, "1 0 | -1 0"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        KdDbMline* const mline = straight();
+        move(mline, c.vertex, {c.to, 0, 0});
+        EXPECT_EQ(mline->vertexAt(c.vertex), (KdGePoint3d{c.to, 0, 0}));
+        for (int v = 0; v < 4; ++v) {
+            EXPECT_EQ(lists(mline, v), c.lists[static_cast<std::size_t>(v)]) << "vertex " << v;
+        }
+        mline->erase();
+    }
+    KdDbMline* const mline = straight();
+    const auto before = mline->content();
+    move(mline, 1, {10, 0, 0});
+    EXPECT_TRUE(mline->content()->equals(*before)) << "an inner vertex to where it is";
+    mline->setStyle(KdDbObjectId());
+    const auto styleless = mline->content();
+    move(mline, 1, {13, 0, 0});
+    EXPECT_TRUE(mline->content()->equals(*styleless)) << "no style, no offsets to keep";
+}
+
+// Two vertices along 3, 4, 5: offsets are the style's by justification and scale, whatever stood
+// in the lists, and the ends stand at the style's angles.
+TEST_F(VertexShift, SidewaysTakesOffsetsAndAnglesFromTheStyle) {
+    const struct {
+        int justification;
+        double scale;
+        std::string lists; // of the style's 3, 1, -1
+    } cases[] = {{0, 1, "0 0 | -2 0 | -4 0"},
+                 {1, 1, "2 0 | 0 0 | -2 0"},
+                 {2, 1, "4 0 | 2 0 | 0 0"},
+                 {1, 0.5, "1 0 | 0 0 | -1 0"}};
+    setStyle({3, 1, -1});
+    for (const auto& c : cases) {
+        KdDbMline* const mline = add({{0, 0, 0}, {10, 0, 0}}, {7, 7, 7});
+        setBreaks(mline, 0, {{0, 5, 7}, {3}, {0}});
+        mline->setJustification(c.justification);
+        mline->setScale(c.scale);
+        move(mline, 1, {6, 8, 0});
+        EXPECT_EQ(lists(mline, 0), c.lists);
+        EXPECT_EQ(lists(mline, 1), c.lists);
+        EXPECT_EQ(directions(mline, 0), "0.6,0.8 / -0.8,0.6");
+        EXPECT_EQ(directions(mline, 1), "0.6,0.8 / -0.8,0.6");
+        mline->erase();
+    }
+}
+
+TEST_F(VertexShift, EndAnglesTurnWithTheNormalAndTheUserSystem) {
+    const std::string cosine = number(std::sqrt(3.0) / 2);
+    setStyle({1, -1}, 30, 150);
+    const struct {
+        const char* name;
+        double normal;
+        KdGeVector3d userY; // of the user system, its X being the world's
+        std::string first, last, lists;
+    } cases[] = {
+        {"both up",
+         1,
+         {0, 1, 0},
+         "1,0 / " + cosine + ",0.5",
+         "1,0 / -" + cosine + ",0.5",
+         "2 0 | -2 0"},
+        {"user system over",
+         1,
+         {0, -1, 0},
+         "1,0 / " + cosine + ",-0.5",
+         "1,0 / -" + cosine + ",-0.5",
+         "-2 0 | 2 0"},
+        // In the plane of a normal that points down, angles run the other way round.
+        {"normal down",
+         -1,
+         {0, 1, 0},
+         "1,0 / " + cosine + ",0.5",
+         "1,0 / -" + cosine + ",0.5",
+         "-2 0 | 2 0"},
+        {"both down",
+         -1,
+         {0, -1, 0},
+         "1,0 / " + cosine + ",-0.5",
+         "1,0 / -" + cosine + ",-0.5",
+         "2 0 | -2 0"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        database.core().setVariable("UCSYDIR", KdGePoint3d{c.userY.x, c.userY.y, c.userY.z});
+        KdDbMline* const mline = add({{0, 0, 0}, {10, 0, 0}}, {1, -1});
+        mline->setNormal({0, 0, c.normal});
+        move(mline, 1, {5, 0, 0});
+        EXPECT_EQ(directions(mline, 0), c.first);
+        EXPECT_EQ(directions(mline, 1), c.last);
+        EXPECT_EQ(lists(mline, 1), c.lists);
+        mline->erase();
+    }
+}
+
+// A corner that becomes straight: vertex 2 at (10, 10) gets its neighbour before it moved to
+// (20, 10), on the line of the segment behind.
+TEST_F(VertexShift, SlidesTheStartsBehindToTheNewMiter) {
+    const std::string root2 = number(std::sqrt(2.0));
+    KdDbMline* const mline = add({{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}}, {1, -1});
+    setBreaks(mline, 2, {{2, 5}, {0, 5, 7}});
+    ASSERT_EQ(lists(mline, 2), root2 + " 2 5 | -" + root2 + " 0 5 7");
+    move(mline, 1, {20, 10, 0});
+    EXPECT_EQ(directions(mline, 2), "-1,0 / 0,-1");
+    // Element 0 starts at (10, 9) and not at (9, 9): 1 longer. Element 1 at (10, 11), 1 shorter.
+    EXPECT_EQ(lists(mline, 2), "1 3 6 | -1 0 4 6");
+    EXPECT_EQ(lists(mline, 3), "1 0 | -1 0");
+    EXPECT_EQ(chain(mline), "0,0 20,10 10,10 0,10");
+}
+
+TEST_F(VertexShift, AClosedChainHasNeighboursEverywhere) {
+    const std::string root2 = number(std::sqrt(2.0));
+    KdDbMline* const mline =
+        add({{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}}, {1, -1}, kClosed);
+    for (int v = 0; v < 4; ++v) {
+        setBreaks(mline, v, {{0, 5, 7}, {0, 5, 7}});
+    }
+    const std::string kept = root2 + " 0 5 7 | -" + root2 + " 0 5 7";
+    // Vertex 0 onto the last one: by number there is no vertex before it, so the closing segment
+    // keeps its runs.
+    move(mline, 0, {0, 10, 0});
+    EXPECT_EQ(chain(mline), "0,10 10,0 10,10 0,10");
+    EXPECT_EQ(lists(mline, 3), kept);
+    EXPECT_EQ(lists(mline, 2), kept);
+}
+
+} // namespace
