@@ -55,7 +55,7 @@ void commandOnOneOf(benchmark::State& state) {
     fill(core, state.range(0));
     KdDbStub& stub = core.stubs()[core.stubs().size() / 2];
     double scale = 1.0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         core.beginCommand();
         auto* const mline = static_cast<KdDbMline*>(core.open(stub, true));
         mline->setScale(scale += 1.0);
@@ -70,7 +70,7 @@ void commandOnAll(benchmark::State& state) {
     DatabaseCore& core = database.core();
     fill(core, state.range(0));
     double scale = 1.0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         core.beginCommand();
         scale += 1.0;
         for (KdDbStub& stub : core.stubs()) {
@@ -88,7 +88,7 @@ void findHandle(benchmark::State& state) {
     DatabaseCore& core = database.core();
     fill(core, state.range(0));
     std::uint64_t handle = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         handle = (handle + 7919) % static_cast<std::uint64_t>(state.range(0));
         benchmark::DoNotOptimize(core.findHandle(0x100 + handle));
     }
@@ -99,7 +99,7 @@ void openAll(benchmark::State& state) {
     double stubBytes = 0.0;
     double objectBytes = 0.0;
     const auto count = static_cast<double>(state.range(0));
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const auto before = mallinfo2().uordblks;
         KdDbDatabase database(false);
         DatabaseCore& core = database.core();

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <memory>
 #include <stdexcept>
 #include <vector>
@@ -60,9 +61,9 @@ TEST(ChangeFeed, FeedsDontTakeFromEachOther) {
     DatabaseCore& core = database.core();
     KdDbMline& mline = makeMline(core);
     const Stubs told{mline.objectId().stub()};
-    std::vector<std::unique_ptr<ChangeFeed>> feeds;
-    for (int i = 0; i < 8; ++i) {
-        feeds.push_back(std::make_unique<ChangeFeed>(core));
+    std::array<std::unique_ptr<ChangeFeed>, 8> feeds;
+    for (auto& feed : feeds) {
+        feed = std::make_unique<ChangeFeed>(core);
     }
     EXPECT_THROW(ChangeFeed{core}, std::length_error);
     mline.setScale(2.0);

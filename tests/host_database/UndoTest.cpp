@@ -28,7 +28,7 @@ public:
     explicit Fingerprint(DatabaseCore& core) {
         for (KdDbStub& stub : core.stubs()) {
             if (!stub.erased && stub.object != nullptr) {
-                put(&stub);
+                put(stub.ordinal);
                 put(stub.handle);
                 putObject(*stub.object);
             }
@@ -50,6 +50,7 @@ private:
         put(text.size());
         m_bytes.append(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t));
     }
+    void put(KdDbStub* stub) { put(stub != nullptr ? stub->ordinal + 1 : 0); }
     void put(const HeaderHandle& handle) { put(handle.value); }
     void put(const KdCmColor& color) {
         put(color.color());
