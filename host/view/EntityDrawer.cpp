@@ -44,6 +44,9 @@ bool EntityDrawer::draw(const EntityReading& entity, const Context& context, Pen
         using Shape = std::decay_t<decltype(shape)>;
         if constexpr (std::is_same_v<Shape, InsertShape>) {
             drawInsert(shape, means, pencil);
+            for (const TextShape& attribute : shape.attributes) {
+                paintShape(attribute, means.pen, pencil);
+            }
         } else if constexpr (!std::is_same_v<Shape, NoShape>) {
             paintShape(shape, means.pen, pencil);
         }
