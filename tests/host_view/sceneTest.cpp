@@ -197,6 +197,20 @@ TEST(SceneLook, TextBecomesLabelsLineByLine) {
     EXPECT_DOUBLE_EQ(look.labels[0].height, 3);
 }
 
+TEST(SceneLook, AnInsertShowsItsAttributesWhereTheyStand) {
+    TestDrawing drawing;
+    drawing.addShape(LineShape{{0, 0, 0}, {1, 0, 0}}, {}, &drawing.core.addBlock(L"TAG"));
+    InsertShape insert = insertAt({50, 0, 0}, L"TAG");
+    insert.columns = 3;
+    insert.columnStep = {10, 0, 0};
+    insert.attributes.push_back({{7, 8, 0}, {1, 0, 0}, {0, 1, 0}, 2, 0, 0, {L"room 3"}});
+    Scene scene(drawing.database);
+    const Appearance& look = scene.appearance(drawing.addShape(insert));
+    EXPECT_EQ(look.strokes.size(), 3U);
+    ASSERT_EQ(look.labels.size(), 1U);
+    EXPECT_EQ(look.labels[0].anchor, (PlanPoint{7, 8}));
+}
+
 TEST(SceneVisit, GoesThroughWhatIsSeenInDrawingOrder) {
     TestDrawing drawing;
     KdDbStub& first = drawing.addLine(0, 0, 10, 0);
