@@ -70,14 +70,11 @@ BreakList cutFromSegmentStart(BreakList list, double to, bool insertsEnd) {
     if (list.empty()) {
         return list;
     }
-    // This scan takes in the offset too, so that a segment without a break before `to` keeps all.
     std::size_t behind = list.size();
-    while (behind > 0 && !isBeforeOrAt(list[behind - 1], to)) {
+    while (behind > 1 && !isBeforeOrAt(list[behind - 1], to)) {
         --behind;
     }
-    if (behind > 1) {
-        list.erase(at(list, 1), at(list, behind));
-    }
+    list.erase(at(list, 1), at(list, behind));
     if (insertsEnd) {
         list.insert(at(list, 1), to);
     }

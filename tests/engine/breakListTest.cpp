@@ -41,6 +41,8 @@ TEST(BreakLists, GapWithinOneSegment) {
         // ends within 1e-10 of a break count as on it, and stand in its place
         {{0.5, 0, 3, 5}, 3 + 0.9e-10, 5 - 0.9e-10, {0.5, 0, 3 + 0.9e-10, 5 - 0.9e-10}},
         {{0.5, 0, 3, 5}, 5 + 0.9e-10, 7, {0.5, 0, 3, 7}},
+        // a stretch that begins before the segment ends with a gap at its start
+        {{0.5, -2, 1}, 0, 3, {0.5}},
         // nothing to break
         {{}, 3, 5, {}},
     };
@@ -71,7 +73,7 @@ TEST(BreakLists, FirstSegmentOfALongerGap) {
         {{0.5, 0, 2}, 3, true, {0.5, 0, 2, 3}}, // from in a gap: the rest turns on
         {{0.5, 0, 3, 5}, 3, true, {0.5, 0, 3}},
         {{0.5}, 3, true, {0.5, 3}},
-        {{0.5, 2, 4}, 0, true, {0.5, 0}}, // at the start all goes, whatever its value
+        {{0.5, -2, 4}, 0, true, {0.5, 0}}, // at the start all goes, whatever its value
     };
     for (const auto& c : cases) {
         EXPECT_EQ(cutToSegmentEnd(c.before, c.distance, c.inserts), c.after)

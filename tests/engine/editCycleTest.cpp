@@ -101,6 +101,12 @@ TEST_F(EditCycle, TakesBackTheLastCycleAlone) {
     EXPECT_EQ(display.events, (Events{"refresh", "refresh", "show A"}));
 }
 
+TEST_F(EditCycle, DropsKeywordsThatSomebodyElseArmed) {
+    orvex::PromptSession::current().armedKeywords = L"STALE";
+    play({cancel()});
+    EXPECT_EQ(user.prompts, Prompts{L"#4004"});
+}
+
 TEST_F(EditCycle, UndoIsNotOnOfferAtTheSecondPrompt) {
     play({onA, onB, onA, keyword(L"UNDO")});
     EXPECT_EQ(user.prompts[3], L"#4005");

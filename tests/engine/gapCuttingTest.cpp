@@ -133,14 +133,25 @@ TEST_F(GapCutting, OnAClosedChainNeverRunsAcrossTheClosingVertex) {
     EXPECT_EQ(lists(), (Lists{{offset, 0, 3}, {offset}, {offset}, {offset, 5}}));
 }
 
+// Element 0's closing side lies on x = 0, far below the origin.
 TEST_F(GapCutting, InsideTheClosingSegment) {
-    build({{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}}, true);
-    const double upper[3] = {0.5, 7.5, 0};
-    const double lower[3] = {0.5, 4.5, 0};
+    build({{-0.5, -100, 0}, {9.5, -100, 0}, {9.5, -90, 0}, {-0.5, -90, 0}}, true);
+    const double upper[3] = {0, -92.5, 0};
+    const double lower[3] = {0, -95.5, 0};
     run.Cut_Mongline(&seg, 0, lower, 3, upper, 3);
-    const double offset = lineList(&mline, 3, 0)[0];
-    EXPECT_EQ(lists()[3], (BreakList{offset, 0, 2, 5}));
-    EXPECT_EQ(lists()[0], (BreakList{offset, 0}));
+    ASSERT_EQ(lists()[3].size(), 4U);
+    EXPECT_NEAR(lists()[3][2], 2.0, 1e-12); // from (0, -90.5)
+    EXPECT_NEAR(lists()[3][3], 5.0, 1e-12);
+    EXPECT_EQ(lists()[0].size(), 2U);
+}
+
+// Both ends equal the vertex, but not each other: each moves to the other's segment.
+TEST_F(GapCutting, WhoseEndsPassEachOtherOnAVertexDoesNothing) {
+    build({{1e7 - 10, 0, 0}, {1e7, 0, 0}, {1e7 + 10, 0, 0}}, false);
+    const double behind[3] = {1e7 + 0.0009, 0.5, 0};
+    const double before[3] = {1e7 - 0.0009, 0.5, 0};
+    run.Cut_Mongline(&seg, 0, behind, 0, before, 1);
+    EXPECT_EQ(lists(), (Lists{kWhole, kWhole, kWhole}));
 }
 
 TEST_F(GapCutting, StopsAtWhatDoesntExist) {

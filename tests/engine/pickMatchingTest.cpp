@@ -81,6 +81,7 @@ TEST_F(PickMatching, ASegmentHasItsStartButNotItsEnd) {
     KdDbMline* const back = addMline({{20, 5, 0}, {10, 5, 0}, {10, -5, 0}}, {0.0});
     EXPECT_EQ(pickAt(back, 20.0, 5.1).m_segment, 0) << "against x";
     EXPECT_EQ(pickAt(back, 10.1, 0.0).m_segment, 1) << "against y";
+    EXPECT_EQ(pickAt(back, 10.0, 5.0).m_segment, 1) << "at its start";
 }
 
 TEST_F(PickMatching, OnlyWhatIsDrawnIsPicked) {

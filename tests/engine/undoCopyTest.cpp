@@ -62,8 +62,8 @@ TEST_F(UndoCopies, TheGuardOpensForWriteAndCloses) {
         const CMlineOpenObject open(&first, &second);
         EXPECT_EQ(first.m_mline, a);
         EXPECT_EQ(second.m_mline, b) << "opened though the record held none";
-        EXPECT_TRUE(isOpen(a));
-        EXPECT_TRUE(isOpen(b));
+        EXPECT_TRUE(isOpenForWrite(a));
+        EXPECT_TRUE(isOpenForWrite(b));
     }
     EXPECT_EQ(first.m_mline, nullptr);
     EXPECT_EQ(second.m_mline, b);
