@@ -120,7 +120,7 @@ TEST(Comparisons, PointsAreEqualRelativelyAndStrictly) {
         {"same", {1, 2, 3}, {1, 2, 3}, true},
         {"inside the zero of b", {1, 0.25, 0}, {1, 0, 0}, true},
         {"outside the zero of b", {1, 0.2578125, 0}, {1, 0, 0}, false},
-        {"b at the bound of zero, a beyond it", {0.375, 0, 0}, {0.25, 0, 0}, false},
+        {"b at the bound of zero, a beyond it", {0.28125, 0, 0}, {0.25, 0, 0}, false},
         {"relative gap at the bound is refused", {10.0, 0, 0}, {8.0, 0, 0}, false},
         {"relative gap just inside", {9.984375, 0, 0}, {8.0, 0, 0}, true},
         {"last coordinate decides too", {1, 1, 2}, {1, 1, 1}, false},

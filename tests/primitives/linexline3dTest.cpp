@@ -67,6 +67,11 @@ TEST(SpaceCrossing, OfLinesThatCrossInPlan) {
         {"sloped second misses", {0, 0, 0}, {8, 8, 0}, {0, 8, 0}, {8, 0, 2}, -4, {7, 8, 9}},
         {"sloped second meets", {0, 0, 1}, {8, 8, 1}, {0, 8, 0}, {8, 0, 2}, 3, {4, 4, 1}},
         {"steep sloped second", {0, 0, 1}, {8, 0, 1}, {4, -8, 0}, {4, 8, 2}, 3, {4, 0, 1}},
+        {"steep sloped second misses", {0, 0, 2}, {8, 0, 2}, {4, -8, 0}, {4, 8, 2}, -4, {7, 8, 9}},
+        {"level sloped second misses", {4, -5, 2}, {4, 5, 2}, {0, 0, 0}, {8, 0, 2}, -4, {7, 8, 9}},
+        // Heights are compared relatively, at 1e-7.
+        {"height within", {0, 0, 1}, {8, 8, 1}, {0, 8, 1 + 5e-8}, {8, 0, 1 + 5e-8}, 3, {4, 4, 1}},
+        {"height beyond", {0, 0, 1}, {8, 8, 1}, {0, 8, 1 + 2e-7}, {8, 0, 1 + 2e-7}, -4, {7, 8, 9}},
         {"first only", {0, 0, 0}, {8, 0, 0}, {4, 1, 0}, {4, 5, 0}, 1, {4, 0, 0}},
         {"second only", {5, 0, 0}, {8, 0, 0}, {4, -1, 0}, {4, 5, 0}, 2, {4, 0, 0}},
         {"neither", {5, 0, 0}, {8, 0, 0}, {4, 1, 0}, {4, 5, 0}, 0, {4, 0, 0}},
@@ -82,6 +87,14 @@ TEST(SpaceCrossing, OfASecondVertical) {
         {"on a slant", {0, 0, 1}, {8, 4, 1}, {2, 1, 0}, {2, 1, 5}, 3, {2, 1, 1}},
         {"off the line", {0, 0, 1}, {8, 4, 1}, {2, 2, 0}, {2, 2, 5}, -4, {7, 8, 9}},
         {"at the first's end", {0, 0, 1}, {8, 4, 1}, {8, 4, 0}, {8, 4, 5}, 3, {8, 4, 1}},
+        // Off the line, but equal to the first's end for coordinates of a million.
+        {"near the end, far out",
+         {1e6, 1e6, 0},
+         {1e6 + 1, 1e6 + 1, 1},
+         {1e6 + 1.05, 1e6 + 1, 0},
+         {1e6 + 1.05, 1e6 + 1, 5},
+         3,
+         {1e6 + 1.05, 1e6 + 1, 1.05}},
         {"first along y", {2, 0, 0}, {2, 8, 8}, {2, 4, 0}, {2, 4, 9}, 3, {2, 4, 4}},
     });
 }
