@@ -1,0 +1,341 @@
+// What holds for every tool on any drawing: random multilines that run over each other, cut
+// already here and there, and picks on what is drawn of them.
+
+#include "ToolWorld.h"
+
+#include <algorithm>
+#include <array>
+#include <random>
+
+namespace {
+
+using orvex::PromptAnswer;
+
+constexpr std::array kTools = {
+    &CMlineEdit::cmd_mledit_ClosedCross,  &CMlineEdit::cmd_mledit_OpenCross,
+    &CMlineEdit::cmd_mledit_MergedCross,  &CMlineEdit::cmd_mledit_ClosedTree,
+    &CMlineEdit::cmd_mledit_OpenTree,     &CMlineEdit::cmd_mledit_MergedTree,
+    &CMlineEdit::cmd_mledit_CornerJoint,  &CMlineEdit::cmd_mledit_AddVertex,
+    &CMlineEdit::cmd_mledit_DeleteVertex, &CMlineEdit::cmd_mledit_CutSingle,
+    &CMlineEdit::cmd_mledit_CutAll,       &CMlineEdit::cmd_mledit_WeldAll,
+};
+constexpr std::size_t kFirstOnOne = 7; // from here on both picks are on one multiline
+bool hasOnePick(std::size_t tool) {
+    return tool == 7 || tool == 8;
+}
+
+struct Shape {
+    std::vector<KdGePoint3d> chain;
+    std::vector<double> offsets;
+    bool closed = false;
+    double normal = 1.0;
+    int cutVertex = 0;
+    std::vector<double> breaks;
+};
+struct Scene {
+    std::array<Shape, 2> shapes;
+    struct Pick {
+        std::size_t shape;
+        int vertex, element;
+        double along; // of the segment's length
+    };
+    std::array<Pick, 2> picks;
+    double start, end; // angles of the style, degrees
+};
+
+class RandomScenes {
+public:
+    explicit RandomScenes(unsigned seed) : m_random(seed) {}
+
+    int upTo(int greatest) { return std::uniform_int_distribution<int>(0, greatest)(m_random); }
+    double between(double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(m_random);
+    }
+
+    // On a grid lines meet in vertices, run over each other and stand square.
+    Scene scene(std::size_t tool, bool onGrid) {
+        Scene made{};
+        static constexpr double kAngles[] = {90, 90, 45, 60, 135};
+        made.start = kAngles[upTo(4)];
+        made.end = kAngles[upTo(4)];
+        for (Shape& shape : made.shapes) {
+            shape = this->shape(onGrid);
+        }
+        const std::size_t one = static_cast<std::size_t>(upTo(1));
+        const bool same = tool >= kFirstOnOne || upTo(5) == 0;
+        made.picks[0] = pick(made, one);
+        made.picks[1] = pick(made, same ? one : 1 - one);
+        return made;
+    }
+
+private:
+    Shape shape(bool onGrid) {
+        Shape made;
+        const int count = 2 + upTo(4);
+        while (static_cast<int>(made.chain.size()) < count) {
+            const KdGePoint3d at = onGrid ? KdGePoint3d{4.0 * upTo(8), 4.0 * upTo(8), 0.0}
+                                          : KdGePoint3d{between(0, 32), between(0, 32), 0.0};
+            made.chain.push_back(at);
+            if (hasFold(made.chain, false)) {
+                made.chain.pop_back();
+            }
+        }
+        made.closed = count > 2 && upTo(3) == 0 && !hasFold(made.chain, true);
+        const int elements = 1 + upTo(4);
+        double offset = between(0.5, 1.5);
+        for (int k = 0; k < elements; ++k) {
+            made.offsets.push_back(offset);
+            offset -= between(0.5, 1.0);
+        }
+        made.normal = upTo(5) == 0 ? -1.0 : 1.0;
+        made.cutVertex = upTo(count - 1);
+        made.breaks = {0};
+        for (int k = upTo(3); k > 0; --k) {
+            made.breaks.push_back(made.breaks.back() + between(0.5, 4.0));
+        }
+        return made;
+    }
+    // Back over itself, or no way at all: such a vertex has no miter.
+    static bool hasFold(const std::vector<KdGePoint3d>& chain, bool closed) {
+        const std::size_t count = chain.size();
+        for (std::size_t i = 0; i + (closed ? 0 : 1) < count; ++i) {
+            const KdGeVector3d out = chain[(i + 1) % count] - chain[i];
+            const KdGeVector3d in = chain[i] - chain[(i + count - 1) % count];
+            const bool hasIn = closed || i > 0;
+            if (out.isZeroLength() ||
+                (hasIn && in.x * out.y == in.y * out.x && in.x * out.x + in.y * out.y <= 0.0)) {
+                return true;
+            }
+        }
+        return false;
+    }
+    Scene::Pick pick(const Scene& made, std::size_t which) {
+        const Shape& shape = made.shapes[which];
+        const int segments = static_cast<int>(shape.chain.size()) - (shape.closed ? 0 : 1);
+        return {which, upTo(segments - 1), upTo(static_cast<int>(shape.offsets.size()) - 1),
+                between(0.05, 0.95)};
+    }
+
+    std::mt19937 m_random;
+};
+
+class ToolProperties : public orvex::testing::ToolWorld {
+protected:
+    std::array<KdDbMline*, 2> mlines{};
+    std::array<PromptAnswer, 2> picks;
+
+    // The scene, moved, with every place strayed by up to `noise`.
+    void build(const Scene& scene, double moved = 0.0, double noise = 0.0, unsigned seed = 0) {
+        std::mt19937 random(seed);
+        const auto stray = [&] {
+            return moved + noise * std::uniform_real_distribution<double>(-1, 1)(random);
+        };
+        for (std::size_t i = 0; i < 2; ++i) {
+            const Shape& shape = scene.shapes[i];
+            std::vector<KdGePoint3d> chain = shape.chain;
+            for (KdGePoint3d& point : chain) {
+                point.x += stray();
+                point.y += stray();
+            }
+            mlines[i] = add(chain, shape.offsets, shape.closed);
+            mlines[i]->setNormal({0, 0, shape.normal});
+            setBreaks(mlines[i], shape.cutVertex,
+                      std::vector<std::vector<double>>(shape.offsets.size(), shape.breaks));
+        }
+        setStyle(scene.shapes[scene.picks[0].shape].offsets, scene.start, scene.end);
+        for (std::size_t i = 0; i < 2; ++i) {
+            picks[i] = placeOf(scene.picks[i]);
+        }
+    }
+    PromptAnswer placeOf(const Scene::Pick& where) const {
+        const KdDbMline* const mline = mlines[where.shape];
+        const auto position = [&](int vertex) {
+            const double offset = lineList(mline, vertex, where.element)[0];
+            return mline->vertexAt(vertex) + mline->miterAt(vertex) * offset;
+        };
+        const KdGePoint3d from = position(where.vertex);
+        const KdGePoint3d to = position((where.vertex + 1) % mline->numVertices());
+        return pick(mline, from.x + (to.x - from.x) * where.along,
+                    from.y + (to.y - from.y) * where.along);
+    }
+    // A pick in a gap, say, means the record's old values, which are those of the origin.
+    bool picksMatch(const Scene& scene) {
+        build(scene);
+        bool all = true;
+        for (std::size_t i = 0; i < 2; ++i) {
+            CMlineEdit run;
+            CMlineSegment& seg = run.m_first;
+            const KdGePoint3d at = picks[i].point;
+            const double place[3] = {at.x, at.y, at.z};
+            copyPoint(place, run.m_pickedPoint);
+            nameOf(mlines[scene.picks[i].shape], run.m_pickedName);
+            run.mlineEditInitialize(&seg, run.m_pickedName, nullptr);
+            seg.m_mline->close();
+            all = all && std::hypot(seg.m_pickPoint[0] - at.x, seg.m_pickPoint[1] - at.y) < 0.5;
+        }
+        clear();
+        return all;
+    }
+    void playScene(std::size_t tool, bool undoes = false) {
+        answer({picks[0]});
+        if (!hasOnePick(tool)) {
+            user.answers.push_back(picks[1]);
+        }
+        if (undoes) {
+            user.answers.push_back(keyword(L"UNDO"));
+        }
+        CMlineEdit run;
+        (run.*kTools[tool])(resources);
+    }
+    void clear() {
+        for (KdDbMline* const mline : mlines) {
+            mline->erase();
+        }
+    }
+    // All numbers of both multilines, counts among them, moved back.
+    std::vector<double> numbers(double moved) const {
+        std::vector<double> all;
+        for (const KdDbMline* const mline : mlines) {
+            all.push_back(mline->numVertices());
+            all.push_back(flags(mline));
+            for (int v = 0; v < mline->numVertices(); ++v) {
+                const KdGePoint3d at = mline->vertexAt(v);
+                const KdGeVector3d axis = mline->axisAt(v);
+                const KdGeVector3d miter = mline->miterAt(v);
+                all.insert(all.end(), {at.x - moved, at.y - moved, at.z, axis.x, axis.y, axis.z,
+                                       miter.x, miter.y, miter.z});
+                for (int k = 0; k < elements(mline); ++k) {
+                    const std::vector<double> list = lineList(mline, v, k);
+                    all.push_back(static_cast<double>(list.size()));
+                    all.insert(all.end(), list.begin(), list.end());
+                }
+            }
+        }
+        return all;
+    }
+    static int elements(const KdDbMline* mline) {
+        int count = 0;
+        GetSegmentsSize(mline, &count);
+        return count;
+    }
+    // A vertex that moves hardly at all: at 1e5 the direction of so short a way isn't told to the
+    // 1e-10 that decides what becomes of the breaks.
+    bool movesLittle(const Scene& scene, std::size_t tool) {
+        build(scene);
+        playScene(tool);
+        bool little = false;
+        for (std::size_t i = 0; i < 2; ++i) {
+            for (int v = 0; v < mlines[i]->numVertices(); ++v) {
+                for (const KdGePoint3d& old : scene.shapes[i].chain) {
+                    const KdGeVector3d way = mlines[i]->vertexAt(v) - old;
+                    little = little || (!way.isZeroLength() && std::hypot(way.x, way.y) < 0.5);
+                }
+            }
+        }
+        clear();
+        return little;
+    }
+    std::vector<double> resultOf(const Scene& scene, std::size_t tool, double moved, double noise,
+                                 unsigned seed) {
+        build(scene, moved, noise, seed);
+        playScene(tool);
+        std::vector<double> result = numbers(moved);
+        clear();
+        return result;
+    }
+};
+
+bool areAlike(const std::vector<double>& a, const std::vector<double>& b) {
+    // Lists of what runs nearly along a miter are long; errors grow with them.
+    const auto close = [](double x, double y) {
+        return std::abs(x - y) <= 1e-5 * std::max(1.0, std::abs(x));
+    };
+    return std::ranges::equal(a, b, close);
+}
+
+void expectWellFormed(const KdDbMline* mline, int elements) {
+    ASSERT_GE(mline->numVertices(), 2);
+    for (int v = 0; v < mline->numVertices(); ++v) {
+        const KdGePoint3d at = mline->vertexAt(v);
+        const KdGeVector3d axis = mline->axisAt(v);
+        const KdGeVector3d miter = mline->miterAt(v);
+        ASSERT_TRUE(std::isfinite(at.x + at.y + at.z + axis.x + axis.y + axis.z + miter.x +
+                                  miter.y + miter.z));
+        for (int k = 0; k < elements; ++k) {
+            const std::vector<double> list = lineList(mline, v, k);
+            ASSERT_FALSE(list.empty()) << "vertex " << v << ", element " << k;
+            ASSERT_TRUE(std::ranges::all_of(list, [](double x) { return std::isfinite(x); }));
+        }
+    }
+}
+
+TEST_F(ToolProperties, UndoGivesBackEveryBitAndResultsAreWellFormed) {
+    RandomScenes random(12);
+    std::array<int, kTools.size()> changed{};
+    for (int round = 0; round < 6000; ++round) {
+        const std::size_t tool = static_cast<std::size_t>(round) % kTools.size();
+        SCOPED_TRACE("round " + std::to_string(round) + ", tool " + std::to_string(tool + 1));
+        const Scene scene = random.scene(tool, random.upTo(1) == 0);
+        static constexpr double kPlaces[] = {0.0, 0.0, 1e5, 1e7};
+        build(scene, kPlaces[random.upTo(3)]);
+        const auto first = mlines[0]->content();
+        const auto second = mlines[1]->content();
+
+        playScene(tool);
+        for (std::size_t i = 0; i < 2; ++i) {
+            const int count = static_cast<int>(scene.shapes[i].offsets.size());
+            ASSERT_EQ(elements(mlines[i]), count);
+            expectWellFormed(mlines[i], count);
+        }
+        const bool hasChanged =
+            !mlines[0]->content()->equals(*first) || !mlines[1]->content()->equals(*second);
+        ASSERT_TRUE(isUndoOffered() || !hasChanged) << "what failed has changed nothing";
+        changed[tool] += hasChanged ? 1 : 0;
+
+        mlines[0]->setContent(first);
+        mlines[1]->setContent(second);
+        playScene(tool, true);
+        ASSERT_TRUE(mlines[0]->content()->equals(*first));
+        ASSERT_TRUE(mlines[1]->content()->equals(*second));
+        clear();
+        if (HasFatalFailure()) {
+            return;
+        }
+    }
+    for (std::size_t tool = 0; tool < kTools.size(); ++tool) {
+        EXPECT_GT(changed[tool], 100) << "tool " << tool + 1 << " hardly ever does anything";
+    }
+}
+
+// Where a drawing lies doesn't matter to what becomes of it, unless a comparison stands on the edge
+// of its tolerance. It does where straying by far less than the result is compared to changes the
+// result, at either place.
+TEST_F(ToolProperties, ResultsDoNotDependOnWhereTheDrawingLies) {
+    constexpr double kFar = 1e5;
+    constexpr double kNoise = 1e-8;
+    constexpr int kRounds = 2400;
+    RandomScenes random(34);
+    int leftOut = 0;
+    for (int round = 0; round < kRounds; ++round) {
+        const std::size_t tool = static_cast<std::size_t>(round) % kTools.size();
+        Scene scene = random.scene(tool, false);
+        while (!picksMatch(scene)) {
+            scene = random.scene(tool, false);
+        }
+        const std::vector<double> near = resultOf(scene, tool, 0.0, 0.0, 0);
+        const std::vector<double> far = resultOf(scene, tool, kFar, 0.0, 0);
+        if (areAlike(near, far)) {
+            continue;
+        }
+        bool onEdge = movesLittle(scene, tool);
+        for (unsigned seed = 1; seed <= 20 && !onEdge; ++seed) {
+            onEdge = !areAlike(near, resultOf(scene, tool, 0.0, kNoise, seed)) ||
+                     !areAlike(far, resultOf(scene, tool, kFar, kNoise, seed));
+        }
+        EXPECT_TRUE(onEdge) << "round " << round << ", tool " << tool + 1;
+        ++leftOut;
+    }
+    EXPECT_LT(leftOut, kRounds / 40);
+}
+
+} // namespace
