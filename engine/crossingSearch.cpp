@@ -113,17 +113,16 @@ bool CrossingSearch::mayMeet(int i, int j) const {
     if (std::abs(flatter.direction[1]) > kSteep * std::abs(flatter.direction[0])) {
         return true;
     }
-    const double bEnd[2] = {b.start[0] + b.direction[0], b.start[1] + b.direction[1]};
-    if (!bothBeyond(side(a.start, a.direction, b.start), side(a.start, a.direction, bEnd),
-                    m_margin * a.length)) {
+    // The far ends lie further by the turn itself.
+    const double fromFirst = side(a.start, a.direction, b.start);
+    if (!bothBeyond(fromFirst, fromFirst + turn, m_margin * a.length)) {
         return true;
     }
     if (m_rule == CrossRule::tee) {
         return false;
     }
-    const double aEnd[2] = {a.start[0] + a.direction[0], a.start[1] + a.direction[1]};
-    return !bothBeyond(side(b.start, b.direction, a.start), side(b.start, b.direction, aEnd),
-                       m_margin * b.length);
+    const double fromSecond = side(b.start, b.direction, a.start);
+    return !bothBeyond(fromSecond, fromSecond - turn, m_margin * b.length);
 }
 
 int CrossingSearch::solve(int i, int j, double* point) const {
@@ -184,11 +183,12 @@ bool CrossingSearch::next(SegmentPair& pair, bool& crossesOnBoth) {
         if (isPassedOver(m_i, m_j)) {
             continue;
         }
+        const bool knowsPoint = !m_canPassOver || m_firstSolved < 0;
+        if (!knowsPoint && !mayMeet(m_i, m_j)) {
+            continue;
+        }
         const long position = static_cast<long>(m_i) * m_chains.secondSegments() + m_j;
-        if (m_canPassOver && m_firstSolved >= 0) {
-            if (!mayMeet(m_i, m_j)) {
-                continue;
-            }
+        if (!knowsPoint) {
             bringPointUpTo(position - 1);
         }
         const int result = solve(m_i, m_j, m_point);
