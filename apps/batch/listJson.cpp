@@ -16,11 +16,19 @@ using Json = nlohmann::ordered_json;
 
 template <class Triple>
 Json tripleJson(const Triple& triple) {
-    return Json::array({triple.x, triple.y, triple.z});
+    Json json = Json::array();
+    json.push_back(triple.x);
+    json.push_back(triple.y);
+    json.push_back(triple.z);
+    return json;
 }
 
 Json listJson(std::span<const double> values) {
-    return Json(std::vector<double>(values.begin(), values.end()));
+    Json json = Json::array();
+    for (const double value : values) {
+        json.push_back(value);
+    }
+    return json;
 }
 
 Json colorJson(const KdCmColor& color) {
@@ -39,25 +47,35 @@ Json colorJson(const KdCmColor& color) {
     return json;
 }
 
+// Entries are moved in one by one: a list in braces would copy each of them.
 Json vertexJson(const MlineContent& content, unsigned vertex) {
     const ChainVertex& place = content.vertices[vertex];
+    Json json;
+    json["position"] = tripleJson(place.position);
+    json["axis"] = tripleJson(place.axis);
+    json["miter"] = tripleJson(place.miter);
     Json elements = Json::array();
     for (unsigned i = 0; i < content.lists.elementCount(vertex); ++i) {
-        elements.push_back({{"line", listJson(content.lists.line(vertex, i))},
-                            {"area", listJson(content.lists.area(vertex, i))}});
+        Json element;
+        element["line"] = listJson(content.lists.line(vertex, i));
+        element["area"] = listJson(content.lists.area(vertex, i));
+        elements.push_back(std::move(element));
     }
-    return {{"position", tripleJson(place.position)},
-            {"axis", tripleJson(place.axis)},
-            {"miter", tripleJson(place.miter)},
-            {"elements", std::move(elements)}};
+    json["elements"] = std::move(elements);
+    return json;
 }
 
 Json mlineJson(const ListedMline& mline) {
     const MlineContent& content = *mline.content;
-    Json json = {{"handle", mline.handle}, {"block", mline.block},
-                 {"layer", mline.layer},   {"style", mline.style},
-                 {"scale", content.scale}, {"justification", content.justification},
-                 {"flags", mline.flags},   {"normal", tripleJson(content.normal)}};
+    Json json;
+    json["handle"] = mline.handle;
+    json["block"] = mline.block;
+    json["layer"] = mline.layer;
+    json["style"] = mline.style;
+    json["scale"] = content.scale;
+    json["justification"] = content.justification;
+    json["flags"] = mline.flags;
+    json["normal"] = tripleJson(content.normal);
     Json vertices = Json::array();
     for (unsigned i = 0; i < content.vertices.size(); ++i) {
         vertices.push_back(vertexJson(content, i));
@@ -67,16 +85,24 @@ Json mlineJson(const ListedMline& mline) {
 }
 
 Json styleJson(const ListedStyle& style) {
+    Json json;
+    json["handle"] = style.handle;
+    json["name"] = style.name;
+    json["description"] = style.description;
+    json["flags"] = style.flags;
+    json["startAngle"] = style.startAngle;
+    json["endAngle"] = style.endAngle;
+    json["fill"] = colorJson(style.fill);
     Json elements = Json::array();
-    for (const ListedElement& element : style.elements) {
-        elements.push_back({{"offset", element.offset},
-                            {"color", colorJson(element.color)},
-                            {"linetype", element.linetype}});
+    for (const ListedElement& each : style.elements) {
+        Json element;
+        element["offset"] = each.offset;
+        element["color"] = colorJson(each.color);
+        element["linetype"] = each.linetype;
+        elements.push_back(std::move(element));
     }
-    return {{"handle", style.handle},           {"name", style.name},
-            {"description", style.description}, {"flags", style.flags},
-            {"startAngle", style.startAngle},   {"endAngle", style.endAngle},
-            {"fill", colorJson(style.fill)},    {"elements", std::move(elements)}};
+    json["elements"] = std::move(elements);
+    return json;
 }
 
 // Prints the entries of an array one by one: a large drawing's list is never held as a whole.

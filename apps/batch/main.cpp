@@ -32,8 +32,8 @@ std::optional<BatchFailure> carryOut(const BatchCall& call) {
 
 ExitStatus runProgram(int argc, char** argv) {
     std::optional<BatchFailure> failure = carryOut(parseBatchCall(argc, argv));
-    if (!failure && (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)) {
-        failure = BatchFailure{BatchFailure::Cause::writing, "standard output can't be written"};
+    if (!failure) {
+        failure = flushOutput();
     }
     if (!failure) {
         return ExitStatus::done;

@@ -20,4 +20,11 @@ std::variant<std::unique_ptr<DrawingFile>, BatchFailure> openDrawing(const std::
     return drawing;
 }
 
+std::optional<BatchFailure> flushOutput() {
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) {
+        return std::nullopt;
+    }
+    return BatchFailure{BatchFailure::Cause::writing, "standard output can't be written"};
+}
+
 } // namespace orvex

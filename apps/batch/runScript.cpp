@@ -107,6 +107,10 @@ std::optional<BatchFailure> runScript(const RunCall& call) {
     if (!call.output) {
         return std::nullopt;
     }
+    // Before the save: a call that can't say what it did leaves nothing behind.
+    if (auto failure = flushOutput()) {
+        return failure;
+    }
     if (const auto error = session.drawing().save(*call.output)) {
         return BatchFailure{Cause::writing, atLine(*call.output, 0, error->text)};
     }

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 std::string findDataFolder() {
     // Any function of the host will do to find the host's library.
-    const std::string library = folderOfCode(reinterpret_cast<const void*>(&dataFolder));
+    std::string library = folderOfCode(reinterpret_cast<const void*>(&dataFolder));
     std::error_code error;
     const fs::path installed = fs::path(library) / "../../share/orvex";
     if (!fs::is_directory(fs::path(library) / "Support", error) &&

@@ -7,7 +7,7 @@
 
 template <>
 bool CStdStr<wchar_t>::LoadStringW(HINSTANCE library, unsigned number) {
-    std::array<wchar_t, 1024> buffer;
+    std::array<wchar_t, 1024> buffer{};
     const int length = ::LoadStringW(library, number, buffer.data(), buffer.size());
     m_text = buffer.data();
     return length > 0;

@@ -8,6 +8,7 @@
 #include "KdDbSystemInternals.h"
 #include "KdMLSegment.h"
 #include "Session.h"
+#include "commandLine.h"
 #include "coordinateFrames.h"
 #include "kddbObjects.h"
 #include "mlineChain.h"
@@ -209,6 +210,9 @@ void mlineCommand(Session& session) {
         points.push_back(userToWorld(point, 0));
     }
     const MlineChain chain = makeMlineChain(points, asked->closed, normal, settings);
+    if (settings.offsets.empty()) {
+        kdutPrintf(L"The current style has no elements to draw.");
+    }
     if (chain.vertices.empty() || settings.offsets.empty()) {
         return;
     }

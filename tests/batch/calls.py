@@ -73,7 +73,7 @@ UNPLAYABLE = [
 
 def fill_scratch(folder):
     drawing = make_drawing(folder / "walls.dxf", [(0, 0), (100, 0)])
-    (folder / "binary.dxf").write_bytes(b"Drawing in bytes  \r\n\x1a\x00" + bytes(40))
+    (folder / "binary.dxf").write_bytes(b"a drawing's binary\r\n\x1a\x00" + bytes(40))
     (folder / "code.dxf").write_text("0\nSECTION\ntwo\nHEADER\n0\nENDSEC\n0\nEOF\n")
     (folder / "latin1.scr").write_bytes(b"; fine\n; W\xe4nde\n")
     return drawing
@@ -119,8 +119,12 @@ def main():
             report.check(run.returncode == 0 and "orvex-batch" in run.stdout and not run.stderr, f"{arguments}: {run}")
         module = call(program, "run", drawing, "--script", "-", "--module", folder / "no.omx", script="-MLEDIT\n")
         report.check(module.returncode == 5 and "no.omx" in module.stderr, f"module: {module.stderr}")
-        full = call("/bin/sh", "-c", f"'{program}' list '{drawing}' > /dev/full")
-        report.check(full.returncode == 4 and full.stderr.startswith("orvex-batch: "), f"full disk: {full.stderr}")
+        (folder / "script.scr").write_text("ZOOM\nE\n")
+        unsaved = folder / "unsaved.dxf"
+        for verb in (f"list '{drawing}'", f"run '{drawing}' --script '{folder}/script.scr' --output '{unsaved}'"):
+            full = call("/bin/sh", "-c", f"'{program}' {verb} > /dev/full")
+            report.check(full.returncode == 4 and full.stderr.startswith("orvex-batch: "), f"full disk: {full.stderr}")
+        report.check(not unsaved.exists(), "saved though nothing could be printed")
     report.finish()
 
 
