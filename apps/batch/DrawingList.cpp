@@ -21,7 +21,7 @@ namespace {
 // As the file has it: hexadecimal, capitals.
 std::string handleText(std::uint64_t handle) {
     std::array<char, 16> digits{};
-    const auto end = std::to_chars(digits.begin(), digits.end(), handle, 16).ptr;
+    char* const end = std::to_chars(digits.begin(), digits.end(), handle, 16).ptr;
     std::string text(digits.begin(), end);
     for (char& digit : text) {
         digit = static_cast<char>(digit >= 'a' ? digit - 'a' + 'A' : digit);
@@ -35,7 +35,7 @@ std::string styleName(const MlineContent& content) {
     if (style == nullptr) {
         return narrow(content.styleName);
     }
-    const std::string name = narrow(style->name());
+    std::string name = narrow(style->name());
     style->close();
     return name;
 }
@@ -51,7 +51,7 @@ std::string linetypeName(const StyleElement& element) {
     if (record == nullptr) {
         return narrow(element.linetypeName);
     }
-    const std::string name = narrow(record->name());
+    std::string name = narrow(record->name());
     record->close();
     return name;
 }
@@ -64,7 +64,7 @@ double degrees(double radians) {
     const double raw = radians / kDegree;
     std::array<char, 32> text{};
     for (int digits = 1; digits < kAllDigits; ++digits) {
-        const auto end =
+        char* const end =
             std::to_chars(text.begin(), text.end(), raw, std::chars_format::general, digits).ptr;
         double shorter = raw;
         std::from_chars(text.begin(), end, shorter);

@@ -16,7 +16,7 @@ namespace {
 
 std::string realText(double value) {
     char digits[32];
-    const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    char* const end = std::to_chars(digits, digits + sizeof digits, value).ptr;
     return {digits, end};
 }
 

@@ -27,7 +27,7 @@ constexpr int kDropTrailingZeros = 8;
 // is a half although its binary value lies a little below; halves go up.
 std::string roundedDecimal(double value, int places) {
     std::array<char, kTextSize> buffer{};
-    const auto end =
+    char* const end =
         std::to_chars(buffer.begin(), buffer.end(), value, std::chars_format::fixed).ptr;
     std::string digits(buffer.begin(), end);
     std::size_t point = digits.find('.');

@@ -110,10 +110,8 @@ int statusWithoutValue(const PromptAnswer& answer) {
         return kPromptNone;
     case PromptAnswer::Kind::keyword:
         return kPromptKeyword;
-    case PromptAnswer::Kind::cancel:
-        return kPromptCancelled;
     default:
-        // No value that was asked for. An error would be asked again for ever.
+        // A cancel, or a value that wasn't asked for: an error would be asked again for ever.
         return kPromptCancelled;
     }
 }

@@ -16,7 +16,7 @@ namespace {
 
 std::wstring realText(double value) {
     std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.begin(), buffer.end(), value).ptr;
+    char* const end = std::to_chars(buffer.begin(), buffer.end(), value).ptr;
     return {buffer.begin(), end};
 }
 
