@@ -40,15 +40,8 @@ PaintSettings settingsFor(const PlanView& view) {
     return settings;
 }
 
-// Fonts need an application of this kind. A program that has none gets one that opens no window.
+// Fonts need an application of this kind.
 bool haveGuiApplication() {
-    if (QCoreApplication::instance() == nullptr) {
-        static int count = 1;
-        static char name[] = "orvex";
-        static char* arguments[] = {name, nullptr};
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        static const QGuiApplication application(count, arguments);
-    }
     return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
 }
 
@@ -75,7 +68,7 @@ Picture pngPicture(Scene& scene, const PlanView& view) {
     }
     QImage image(view.width(), view.height(), QImage::Format_RGB32);
     if (image.isNull() || !haveGuiApplication()) {
-        return {{}, "there is no memory or no painter for the picture"};
+        return {{}, "there is no memory or no application for the picture"};
     }
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -91,7 +84,7 @@ Picture pngPicture(Scene& scene, const PlanView& view) {
 
 Picture pdfPicture(Scene& scene, const PlanView& view) {
     if (!haveGuiApplication()) {
-        return {{}, "there is no painter for the picture"};
+        return {{}, "there is no application for the picture"};
     }
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);

@@ -12,7 +12,6 @@ namespace {
 
 // What one insert, with all that is in it, may come to.
 constexpr std::size_t kDeepestInsert = 32;
-constexpr int kMostEntities = 50'000;
 constexpr std::size_t kMostPoints = 1'000'000;
 
 } // namespace
@@ -109,8 +108,14 @@ void EntityDrawer::drawBlock(const BlockContent& block, const Context& context, 
     }
 }
 
+std::int64_t EntityDrawer::insertWork() const {
+    constexpr std::int64_t kPointsOfEntity = 16;
+    const auto points = static_cast<std::int64_t>(m_ink.pointCount());
+    return m_entitiesDrawn > 0 ? m_entitiesDrawn * kPointsOfEntity + points : 0;
+}
+
 bool EntityDrawer::isExhausted() const {
-    return m_entitiesDrawn >= kMostEntities || m_ink.pointCount() >= kMostPoints;
+    return m_entitiesDrawn >= m_mostEntities || m_ink.pointCount() >= kMostPoints;
 }
 
 } // namespace orvex

@@ -5,6 +5,7 @@
 #include "LookTable.h"
 #include "Pencil.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace orvex {
@@ -13,11 +14,17 @@ namespace orvex {
 // multiply without end, stop at limits that no real drawing comes near.
 class EntityDrawer {
 public:
-    EntityDrawer(LookTable& table, BlockContents& blocks, Ink& ink)
-        : m_table(table), m_blocks(blocks), m_ink(ink) {}
+    static constexpr int kMostEntities = 50'000;
+
+    EntityDrawer(LookTable& table, BlockContents& blocks, Ink& ink,
+                 int mostEntities = kMostEntities)
+        : m_table(table), m_blocks(blocks), m_ink(ink), m_mostEntities(mostEntities) {}
 
     // False, with nothing drawn, when the entity isn't seen for its layer or by itself.
     bool draw(const EntityReading& entity);
+
+    // What inserts have cost so far, about in points.
+    [[nodiscard]] std::int64_t insertWork() const;
 
 private:
     // What its surroundings give an entity.
@@ -42,7 +49,8 @@ private:
     BlockContents& m_blocks;
     Ink& m_ink;
     std::vector<const BlockEntities*> m_open; // blocks that are being drawn, outermost first
-    int m_entitiesDrawn = 0;                  // by inserts
+    int m_mostEntities;
+    int m_entitiesDrawn = 0; // by inserts
 };
 
 } // namespace orvex

@@ -5,21 +5,38 @@
 
 namespace orvex {
 
+namespace {
+
+// Of all inserts of a walk, about in points. A file can name a block that comes to millions of
+// entities any number of times; the later ones then show their beginnings only.
+constexpr std::int64_t kMostWalkWork = 1'000'000'000;
+constexpr int kFewEntities = 100;
+
+} // namespace
+
+bool LookMaker::draw(const KdDbStub& entity, Ink& ink) {
+    const auto reading = readEntity(entity);
+    if (!reading) {
+        return false;
+    }
+    const bool isTired = m_walkWork > kMostWalkWork;
+    EntityDrawer drawer(m_table, m_blocks, ink,
+                        isTired ? kFewEntities : EntityDrawer::kMostEntities);
+    const bool seen = drawer.draw(*reading);
+    m_walkWork += drawer.insertWork();
+    return seen;
+}
+
 Appearance LookMaker::appearance(const KdDbStub& entity) {
     Appearance look;
-    look.seen = false;
-    if (const auto reading = readEntity(entity)) {
-        AppearanceInk ink(look);
-        look.seen = EntityDrawer(m_table, m_blocks, ink).draw(*reading);
-    }
+    AppearanceInk ink(look);
+    look.seen = draw(entity, ink);
     return look;
 }
 
 PlanBox LookMaker::box(const KdDbStub& entity) {
     BoxInk ink;
-    if (const auto reading = readEntity(entity)) {
-        EntityDrawer(m_table, m_blocks, ink).draw(*reading);
-    }
+    draw(entity, ink);
     return ink.box();
 }
 

@@ -4,6 +4,8 @@
 #include "BlockContents.h"
 #include "LookTable.h"
 
+#include <cstdint>
+
 struct KdDbStub;
 
 namespace orvex {
@@ -17,13 +19,19 @@ public:
     // The box alone, for far less; empty for an entity that isn't seen.
     [[nodiscard]] PlanBox box(const KdDbStub& entity);
 
+    // Before many looks or boxes are made: what their inserts may cost together begins anew.
+    void startWalk() { m_walkWork = 0; }
+
     // True when the change of an object may change the looks of entities other than itself.
     [[nodiscard]] bool isShared(const KdDbStub& changed) const;
     [[nodiscard]] bool isScaleStale() const { return m_table.isScaleStale(); }
     void forgetShared();
 
 private:
+    bool draw(const KdDbStub& entity, Ink& ink);
+
     DatabaseCore& m_core;
+    std::int64_t m_walkWork = 0;
     LookTable m_table;
     BlockContents m_blocks;
 };

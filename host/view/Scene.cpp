@@ -76,6 +76,7 @@ std::vector<KdDbStub*> Scene::State::takeChanges() {
 
 // Brings everything that was derived up to date with what changed since the last time.
 void Scene::State::settle() {
+    maker.startWalk();
     const std::vector<KdDbStub*> changed = takeChanges();
     const auto isShared = [this](const KdDbStub* stub) { return maker.isShared(*stub); };
     if (maker.isScaleStale() || std::any_of(changed.begin(), changed.end(), isShared)) {
@@ -128,6 +129,7 @@ void Scene::State::buildIndex() {
     }
     index.build(std::move(boxes));
     isIndexed = true;
+    maker.startWalk();
 }
 
 void Scene::State::prepare() {
