@@ -18,14 +18,25 @@ public:
     using Chooser = std::function<bool(int index)>;
     void setChooser(Chooser chooser);
 
+    // What was current before the user's latest act; -1 for none.
+    [[nodiscard]] int indexBefore() const { return m_before; }
+
+    void showPopup() override;
+
 signals:
     // The user chose an entry.
     void selChanged();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    // A wheel that scrolls past changes nothing.
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     void choose(int index);
 
     Chooser m_chooser;
+    int m_before = -1;
 };
 
 } // namespace VOUI

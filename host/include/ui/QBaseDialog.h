@@ -17,7 +17,6 @@ public:
     // the result Rejected.
     virtual void OnCancel();
 
-    int exec() override;
     void reject() override;
 
 protected:

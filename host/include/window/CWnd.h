@@ -100,10 +100,9 @@ public:
     // Gives 1 OK, 2 cancel, 6 yes, 7 no; without a running application 0.
     int MessageBoxW(const wchar_t* text, const wchar_t* caption = nullptr, unsigned flags = 0);
 
-protected:
-    [[nodiscard]] const std::shared_ptr<orvex::WindowState>& state() const { return m_state; }
-
 private:
+    friend struct orvex::WindowState;
+
     std::shared_ptr<orvex::WindowState> m_state;
 };
 

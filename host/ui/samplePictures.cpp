@@ -1,0 +1,68 @@
+#include "samplePictures.h"
+
+#include <QPainter>
+#include <QPixmap>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvex {
+
+namespace {
+
+// The pen-down parts of a row of pixels.
+struct Stroke {
+    double from;
+    double to;
+};
+
+std::vector<Stroke> strokes(const std::vector<double>& dashes, double width) {
+    double length = 0;
+    for (const double dash : dashes) {
+        length += std::abs(dash);
+    }
+    if (!std::isfinite(length) || length <= 0) {
+        return {{0, width}};
+    }
+    const double scale = width / 2 / length;
+    constexpr double kDot = 1.5; // pixels
+    std::vector<Stroke> found;
+    double at = 0;
+    for (int repetition = 0; repetition < 2; ++repetition) {
+        for (const double dash : dashes) {
+            const double size = std::abs(dash) * scale;
+            if (dash >= 0) {
+                found.push_back({at, at + std::max(size, kDot)});
+            }
+            at += size;
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+QIcon colourSwatch(std::uint32_t rgb, const QColor& frame) {
+    QPixmap picture(kSwatchSize);
+    picture.fill(QColor(rgb));
+    QPainter painter(&picture);
+    painter.setPen(frame);
+    painter.drawRect(0, 0, kSwatchSize.width() - 1, kSwatchSize.height() - 1);
+    painter.end();
+    return QIcon(picture);
+}
+
+QIcon lineSample(const std::vector<double>& dashes, const QColor& ink) {
+    QPixmap picture(kLineSampleSize);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    constexpr double kThickness = 2; // pixels
+    const double top = (kLineSampleSize.height() - kThickness) / 2;
+    for (const Stroke& stroke : strokes(dashes, kLineSampleSize.width())) {
+        painter.fillRect(QRectF(stroke.from, top, stroke.to - stroke.from, kThickness), ink);
+    }
+    painter.end();
+    return QIcon(picture);
+}
+
+} // namespace orvex
