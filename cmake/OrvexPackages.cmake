@@ -8,6 +8,7 @@ find_package(Threads REQUIRED)
 
 if(ORVEX_BUILD_TESTS)
     find_package(GTest 1.12 REQUIRED)
+    find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
     include(GoogleTest)
     # Debian's own interpreter: python3-ezdxf is installed for no other.
     set(ORVEX_PYTHON /usr/bin/python3)

@@ -1,0 +1,209 @@
+#include "DialogPair.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+using orvex::testing::Logic;
+
+namespace {
+
+TEST(CDialog, onlyTheLogicsOkGivesOne) {
+    struct Case {
+        const char* what;
+        void (*end)(Logic&);
+        int result;
+    };
+    const Case cases[] = {
+        {"the logic's OK", [](Logic& logic) { logic.OnOK(); }, 1},
+        {"the logic's cancel", [](Logic& logic) { logic.OnCancel(); }, 2},
+        {"Qt's accept", [](Logic& logic) { logic.view().accept(); }, 2},
+        {"a result of Qt's that is 1", [](Logic& logic) { logic.view().done(1); }, 2},
+        {"the close control", [](Logic& logic) { logic.view().close(); }, 2},
+        {"a cancel after the OK", [](Logic& logic) { logic.OnOK(), logic.OnCancel(); }, 1},
+        {"an OK after the cancel", [](Logic& logic) { logic.OnCancel(), logic.OnOK(); }, 2},
+    };
+    for (const Case& each : cases) {
+        Logic logic;
+        EXPECT_EQ(logic.runWith([&] { each.end(logic); }), each.result) << each.what;
+        EXPECT_FALSE(logic.view().isVisible()) << each.what;
+    }
+}
+
+TEST(CDialog, refusesWithoutViewAndWhenTheLogicDoesNotStart) {
+    CDialog bare(1);
+    EXPECT_EQ(bare.DoModal(), -1);
+
+    Logic refusing;
+    bool shown = false;
+    refusing.onInit = [&] { return 0; };
+    QObject::connect(&refusing.view(), &QDialog::finished, [&] { shown = true; });
+    EXPECT_EQ(refusing.DoModal(), -1);
+    EXPECT_FALSE(shown);
+    EXPECT_EQ(CWnd::FromHandle(&refusing.view()), nullptr);
+
+    Logic throwing;
+    throwing.onInit = []() -> int { throw std::runtime_error("no"); };
+    EXPECT_THROW(throwing.DoModal(), std::runtime_error);
+    throwing.onInit = [] { return 0; };
+    EXPECT_EQ(throwing.DoModal(), -1); // it isn't taken for running
+}
+
+TEST(CDialog, endsBeforeItIsShownWhenTheLogicSaysSo) {
+    Logic logic;
+    logic.onInit = [&] {
+        logic.OnOK();
+        return 1;
+    };
+    EXPECT_EQ(logic.DoModal(), 1);
+}
+
+TEST(CDialog, nestsAndDoesNotRunTwice) {
+    Logic outer;
+    int again = 0;
+    int inner = 0;
+    const int result = outer.runWith([&] {
+        again = outer.DoModal();
+        Logic nested;
+        inner = nested.runWith([&] { nested.OnOK(); });
+        EXPECT_EQ(CWnd::FromHandle(&outer.view()), &outer);
+        outer.OnCancel();
+    });
+    EXPECT_EQ(again, -1);
+    EXPECT_EQ(inner, 1);
+    EXPECT_EQ(result, 2);
+}
+
+TEST(CDialog, initialisesWithLayoutsComputed) {
+    Logic logic;
+    // A field in a group in the dialog: each layout is a step further from the dialog's own.
+    auto* const outer = new QVBoxLayout(&logic.view());
+    auto* const group = new QGroupBox(&logic.view());
+    outer->addWidget(group);
+    auto* const inner = new QVBoxLayout(group);
+    auto* const field = new QLineEdit(group);
+    inner->addWidget(field);
+    logic.SetDlgItem(7, field);
+
+    tagRECT early;
+    logic.onInit = [&] {
+        logic.GetDlgItem(7)->GetClientRect(&early);
+        return 1;
+    };
+    tagRECT shown;
+    logic.runWith([&] {
+        logic.GetDlgItem(7)->GetClientRect(&shown);
+        logic.OnCancel();
+    });
+    EXPECT_EQ(early.right, shown.right);
+    EXPECT_GT(early.right, 200); // of 300, less margins
+}
+
+TEST(CDialog, aViewIsNobodysOnceTheLoopHasEnded) {
+    Logic logic;
+    EXPECT_EQ(CWnd::FromHandle(&logic.view()), &logic);
+    CWnd* whenHidden = &logic;
+    logic.runWith([&] {
+        logic.OnOK();
+        whenHidden = CWnd::FromHandle(&logic.view());
+    });
+    EXPECT_EQ(whenHidden, nullptr);
+    EXPECT_EQ(CWnd::FromHandle(&logic.view()), nullptr);
+}
+
+TEST(CDialog, theViewDiesWithTheLogicExactlyOnce) {
+    QPointer<QDialog> view;
+    {
+        Logic logic;
+        view = &logic.view();
+        QObject::connect(view, &QObject::destroyed,
+                         [dying = view.data()] { EXPECT_EQ(CWnd::FromHandle(dying), nullptr); });
+    }
+    EXPECT_TRUE(view.isNull());
+
+    Logic orphan;
+    delete &orphan.view();
+    EXPECT_EQ(orphan.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(orphan.DoModal(), -1);
+    orphan.SetWindowTextW(L"nothing happens");
+
+    QDialog keeper;
+    {
+        CDialog guest(1);
+        guest.SetHandle(&keeper);
+        guest.SetAutoDelete(true, false);
+    }
+    EXPECT_EQ(CWnd::FromHandle(&keeper), nullptr);
+}
+
+TEST(CDialog, anObjectAndAViewHaveOnePartner) {
+    QDialog view;
+    CDialog first(1);
+    CDialog second(2);
+    first.SetHandle(&view);
+    second.SetHandle(&view);
+    EXPECT_EQ(CWnd::FromHandle(&view), &second);
+    EXPECT_EQ(first.GetSafeHwnd(), nullptr);
+    second.SetHandle(nullptr);
+    EXPECT_EQ(CWnd::FromHandle(&view), nullptr);
+    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
+}
+
+TEST(CDialog, itsParentIsWhatItWasMadeWith) {
+    auto outer = std::make_unique<Logic>();
+    const Logic child(outer.get());
+    const Logic alone;
+    EXPECT_EQ(child.GetParent(), outer.get());
+    EXPECT_EQ(alone.GetParent(), nullptr);
+    outer.reset();
+    EXPECT_EQ(child.GetParent(), nullptr);
+}
+
+TEST(CDialog, checkBoxesReportTheUsersClicksOnly) {
+    Logic logic;
+    auto& box = logic.add<QCheckBox>(1038);
+    auto& replaced = logic.add<QCheckBox>(1039);
+    auto& now = logic.add<QCheckBox>(1039);
+    logic.CheckDlgButton(1038, 1);
+    EXPECT_EQ(logic.IsDlgButtonChecked(1038), 1);
+    EXPECT_TRUE(logic.commands.empty());
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(5, box.height() / 2));
+    replaced.click();
+    now.click();
+    EXPECT_EQ(logic.commands, (std::vector<unsigned long>{1038, 1039}));
+
+    // What a handler throws doesn't reach Qt.
+    logic.onCommand = [] { throw std::runtime_error("no"); };
+    box.click();
+    EXPECT_EQ(logic.commands.size(), 3U);
+
+    logic.runWith([&] { logic.OnOK(); });
+    box.click();
+    EXPECT_EQ(logic.commands.size(), 3U);
+}
+
+TEST(CDialog, numberOneIsTheOnlyDefaultButton) {
+    Logic logic;
+    auto& other = logic.add<QPushButton>(1028);
+    auto& accept = logic.add<QPushButton>(1);
+    auto* const unregistered = new QPushButton(&logic.view());
+    logic.runWith([&] {
+        EXPECT_TRUE(accept.isDefault());
+        other.setFocus();
+        EXPECT_FALSE(other.isDefault());
+        EXPECT_FALSE(other.autoDefault());
+        EXPECT_FALSE(unregistered->autoDefault());
+        EXPECT_TRUE(accept.isDefault());
+        logic.OnCancel();
+    });
+}
+
+} // namespace

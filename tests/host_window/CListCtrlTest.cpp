@@ -1,0 +1,228 @@
+#include "CListCtrl.h"
+#include "CArchive.h"
+#include "DialogPair.h"
+
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+using orvex::testing::Logic;
+
+namespace {
+
+constexpr unsigned kSelected = 2;
+
+class ListCtrl : public ::testing::Test {
+protected:
+    ListCtrl() : widget(logic.add<QTableWidget>(1046)) {
+        widget.resize(280, 180);
+        widget.setSelectionBehavior(QAbstractItemView::SelectRows);
+        list.SubclassDlgItem(1046, &logic);
+        list.InsertColumn(0, L"Offset", 0, 90, -1);
+        list.InsertColumn(1, L"Linetype", 0, 80, -1);
+        QObject::connect(&widget, &QTableWidget::itemClicked, [this](QTableWidgetItem*) {
+            told.push_back(list.GetNextItem(-1, kSelected));
+        });
+    }
+
+    void addRow(const wchar_t* text, unsigned long data) {
+        const int row = list.InsertItem(list.GetItemCount(), text);
+        list.SetItem(row, 1, 1, L"ByLayer", 0, 0, 0, 0);
+        list.SetItemData(row, data);
+    }
+    [[nodiscard]] std::vector<unsigned long> data() const {
+        std::vector<unsigned long> all;
+        for (int row = 0; row < list.GetItemCount(); ++row) {
+            all.push_back(list.GetItemData(row));
+        }
+        return all;
+    }
+    [[nodiscard]] QPoint middleOf(int row) const {
+        return widget.visualItemRect(widget.item(row, 0)).center();
+    }
+
+    Logic logic;
+    QTableWidget& widget;
+    CListCtrl list;
+    std::vector<int> told;
+};
+
+TEST_F(ListCtrl, keepsTextsAndWordsOfItsRows) {
+    EXPECT_EQ(list.GetColumnCount(), 2);
+    EXPECT_EQ(list.GetColumnWidth(0), 90);
+    EXPECT_EQ(list.InsertItem(0, L"0.5"), 0);
+    EXPECT_EQ(list.InsertItem(99, L"-0.5"), 1); // behind the last
+    EXPECT_TRUE(list.SetItemText(1, 1, L"ByBlock"));
+    EXPECT_TRUE(list.SetItemData(1, 0xFEDCBA9876543210UL));
+    EXPECT_STREQ(list.GetItemText(0, 0), L"0.5");
+    EXPECT_STREQ(list.GetItemText(1, 1), L"ByBlock");
+    EXPECT_EQ(list.GetItemData(1), 0xFEDCBA9876543210UL);
+    EXPECT_EQ(list.GetItemData(0), 0UL);
+    EXPECT_TRUE(list.DeleteItem(0));
+    EXPECT_EQ(list.GetItemData(0), 0xFEDCBA9876543210UL);
+    EXPECT_TRUE(list.DeleteAllItems());
+    EXPECT_EQ(list.GetItemCount(), 0);
+    EXPECT_EQ(list.GetColumnCount(), 2);
+}
+
+TEST_F(ListCtrl, badRowsAndColumnsChangeNothing) {
+    addRow(L"1", 1);
+    for (const int row : {-1, 1, 1000}) {
+        EXPECT_FALSE(list.SetItemText(row, 0, L"x"));
+        EXPECT_FALSE(list.SetItem(row, 0, 1, L"x", 0, 0, 0, 0));
+        EXPECT_FALSE(list.SetItemData(row, 1));
+        EXPECT_FALSE(list.SetItemState(row, 1, 1));
+        EXPECT_FALSE(list.DeleteItem(row));
+        EXPECT_EQ(list.GetItemData(row), 0UL);
+        EXPECT_TRUE(list.GetItemText(row, 0).IsEmpty());
+    }
+    for (const int column : {-1, 2}) {
+        EXPECT_FALSE(list.SetItemText(0, column, L"x"));
+        EXPECT_TRUE(list.GetItemText(0, column).IsEmpty());
+    }
+    EXPECT_EQ(list.InsertItem(-1, L"x"), -1);
+    EXPECT_EQ(list.InsertColumn(-1, L"x"), -1);
+    EXPECT_EQ(list.GetItemCount(), 1);
+}
+
+TEST_F(ListCtrl, rowsWithoutColumnsHaveWordsToo) {
+    logic.add<QTableWidget>(7);
+    CListCtrl bare;
+    bare.SubclassDlgItem(7, &logic);
+    EXPECT_EQ(bare.InsertItem(0, L"unseen"), 0);
+    EXPECT_TRUE(bare.SetItemData(0, 5));
+    EXPECT_EQ(bare.GetItemData(0), 5UL);
+    EXPECT_FALSE(bare.SetItemState(0, 1, 1));
+    EXPECT_TRUE(bare.SortItems([](long, long, long) { return 0; }, 0));
+    EXPECT_EQ(bare.GetItemData(0), 5UL);
+}
+
+int byTens(long a, long b, long direction) {
+    const long difference = a / 10 - b / 10;
+    return static_cast<int>(difference * direction);
+}
+
+TEST_F(ListCtrl, sortsStablyAndTakesSelectionAndCurrentRowAlong) {
+    for (const unsigned long each : {21, 11, 31, 12, 22}) {
+        addRow(std::to_wstring(each).c_str(), each);
+    }
+    list.SetItemState(3, 1, 1); // 12
+    EXPECT_TRUE(list.SortItems(byTens, 1));
+    EXPECT_EQ(data(), (std::vector<unsigned long>{11, 12, 21, 22, 31}));
+    EXPECT_STREQ(list.GetItemText(1, 0), L"12");
+    EXPECT_STREQ(list.GetItemText(1, 1), L"ByLayer");
+    EXPECT_EQ(list.GetNextItem(-1, kSelected), 1);
+    EXPECT_EQ(list.GetSelectedCount(), 1);
+    EXPECT_EQ(widget.currentRow(), 1);
+    EXPECT_TRUE(list.SortItems(byTens, -1));
+    EXPECT_EQ(data(), (std::vector<unsigned long>{31, 21, 22, 11, 12}));
+    EXPECT_EQ(list.GetNextItem(-1, kSelected), 4);
+    EXPECT_TRUE(told.empty());
+    EXPECT_FALSE(list.SortItems(nullptr, 0));
+}
+
+TEST_F(ListCtrl, aContradictoryOrderLosesNoRow) {
+    for (unsigned long each = 0; each < 100; ++each) {
+        addRow(L"x", each);
+    }
+    EXPECT_TRUE(list.SortItems([](long, long, long) { return std::rand() % 3 - 1; }, 0));
+    auto all = data();
+    std::sort(all.begin(), all.end());
+    for (unsigned long each = 0; each < 100; ++each) {
+        ASSERT_EQ(all[each], each);
+    }
+}
+
+TEST_F(ListCtrl, aSetStateIsTheCurrentAndOnlySelectedRow) {
+    for (const unsigned long each : {1, 2, 3}) {
+        addRow(L"x", each);
+    }
+    widget.selectAll();
+    EXPECT_EQ(list.GetSelectedCount(), 3);
+    EXPECT_TRUE(list.SetItemState(1, 1, 1));
+    EXPECT_EQ(list.GetSelectedCount(), 1);
+    EXPECT_EQ(widget.currentRow(), 1);
+    EXPECT_EQ(list.GetNextItem(-1, 0), 0);
+    EXPECT_EQ(list.GetNextItem(2, 0), -1);
+    EXPECT_TRUE(list.DeleteItem(1));
+    EXPECT_EQ(list.GetSelectedCount(), 0);
+    EXPECT_TRUE(list.SetItemState(0, 2, 2));
+    EXPECT_TRUE(list.SetItemState(0, 0, 2));
+    EXPECT_EQ(list.GetSelectedCount(), 0);
+}
+
+TEST_F(ListCtrl, eachChangeByTheUserIsToldOnce) {
+    for (const unsigned long each : {1, 2, 3}) {
+        addRow(L"x", each);
+    }
+    logic.runWith([this] {
+        QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, middleOf(0));
+        QTest::keyClick(&widget, Qt::Key_Down);
+        EXPECT_EQ(told, (std::vector<int>{0, 1}));
+        QTest::keyClick(&widget, Qt::Key_Down, Qt::ShiftModifier);
+        EXPECT_EQ(told, (std::vector<int>{0, 1, 1}));
+        EXPECT_EQ(list.GetSelectedCount(), 2);
+        QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, QPoint(100, 145));
+        EXPECT_EQ(told, (std::vector<int>{0, 1, 1, -1}));
+        list.SetItemState(2, 1, 1);
+        EXPECT_EQ(told.size(), 4U);
+        logic.OnCancel();
+    });
+}
+
+TEST_F(ListCtrl, neitherCellsNorHeadingsAreTheUsers) {
+    addRow(L"2", 2);
+    addRow(L"1", 1);
+    logic.runWith([this] {
+        QTest::mouseDClick(widget.viewport(), Qt::LeftButton, {}, middleOf(0));
+        QTest::keyClick(&widget, Qt::Key_F2);
+        QTest::keyClicks(&widget, "9");
+        EXPECT_EQ(widget.findChild<QWidget*>("qt_editing_widget"), nullptr);
+        told.clear();
+        QHeaderView& headings = *widget.horizontalHeader();
+        QTest::mouseClick(headings.viewport(), Qt::LeftButton, {}, QPoint(10, 5));
+        EXPECT_TRUE(told.empty());
+        logic.OnCancel();
+    });
+    EXPECT_EQ(data(), (std::vector<unsigned long>{2, 1}));
+    EXPECT_STREQ(list.GetItemText(0, 0), L"2");
+}
+
+TEST_F(ListCtrl, headingsCanBeReadAndSet) {
+    CHeaderCtrl* const header = list.GetHeaderCtrl();
+    ASSERT_NE(header, nullptr);
+    EXPECT_EQ(header->GetItemCount(), 2);
+    wchar_t text[5] = L"";
+    _HD_ITEMW item;
+    item.mask = 1 | 2 | 4;
+    item.pszText = text;
+    item.cchTextMax = 5;
+    EXPECT_TRUE(header->GetItem(1, &item));
+    EXPECT_STREQ(text, L"Line"); // cut to the room there is
+    EXPECT_EQ(item.cxy, 80);
+    EXPECT_EQ(item.fmt, 0);
+    item.mask = 4;
+    item.fmt |= 0x8000;
+    EXPECT_TRUE(header->SetItem(1, &item));
+    item.fmt = 0;
+    EXPECT_TRUE(header->GetItem(1, &item));
+    EXPECT_EQ(item.fmt, 0x8000);
+    EXPECT_FALSE(header->GetItem(2, &item));
+    EXPECT_FALSE(header->SetItem(0, nullptr));
+    CHeaderCtrl unbound;
+    EXPECT_FALSE(unbound.GetItem(0, &item));
+}
+
+TEST_F(ListCtrl, fullRowStyleSelectsRows) {
+    widget.setSelectionBehavior(QAbstractItemView::SelectItems);
+    EXPECT_EQ(list.SetExtendedStyle(32), 0U);
+    EXPECT_EQ(list.GetExtendedStyle(), 32U);
+    EXPECT_EQ(widget.selectionBehavior(), QAbstractItemView::SelectRows);
+}
+
+} // namespace

@@ -1,0 +1,206 @@
+#include "CBitmapButton.h"
+#include "CButton.h"
+#include "CEdit.h"
+#include "CListBox.h"
+#include "CStatic.h"
+#include "DialogPair.h"
+#include "HICON.h"
+#include "messageBeep.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextEdit>
+
+#include <gtest/gtest.h>
+
+using orvex::testing::Logic;
+using orvex::testing::textOf;
+
+namespace {
+
+TEST(CWnd, textsGoToEveryKindOfWidgetAndBack) {
+    Logic logic;
+    logic.add<QLabel>(1);
+    logic.add<QLineEdit>(2);
+    logic.add<QPushButton>(3);
+    logic.add<QGroupBox>(4);
+    logic.add<QTextEdit>(5);
+    const wchar_t* const text = L"<b>50 %s</b> \x00E4\x4E2D & [*]";
+    for (int number = 1; number <= 5; ++number) {
+        logic.GetDlgItem(number)->SetWindowTextW(text);
+        EXPECT_EQ(textOf(*logic.GetDlgItem(number)), text) << number;
+        logic.GetDlgItem(number)->SetWindowTextW(nullptr);
+        EXPECT_EQ(textOf(*logic.GetDlgItem(number)), L"") << number;
+    }
+    logic.SetWindowTextW(text);
+    EXPECT_EQ(textOf(logic), text);
+}
+
+TEST(CWnd, labelsShowMarkupAsItStands) {
+    Logic logic;
+    auto& label = logic.add<QLabel>(1);
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    logic.GetDlgItem(1)->SetWindowTextW(L"<img src='/etc/passwd'>");
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+}
+
+TEST(CWnd, aReadIsCutAndTerminated) {
+    Logic logic;
+    logic.add<QLineEdit>(1);
+    CWnd* const field = logic.GetDlgItem(1);
+    field->SetWindowTextW(L"abcdef");
+    struct Case {
+        int max;
+        const wchar_t* result;
+    };
+    for (const Case& each : {Case{7, L"abcdef"}, Case{4, L"abc"}, Case{1, L""}, Case{0, L"zzz"}}) {
+        wchar_t buffer[8] = L"zzz";
+        const int length = field->GetWindowTextW(buffer, each.max);
+        EXPECT_STREQ(buffer, each.result) << each.max;
+        EXPECT_EQ(length, each.max > 0 ? static_cast<int>(std::wcslen(each.result)) : 0);
+    }
+    EXPECT_EQ(field->GetWindowTextW(nullptr, 5), 0);
+}
+
+TEST(CWnd, whatTheLogicSetsIsSilent) {
+    Logic logic;
+    auto& field = logic.add<QLineEdit>(1);
+    auto& combo = logic.add<QComboBox>(2);
+    auto& other = logic.add<QLineEdit>(3);
+    QSignalSpy changed(&field, &QLineEdit::textChanged);
+    QSignalSpy finished(&field, &QLineEdit::editingFinished);
+    QSignalSpy chosen(&combo, QOverload<int>::of(&QComboBox::currentIndexChanged));
+    logic.runWith([&] {
+        field.setFocus();
+        logic.GetDlgItem(1)->SetWindowTextW(L"set");
+        logic.GetDlgItem(3)->SetFocus(); // takes the focus away from a field in use
+        EXPECT_TRUE(other.hasFocus());
+        EXPECT_EQ(finished.count(), 0);
+        field.setFocus();
+        logic.GetDlgItem(1)->EnableWindow(false);
+        EXPECT_EQ(finished.count(), 0);
+        EXPECT_EQ(changed.count(), 0);
+        EXPECT_EQ(chosen.count(), 0);
+
+        logic.GetDlgItem(1)->EnableWindow(true);
+        QTest::keyClicks(&field, "x"); // the user's act does report
+        EXPECT_EQ(changed.count(), 1);
+        logic.OnCancel();
+    });
+}
+
+TEST(CWnd, anUnregisteredNumberIsAnObjectThatDoesNothing) {
+    Logic logic;
+    CWnd* const nothing = logic.GetDlgItem(1064);
+    ASSERT_NE(nothing, nullptr);
+    EXPECT_EQ(logic.GetDlgItem(1064), nothing);
+    EXPECT_EQ(nothing->GetSafeHwnd(), nullptr);
+    nothing->SetWindowTextW(L"unseen");
+    nothing->EnableWindow(true);
+    nothing->SetFocus();
+    nothing->Invalidate();
+    nothing->MoveWindow({0, 0, 10, 10});
+    nothing->SetIcon(nullptr, 1);
+    tagRECT rect{1, 2, 3, 4};
+    nothing->GetWindowRect(&rect);
+    EXPECT_EQ(rect.right, 0);
+    EXPECT_EQ(textOf(*nothing), L"");
+    EXPECT_EQ(GetDlgItem(&logic.view(), 1064), nullptr);
+    EXPECT_FALSE(EnableWindow(nullptr, true));
+    EXPECT_EQ(GetDlgItem(nullptr, 1), nullptr);
+
+    // Registered later, it is the same object.
+    auto& label = logic.add<QLabel>(1064);
+    EXPECT_EQ(nothing->GetSafeHwnd(), &label);
+    EXPECT_EQ(GetDlgItem(&logic.view(), 1064), &label);
+    logic.SetDlgItem(1064, nullptr);
+    EXPECT_EQ(nothing->GetSafeHwnd(), nullptr);
+}
+
+TEST(CWnd, aControlKnowsItsDialogAndNumber) {
+    Logic logic;
+    auto& group = logic.add<QGroupBox>(1023);
+    auto* const label = new QLabel(&group);
+    logic.SetDlgItem(1024, label);
+    EXPECT_EQ(logic.GetDlgItem(1024)->GetParent(), &logic);
+    EXPECT_EQ(logic.GetDlgItem(1024)->GetDlgCtrlID(), 1024);
+
+    CStatic bound;
+    EXPECT_EQ(bound.GetParent(), nullptr);
+    EXPECT_TRUE(bound.SubclassDlgItem(1024, &logic));
+    EXPECT_TRUE(bound.SubclassDlgItem(1024, &logic));
+    EXPECT_EQ(bound.GetParent(), &logic);
+    EXPECT_EQ(bound.GetDlgCtrlID(), 1024);
+    EXPECT_EQ(bound.GetSafeHwnd(), label);
+    bound.ModifyStyle(0, 526, 0);
+
+    CEdit stranger;
+    EXPECT_FALSE(stranger.SubclassDlgItem(9, &logic));
+    EXPECT_FALSE(stranger.SubclassDlgItem(9, nullptr));
+}
+
+TEST(CWnd, buttonsAreCheckedByNumberAndByObject) {
+    Logic logic;
+    auto& button = logic.add<QPushButton>(5);
+    button.setCheckable(true);
+    QSignalSpy toggled(&button, &QPushButton::toggled);
+    CButton bound;
+    bound.SubclassDlgItem(5, &logic);
+    bound.SetCheck(1);
+    EXPECT_EQ(logic.IsDlgButtonChecked(5), 1);
+    logic.CheckDlgButton(5, 0);
+    EXPECT_EQ(bound.GetCheck(), 0);
+    EXPECT_EQ(toggled.count(), 0);
+    EXPECT_EQ(logic.IsDlgButtonChecked(77), 0);
+}
+
+TEST(CWnd, messageBoxesAnswerByNumberInPlainText) {
+    struct Case {
+        unsigned flags;
+        QMessageBox::StandardButton press;
+        int answer;
+    };
+    const Case cases[] = {
+        {36, QMessageBox::Yes, 6}, {36, QMessageBox::No, 7},    {36, QMessageBox::NoButton, 7},
+        {0, QMessageBox::Ok, 1},   {1, QMessageBox::Cancel, 2}, {3, QMessageBox::NoButton, 2},
+    };
+    for (const Case& each : cases) {
+        Logic logic;
+        int answer = 0;
+        QTimer::singleShot(0, [&] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            EXPECT_EQ(box->text(), "Delete \"<b>A</b>\"?");
+            if (each.press == QMessageBox::NoButton) {
+                QTest::keyClick(box, Qt::Key_Escape);
+            } else {
+                box->button(each.press)->click();
+            }
+        });
+        answer = logic.MessageBoxW(L"Delete \"<b>A</b>\"?", each.flags == 0 ? nullptr : L"ORVEX",
+                                   each.flags);
+        EXPECT_EQ(answer, each.answer) << each.flags << " " << each.press;
+    }
+}
+
+TEST(CWnd, missingPicturesAreNoFailure) {
+    CBitmapButton button;
+    EXPECT_FALSE(button.LoadBitmaps(L"IDB_NONE_UP", L"IDB_NONE_DOWN", L"IDB_NONE", L"IDB_NONE"));
+    EXPECT_FALSE(button.LoadBitmaps(nullptr));
+    EXPECT_EQ(GetModuleHandleW(L"none.dll"), nullptr);
+    EXPECT_EQ(GetModuleHandleW(nullptr), nullptr);
+    EXPECT_EQ(LoadIconW(nullptr, 128), nullptr);
+    int foreign = 0;
+    EXPECT_EQ(LoadIconW(reinterpret_cast<HINSTANCE>(&foreign), 128), nullptr);
+    Logic logic;
+    logic.SetIcon(reinterpret_cast<HICON>(&foreign), 0);
+}
+
+} // namespace

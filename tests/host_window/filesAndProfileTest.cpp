@@ -1,0 +1,108 @@
+#include "CArchive.h"
+#include "CMemFile.h"
+#include "CWinApp.h"
+#include "ProfileStore.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <memory>
+
+namespace {
+
+TEST(MemFile, whatAnArchiveStoresAnotherLoads) {
+    CMemFile file;
+    CArchive out(&file, CArchive::store, 4096);
+    const std::array<unsigned char, 4> bytes{1, 2, 3, 4};
+    EXPECT_EQ(out.Write(bytes.data(), 4), 4U);
+    std::array<unsigned char, 6> target{};
+    EXPECT_EQ(out.Read(target.data(), 4), 0U); // it goes one way
+    out.Close();
+    EXPECT_EQ(out.Write(bytes.data(), 4), 0U);
+    EXPECT_EQ(file.GetLength(), 4UL);
+    const std::unique_ptr<unsigned char[]> data(file.Detach());
+    EXPECT_EQ(file.GetLength(), 0UL);
+    EXPECT_EQ(file.Detach(), nullptr);
+
+    CMemFile attached(data.get(), 4);
+    CArchive in(&attached, CArchive::load, 4096);
+    EXPECT_EQ(in.Read(target.data(), 6), 4U); // what there is
+    EXPECT_EQ(target, (std::array<unsigned char, 6>{1, 2, 3, 4, 0, 0}));
+    EXPECT_EQ(in.Read(target.data(), 1), 0U);
+    EXPECT_EQ(in.Write(bytes.data(), 1), 0U);
+    attached.SeekToBegin();
+    EXPECT_EQ(attached.Write(target.data(), 6), 4U); // never beyond the caller's buffer
+    EXPECT_EQ(attached.Detach(), data.get());
+}
+
+TEST(Profile, valuesReadBackAndWrongKindsAreTheDefault) {
+    orvex::setProfileStore(nullptr);
+    CWinApp& app = *AfxGetApp();
+    EXPECT_EQ(app.GetProfileInt(L"Settings", L"MlstylePosLeft", -10000), -10000);
+    EXPECT_TRUE(app.WriteProfileInt(L"Settings", L"MlstylePosLeft", -7));
+    EXPECT_EQ(app.GetProfileInt(L"Settings", L"MlstylePosLeft", -10000), -7);
+    EXPECT_EQ(app.GetProfileInt(L"Other", L"MlstylePosLeft", 3), 3);
+    EXPECT_STREQ(app.GetProfileString(L"Settings", L"MlstylePosLeft", L"none"), L"none");
+
+    EXPECT_TRUE(app.WriteProfileString(L"Settings", L"MlstyleFile", L"/a/\x00E4.mln"));
+    EXPECT_STREQ(app.GetProfileString(L"Settings", L"MlstyleFile"), L"/a/\x00E4.mln");
+    EXPECT_EQ(app.GetProfileInt(L"Settings", L"MlstyleFile", 5), 5);
+    EXPECT_STREQ(app.GetProfileString(nullptr, nullptr), L"");
+    orvex::setProfileStore(nullptr);
+    EXPECT_EQ(app.GetProfileInt(L"Settings", L"MlstylePosLeft", 1), 1); // a fresh one
+}
+
+TEST(Profile, bytesComeInNewMemoryOrNotAtAll) {
+    CWinApp& app = *AfxGetApp();
+    unsigned char* data = reinterpret_cast<unsigned char*>(&app);
+    unsigned size = 9;
+    EXPECT_FALSE(app.GetProfileBinary(L"ListCtrls", L"1046", &data, &size));
+    EXPECT_EQ(data, nullptr);
+    EXPECT_EQ(size, 0U);
+    const std::array<unsigned char, 3> bytes{7, 0, 9};
+    EXPECT_TRUE(app.WriteProfileBinary(L"ListCtrls", L"1046", bytes.data(), 3));
+    EXPECT_TRUE(app.GetProfileBinary(L"ListCtrls", L"1046", &data, &size));
+    const std::unique_ptr<unsigned char[]> owned(data);
+    ASSERT_EQ(size, 3U);
+    EXPECT_TRUE(std::equal(bytes.begin(), bytes.end(), data));
+    EXPECT_FALSE(app.GetProfileBinary(L"ListCtrls", L"1046", nullptr, &size));
+    EXPECT_TRUE(app.WriteProfileBinary(L"ListCtrls", L"1046", nullptr, 8));
+    EXPECT_FALSE(app.GetProfileBinary(L"ListCtrls", L"1046", &data, &size));
+}
+
+class NumberStore : public orvex::ProfileStore {
+public:
+    [[nodiscard]] int integer(const std::wstring& /*section*/, const std::wstring& key,
+                              int fallback) const override {
+        return key == L"known" ? 42 : fallback;
+    }
+    void setInteger(const std::wstring& /*section*/, const std::wstring& /*key*/,
+                    int value) override {
+        written = value;
+    }
+    [[nodiscard]] std::wstring text(const std::wstring& /*section*/, const std::wstring& /*key*/,
+                                    const std::wstring& fallback) const override {
+        return fallback;
+    }
+    void setText(const std::wstring& /*section*/, const std::wstring& /*key*/,
+                 const std::wstring& /*value*/) override {}
+    [[nodiscard]] std::vector<unsigned char> bytes(const std::wstring& /*section*/,
+                                                   const std::wstring& /*key*/) const override {
+        return {};
+    }
+    void setBytes(const std::wstring& /*section*/, const std::wstring& /*key*/,
+                  const std::vector<unsigned char>& /*value*/) override {}
+
+    int written = 0;
+};
+
+TEST(Profile, aProgramPutsItsOwnStoreBehindIt) {
+    NumberStore store;
+    EXPECT_EQ(orvex::setProfileStore(&store), nullptr);
+    EXPECT_EQ(AfxGetApp()->GetProfileInt(L"s", L"known", 0), 42);
+    AfxGetApp()->WriteProfileInt(L"s", L"x", 12);
+    EXPECT_EQ(store.written, 12);
+    EXPECT_EQ(orvex::setProfileStore(nullptr), &store);
+}
+
+} // namespace
