@@ -1,0 +1,207 @@
+#include "QBaseDialog.h"
+#include "CDialog.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <utility>
+
+namespace {
+
+class Dialog : public QBaseDialog {
+public:
+    Dialog() : list(new QListWidget(this)), button(new QPushButton("OK", this)) {
+        list->addItems({"a", "b"});
+        list->resize(100, 50);
+        button->move(0, 60);
+        button->setAutoDefault(false);
+        button->setDefault(true);
+        connect(button, &QPushButton::clicked, this, [this] { ++clicks; });
+    }
+    void OnCancel() override {
+        ++cancels;
+        if (!stays) {
+            QBaseDialog::OnCancel();
+        }
+    }
+
+    int runWith(std::function<void()> act) {
+        QTimer::singleShot(0, this, [this, act = std::move(act)] {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+            act();
+        });
+        return exec();
+    }
+
+    QListWidget* list;
+    QPushButton* button;
+    int clicks = 0;
+    int cancels = 0;
+    bool stays = false;
+};
+
+TEST(BaseDialog, everyWayOutGoesThroughCancel) {
+    struct Case {
+        const char* what;
+        void (*leave)(Dialog&);
+    };
+    const Case cases[] = {
+        {"Escape", [](Dialog& dialog) { QTest::keyClick(dialog.list, Qt::Key_Escape); }},
+        {"the close control", [](Dialog& dialog) { dialog.close(); }},
+        {"reject", [](Dialog& dialog) { dialog.reject(); }},
+        {"the window system", [](Dialog& dialog) { dialog.windowHandle()->close(); }},
+    };
+    for (const Case& each : cases) {
+        Dialog dialog;
+        dialog.stays = true;
+        const int result = dialog.runWith([&] {
+            each.leave(dialog);
+            EXPECT_EQ(dialog.cancels, 1) << each.what;
+            EXPECT_TRUE(dialog.isVisible()) << each.what; // the derived class decides
+            dialog.stays = false;
+            each.leave(dialog);
+        });
+        EXPECT_EQ(result, QDialog::Rejected) << each.what;
+        EXPECT_EQ(dialog.cancels, 2) << each.what;
+        EXPECT_EQ(dialog.clicks, 0) << each.what;
+    }
+}
+
+TEST(BaseDialog, enterNeedsAnEnabledDefaultButton) {
+    struct Case {
+        bool isDefault;
+        bool enabled;
+        int clicks;
+    };
+    for (const Case& each : {Case{true, true, 2}, Case{true, false, 0}, Case{false, true, 0}}) {
+        Dialog dialog;
+        dialog.button->setDefault(each.isDefault);
+        dialog.button->setEnabled(each.enabled);
+        dialog.runWith([&] {
+            dialog.list->setFocus();
+            QTest::keyClick(dialog.list, Qt::Key_Return);
+            QTest::keyClick(&dialog, Qt::Key_Enter);
+            EXPECT_TRUE(dialog.isVisible()); // a click alone ends nothing
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
+            QCoreApplication::sendEvent(&dialog, &held);
+            dialog.reject();
+        });
+        EXPECT_EQ(dialog.clicks, each.clicks) << each.isDefault << each.enabled;
+    }
+}
+
+TEST(BaseDialog, staysAboveTheWindowItWasOpenedFrom) {
+    QMainWindow host;
+    host.setGeometry(100, 100, 500, 400);
+    host.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
+    Dialog dialog;
+    dialog.resize(200, 100);
+    EXPECT_EQ(dialog.parent(), nullptr);
+    dialog.runWith([&] {
+        EXPECT_EQ(dialog.windowHandle()->transientParent(), host.windowHandle());
+        EXPECT_TRUE(host.geometry().contains(dialog.geometry()));
+        Dialog inner;
+        inner.move(7, 9);
+        inner.runWith([&] {
+            EXPECT_EQ(inner.windowHandle()->transientParent(), dialog.windowHandle());
+            EXPECT_EQ(inner.pos(), QPoint(7, 9)); // a place that was asked for
+            inner.reject();
+        });
+        dialog.reject();
+    });
+}
+
+// A pair as dialogs are built: the view forwards, the logic decides.
+class Logic : public CDialog {
+public:
+    Logic() : CDialog(105) {
+        class View : public QBaseDialog {
+        public:
+            void OnOK() override {
+                if (auto* logic = dynamic_cast<Logic*>(FromHandle(this))) {
+                    logic->OnOK();
+                }
+            }
+            void OnCancel() override {
+                if (auto* logic = dynamic_cast<Logic*>(FromHandle(this))) {
+                    logic->OnCancel();
+                }
+            }
+        };
+        view = new View;
+        field = new QLineEdit(view);
+        accept = new QPushButton(view);
+        QObject::connect(field, &QLineEdit::editingFinished, view, [this] {
+            if (FromHandle(view) != nullptr) {
+                ++finished;
+            }
+        });
+        SetHandle(view);
+        SetAutoDelete(true, true);
+        SetDlgItem(1050, field);
+        SetDlgItem(1, accept);
+    }
+    void OnCancel() override {
+        ++cancels;
+        CDialog::OnCancel();
+    }
+
+    int runWith(std::function<void()> act) {
+        QTimer::singleShot(0, view, [this, act = std::move(act)] {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(view));
+            act();
+        });
+        return DoModal();
+    }
+
+    QBaseDialog* view = nullptr;
+    QLineEdit* field = nullptr;
+    QPushButton* accept = nullptr;
+    int cancels = 0;
+    int finished = 0;
+};
+
+TEST(DialogPair, cancelReachesTheLogicOnceAndAFieldInUseIsSilent) {
+    Logic logic;
+    const int result = logic.runWith([&] {
+        logic.field->setFocus();
+        QTest::keyClicks(logic.field, "12");
+        QTest::keyClick(logic.field, Qt::Key_Escape);
+    });
+    QApplication::processEvents();
+    EXPECT_EQ(result, 2);
+    EXPECT_EQ(logic.cancels, 1);
+    EXPECT_EQ(logic.finished, 0);
+}
+
+TEST(DialogPair, enterInAFieldAcceptsAfterItsEditing) {
+    Logic logic;
+    const int result = logic.runWith([&] {
+        logic.field->setFocus();
+        QTest::keyClick(logic.field, Qt::Key_Return);
+    });
+    EXPECT_EQ(result, 1);
+    EXPECT_EQ(logic.finished, 1);
+
+    Logic disabled;
+    disabled.accept->setEnabled(false);
+    const int cancelled = disabled.runWith([&] {
+        QTest::keyClick(disabled.field, Qt::Key_Return);
+        EXPECT_TRUE(disabled.view->isVisible());
+        disabled.view->close();
+    });
+    EXPECT_EQ(cancelled, 2);
+}
+
+} // namespace

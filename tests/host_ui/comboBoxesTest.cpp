@@ -1,0 +1,256 @@
+#include "CDataExchange.h"
+#include "CDialog.h"
+#include "CKdUiLineTypeComboBox.h"
+#include "CKdUiTrueColorComboBox.h"
+#include "DrawingChoices.h"
+#include "MRUComboBox.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QColorDialog>
+#include <QDialog>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+KdCmColor indexed(std::uint16_t index) {
+    KdCmColor colour;
+    colour.setColorIndex(index);
+    return colour;
+}
+
+KdCmColor trueColour(std::uint32_t rgb) {
+    KdCmColor colour;
+    colour.setColor(0xC2000000U | rgb);
+    return colour;
+}
+
+// A drawing whose language isn't English.
+class Choices : public orvex::DrawingChoices {
+public:
+    Choices() : m_before(orvex::setDrawingChoices(this)) {}
+    ~Choices() override { orvex::setDrawingChoices(m_before); }
+    Choices(const Choices&) = delete;
+    Choices& operator=(const Choices&) = delete;
+
+    [[nodiscard]] std::wstring byLayerName() const override { return L"VonLayer"; }
+    [[nodiscard]] std::wstring byBlockName() const override { return L"VonBlock"; }
+    [[nodiscard]] std::vector<orvex::LineTypeChoice> lineTypes() const override {
+        return {{L"BYBLOCK", {}},     {L"ByLayer", {}},
+                {L"CONTINUOUS", {}},  {L"DASHED", {0.5, -0.25}},
+                {L"DOT", {0, -0.25}}, {L"BROKEN", {0, 0, 1e308, -1e308, 1e308}}};
+    }
+    [[nodiscard]] std::optional<KdCmColor> askColour(const KdCmColor& before) const override {
+        asked.push_back(before);
+        return answer;
+    }
+
+    std::optional<KdCmColor> answer;
+    mutable std::vector<KdCmColor> asked;
+
+private:
+    orvex::DrawingChoices* m_before;
+};
+
+class ComboBoxes : public ::testing::Test {
+protected:
+    ComboBoxes() : widget(new VOUI::MRUComboBox(&view)), logic(105) {
+        logic.SetHandle(&view);
+        logic.SetDlgItem(1049, widget);
+        colours.SubclassDlgItem(1049, &logic);
+        QObject::connect(widget, &VOUI::MRUComboBox::selChanged, [this] { ++chosen; });
+        view.show();
+    }
+
+    [[nodiscard]] QStringList texts() const {
+        QStringList all;
+        for (int index = 0; index < widget->count(); ++index) {
+            all << widget->itemText(index);
+        }
+        return all;
+    }
+    // As the user does: opens the list and clicks an entry.
+    void choose(int index) {
+        widget->showPopup();
+        QAbstractItemView& list = *widget->view();
+        QTest::qWait(QApplication::doubleClickInterval() / 10);
+        const QRect place = list.visualRect(widget->model()->index(index, 0));
+        QTest::mouseMove(list.viewport(), place.center());
+        QTest::qWait(QApplication::doubleClickInterval()); // the box ignores clicks right away
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place.center());
+    }
+
+    Choices drawing;
+    QDialog view;
+    VOUI::MRUComboBox* widget;
+    CDialog logic;
+    CKdUiTrueColorComboBox colours;
+    int chosen = 0;
+};
+
+TEST_F(ComboBoxes, coloursStandUnderTheirNames) {
+    EXPECT_EQ(texts(), QStringList({"VonLayer", "VonBlock", "1", "2", "3", "4", "5", "6", "7",
+                                    "More Colors..."}));
+    EXPECT_EQ(colours.GetCurSel(), -1);
+    KdCmColor kept = indexed(33);
+    colours.GetCurrentItemColor(kept);
+    EXPECT_EQ(kept, indexed(33));
+    struct Case {
+        KdCmColor colour;
+        int index;
+    };
+    const Case cases[] = {{indexed(256), 0}, {indexed(0), 1},  {indexed(1), 2},
+                          {indexed(7), 8},   {indexed(8), -1}, {trueColour(0xFF0000), -1}};
+    for (const Case& each : cases) {
+        EXPECT_EQ(colours.FindItemByColor(each.colour), each.index);
+    }
+    colours.SetCurSel(2);
+    colours.GetCurrentItemColor(kept);
+    EXPECT_EQ(kept, indexed(1));
+    // Swatches show the colours themselves.
+    const QImage red = widget->itemIcon(2).pixmap(20, 12).toImage();
+    EXPECT_EQ(red.pixelColor(10, 6), QColor(255, 0, 0));
+    EXPECT_EQ(chosen, 0);
+}
+
+TEST_F(ComboBoxes, recentColoursAreKeptUpToALimit) {
+    colours.SetCurSel(0);
+    EXPECT_EQ(colours.AddColorToMRU(indexed(1)), 2); // in the list already
+    EXPECT_EQ(colours.AddColorToMRU(trueColour(0xFF8000)), 9);
+    EXPECT_EQ(widget->itemText(9), "255,128,0");
+    EXPECT_EQ(colours.AddColorToMRU(trueColour(0xFF8000)), 9);
+    colours.SetCurSel(9);
+    for (std::uint16_t index = 30; index < 50; ++index) {
+        EXPECT_EQ(colours.AddColorToMRU(indexed(index)), 9);
+    }
+    EXPECT_EQ(widget->count(), 9 + 8 + 1);
+    EXPECT_EQ(widget->itemText(9), "49");
+    // What is shown doesn't go.
+    KdCmColor current;
+    colours.GetCurrentItemColor(current);
+    EXPECT_EQ(current, trueColour(0xFF8000));
+    EXPECT_EQ(colours.FindItemByColor(trueColour(0xFF8000)), colours.GetCurSel());
+    EXPECT_EQ(chosen, 0);
+    CKdUiTrueColorComboBox unbound;
+    EXPECT_EQ(unbound.AddColorToMRU(indexed(1)), -1);
+    EXPECT_EQ(unbound.FindItemByColor(indexed(1)), -1);
+}
+
+TEST_F(ComboBoxes, aNamedColourIsAnotherColour) {
+    KdCmColor named = indexed(1);
+    named.setNamesFromDictionaryKey(L"BOOK$Crimson");
+    EXPECT_EQ(colours.FindItemByColor(named), -1);
+    EXPECT_EQ(colours.AddColorToMRU(named), 9);
+    EXPECT_EQ(widget->itemText(9), "Crimson");
+}
+
+TEST_F(ComboBoxes, theUsersChoiceIsToldAndOnlyThat) {
+    choose(3);
+    EXPECT_EQ(chosen, 1);
+    EXPECT_EQ(colours.GetCurSel(), 3);
+    colours.SetCurSel(5);
+    EXPECT_EQ(chosen, 1);
+    QTest::keyClick(widget, Qt::Key_Up);
+    EXPECT_EQ(chosen, 2);
+    EXPECT_EQ(colours.GetCurSel(), 4);
+    QWheelEvent wheel({5, 5}, widget->mapToGlobal(QPoint(5, 5)), {}, {0, 120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(widget, &wheel);
+    EXPECT_EQ(chosen, 2);
+    EXPECT_EQ(colours.GetCurSel(), 4);
+}
+
+TEST_F(ComboBoxes, moreColoursAsksAndACancelChangesNothing) {
+    colours.SetCurSel(4);
+    choose(9);
+    ASSERT_EQ(drawing.asked.size(), 1U);
+    EXPECT_EQ(drawing.asked.front(), indexed(3));
+    EXPECT_EQ(chosen, 0);
+    EXPECT_EQ(colours.GetCurSel(), 4);
+
+    drawing.answer = trueColour(0x0080FF);
+    choose(9);
+    EXPECT_EQ(chosen, 1);
+    KdCmColor current;
+    colours.GetCurrentItemColor(current);
+    EXPECT_EQ(current, trueColour(0x0080FF));
+    EXPECT_EQ(widget->currentText(), "0,128,255");
+}
+
+TEST_F(ComboBoxes, aBoxWhoseLogicIsGoneStillWorks) {
+    {
+        CKdUiTrueColorComboBox last;
+        last.SubclassDlgItem(1049, &logic);
+    }
+    choose(2);
+    EXPECT_EQ(chosen, 1);
+    choose(9);
+    EXPECT_TRUE(drawing.asked.empty());
+}
+
+TEST_F(ComboBoxes, lineTypesStandUnderLocalNamesWithSamples) {
+    auto* const box = new VOUI::MRUComboBox(&view);
+    logic.SetDlgItem(1055, box);
+    QSignalSpy told(box, &VOUI::MRUComboBox::selChanged);
+    CKdUiLineTypeComboBox lineTypes;
+    lineTypes.SubclassDlgItem(1055, &logic);
+    QStringList names;
+    for (int index = 0; index < box->count(); ++index) {
+        names << box->itemText(index);
+    }
+    EXPECT_EQ(names,
+              QStringList({"VonLayer", "VonBlock", "Continuous", "DASHED", "DOT", "BROKEN"}));
+    EXPECT_EQ(lineTypes.GetCurSel(), -1);
+    lineTypes.SetCurSel(lineTypes.FindString(-1, L"dashed"));
+    EXPECT_EQ(box->currentText(), "DASHED");
+    EXPECT_EQ(told.count(), 0);
+
+    // 64 pixels show two repetitions of 0.75 units: pen down for 21.3 of 32.
+    const auto inkAt = [box](int index, int x) {
+        return box->itemIcon(index).pixmap(64, 12).toImage().pixelColor(x, 6).alpha() > 0;
+    };
+    struct Case {
+        int index;
+        std::vector<int> ink;
+        std::vector<int> gap;
+    };
+    const Case cases[] = {{2, {0, 31, 63}, {}},
+                          {3, {1, 20, 33, 52}, {23, 30, 55, 62}},
+                          {4, {0, 32}, {4, 30, 40}},
+                          {5, {0, 31, 63}, {}}}; // no length that could be shown
+    for (const Case& each : cases) {
+        for (const int x : each.ink) {
+            EXPECT_TRUE(inkAt(each.index, x)) << each.index << ' ' << x;
+        }
+        for (const int x : each.gap) {
+            EXPECT_FALSE(inkAt(each.index, x)) << each.index << ' ' << x;
+        }
+    }
+}
+
+TEST(ColourChooser, aColourOfThePaletteGivesItsIndex) {
+    struct Case {
+        QRgb chosen;
+        bool accept;
+        std::optional<KdCmColor> result;
+    };
+    const Case cases[] = {{0xFFFF0000, true, indexed(1)},
+                          {0xFF123456, true, trueColour(0x123456)},
+                          {0xFFFF0000, false, std::nullopt}};
+    for (const Case& each : cases) {
+        QTimer::singleShot(0, [&] {
+            auto* const dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            dialog->setCurrentColor(QColor(each.chosen));
+            each.accept ? dialog->accept() : dialog->reject();
+        });
+        EXPECT_EQ(orvex::drawingChoices()->askColour(indexed(5)), each.result);
+    }
+}
+
+} // namespace
