@@ -11,6 +11,8 @@ set(CMAKE_AUTOMOC OFF)
 # Asserts and the checks of the standard library stay on except in releases. Line tables are enough for back traces and
 # keep the everyday build small; the debug preset has everything.
 set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g1")
+# -O3 gains nothing measurable here, and GCC 12 warns of faults there that aren't any.
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 add_compile_definitions($<$<NOT:$<CONFIG:Release>>:_GLIBCXX_ASSERTIONS>)
 
 # Drawings must come out the same from every compiler at every optimisation, so no multiply-add may be fused.
