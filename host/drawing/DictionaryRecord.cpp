@@ -56,6 +56,14 @@ std::size_t lastOwnTag(const std::vector<Tag>& tags) {
     return last;
 }
 
+bool endsInsideGroup(const std::vector<Tag>& tags) {
+    bool inside = false;
+    for (const Tag& tag : tags) {
+        inside = tag.code == 102 ? tag.value.starts_with('{') : inside;
+    }
+    return inside;
+}
+
 void addPair(TagText& target, const RecordContext& context, const DictionaryEntry& entry,
              int handleCode) {
     target.add(kKeyCode, context.text.encode(entry.key));
@@ -82,6 +90,9 @@ std::optional<std::string> editDictionary(const RecordContext& context, const Re
     const std::size_t place = pairs.empty() ? lastOwnTag(tags) : pairs.front().key - 1;
 
     TagText fresh(edit.format());
+    if (pairs.empty() && endsInsideGroup(tags)) {
+        fresh.add(102, "}"); // the file breaks off there
+    }
     std::vector<bool> used(pairs.size());
     bool same = entries.size() == pairs.size();
     for (std::size_t i = 0; i < entries.size(); ++i) {

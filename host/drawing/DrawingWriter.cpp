@@ -47,6 +47,7 @@ private:
 
     // Sees to it that the object is in the file.
     void require(KdDbStub* stub);
+    void add(KdDbStub& stub);
     void requireDictionary(KdDbStub* stub);
     void requireMline(const MlineContent& content);
     void requireStyle(const MlineStyleContent& content);
@@ -165,15 +166,13 @@ void DrawingWriter::require(KdDbStub* stub) {
     }
     switch (stub->kind) {
     case ObjectKind::mline:
-        m_known.insert(stub);
-        m_new.push_back(stub);
+        add(*stub);
         if (const auto* const content = contentOf<MlineContent>(*stub)) {
             requireMline(*content);
         }
         break;
     case ObjectKind::mlineStyle:
-        m_known.insert(stub);
-        m_new.push_back(stub);
+        add(*stub);
         requireDictionary(stub->owner != nullptr ? stub->owner : m_core.styleDictionary);
         if (const auto* const content = contentOf<MlineStyleContent>(*stub)) {
             requireStyle(*content);
@@ -186,15 +185,19 @@ void DrawingWriter::require(KdDbStub* stub) {
     case ObjectKind::linetype:
         // Layer 0 and the line types that every drawing has are understood without a record.
         if (!m_document.untouched.contains(stub)) {
-            m_known.insert(stub);
-            m_new.push_back(stub);
+            add(*stub);
             requireTable(stub->owner);
         }
         break;
     default:
-        return;
+        break;
     }
-    m_core.ensureHandle(*stub);
+}
+
+void DrawingWriter::add(KdDbStub& stub) {
+    m_core.ensureHandle(stub);
+    m_known.insert(&stub);
+    m_new.push_back(&stub);
 }
 
 void DrawingWriter::requireTable(KdDbStub* stub) {
@@ -210,8 +213,7 @@ void DrawingWriter::requireDictionary(KdDbStub* stub) {
     if (stub->record != kNoRecord) {
         m_dictionaries.push_back(stub);
     } else {
-        m_core.ensureHandle(*stub);
-        m_new.push_back(stub);
+        add(*stub);
         if (stub != m_core.rootDictionary) {
             requireDictionary(m_core.rootDictionary);
         }

@@ -2,7 +2,7 @@
 
 #include "DatabaseCore.h"
 
-#include <gtest/gtest.h>
+#include <algorithm>
 
 namespace orvex::testing {
 
@@ -426,6 +426,19 @@ std::string warningsOf(const std::string& bytes) {
         text += std::to_string(warning.line) + ": " + warning.text + "\n";
     }
     return text;
+}
+
+::testing::AssertionResult sameText(const std::string& actual, const std::string& expected) {
+    if (actual == expected) {
+        return ::testing::AssertionSuccess();
+    }
+    const auto [a, b] = std::ranges::mismatch(actual, expected);
+    const auto at = static_cast<std::size_t>(a - actual.begin());
+    const std::size_t from = at - std::min<std::size_t>(at, 60);
+    return ::testing::AssertionFailure()
+           << "line " << 1 + std::count(actual.begin(), a, '\n') << "\n--- actual\n"
+           << actual.substr(from, 120) << "\n--- expected\n"
+           << expected.substr(from, 120);
 }
 
 KdDbStub& stubOf(DrawingFile& file, std::uint64_t handle) {

@@ -2,6 +2,7 @@
 
 #include "DrawingFile.h"
 
+#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -25,6 +26,9 @@ std::unique_ptr<DrawingFile> openDrawing(const std::string& bytes);
 DrawingError openFailing(const std::string& bytes);
 // The texts of the warnings, one a line.
 std::string warningsOf(const std::string& bytes);
+
+// Tells where two texts begin to differ.
+::testing::AssertionResult sameText(const std::string& actual, const std::string& expected);
 
 KdDbStub& stubOf(DrawingFile& file, std::uint64_t handle);
 

@@ -1,0 +1,213 @@
+// Objects that the file has not had, and the places that have to be made for them.
+
+#include "DatabaseCore.h"
+#include "KdDbBlockTable.h"
+#include "KdDbDictionary.h"
+#include "KdDbLinetypeTable.h"
+#include "KdDbMline.h"
+#include "KdDbMlineStyle.h"
+#include "MlineContent.h"
+#include "MlineStyleContent.h"
+#include "sampleDrawing.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace orvex;
+using namespace orvex::testing;
+using ::testing::HasSubstr;
+
+KdDbStub& addMline(DrawingFile& file, BlockEntities& block, KdDbStub* style) {
+    DatabaseCore& core = file.database().core();
+    auto mline = std::make_unique<KdDbMline>();
+    auto content = std::make_shared<MlineContent>();
+    content->style = KdDbObjectId(style);
+    content->scale = 2.5;
+    content->justification = 1;
+    content->vertices = {{{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}},
+                         {{8.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}}};
+    content->lists.assignFlat(2, {2, 0, 2, 0, 0, 0, 0, 0}, {1.25, 0.0, -1.25, 0.0});
+    mline->setContent(content);
+    KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, block.record);
+    core.appendEntity(block, stub);
+    return stub;
+}
+
+KdDbStub& addStyle(DrawingFile& file, const wchar_t* name) {
+    DatabaseCore& core = file.database().core();
+    auto style = std::make_unique<KdDbMlineStyle>();
+    style->initMlineStyle();
+    style->setName(name);
+    auto* const dictionary = dynamic_cast<KdDbDictionary*>(core.open(*core.styleDictionary, true));
+    KdDbObjectId id;
+    dictionary->setAt(name, style.release(), id);
+    return *id.stub();
+}
+
+KdDbStub& addLinetype(DrawingFile& file, const wchar_t* name) {
+    DatabaseCore& core = file.database().core();
+    auto linetype = std::make_unique<KdDbLinetypeTableRecord>();
+    linetype->setName(name);
+    linetype->setComments(L"Dots . . .");
+    linetype->setDashes({0.0, -0.25});
+    auto* const table = dynamic_cast<KdDbLinetypeTable*>(core.open(*core.linetypeTable, true));
+    KdDbObjectId id;
+    table->add(id, linetype.release());
+    return *id.stub();
+}
+
+constexpr const char* kNewMline = "100 AcDbMline\n2 WALL\n340 2F\n40 2.5\n70 1\n71 1\n72 2\n73 2\n"
+                                  "10 0.0\n20 0.0\n30 0.0\n210 0.0\n220 0.0\n230 1.0\n"
+                                  "11 0.0\n21 0.0\n31 0.0\n12 1.0\n22 0.0\n32 0.0\n"
+                                  "13 0.0\n23 1.0\n33 0.0\n"
+                                  "74 2\n41 1.25\n41 0.0\n75 0\n74 2\n41 -1.25\n41 0.0\n75 0\n"
+                                  "11 8.0\n21 0.0\n31 0.0\n12 1.0\n22 0.0\n32 0.0\n"
+                                  "13 0.0\n23 1.0\n33 0.0\n74 0\n75 0\n74 0\n75 0\n";
+
+TEST(NewMline, StandsBehindTheOthersOfItsBlock) {
+    const std::string sample = sampleDrawing();
+    const auto file = openDrawing(sample);
+    DatabaseCore& core = file->database().core();
+    const auto insertedBefore = [&](const std::string& head, const char* place, std::size_t from) {
+        std::string expected = replaced(sample, "$HANDSEED\n  5\n100", "$HANDSEED\n  5\n101");
+        expected.insert(expected.find(place, from), dxf(head + kNewMline));
+        return expected;
+    };
+    const auto added = [&](BlockEntities& block) {
+        core.beginCommand();
+        addMline(*file, block, &stubOf(*file, 0x2F));
+        core.endCommand();
+        std::string bytes = file->bytes();
+        core.undo();
+        EXPECT_TRUE(file->bytes() == sample);
+        return bytes;
+    };
+    const std::size_t entities = sample.find("ENTITIES");
+    EXPECT_EQ(
+        added(core.modelSpace()),
+        insertedBefore("0 MLINE\n5 100\n330 1F\n100 AcDbEntity\n8 0\n", "  0\nENDSEC", entities));
+    EXPECT_TRUE(sameText(added(*core.findBlock(L"*Paper_Space")),
+                         insertedBefore("0 MLINE\n5 100\n330 1B\n100 AcDbEntity\n67 1\n8 0\n",
+                                        "  0\nENDSEC", entities)));
+    EXPECT_TRUE(sameText(
+        added(*core.findBlock(L"Room")),
+        insertedBefore("0 MLINE\n5 100\n330 1C\n100 AcDbEntity\n8 0\n", "  0\nENDBLK", 0)));
+}
+
+TEST(NewStyle, IsListedInTheDictionary) {
+    const std::string sample = sampleDrawing();
+    const auto file = openDrawing(sample);
+    addStyle(*file, L"Zaun");
+    std::string expected = replaced(sample, "$HANDSEED\n  5\n100", "$HANDSEED\n  5\n101");
+    expected = replaced(expected, "350\n2F\n", "350\n2F\n  3\nZaun\n350\n100\n");
+    expected.insert(expected.rfind("  0\nENDSEC"),
+                    dxf("0 MLINESTYLE\n5 100\n102 {ACAD_REACTORS\n330 17\n102 }\n330 17\n"
+                        "100 AcDbMlineStyle\n2 Zaun\n70 0\n3 \n62 256\n51 90.0\n52 90.0\n71 2\n"
+                        "49 0.5\n62 256\n6 BYLAYER\n49 -0.5\n62 256\n6 BYLAYER\n"));
+    EXPECT_TRUE(sameText(file->bytes(), expected));
+}
+
+TEST(NewLinetype, IsCountedWhereTheTableCountedRight) {
+    const std::string sample = sampleDrawing();
+    for (const char* const count : {"2", "7"}) {
+        const std::string bytes = replaced(sample, "AcDbSymbolTable\n 70\n2",
+                                           std::string("AcDbSymbolTable\n 70\n") + count);
+        const auto file = openDrawing(bytes);
+        addLinetype(*file, L"DOTS");
+        std::string expected = replaced(bytes, "$HANDSEED\n  5\n100", "$HANDSEED\n  5\n101");
+        if (count[0] == '2') {
+            expected = replaced(expected, "AcDbSymbolTable\n 70\n2", "AcDbSymbolTable\n 70\n3");
+        }
+        expected.insert(expected.find("  0\nENDTAB"),
+                        dxf("0 LTYPE\n5 100\n330 5\n100 AcDbSymbolTableRecord\n"
+                            "100 AcDbLinetypeTableRecord\n2 DOTS\n70 0\n3 Dots . . .\n72 65\n"
+                            "73 2\n40 0.25\n49 0.0\n74 0\n49 -0.25\n74 0\n"));
+        EXPECT_TRUE(sameText(file->bytes(), expected));
+    }
+}
+
+// A drawing of entities alone has the style STANDARD in memory; with the first multiline it needs
+// an object section, both dictionaries, the style, and a seed of handles.
+TEST(NewMline, BringsWhatItRefersTo) {
+    const std::string bare = dxf("0 SECTION\n2 ENTITIES\n0 LINE\n5 A1\n8 0\n10 1.0\n20 2.0\n11 "
+                                 "3.0\n21 4.0\n0 ENDSEC\n0 EOF\n");
+    const auto file = openDrawing(bare);
+    DatabaseCore& core = file->database().core();
+    const std::uint64_t handle =
+        addMline(*file, core.modelSpace(), core.findStyle(L"STANDARD")).handle;
+    const std::string bytes = file->bytes();
+    EXPECT_TRUE(sameText(file->bytes(), bytes));
+
+    const auto again = openDrawing(bytes);
+    DatabaseCore& read = again->database().core();
+    const auto* const mline = dynamic_cast<KdDbMline*>(read.load(stubOf(*again, handle)));
+    ASSERT_NE(mline, nullptr);
+    KdDbStub* const style = read.findStyle(L"STANDARD");
+    ASSERT_NE(style, nullptr);
+    EXPECT_NE(style->record, kNoRecord);
+    EXPECT_EQ(mline->style().stub(), style);
+    EXPECT_EQ(read.modelSpace().entities.size(), 2U);
+    EXPECT_NE(read.rootDictionary->record, kNoRecord);
+    EXPECT_EQ(style->owner, read.styleDictionary);
+    std::uint64_t highest = 0;
+    for (const KdDbStub& stub : read.stubs()) {
+        highest = std::max(highest, stub.handle);
+    }
+    const auto seed = std::get<HeaderHandle>(*read.variables().find("HANDSEED")).value;
+    EXPECT_GT(seed, highest);
+    EXPECT_THAT(bytes, HasSubstr("MLINESTYLE"));
+}
+
+TEST(NewObjects, AreWrittenWhereverTheFileBreaksOff) {
+    const std::string sample = sampleDrawing();
+    std::size_t at = 0;
+    for (std::size_t line = 0; at != sample.npos; line += 2) {
+        const std::string cut = sample.substr(0, at);
+        at = sample.find('\n', sample.find('\n', at) + 1);
+        at = at == sample.npos ? at : at + 1;
+        if (at >= sample.size()) {
+            at = sample.npos;
+        }
+        const auto file = openDrawing(cut);
+        DatabaseCore& core = file->database().core();
+        core.beginCommand();
+        KdDbStub& style = addStyle(*file, L"Zaun");
+        KdDbStub& mline = addMline(*file, core.modelSpace(), &style);
+        addLinetype(*file, L"DOTS");
+        const std::uint64_t handle = mline.handle;
+        const auto content = mline.object->content();
+        core.endCommand();
+        const auto again = openDrawing(file->bytes());
+        DatabaseCore& read = again->database().core();
+        KdDbStub* const found = read.findHandle(handle);
+        ASSERT_NE(found, nullptr) << "cut at line " << line;
+        const auto* const copy = dynamic_cast<KdDbMline*>(read.load(*found));
+        ASSERT_NE(copy, nullptr) << "cut at line " << line;
+        ASSERT_EQ(read.modelSpace().entities.back(), found) << "cut at line " << line;
+        ASSERT_EQ(copy->numVertices(), 2);
+        ASSERT_NE(read.findStyle(L"Zaun"), nullptr) << "cut at line " << line;
+        ASSERT_EQ(copy->style().stub(), read.findStyle(L"Zaun")) << "cut at line " << line;
+        ASSERT_NE(read.findLinetype(L"DOTS"), nullptr) << "cut at line " << line;
+        core.undo();
+        ASSERT_TRUE(file->bytes() == cut) << "cut at line " << line;
+    }
+}
+
+TEST(NewDrawing, TakesMultilinesAndStyles) {
+    const auto file = DrawingFile::create();
+    DatabaseCore& core = file->database().core();
+    EXPECT_EQ(core.blocks().size(), 2U);
+    const std::string empty = file->bytes();
+    core.beginCommand();
+    addMline(*file, core.modelSpace(), core.findStyle(L"STANDARD"));
+    core.endCommand();
+    const auto again = openDrawing(file->bytes());
+    EXPECT_EQ(again->database().core().modelSpace().entities.size(), 1U);
+    EXPECT_EQ(again->warnings().size(), 0U);
+    core.undo();
+    EXPECT_TRUE(file->bytes() == empty);
+}
+
+} // namespace

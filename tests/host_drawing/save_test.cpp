@@ -1,0 +1,135 @@
+// A save is whole or not at all.
+
+#include "DatabaseCore.h"
+#include "sampleDrawing.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace orvex;
+using namespace orvex::testing;
+namespace fs = std::filesystem;
+
+class Saving : public ::testing::Test {
+protected:
+    void SetUp() override {
+        std::string pattern = (fs::temp_directory_path() / "saving-XXXXXX").string();
+        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+        folder = pattern;
+        file = openDrawing(sampleDrawing());
+    }
+    void TearDown() override {
+        fs::permissions(folder, fs::perms::owner_all);
+        fs::remove_all(folder);
+    }
+    static std::string read(const fs::path& path) {
+        std::ifstream stream(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    static void write(const fs::path& path, const std::string& bytes) {
+        std::ofstream(path, std::ios::binary) << bytes;
+    }
+    [[nodiscard]] std::vector<std::string> names() const {
+        std::vector<std::string> result;
+        for (const auto& entry : fs::directory_iterator(folder)) {
+            result.push_back(entry.path().filename().string());
+        }
+        std::ranges::sort(result);
+        return result;
+    }
+
+    fs::path folder;
+    std::unique_ptr<DrawingFile> file;
+};
+
+using ::testing::ElementsAre;
+
+TEST_F(Saving, WritesTheBytesAndKeepsTheOldFilesMode) {
+    const fs::path path = folder / "plan.dxf";
+    EXPECT_EQ(file->save(path.string()), nullptr);
+    EXPECT_TRUE(sameText(read(path), sampleDrawing()));
+    write(path, "old");
+    chmod(path.c_str(), 0640);
+    EXPECT_EQ(file->save(path.string()), nullptr);
+    EXPECT_TRUE(sameText(read(path), sampleDrawing()));
+    struct stat status {};
+    stat(path.c_str(), &status);
+    EXPECT_EQ(status.st_mode & 0777U, 0640U);
+    EXPECT_THAT(names(), ElementsAre("plan.dxf"));
+}
+
+TEST_F(Saving, WritesOverItsOwnInputAgainAndAgain) {
+    const fs::path path = folder / "plan.dxf";
+    write(path, sampleDrawing());
+    auto opened = DrawingFile::open(path.string());
+    auto& drawing = *std::get<std::unique_ptr<DrawingFile>>(opened);
+    DatabaseCore& core = drawing.database().core();
+    core.beginCommand();
+    core.setVariable("CMLSCALE", 3.0);
+    core.endCommand();
+    EXPECT_EQ(drawing.save(path.string()), nullptr);
+    EXPECT_TRUE(sameText(read(path), replaced(sampleDrawing(), "20.00", "3.0")));
+    core.beginCommand();
+    core.setVariable("CMLJUST", 2);
+    core.endCommand();
+    EXPECT_EQ(drawing.save(path.string()), nullptr);
+    EXPECT_THAT(read(path), ::testing::HasSubstr("$CMLJUST"));
+    core.undo();
+    core.undo();
+    EXPECT_EQ(drawing.save(path.string()), nullptr);
+    EXPECT_TRUE(sameText(read(path), sampleDrawing()));
+}
+
+TEST_F(Saving, FollowsLinks) {
+    write(folder / "plan.dxf", "old");
+    fs::create_symlink("plan.dxf", folder / "link.dxf");
+    fs::create_symlink("new.dxf", folder / "dangling.dxf");
+    EXPECT_EQ(file->save((folder / "link.dxf").string()), nullptr);
+    EXPECT_EQ(file->save((folder / "dangling.dxf").string()), nullptr);
+    EXPECT_TRUE(fs::is_symlink(folder / "link.dxf"));
+    EXPECT_TRUE(sameText(read(folder / "plan.dxf"), sampleDrawing()));
+    EXPECT_TRUE(sameText(read(folder / "new.dxf"), sampleDrawing()));
+    fs::create_symlink("ring.dxf", folder / "ring.dxf");
+    EXPECT_NE(file->save((folder / "ring.dxf").string()), nullptr);
+}
+
+TEST_F(Saving, FailsWithoutATraceWhereNothingCanBeWritten) {
+    EXPECT_NE(file->save((folder / "missing" / "plan.dxf").string()), nullptr);
+    EXPECT_NE(file->save(folder.string()), nullptr);
+    EXPECT_NE(file->save(""), nullptr);
+    const auto error = file->save("/dev/full");
+    ASSERT_NE(error, nullptr);
+    EXPECT_FALSE(error->text.empty());
+    EXPECT_EQ(file->save("/dev/null"), nullptr);
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    if (geteuid() != 0) { // nothing is forbidden to root
+        fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec);
+        EXPECT_NE(file->save((folder / "plan.dxf").string()), nullptr);
+    }
+    EXPECT_TRUE(names().empty());
+}
+
+TEST_F(Saving, LeavesTheOldFileWhenTheDiskIsFull) {
+    const fs::path path = folder / "plan.dxf";
+    write(path, "old");
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    rlimit small = before;
+    small.rlim_cur = 1000;
+    setrlimit(RLIMIT_FSIZE, &small);
+    const auto error = file->save(path.string());
+    setrlimit(RLIMIT_FSIZE, &before);
+    ASSERT_NE(error, nullptr);
+    EXPECT_EQ(read(path), "old");
+    EXPECT_THAT(names(), ElementsAre("plan.dxf"));
+}
+
+} // namespace
