@@ -56,6 +56,12 @@ const RecordRun* DrawingDocument::findSection(std::string_view name) const {
     return found != sections.end() ? &*found : nullptr;
 }
 
+const RecordRun* DrawingDocument::findLastSection(std::string_view name) const {
+    const auto found = std::find_if(sections.rbegin(), sections.rend(),
+                                    [name](const RecordRun& run) { return run.name == name; });
+    return found != sections.rend() ? &*found : nullptr;
+}
+
 const RecordRun* DrawingDocument::findTable(std::string_view kind) const {
     const auto found = std::ranges::find(tables, kind, &RecordRun::name);
     return found != tables.end() ? &*found : nullptr;

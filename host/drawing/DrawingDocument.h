@@ -55,6 +55,7 @@ public:
     }
     [[nodiscard]] RecordContext context(DatabaseCore& core) const { return {bytes, text, core}; }
     [[nodiscard]] const RecordRun* findSection(std::string_view name) const; // the first one
+    [[nodiscard]] const RecordRun* findLastSection(std::string_view name) const;
     [[nodiscard]] const RecordRun* findTable(std::string_view kind) const;
     [[nodiscard]] KdDbStub* findObject(std::uint64_t handle) const;
 

@@ -103,9 +103,10 @@ std::optional<DrawingError> DrawingReader::run(const DrawingProgress& progress) 
     for (const RecordRun& section : m_document.sections) {
         if (section.name == "ENTITIES") {
             readEntities(section);
-        } else if (section.name == "OBJECTS") {
-            readObjects(section);
         }
+    }
+    if (const RecordRun* const objects = m_document.findSection("OBJECTS")) {
+        readObjects(*objects);
     }
     warnOfStyles();
     completeDefaults();
@@ -333,9 +334,6 @@ void DrawingReader::addEntity(std::uint32_t record, BlockEntities& block) {
 // ---- objects ------------------------------------------------------------------------------------
 
 void DrawingReader::readObjects(const RecordRun& section) {
-    if (m_core.rootDictionary != nullptr) {
-        return; // a second section of objects isn't looked at
-    }
     std::uint32_t root = section.begin + 1;
     while (root < section.end && m_records[root].kind != RecordKind::dictionary) {
         ++root;

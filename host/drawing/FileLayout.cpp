@@ -149,7 +149,8 @@ void FileLayout::fillSection(std::string_view name, std::uint32_t newPlace,
     if (content.empty()) {
         return;
     }
-    if (const RecordRun* const run = m_document.findSection(name)) {
+    // Behind all that the file has: entities are drawn in its order.
+    if (const RecordRun* const run = m_document.findLastSection(name)) {
         insert(run->end, content);
     } else {
         insertSection(newPlace, name, content);
