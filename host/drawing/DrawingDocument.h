@@ -15,6 +15,8 @@
 
 namespace orvex {
 
+// The first version with multilines.
+constexpr std::string_view kOldestVersion = "AC1012";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // A run of records, from the one that opens it to the one that closes it.
@@ -37,6 +39,7 @@ public:
     std::string bytes;
     CutDrawing cut;
     DrawingText text;
+    std::string version; // empty when the file doesn't say it
     std::vector<RecordRun> sections;
     std::vector<RecordRun> tables;
     std::vector<RecordRun> blocks; // as they stand in BLOCKS
@@ -53,7 +56,9 @@ public:
     [[nodiscard]] RecordSpan span(std::uint32_t record) const {
         return {cut.records.begin(record), cut.records.end(record)};
     }
-    [[nodiscard]] RecordContext context(DatabaseCore& core) const { return {bytes, text, core}; }
+    [[nodiscard]] RecordContext context(DatabaseCore& core) const {
+        return {bytes, text, core, !version.empty() && version < kOldestVersion};
+    }
     [[nodiscard]] const RecordRun* findSection(std::string_view name) const; // the first one
     [[nodiscard]] const RecordRun* findLastSection(std::string_view name) const;
     [[nodiscard]] const RecordRun* findTable(std::string_view kind) const;

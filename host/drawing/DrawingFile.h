@@ -50,8 +50,8 @@ public:
     [[nodiscard]] const std::vector<DrawingWarning>& warnings() const { return m_warnings; }
 
     // Writes the drawing whole or not at all: an older file at `path` stays until the new one is
-    // complete on disk. Nothing when it went well. The objects stay as they are. A later save starts
-    // from the bytes that were opened again, so that edits taken back leave no trace in it.
+    // complete on disk. Nothing when it went well. The objects stay as they are. A later save
+    // starts from the bytes that were opened again, so that edits taken back leave no trace in it.
     [[nodiscard]] std::unique_ptr<DrawingError> save(const std::string& path);
     // The bytes that save would write.
     [[nodiscard]] std::string bytes();

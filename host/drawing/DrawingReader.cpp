@@ -14,7 +14,6 @@ namespace orvex {
 
 namespace {
 
-constexpr std::string_view kOldestVersion = "AC1012";
 constexpr std::string_view kNewestVersion = "AC1032";
 
 // The binary form begins with 18 letters and blanks, then these.
@@ -49,6 +48,7 @@ private:
     void readObjects(const RecordRun& section);
     KdDbStub* addDictionary(std::uint32_t record, KdDbStub* owner);
     void addStyles(const RecordRun& section);
+    void noteObject(KdDbStub& stub);
     void noteEntries(const KdDbStub& dictionary);
     void warnOfStyles();
     void completeDefaults();
@@ -166,6 +166,7 @@ void DrawingReader::readHeader() {
         basics = readBasics(m_document.bytes, m_document.span(header->begin));
     }
     m_document.text = DrawingText(basics.version, basics.codePage);
+    m_document.version = basics.version;
     warnOfVersion(basics.version);
     if (header != nullptr) {
         readVariables(m_document.context(m_core), m_document.span(header->begin));
@@ -365,7 +366,7 @@ void DrawingReader::readObjects(const RecordRun& section) {
 KdDbStub* DrawingReader::addDictionary(std::uint32_t record, KdDbStub* owner) {
     const std::uint64_t handle = m_records[record].handle;
     KdDbStub& stub = m_core.addStub(ObjectKind::dictionary, handle, record, owner);
-    m_document.objects.try_emplace(handle, &stub);
+    noteObject(stub);
     return &stub;
 }
 
@@ -382,7 +383,7 @@ void DrawingReader::addStyles(const RecordRun& section) {
         }
         KdDbStub& stub = m_core.addStub(record.opaque ? ObjectKind::opaque : ObjectKind::mlineStyle,
                                         record.handle, i, m_core.styleDictionary);
-        m_document.objects.try_emplace(record.handle, &stub);
+        noteObject(stub);
     }
 }
 
@@ -390,10 +391,16 @@ void DrawingReader::addStyles(const RecordRun& section) {
 void DrawingReader::noteEntries(const KdDbStub& dictionary) {
     for (const DictionaryPair& pair :
          readPairs(m_document.bytes, m_document.span(dictionary.record))) {
-        if (!m_document.objects.contains(pair.handle)) {
-            KdDbStub& stub = m_core.addStub(ObjectKind::opaque, pair.handle, kNoRecord, nullptr);
-            m_document.objects.emplace(pair.handle, &stub);
+        if (pair.handle != 0 && !m_document.objects.contains(pair.handle)) {
+            noteObject(m_core.addStub(ObjectKind::opaque, pair.handle, kNoRecord, nullptr));
         }
+    }
+}
+
+// What has no handle can't be named.
+void DrawingReader::noteObject(KdDbStub& stub) {
+    if (stub.handle != 0) {
+        m_document.objects.try_emplace(stub.handle, &stub);
     }
 }
 

@@ -17,6 +17,8 @@ namespace orvex {
 
 namespace {
 
+constexpr std::wstring_view kUsualVersion = L"AC1015";
+
 // The content of an object in memory; null for one that has none of that kind.
 template <class Content>
 const Content* contentOf(const KdDbStub& stub) {
@@ -315,7 +317,8 @@ void DrawingWriter::writeTables() {
         const auto dropped = static_cast<int>(
             std::ranges::count(m_droppedTableRecords, kind.object, &KdDbStub::kind));
         if (added > 0 || dropped > 0) {
-            m_layout.addTableEntries(kind.name, *kind.table, text, added, added - dropped);
+            m_layout.addTableEntries(m_context, kind.name, *kind.table, text, added,
+                                     added - dropped);
         }
     }
 }
@@ -352,6 +355,10 @@ void DrawingWriter::writeHeader() {
             highest = std::max(highest, table != nullptr ? table->handle : 0);
         }
         m_variables.emplace_back("HANDSEED", HeaderHandle{std::max(seed, highest + 1)});
+        if (m_document.version.empty()) {
+            // Readers take a drawing without a version for one from before multilines.
+            m_variables.emplace(m_variables.begin(), "ACADVER", std::wstring(kUsualVersion));
+        }
     }
     if (!m_variables.empty()) {
         m_layout.setVariables(m_context, m_variables);

@@ -77,12 +77,13 @@ void FileLayout::addObjects(std::string root, std::string others) {
     m_objects = std::move(others);
 }
 
-void FileLayout::addTableEntries(std::string_view kind, const KdDbStub& table,
-                                 const std::string& text, int added, int change) {
+void FileLayout::addTableEntries(const RecordContext& context, std::string_view kind,
+                                 const KdDbStub& table, const std::string& text, int added,
+                                 int change) {
     const RecordRun* const run = m_document.findTable(kind);
     if (run == nullptr) {
         TagText fresh(formatOf("TABLES"));
-        writeTable(fresh, kind, table.handle, added, text);
+        writeTable(fresh, context, kind, table.handle, added, text);
         m_tables += fresh.text();
         return;
     }

@@ -29,8 +29,8 @@ public:
     // The root dictionary comes first.
     void addObjects(std::string root, std::string others);
     // `change` is by how many entries the table's count differs.
-    void addTableEntries(std::string_view kind, const KdDbStub& table, const std::string& text,
-                         int added, int change);
+    void addTableEntries(const RecordContext& context, std::string_view kind, const KdDbStub& table,
+                         const std::string& text, int added, int change);
     void setVariables(const RecordContext& context, const VariableChanges& changes);
 
     // In the order of the file.

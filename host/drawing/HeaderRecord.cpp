@@ -19,10 +19,10 @@ struct Row {
 
 // What a variable's value is follows from its code; 10 stands for a point.
 constexpr std::array kRows{
-    Row{"CECOLOR", 62}, Row{"CELTSCALE", 40}, Row{"CELTYPE", 6},  Row{"CLAYER", 8},
-    Row{"CMLJUST", 70}, Row{"CMLSCALE", 40},  Row{"CMLSTYLE", 2}, Row{"EXTMAX", 10},
-    Row{"EXTMIN", 10},  Row{"HANDSEED", 5},   Row{"LTSCALE", 40}, Row{"MEASUREMENT", 70},
-    Row{"UCSORG", 10},  Row{"UCSXDIR", 10},   Row{"UCSYDIR", 10},
+    Row{"ACADVER", 1},      Row{"CECOLOR", 62}, Row{"CELTSCALE", 40}, Row{"CELTYPE", 6},
+    Row{"CLAYER", 8},       Row{"CMLJUST", 70}, Row{"CMLSCALE", 40},  Row{"CMLSTYLE", 2},
+    Row{"EXTMAX", 10},      Row{"EXTMIN", 10},  Row{"HANDSEED", 5},   Row{"LTSCALE", 40},
+    Row{"MEASUREMENT", 70}, Row{"UCSORG", 10},  Row{"UCSXDIR", 10},   Row{"UCSYDIR", 10},
 };
 
 const Row* findRow(std::string_view name) {
@@ -131,7 +131,8 @@ void readVariables(const RecordContext& context, const RecordSpan& span) {
     const RecordEdit record(context.bytes, span.begin, span.end);
     const std::vector<Tag>& tags = record.tags();
     for (std::size_t i = 0; i < tags.size(); ++i) {
-        if (const Row* const row = findRow(variableName(tags[i]))) {
+        const Row* const row = findRow(variableName(tags[i]));
+        if (row != nullptr && row->code != 1) { // the version is the document's matter
             if (auto value = readValue(*row, tags, i, context.text)) {
                 context.core.loadVariable(row->name, std::move(*value));
             }

@@ -25,6 +25,13 @@ KdDbStub* findStyle(const RecordContext& context, const MlineParser& parser,
     return found != nullptr && found->kind == ObjectKind::mlineStyle ? found : nullptr;
 }
 
+// A style that is in memory alone gets its handle once a multiline refers to it.
+void ensureHandle(const RecordContext& context, KdDbObjectId style) {
+    if (!style.isNull() && style.stub()->kind == ObjectKind::mlineStyle) {
+        context.core.ensureHandle(*style.stub());
+    }
+}
+
 int flagsOf(const MlineContent& content) {
     return (content.vertices.empty() ? 0 : kHasVertices) | (content.closed ? kClosed : 0) |
            (content.startCapsSuppressed ? kNoStartCaps : 0) |
@@ -133,9 +140,8 @@ std::optional<std::string> editMline(const RecordContext& context, const RecordS
     if (old == nullptr || old->equals(content)) {
         return std::nullopt;
     }
-    if (KdDbStub* const style = content.style.stub();
-        style != nullptr && content.style != old->style) {
-        context.core.ensureHandle(*style);
+    if (content.style != old->style) {
+        ensureHandle(context, content.style);
     }
     RecordEdit edit(context.bytes, span.begin, span.end);
     const std::size_t commonEnd = commonPartEnd(edit.tags());
@@ -158,9 +164,7 @@ void writeMline(TagText& target, const RecordContext& context, const MlineConten
                 std::uint64_t handle, std::uint64_t owner, bool inPaperSpace) {
     EntityTraits traits = content.traits != nullptr ? *content.traits : EntityTraits();
     traits.inPaperSpace = inPaperSpace;
-    if (KdDbStub* const style = content.style.stub()) {
-        context.core.ensureHandle(*style);
-    }
+    ensureHandle(context, content.style);
     target.add(0, "MLINE");
     target.addHandle(5, handle);
     if (owner != 0) {

@@ -14,6 +14,8 @@ struct RecordContext {
     std::string_view bytes;
     const DrawingText& text;
     DatabaseCore& core;
+    // From before multilines: records of tables have no owners and no classes.
+    bool isOld = false;
 };
 
 // One record's place in the file's bytes.

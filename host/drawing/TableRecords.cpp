@@ -52,10 +52,13 @@ void forOwnTags(std::string_view bytes, const RecordSpan& span, Take take) {
     }
 }
 
-void writeEntry(TagText& target, std::string_view kind, std::string_view className,
-                std::uint64_t handle, std::uint64_t owner) {
+void writeEntry(TagText& target, const RecordContext& context, std::string_view kind,
+                std::string_view className, std::uint64_t handle, std::uint64_t owner) {
     target.add(0, kind);
     target.addHandle(5, handle);
+    if (context.isOld) {
+        return;
+    }
     if (owner != 0) {
         target.addHandle(330, owner);
     }
@@ -109,7 +112,7 @@ std::string_view readName(std::string_view bytes, const RecordSpan& span) {
 
 void writeLayer(TagText& target, const RecordContext& context, const KdDbLayerTableRecord& layer,
                 std::uint64_t handle, std::uint64_t owner) {
-    writeEntry(target, "LAYER", "AcDbLayerTableRecord", handle, owner);
+    writeEntry(target, context, "LAYER", "AcDbLayerTableRecord", handle, owner);
     target.add(2, context.text.encode(layer.name()));
     target.add(70, (layer.isFrozen() ? kFrozen : 0) | (layer.isLocked() ? kLocked : 0));
     Fields color;
@@ -129,7 +132,7 @@ void writeLinetype(TagText& target, const RecordContext& context,
     for (const double dash : linetype.dashes()) {
         length += std::abs(dash);
     }
-    writeEntry(target, "LTYPE", "AcDbLinetypeTableRecord", handle, owner);
+    writeEntry(target, context, "LTYPE", "AcDbLinetypeTableRecord", handle, owner);
     target.add(2, context.text.encode(linetype.name()));
     target.add(70, 0);
     target.add(3, context.text.encode(linetype.comments()));
@@ -138,17 +141,21 @@ void writeLinetype(TagText& target, const RecordContext& context,
     target.addReal(40, length);
     for (const double dash : linetype.dashes()) {
         target.addReal(49, dash);
-        target.add(74, 0);
+        if (!context.isOld) {
+            target.add(74, 0);
+        }
     }
 }
 
-void writeTable(TagText& target, std::string_view kind, std::uint64_t handle, int count,
-                std::string_view entries) {
+void writeTable(TagText& target, const RecordContext& context, std::string_view kind,
+                std::uint64_t handle, int count, std::string_view entries) {
     target.add(0, "TABLE");
     target.add(2, kind);
     target.addHandle(5, handle);
-    target.addHandle(330, 0);
-    target.add(100, "AcDbSymbolTable");
+    if (!context.isOld) {
+        target.addHandle(330, 0);
+        target.add(100, "AcDbSymbolTable");
+    }
     target.add(70, count);
     target.addLines(entries);
     target.add(0, "ENDTAB");

@@ -28,8 +28,8 @@ void writeLinetype(TagText& target, const RecordContext& context,
                    std::uint64_t owner);
 
 // A table's first record and its end, around `entries`.
-void writeTable(TagText& target, std::string_view kind, std::uint64_t handle, int count,
-                std::string_view entries);
+void writeTable(TagText& target, const RecordContext& context, std::string_view kind,
+                std::uint64_t handle, int count, std::string_view entries);
 // The table's first record with `added` entries counted in; nothing when it didn't count its
 // `present` ones right before.
 [[nodiscard]] std::optional<std::string>
