@@ -25,7 +25,7 @@ VoBitStream::VoBitStream(VoStreamBuf* buffer, std::uint64_t bitLength)
       m_bitLength(buffer != nullptr ? std::min(bitLength, buffer->length() * 8) : 0) {}
 
 bool VoBitStream::hasBits(std::uint64_t count) const {
-    const std::uint64_t place = tell();
+    const std::uint64_t place = VoBitStream::tell();
     return place <= m_bitLength && count <= m_bitLength - place;
 }
 
@@ -56,7 +56,7 @@ void VoBitStream::advance(unsigned bits) {
 }
 
 void VoBitStream::noteWritten() {
-    m_bitLength = std::max(m_bitLength, tell());
+    m_bitLength = std::max(m_bitLength, VoBitStream::tell());
 }
 
 bool VoBitStream::growTo(std::uint64_t bufferLength) {
@@ -236,13 +236,20 @@ void VoBitStream::readBits(VoBitStream* target, std::uint64_t from, std::uint64_
 }
 
 void VoBitStream::readBytes(void* target, unsigned count) {
-    if (target == nullptr || count == 0 || m_buffer == nullptr || !canRead(count)) {
+    if (target == nullptr || count == 0 || m_buffer == nullptr ||
+        !canReadBits(std::uint64_t{count} * 8)) {
         return;
     }
     auto* const bytes = static_cast<unsigned char*>(target);
-    m_buffer->getBytes(m_bytePos, bytes, count);
-    if (m_bitIndex != 0) {
+    if (m_bitIndex == 0) {
+        m_buffer->getBytes(m_bytePos, bytes, count);
+    } else if (const unsigned char* const from = std::as_const(*m_buffer).buffer();
+               from != nullptr && m_bytePos + count < m_buffer->length()) {
+        // Straight from the buffer, which saves a copy.
+        orvex::copyShiftedLeft(bytes, from + m_bytePos, count, m_bitIndex);
+    } else {
         unsigned char behind = 0;
+        m_buffer->getBytes(m_bytePos, bytes, count);
         m_buffer->getBytes(m_bytePos + count, &behind, 1);
         orvex::copyShiftedLeft(bytes, bytes, count - 1, m_bitIndex);
         bytes[count - 1] =

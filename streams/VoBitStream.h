@@ -118,6 +118,8 @@ private:
     // report, when it can't be.
     unsigned char* bytesWithin(std::uint64_t bufferLength);
     bool growTo(std::uint64_t bufferLength);
+    template <class T>
+    void readRaw(T & value);
     // The two bits in front of a coded value; false when there are none.
     bool readCode(std::uint8_t & code);
 

@@ -9,7 +9,7 @@
 // The coded forms of values, all made of the bits and bytes of VoBitStream.cpp.
 
 static_assert(std::endian::native == std::endian::little,
-              "doubles go to the stream as they lie in memory");
+              "numbers stand in the stream as they lie in memory");
 
 namespace {
 
@@ -50,28 +50,31 @@ void VoBitStream::readRawUInt8(std::uint8_t& value) {
     readBytes(&value, 1);
 }
 
+template <class T>
+void VoBitStream::readRaw(T& value) {
+    if (hasBits(sizeof value * 8)) {
+        readBytes(&value, sizeof value);
+        return;
+    }
+    // Cut off: byte by byte, so that those that are there count.
+    value = 0;
+    for (unsigned i = 0; i < sizeof value; ++i) {
+        std::uint8_t byte = 0;
+        readRawUInt8(byte);
+        value = static_cast<T>(value | static_cast<T>(byte) << (8 * i));
+    }
+}
+
 void VoBitStream::readRawUInt16(std::uint16_t& value) {
-    std::uint8_t low = 0;
-    std::uint8_t high = 0;
-    readRawUInt8(low);
-    readRawUInt8(high);
-    value = static_cast<std::uint16_t>(high << 8 | low);
+    readRaw(value);
 }
 
 void VoBitStream::readRawUInt32(std::uint32_t& value) {
-    std::uint16_t low = 0;
-    std::uint16_t high = 0;
-    readRawUInt16(low);
-    readRawUInt16(high);
-    value = std::uint32_t{high} << 16 | low;
+    readRaw(value);
 }
 
 void VoBitStream::readRawUInt64(std::uint64_t& value) {
-    std::uint32_t low = 0;
-    std::uint32_t high = 0;
-    readRawUInt32(low);
-    readRawUInt32(high);
-    value = std::uint64_t{high} << 32 | low;
+    readRaw(value);
 }
 
 void VoBitStream::writeRawUInt16(std::uint16_t value) {
