@@ -20,6 +20,7 @@ constexpr double kStep = 10.0;
 // A zigzag, so that every vertex has a miter of its own.
 std::vector<KdGePoint3d> zigzag(int vertices) {
     std::vector<KdGePoint3d> chain;
+    chain.reserve(static_cast<std::size_t>(vertices));
     for (int i = 0; i < vertices; ++i) {
         chain.push_back({i * kStep, i % 2 == 0 ? 0.0 : kStep, 0.0});
     }

@@ -237,7 +237,7 @@ TEST_F(EditCycle, AnEntityThatGoesAwayBetweenThePicksFailsTheCycle) {
         KdDbObject* victim = nullptr;
         int prompts = 0;
         orvex::PromptAnswer ask(const orvex::PromptRequest& request) override {
-            const orvex::PromptAnswer answer = next->ask(request);
+            orvex::PromptAnswer answer = next->ask(request);
             if (++prompts == 2) {
                 victim->erase();
             }

@@ -22,11 +22,12 @@ protected:
     CMlineSegment seg;
 
     void SetUp() override {
-        std::vector<KdGePoint3d> chain;
-        for (int i = 0; i <= 4; ++i) {
-            chain.push_back({i * kLength, 0, 0});
-        }
-        build(chain, false);
+        build({{0, 0, 0},
+               {kLength, 0, 0},
+               {2 * kLength, 0, 0},
+               {3 * kLength, 0, 0},
+               {4 * kLength, 0, 0}},
+              false);
     }
     void build(const std::vector<KdGePoint3d>& chain, bool closed) {
         const double offsets[] = {0.5, -0.5};

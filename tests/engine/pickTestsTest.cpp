@@ -29,9 +29,9 @@ TEST_F(PickTests, OnlyAMultilineEndsAPromptForOne) {
 
 TEST(Collinear, SegmentsLieOnOneLineWhateverTheirDirection) {
     struct {
-        const char* name;
+        const char* name = "";
         KdGePoint3d p[4];
-        bool collinear;
+        bool collinear = false;
     } const cases[] = {
         {"one behind the other", {{0, 0, 0}, {2, 0, 0}, {5, 0, 0}, {9, 0, 0}}, true},
         {"against each other", {{0, 0, 0}, {2, 0, 0}, {9, 0, 0}, {5, 0, 0}}, true},
