@@ -1,0 +1,113 @@
+// Times edits and a save inside one process, where a run of the whole program would drown them in
+// the time of opening.
+//
+//   edit_timings DRAWING FIRST MORE CYCLES OUTPUT
+//
+// Plays the script FIRST, which pays for the index of what is drawn, then MORE, which holds CYCLES
+// cuts, saves to OUTPUT, and writes and flushes the same bytes once more beside it. Prints seconds:
+// of the first script, of one further cut, of the save, and of the plain write.
+
+#include "DrawingFile.h"
+#include "ModuleLoader.h"
+#include "ScriptSource.h"
+#include "Session.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <unistd.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+[[noreturn]] void giveUp(const std::string& why) {
+    std::fprintf(stderr, "edit_timings: %s\n", why.c_str());
+    std::exit(1);
+}
+
+std::string contentOf(const std::string& path) {
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream) {
+        giveUp("can't read " + path);
+    }
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+template <class Work>
+double secondsOf(Work&& work) {
+    const auto start = Clock::now();
+    work();
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+void play(orvex::Session& session, const std::string& path) {
+    orvex::ScriptSource script(contentOf(path), [](const std::wstring&) {});
+    session.setSource(&script);
+    while (!script.atEnd()) {
+        const std::wstring command = session.askCommand();
+        if (!command.empty() && session.run(command).outcome != orvex::Session::Outcome::done) {
+            giveUp("can't play " + path);
+        }
+    }
+    session.setSource(nullptr);
+    if (script.failure()) {
+        giveUp("an answer in " + path + " fits no prompt");
+    }
+}
+
+void writeAndFlush(const std::string& path, const std::string& bytes) {
+    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    std::size_t done = 0;
+    while (file >= 0 && done < bytes.size()) {
+        const ssize_t written = ::write(file, bytes.data() + done, bytes.size() - done);
+        if (written <= 0) {
+            break;
+        }
+        done += static_cast<std::size_t>(written);
+    }
+    if (done < bytes.size() || fsync(file) != 0) {
+        giveUp("can't write " + path);
+    }
+    close(file);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 6) {
+        giveUp("usage: edit_timings DRAWING FIRST MORE CYCLES OUTPUT");
+    }
+    const std::string output = argv[5];
+    auto opened = orvex::DrawingFile::open(argv[1]);
+    auto* const drawing = std::get_if<std::unique_ptr<orvex::DrawingFile>>(&opened);
+    if (drawing == nullptr) {
+        giveUp("can't open the drawing");
+    }
+    orvex::ModuleLoader modules;
+    orvex::SessionSetup setup;
+    setup.drawing = std::move(*drawing);
+    setup.moduleFiles = {
+        (std::filesystem::read_symlink("/proc/self/exe").parent_path() / "../bin/libOmxMLStyle.omx")
+            .string()};
+    orvex::Session session(std::move(setup), modules);
+
+    const double first = secondsOf([&] { play(session, argv[2]); });
+    const double more = secondsOf([&] { play(session, argv[3]); });
+    const double save = secondsOf([&] {
+        if (session.drawing().save(output) != nullptr) {
+            giveUp("can't save to " + output);
+        }
+    });
+    const std::string bytes = contentOf(output);
+    const std::string beside = output + ".plain";
+    std::filesystem::remove(output);
+    const double plain = secondsOf([&] { writeAndFlush(beside, bytes); });
+    std::filesystem::remove(beside);
+    std::printf("%.9f %.9f %.9f %.9f\n", first, more / std::atof(argv[4]), save, plain);
+    return 0;
+}
