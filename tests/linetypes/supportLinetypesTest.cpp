@@ -1,0 +1,121 @@
+// The line type files beside the programs, found and read by a session as an installation does.
+
+#include "DatabaseCore.h"
+#include "DrawingFile.h"
+#include "KdDbDatabase.h"
+#include "KdDbLinetypeTable.h"
+#include "KdDbMlineStyle.h"
+#include "ModuleLoader.h"
+#include "Session.h"
+#include "TestPaths.h"
+#include "kddbObjects.h"
+#include "styleRecord.h"
+#include "textCodec.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class SupportLinetypes : public testing::Test {
+protected:
+    SupportLinetypes() {
+        orvex::SessionSetup setup;
+        setup.drawing = orvex::DrawingFile::create();
+        m_session = std::make_unique<orvex::Session>(std::move(setup), m_modules);
+    }
+
+    KdDbDatabase& database() { return m_session->database(); }
+
+    std::vector<double> dashes(const wchar_t* file, const std::wstring& name) {
+        KdDbObjectId id;
+        kddbLoadLinetypeFromFile(file, name.c_str(), id, &database(), 1);
+        KdDbLinetypeTableRecord* record = nullptr;
+        kddbOpenObject(record, id, kForRead);
+        if (record == nullptr) {
+            return {};
+        }
+        std::vector<double> found = record->dashes();
+        record->close();
+        return found;
+    }
+
+    orvex::ModuleLoader m_modules;
+    std::unique_ptr<orvex::Session> m_session;
+};
+
+TEST_F(SupportLinetypes, ComeInThreeSizesInInchesAndMillimetres) {
+    const struct {
+        const wchar_t* name;
+        std::vector<double> inches;
+    } types[] = {
+        {L"BORDER", {0.5, -0.25, 0.5, -0.25, 0.0, -0.25}},
+        {L"CENTER", {1.25, -0.25, 0.25, -0.25}},
+        {L"DASHDOT", {0.5, -0.25, 0.0, -0.25}},
+        {L"DASHED", {0.5, -0.25}},
+        {L"DIVIDE", {0.5, -0.25, 0.0, -0.25, 0.0, -0.25}},
+        {L"DOT", {0.0, -0.25}},
+        {L"HIDDEN", {0.25, -0.125}},
+        {L"PHANTOM", {1.25, -0.25, 0.25, -0.25, 0.25, -0.25}},
+    };
+    const struct {
+        const wchar_t* file;
+        double unit;
+    } files[] = {{L"orvex.lin", 1.0}, {L"orvexiso.lin", 25.4}};
+    const struct {
+        const wchar_t* ending;
+        double factor;
+    } sizes[] = {{L"", 1.0}, {L"2", 0.5}, {L"X2", 2.0}};
+    for (const auto& [file, unit] : files) {
+        for (const auto& type : types) {
+            for (const auto& [ending, factor] : sizes) {
+                std::vector<testing::Matcher<double>> wanted;
+                for (const double dash : type.inches) {
+                    wanted.emplace_back(testing::DoubleNear(dash * unit * factor, 1e-9));
+                }
+                // A drawing keeps the first definition of a name, so every file gets a fresh one.
+                database().core().beginCommand();
+                EXPECT_THAT(dashes(file, std::wstring(type.name) + ending),
+                            testing::ElementsAreArray(wanted))
+                    << orvex::narrow(file) << ' ' << orvex::narrow(type.name);
+                database().core().endCommand();
+                database().core().undo();
+            }
+        }
+    }
+    EXPECT_THAT(dashes(L"orvex.lin", L"NOWHERE"), testing::IsEmpty());
+}
+
+TEST_F(SupportLinetypes, OneThatAStyleBringsInIsSavedAsOtherReadersTakeIt) {
+    database().core().beginCommand();
+    KdDbMlineStyle* style = nullptr;
+    kddbOpenObject(style, KdDbObjectId(database().core().findStyle(L"STANDARD")), kForWrite);
+    ASSERT_NE(style, nullptr);
+    std::wstring first = L"phantom2";
+    std::wstring second = L"Hidden";
+    wchar_t* names[] = {first.data(), second.data()};
+    ASSERT_EQ(style->numElements(), 2);
+    EXPECT_EQ(SetElemLtype(style, names, 2, &database()), 1);
+    style->close();
+    database().core().endCommand();
+    ASSERT_NE(database().core().findLinetype(L"PHANTOM2"), nullptr);
+
+    const fs::path saved = fs::temp_directory_path() / "linetypes.dxf";
+    const auto error = m_session->drawing().save(saved.string());
+    ASSERT_EQ(error, nullptr) << error->text;
+    // Exit status 0 means that the audit found nothing; the lists show what it read.
+    const std::string tools = (orvex::testing::sourceDir() / "tests" / "drawings").string();
+    EXPECT_EQ(std::system((ORVEX_PYTHON " " + tools + "/audit.py " + saved.string()).c_str()), 0);
+    EXPECT_EQ(std::system((ORVEX_PYTHON " " + tools + "/lists.py " + saved.string() +
+                           " | grep '\"linetype\": \"PHANTOM2\"' > /dev/null")
+                              .c_str()),
+              0);
+}
+
+} // namespace
