@@ -15,3 +15,6 @@ struct AcrossPick {
 
 // False when the record has no such segment or element.
 bool acrossPick(const CMlineSegment& seg, int element, AcrossPick& place);
+
+// Makes the pick itself the mapped place, at `point`.
+void mapToPick(CMlineSegment& seg, const double* point);

@@ -57,12 +57,16 @@ bool acrossPick(const CMlineSegment& seg, int element, AcrossPick& place) {
     return true;
 }
 
+void mapToPick(CMlineSegment& seg, const double* point) {
+    copyPoint(point, seg.m_mappedPoint);
+    seg.m_mappedDistance = seg.m_pickDistance;
+    seg.m_mappedSegment = seg.m_segment;
+    seg.m_mappedElement = seg.m_element;
+}
+
 void CMlineEdit::mappingToSpecifyMongline(CMlineSegment* seg, int element, double* out) {
     if (element == seg->m_element) {
-        copyPoint(seg->m_pickPoint, seg->m_mappedPoint);
-        seg->m_mappedElement = seg->m_element;
-        seg->m_mappedSegment = seg->m_segment;
-        seg->m_mappedDistance = seg->m_pickDistance;
+        mapToPick(*seg, seg->m_pickPoint);
         return;
     }
     AcrossPick place{};

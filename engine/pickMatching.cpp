@@ -4,6 +4,7 @@
 
 #include "KdDbMline.h"
 #include "RvexView.h"
+#include "acrossPick.h"
 #include "frames.h"
 #include "kddbObjects.h"
 #include "lineMath.h"
@@ -90,10 +91,7 @@ void CMlineEdit::mlineEditInitialize(CMlineSegment* seg, long* name, CMlineSegme
     openPicked(seg, name, other);
     fillTable(seg);
     takePick(*seg, pick, m_pickRadius);
-    copyPoint(seg->m_pickPoint, seg->m_mappedPoint);
-    seg->m_mappedDistance = seg->m_pickDistance;
-    seg->m_mappedSegment = seg->m_segment;
-    seg->m_mappedElement = seg->m_element;
+    mapToPick(*seg, seg->m_pickPoint);
     name[0] = 0;
     name[1] = 0;
 }

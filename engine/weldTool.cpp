@@ -131,10 +131,7 @@ void CMlineEdit::mlineEditInitializeForWeldAll(CMlineSegment* seg, long* name,
     }
     fillTable(seg);
     takeWeldPick(*seg, pick, m_pickRadius);
-    copyPoint(seg->m_weldPoint, seg->m_mappedPoint);
-    seg->m_mappedDistance = seg->m_pickDistance;
-    seg->m_mappedSegment = seg->m_segment;
-    seg->m_mappedElement = seg->m_element;
+    mapToPick(*seg, seg->m_weldPoint);
     name[0] = 0;
     name[1] = 0;
 }
@@ -144,10 +141,7 @@ void CMlineEdit::mappingToSpecifyMonglineForWeldAll(CMlineSegment* seg, int elem
         return;
     }
     if (element == seg->m_element) {
-        copyPoint(seg->m_weldPoint, seg->m_mappedPoint);
-        seg->m_mappedElement = seg->m_element;
-        seg->m_mappedSegment = seg->m_segment;
-        seg->m_mappedDistance = seg->m_pickDistance;
+        mapToPick(*seg, seg->m_weldPoint);
         return;
     }
     AcrossPick place{};
