@@ -48,6 +48,9 @@ if(orvex_sanitizers)
     endif()
 endif()
 
+# A library that is named but not used isn't needed at run time either; some toolchains make that the default.
+add_link_options(-Wl,--as-needed)
+
 # A shared library has to name what it needs. (Clang links the sanitizers' runtime into programs only.)
 if(NOT orvex_sanitizers OR CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     string(APPEND CMAKE_SHARED_LINKER_FLAGS " -Wl,--no-undefined")

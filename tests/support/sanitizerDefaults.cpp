@@ -19,7 +19,8 @@ const char* __lsan_default_options() {
 
 // Qt's offscreen platform forgets its screen at the end, and fontconfig keeps its cache. The inner
 // parts of a QObject are let pass alone: an object of ours that leaks is reported by its own
-// allocation.
+// allocation. A module keeps one opening of its resource library to the end of the process, on
+// purpose.
 const char* __lsan_default_suppressions() {
     return "leak:libqoffscreen\n"
            "leak:QScreen::QScreen\n"
@@ -27,6 +28,7 @@ const char* __lsan_default_suppressions() {
            "leak:QWindowSystemInterface::handleScreenAdded\n"
            "leak:QObject::QObject\n"
            "leak:QtSharedPointer::ExternalRefCountData::getAndRef\n"
+           "leak:QResource::registerResource\n"
            "leak:libfontconfig\n";
 }
 // NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
