@@ -13,7 +13,7 @@ public:
     DetachedSource(const void* source, unsigned count, const unsigned char* buffer,
                    std::uint64_t bufferSize)
         : m_bytes(static_cast<const unsigned char*>(source)) {
-        const std::less_equal<const unsigned char*> notAfter;
+        const std::less_equal<> notAfter;
         if (buffer != nullptr && notAfter(buffer, m_bytes) &&
             notAfter(m_bytes, buffer + bufferSize)) {
             m_copy.assign(m_bytes, m_bytes + count);

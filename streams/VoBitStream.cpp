@@ -88,7 +88,7 @@ std::uint64_t VoBitStream::seek(std::uint64_t offset, VoIO::SeekType type) {
     if (m_buffer == nullptr) {
         return place;
     }
-    std::uint64_t target = place;
+    std::uint64_t target = 0;
     bool valid = true;
     switch (type) {
     case VoIO::fromStart:
@@ -107,6 +107,8 @@ std::uint64_t VoBitStream::seek(std::uint64_t offset, VoIO::SeekType type) {
         valid = offset <= m_bitLength;
         target = m_bitLength - offset;
         break;
+    default:
+        return place;
     }
     if (valid) {
         moveTo(target);
@@ -121,7 +123,7 @@ void VoBitStream::seekByte(std::uint64_t offset, VoIO::SeekType type) {
         return;
     }
     const std::uint64_t length = m_buffer->length();
-    std::uint64_t target = m_bytePos;
+    std::uint64_t target = 0;
     bool valid = true;
     switch (type) {
     case VoIO::fromStart:
@@ -140,6 +142,8 @@ void VoBitStream::seekByte(std::uint64_t offset, VoIO::SeekType type) {
         valid = offset < length;
         target = length - offset;
         break;
+    default:
+        return;
     }
     if (valid) {
         m_bytePos = target;

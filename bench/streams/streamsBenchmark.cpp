@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr unsigned kSpan = 1U << 20;
+constexpr std::size_t kSpan = std::size_t{1} << 20;
 constexpr unsigned kValues = 100000;
 
 std::vector<unsigned char> pattern(std::size_t size) {
@@ -61,7 +61,7 @@ void copyIn(benchmark::State& state) {
 void readRuns(benchmark::State& state) {
     const unsigned run = runOf(state);
     const auto bit = static_cast<unsigned>(state.range(1));
-    const std::vector<unsigned char> source = pattern(kSpan + 2 * run);
+    const std::vector<unsigned char> source = pattern(kSpan + std::size_t{2} * run);
     VoFlatMemBuf buffer;
     buffer.open(source.data(), static_cast<unsigned>(source.size()), 0);
     VoBitStream stream(&buffer, source.size() * 8);
@@ -82,7 +82,7 @@ void writeRuns(benchmark::State& state) {
     const auto bit = static_cast<unsigned>(state.range(1));
     const std::vector<unsigned char> source = pattern(run);
     VoFlatMemBuf buffer;
-    buffer.setlength(kSpan + 2 * run);
+    buffer.setlength(kSpan + std::size_t{2} * run);
     VoBitStream stream(&buffer, buffer.length() * 8);
     stream.seek(bit, VoIO::fromStart);
     for (auto _ : state) {

@@ -42,7 +42,7 @@ constexpr std::array<std::uint32_t, kColours> makePalette() {
     }
     for (int step = 0; step < 6; ++step) {
         const int grey = 51 + 204 * step / 5;
-        palette[static_cast<std::size_t>(250 + step)] = packed(grey, grey, grey);
+        palette[250U + static_cast<unsigned>(step)] = packed(grey, grey, grey);
     }
     return palette;
 }

@@ -70,7 +70,7 @@ std::wstring fromAscii(const char* first, const char* last) {
 
 std::wstring digits(std::uint64_t value, int base, bool capitals) {
     std::array<char, 24> buffer{};
-    const auto end = std::to_chars(buffer.begin(), buffer.end(), value, base).ptr;
+    auto* const end = std::to_chars(buffer.begin(), buffer.end(), value, base).ptr;
     if (capitals) {
         std::transform(buffer.begin(), end, buffer.begin(), [](char digit) {
             return digit >= 'a' ? static_cast<char>(digit - 'a' + 'A') : digit;
@@ -180,7 +180,7 @@ std::wstring formatWide(const wchar_t* pattern, va_list list) {
     if (pattern == nullptr) {
         return result;
     }
-    Arguments arguments;
+    Arguments arguments{};
     va_copy(arguments.list, list);
     while (*pattern != L'\0') {
         const wchar_t* const start = pattern;

@@ -10,6 +10,6 @@ namespace orvex {
 // width, precision, the flags "-", "0", "+", and the lengths h, l, ll, z. A directive that it
 // doesn't know stands in the result as written, and so does all that follows it, because the
 // arguments can't be told apart any more.
-std::wstring formatWide(const wchar_t* pattern, va_list arguments);
+std::wstring formatWide(const wchar_t* pattern, va_list list);
 
 } // namespace orvex
