@@ -24,13 +24,14 @@ std::vector<Stroke> strokes(const std::vector<double>& dashes, double width) {
     if (!std::isfinite(length) || length <= 0) {
         return {{0, width}};
     }
-    const double scale = width / 2 / length;
-    constexpr double kDot = 1.5; // pixels
+    constexpr double kDashRoom = 8; // pixels for each part of the pattern, if there is room
+    constexpr double kDot = 1.5;
+    const double period = std::min(width / 2, kDashRoom * static_cast<double>(dashes.size()));
     std::vector<Stroke> found;
-    double at = 0;
-    for (int repetition = 0; repetition < 2; ++repetition) {
+    for (double start = 0; start < width; start += period) {
+        double at = start;
         for (const double dash : dashes) {
-            const double size = std::abs(dash) * scale;
+            const double size = std::abs(dash) / length * period;
             if (dash >= 0) {
                 found.push_back({at, at + std::max(size, kDot)});
             }

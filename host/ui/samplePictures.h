@@ -15,8 +15,8 @@ inline constexpr QSize kLineSampleSize(64, 12); // pixels
 // A framed field of the colour 0xRRGGBB.
 QIcon colourSwatch(std::uint32_t rgb, const QColor& frame);
 
-// Two repetitions of a line type, in drawing units: positive pen down, negative pen up, 0 a dot;
-// without any length it is continuous.
+// At least two repetitions of a line type, in drawing units: positive pen down, negative pen up, 0
+// a dot; without any length it is continuous.
 QIcon lineSample(const std::vector<double>& dashes, const QColor& ink);
 
 } // namespace orvex

@@ -210,7 +210,7 @@ TEST_F(ComboBoxes, lineTypesStandUnderLocalNamesWithSamples) {
     EXPECT_EQ(box->currentText(), "DASHED");
     EXPECT_EQ(told.count(), 0);
 
-    // 64 pixels show two repetitions of 0.75 units: pen down for 21.3 of 32.
+    // Two parts repeat every 16 pixels; of 0.75 units the pen is down for 10.7 pixels.
     const auto inkAt = [box](int index, int x) {
         return box->itemIcon(index).pixmap(64, 12).toImage().pixelColor(x, 6).alpha() > 0;
     };
@@ -220,8 +220,8 @@ TEST_F(ComboBoxes, lineTypesStandUnderLocalNamesWithSamples) {
         std::vector<int> gap;
     };
     const Case cases[] = {{2, {0, 31, 63}, {}},
-                          {3, {1, 20, 33, 52}, {23, 30, 55, 62}},
-                          {4, {0, 32}, {4, 30, 40}},
+                          {3, {1, 9, 17, 25, 57}, {12, 14, 28, 46, 62}},
+                          {4, {0, 16, 32, 48}, {4, 12, 30, 40, 60}},
                           {5, {0, 31, 63}, {}}}; // no length that could be shown
     for (const Case& each : cases) {
         for (const int x : each.ink) {
