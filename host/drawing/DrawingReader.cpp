@@ -57,10 +57,13 @@ private:
     [[nodiscard]] std::string_view nameOf(std::uint32_t record) const {
         return readName(m_document.bytes, m_document.span(record));
     }
-    [[nodiscard]] std::size_t lineOf(std::size_t offset) const {
-        const auto begin = m_document.bytes.begin();
-        return 1 + static_cast<std::size_t>(
-                       std::count(begin, begin + static_cast<std::ptrdiff_t>(offset), '\n'));
+    // Asked for in the order of the file, so that no byte is counted twice.
+    [[nodiscard]] std::size_t lineOf(std::size_t offset) {
+        const char* const bytes = m_document.bytes.data();
+        m_linesCounted +=
+            static_cast<std::size_t>(std::count(bytes + m_countedTo, bytes + offset, '\n'));
+        m_countedTo = offset;
+        return 1 + m_linesCounted;
     }
     void warn(std::size_t line, std::string text) { m_warnings.push_back({line, std::move(text)}); }
 
@@ -69,6 +72,8 @@ private:
     DatabaseCore& m_core;
     std::vector<DrawingWarning>& m_warnings;
     std::unordered_map<std::wstring, KdDbStub*> m_blockRecords; // by name in one case
+    std::size_t m_countedTo = 0;
+    std::size_t m_linesCounted = 0;
 };
 
 std::optional<DrawingError> DrawingReader::run(const DrawingProgress& progress) {
@@ -263,26 +268,30 @@ BlockEntities& DrawingReader::blockNamed(const std::wstring& name) {
     return *block;
 }
 
+// All blocks first, then what stands in them: looking up a block is quick once they are all known.
 void DrawingReader::readBlocks(const RecordRun& section) {
-    RecordRun* block = nullptr;
+    const std::size_t first = m_document.blocks.size();
+    bool open = false;
     for (std::uint32_t i = section.begin + 1; i < section.end; ++i) {
         const RecordKind kind = m_records[i].kind;
-        if (kind == RecordKind::block || kind == RecordKind::endBlock) {
-            if (block != nullptr) {
-                block->end = i;
-                block->closed = kind == RecordKind::endBlock;
-                block = nullptr;
-            }
-            if (kind == RecordKind::block) {
-                startBlock(i);
-                block = &m_document.blocks.back();
-            }
-        } else if (block != nullptr) {
-            addEntity(i, *block->block);
+        if (kind != RecordKind::block && kind != RecordKind::endBlock) {
+            continue;
+        }
+        if (open) {
+            m_document.blocks.back().end = i;
+            m_document.blocks.back().closed = kind == RecordKind::endBlock;
+        }
+        open = kind == RecordKind::block;
+        if (open) {
+            startBlock(i);
+            m_document.blocks.back().end = section.end;
         }
     }
-    if (block != nullptr) {
-        block->end = section.end;
+    for (std::size_t block = first; block < m_document.blocks.size(); ++block) {
+        const RecordRun& run = m_document.blocks[block];
+        for (std::uint32_t i = run.begin + 1; i < run.end; ++i) {
+            addEntity(i, *run.block);
+        }
     }
 }
 
