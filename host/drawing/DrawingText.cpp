@@ -105,7 +105,7 @@ std::wstring replaceEscapes(std::wstring_view text) {
 }
 
 std::string escape(wchar_t character) {
-    auto code = static_cast<std::uint32_t>(character);
+    auto code = static_cast<char32_t>(character);
     std::string result;
     if (code > 0xFFFF) {
         code -= 0x10000;
@@ -129,7 +129,7 @@ DrawingText::DrawingText(std::string_view version, std::string_view codePage)
 std::wstring DrawingText::decode(std::string_view bytes) const {
     const bool plain = std::ranges::all_of(bytes, isPlain);
     std::wstring text = plain ? std::wstring(bytes.begin(), bytes.end()) : decodeBytes(bytes);
-    return text.find(L'\\') == text.npos ? text : replaceEscapes(text);
+    return text.find(L'\\') == std::string::npos ? text : replaceEscapes(text);
 }
 
 std::wstring DrawingText::decodeBytes(std::string_view bytes) const {
@@ -144,21 +144,18 @@ std::string DrawingText::encode(std::wstring_view text) const {
     result.reserve(text.size());
     for (; !text.empty(); text.remove_prefix(1)) {
         const wchar_t character = text.front();
-        if (character == L'\\' && escapeAt(text) >= 0) {
-            result += escape(character);
-        } else if (character >= 0x20 && character < 0x7F) {
-            result += static_cast<char>(character);
-        } else if (const std::string bytes = encodeCharacter(character); !bytes.empty()) {
-            result += bytes;
-        } else {
-            result += escape(character);
-        }
+        const bool looksEscaped = character == L'\\' && escapeAt(text) >= 0;
+        const std::string bytes = looksEscaped ? std::string() : encodeCharacter(character);
+        result += bytes.empty() ? escape(character) : bytes;
     }
     return result;
 }
 
 std::string DrawingText::encodeCharacter(wchar_t character) const {
-    const auto code = static_cast<std::uint32_t>(character);
+    const auto code = static_cast<char32_t>(character);
+    if (code >= 0x20 && code < 0x7F) {
+        return std::string(1, static_cast<char>(code));
+    }
     if (code < 0x20 || code == 0x7F || (code >= 0xD800 && code < 0xE000) || code > 0x10FFFF) {
         return {};
     }

@@ -391,7 +391,7 @@ bool writeEdited(std::string_view bytes, const std::vector<FileEdit>& edits,
         const std::string_view kept = bytes.substr(at, edit.offset > at ? edit.offset - at : 0);
         last = kept.empty() ? last : kept.back();
         const bool endLine = edit.length == 0 && last != '\n' && edit.offset > start;
-        const std::string_view lineEnd = edit.text.find('\r') != edit.text.npos ? "\r\n" : "\n";
+        const std::string_view lineEnd = edit.text.find('\r') != std::string::npos ? "\r\n" : "\n";
         if (!put(kept) || (endLine && !put(lineEnd)) || !put(edit.text)) {
             return false;
         }

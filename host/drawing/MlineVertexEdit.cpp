@@ -167,7 +167,7 @@ void VertexText::addOld(std::size_t tag, const std::string* value) {
 } // namespace
 
 MlineLayout::MlineLayout(const std::vector<Tag>& tags)
-    : m_begin(tags.size()), m_end(0), m_isExtra(tags.size(), true) {
+    : m_begin(tags.size()), m_isExtra(tags.size(), true) {
     MlineParser parser;
     parser.begin();
     for (std::size_t i = 1; i < tags.size(); ++i) {

@@ -38,7 +38,7 @@ public:
 
 private:
     std::size_t m_begin;
-    std::size_t m_end;
+    std::size_t m_end = 0;
     std::vector<bool> m_isExtra;
     std::vector<std::array<std::size_t, kPlaces>> m_coordinates;
     std::vector<std::vector<List>> m_lists;

@@ -10,7 +10,7 @@ namespace {
 
 // from_chars tells neither which end of the range was left; the text does.
 bool isTiny(std::string_view text) {
-    if (const std::size_t exponent = text.find_first_of("eE"); exponent != text.npos) {
+    if (const std::size_t exponent = text.find_first_of("eE"); exponent != std::string::npos) {
         return text.substr(exponent + 1).starts_with('-');
     }
     return text.find_first_not_of("-0.") > text.find('.');
@@ -85,7 +85,7 @@ std::string realText(double value) {
     std::array<char, 32> buffer{};
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
     std::string text(buffer.data(), result.ptr);
-    if (text.find_first_of(".e") == text.npos) {
+    if (text.find_first_of(".e") == std::string::npos) {
         text += ".0";
     }
     return text;

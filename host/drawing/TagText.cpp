@@ -7,7 +7,7 @@ namespace orvex {
 TagFormat TagFormat::of(std::string_view bytes, std::size_t begin) {
     TagFormat format;
     std::size_t end = bytes.find('\n', begin);
-    if (end == bytes.npos) {
+    if (end == std::string::npos) {
         return format;
     }
     if (end > begin && bytes[end - 1] == '\r') {

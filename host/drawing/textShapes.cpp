@@ -113,7 +113,7 @@ private:
     // Up to the semicolon.
     std::wstring_view parameters() {
         const std::size_t end = m_rest.find(L';');
-        if (end == m_rest.npos) {
+        if (end == std::string::npos) {
             return {};
         }
         const std::wstring_view text = m_rest.substr(0, end);

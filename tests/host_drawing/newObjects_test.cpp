@@ -163,12 +163,12 @@ TEST(NewMline, BringsWhatItRefersTo) {
 TEST(NewObjects, AreWrittenWhereverTheFileBreaksOff) {
     const std::string sample = sampleDrawing();
     std::size_t at = 0;
-    for (std::size_t line = 0; at != sample.npos; line += 2) {
+    for (std::size_t line = 0; at != std::string::npos; line += 2) {
         const std::string cut = sample.substr(0, at);
         at = sample.find('\n', sample.find('\n', at) + 1);
-        at = at == sample.npos ? at : at + 1;
+        at = at == std::string::npos ? at : at + 1;
         if (at >= sample.size()) {
-            at = sample.npos;
+            at = std::string::npos;
         }
         const auto file = openDrawing(cut);
         DatabaseCore& core = file->database().core();

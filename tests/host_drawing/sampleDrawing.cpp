@@ -397,8 +397,8 @@ std::string sampleDrawing() {
 
 std::string replaced(std::string text, std::string_view from, std::string_view to) {
     const std::size_t at = text.find(from);
-    EXPECT_NE(at, text.npos) << from;
-    return at == text.npos ? text : text.replace(at, from.size(), to);
+    EXPECT_NE(at, std::string::npos) << from;
+    return at == std::string::npos ? text : text.replace(at, from.size(), to);
 }
 
 std::unique_ptr<DrawingFile> openDrawing(const std::string& bytes) {
