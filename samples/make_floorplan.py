@@ -154,8 +154,8 @@ def make_drawing():
 README_HEAD = """# Samples
 
 `floorplan.dxf` is a ground floor with its garage, shed, roads, pipes and garden, in millimetres, whose walls
-are multilines. `./run` in the project's root plays `play`, which cuts its doors and windows and draws it before and
-after.
+are multilines. `./run` in the project's root plays `play`, which takes all twelve tools through the plan and draws it
+before and after.
 
 | file | what it is |
 |---|---|
@@ -163,13 +163,20 @@ after.
 | `cut.scr` | cuts all doors and windows, one gap over a corner and some single lines, with a slip taken back |
 | `door.scr` | one door, two picks: the shortest useful script |
 | `corner.scr` | gaps over a corner, through all lines and through one |
+| `cross.scr` | closed, open and merged crossings, square and slanting, of two to five elements |
+| `tee.scr` | closed, open and merged tees; stems that end on, short of and beyond the bar |
+| `corner_joint.scr` | the corners of garage and shed, and a bed that closes with itself |
+| `vertex.scr` | vertices added to and deleted from open and closed walls |
+| `weld.scr` | gaps closed again, by picks in them |
+| `tour.scr` | all twelve tools, each where the plan has a use for it |
 | `undo.scr` | cuts and takes everything back: the drawing comes out as it went in |
 | `empty.scr` | nothing: opened and saved, a drawing stays the same byte for byte |
-| `play` | the script behind `./run`: cuts, undoes, draws |
+| `play` | the script behind `./run`: plays the tour, draws, undoes |
 | `runs.txt` | runs that every build has to play alike |
 
-The scripts are made by `make_scripts.py`, which works out every pick from the plan and makes sure that it can
-mean one wall only. Both makers take `--check`, which writes nothing and tells whether the files are up to date.
+The scripts are made by `make_scripts.py`, with those of the joints in `tool_scripts.py`. It works out every pick from
+the plan and makes sure that it can mean one wall only. Both makers take `--check`, which writes nothing and tells
+whether the files are up to date.
 
 ## The walls
 

@@ -12,6 +12,7 @@ import json
 import pathlib
 import sys
 
+import tool_scripts
 from make_floorplan import make_drawing
 from plan_walls import OPENINGS, opening_width
 from script_writer import Session
@@ -39,8 +40,7 @@ def cut_script(plan):
     session.zoom(*HOUSE_MIDDLE, CLOSE)
     session.note("Doors and windows, through all elements. The picks may come in either order.")
     session.tool("CA")
-    for opening in OPENINGS:
-        cut_opening(session, opening)
+    cut_openings(session)
     session.note("A slip: this wall was to stay whole. UNDO takes back the last cut only.")
     slip = session.cut("screen", (0, 300.0), (0, 600.0), 0)
     session.undo(slip)
@@ -112,12 +112,28 @@ def empty_script(plan):
     return Session(*plan, "Nothing to do: the drawing is opened and saved.")
 
 
+def tool_script(make, title, *more):
+    return lambda plan: make(Session(*plan, title), *more)
+
+
+def cut_openings(session):
+    for opening in OPENINGS:
+        cut_opening(session, opening)
+
+
 SCRIPTS = {
     "cut.scr": cut_script,
     "door.scr": door_script,
     "corner.scr": corner_script,
     "undo.scr": undo_script,
     "empty.scr": empty_script,
+    "cross.scr": tool_script(tool_scripts.cross_script, "Crossings, closed, open and merged."),
+    "tee.scr": tool_script(tool_scripts.tee_script, "Tees, closed, open and merged."),
+    "corner_joint.scr": tool_script(tool_scripts.corner_joint_script, "Corner joints."),
+    "vertex.scr": tool_script(tool_scripts.vertex_script, "Vertices added and deleted."),
+    "weld.scr": tool_script(tool_scripts.weld_script, "Gaps welded."),
+    "tour.scr": tool_script(
+        tool_scripts.tour_script, "All twelve tools, where the plan has a use for them.", cut_openings),
 }
 
 

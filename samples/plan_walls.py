@@ -220,6 +220,9 @@ SITE = [
     Wall("overhead", "PIPE", "PIPE", [(-5000, -1000), (15500, -5500)],
          "at height 2800: meets garden wall, gas, path and sewer in plan but not in space", 60.0, ZERO, False, (), 0,
          (0.0, 0.0, 1.0), 2800.0),
+    Wall("raised bed", "GARDEN", "PART125",
+         [(-6900, -200), (-4700, -200), (-4700, 2600), (-6500, 2600), (-6500, -600)],
+         "5 vertices; runs over itself where it should close: corner joint of its first and last segment"),
 ]
 
 WALLS = HOUSE + GARAGE + SITE

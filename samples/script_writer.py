@@ -3,11 +3,14 @@
 A Session writes answers and keeps the walls' line lists as the tools leave
 them, so that each pick is checked against what is drawn at that moment: the
 pick has to find the wall, and the tool has to match the element and segment
-meant. A pick that other entities could take gets the wall's handle.
+meant. A pick that other entities could take gets the wall's handle. Walls that
+other tools than the cuts have been at keep the lists they had, so a pick there
+has to stay away from what was done.
 """
 
 import copy
 import math
+from dataclasses import replace
 
 from ezdxf import path
 
@@ -87,6 +90,7 @@ class Session:
         self.handles = handles
         self.walls = {wall.name: wall for wall in WALLS}
         self.vertices = {wall.name: wall_vertices(wall) for wall in WALLS}
+        self.reshaped = set()  # walls whose lists are no longer followed
         self.context = list(context_strokes(doc))
         self.pixel = None
 
@@ -119,6 +123,26 @@ class Session:
             text += f" #{self.handles[name]}"
         self.answer(text)
 
+    def pick_gap(self, name, segment, along, element):
+        """A pick where the element may be open, which finds its wall by handle only."""
+        x, y = point_along(self.vertices[name], segment, element, along)[:2]
+        place = ",".join(f"{c:.3f}".rstrip("0").rstrip(".") for c in (x, y))
+        self.answer(f"{place} #{self.handles[name]}")
+        self.reshaped.add(name)
+
+    def edit(self, *picks):
+        """The picks of a tool that reshapes walls, each a wall, segment, place on the chain and, if not 0, element."""
+        for name, segment, along, *element in picks:
+            self.pick(name, segment, along, *element or [0])
+        self.reshaped.update(name for name, *_ in picks)
+
+    def delete_vertex(self, name, vertex, segment, along):
+        """A pick that takes the vertex out of the chain; later picks go by the chain that is left."""
+        self.edit((name, segment, along))
+        wall = self.walls[name]
+        self.walls[name] = replace(wall, points=wall.points[:vertex] + wall.points[vertex + 1:], gaps=())
+        self.vertices[name] = wall_vertices(self.walls[name])
+
     @staticmethod
     def visible(wall):
         return LAYERS[wall.layer][2] in ("on", "locked")
@@ -149,11 +173,11 @@ class Session:
             self.vertices[name] = kept
 
     def changed(self):
-        """Line lists of the walls that differ from the plan, by handle."""
+        """Line lists, by handle, of the walls that cuts have changed and nothing else has."""
         return {
             self.handles[name]: [vertex.lines for vertex in vertices]
             for name, vertices in self.vertices.items()
-            if vertices != wall_vertices(self.walls[name])
+            if name not in self.reshaped and vertices != wall_vertices(self.walls[name])
         }
 
     def text(self):
