@@ -1,7 +1,6 @@
 #include "EngineWorld.h"
 
 #include "DatabaseCore.h"
-#include "KdDbStub.h"
 #include "MlineBuilder.h"
 #include "kddbObjects.h"
 #include "parameterLists.h"
@@ -17,6 +16,7 @@ PromptAnswer QueueSource::ask(const PromptRequest& request) {
         text += L" [" + word + L"]";
     }
     prompts.push_back(text);
+    onPrompt();
     if (answers.empty()) {
         return {};
     }
@@ -74,52 +74,39 @@ KdDbMline* EngineWorld::addMline(const std::vector<KdGePoint3d>& chain,
     KdDbMline* const mline = made.get();
     buildMline(*mline, chain, offsets, closed);
     mline->setStyle(database.cmlstyle());
-    DatabaseCore& core = database.core();
-    KdDbStub& stub = core.adopt(std::move(made), ObjectKind::mline, nullptr);
-    core.appendEntity(core.modelSpace(), stub);
-    display.known.push_back(&stub);
+    adopt(std::move(made), ObjectKind::mline);
     return mline;
 }
 
 KdDbObject* EngineWorld::addLine() {
-    auto made = std::make_unique<KdDbEntity>();
-    KdDbObject* const line = made.get();
+    return adopt(std::make_unique<KdDbEntity>(), ObjectKind::entity);
+}
+
+KdDbObject* EngineWorld::adopt(std::unique_ptr<KdDbEntity> made, ObjectKind kind) {
+    KdDbObject* const entity = made.get();
     DatabaseCore& core = database.core();
-    KdDbStub& stub = core.adopt(std::move(made), ObjectKind::entity, nullptr);
+    KdDbStub& stub = core.adopt(std::move(made), kind, nullptr);
     core.appendEntity(core.modelSpace(), stub);
     display.known.push_back(&stub);
-    return line;
+    return entity;
+}
+
+PromptAnswer EngineWorld::answerOf(PromptAnswer::Kind kind) {
+    PromptAnswer answer;
+    answer.kind = kind;
+    return answer;
 }
 
 PromptAnswer EngineWorld::pick(const KdDbObject* entity, double x, double y) {
-    PromptAnswer answer;
-    answer.kind = PromptAnswer::Kind::point;
+    PromptAnswer answer = answerOf(PromptAnswer::Kind::point);
     answer.point = {x, y, 0.0};
     answer.handle = entity->objectId().stub()->handle;
     return answer;
 }
 
-PromptAnswer EngineWorld::miss() {
-    PromptAnswer answer;
-    answer.kind = PromptAnswer::Kind::point;
-    answer.handle = 0;
-    return answer;
-}
-
 PromptAnswer EngineWorld::keyword(const wchar_t* word) {
-    PromptAnswer answer;
-    answer.kind = PromptAnswer::Kind::keyword;
+    PromptAnswer answer = answerOf(PromptAnswer::Kind::keyword);
     answer.keyword = word;
-    return answer;
-}
-
-PromptAnswer EngineWorld::cancel() {
-    return {};
-}
-
-PromptAnswer EngineWorld::enter() {
-    PromptAnswer answer;
-    answer.kind = PromptAnswer::Kind::empty;
     return answer;
 }
 

@@ -4,6 +4,7 @@
 #include "HINSTANCE.h"
 #include "KdDbDatabase.h"
 #include "KdDbMline.h"
+#include "KdDbStub.h"
 #include "KdDocument.h"
 #include "PromptSession.h"
 #include "PromptSource.h"
@@ -11,7 +12,9 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <initializer_list>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -23,6 +26,7 @@ public:
     std::deque<PromptAnswer> answers;
     std::vector<std::wstring> prompts; // "text" or "text [KEYWORDS]"
     std::vector<std::wstring> lines;   // printed, without the prompts themselves
+    std::function<void()> onPrompt = [] {};
 
     PromptAnswer ask(const PromptRequest& request) override;
     void print(const std::wstring& line) override;
@@ -63,10 +67,10 @@ protected:
     KdDbObject* addLine(); // something that is no multiline
 
     static PromptAnswer pick(const KdDbObject* entity, double x, double y);
-    static PromptAnswer miss();
+    static PromptAnswer miss() { return answerOf(PromptAnswer::Kind::point); }
     static PromptAnswer keyword(const wchar_t* word);
-    static PromptAnswer cancel();
-    static PromptAnswer enter();
+    static PromptAnswer cancel() { return {}; }
+    static PromptAnswer enter() { return answerOf(PromptAnswer::Kind::empty); }
     void answer(std::initializer_list<PromptAnswer> answers);
 
     static void nameOf(const KdDbObject* entity, long (&name)[2]);
@@ -81,6 +85,9 @@ protected:
     HINSTANCE resources; // only its identity counts
 
 private:
+    static PromptAnswer answerOf(PromptAnswer::Kind kind);
+    KdDbObject* adopt(std::unique_ptr<KdDbEntity> made, ObjectKind kind);
+
     KdDocument m_document{&database};
     KdDocument* m_documentBefore;
     PromptSession m_sessionBefore;

@@ -47,11 +47,48 @@ protected:
         }
     }
 
-    using ToolMember = int (CMlineEdit::*)(HINSTANCE);
-    int play(ToolMember tool, std::initializer_list<PromptAnswer> answers) {
+    // "0,0 10,0 : 1 -1": vertices and offsets; "closed" may follow.
+    KdDbMline* add(const std::string& text) {
+        std::istringstream in(text);
+        std::vector<KdGePoint3d> points;
+        std::vector<double> offsets;
+        std::string word;
+        while (in >> word && word != ":") {
+            points.push_back(point(word));
+        }
+        while (in >> word && word != "closed") {
+            offsets.push_back(std::stod(word));
+        }
+        return add(points, offsets, word == "closed");
+    }
+    static KdGePoint3d point(const std::string& text) {
+        KdGePoint3d at;
+        char comma = 0;
+        std::istringstream(text) >> at.x >> comma >> at.y >> comma >> at.z;
+        return at;
+    }
+    static PromptAnswer pickAt(const KdDbMline* mline, const std::string& place) {
+        return pick(mline, point(place).x, point(place).y);
+    }
+
+    enum Tool {
+        closedCross = 1,
+        openCross,
+        mergedCross,
+        closedTee,
+        openTee,
+        mergedTee,
+        cornerJoint,
+        addVertex,
+        deleteVertex,
+        cutSingle,
+        cutAll,
+        weldAll
+    };
+    int play(Tool tool, std::initializer_list<PromptAnswer> answers) {
         answer(answers);
         CMlineEdit run;
-        return (run.*tool)(resources);
+        return run.runTool(editTool(tool), resources);
     }
 
     // Rounded so that what is 4 on paper reads as 4.
@@ -73,17 +110,35 @@ protected:
         return text;
     }
     // "1 0 3 | -1 0": each element's list at one vertex
-    static std::string lists(const KdDbMline* mline, int vertex) {
+    static std::string lists(const KdDbMline* mline, int vertex, std::size_t from = 0) {
         int count = 0;
         GetSegmentsSize(mline, &count);
         std::string text;
         for (int k = 0; k < count; ++k) {
             text += k > 0 ? " |" : "";
-            for (const double value : lineList(mline, vertex, k)) {
-                text += (text.empty() ? "" : " ") + number(value);
+            const std::vector<double> list = lineList(mline, vertex, k);
+            for (std::size_t i = from; i < list.size(); ++i) {
+                text += (text.empty() ? "" : " ") + number(list[i]);
             }
         }
         return text;
+    }
+    // "0 3 | 0": without the offsets
+    static std::string breaksAt(const KdDbMline* mline, int vertex) {
+        return lists(mline, vertex, 1);
+    }
+    // "0,0 (1 0 7 | -1 0 5) 6,0 +8": vertices, the lists of each segment, flags beyond "has vertex"
+    static std::string drawn(const KdDbMline* mline) {
+        std::string text;
+        std::istringstream vertices(chain(mline));
+        std::string vertex;
+        const int segments = mline->numVertices() - ((flags(mline) & kFlagClosed) != 0 ? 0 : 1);
+        for (int v = 0; vertices >> vertex; ++v) {
+            text += (v > 0 ? " " : "") + vertex;
+            text += v < segments ? " (" + lists(mline, v) + ")" : "";
+        }
+        const int caps = flags(mline) & (kFlagNoStartCaps | kFlagNoEndCaps);
+        return caps == 0 ? text : text + " +" + std::to_string(caps);
     }
     // "1,0 / 0,1": axis and miter
     static std::string directions(const KdDbMline* mline, int vertex) {

