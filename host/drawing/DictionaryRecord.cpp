@@ -43,6 +43,19 @@ std::vector<PairTags> findPairs(const std::vector<Tag>& tags) {
     return pairs;
 }
 
+// The pair of this handle that isn't used yet, looked for from `start` on and then before it, as
+// entries mostly follow in the order of their pairs; the number of pairs when there is none.
+std::size_t findPair(const std::vector<PairTags>& pairs, const std::vector<bool>& used,
+                     std::size_t start, std::uint64_t handle) {
+    for (std::size_t step = 0; step < pairs.size(); ++step) {
+        const std::size_t at = (start + step) % pairs.size();
+        if (!used[at] && pairs[at].value == handle) {
+            return at;
+        }
+    }
+    return pairs.size();
+}
+
 std::vector<Tag> tagsOf(std::string_view bytes, const RecordSpan& span) {
     return RecordEdit(bytes, span.begin, span.end).tags();
 }
@@ -94,14 +107,13 @@ std::optional<std::string> editDictionary(const RecordContext& context, const Re
         fresh.add(102, "}"); // the file breaks off there
     }
     std::vector<bool> used(pairs.size());
+    std::size_t next = 0;
     bool same = entries.size() == pairs.size();
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const DictionaryEntry& entry = entries[i];
         const std::uint64_t handle = entry.id.isNull() ? 0 : entry.id.stub()->handle;
-        std::size_t old = 0;
-        while (old < pairs.size() && (used[old] || pairs[old].value != handle)) {
-            ++old;
-        }
+        const std::size_t old = findPair(pairs, used, next, handle);
+        next = old + 1;
         same = same && old == i;
         if (old == pairs.size()) {
             addPair(fresh, context, entry, handleCode);

@@ -419,6 +419,8 @@ void DrawingReader::warnOfStyles() {
         const KdDbStub* const style = m_document.findObject(handle);
         if (style == nullptr || style->kind != ObjectKind::mlineStyle) {
             lines.push_back(line);
+            // Nothing new may take the missing style's handle and so pass for it.
+            m_core.noteHighestHandle(handle);
         }
     }
     std::ranges::sort(lines);

@@ -160,6 +160,19 @@ TEST(NewMline, BringsWhatItRefersTo) {
     EXPECT_THAT(bytes, HasSubstr("MLINESTYLE"));
 }
 
+// The multiline A1 names a style A3 that the file doesn't have, and still does so afterwards.
+TEST(NewObjects, DoNotTakeTheHandleOfAMissingStyle) {
+    const std::string torn = dxf("0 SECTION\n2 ENTITIES\n0 MLINE\n5 A1\n8 0\n100 AcDbMline\n"
+                                 "2 GONE\n340 A3\n40 1.0\n70 0\n71 1\n72 0\n73 2\n"
+                                 "0 ENDSEC\n0 EOF\n");
+    const auto file = openDrawing(torn);
+    DatabaseCore& core = file->database().core();
+    addMline(*file, core.modelSpace(), core.findStyle(L"STANDARD"));
+    const auto again = openDrawing(file->bytes());
+    EXPECT_EQ(again->database().core().findHandle(0xA3), nullptr);
+    EXPECT_NE(again->database().core().findStyle(L"STANDARD")->record, kNoRecord);
+}
+
 TEST(NewObjects, AreWrittenWhereverTheFileBreaksOff) {
     const std::string sample = sampleDrawing();
     std::size_t at = 0;

@@ -89,6 +89,13 @@ TEST(Opening, NamesTheLineOfTheRecordThatContradictsItself) {
     EXPECT_THAT(warningsOf(damaged), HasSubstr(std::to_string(line) + ": a multiline"));
 }
 
+TEST(Opening, NamesTheLinesOfAllStylesThatContradictThemselves) {
+    const std::string styles = dxf("0 SECTION\n2 OBJECTS\n0 MLINESTYLE\n2 A\n71 5\n"
+                                   "0 MLINESTYLE\n2 B\n71 0\n0 MLINESTYLE\n2 C\n71 5\n");
+    EXPECT_THAT(warningsOf(styles), HasSubstr("5: a multiline style"));
+    EXPECT_THAT(warningsOf(styles), HasSubstr("17: a multiline style"));
+}
+
 TEST(Opening, KeepsAContradictingMultilineOutOfReach) {
     const auto file = openDrawing(replaced(sampleDrawing(), " 72\n     3", " 72\n     4"));
     KdDbStub& stub = stubOf(*file, 0x51);
