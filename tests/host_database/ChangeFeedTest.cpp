@@ -41,21 +41,6 @@ TEST(ChangeFeed, TellsEachObjectOnceTillItIsTaken) {
     EXPECT_EQ(feed.take(), Stubs{});
 }
 
-TEST(ChangeFeed, TellsWhatUndoBringsBackAndTakesAway) {
-    KdDbDatabase database;
-    DatabaseCore& core = database.core();
-    KdDbStub& line = core.addStub(ObjectKind::entity, 0x900, 1, nullptr); // never read
-    core.beginCommand();
-    core.erase(line);
-    const KdDbMline& made = makeMline(core);
-    core.endCommand();
-    ChangeFeed feed(core);
-    core.undo();
-    EXPECT_EQ(feed.take(), (Stubs{&line, made.objectId().stub()}));
-    EXPECT_FALSE(line.erased);
-    EXPECT_TRUE(made.isErased());
-}
-
 TEST(ChangeFeed, FeedsDontTakeFromEachOther) {
     KdDbDatabase database;
     DatabaseCore& core = database.core();

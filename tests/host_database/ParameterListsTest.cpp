@@ -16,12 +16,9 @@ struct ListPair {
 };
 using Model = std::vector<std::vector<ListPair>>; // by vertex, by element
 
-std::vector<double> values(std::span<const double> span) {
-    return {span.begin(), span.end()};
-}
-
-std::vector<double> values(const VoVector<double>& vector) {
-    return {vector.begin(), vector.end()};
+template <class List>
+std::vector<double> values(const List& list) {
+    return {list.begin(), list.end()};
 }
 
 VoVector<double> vectorOf(const std::vector<double>& from) {
@@ -86,9 +83,6 @@ void assignFlat(Fuzz& fuzz, ParameterLists& lists, Model& model) {
 }
 
 void setNested(Fuzz& fuzz, ParameterLists& lists, Model& model) {
-    if (model.empty()) {
-        return;
-    }
     const unsigned vertex = fuzz.below(static_cast<unsigned>(model.size()));
     model[vertex] = fuzz.record();
     VoVector<KdMLSegment> record;
@@ -99,9 +93,6 @@ void setNested(Fuzz& fuzz, ParameterLists& lists, Model& model) {
 }
 
 void readNested(Fuzz& fuzz, const ParameterLists& lists, const Model& model) {
-    if (model.empty()) {
-        return;
-    }
     const unsigned vertex = fuzz.below(static_cast<unsigned>(model.size()));
     const VoVector<KdMLSegment>& record = lists.nested(vertex);
     ASSERT_EQ(record.size(), model[vertex].size());
@@ -114,29 +105,17 @@ void readNested(Fuzz& fuzz, const ParameterLists& lists, const Model& model) {
 }
 
 void step(Fuzz& fuzz, ParameterLists& lists, Model& model) {
-    switch (fuzz.below(12)) {
-    case 0:
+    const unsigned kind = fuzz.below(12);
+    if (kind == 0) {
         assignFlat(fuzz, lists, model);
-        break;
-    case 1:
-    case 2:
+    } else if (kind < 3) {
         lists.appendVertex();
         model.emplace_back(model.empty() ? 0 : model[0].size());
-        break;
-    case 3:
-    case 4:
+    } else if (kind < 5) {
         lists.dropLastVertex();
-        if (!model.empty()) {
-            model.pop_back();
-        }
-        break;
-    case 5:
-    case 6:
-    case 7:
-        readNested(fuzz, lists, model);
-        break;
-    default:
-        setNested(fuzz, lists, model);
+        model.resize(model.empty() ? 0 : model.size() - 1);
+    } else if (!model.empty()) {
+        kind < 8 ? readNested(fuzz, lists, model) : setNested(fuzz, lists, model);
     }
 }
 
@@ -162,24 +141,17 @@ TEST(ParameterLists, BehaveAsNestedListsAndCopiesAsValues) {
     }
 }
 
-TEST(ParameterLists, CountsBeyondTheValuesAreCut) {
+TEST(ParameterLists, CountsBeyondTheValuesAreCutAndWhatIsOutsideIsEmpty) {
     ParameterLists lists;
     lists.assignFlat(1, {2, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF}, {1.0, 2.0, 3.0});
     EXPECT_EQ(values(lists.line(0, 0)), (std::vector{1.0, 2.0}));
     EXPECT_EQ(values(lists.area(0, 0)), (std::vector{3.0}));
     EXPECT_TRUE(lists.line(1, 0).empty());
-    EXPECT_TRUE(lists.area(1, 0).empty());
-}
-
-TEST(ParameterLists, WhatIsOutsideIsEmpty) {
-    ParameterLists lists;
-    lists.assignFlat(1, {1, 0}, {5.0});
     EXPECT_TRUE(lists.line(0, 1).empty());
-    EXPECT_TRUE(lists.line(1, 0).empty());
-    EXPECT_EQ(lists.elementCount(1), 0U);
-    EXPECT_EQ(lists.nested(1).size(), 0U);
-    lists.setNested(1, VoVector<KdMLSegment>(3));
-    EXPECT_EQ(lists.vertexCount(), 1U);
+    EXPECT_TRUE(lists.line(2, 0).empty());
+    EXPECT_EQ(lists.nested(2).size(), 0U);
+    lists.setNested(2, VoVector<KdMLSegment>(3));
+    EXPECT_EQ(lists.vertexCount(), 2U);
 }
 
 TEST(ParameterLists, EqualityGoesByBits) {

@@ -11,14 +11,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
+#include <functional>
 #include <random>
 
 namespace {
 
 using orvex::DatabaseCore;
 using orvex::HeaderHandle;
-using orvex::HeaderValue;
 using orvex::ObjectKind;
 using orvex::testing::FlatSource;
 
@@ -53,72 +52,48 @@ private:
     void put(KdDbStub* stub) { put(stub != nullptr ? stub->ordinal + 1 : 0); }
     void put(const HeaderHandle& handle) { put(handle.value); }
     void put(const KdCmColor& color) {
-        put(color.color());
-        put(color.colorIndex());
-        put(std::wstring(color.bookName()));
-        put(std::wstring(color.colorName()));
+        putAll(color.color(), color.colorIndex(), std::wstring(color.bookName()),
+               std::wstring(color.colorName()));
     }
-    void put(const VoVector<double>& list) {
+    void put(std::span<const double> list) {
         put(list.size());
-        for (const double value : list) {
-            put(value);
-        }
+        m_bytes.append(reinterpret_cast<const char*>(list.data()), list.size_bytes());
+    }
+    template <class... Values>
+    void putAll(const Values&... values) {
+        (put(values), ...);
     }
 
     void putObject(const KdDbObject& object) {
-        if (const auto* const mline = dynamic_cast<const KdDbMline*>(&object)) {
+        const auto content = object.content();
+        if (const auto* const mline = dynamic_cast<const orvex::MlineContent*>(content.get())) {
+            putAll(mline->traits->layer, mline->traits->color);
             putMline(*mline);
         } else if (const auto* const style = dynamic_cast<const KdDbMlineStyle*>(&object)) {
-            putStyle(*style);
+            putStyle(style->values());
         } else if (const auto* const entries = dynamic_cast<const KdDbDictionary*>(&object)) {
             for (const auto& entry : entries->entries().entries) {
-                put(entry.key);
-                put(entry.id.stub());
+                putAll(entry.key, entry.id.stub());
             }
         } else if (const auto* const layer = dynamic_cast<const KdDbLayerTableRecord*>(&object)) {
-            put(layer->name());
-            put(layer->color());
-            put(layer->isFrozen());
+            putAll(layer->name(), layer->color(), layer->isFrozen());
         }
     }
-    void putMline(const KdDbMline& mline) {
-        put(mline.layer());
-        put(mline.color());
-        put(mline.style().stub());
-        put(mline.scale());
-        put(mline.justification());
-        put(mline.closedMline());
-        put(mline.supressStartCaps());
-        put(mline.supressEndCaps());
-        put(mline.normal());
-        put(mline.numVertices());
-        for (int vertex = 0; vertex < mline.numVertices(); ++vertex) {
-            put(mline.vertexAt(vertex));
-            put(mline.axisAt(vertex));
-            put(mline.miterAt(vertex));
-            KdArray<void*> parameters;
-            mline.getParametersAt(vertex, parameters);
-            const auto& record = *static_cast<const VoVector<KdMLSegment>*>(parameters[0]);
-            put(record.size());
-            for (const KdMLSegment& segment : record) {
-                put(segment.m_areaParams);
-                put(segment.m_lineParams);
+    void putMline(const orvex::MlineContent& mline) {
+        putAll(mline.style.stub(), mline.scale, mline.justification, mline.closed,
+               mline.startCapsSuppressed, mline.endCapsSuppressed, mline.normal);
+        for (unsigned vertex = 0; vertex < mline.vertices.size(); ++vertex) {
+            putAll(mline.vertices[vertex], mline.lists.elementCount(vertex));
+            for (unsigned element = 0; element < mline.lists.elementCount(vertex); ++element) {
+                putAll(mline.lists.area(vertex, element), mline.lists.line(vertex, element));
             }
         }
     }
-    void putStyle(const KdDbMlineStyle& style) {
-        const orvex::MlineStyleContent& values = style.values();
-        put(values.name);
-        put(values.description);
-        put(values.flags);
-        put(values.fillColor);
-        put(values.startAngle);
-        put(values.endAngle);
-        for (const orvex::StyleElement& element : values.elements) {
-            put(element.offset);
-            put(element.color);
-            put(element.linetype.stub());
-            put(element.linetypeName);
+    void putStyle(const orvex::MlineStyleContent& style) {
+        putAll(style.name, style.description, style.flags, style.fillColor, style.startAngle,
+               style.endAngle);
+        for (const orvex::StyleElement& element : style.elements) {
+            putAll(element.offset, element.color, element.linetype.stub(), element.linetypeName);
         }
     }
 
@@ -138,26 +113,18 @@ public:
     }
 
     void editSomething() {
-        switch (below(10)) {
-        case 0:
-            editStyle();
-            break;
-        case 1:
-            editDictionary();
-            break;
-        case 2:
-            editVariable();
-            break;
-        case 3:
-            editLayer();
-            break;
-        default:
-            editMline();
-        }
+        oneOf({[&] { editStyle(); }, [&] { editDictionary(); }, [&] { editVariable(); },
+               [&] { editLayer(); }, [&] { editMline(); }, [&] { editMline(); },
+               [&] { editMline(); }, [&] { editMline(); }});
     }
 
 private:
     unsigned below(unsigned count) { return static_cast<unsigned>(m_random()) % count; }
+    bool either() { return below(2) == 1; }
+    void oneOf(std::initializer_list<std::function<void()>> edits) {
+        edits.begin()[below(static_cast<unsigned>(edits.size()))]();
+    }
+    std::wstring letter() { return {1, static_cast<wchar_t>(L'A' + below(4))}; }
 
     double number() {
         const double numbers[] = {0.0, -0.0, 1.0, -7.25, std::nan(""), INFINITY};
@@ -171,40 +138,13 @@ private:
             return;
         }
         KdGePoint3d point{number(), number(), number()};
-        switch (below(12)) {
-        case 0:
-            mline->setScale(number());
-            break;
-        case 1:
-            mline->appendSeg(point);
-            break;
-        case 2:
-            mline->removeLastSeg(point);
-            break;
-        case 3:
-            mline->setClosedMline(below(2) == 1);
-            break;
-        case 4:
-            mline->setLayer(below(2) == 1 ? L"0" : L"Walls");
-            break;
-        case 5:
-            copyOver(*mline);
-            break;
-        case 6:
-            if (below(4) == 0) {
-                mline->erase();
-            }
-            break;
-        case 7:
-            makeMline();
-            break;
-        case 8:
-            movePoints(*mline, point);
-            break;
-        default:
-            editList(*mline);
-        }
-        if (below(2) == 0) {
+        oneOf({[&] { mline->setScale(number()); }, [&] { mline->appendSeg(point); },
+               [&] { mline->removeLastSeg(point); }, [&] { mline->setClosedMline(either()); },
+               [&] { mline->setLayer(either() ? L"0" : L"Walls"); }, [&] { copyOver(*mline); },
+               [&] { below(4) == 0 ? void(mline->erase()) : void(); }, [&] { makeMline(); },
+               [&] { movePoints(*mline, point); }, [&] { editList(*mline); },
+               [&] { editList(*mline); }, [&] { editList(*mline); }});
+        if (either()) {
             mline->close();
         }
     }
@@ -234,7 +174,7 @@ private:
         KdDbMline copy;
         copy.copyFrom(&mline);
         mline.setScale(5.0);
-        if (below(2) == 0) {
+        if (either()) {
             mline.copyFrom(&copy); // no change, then
         }
     }
@@ -255,54 +195,30 @@ private:
         int index = 0;
         KdCmColor color;
         color.setNamesFromDictionaryKey(L"book$blue");
-        switch (below(4)) {
-        case 0:
-            style->addElement(index, number(), color, KdDbObjectId(), true);
-            break;
-        case 1:
-            style->removeElementAt(0);
-            break;
-        case 2:
-            style->setFilled(below(2) == 1);
-            break;
-        default:
-            style->setStartAngle(number());
-        }
+        oneOf({[&] { style->addElement(index, number(), color, KdDbObjectId(), true); },
+               [&] { style->removeElementAt(0); }, [&] { style->setFilled(either()); },
+               [&] { style->setStartAngle(number()); }});
     }
     void editDictionary() {
         KdDbDictionary* styles = nullptr;
         m_database.getMLStyleDictionary(styles, kForWrite);
-        const std::wstring key(1, static_cast<wchar_t>(L'A' + below(4)));
-        const std::wstring other(1, static_cast<wchar_t>(L'A' + below(4)));
-        KdDbObjectId id;
-        switch (below(4)) {
-        case 0:
-            styles->remove(key.c_str());
-            break;
-        case 1:
-            styles->setName(key.c_str(), other.c_str());
-            break;
-        default:
+        const std::wstring key = letter();
+        const auto put = [&] {
             auto* const style = new KdDbMlineStyle;
             style->initMlineStyle();
-            style->setName(key.c_str());
+            KdDbObjectId id;
             styles->setAt(key.c_str(), style, id);
-        }
+        };
+        oneOf({[&] { styles->remove(key.c_str()); },
+               [&] { styles->setName(key.c_str(), letter().c_str()); }, put, put});
     }
     void editVariable() {
-        switch (below(4)) {
-        case 0:
-            m_core.setVariable("CMLSCALE", number());
-            break;
-        case 1:
-            m_core.setVariable("CMLSTYLE", std::wstring(1, static_cast<wchar_t>(L'A' + below(4))));
-            break;
-        case 2:
-            m_core.setVariable("EXTMIN", KdGePoint3d{number(), number(), number()});
-            break;
-        default:
-            m_core.setVariable("NOVEL", static_cast<int>(below(2)));
-        }
+        oneOf({[&] { m_core.setVariable("CMLSCALE", number()); },
+               [&] { m_core.setVariable("CMLSTYLE", letter()); },
+               [&] {
+                   m_core.setVariable("EXTMIN", KdGePoint3d{number(), number(), number()});
+               },
+               [&] { m_core.setVariable("NOVEL", static_cast<int>(below(2))); }});
     }
     void editLayer() {
         KdDbLayerTableRecord* layer = nullptr;
@@ -310,7 +226,7 @@ private:
         KdCmColor color;
         color.setColorIndex(static_cast<std::uint16_t>(1 + below(3)));
         layer->setColor(color);
-        layer->setIsFrozen(below(2) == 1);
+        layer->setIsFrozen(either());
     }
 
     KdDbDatabase& m_database;
@@ -320,6 +236,7 @@ private:
 };
 
 TEST(Undo, RestoresEveryStepBitForBit) {
+    std::size_t steps = 0;
     for (unsigned seed = 1; seed <= 40; ++seed) {
         SCOPED_TRACE(seed);
         KdDbDatabase database;
@@ -329,33 +246,36 @@ TEST(Undo, RestoresEveryStepBitForBit) {
             ASSERT_NE(core.load(stub), nullptr);
         }
         std::vector<Fingerprint> before;
+        const auto stepBack = [&] {
+            const bool undone = core.undo() && Fingerprint(core) == before.back();
+            before.pop_back();
+            return undone;
+        };
         for (int i = 0; i < 60; ++i) {
             Fingerprint now(core);
             core.beginCommand();
-            for (unsigned edits = 1 + static_cast<unsigned>(i) % 4; edits > 0; --edits) {
+            for (int edits = 1 + i % 4; edits > 0; --edits) {
                 editor.editSomething();
             }
             const bool changed = !(Fingerprint(core) == now);
             ASSERT_EQ(core.endCommand(), changed);
             if (changed) {
                 before.push_back(std::move(now));
+                ++steps;
             } else {
                 ASSERT_TRUE(Fingerprint(core) == now);
             }
             // Now and then some steps back in between.
             for (int back = i % 7 == 6 ? 3 : 0; back > 0 && !before.empty(); --back) {
-                ASSERT_TRUE(core.undo());
-                ASSERT_TRUE(Fingerprint(core) == before.back());
-                before.pop_back();
+                ASSERT_TRUE(stepBack());
             }
         }
         while (!before.empty()) {
-            ASSERT_TRUE(core.undo());
-            ASSERT_TRUE(Fingerprint(core) == before.back());
-            before.pop_back();
+            ASSERT_TRUE(stepBack());
         }
         EXPECT_FALSE(core.undo());
     }
+    EXPECT_GT(steps, 1000U);
 }
 
 class UndoSteps : public ::testing::Test {
@@ -398,33 +318,6 @@ TEST_F(UndoSteps, ACommandWithoutNetChangeIsNone) {
     EXPECT_TRUE(command([this] { m_core.setVariable("EXTMIN", KdGePoint3d{0.0, 0.0, -0.0}); }));
     EXPECT_TRUE(command([this] { m_core.setVariable("EXTMIN", KdGePoint3d{0.0, 0.0, 0.0}); }));
     EXPECT_EQ(m_core.undoDepth(), 3U);
-}
-
-TEST_F(UndoSteps, ChangesOutsideOfCommandsAreNone) {
-    m_mline->setScale(2.0);
-    m_core.setVariable("CMLSCALE", 2.0);
-    EXPECT_EQ(m_core.undoDepth(), 0U);
-    EXPECT_EQ(m_core.changedStubs(), std::vector<KdDbStub*>{m_mline->objectId().stub()});
-}
-
-TEST_F(UndoSteps, NothingIsTakenBackInsideACommand) {
-    command([this] { m_mline->setScale(2.0); });
-    m_core.beginCommand();
-    EXPECT_FALSE(m_core.undo());
-    EXPECT_EQ(m_mline->scale(), 2.0);
-    m_core.endCommand();
-    EXPECT_TRUE(m_core.undo());
-    EXPECT_EQ(m_mline->scale(), 1.0);
-}
-
-TEST_F(UndoSteps, ImagesShareWhatIsntChanged) {
-    const auto image = m_mline->content();
-    m_mline->setScale(1.0);
-    EXPECT_NE(m_mline->content(), image); // unshared by the write
-    EXPECT_TRUE(m_mline->content()->equals(*image));
-    const auto& content = static_cast<const orvex::MlineContent&>(*image);
-    const auto& now = KdDbSystemInternals::getImpObject(m_mline)->content();
-    EXPECT_EQ(now.lists.line(0, 0).data(), content.lists.line(0, 0).data());
 }
 
 TEST_F(UndoSteps, TheOldestGoWhenMemoryRunsOut) {

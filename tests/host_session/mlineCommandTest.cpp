@@ -16,21 +16,20 @@ std::vector<double> lineOf(const KdDbMline& mline, int vertex, int element) {
 }
 
 TEST_F(SessionFixture, mlineDrawsUnbrokenElementsInTheCurrentSettings) {
-    core().setVariable("CMLJUST", 1);
-    play("MLINE\nS\n1.5\n0,0\n10,0\n10,10\n\n");
+    play("MLINE\nJ\nZ\nS\n1.5\nST\nStandard\n0,0\n10,0\n10,10\n\n");
     ASSERT_EQ(mlines().size(), 1U);
     const KdDbMline& mline = *mlines().front();
     EXPECT_EQ(mline.numVertices(), 3);
-    EXPECT_FALSE(mline.closedMline());
     EXPECT_EQ(mline.scale(), 1.5);
     EXPECT_EQ(mline.justification(), 1);
-    EXPECT_EQ(mline.normal(), (KdGeVector3d{0, 0, 1}));
-    EXPECT_EQ(mline.layer(), L"0");
     EXPECT_EQ(mline.style(), m_session->database().cmlstyle());
     EXPECT_EQ(mline.vertexAt(2), (KdGePoint3d{10, 10, 0}));
     EXPECT_THAT(lineOf(mline, 0, 0), ElementsAre(0.75, 0.0));
     EXPECT_THAT(lineOf(mline, 1, 1), ElementsAre(-1.0606601717798212, 0.0));
     EXPECT_EQ(core().variables().real("CMLSCALE"), 1.5);
+    play("U\n"); // one step together with its settings
+    EXPECT_EQ(mlines().size(), 0U);
+    EXPECT_EQ(core().variables().real("CMLSCALE"), 1.0);
 }
 
 TEST_F(SessionFixture, mlineClosesFromTheThirdPointOn) {
@@ -43,18 +42,8 @@ TEST_F(SessionFixture, mlineClosesFromTheThirdPointOn) {
     EXPECT_EQ(mlines().front()->numVertices(), 3);
 }
 
-TEST_F(SessionFixture, mlineJustifiesByKeyword) {
-    const std::pair<const char*, double> cases[] = {{"T", 0.0}, {"Z", 0.5}, {"B", 1.0}};
-    for (const auto& [keyword, first] : cases) {
-        play(std::string("MLINE\nJ\n") + keyword + "\n0,0\n10,0\n\n");
-        EXPECT_THAT(lineOf(*mlines().back(), 0, 0), ElementsAre(first, 0.0)) << keyword;
-    }
-    play("MLINE\nJ\n\n0,0\n10,0\n\n"); // an empty answer keeps it
-    EXPECT_EQ(mlines().back()->justification(), 2);
-}
-
 TEST_F(SessionFixture, mlineMakesNothingOfACancelOrOfOnePoint) {
-    for (const char* script : {"MLINE\n", "MLINE\n\n", "MLINE\n0,0\n\n", "MLINE\n0,0\n0,0\n\n",
+    for (const char* script : {"MLINE\n\n", "MLINE\n0,0\n\n", "MLINE\n0,0\n0,0\n\n",
                                "MLINE\n0,0\n10,0\n*CANCEL*\n", "MLINE\n0,0\n10,0\n"}) {
         EXPECT_EQ(play(script), Outcome::done) << script;
         EXPECT_EQ(mlines().size(), 0U) << script;
@@ -72,18 +61,6 @@ TEST_F(SessionFixture, mlineLiesInTheUserSystemAtTheLevelOfItsStart) {
     EXPECT_EQ(mlines().front()->vertexAt(0), (KdGePoint3d{100, 0, 8}));
     EXPECT_EQ(mlines().front()->vertexAt(1), (KdGePoint3d{100, 10, 8}));
     EXPECT_EQ(mlines().front()->axisAt(0), (KdGeVector3d{0, 1, 0}));
-}
-
-TEST_F(SessionFixture, mlineTakesTheStyleByName) {
-    play("MLINE\nST\nStandard\n0,0\n10,0\n\n");
-    ASSERT_EQ(mlines().size(), 1U);
-    EXPECT_EQ(mlines().front()->style().stub(), core().findStyle(L"STANDARD"));
-}
-
-TEST_F(SessionFixture, mlineIsOneStepTogetherWithItsSettings) {
-    play("MLINE\nS\n20\n0,0\n100,0\n\nU\n");
-    EXPECT_EQ(mlines().size(), 0U);
-    EXPECT_EQ(core().variables().real("CMLSCALE"), 1.0);
 }
 
 } // namespace

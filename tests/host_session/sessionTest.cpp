@@ -90,13 +90,9 @@ TEST_F(Dispatcher, tellsOfExceptionsAndGoesOn) {
     EXPECT_EQ(result.outcome, Outcome::failed);
     EXPECT_THAT(result.message, testing::HasSubstr(L"out of luck"));
     EXPECT_EQ(m_session->run(L"THROW").outcome, Outcome::failed);
-    EXPECT_EQ(play("ZOOM\nE\n"), Outcome::done);
-}
-
-TEST_F(Dispatcher, runsNoCommandInsideOfAnother) {
-    insideOutcome = Outcome::done;
     EXPECT_EQ(m_session->run(L"INSIDE").outcome, Outcome::done);
-    EXPECT_EQ(insideOutcome, Outcome::busy);
+    EXPECT_EQ(insideOutcome, Outcome::busy); // no command runs inside of another
+    EXPECT_EQ(play("ZOOM\nE\n"), Outcome::done);
 }
 
 TEST_F(SessionFixture, loadsTheModuleForANameThatIsUnknown) {
@@ -112,17 +108,6 @@ TEST_F(SessionFixture, refusesCommandsWithDialogsWithoutAWindow) {
     }
 }
 
-TEST_F(SessionFixture, tellsWhenTheModuleCannotBeLoaded) {
-    orvex::SessionSetup setup;
-    setup.drawing = orvex::DrawingFile::create();
-    setup.moduleFiles = {"/nowhere/module.omx"};
-    m_session.reset();
-    m_session = std::make_unique<orvex::Session>(std::move(setup), m_modules);
-    const auto result = m_session->run(L"-MLEDIT");
-    EXPECT_EQ(result.outcome, Outcome::moduleFailed);
-    EXPECT_THAT(result.message, testing::HasSubstr(L"/nowhere/module.omx"));
-}
-
 TEST_F(SessionFixture, isWhatModulesFindWhileItLives) {
     ASSERT_NE(curDoc(), nullptr);
     EXPECT_EQ(curDoc()->database(), &m_session->database());
@@ -134,12 +119,12 @@ TEST_F(SessionFixture, isWhatModulesFindWhileItLives) {
 
     m_session.reset();
     EXPECT_EQ(curDoc(), nullptr);
-    EXPECT_EQ(GetRvexAppCtxActiveDocContext(), nullptr);
     EXPECT_EQ(PromptSession::current().source, nullptr);
 }
 
 TEST_F(SessionFixture, undoTakesBackCommandsOneByOneAndSaysWhenThereAreNone) {
-    play("MLINE\n0,0\n10,0\n\nMLINE\n0,5\n10,5\n\n");
+    // Empty lines and cancels at the command prompt repeat nothing.
+    play("MLINE\n0,0\n10,0\n\n\n*CANCEL*\n\nMLINE\n0,5\n10,5\n\n");
     EXPECT_EQ(mlines().size(), 2U);
     play("u\n");
     EXPECT_EQ(mlines().size(), 1U);
@@ -148,11 +133,6 @@ TEST_F(SessionFixture, undoTakesBackCommandsOneByOneAndSaysWhenThereAreNone) {
     m_printed.clear();
     EXPECT_EQ(play("U\n"), Outcome::done);
     EXPECT_EQ(m_printed.back(), L"There is nothing to undo.");
-}
-
-TEST_F(SessionFixture, emptyLinesAndCancelsAtTheCommandPromptRepeatNothing) {
-    play("MLINE\n0,0\n10,0\n\n\n*CANCEL*\n\n");
-    EXPECT_EQ(mlines().size(), 1U);
 }
 
 } // namespace

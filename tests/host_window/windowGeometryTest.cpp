@@ -1,11 +1,8 @@
-#include "CPtrArray.h"
 #include "CRect.h"
 #include "DialogPair.h"
 
-#include <QHeaderView>
 #include <QLabel>
 #include <QScreen>
-#include <QTableWidget>
 
 #include <gtest/gtest.h>
 
@@ -45,7 +42,6 @@ TEST(WindowGeometry, aRectangleThatCannotBeUsedLeavesTheDefaultPlace) {
     const CRect cases[] = {
         {0, 0, 0, 0},                         // empty
         {100, 100, 50, 300},                  // the wrong way round
-        {100, 100, 300, 100},                 // no height
         {INT_MIN, INT_MIN, INT_MAX, INT_MAX}, // wider than an int
         {INT_MIN, 0, INT_MIN + 200, 200},     // far off
         {5000, 100, 5300, 300},               // right of every screen
@@ -83,46 +79,6 @@ TEST(WindowGeometry, controlsArePlacedInTheirDialog) {
     EXPECT_EQ(extreme, CRect(INT_MIN, INT_MIN, INT_MAX - 100, INT_MAX - 50));
     item->MoveWindow(CRect(INT_MIN, 0, INT_MAX, -5));
     EXPECT_EQ(label.height(), 0);
-    logic.GetWindowRect(nullptr);
-    logic.ScreenToClient(nullptr);
-}
-
-TEST(WindowGeometry, aTablesClientAreaHoldsItsColumns) {
-    Logic logic;
-    auto& table = logic.add<QTableWidget>(1046);
-    table.verticalHeader()->hide();
-    table.resize(302, 150);
-    int width = 0;
-    logic.onInit = [&] {
-        CRect client;
-        logic.GetDlgItem(1046)->GetClientRect(&client);
-        width = client.Width();
-        return 0;
-    };
-    logic.DoModal();
-    EXPECT_EQ(width, table.viewport()->width());
-    EXPECT_GT(width, 290);
-    EXPECT_LE(width, 302);
-}
-
-TEST(WindowGeometry, recordsArePlain) {
-    CRect rect;
-    rect.SetRect(1, 2, 11, 22);
-    EXPECT_EQ(rect.Width(), 10);
-    EXPECT_EQ(rect.Size().cy, 20);
-    EXPECT_EQ(CRect(INT_MIN, 0, INT_MAX, 0).Width(), INT_MAX);
-    const CSize size;
-    EXPECT_EQ(size.cx, 0);
-    EXPECT_EQ(size.cy, 0);
-    CPtrArray array;
-    int value = 0;
-    EXPECT_EQ(array.Add(&value), 0);
-    EXPECT_EQ(array.Add(nullptr), 1);
-    EXPECT_EQ(array.GetAt(0), &value);
-    EXPECT_EQ(array.GetAt(2), nullptr);
-    EXPECT_EQ(array.GetAt(-1), nullptr);
-    array.RemoveAll();
-    EXPECT_EQ(array.GetSize(), 0);
 }
 
 } // namespace
