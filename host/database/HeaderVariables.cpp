@@ -65,6 +65,11 @@ int HeaderVariables::integer(std::string_view name) const {
     return valueOr(find(name), 0);
 }
 
+int HeaderVariables::integerWithin(std::string_view name, int low, int high, int otherwise) const {
+    const int value = integer(name);
+    return value >= low && value <= high ? value : otherwise;
+}
+
 double HeaderVariables::real(std::string_view name) const {
     return valueOr(find(name), 0.0);
 }

@@ -32,6 +32,8 @@ public:
     void remove(std::string_view name);
 
     [[nodiscard]] int integer(std::string_view name) const; // 0 for another type
+    // A file's header may hold anything: `otherwise` for what isn't from `low` to `high`.
+    [[nodiscard]] int integerWithin(std::string_view name, int low, int high, int otherwise) const;
     [[nodiscard]] double real(std::string_view name) const;
     [[nodiscard]] KdGePoint3d point(std::string_view name) const;
     [[nodiscard]] const std::wstring& text(std::string_view name) const;

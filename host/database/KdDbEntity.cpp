@@ -10,6 +10,14 @@ std::wstring textOf(const wchar_t* text) {
     return text != nullptr ? text : L"";
 }
 
+constexpr int kByLayer = 256;
+
+// Nothing may be drawn with a line type that the drawing doesn't have.
+std::wstring currentLinetype(const orvex::DatabaseCore& core) {
+    const std::wstring& name = core.variables().text("CELTYPE");
+    return core.findLinetype(name) != nullptr ? name : L"ByLayer";
+}
+
 } // namespace
 
 KdDbEntity::KdDbEntity() {
@@ -100,9 +108,10 @@ void KdDbEntity::setDatabaseDefaults(const KdDbDatabase* database) {
     const orvex::HeaderVariables& variables = database->core().variables();
     auto traits = *m_traits;
     traits.layer = variables.text("CLAYER");
-    traits.linetype = variables.text("CELTYPE");
+    traits.linetype = currentLinetype(database->core());
     traits.linetypeScale = variables.real("CELTSCALE");
     traits.color = KdCmColor();
-    traits.color.setColorIndex(static_cast<std::uint16_t>(variables.integer("CECOLOR")));
+    traits.color.setColorIndex(
+        static_cast<std::uint16_t>(variables.integerWithin("CECOLOR", 0, kByLayer, kByLayer)));
     setTraits(traits);
 }

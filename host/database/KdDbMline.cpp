@@ -163,7 +163,7 @@ void KdDbMline::setDatabaseDefaults(const KdDbDatabase* database) {
     orvex::MlineContent& content = m_imp->changeContent();
     content.style = database->cmlstyle();
     content.scale = variables.real("CMLSCALE");
-    content.justification = variables.integer("CMLJUST");
+    content.justification = variables.integerWithin("CMLJUST", 0, 2, 0);
 }
 
 void KdDbMline::storeTraits(std::shared_ptr<const orvex::EntityTraits> traits) {

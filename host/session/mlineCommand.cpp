@@ -142,7 +142,7 @@ KdGePoint3d userToWorld(const KdGePoint3d& point, int displacement) {
 MlineSettings currentSettings(const DatabaseCore& core, KdDbObjectId styleId) {
     MlineSettings settings;
     settings.scale = core.variables().real("CMLSCALE");
-    settings.justification = core.variables().integer("CMLJUST");
+    settings.justification = core.variables().integerWithin("CMLJUST", 0, 2, 0);
     KdDbMlineStyle* style = nullptr;
     kddbOpenObject(style, styleId, kForRead);
     if (style == nullptr) {

@@ -1,3 +1,4 @@
+#include "DatabaseCore.h"
 #include "FlatSource.h"
 #include "KdDbDatabase.h"
 #include "KdDbMlineStyle.h"
@@ -147,6 +148,27 @@ TEST(KdDbMline, AContentWithTooFewListsIsFilledUp) {
     EXPECT_EQ(mline.numVertices(), 4);
     EXPECT_EQ(parametersOf(mline, 3)->size(), 1U);
     EXPECT_EQ(content->lists.vertexCount(), 2U); // the giver's value isn't touched
+}
+
+// The header of a file may hold what no command would have set.
+TEST(KdDbMline, TakesNoCurrentValueThatIsNone) {
+    KdDbDatabase database;
+    orvex::DatabaseCore& core = database.core();
+    core.setVariable("CMLJUST", 9);
+    core.setVariable("CECOLOR", -7);
+    core.setVariable("CELTYPE", std::wstring(L"GONE"));
+    KdDbMline mline;
+    mline.setDatabaseDefaults(&database);
+    EXPECT_EQ(mline.justification(), 0);
+    EXPECT_EQ(mline.color().colorIndex(), 256);
+    EXPECT_EQ(mline.linetype(), L"ByLayer");
+    core.setVariable("CMLJUST", 2);
+    core.setVariable("CECOLOR", 3);
+    core.setVariable("CELTYPE", std::wstring(L"BYBLOCK"));
+    mline.setDatabaseDefaults(&database);
+    EXPECT_EQ(mline.justification(), 2);
+    EXPECT_EQ(mline.color().colorIndex(), 3);
+    EXPECT_EQ(mline.linetype(), L"BYBLOCK");
 }
 
 } // namespace
