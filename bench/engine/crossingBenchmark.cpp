@@ -16,7 +16,8 @@ using Chain = std::vector<ChainPoint>;
 Chain zigzag(int vertices, bool second) {
     Chain chain;
     for (int i = 0; i < vertices; ++i) {
-        const double along = (i - vertices / 2) * 10.0 + 3.0;
+        const int fromMiddle = i - vertices / 2;
+        const double along = fromMiddle * 10.0 + 3.0;
         const double across = i % 2 == 0 ? 0.0 : 5.0;
         chain.push_back(second ? ChainPoint{{across, along, 0.0}}
                                : ChainPoint{{along, across, 0.0}});
@@ -27,7 +28,8 @@ Chain zigzag(int vertices, bool second) {
 // Up to the right, or down to the right for the second.
 Chain steps(int vertices, bool second) {
     Chain chain;
-    double x = -5.0 * (vertices / 2);
+    const int half = vertices / 2;
+    double x = -5.0 * half;
     double y = second ? -x : x;
     for (int i = 0; i < vertices; ++i) {
         chain.push_back({{x, y + (second ? 1.0 : 0.0), 0.0}});

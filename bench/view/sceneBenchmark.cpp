@@ -49,7 +49,8 @@ public:
         return kGrid * static_cast<double>(i % m_side);
     }
     [[nodiscard]] double row(std::int64_t i) const {
-        return kGrid * static_cast<double>(i / m_side);
+        const std::int64_t number = i / m_side;
+        return kGrid * static_cast<double>(number);
     }
 
     KdDbDatabase database;

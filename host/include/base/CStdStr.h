@@ -56,7 +56,9 @@ public:
         return a;
     }
     friend bool operator==(const CStdStr& a, const CStdStr& b) { return a.m_text == b.m_text; }
-    friend bool operator==(const CStdStr& a, const Char* b) { return a.m_text == CStdStr(b).m_text; }
+    friend bool operator==(const CStdStr& a, const Char* b) {
+        return a.m_text == CStdStr(b).m_text;
+    }
 
 private:
     std::basic_string<Char> m_text;

@@ -41,6 +41,7 @@ public:
     }
     VoVector(VoVector&& other) noexcept
         : m_block(std::exchange(other.m_block, nullptr)), m_policy(other.m_policy) {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): the copy is taken before anything goes.
     VoVector& operator=(const VoVector& other) {
         VoVector copy(other);
         swap(copy);
