@@ -84,6 +84,7 @@ void reorder(QTableWidget& table, const std::vector<int>& order) {
     const int currentRow = table.currentRow();
     const int currentColumn = std::max(table.currentColumn(), 0);
     std::vector<TakenRow> rows;
+    rows.reserve(static_cast<std::size_t>(table.rowCount()));
     for (int row = 0; row < table.rowCount(); ++row) {
         rows.push_back(takeRow(table, row));
     }
