@@ -28,8 +28,9 @@ std::vector<Stroke> strokes(const std::vector<double>& dashes, double width) {
     constexpr double kDot = 1.5;
     const double period = std::min(width / 2, kDashRoom * static_cast<double>(dashes.size()));
     std::vector<Stroke> found;
-    for (double start = 0; start < width; start += period) {
-        double at = start;
+    const int repeats = static_cast<int>(std::ceil(width / period));
+    for (int i = 0; i < repeats; ++i) {
+        double at = i * period;
         for (const double dash : dashes) {
             const double size = std::abs(dash) / length * period;
             if (dash >= 0) {

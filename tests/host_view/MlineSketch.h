@@ -46,6 +46,7 @@ inline MlineContent sketchMline(const std::vector<SketchVertex>& vertices, bool 
 inline MlineContent sketchEastward(double x, double y, double length,
                                    const std::vector<ValueList>& lines) {
     std::vector<ValueList> last;
+    last.reserve(lines.size());
     for (const ValueList& list : lines) {
         last.push_back({list.front(), 0.0});
     }

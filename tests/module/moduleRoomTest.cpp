@@ -31,7 +31,7 @@ TEST(ResourceLibraryName, ofAnUnknownModuleOpensNothing) {
 
 TEST(ExtensionModule, attachesOnceTillItIsDetached) {
     CKdExtensionModule record;
-    const auto first = reinterpret_cast<HINSTANCE>(&record);
+    auto* const first = reinterpret_cast<HINSTANCE>(&record);
     AfxSetResourceHandle(first);
     EXPECT_TRUE(record.AttachInstance(first));
     EXPECT_EQ(record.m_defaultResourceHandle, first);
