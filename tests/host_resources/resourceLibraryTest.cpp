@@ -25,7 +25,7 @@ protected:
     static std::wstring load(HINSTANCE library, unsigned number, int size = 64) {
         std::vector<wchar_t> buffer(64, L'#');
         const int length = LoadStringW(library, number, buffer.data(), size);
-        const std::wstring text = buffer.data();
+        std::wstring text = buffer.data();
         EXPECT_EQ(static_cast<std::size_t>(length), text.size());
         return text;
     }
