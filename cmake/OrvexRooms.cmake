@@ -7,11 +7,12 @@
 #       The target orvex_if_<subject>: the headers in host/include/<subject> and those of the subjects it uses. There is
 #       no include folder above them, so a source sees the subjects that its room names and no others.
 #
-#   orvex_room(<name> SOURCES <file>... [USES <target>...] [PRIVATE_USES <target>...] [VISIBILITY default|hidden] [MOC])
+#   orvex_room(<name> SOURCES <file>... [USES <target>...] [PRIVATE_USES <target>...] [VISIBILITY default|hidden] [MOC] [UIC])
 #       An OBJECT library of the sources in this folder, with the folder itself as its include folder. USES are the
 #       targets its headers need (interfaces, rooms, packages such as Qt5::Core), PRIVATE_USES those that only its
 #       sources need. They must exist: a room is built on what lies below it. Symbols are visible by default in the
-#       host's rooms, for modules call them, and hidden elsewhere. MOC runs Qt's meta-object compiler.
+#       host's rooms, for modules call them, and hidden elsewhere. MOC runs Qt's meta-object compiler, UIC its compiler
+#       of layouts: "ui_X.h" is made of X.ui in this folder.
 #       Rooms are named after their folder: host_database, engine.
 #
 #   orvex_library(<target> SHARED|MODULE FILE <file name> ROOMS <room>... [LINKS <target>...])
@@ -42,7 +43,7 @@ function(orvex_interface subject)
 endfunction()
 
 function(orvex_room name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "MOC" "VISIBILITY" "SOURCES;USES;PRIVATE_USES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "MOC;UIC" "VISIBILITY" "SOURCES;USES;PRIVATE_USES")
     orvex_refuse_rest("orvex_room(${name})" "${arg_UNPARSED_ARGUMENTS}" "${arg_KEYWORDS_MISSING_VALUES}")
     orvex_need_targets("orvex_room(${name})" ${arg_USES} ${arg_PRIVATE_USES})
 
@@ -64,6 +65,7 @@ function(orvex_room name)
     endif()
     set_target_properties(${name} PROPERTIES
         AUTOMOC ${arg_MOC}
+        AUTOUIC ${arg_UIC}
         ORVEX_ROOM_USES "${arg_USES};${arg_PRIVATE_USES}")
     set_property(GLOBAL APPEND PROPERTY ORVEX_ROOMS ${name})
 

@@ -58,12 +58,13 @@ RULES = {
     # The programs. The module is a file to them.
     "apps/common": host(*SUBJECTS) + ["host/drawing", "host/session"],
     "apps/batch": host(*SUBJECTS) + ["host/drawing", "host/session", "apps/common"],
-    "apps/desk": host(*SUBJECTS, *WINDOWS) + ["host/drawing", "host/session", "apps/common"],
+    "apps/canvas": host(*SUBJECTS) + ["host/drawing", "host/session", "apps/common"],
+    "apps/desk": host(*SUBJECTS, *WINDOWS) + ["host/drawing", "host/session", "apps/common", "apps/canvas"],
 }
 
 # Headers from outside the tree, and the only rooms that may reach them.
 OUTSIDE = {
-    "QWidget": ["host/window", "host/ui", "controls", "dialogs", "module", "apps/desk"],
+    "QWidget": ["host/window", "host/ui", "controls", "dialogs", "module", "apps/canvas", "apps/desk"],
 }
 
 NOT_ROOMS = ("tests", "bench", "build", "out", "docs", "samples", "tools", "cmake")

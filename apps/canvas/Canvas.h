@@ -1,0 +1,80 @@
+#pragma once
+
+#include "PromptSource.h"
+#include "Session.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace orvex {
+
+// What a click on the canvas is taken for.
+enum class CanvasAim {
+    none,   // nothing asks: crosshair, the entity under it is highlighted
+    entity, // a prompt asks for a pick: the cursor is the pick box
+    point,  // a prompt asks for a point: crosshair
+};
+
+// Shows the drawing of a session and takes clicks on it; knows no command and no prompt.
+//
+// The picture is painted in slices of a few milliseconds between events, over the picture before,
+// moved and scaled; so panning and zooming answer at once in a drawing of any size. Wheel: zoom at
+// the cursor. Middle button or Shift with the left one: pan. Middle double click: extents.
+class Canvas final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Canvas(QWidget* parent = nullptr);
+    ~Canvas() override;
+
+    // The session's view follows the widget's size from now on. Null: an empty canvas. Not owned.
+    void setSession(Session* session);
+
+    // What the next click is for, and what moves with the cursor meanwhile: a line from `base`
+    // (world), or what the prompt's preview draws.
+    void setAim(CanvasAim aim, const PromptRequest* request = nullptr);
+    [[nodiscard]] CanvasAim aim() const;
+
+    // Something in the drawing changed or was hidden: paints what is different, soon.
+    void refresh();
+    // The view was changed by a command.
+    void viewChanged();
+
+    void zoomExtents();
+    void zoomBy(double factor); // around the middle; above 1 shows less of the plan
+    void startZoomWindow();     // the next two clicks, or a drag, give the window
+    void zoomPrevious();
+
+    // The picture is complete and nothing is waiting to be painted.
+    [[nodiscard]] bool isSettled() const;
+
+signals:
+    void cursorMoved(double worldX, double worldY);
+    void cursorLeft();
+    // A click while the aim is entity or point.
+    void clicked(double worldX, double worldY);
+    // The right button, which ends a prompt as Enter does.
+    void rightClicked();
+    // A key that the canvas has no use for, so that one can type wherever the focus is.
+    void keyTyped(QKeyEvent* event);
+    void settled();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct State;
+    std::unique_ptr<State> m_state;
+};
+
+} // namespace orvex
