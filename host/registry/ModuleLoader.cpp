@@ -39,6 +39,24 @@ std::string lastLinkerError() {
     return text != nullptr ? text : "it can't be opened";
 }
 
+// A module names the host's libraries without a folder, and needn't lie beside them: it finds those
+// that are open. This library is; the two for windows are opened here, once and for good. A host
+// without them still loads modules that need none.
+void openWindowLibraries() {
+    static const bool done = [] {
+        Dl_info self{};
+        if (dladdr(reinterpret_cast<const void*>(&openWindowLibraries), &self) == 0) {
+            return false;
+        }
+        const auto folder = std::filesystem::path(self.dli_fname).parent_path();
+        for (const char* name : {"libVoMFCWrapper.so", "liborvexui.so"}) {
+            dlopen((folder / name).c_str(), RTLD_LAZY | RTLD_LOCAL);
+        }
+        return true;
+    }();
+    (void)done;
+}
+
 } // namespace
 
 struct ModuleLoader::Module {
@@ -73,6 +91,7 @@ std::optional<std::string> ModuleLoader::load(const std::string& path) {
     if (isLoaded(path)) {
         return std::nullopt;
     }
+    openWindowLibraries();
     auto module = std::make_unique<Module>();
     module->path = absolutePath(path);
     module->library.reset(dlopen(module->path.c_str(), RTLD_NOW | RTLD_LOCAL));
