@@ -103,7 +103,9 @@ BatchCall parseBatchCall(int argc, const char* const* argv) {
     } catch (const CLI::Success&) {
         return AnsweredCall{false, app.help()}; // of the verb that was asked
     } catch (const CLI::ParseError& error) {
-        return AnsweredCall{true, error.what()};
+        const bool hasVerb = !app.get_subcommands().empty();
+        return AnsweredCall{true,
+                            hasVerb ? error.what() : "the first word has to be run, show or list"};
     }
     if (run->parsed()) {
         return options.run;

@@ -18,6 +18,12 @@
 
 namespace orvex {
 
+namespace {
+
+constexpr auto kLastHandle = std::numeric_limits<std::uint64_t>::max();
+
+} // namespace
+
 DatabaseCore::DatabaseCore(KdDbDatabase* owner)
     : m_owner(owner), m_serial(registerDatabase(*this)), m_undo(std::make_unique<UndoLog>(*this)) {}
 
@@ -65,13 +71,14 @@ void DatabaseCore::noteHighestHandle(std::uint64_t handle) {
 std::uint64_t DatabaseCore::nextHandle() {
     const HeaderValue* const value = m_variables.find("HANDSEED");
     const auto* const seed = value != nullptr ? std::get_if<HeaderHandle>(value) : nullptr;
-    const std::uint64_t wanted = std::max<std::uint64_t>(seed != nullptr ? seed->value : 0, 1);
-    constexpr auto kLast = std::numeric_limits<std::uint64_t>::max();
-    if (m_highestHandle < kLast) {
+    // Behind the last handle comes none, so a seed that stands there says nothing.
+    const bool isUsable = seed != nullptr && seed->value != 0 && seed->value != kLastHandle;
+    const std::uint64_t wanted = isUsable ? seed->value : 1;
+    if (m_highestHandle < kLastHandle) {
         return std::max(wanted, m_highestHandle + 1);
     }
     // A file that uses the very last handle: take what is free from the seed on.
-    std::uint64_t handle = wanted == kLast ? 1 : wanted;
+    std::uint64_t handle = wanted;
     while (findHandle(handle) != nullptr) {
         ++handle;
     }
@@ -80,7 +87,7 @@ std::uint64_t DatabaseCore::nextHandle() {
 
 std::uint64_t DatabaseCore::takeHandle() {
     const std::uint64_t handle = nextHandle();
-    setVariable("HANDSEED", HeaderHandle{handle + 1});
+    setVariable("HANDSEED", HeaderHandle{handle == kLastHandle ? kLastHandle : handle + 1});
     m_highestHandle = std::max(m_highestHandle, handle);
     if (!m_inCommand) {
         noteHighestHandle(handle);

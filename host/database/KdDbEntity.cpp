@@ -107,7 +107,9 @@ void KdDbEntity::setDatabaseDefaults(const KdDbDatabase* database) {
     }
     const orvex::HeaderVariables& variables = database->core().variables();
     auto traits = *m_traits;
-    traits.layer = variables.text("CLAYER");
+    // A current layer that was purged is still named in some files.
+    const std::wstring layer = variables.text("CLAYER");
+    traits.layer = database->core().findLayer(layer) != nullptr ? layer : L"0";
     traits.linetype = currentLinetype(database->core());
     traits.linetypeScale = variables.real("CELTSCALE");
     traits.color = KdCmColor();

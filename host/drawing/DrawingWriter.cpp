@@ -11,6 +11,7 @@
 #include "TableRecords.h"
 
 #include <algorithm>
+#include <limits>
 #include <unordered_set>
 
 namespace orvex {
@@ -354,7 +355,9 @@ void DrawingWriter::writeHeader() {
         for (const KdDbStub* const table : {m_core.layerTable, m_core.linetypeTable}) {
             highest = std::max(highest, table != nullptr ? table->handle : 0);
         }
-        m_variables.emplace_back("HANDSEED", HeaderHandle{std::max(seed, highest + 1)});
+        const bool isLast = highest == std::numeric_limits<std::uint64_t>::max();
+        m_variables.emplace_back("HANDSEED",
+                                 HeaderHandle{std::max(seed, isLast ? highest : highest + 1)});
         if (m_document.version.empty()) {
             // Readers take a drawing without a version for one from before multilines.
             m_variables.emplace(m_variables.begin(), "ACADVER", std::wstring(kUsualVersion));

@@ -96,6 +96,20 @@ TEST(NewMline, StandsBehindTheOthersOfItsBlock) {
         insertedBefore("0 MLINE\n5 100\n330 1C\n100 AcDbEntity\n8 0\n", "  0\nENDBLK", 0)));
 }
 
+// No handle comes behind the last one, so a seed there is as good as none.
+TEST(NewMline, TakesTheNextHandleWhereTheSeedIsNoUse) {
+    const std::string bytes =
+        replaced(sampleDrawing(), "$HANDSEED\n  5\n100", "$HANDSEED\n  5\nFFFFFFFFFFFFFFFF");
+    const auto file = openDrawing(bytes);
+    DatabaseCore& core = file->database().core();
+    std::uint64_t highest = 0;
+    for (const KdDbStub& stub : core.stubs()) {
+        highest = std::max(highest, stub.handle);
+    }
+    EXPECT_EQ(addMline(*file, core.modelSpace(), &stubOf(*file, 0x2F)).handle, highest + 1);
+    EXPECT_EQ(std::get<HeaderHandle>(*core.variables().find("HANDSEED")).value, highest + 2);
+}
+
 TEST(NewStyle, IsListedInTheDictionary) {
     const std::string sample = sampleDrawing();
     const auto file = openDrawing(sample);
