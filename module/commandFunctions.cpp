@@ -1,34 +1,36 @@
 #include "commandFunctions.h"
 
+#include "CMLEditDialog.h"
 #include "CStdStr.h"
 #include "CommandResources.h"
-#include "dialogs.h"
+#include "commandLine.h"
 #include "mlineEditOperation.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "toolTable.h"
 
-#include <memory>
+#include <optional>
 
 void cmd_vomlstyle() {
-    std::unique_ptr<ModuleDialog> dialog; // goes after the library was released
     const CommandResources resources;
     if (resources.handle() == nullptr) {
         return;
     }
-    dialog = makeStyleDialog();
-    dialog->doModal();
+    constexpr unsigned kNoDialogText = 4016;
+    CStdStr<wchar_t> text;
+    text.LoadStringW(kNoDialogText);
+    kdutPrintf(L"%ls", text.c_str());
 }
 
 void cmd_vomledit() {
-    std::unique_ptr<ModuleDialog> dialog;
+    std::optional<CMLEditDialog> palette; // goes after the library was released
     const CommandResources resources;
     if (resources.handle() == nullptr) {
         return;
     }
-    dialog = makeToolPalette();
-    dialog->doModal();
-    mlineEditOperation(dialog->toolNumber(), resources.handle());
+    palette.emplace(nullptr);
+    palette->DoModal();
+    mlineEditOperation(palette->m_toolNumber, resources.handle());
 }
 
 void cmd_vomleditcli() {
