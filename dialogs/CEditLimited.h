@@ -1,0 +1,18 @@
+#pragma once
+
+#include "CEdit.h"
+
+// The name field of the new and rename dialogs. It knows a limit and doesn't enforce it: names of
+// styles may be longer than it says.
+class CEditLimited : public CEdit {
+public:
+    void SetMaxWords(int limit); // 0 and less leave the limit
+    [[nodiscard]] int maxWords() const { return m_maxWords; }
+
+    // Takes no notification while the field notifies, which it always does.
+    bool OnChildNotify(unsigned message, unsigned long wParam, long lParam, long* result) override;
+
+private:
+    int m_maxWords = 8;
+    bool m_notifies = true;
+};

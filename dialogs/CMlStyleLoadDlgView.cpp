@@ -1,0 +1,60 @@
+#include "CMlStyleLoadDlgView.h"
+
+#include "CMlStyleLoadDlg.h"
+#include "logicOf.h"
+#include "ui_CMlStyleLoadDlg.h"
+
+namespace VOUI {
+
+CMlStyleLoadDlg::CMlStyleLoadDlg(QWidget* parent, CWnd* logic)
+    : QBaseDialog(parent), m_layout(std::make_unique<Ui_CMlStyleLoadDlg>()) {
+    m_layout->setupUi(this);
+    connect(m_layout->pBtnFile, &QPushButton::clicked, this, &CMlStyleLoadDlg::OnLoadFileStyle);
+    connect(m_layout->listWidget, &QListWidget::itemDoubleClicked, this,
+            &CMlStyleLoadDlg::OnDbClick);
+    connect(m_layout->listWidget, &QListWidget::itemClicked, this,
+            &CMlStyleLoadDlg::OnSelectChanged);
+    connect(m_layout->pBtnOK, &QPushButton::clicked, this, &CMlStyleLoadDlg::OnOK);
+    connect(m_layout->pBtnCancel, &QPushButton::clicked, this, &CMlStyleLoadDlg::OnCancel);
+
+    auto* const dialog = dynamic_cast<::CMlStyleLoadDlg*>(logic);
+    if (dialog == nullptr) {
+        return;
+    }
+    dialog->SetHandle(this);
+    dialog->SetAutoDelete(true, true);
+    dialog->SetDlgItem(1056, m_layout->pBtnFile);
+    dialog->SetDlgItem(1058, m_layout->listWidget);
+    dialog->SetDlgItem(1, m_layout->pBtnOK);
+    dialog->SetDlgItem(2, m_layout->pBtnCancel);
+}
+
+CMlStyleLoadDlg::~CMlStyleLoadDlg() = default;
+
+void CMlStyleLoadDlg::tell(void (::CMlStyleLoadDlg::*handler)()) {
+    if (auto* const logic = logicOf<::CMlStyleLoadDlg>(this)) {
+        (logic->*handler)();
+    }
+}
+
+void CMlStyleLoadDlg::OnOK() {
+    tell(&::CMlStyleLoadDlg::OnOK);
+}
+
+void CMlStyleLoadDlg::OnCancel() {
+    QBaseDialog::OnCancel();
+}
+
+void CMlStyleLoadDlg::OnLoadFileStyle() {
+    tell(&::CMlStyleLoadDlg::OnLoadFileStyle);
+}
+
+void CMlStyleLoadDlg::OnDbClick() {
+    tell(&::CMlStyleLoadDlg::OnDbClick);
+}
+
+void CMlStyleLoadDlg::OnSelectChanged() {
+    tell(&::CMlStyleLoadDlg::OnSelectChanged);
+}
+
+} // namespace VOUI

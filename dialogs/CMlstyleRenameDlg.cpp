@@ -1,0 +1,57 @@
+#include "CMlstyleRenameDlg.h"
+
+#include "CDataExchange.h"
+#include "CMlstyleRenameDlgView.h"
+#include "dialogIcon.h"
+#include "dialogPlace.h"
+#include "styleNameRules.h"
+#include "styleNames.h"
+
+namespace {
+
+constexpr unsigned kResource = 109;
+constexpr int kAccept = 1;
+constexpr int kOldName = 1059;
+constexpr int kNameField = 1060;
+constexpr int kStyleCombo = 1065;
+constexpr int kWordLimit = 31;
+constexpr const wchar_t* kPlace = L"MlstyleRenamePos";
+
+} // namespace
+
+CMlstyleRenameDlg::CMlstyleRenameDlg(CWnd* parent) : CDialog(kResource, parent) {
+    m_nameField.SetMaxWords(kWordLimit);
+    new VOUI::CMlstyleRenameDlg(nullptr, this); // ties itself to this and goes with it
+}
+
+void CMlstyleRenameDlg::DoDataExchange(CDataExchange* exchange) {
+    CDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, kStyleCombo, m_styles);
+    DDX_Text(exchange, kOldName, m_oldName);
+    DDX_Text(exchange, kNameField, m_newName);
+    DDX_Control(exchange, kNameField, m_nameField);
+}
+
+int CMlstyleRenameDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    for (const CStdStr<wchar_t>& name : styleNames(m_dictionaryId)) {
+        m_styles.AddString(name);
+    }
+    m_styles.SetCurSel(0);
+    UpdateData(false);
+    restoreDialogPlace(*this, kPlace);
+    setDialogIcon(*this, 1);
+    return 1;
+}
+
+void CMlstyleRenameDlg::OnEnterName() {
+    UpdateData(true);
+    const bool isNew = m_styles.FindStringExact(-1, m_newName) == -1;
+    GetDlgItem(kAccept)->EnableWindow(isNew && isNameForRenaming(m_newName.text()));
+}
+
+void CMlstyleRenameDlg::OnOK() {
+    UpdateData(true);
+    storeDialogPlace(*this, kPlace);
+    CDialog::OnOK();
+}

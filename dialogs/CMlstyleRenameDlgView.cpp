@@ -1,0 +1,49 @@
+#include "CMlstyleRenameDlgView.h"
+
+#include "CMlstyleRenameDlg.h"
+#include "logicOf.h"
+#include "ui_CMlstyleRenameDlg.h"
+
+namespace VOUI {
+
+CMlstyleRenameDlg::CMlstyleRenameDlg(QWidget* parent, CWnd* logic)
+    : QBaseDialog(parent), m_layout(std::make_unique<Ui_CMlstyleRenameDlg>()) {
+    m_layout->setupUi(this);
+    m_layout->renameComBo->hide();
+    connect(m_layout->pBtnOK, &QPushButton::clicked, this, &CMlstyleRenameDlg::OnOK);
+    connect(m_layout->pBtnCancel, &QPushButton::clicked, this, &CMlstyleRenameDlg::OnCancle);
+    connect(m_layout->lineEditNewStyleName, &QLineEdit::textChanged, this,
+            &CMlstyleRenameDlg::OnEnterName);
+
+    auto* const dialog = dynamic_cast<::CMlstyleRenameDlg*>(logic);
+    if (dialog == nullptr) {
+        return;
+    }
+    dialog->SetHandle(this);
+    dialog->SetAutoDelete(true, true);
+    dialog->SetDlgItem(1059, m_layout->labelOldStyleNameResult);
+    dialog->SetDlgItem(1060, m_layout->lineEditNewStyleName);
+    dialog->SetDlgItem(1065, m_layout->renameComBo);
+    dialog->SetDlgItem(1, m_layout->pBtnOK);
+    dialog->SetDlgItem(2, m_layout->pBtnCancel);
+}
+
+CMlstyleRenameDlg::~CMlstyleRenameDlg() = default;
+
+void CMlstyleRenameDlg::OnOK() {
+    if (auto* const logic = logicOf<::CMlstyleRenameDlg>(this)) {
+        logic->OnOK();
+    }
+}
+
+void CMlstyleRenameDlg::OnCancle() {
+    QBaseDialog::OnCancel();
+}
+
+void CMlstyleRenameDlg::OnEnterName() {
+    if (auto* const logic = logicOf<::CMlstyleRenameDlg>(this)) {
+        logic->OnEnterName();
+    }
+}
+
+} // namespace VOUI
