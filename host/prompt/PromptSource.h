@@ -3,13 +3,18 @@
 #include "KdGePoint3d.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace orvex {
 
+struct Appearance; // what things look like; of the view
+
 enum class PromptKind { command, keyword, entity, point, real, text };
+
+using PromptPreview = std::function<void(const KdGePoint3d& cursor, Appearance& look)>;
 
 // A question to the user.
 struct PromptRequest {
@@ -17,6 +22,9 @@ struct PromptRequest {
     std::wstring text;
     std::vector<std::wstring> keywords; // armed for this prompt, as the list spells them
     std::optional<KdGePoint3d> base;    // world; a window draws a line from it
+    // Adds to `look` what a point at the cursor (world) would make. A window draws that instead of
+    // the line. Null where the command shows nothing; it lives no longer than the question.
+    PromptPreview preview;
 };
 
 // The answer, before the prompt library has judged it.

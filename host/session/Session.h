@@ -44,6 +44,8 @@ public:
     // Starts at the extents that the drawing has when the view is first needed, which is before
     // the first command at the latest.
     [[nodiscard]] PlanView& view();
+    // Whether it has been. A window looks at the drawing in steps first.
+    [[nodiscard]] bool isViewStarted() const { return m_viewStarted; }
     [[nodiscard]] SessionDisplay& display() { return m_display; }
 
     void setSource(PromptSource* source);

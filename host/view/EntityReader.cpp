@@ -7,9 +7,17 @@ namespace orvex {
 
 namespace {
 
+bool isMline(const KdDbEntity& entity) {
+    return entity.isKindOf(KdDbMline::desc());
+}
+
+std::shared_ptr<const MlineContent> mlineContent(const KdDbEntity& mline) {
+    return std::static_pointer_cast<const MlineContent>(mline.content());
+}
+
 EntityGeometry geometryOf(const KdDbStub& stub, const KdDbEntity& entity) {
-    if (entity.isKindOf(KdDbMline::desc())) {
-        return std::static_pointer_cast<const MlineContent>(entity.content());
+    if (isMline(entity)) {
+        return mlineContent(entity);
     }
     const ObjectSource* source = stub.database->source();
     const bool inFile = source != nullptr && stub.record != kNoRecord;
@@ -17,6 +25,15 @@ EntityGeometry geometryOf(const KdDbStub& stub, const KdDbEntity& entity) {
 }
 
 } // namespace
+
+EntityReading readEntity(const KdDbEntity& entity) {
+    EntityReading reading;
+    reading.entity = &entity;
+    if (isMline(entity)) {
+        reading.geometry = mlineContent(entity);
+    }
+    return reading;
+}
 
 std::optional<EntityReading> readEntity(const KdDbStub& stub) {
     const bool isEntity = stub.kind == ObjectKind::mline || stub.kind == ObjectKind::entity;

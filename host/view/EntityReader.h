@@ -27,5 +27,7 @@ struct EntityReading {
 
 // Nothing for what can't be seen: an erased or opaque object, one that can't be read.
 std::optional<EntityReading> readEntity(const KdDbStub& stub);
+// One that no drawing has.
+EntityReading readEntity(const KdDbEntity& entity);
 
 } // namespace orvex

@@ -16,13 +16,14 @@ constexpr int kFewEntities = 100;
 
 bool LookMaker::draw(const KdDbStub& entity, Ink& ink) {
     const auto reading = readEntity(entity);
-    if (!reading) {
-        return false;
-    }
+    return reading && draw(*reading, ink);
+}
+
+bool LookMaker::draw(const EntityReading& reading, Ink& ink) {
     const bool isTired = m_walkWork > kMostWalkWork;
     EntityDrawer drawer(m_table, m_blocks, ink,
                         isTired ? kFewEntities : EntityDrawer::kMostEntities);
-    const bool seen = drawer.draw(*reading);
+    const bool seen = drawer.draw(reading);
     m_walkWork += drawer.insertWork();
     return seen;
 }
@@ -31,6 +32,13 @@ Appearance LookMaker::appearance(const KdDbStub& entity) {
     Appearance look;
     AppearanceInk ink(look);
     look.seen = draw(entity, ink);
+    return look;
+}
+
+Appearance LookMaker::appearance(const KdDbEntity& entity) {
+    Appearance look;
+    AppearanceInk ink(look);
+    look.seen = draw(readEntity(entity), ink);
     return look;
 }
 

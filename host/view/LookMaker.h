@@ -16,6 +16,9 @@ public:
     explicit LookMaker(DatabaseCore& core) : m_core(core), m_table(core), m_blocks(core) {}
 
     [[nodiscard]] Appearance appearance(const KdDbStub& entity);
+    // Of an entity that may stand outside of any drawing; one without a model of its own shows
+    // nothing then.
+    [[nodiscard]] Appearance appearance(const KdDbEntity& entity);
     // The box alone, for far less; empty for an entity that isn't seen.
     [[nodiscard]] PlanBox box(const KdDbStub& entity);
 
@@ -29,6 +32,7 @@ public:
 
 private:
     bool draw(const KdDbStub& entity, Ink& ink);
+    bool draw(const EntityReading& reading, Ink& ink);
 
     DatabaseCore& m_core;
     std::int64_t m_walkWork = 0;

@@ -36,6 +36,8 @@ struct PickIndex::Tree {
 PickIndex::PickIndex() : m_tree(std::make_unique<Tree>()) {}
 
 PickIndex::~PickIndex() = default;
+PickIndex::PickIndex(PickIndex&&) noexcept = default;
+PickIndex& PickIndex::operator=(PickIndex&&) noexcept = default;
 
 void PickIndex::build(std::vector<PlanBox> boxes) {
     m_boxes = std::move(boxes);
@@ -78,6 +80,11 @@ std::vector<std::uint32_t> PickIndex::query(const PlanBox& area) const {
                           boost::make_function_output_iterator(note));
     std::sort(numbers.begin(), numbers.end());
     return numbers;
+}
+
+const PlanBox& PickIndex::box(std::uint32_t number) const {
+    static const PlanBox kEmpty;
+    return number < m_boxes.size() ? m_boxes[number] : kEmpty;
 }
 
 PlanBox PickIndex::bounds() const {

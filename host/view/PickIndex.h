@@ -14,8 +14,8 @@ class PickIndex {
 public:
     PickIndex();
     ~PickIndex();
-    PickIndex(const PickIndex&) = delete;
-    PickIndex& operator=(const PickIndex&) = delete;
+    PickIndex(PickIndex&&) noexcept;
+    PickIndex& operator=(PickIndex&&) noexcept;
 
     // Anew from boxes that are numbered as they stand; empty ones aren't found.
     void build(std::vector<PlanBox> boxes);
@@ -25,6 +25,8 @@ public:
     // The numbers of all boxes that meet the area, edges included, in ascending order.
     [[nodiscard]] std::vector<std::uint32_t> query(const PlanBox& area) const;
     [[nodiscard]] PlanBox bounds() const;
+    [[nodiscard]] const PlanBox& box(std::uint32_t number) const;     // empty for an unknown number
+    [[nodiscard]] std::size_t size() const { return m_boxes.size(); } // empty boxes count
 
 private:
     struct Tree;

@@ -3,6 +3,7 @@
 #include "AppearanceCache.h"
 #include "ChangeFeed.h"
 #include "DatabaseCore.h"
+#include "IndexBuild.h"
 #include "KdDbDatabase.h"
 #include "LookMaker.h"
 #include "PickIndex.h"
@@ -19,11 +20,27 @@ namespace {
 
 constexpr std::size_t kCacheBytes = std::size_t{48} << 20;
 constexpr std::uint32_t kNotPlaced = std::numeric_limits<std::uint32_t>::max();
+constexpr std::size_t kMostAreas = 1024; // with more of them, everything may as well be different
 
 // Two lines lie equally near when rounding alone could tell them apart: of the reach, and of the
 // coordinates.
 constexpr double kTieOfReach = 1e-9;
 constexpr double kTieOfCoordinate = 1e-14;
+
+// What painters want to know of a look without making it again.
+struct Glimpse {
+    std::uint32_t rgb = 0;
+    bool hasFills = false;
+    bool isKnown = false;
+};
+
+Glimpse glimpseOf(const Appearance& look) {
+    const std::uint32_t rgb = !look.strokes.empty()  ? look.strokes.front().rgb
+                              : !look.fills.empty()  ? look.fills.front().rgb
+                              : !look.labels.empty() ? look.labels.front().rgb
+                                                     : 0U;
+    return {rgb, !look.fills.empty(), true};
+}
 
 } // namespace
 
@@ -37,8 +54,12 @@ struct Scene::State {
     AppearanceCache cache;
     PickIndex index; // numbers are places in the drawing order of model space
     bool isIndexed = false;
+    IndexBuild build;                 // of the next index, while this one isn't right any more
+    std::vector<KdDbStub*> unindexed; // changed since the index knew them; some may be there twice
     std::vector<std::uint32_t> placeOf; // by a stub's ordinal
     std::size_t placed = 0;             // entities of model space that have their place
+    std::vector<Glimpse> glimpses;      // by place
+    Difference difference;
     std::unordered_set<const KdDbStub*> hidden;
     std::vector<KdDbStub*> shownOrHidden; // since the last settlement
     std::function<double()> unitsPerPixel;
@@ -52,12 +73,16 @@ struct Scene::State {
     }
 
     const Appearance& look(const KdDbStub& entity);
+    const Glimpse& glimpse(std::uint32_t place);
     std::vector<KdDbStub*> takeChanges();
     void settle();
     void placeNewEntities();
-    void updateIndex(const std::vector<KdDbStub*>& changed);
-    void buildIndex();
-    void prepare();
+    void reindex(std::uint32_t place);
+    bool updateIndex(Deadline deadline);
+    bool buildIndex(Deadline deadline);
+    bool prepare(Deadline deadline);
+    void prepare() { prepare(Deadline::max()); }
+    void noteDifference(const PlanBox& area);
 };
 
 const Appearance& Scene::State::look(const KdDbStub& entity) {
@@ -67,6 +92,14 @@ const Appearance& Scene::State::look(const KdDbStub& entity) {
     return cache.keep(entity, maker.appearance(entity));
 }
 
+const Glimpse& Scene::State::glimpse(std::uint32_t place) {
+    Glimpse& known = glimpses[place];
+    if (!known.isKnown) {
+        known = glimpseOf(look(*entities()[place]));
+    }
+    return known;
+}
+
 std::vector<KdDbStub*> Scene::State::takeChanges() {
     std::vector<KdDbStub*> changed = feed.isEmpty() ? std::vector<KdDbStub*>{} : feed.take();
     changed.insert(changed.end(), shownOrHidden.begin(), shownOrHidden.end());
@@ -74,26 +107,27 @@ std::vector<KdDbStub*> Scene::State::takeChanges() {
     return changed;
 }
 
-// Brings everything that was derived up to date with what changed since the last time.
+// Drops what was derived from what changed since the last time.
 void Scene::State::settle() {
     maker.startWalk();
     const std::vector<KdDbStub*> changed = takeChanges();
     const auto isShared = [this](const KdDbStub* stub) { return maker.isShared(*stub); };
-    if (maker.isScaleStale() || std::any_of(changed.begin(), changed.end(), isShared)) {
+    // Entities never leave their list, or places would have to be given anew.
+    const bool isShorter = placed > entities().size();
+    if (isShorter || maker.isScaleStale() ||
+        std::any_of(changed.begin(), changed.end(), isShared)) {
         // A layer, a style or a block: whatever uses it looks different now.
         maker.forgetShared();
         cache.clear();
+        build.restart();
+        unindexed.clear();
         isIndexed = false;
         return;
     }
     for (const KdDbStub* stub : changed) {
         cache.drop(*stub);
     }
-    // Entities never leave their list, or places would have to be given anew.
-    isIndexed = isIndexed && placed <= entities().size();
-    if (isIndexed) {
-        updateIndex(changed);
-    }
+    unindexed.insert(unindexed.end(), changed.begin(), changed.end());
 }
 
 void Scene::State::placeNewEntities() {
@@ -101,42 +135,69 @@ void Scene::State::placeNewEntities() {
     placeOf.resize(core.stubs().size(), kNotPlaced);
     for (; placed < all.size(); ++placed) {
         placeOf[all[placed]->ordinal] = static_cast<std::uint32_t>(placed);
+        unindexed.push_back(all[placed]);
     }
 }
 
-void Scene::State::updateIndex(const std::vector<KdDbStub*>& changed) {
-    const std::size_t before = placed;
-    placeNewEntities();
-    for (std::size_t place = before; place < placed; ++place) {
-        index.set(static_cast<std::uint32_t>(place), boxOf(*entities()[place]));
-    }
-    for (const KdDbStub* stub : changed) {
-        const std::uint32_t place = placeOf[stub->ordinal];
-        if (place != kNotPlaced) {
-            index.set(place, boxOf(*stub));
+void Scene::State::noteDifference(const PlanBox& area) {
+    if (!area.isEmpty() && !difference.everything) {
+        difference.areas.push_back(area);
+        if (difference.areas.size() > kMostAreas) {
+            difference = {.everything = true, .areas = {}};
         }
     }
 }
 
-void Scene::State::buildIndex() {
-    placed = 0;
-    placeOf.assign(core.stubs().size(), kNotPlaced);
-    placeNewEntities();
-    std::vector<PlanBox> boxes;
-    boxes.reserve(entities().size());
-    for (const KdDbStub* stub : entities()) {
-        boxes.push_back(boxOf(*stub));
-    }
-    index.build(std::move(boxes));
-    isIndexed = true;
-    maker.startWalk();
+void Scene::State::reindex(std::uint32_t place) {
+    const PlanBox box = boxOf(*entities()[place]);
+    noteDifference(index.box(place));
+    noteDifference(box);
+    index.set(place, box);
+    glimpses.resize(std::max(glimpses.size(), std::size_t{place} + 1));
+    glimpses[place] = {};
 }
 
-void Scene::State::prepare() {
-    settle();
-    if (!isIndexed) {
-        buildIndex();
+// True when all is done.
+bool Scene::State::updateIndex(Deadline deadline) {
+    placeNewEntities();
+    while (!unindexed.empty()) {
+        const std::uint32_t place = placeOf[unindexed.back()->ordinal];
+        unindexed.pop_back();
+        if (place != kNotPlaced) {
+            reindex(place);
+            if (isOver(deadline)) {
+                return unindexed.empty();
+            }
+        }
     }
+    return true;
+}
+
+bool Scene::State::buildIndex(Deadline deadline) {
+    const auto boxAt = [this](std::size_t place) { return boxOf(*entities()[place]); };
+    if (!build.advance(entities().size(), boxAt, deadline)) {
+        return false;
+    }
+    index = build.take();
+    placed = 0;
+    placeOf.assign(core.stubs().size(), kNotPlaced);
+    // What changed meanwhile is looked at again; what is as it was when its box was made isn't.
+    std::vector<KdDbStub*> changed = std::exchange(unindexed, {});
+    placeNewEntities();
+    unindexed.erase(unindexed.begin(),
+                    unindexed.begin() + static_cast<std::ptrdiff_t>(index.size()));
+    unindexed.insert(unindexed.end(), changed.begin(), changed.end());
+    glimpses.assign(placed, {});
+    difference = {.everything = true, .areas = {}};
+    isIndexed = true;
+    maker.startWalk();
+    return true;
+}
+
+// True when all is done.
+bool Scene::State::prepare(Deadline deadline) {
+    settle();
+    return (isIndexed || buildIndex(deadline)) && updateIndex(deadline);
 }
 
 Scene::Scene(KdDbDatabase& database) : m_state(std::make_unique<State>(database)) {}
@@ -211,6 +272,39 @@ KdDbStub* Scene::entityAt(const KdGePoint3d& worldPoint, int pickBoxPixels) {
 
 void Scene::setUnitsPerPixel(std::function<double()> unitsPerPixel) {
     m_state->unitsPerPixel = std::move(unitsPerPixel);
+}
+
+Appearance Scene::appearanceOf(const KdDbEntity& entity) {
+    m_state->settle();
+    return m_state->maker.appearance(entity);
+}
+
+bool Scene::prepareSome(std::chrono::nanoseconds budget) {
+    return m_state->prepare(std::chrono::steady_clock::now() + budget);
+}
+
+Scene::Difference Scene::takeDifference() {
+    return std::exchange(m_state->difference, {});
+}
+
+std::vector<std::uint32_t> Scene::placesIn(const PlanBox& area) const {
+    return m_state->index.query(area);
+}
+
+const PlanBox& Scene::boxAt(std::uint32_t place) const {
+    return m_state->index.box(place);
+}
+
+const Appearance& Scene::lookAt(std::uint32_t place) {
+    return m_state->look(*m_state->entities()[place]);
+}
+
+bool Scene::hasFillsAt(std::uint32_t place) {
+    return m_state->glimpse(place).hasFills;
+}
+
+std::uint32_t Scene::dotColorAt(std::uint32_t place) {
+    return m_state->glimpse(place).rgb;
 }
 
 void Scene::hide(KdDbStub& entity) {

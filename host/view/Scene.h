@@ -3,11 +3,14 @@
 #include "Appearance.h"
 #include "PromptSession.h"
 
+#include <chrono>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
 
 class KdDbDatabase;
+class KdDbEntity;
 struct KdDbStub;
 
 namespace orvex {
@@ -28,6 +31,9 @@ public:
     // The look of one entity as it is now. The reference stays valid till the next query.
     [[nodiscard]] const Appearance& appearance(KdDbStub& entity);
 
+    // What an entity that isn't part of the drawing would look like in its model space.
+    [[nodiscard]] Appearance appearanceOf(const KdDbEntity& entity);
+
     // Visits every seen entity whose box meets `area`, in drawing order.
     void visit(const PlanBox& area,
                const std::function<void(KdDbStub&, const Appearance&)>& visitor);
@@ -46,6 +52,28 @@ public:
     // Hidden entities are neither drawn nor found.
     void hide(KdDbStub& entity);
     void show(KdDbStub& entity);
+
+    // Brings the index up to date for about `budget`; true when nothing is left to be done. The
+    // questions above do the rest at once, however much it is.
+    bool prepareSome(std::chrono::nanoseconds budget);
+
+    // What looks different from what it did at the last call, as far as the index knows.
+    struct Difference {
+        bool everything = false;
+        std::vector<PlanBox> areas; // of changed entities, before and after
+        [[nodiscard]] bool isEmpty() const { return !everything && areas.empty(); }
+    };
+    [[nodiscard]] Difference takeDifference();
+
+    // For painting in steps: the seen entities whose boxes meet `area`, as places in the drawing
+    // order, without bringing the index up to date. They hold as long as prepareSome is true.
+    [[nodiscard]] std::vector<std::uint32_t> placesIn(const PlanBox& area) const;
+    [[nodiscard]] const PlanBox& boxAt(std::uint32_t place) const;
+    // The reference stays valid till the next question.
+    [[nodiscard]] const Appearance& lookAt(std::uint32_t place);
+    [[nodiscard]] bool hasFillsAt(std::uint32_t place);
+    // The colour that an entity too small for lines shows, 0xRRGGBB.
+    [[nodiscard]] std::uint32_t dotColorAt(std::uint32_t place);
 
 private:
     struct State;

@@ -1,0 +1,253 @@
+#include "Canvas.h"
+
+#include "CanvasState.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace orvex {
+
+namespace {
+
+constexpr double kZoomOfNotch = 1.2;
+constexpr double kAnglesOfNotch = 120.0; // eighths of a degree
+constexpr int kPauseOfWheel = 600;       // milliseconds; what comes later is a new movement
+
+} // namespace
+
+Canvas::Canvas(QWidget* parent) : QWidget(parent), m_state(std::make_unique<State>(*this)) {
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    connect(&m_state->work, &QTimer::timeout, this, [this] {
+        m_state->step();
+        m_state->updateCursorShape();
+    });
+}
+
+Canvas::~Canvas() = default;
+
+void Canvas::setSession(Session* session) {
+    State& s = *m_state;
+    s.work.stop();
+    s.session = session;
+    s.isShown = false;
+    s.isAtExtents = false;
+    s.wantsExtents = false;
+    s.shown = {};
+    s.history.clear();
+    s.highlight = {};
+    s.panFrom.reset();
+    s.windowStep = State::WindowStep::off;
+    s.aim = CanvasAim::none;
+    s.request.reset();
+    s.picture.setScene(session != nullptr ? &session->scene() : nullptr);
+    s.updateCursorShape();
+    s.startWork();
+    update();
+}
+
+void Canvas::setAim(CanvasAim aim, const PromptRequest* request) {
+    m_state->aim = aim;
+    m_state->request = request != nullptr ? std::optional(*request) : std::nullopt;
+    m_state->isHighlightStale = true;
+    m_state->startWork();
+    update();
+}
+
+CanvasAim Canvas::aim() const {
+    return m_state->aim;
+}
+
+void Canvas::refresh() {
+    m_state->startWork();
+    update();
+}
+
+void Canvas::viewChanged() {
+    State& s = *m_state;
+    if (s.session != nullptr && s.isShown && placeOf(s.view()) != s.shown) {
+        s.history.leave(s.shown);
+        s.isAtExtents = false;
+        s.showView();
+    }
+}
+
+void Canvas::zoomExtents() {
+    if (m_state->session != nullptr) {
+        m_state->wantsExtents = true;
+        m_state->startWork();
+    }
+}
+
+void Canvas::zoomBy(double factor) {
+    State& s = *m_state;
+    if (s.session != nullptr && s.isShown && std::isfinite(factor) && factor > 0.0) {
+        s.moveTo(zoomedAt(s.view(), {width() / 2.0, height() / 2.0}, factor), false);
+    }
+}
+
+void Canvas::startZoomWindow() {
+    if (m_state->session != nullptr && m_state->isShown) {
+        m_state->windowStep = State::WindowStep::first;
+        m_state->dropHighlight();
+        update();
+    }
+}
+
+void Canvas::zoomPrevious() {
+    State& s = *m_state;
+    ViewPlace place;
+    if (s.session != nullptr && s.isShown && s.history.back(place)) {
+        s.isAtExtents = false;
+        s.view().setView(place.center, place.height);
+        s.showView();
+    }
+}
+
+bool Canvas::isSettled() const {
+    return !m_state->work.isActive();
+}
+
+void Canvas::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const double ratio = devicePixelRatioF();
+    const QRect exposed = event->rect();
+    painter.save();
+    painter.scale(1.0 / ratio, 1.0 / ratio);
+    m_state->picture.draw(painter, QRectF(exposed.x() * ratio, exposed.y() * ratio,
+                                          exposed.width() * ratio, exposed.height() * ratio)
+                                       .toAlignedRect());
+    painter.restore();
+    if (m_state->session != nullptr && m_state->isShown) {
+        m_state->paintMarks(painter);
+    }
+}
+
+void Canvas::resizeEvent(QResizeEvent* /*event*/) {
+    State& s = *m_state;
+    if (s.session == nullptr) {
+        return;
+    }
+    if (s.isShown) {
+        s.fitWidget();
+        s.wantsExtents = s.wantsExtents || s.isAtExtents;
+        s.showView();
+    }
+    s.startWork();
+}
+
+void Canvas::mousePressEvent(QMouseEvent* event) {
+    State& s = *m_state;
+    s.cursor = event->pos();
+    if (s.session == nullptr || !s.isShown || s.panFrom) {
+        return;
+    }
+    const bool isLeft = event->button() == Qt::LeftButton;
+    if (event->button() == Qt::MiddleButton ||
+        (isLeft && (event->modifiers() & Qt::ShiftModifier) != 0)) {
+        s.panFrom = event->pos();
+        s.panButton = event->button();
+        s.history.leave(placeOf(s.view()));
+        s.dropHighlight();
+        s.updateCursorShape();
+    } else if (event->button() == Qt::RightButton) {
+        if (s.windowStep != State::WindowStep::off) {
+            s.stopWindow();
+        } else {
+            emit rightClicked();
+        }
+    } else if (isLeft && s.windowStep == State::WindowStep::first) {
+        s.windowStep = State::WindowStep::second;
+        s.windowCorner = event->pos();
+    } else if (isLeft && s.windowStep == State::WindowStep::second) {
+        s.endWindow(event->pos());
+    } else if (isLeft && s.aim != CanvasAim::none) {
+        const PlanPoint at = s.planAtCursor();
+        emit clicked(at.x, at.y);
+        return; // whoever took the click may have done anything
+    }
+    update();
+}
+
+void Canvas::mouseMoveEvent(QMouseEvent* event) {
+    State& s = *m_state;
+    s.cursor = event->pos();
+    if (s.session == nullptr || !s.isShown) {
+        return;
+    }
+    if (s.panFrom) {
+        const QPoint way = event->pos() - *s.panFrom;
+        s.panFrom = event->pos();
+        s.moveTo(panned(s.view(), {static_cast<double>(way.x()), static_cast<double>(way.y())}),
+                 true);
+    } else if (s.aim != CanvasAim::point) {
+        s.isHighlightStale = true;
+        s.startWork();
+    }
+    update();
+    const PlanPoint at = s.planAtCursor();
+    emit cursorMoved(at.x, at.y);
+}
+
+void Canvas::mouseReleaseEvent(QMouseEvent* event) {
+    State& s = *m_state;
+    if (s.panFrom && event->button() == s.panButton) {
+        s.panFrom.reset();
+        s.isHighlightStale = true;
+        s.updateCursorShape();
+        s.startWork();
+        update();
+    } else if (event->button() == Qt::LeftButton && s.windowStep == State::WindowStep::second &&
+               (event->pos() - s.windowCorner).manhattanLength() >=
+                   QApplication::startDragDistance()) {
+        s.endWindow(event->pos()); // it was a drag
+    }
+}
+
+void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) {
+        m_state->panFrom.reset();
+        zoomExtents();
+    } else {
+        mousePressEvent(event); // quick clicks are clicks
+    }
+}
+
+void Canvas::wheelEvent(QWheelEvent* event) {
+    State& s = *m_state;
+    const int turn = event->angleDelta().y();
+    if (s.session == nullptr || !s.isShown || turn == 0) {
+        return;
+    }
+    const bool goesOn = s.sinceWheel.isValid() && s.sinceWheel.elapsed() < kPauseOfWheel;
+    s.sinceWheel.start();
+    const QPoint pixel = event->position().toPoint();
+    s.moveTo(zoomedAt(s.view(), {pixel.x() + 0.5, pixel.y() + 0.5},
+                      std::pow(kZoomOfNotch, turn / kAnglesOfNotch)),
+             goesOn);
+    event->accept();
+}
+
+void Canvas::leaveEvent(QEvent* /*event*/) {
+    m_state->cursor.reset();
+    m_state->dropHighlight();
+    update();
+    emit cursorLeft();
+}
+
+void Canvas::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && m_state->windowStep != State::WindowStep::off) {
+        m_state->stopWindow();
+        return;
+    }
+    emit keyTyped(event);
+}
+
+} // namespace orvex

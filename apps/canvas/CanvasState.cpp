@@ -1,0 +1,249 @@
+#include "CanvasState.h"
+
+#include "DatabaseCore.h"
+#include "KdDbDatabase.h"
+#include "canvasMarks.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvex {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+// Of work between two looks at the user's input.
+constexpr milliseconds kSlice{8};
+// Under a pick box that shows more than these nobody can tell one from the other.
+constexpr std::size_t kMostUnderCursor = 500;
+// Pixels from the plan's origin at which rounding begins to show.
+constexpr double kFarthestPixel = 1e12;
+constexpr double kGreatestHeight = 1e30; // drawing units
+
+KdGeVector3d userAxis(KdDbDatabase& database, const char* name, const KdGeVector3d& usual) {
+    const HeaderVariables& variables = database.core().variables();
+    if (!variables.has(name)) {
+        return usual;
+    }
+    const KdGePoint3d axis = variables.point(name);
+    return {axis.x, axis.y, axis.z};
+}
+
+} // namespace
+
+// The middle of the pixel.
+PlanPoint Canvas::State::planAt(const QPoint& pixel) const {
+    return view().toPlan({pixel.x() + 0.5, pixel.y() + 0.5});
+}
+
+void Canvas::State::startWork() {
+    if (session != nullptr && !work.isActive()) {
+        work.start(0);
+    }
+}
+
+// A slice of what there is to do: looking at the drawing, then painting.
+void Canvas::State::step() {
+    const auto deadline = std::chrono::steady_clock::now() + kSlice;
+    if (!session->scene().prepareSome(kSlice)) {
+        return;
+    }
+    if (!isShown && !startView()) {
+        work.stop();
+        return;
+    }
+    if (wantsExtents) {
+        zoomToExtents();
+    }
+    showView();
+    const Scene::Difference difference = session->scene().takeDifference();
+    if (!difference.isEmpty()) {
+        picture.takeDifference(difference);
+        isHighlightStale = true;
+    }
+    if (isHighlightStale) {
+        updateHighlight();
+    }
+    const QRegion changed = picture.paintSome(deadline);
+    if (!changed.isEmpty()) {
+        const double ratio = canvas.devicePixelRatioF();
+        const QRect pixels = changed.boundingRect();
+        canvas.update(QRectF(pixels.x() / ratio, pixels.y() / ratio, pixels.width() / ratio,
+                             pixels.height() / ratio)
+                          .toAlignedRect());
+    }
+    if (picture.isComplete()) {
+        work.stop();
+        emit canvas.settled();
+    }
+}
+
+// False as long as the widget has no size to show anything in.
+bool Canvas::State::startView() {
+    if (canvas.width() <= 0 || canvas.height() <= 0) {
+        return false;
+    }
+    isShown = true;
+    const bool isFirst = !session->isViewStarted();
+    fitWidget();
+    if (isFirst) {
+        view().zoomTo(session->scene().extents());
+        isAtExtents = true;
+    }
+    shown = {};
+    return true;
+}
+
+// A window of another size shows more or less of the plan at the same scale.
+void Canvas::State::fitWidget() {
+    PlanView& plan = view();
+    if (plan.width() == canvas.width() && plan.height() == canvas.height()) {
+        return;
+    }
+    const double height = plan.unitsPerPixel() * canvas.height();
+    plan.resize(canvas.width(), canvas.height());
+    plan.setView(plan.center(), height);
+    shown = {};
+}
+
+// Whoever has moved it.
+void Canvas::State::showView() {
+    const ViewPlace place = placeOf(view());
+    if (place == shown) {
+        return;
+    }
+    if (shown.height > 0.0) {
+        isHighlightStale = true;
+    }
+    shown = place;
+    picture.setView(view(), canvas.devicePixelRatioF());
+    canvas.update();
+    startWork();
+}
+
+void Canvas::State::moveTo(const ViewPlace& place, bool sameMovement) {
+    const double perPixel = place.height / view().height();
+    const double farthest = std::max(std::abs(place.center.x), std::abs(place.center.y));
+    if (!(farthest <= kFarthestPixel * perPixel) || !(place.height <= kGreatestHeight)) {
+        return;
+    }
+    history.leave(placeOf(view()), sameMovement);
+    isAtExtents = false;
+    view().setView(place.center, place.height);
+    showView();
+}
+
+void Canvas::State::zoomToExtents() {
+    wantsExtents = false;
+    const ViewPlace before = placeOf(view());
+    view().zoomTo(session->scene().extents());
+    if (placeOf(view()) != before) {
+        history.leave(before, isAtExtents);
+    }
+    isAtExtents = true;
+    showView();
+}
+
+void Canvas::State::dropHighlight() {
+    if (highlight.entity != nullptr) {
+        highlight = {};
+        canvas.update();
+    }
+}
+
+// What a pick would find. The scene is up to date.
+void Canvas::State::updateHighlight() {
+    isHighlightStale = false;
+    KdDbStub* found = nullptr;
+    if (aim != CanvasAim::point && cursor && !panFrom && windowStep == WindowStep::off) {
+        const PlanPoint at = planAtCursor();
+        const int pickBox = PromptSession::current().pickBox;
+        const double reach = pickBox * view().unitsPerPixel();
+        const PlanBox square{{at.x - reach, at.y - reach}, {at.x + reach, at.y + reach}};
+        if (session->scene().placesIn(square).size() <= kMostUnderCursor) {
+            found = session->scene().entityAt({at.x, at.y, 0.0}, pickBox);
+        }
+    }
+    if (found == nullptr) {
+        dropHighlight();
+        return;
+    }
+    highlight = {found, session->scene().appearance(*found)};
+    canvas.update();
+}
+
+void Canvas::State::updateCursorShape() {
+    if (panFrom) {
+        canvas.setCursor(Qt::ClosedHandCursor);
+    } else if (isShown) {
+        canvas.setCursor(Qt::BlankCursor); // the crosshair is painted
+    } else {
+        canvas.setCursor(session != nullptr ? Qt::BusyCursor : Qt::ArrowCursor);
+    }
+}
+
+void Canvas::State::endWindow(const QPoint& corner) {
+    const QPoint first = windowCorner;
+    stopWindow();
+    const QPoint size = corner - first;
+    if (size.x() != 0 || size.y() != 0) {
+        moveTo(windowed(view(), {first.x() + 0.5, first.y() + 0.5},
+                        {corner.x() + 0.5, corner.y() + 0.5}),
+               false);
+    }
+}
+
+void Canvas::State::stopWindow() {
+    windowStep = WindowStep::off;
+    isHighlightStale = true;
+    canvas.update();
+    startWork();
+}
+
+void Canvas::State::paintMarks(QPainter& painter) const {
+    KdDbDatabase& database = session->database();
+    paintAxes(painter, canvas.size(), userAxis(database, "UCSXDIR", {1.0, 0.0, 0.0}),
+              userAxis(database, "UCSYDIR", {0.0, 1.0, 0.0}));
+    if (highlight.entity != nullptr) {
+        paintHighlight(painter, view(), highlight.look);
+    }
+    if (!cursor || panFrom) {
+        return;
+    }
+    if (windowStep != WindowStep::off) {
+        if (windowStep == WindowStep::second) {
+            paintRubberWindow(painter, windowCorner, *cursor);
+        }
+        paintCrosshair(painter, *cursor, canvas.size(), -1);
+        return;
+    }
+    paintAim(painter);
+}
+
+void Canvas::State::paintAim(QPainter& painter) const {
+    const int pickBox = PromptSession::current().pickBox;
+    switch (aim) {
+    case CanvasAim::entity:
+        paintPickBox(painter, *cursor, pickBox);
+        break;
+    case CanvasAim::none:
+        paintCrosshair(painter, *cursor, canvas.size(), pickBox);
+        break;
+    case CanvasAim::point:
+        if (request && request->preview) {
+            const PlanPoint at = planAtCursor();
+            Appearance look;
+            request->preview({at.x, at.y, 0.0}, look);
+            paintPreview(painter, view(), look);
+        } else if (request && request->base) {
+            paintRubberLine(painter, view(), {request->base->x, request->base->y}, *cursor);
+        }
+        paintCrosshair(painter, *cursor, canvas.size(), -1);
+        break;
+    }
+}
+
+} // namespace orvex

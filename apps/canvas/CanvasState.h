@@ -1,0 +1,66 @@
+#pragma once
+
+#include "Canvas.h"
+#include "PlanPicture.h"
+#include "viewChange.h"
+
+#include <QElapsedTimer>
+#include <QPoint>
+#include <QTimer>
+
+namespace orvex {
+
+// What a canvas shows, and what it is in the middle of.
+struct Canvas::State {
+    explicit State(Canvas& owner) : canvas(owner) {}
+
+    // Zooming by a window: nothing yet, one corner, or dragging from it.
+    enum class WindowStep : std::uint8_t { off, first, second };
+    struct Highlight {
+        KdDbStub* entity = nullptr;
+        Appearance look;
+    };
+
+    Canvas& canvas;
+    Session* session = nullptr;
+    bool isShown = false;      // the session's view fits the widget and is painted
+    bool wantsExtents = false; // once the scene is up to date
+    bool isAtExtents = false;  // nobody has moved the view since
+    ViewPlace shown;           // what the picture is of
+    PlanPicture picture;
+    ViewHistory history;
+    QTimer work; // ticks between all other events while there is something to be done
+
+    CanvasAim aim = CanvasAim::none;
+    std::optional<PromptRequest> request;
+    std::optional<QPoint> cursor;
+    Highlight highlight;
+    bool isHighlightStale = false;
+
+    std::optional<QPoint> panFrom;
+    Qt::MouseButton panButton = Qt::NoButton;
+    WindowStep windowStep = WindowStep::off;
+    QPoint windowCorner;
+    QElapsedTimer sinceWheel;
+
+    [[nodiscard]] PlanView& view() const { return session->view(); }
+    [[nodiscard]] PlanPoint planAt(const QPoint& pixel) const;
+    [[nodiscard]] PlanPoint planAtCursor() const { return planAt(*cursor); }
+
+    void startWork();
+    void step();
+    bool startView();
+    void showView();
+    void fitWidget();
+    void moveTo(const ViewPlace& place, bool sameMovement);
+    void zoomToExtents();
+    void updateHighlight();
+    void dropHighlight();
+    void updateCursorShape();
+    void endWindow(const QPoint& corner);
+    void stopWindow();
+    void paintMarks(QPainter& painter) const;
+    void paintAim(QPainter& painter) const;
+};
+
+} // namespace orvex

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Appearance.h"
+#include "dashCycle.h"
+
+#include <QImage>
+#include <QRect>
+
+#include <cstdint>
+#include <span>
+
+namespace orvex {
+
+// Draws thin lines straight into an image of 32-bit colours, many times faster than a general
+// painter. What a pixel gets from a line depends on the line and the pixel alone: a part of a
+// picture that is painted again within a clip comes out as it was. Coordinates are pixels, y
+// downwards; pixel (0, 0) reaches to (1, 1). Lines along the axes fill whole pixels, so that they
+// are crisp; all others are smoothed.
+class LinePainter {
+public:
+    // Draws only within `clip`, which lies within the image.
+    LinePainter(QImage& image, const QRect& clip, int lineWidth);
+
+    void chain(std::span<const PlanPoint> points, std::uint32_t rgb);
+    void dashedChain(std::span<const PlanPoint> points, std::uint32_t rgb, const DashCycle& cycle);
+    void dot(PlanPoint point, std::uint32_t rgb);
+
+private:
+    struct Shade;
+    void line(PlanPoint from, PlanPoint to, std::uint32_t rgb, bool squareEnds);
+    void alongAxis(double from, double to, double across, bool upright, std::uint32_t rgb,
+                   bool squareEnds);
+    void slanted(PlanPoint from, PlanPoint to, std::uint32_t rgb, bool squareEnds);
+    void dashes(PlanPoint from, PlanPoint to, double before, std::uint32_t rgb,
+                const DashCycle& cycle, double period);
+    [[nodiscard]] bool canMeet(PlanPoint from, PlanPoint to) const;
+    void fill(int left, int top, int right, int bottom,
+              std::uint32_t rgb); // right, bottom excluded
+    void shade(int x, int y, std::uint32_t rgb, double cover);
+
+    std::uint32_t* m_pixels;
+    int m_stride;                         // pixels
+    int m_left, m_top, m_right, m_bottom; // of the clip; right and bottom excluded
+    int m_width;
+};
+
+} // namespace orvex

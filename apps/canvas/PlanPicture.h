@@ -1,0 +1,65 @@
+#pragma once
+
+#include "PixelGrid.h"
+#include "Scene.h"
+#include "TilePainting.h"
+
+#include <QImage>
+#include <QRegion>
+
+#include <chrono>
+#include <optional>
+#include <vector>
+
+class QPainter;
+
+namespace orvex {
+
+// The picture of a plan view, made of tiles that are painted in steps and kept while the scale
+// stays. Where a tile isn't there yet, the picture of the scale before is seen, moved and scaled.
+// Rectangles are device pixels of the view.
+class PlanPicture {
+public:
+    using Deadline = std::chrono::steady_clock::time_point;
+
+    // Null: nothing but the ground. Not owned.
+    void setScene(Scene* scene);
+    // What is seen from now on.
+    void setView(const PlanView& view, double devicePixelRatio);
+    // Makes tiles stale where the scene looks different; what they show stays till it is replaced.
+    void takeDifference(const Scene::Difference& difference);
+
+    // Paints till the deadline; tells what of the view is different now.
+    QRegion paintSome(Deadline deadline);
+    // The scene has to be up to date for this, as for paintSome.
+    [[nodiscard]] bool isComplete() const;
+
+    void draw(QPainter& painter, const QRect& exposed) const;
+
+private:
+    struct Tile {
+        TileKey key;
+        QImage image;
+        QRegion stale;
+    };
+    [[nodiscard]] const Tile* find(const TileKey& key) const;
+    Tile* find(const TileKey& key);
+    bool startPainting();
+    void finishPainting();
+    void dropFarTiles();
+    [[nodiscard]] QImage composed() const;
+
+    Scene* m_scene = nullptr;
+    PixelGrid m_grid;
+    QSize m_size;
+    double m_ratio = 1.0;
+    bool m_hasView = false;
+    std::vector<TileKey> m_visible; // in the order of painting
+    std::vector<Tile> m_tiles;
+    std::optional<TilePainting> m_painting;
+    // What the view showed before its scale changed, and the grid it lies on.
+    QImage m_former;
+    PixelGrid m_formerGrid;
+};
+
+} // namespace orvex

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "PixelGrid.h"
+#include "Scene.h"
+
+#include <QImage>
+#include <QRect>
+
+#include <chrono>
+#include <cstdint>
+#include <vector>
+
+namespace orvex {
+
+// What the ground of the plan is painted with, 0xRRGGBB.
+inline constexpr std::uint32_t kGroundRgb = 0x1E2127;
+
+// Paints a tile, or a rectangle of one, in steps. What comes out doesn't depend on the rectangle:
+// a tile that is painted piece by piece is the same as one painted at once.
+class TilePainting {
+public:
+    // The scene has to stay as it is till the end. `before` is what the tile showed, of no size
+    // when it is painted for the first time; only `pixels` of it change.
+    TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, const QImage& before,
+                 const QRect& pixels, int lineWidth);
+
+    // True when it is done.
+    bool advance(std::chrono::steady_clock::time_point deadline);
+
+    [[nodiscard]] const TileKey& tile() const { return m_tile; }
+    [[nodiscard]] const QRect& pixels() const { return m_pixels; }
+    [[nodiscard]] const QImage& image() const { return m_image; }
+
+private:
+    enum class Pass : std::uint8_t { fills, lines, done };
+    bool pass(std::chrono::steady_clock::time_point deadline, bool fills);
+    void paintFills(std::uint32_t place, class QPainter& painter, const PlanView& view);
+    void paintLines(std::uint32_t place, class QPainter& painter, const PlanView& view);
+    [[nodiscard]] bool isDot(std::uint32_t place) const;
+    std::vector<PlanPoint>& inPixels(const std::vector<PlanPoint>& points);
+
+    Scene* m_scene;
+    PixelGrid m_grid;
+    TileKey m_tile;
+    QRect m_pixels;
+    QImage m_image;
+    int m_lineWidth;
+    std::vector<std::uint32_t> m_places;
+    std::size_t m_next = 0;
+    Pass m_pass = Pass::fills;
+    std::vector<PlanPoint> m_points; // kept, so that not every line needs memory of its own
+};
+
+} // namespace orvex

@@ -1,0 +1,124 @@
+#include "canvasMarks.h"
+
+#include "paintAppearance.h"
+
+#include <QColor>
+#include <QPainter>
+#include <QPen>
+#include <QPolygonF>
+
+#include <cmath>
+
+namespace orvex {
+
+namespace {
+
+const QColor kCrosshairColor(0xB4, 0xB8, 0xC0);
+const QColor kPickBoxColor(0xF0, 0xF0, 0xF0);
+const QColor kRubberColor(0xE0, 0xA0, 0x40);
+constexpr double kHighlightWidth = 3.0; // pixels
+constexpr int kAxisLength = 36;         // pixels
+constexpr int kAxisMargin = 16;
+
+// Halfway to white.
+std::uint32_t brighter(std::uint32_t rgb) {
+    return ((rgb & 0xFEFEFEU) >> 1U) + 0x7F7F7FU;
+}
+
+void drawAxis(QPainter& painter, const QPointF& origin, const KdGeVector3d& axis,
+              const QColor& color, const QString& name) {
+    const QPointF way(axis.x * kAxisLength, -axis.y * kAxisLength);
+    const double length = std::hypot(way.x(), way.y());
+    if (!(length > 1.0)) {
+        return; // it points to the viewer
+    }
+    const QPointF tip = origin + way;
+    const QPointF along = way / length;
+    const QPointF across(-along.y(), along.x());
+    painter.setPen(QPen(color, 1.5));
+    painter.drawLine(origin, tip);
+    painter.setBrush(color);
+    painter.setPen(Qt::NoPen);
+    painter.drawPolygon(
+        QPolygonF{{tip, tip - along * 8.0 + across * 3.0, tip - along * 8.0 - across * 3.0}});
+    painter.setPen(color);
+    painter.drawText(QRectF(tip + along * 9.0 - QPointF(8, 8), QSizeF(16, 16)), Qt::AlignCenter,
+                     name);
+}
+
+} // namespace
+
+void paintCrosshair(QPainter& painter, const QPoint& cursor, const QSize& view, int pickBox) {
+    painter.setPen(kCrosshairColor);
+    const int gap = pickBox + 1;
+    painter.drawLine(0, cursor.y(), cursor.x() - gap, cursor.y());
+    painter.drawLine(cursor.x() + gap, cursor.y(), view.width(), cursor.y());
+    painter.drawLine(cursor.x(), 0, cursor.x(), cursor.y() - gap);
+    painter.drawLine(cursor.x(), cursor.y() + gap, cursor.x(), view.height());
+    if (pickBox >= 0) {
+        paintPickBox(painter, cursor, pickBox);
+    }
+}
+
+void paintPickBox(QPainter& painter, const QPoint& cursor, int pickBox) {
+    painter.setPen(kPickBoxColor);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(cursor.x() - pickBox, cursor.y() - pickBox, 2 * pickBox, 2 * pickBox);
+}
+
+void paintRubberLine(QPainter& painter, const PlanView& view, PlanPoint base,
+                     const QPoint& cursor) {
+    Appearance look;
+    const PlanPoint end = view.toPlan({cursor.x() + 0.5, cursor.y() + 0.5});
+    look.strokes.push_back({.points = {base, end}, .rgb = kRubberColor.rgb()});
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintAppearance(painter, look, view, {});
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void paintRubberWindow(QPainter& painter, const QPoint& oneCorner, const QPoint& otherCorner) {
+    QColor fill = kRubberColor;
+    fill.setAlpha(40);
+    painter.setPen(kRubberColor);
+    painter.setBrush(fill);
+    painter.drawRect(QRect(oneCorner, otherCorner).normalized());
+    painter.setBrush(Qt::NoBrush);
+}
+
+void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& look) {
+    Appearance bright;
+    bright.strokes = look.strokes;
+    bright.dashPatterns = look.dashPatterns;
+    bright.labels = look.labels;
+    for (Stroke& stroke : bright.strokes) {
+        stroke.rgb = brighter(stroke.rgb);
+    }
+    for (Label& label : bright.labels) {
+        label.rgb = brighter(label.rgb);
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintAppearance(painter, bright, view, {.lineWidth = kHighlightWidth},
+                    PaintParts::linesAndLabels);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void paintPreview(QPainter& painter, const PlanView& view, const Appearance& look) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintAppearance(painter, look, view, {});
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void paintAxes(QPainter& painter, const QSize& view, const KdGeVector3d& xAxis,
+               const KdGeVector3d& yAxis) {
+    // As far from the corner as axes that point there need.
+    const double left = kAxisMargin - std::min({0.0, xAxis.x, yAxis.x}) * kAxisLength;
+    const double low = kAxisMargin - std::min({0.0, xAxis.y, yAxis.y}) * kAxisLength;
+    const QPointF origin(left, view.height() - low);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawAxis(painter, origin, xAxis, QColor(0xD0, 0x60, 0x58), QStringLiteral("X"));
+    drawAxis(painter, origin, yAxis, QColor(0x60, 0xB0, 0x60), QStringLiteral("Y"));
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+}
+
+} // namespace orvex

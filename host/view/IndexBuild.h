@@ -1,0 +1,37 @@
+#pragma once
+
+#include "PickIndex.h"
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <future>
+#include <vector>
+
+namespace orvex {
+
+using Deadline = std::chrono::steady_clock::time_point; // max() is never
+
+inline bool isOver(Deadline deadline) {
+    return deadline != Deadline::max() && std::chrono::steady_clock::now() >= deadline;
+}
+
+// Makes an index in steps, so that a program with a window can answer between them: boxes one by
+// one, then the packing of the tree, which can't be interrupted, beside the program.
+class IndexBuild {
+public:
+    // Goes on with boxes of the places from 0 to `count`. True once the index can be taken; it
+    // then has all places that were there when the last box was made.
+    bool advance(std::size_t count, const std::function<PlanBox(std::size_t)>& boxAt,
+                 Deadline deadline);
+    [[nodiscard]] PickIndex take();
+    // What was made so far isn't right any more.
+    void restart();
+
+private:
+    std::vector<PlanBox> m_boxes;
+    std::future<PickIndex> m_packing;
+    bool m_isStale = false; // the index being packed
+};
+
+} // namespace orvex

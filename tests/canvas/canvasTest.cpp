@@ -1,0 +1,127 @@
+#include "CanvasFixture.h"
+
+#include <QSignalSpy>
+
+namespace orvex::testing {
+namespace {
+
+using ::testing::DoubleNear;
+
+TEST_F(CanvasFixture, ShowsTheExtentsFirstAndFollowsItsSize) {
+    const PlanBox extents = session->scene().extents();
+    const PlanView& view = session->view();
+    EXPECT_EQ(view.width(), kWidth);
+    EXPECT_EQ(view.height(), kHeight);
+    EXPECT_LE(view.toPixels(extents.high).x, kWidth);
+    EXPECT_GE(view.toPixels(extents.low).x, 0);
+    const double fits = std::max((extents.high.x - extents.low.x) / kWidth,
+                                 (extents.high.y - extents.low.y) / kHeight);
+    EXPECT_NEAR(view.unitsPerPixel(), 1.1 * fits, 1e-9);
+
+    wheel({10, 10}, 3);
+    const double scale = view.unitsPerPixel();
+    canvas.resize(400, 300);
+    settle();
+    EXPECT_EQ(view.width(), 400);
+    EXPECT_DOUBLE_EQ(view.unitsPerPixel(), scale);
+}
+
+TEST_F(CanvasFixture, TheWheelKeepsThePlanUnderTheCursor) {
+    const QPoint pixel(123, 321);
+    const PlanPoint before = planAt(pixel);
+    const double scale = session->view().unitsPerPixel();
+    wheel(pixel, 2);
+    wheel(pixel, 3);
+    EXPECT_NEAR(planAt(pixel).x, before.x, 1e-9);
+    EXPECT_NEAR(planAt(pixel).y, before.y, 1e-9);
+    EXPECT_NEAR(session->view().unitsPerPixel(), scale / std::pow(1.2, 5), 1e-9);
+    canvas.zoomPrevious(); // all of the wheel's turns at once
+    EXPECT_DOUBLE_EQ(session->view().unitsPerPixel(), scale);
+}
+
+TEST_F(CanvasFixture, PansWithTheMiddleButtonAndWithShift) {
+    const PlanPoint place = planAt({200, 200});
+    drag({200, 200}, {260, 170}, Qt::MiddleButton);
+    EXPECT_NEAR(planAt({260, 170}).x, place.x, 1e-9);
+    EXPECT_NEAR(planAt({260, 170}).y, place.y, 1e-9);
+    QSignalSpy clicks(&canvas, &Canvas::clicked);
+    canvas.setAim(CanvasAim::point);
+    drag({260, 170}, {200, 200}, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_NEAR(planAt({200, 200}).x, place.x, 1e-9);
+    EXPECT_EQ(clicks.count(), 0);
+    mouse(QEvent::MouseButtonDblClick, {5, 5}, Qt::MiddleButton);
+    settle();
+    EXPECT_NEAR(session->view().center().x,
+                (session->scene().extents().low.x + session->scene().extents().high.x) / 2, 1e-9);
+}
+
+TEST_F(CanvasFixture, ZoomsToAWindowOfTwoClicksOrADrag) {
+    const PlanPoint middle = planAt({150, 125});
+    const double scale = session->view().unitsPerPixel();
+    QSignalSpy clicks(&canvas, &Canvas::clicked);
+    canvas.setAim(CanvasAim::point);
+    for (const bool isDrag : {false, true}) {
+        canvas.startZoomWindow();
+        if (isDrag) {
+            drag({80, 75}, {220, 175}, Qt::LeftButton);
+        } else {
+            QTest::mouseClick(&canvas, Qt::LeftButton, {}, {80, 75});
+            QTest::mouseClick(&canvas, Qt::LeftButton, {}, {220, 175});
+        }
+        EXPECT_NEAR(session->view().unitsPerPixel(), scale / 5, 1e-9); // 140 of 700, 100 of 500
+        EXPECT_NEAR(session->view().center().x, middle.x, 1e-9);
+        EXPECT_NEAR(session->view().center().y, middle.y, 1e-9);
+        canvas.zoomPrevious();
+    }
+    canvas.startZoomWindow();
+    QTest::keyClick(&canvas, Qt::Key_Escape);
+    EXPECT_EQ(clicks.count(), 0);
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, {80, 75});
+    EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(CanvasFixture, ClicksTellThePlanOnlyWhenSomethingAsks) {
+    QSignalSpy clicks(&canvas, &Canvas::clicked);
+    QSignalSpy rightClicks(&canvas, &Canvas::rightClicked);
+    qRegisterMetaType<QKeyEvent*>("QKeyEvent*");
+    QSignalSpy keys(&canvas, &Canvas::keyTyped);
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, {80, 75});
+    EXPECT_EQ(clicks.count(), 0);
+    for (const CanvasAim aim : {CanvasAim::entity, CanvasAim::point}) {
+        canvas.setAim(aim);
+        QTest::mouseClick(&canvas, Qt::LeftButton, {}, {80, 75});
+        ASSERT_EQ(clicks.count(), 1);
+        const auto click = clicks.takeFirst();
+        EXPECT_THAT(click[0].toDouble(), DoubleNear(planAt({80, 75}).x, 1e-9));
+        EXPECT_THAT(click[1].toDouble(), DoubleNear(planAt({80, 75}).y, 1e-9));
+    }
+    QTest::mouseClick(&canvas, Qt::RightButton, {}, {80, 75});
+    QTest::keyClick(&canvas, Qt::Key_M);
+    EXPECT_EQ(rightClicks.count(), 1);
+    EXPECT_EQ(keys.count(), 1);
+}
+
+TEST_F(CanvasFixture, SessionsMayBeSwappedAndRemoved) {
+    const QImage first = picture();
+    auto other = openFloorplan();
+    canvas.setSession(other.get());
+    canvas.setSession(nullptr);
+    canvas.zoomExtents();
+    wheel({10, 10}, 1);
+    hover({10, 10});
+    const QImage empty = picture();
+    EXPECT_NE(empty, first);
+    EXPECT_EQ(empty.pixel(10, 10), empty.pixel(350, 250)) << "nothing but the ground";
+    canvas.setSession(other.get());
+    settle();
+    EXPECT_EQ(picture(), first);
+    other->view().setView({0, 0}, 12.0);
+    canvas.viewChanged();
+    EXPECT_NE(picture(), first);
+    canvas.setSession(session.get()); // which has kept its view
+    EXPECT_EQ(picture(), first);
+    other.reset();
+}
+
+} // namespace
+} // namespace orvex::testing
