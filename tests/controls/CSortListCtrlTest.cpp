@@ -1,0 +1,142 @@
+#include "CSortListCtrl.h"
+
+#include "CDialog.h"
+#include "CWinApp.h"
+#include "ProfileStore.h"
+
+#include <QDialog>
+#include <QTableWidget>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using Texts = std::vector<std::wstring>;
+
+// A dialog with nothing but the list.
+class SortListCtrl : public ::testing::Test {
+protected:
+    SortListCtrl() {
+        logic.SetHandle(&view);
+        logic.SetDlgItem(1046, &table);
+        list.SubclassDlgItem(1046, &logic);
+    }
+
+    void addRows(const Texts& numbers) {
+        for (const std::wstring& each : numbers) {
+            list.AddItem(each.c_str(), L"line", each.c_str());
+        }
+    }
+    [[nodiscard]] Texts column(int index) const {
+        Texts all;
+        for (int row = 0; row < list.GetItemCount(); ++row) {
+            all.push_back(list.GetItemText(row, index).text());
+        }
+        return all;
+    }
+
+    QDialog view;
+    QTableWidget table{&view};
+    CDialog logic{105};
+    CSortListCtrl list;
+};
+
+TEST_F(SortListCtrl, headingsComeFromNamesAndWidths) {
+    struct Case {
+        const wchar_t* text;
+        Texts names;
+        std::vector<int> widths;
+    };
+    const Case cases[] = {
+        {L"", {}, {}},
+        {L"Offset", {}, {}},
+        {L"A,110;B,120", {L"A", L"B"}, {110, 120}},
+        {L"A,110;B,120;", {L"A", L"B"}, {110, 120}},
+        {L"A,110;rest", {L"A"}, {110}},
+        {L"A;B,120,C", {L"A;B"}, {120}}, // a name ends at its comma, whatever is in it
+    };
+    for (const Case& each : cases) {
+        QTableWidget fresh(&view);
+        CSortListCtrl made;
+        made.SubclassWindow(&fresh);
+        EXPECT_TRUE(made.SetHeadings(CStdStr<wchar_t>(each.text))) << each.text;
+        ASSERT_EQ(made.GetColumnCount(), static_cast<int>(each.names.size())) << each.text;
+        for (int index = 0; index < made.GetColumnCount(); ++index) {
+            EXPECT_EQ(fresh.horizontalHeaderItem(index)->text().toStdWString(), each.names[index]);
+            EXPECT_EQ(made.GetColumnWidth(index), each.widths[index]) << each.text;
+        }
+    }
+    CSortListCtrl unbound;
+    EXPECT_FALSE(unbound.SetHeadings(CStdStr<wchar_t>(L"A,10")));
+    EXPECT_EQ(unbound.AddItem(L"1"), -1);
+}
+
+TEST_F(SortListCtrl, sortsEachColumnByItsNumbersAndKeepsTheOrderOfEqualOnes) {
+    list.SetHeadings(CStdStr<wchar_t>(L"A,50;B,50;C,50"));
+    addRows({L"-0.5", L"0.5", L"0", L"text", L"1e2", L"-"});
+    for (int row = 0; row < list.GetItemCount(); ++row) {
+        EXPECT_TRUE(list.SetItemData(row, 100 + row));
+    }
+    list.Sort(0, false);
+    EXPECT_EQ(column(0), (Texts{L"1e2", L"0.5", L"0", L"text", L"-", L"-0.5"}));
+    EXPECT_EQ(list.GetItemData(0), 104UL);
+    EXPECT_EQ(list.GetItemData(5), 100UL);
+    EXPECT_TRUE(list.SetItemText(0, 0, L"0.25"));
+    list.Sort(0, true);
+    EXPECT_EQ(column(0), (Texts{L"-0.5", L"0", L"text", L"-", L"0.25", L"0.5"}));
+    list.Sort(2, true);
+    EXPECT_EQ(column(0).back(), L"0.25"); // its third column still says 1e2
+    list.Sort(9, true);
+    EXPECT_EQ(column(0).back(), L"0.25");
+}
+
+TEST_F(SortListCtrl, whatIsntThereIsRefused) {
+    EXPECT_EQ(list.AddItem(L"1"), 0); // no column, yet a row
+    EXPECT_TRUE(list.SetItemData(0, 7));
+    list.SetHeadings(CStdStr<wchar_t>(L"A,50;B,50"));
+    EXPECT_EQ(list.AddItem(L"2"), 1);
+    EXPECT_EQ(list.AddItem(nullptr, L"x", L"y"), 2);
+    EXPECT_EQ(column(1), (Texts{L"", L"", L"x"}));
+    for (const int row : {-1, 3, 1000}) {
+        EXPECT_FALSE(list.SetItemData(row, 1));
+        EXPECT_EQ(list.GetItemData(row), 0UL);
+        EXPECT_FALSE(list.SetItemText(row, 0, L"x"));
+        EXPECT_FALSE(list.DeleteItem(row));
+    }
+    EXPECT_TRUE(list.DeleteItem(0));
+    EXPECT_EQ(list.GetItemData(0), 0UL);
+    EXPECT_TRUE(list.DeleteAllItems());
+    EXPECT_EQ(list.GetItemCount(), 0);
+}
+
+TEST_F(SortListCtrl, aClickOnAHeadingWouldTurnTheOrderRound) {
+    list.SetHeadings(CStdStr<wchar_t>(L"A,50;B,50;C,50"));
+    addRows({L"2", L"1", L"3"});
+    tagNMHEADERW click;
+    const std::vector<Texts> after = {{L"1", L"2", L"3"}, {L"3", L"2", L"1"}, {L"1", L"2", L"3"}};
+    for (const Texts& each : after) {
+        long result = 1;
+        list.OnColumnClick(&click.hdr, &result);
+        EXPECT_EQ(column(0), each);
+        EXPECT_EQ(result, 0);
+    }
+}
+
+TEST_F(SortListCtrl, whatAProfileSaysOfColumnsIsLeftAside) {
+    orvex::setProfileStore(nullptr);
+    list.SetHeadings(CStdStr<wchar_t>(L"A,50;B,60"));
+    const unsigned char odd[] = {0xFF, 0, 0xFF};
+    unsigned char* stored = nullptr;
+    unsigned size = 0;
+    AfxGetApp()->WriteProfileBinary(L"ListCtrls", L"1046", odd, sizeof odd);
+    list.LoadColumnInfo();
+    EXPECT_EQ(list.GetColumnWidth(1), 60);
+    list.SaveColumnInfo();
+    EXPECT_FALSE(AfxGetApp()->GetProfileBinary(L"ListCtrls", L"1046", &stored, &size));
+    orvex::setProfileStore(nullptr);
+}
+
+} // namespace
