@@ -23,9 +23,13 @@ void require(bool condition) {
     }
 }
 
-// The value goes through a second stream and must come back.
-template <class Stream, class T, class Read, class Write>
-void readForm(Stream& stream, T value, Read read, Write write) {
+using Step = void (*)(VoDwgStream&);
+using S = VoBitStream;
+
+// Reads a value, which must come back from a second stream.
+template <class T, auto read, auto write>
+void readForm(VoDwgStream& stream) {
+    T value{};
     (stream.*read)(value);
     VoFlatMemBuf buffer;
     VoBitStream copy(&buffer);
@@ -38,111 +42,81 @@ void readForm(Stream& stream, T value, Read read, Write write) {
     require(again == value);
 }
 
-void readText(VoDwgStream& stream, unsigned kind) {
-    switch (kind % 5) {
-    case 0: {
-        char* text = nullptr;
-        stream.readRawStr(text);
-        std::free(text);
-        break;
-    }
-    case 1: {
-        wchar_t* text = nullptr;
-        stream.readRawStr(text);
-        std::free(text);
-        break;
-    }
-    case 2: {
-        wchar_t* text = nullptr;
-        stream.readUnicodeString(text);
-        kdutDelString(text);
-        break;
-    }
-    default: {
-        CStdStr<wchar_t> text;
-        stream.readString(text);
-        stream.writeString(text);
-    }
-    }
+// The same for what doesn't come back as it was.
+template <class T, auto read, auto write>
+void pass(VoDwgStream& stream) {
+    T value{};
+    (stream.*read)(value);
+    (stream.*write)(value);
 }
 
-void readReference(VoDwgStream& stream, unsigned kind) {
+template <class Character>
+void readRawText(VoDwgStream& stream) {
+    Character* text = nullptr;
+    stream.readRawStr(text);
+    std::free(text);
+}
+
+void readUnicodeText(VoDwgStream& stream) {
+    wchar_t* text = nullptr;
+    stream.readUnicodeString(text);
+    kdutDelString(text);
+}
+
+template <auto read>
+void readId(VoDwgStream& stream) {
     KdDbObjectId id;
-    switch (kind % 4) {
-    case 0: {
-        KdDbHandle handle;
-        stream.readHandle(handle);
-        stream.writeHandle(handle);
-        break;
-    }
-    case 1:
-        stream.readHardOwnershipId(id);
-        break;
-    case 2:
-        stream.readSoftPointerId(id);
-        break;
-    default: {
-        std::uint8_t type = 0;
-        stream.readObjectId(id, &type);
-        require(type < 4);
-    }
-    }
+    (stream.*read)(id);
     require(id.isNull());
 }
 
-void readValue(VoDwgStream& stream, unsigned kind) {
-    using S = VoBitStream;
-    switch (kind % 17) {
-    case 0:
-        return readForm(stream, std::uint8_t{}, &S::readUInt8, &S::writeUInt8);
-    case 1:
-        return readForm(stream, std::uint16_t{}, &S::readUInt16, &S::writeUInt16);
-    case 2:
-        return readForm(stream, std::int32_t{}, &S::readInt32, &S::writeInt32);
-    case 3:
-        return readForm(stream, std::uint64_t{}, &S::readRawUInt64, &S::writeRawUInt64);
-    case 4:
-        return readForm(stream, wchar_t{}, &S::readWChar, &S::writeWChar);
-    case 5:
-        return readForm(stream, false, &S::readBool, &S::writeBool);
-    case 6:
-        return readForm(stream, 0.0, &S::readDouble, &S::writeDouble);
-    case 7:
-        return readForm(stream, 0.0, &S::readRawDouble, &S::writeRawDouble);
-    case 8:
-        return readForm(stream, KdGePoint2d{}, &S::readPoint2d, &S::writePoint2d);
-    case 9:
-        return readForm(stream, KdGePoint3d{}, &S::readPoint3d, &S::writePoint3d);
-    case 10:
-        return readForm(stream, KdGeVector3d{}, &S::readVector3d, &S::writeVector3d);
-    case 11:
-        return readForm(stream, KdGeScale2d{}, &S::readScale2d, &S::writeScale2d);
-    case 12:
-        return readForm(stream, KdGeMatrix2d{}, &S::readMatrix2d, &S::writeMatrix2d);
-    case 13:
-        return readForm(stream, KdGeMatrix3d{}, &S::readMatrix3d, &S::writeMatrix3d);
-    case 14: {
-        // These two don't read back as written.
-        std::int64_t value = 0;
-        stream.readInt64(value);
-        stream.writeInt64(value);
-        return;
-    }
-    case 15: {
-        float value = 0.0F;
-        stream.readFloat(value);
-        stream.writeFloat(value);
-        return;
-    }
-    default: {
-        char value = 0;
-        stream.readChar(value);
-        void* address = nullptr;
-        stream.readAddress(address);
-    }
-    }
+void readAnyId(VoDwgStream& stream) {
+    KdDbObjectId id;
+    std::uint8_t type = 0;
+    stream.readObjectId(id, &type);
+    require(type < 4 && id.isNull());
 }
 
+void readCharAndAddress(VoDwgStream& stream) {
+    char value = 0;
+    stream.readChar(value);
+    void* address = nullptr;
+    stream.readAddress(address);
+}
+
+constexpr auto text = pass<CStdStr<wchar_t>, &VoDwgStream::readString, &VoDwgStream::writeString>;
+constexpr Step kTexts[] = {readRawText<char>, readRawText<wchar_t>, readUnicodeText, text, text};
+
+constexpr Step kReferences[] = {
+    pass<KdDbHandle, &VoDwgStream::readHandle, &VoDwgStream::writeHandle>,
+    readId<&VoDwgStream::readHardOwnershipId>,
+    readId<&VoDwgStream::readSoftPointerId>,
+    readAnyId,
+};
+
+constexpr Step kValues[] = {
+    readForm<std::uint8_t, &S::readUInt8, &S::writeUInt8>,
+    readForm<std::uint16_t, &S::readUInt16, &S::writeUInt16>,
+    readForm<std::int32_t, &S::readInt32, &S::writeInt32>,
+    readForm<std::uint64_t, &S::readRawUInt64, &S::writeRawUInt64>,
+    readForm<wchar_t, &S::readWChar, &S::writeWChar>,
+    readForm<bool, &S::readBool, &S::writeBool>,
+    readForm<double, &S::readDouble, &S::writeDouble>,
+    readForm<double, &S::readRawDouble, &S::writeRawDouble>,
+    readForm<KdGePoint2d, &S::readPoint2d, &S::writePoint2d>,
+    readForm<KdGePoint3d, &S::readPoint3d, &S::writePoint3d>,
+    readForm<KdGeVector3d, &S::readVector3d, &S::writeVector3d>,
+    readForm<KdGeScale2d, &S::readScale2d, &S::writeScale2d>,
+    readForm<KdGeMatrix2d, &S::readMatrix2d, &S::writeMatrix2d>,
+    readForm<KdGeMatrix3d, &S::readMatrix3d, &S::writeMatrix3d>,
+    pass<std::int64_t, &S::readInt64, &S::writeInt64>,
+    pass<float, &S::readFloat, &S::writeFloat>,
+    readCharAndAddress,
+};
+
+void play(std::span<const Step> steps, unsigned kind, VoDwgStream& stream) {
+    steps[kind % steps.size()](stream);
+}
 // Far, near and wrapping offsets out of one byte.
 std::uint64_t offsetOf(std::uint8_t argument) {
     const std::uint64_t near = argument & 0x3FU;
@@ -205,11 +179,11 @@ void operate(VoDwgStream& stream, VoFlatMemBuf& buffer, std::uint8_t kind, std::
     const unsigned detail = kind / 5;
     switch (kind % 5) {
     case 0:
-        return readText(stream, detail);
+        return play(kTexts, detail, stream);
     case 1:
-        return readReference(stream, detail);
+        return play(kReferences, detail, stream);
     case 2:
-        return readValue(stream, detail);
+        return play(kValues, detail, stream);
     case 3:
         return moveAbout(stream, buffer, detail, argument);
     default:
