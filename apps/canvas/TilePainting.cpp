@@ -1,7 +1,7 @@
 #include "TilePainting.h"
 
 #include "LinePainter.h"
-#include "dashCycle.h"
+#include "lookStrokes.h"
 #include "paintAppearance.h"
 
 #include <QPainter>
@@ -10,8 +10,7 @@ namespace orvex {
 
 namespace {
 
-constexpr double kDotSide = 1.5;     // pixels; what is no larger shows as a dot
-constexpr double kLeastPeriod = 3.0; // pixels; finer dashes look grey
+constexpr double kDotSide = 1.5; // pixels; what is no larger shows as a dot
 constexpr std::size_t kEntitiesBetweenLooksAtTheClock = 8;
 
 bool isOver(std::chrono::steady_clock::time_point deadline) {
@@ -71,14 +70,6 @@ void TilePainting::paintFills(std::uint32_t place, QPainter& painter, const Plan
     paintAppearance(painter, m_scene->lookAt(place), view, {}, PaintParts::fills);
 }
 
-std::vector<PlanPoint>& TilePainting::inPixels(const std::vector<PlanPoint>& points) {
-    m_points.clear();
-    for (const PlanPoint& point : points) {
-        m_points.push_back(m_grid.toTilePixels(m_tile, point));
-    }
-    return m_points;
-}
-
 void TilePainting::paintLines(std::uint32_t place, QPainter& painter, const PlanView& view) {
     LinePainter lines(m_image, m_pixels, m_lineWidth);
     if (isDot(place)) {
@@ -88,19 +79,8 @@ void TilePainting::paintLines(std::uint32_t place, QPainter& painter, const Plan
         return;
     }
     const Appearance& look = m_scene->lookAt(place);
-    for (const Stroke& stroke : look.strokes) {
-        DashCycle cycle;
-        if (stroke.dashes > 0 && stroke.dashes <= look.dashPatterns.size()) {
-            cycle = dashCycle(look.dashPatterns[stroke.dashes - 1], 1.0 / m_grid.unitsPerPixel(),
-                              m_lineWidth, kLeastPeriod);
-        }
-        const std::vector<PlanPoint>& points = inPixels(stroke.points);
-        if (cycle.lengths.empty()) {
-            lines.chain(points, stroke.rgb);
-        } else {
-            lines.dashedChain(points, stroke.rgb, cycle);
-        }
-    }
+    drawStrokes(lines, look, 1.0 / m_grid.unitsPerPixel(), m_lineWidth,
+                [this](PlanPoint point) { return m_grid.toTilePixels(m_tile, point); });
     if (!look.labels.empty()) {
         Appearance labels;
         labels.labels = look.labels;

@@ -37,7 +37,6 @@ private:
     void paintFills(std::uint32_t place, class QPainter& painter, const PlanView& view);
     void paintLines(std::uint32_t place, class QPainter& painter, const PlanView& view);
     [[nodiscard]] bool isDot(std::uint32_t place) const;
-    std::vector<PlanPoint>& inPixels(const std::vector<PlanPoint>& points);
 
     Scene* m_scene;
     PixelGrid m_grid;
@@ -48,7 +47,6 @@ private:
     std::vector<std::uint32_t> m_places;
     std::size_t m_next = 0;
     Pass m_pass = Pass::fills;
-    std::vector<PlanPoint> m_points; // kept, so that not every line needs memory of its own
 };
 
 } // namespace orvex

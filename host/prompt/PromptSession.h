@@ -1,15 +1,15 @@
 #pragma once
 
 #include "KdGePoint3d.h"
+#include "PromptSource.h"
 
 #include <optional>
 #include <string>
+#include <utility>
 
 struct KdDbStub;
 
 namespace orvex {
-
-class PromptSource;
 
 // Finds what a pick means. Implemented by the view.
 class EntityFinder {
@@ -50,8 +50,20 @@ struct PromptSession {
     int dimzin = 8;      // DIMZIN where the drawing has none
     std::wstring armedKeywords;
     std::wstring lastKeyword;
+    PromptPreview preview; // goes with each question for a point; set by PreviewScope
 
     static PromptSession& current();
+};
+
+// Has a preview shown at the questions for points that are asked while it lives.
+class PreviewScope {
+public:
+    explicit PreviewScope(PromptPreview preview) {
+        PromptSession::current().preview = std::move(preview);
+    }
+    ~PreviewScope() { PromptSession::current().preview = nullptr; }
+    PreviewScope(const PreviewScope&) = delete;
+    PreviewScope& operator=(const PreviewScope&) = delete;
 };
 
 } // namespace orvex

@@ -27,6 +27,9 @@ PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
     request.text = prompt != nullptr ? prompt : L"";
     request.keywords = splitKeywords(std::exchange(session.armedKeywords, {}));
     request.base = base;
+    if (kind == PromptKind::point) {
+        request.preview = session.preview;
+    }
 
     PromptAnswer answer;
     if (session.source == nullptr) {

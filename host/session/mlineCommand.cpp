@@ -3,15 +3,11 @@
 #include "DatabaseCore.h"
 #include "HostCommand.h"
 #include "KdDbMline.h"
-#include "KdDbMlineImp.h"
-#include "KdDbMlineStyle.h"
-#include "KdDbSystemInternals.h"
-#include "KdMLSegment.h"
+#include "PromptSession.h"
 #include "Session.h"
 #include "commandLine.h"
 #include "coordinateFrames.h"
-#include "kddbObjects.h"
-#include "mlineChain.h"
+#include "newMline.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "systemVariables.h"
@@ -98,12 +94,61 @@ bool askStart(Chain& chain) {
     }
 }
 
+// Between the user's system (1) and the world's (0).
+KdGePoint3d converted(const KdGePoint3d& point, int from, int to, int displacement = 0) {
+    resbuf fromFrame;
+    fromFrame.restype = kResultShort;
+    fromFrame.resval.rint = static_cast<short>(from);
+    resbuf toFrame;
+    toFrame.restype = kResultShort;
+    toFrame.resval.rint = static_cast<short>(to);
+    double place[3] = {point.x, point.y, point.z};
+    kdedTrans(place, &fromFrame, &toFrame, displacement, place);
+    return pointOf(place);
+}
+
+KdGePoint3d userToWorld(const KdGePoint3d& point, int displacement = 0) {
+    return converted(point, 1, 0, displacement);
+}
+
+KdGePoint3d worldToUser(const KdGePoint3d& point) {
+    return converted(point, 0, 1);
+}
+
+// In the current style and settings; null when there is nothing to draw.
+std::unique_ptr<KdDbMline> makeMline(Session& session, const Chain& chain) {
+    std::vector<KdGePoint3d> points;
+    for (const KdGePoint3d& point : chain.points) {
+        points.push_back(userToWorld(point));
+    }
+    const KdGePoint3d up = userToWorld({0.0, 0.0, 1.0}, 1);
+    return newMline(session.database(), points, chain.closed, {up.x, up.y, up.z});
+}
+
+// A multiline is flat: it stays on the level of its start.
+void appendPoint(Chain& chain, KdGePoint3d point) {
+    point.z = chain.points.front().z;
+    chain.points.push_back(point);
+}
+
+// Shows the multiline with the cursor as its next point. The chain has to outlive it.
+PromptPreview previewOf(Session& session, const Chain& chain) {
+    return [&session, &chain](const KdGePoint3d& cursor, Appearance& look) {
+        Chain ahead = chain;
+        appendPoint(ahead, worldToUser(cursor));
+        if (const auto mline = makeMline(session, ahead)) {
+            look = session.scene().appearanceOf(*mline);
+        }
+    };
+}
+
 // Nothing when the user gives up.
-std::optional<Chain> askChain() {
+std::optional<Chain> askChain(Session& session) {
     Chain chain;
     if (!askStart(chain)) {
         return std::nullopt;
     }
+    const PreviewScope preview(previewOf(session, chain));
     for (;;) {
         const bool mayClose = chain.points.size() >= kFewestForClosing;
         kdedInitGet(0, mayClose ? L"Close" : nullptr);
@@ -113,9 +158,7 @@ std::optional<Chain> askChain() {
         switch (
             kdedGetPoint(base, mayClose ? L"Next point or [Close]: " : L"Next point: ", point)) {
         case kPromptNormal:
-            // A multiline is flat: it stays on the level of its start.
-            point[2] = chain.points.front().z;
-            chain.points.push_back(pointOf(point));
+            appendPoint(chain, pointOf(point));
             break;
         case kPromptKeyword:
             chain.closed = true;
@@ -128,105 +171,22 @@ std::optional<Chain> askChain() {
     }
 }
 
-KdGePoint3d userToWorld(const KdGePoint3d& point, int displacement) {
-    resbuf user;
-    user.restype = kResultShort;
-    user.resval.rint = 1;
-    resbuf world;
-    world.restype = kResultShort;
-    double place[3] = {point.x, point.y, point.z};
-    kdedTrans(place, &user, &world, displacement, place);
-    return pointOf(place);
-}
-
-MlineSettings currentSettings(const DatabaseCore& core, KdDbObjectId styleId) {
-    MlineSettings settings;
-    settings.scale = core.variables().real("CMLSCALE");
-    settings.justification = core.variables().integerWithin("CMLJUST", 0, 2, 0);
-    KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, styleId, kForRead);
-    if (style == nullptr) {
-        return settings;
-    }
-    settings.startAngle = style->startAngle();
-    settings.endAngle = style->endAngle();
-    for (int i = 0; i < style->numElements(); ++i) {
-        double offset = 0.0;
-        KdCmColor color;
-        KdDbObjectId linetype;
-        style->getElementAt(i, offset, color, linetype);
-        settings.offsets.push_back(offset);
-    }
-    style->close();
-    return settings;
-}
-
-// One unbroken stretch of each element from this vertex on.
-VoVector<KdMLSegment> unbroken(const std::vector<double>& positions) {
-    VoVector<KdMLSegment> record;
-    for (const double position : positions) {
-        KdMLSegment element;
-        element.m_lineParams.append(position);
-        element.m_lineParams.append(0.0);
-        record.append(element);
-    }
-    return record;
-}
-
-void fillChain(KdDbMline& mline, const MlineChain& chain) {
-    KdArray<KdGeVector3d> axes;
-    KdArray<KdGeVector3d> miters;
-    for (const ChainVertex& vertex : chain.vertices) {
-        mline.appendSeg(vertex.position);
-        axes.append(vertex.axis);
-        miters.append(vertex.miter);
-    }
-    KdDbMlineImp& imp = *KdDbSystemInternals::getImpObject(&mline);
-    imp.appendSeg(axes, true);
-    imp.appendSeg(miters, false);
-    for (int i = 0; i < mline.numVertices(); ++i) {
-        VoVector<KdMLSegment> record = unbroken(chain.elementPositions[static_cast<unsigned>(i)]);
-        KdArray<void*> parameters;
-        parameters.append(&record);
-        mline.setParametersAt(i, parameters);
-    }
-}
-
 } // namespace
 
 void mlineCommand(Session& session) {
-    const std::optional<Chain> asked = askChain();
+    const std::optional<Chain> asked = askChain(session);
     if (!asked) {
         return;
     }
-    KdDbDatabase& database = session.database();
-    DatabaseCore& core = database.core();
-    const KdDbObjectId style = database.cmlstyle();
-    const MlineSettings settings = currentSettings(core, style);
-    const KdGePoint3d up = userToWorld({0.0, 0.0, 1.0}, 1);
-    const KdGeVector3d normal{up.x, up.y, up.z};
-    std::vector<KdGePoint3d> points;
-    for (const KdGePoint3d& point : asked->points) {
-        points.push_back(userToWorld(point, 0));
-    }
-    const MlineChain chain = makeMlineChain(points, asked->closed, normal, settings);
-    if (settings.offsets.empty()) {
+    if (!hasCurrentElements(session.database())) {
         kdutPrintf(L"The current style has no elements to draw.");
     }
-    if (chain.vertices.empty() || settings.offsets.empty()) {
-        return;
+    DatabaseCore& core = session.database().core();
+    if (auto mline = makeMline(session, *asked)) {
+        BlockEntities& space = core.modelSpace();
+        KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, space.record);
+        core.appendEntity(space, stub);
     }
-    auto mline = std::make_unique<KdDbMline>();
-    mline->setDatabaseDefaults(&database);
-    mline->setStyle(style);
-    mline->setScale(settings.scale);
-    mline->setJustification(settings.justification);
-    mline->setNormal(normal);
-    fillChain(*mline, chain);
-    mline->setClosedMline(asked->closed && chain.vertices.size() >= kFewestForClosing);
-    BlockEntities& space = core.modelSpace();
-    KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, space.record);
-    core.appendEntity(space, stub);
 }
 
 } // namespace orvex
