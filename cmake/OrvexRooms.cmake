@@ -65,8 +65,10 @@ function(orvex_room name)
     endif()
     set_target_properties(${name} PROPERTIES
         AUTOMOC ${arg_MOC}
-        AUTOUIC ${arg_UIC}
         ORVEX_ROOM_USES "${arg_USES};${arg_PRIVATE_USES}")
+    if(arg_UIC)
+        orvex_compile_layouts(${name})
+    endif()
     set_property(GLOBAL APPEND PROPERTY ORVEX_ROOMS ${name})
 
     # What the room asks of its users, without its objects.
@@ -158,6 +160,25 @@ function(orvex_link_rooms target)
 endfunction()
 
 # Helpers of the functions here and in the other files.
+
+# Not by AUTOUIC: Ninja doesn't know what that makes, and would compile a changed layout at the next build only.
+function(orvex_compile_layouts name)
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/include) # where moc's results are as well
+    file(GLOB layouts CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.ui)
+    foreach(layout IN LISTS layouts)
+        cmake_path(GET layout STEM stem)
+        set(header ${folder}/ui_${stem}.h)
+        add_custom_command(OUTPUT ${header}
+            COMMAND Qt5::uic -o ${header} ${layout}
+            DEPENDS ${layout}
+            COMMENT "Compiling the layout ${stem}" VERBATIM)
+        set_source_files_properties(${header} PROPERTIES SKIP_AUTOGEN ON)
+        target_sources(${name} PRIVATE ${header})
+    endforeach()
+    # Nobody's style rules are for generated code.
+    set_target_properties(${name} PROPERTIES AUTOGEN_USE_SYSTEM_INCLUDE ON)
+    target_include_directories(${name} SYSTEM PRIVATE ${folder})
+endfunction()
 
 function(orvex_need_targets where)
     foreach(name IN LISTS ARGN)
