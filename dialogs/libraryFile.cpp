@@ -26,6 +26,6 @@ std::optional<std::string> readLibraryFile(const fs::path& path) {
     }
     std::string bytes(static_cast<std::size_t>(size), '\0');
     file.read(bytes.data(), static_cast<std::streamsize>(size));
-    bytes.resize(static_cast<std::size_t>(file.gcount()));
-    return bytes;
+    return file.gcount() == static_cast<std::streamsize>(size) ? std::optional(std::move(bytes))
+                                                               : std::nullopt;
 }
