@@ -1,0 +1,182 @@
+#include "CMlstyleNewModDlg.h"
+
+#include "CDataExchange.h"
+#include "CMlstyleNewModDlgView.h"
+#include "KdDbDictionary.h"
+#include "KdDbMlineStyle.h"
+#include "colourWords.h"
+#include "dialogIcon.h"
+#include "dialogPlace.h"
+#include "kddbObjects.h"
+#include "modifyControls.h"
+#include "stylePreview.h"
+#include "styleRecord.h"
+
+namespace {
+
+constexpr unsigned kResource = 105;
+constexpr unsigned kNewCaption = 4;
+constexpr unsigned kModifyCaption = 5;
+constexpr const wchar_t* kPlace = L"MlstyNewModDlgPos";
+
+} // namespace
+
+CMlstyleNewModDlg::CMlstyleNewModDlg(CWnd* parent) : CDialog(kResource, parent) {
+    new VOUI::CMlstyleNewModDlg(nullptr, this); // ties itself to this and goes with it
+}
+
+CMlstyleNewModDlg::~CMlstyleNewModDlg() = default;
+
+void CMlstyleNewModDlg::DoDataExchange(CDataExchange* exchange) {
+    CDialog::DoDataExchange(exchange);
+    DDX_Text(exchange, kDescriptionField, m_description);
+    DDX_Text(exchange, kStartAngleField, m_startAngleText);
+    DDX_Text(exchange, kEndAngleField, m_endAngleText);
+    DDX_Control(exchange, kOffsetField, m_offsetEdit);
+    DDX_Control(exchange, kStartAngleField, m_startAngleEdit);
+    DDX_Control(exchange, kEndAngleField, m_endAngleEdit);
+    DDX_Control(exchange, kFillColourCombo, m_fillColour);
+    DDX_Control(exchange, kElementColourCombo, m_elementColour);
+    DDX_Control(exchange, kLineTypeCombo, m_lineType);
+    DDX_Control(exchange, kElementList, m_elements);
+    DDV_RealOffset(exchange, m_offsetEdit);
+    DDV_RealAng(exchange, m_startAngleEdit);
+    DDV_RealAng(exchange, m_endAngleEdit);
+}
+
+int CMlstyleNewModDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    SetcurentStyle(m_styleName);
+    InitialDialog();
+    OnCreate(nullptr);
+    // Without its style the dialog would write to another one, or to none.
+    if (m_mode == modeNew && !makeNewStyle()) {
+        return 0;
+    }
+    if (!copyToScratch()) {
+        removeNewStyle();
+        return 0;
+    }
+    restoreDialogPlace(*this, kPlace);
+    setDialogIcon(*this, 1);
+    m_lineType.UpdateData(true);
+    return 1;
+}
+
+void CMlstyleNewModDlg::SetcurentStyle(const CStdStr<wchar_t>& name) {
+    m_styleId = KdDbObjectId();
+    KdDbDictionary* dictionary = nullptr;
+    kddbOpenObject(dictionary, m_dictionaryId, kForRead);
+    if (dictionary != nullptr) {
+        dictionary->getAt(name, m_styleId);
+        dictionary->close();
+    }
+}
+
+int CMlstyleNewModDlg::OnCreate(tagCREATESTRUCTW* /*created*/) {
+    const bool isNew = m_mode == modeNew;
+    m_captionPrefix.LoadStringW(isNew ? kNewCaption : kModifyCaption);
+    SetWindowTextW(m_captionPrefix + (isNew ? m_newName : m_styleName));
+    return 0;
+}
+
+// From here on the new style stands in the drawing.
+bool CMlstyleNewModDlg::makeNewStyle() {
+    KdDbDictionary* dictionary = nullptr;
+    KdDbMlineStyle* source = nullptr;
+    kddbOpenObject(dictionary, m_dictionaryId, kForWrite);
+    kddbOpenObject(source, m_styleId, kForRead);
+    bool isMade = false;
+    if (dictionary != nullptr && source != nullptr) {
+        auto style = std::make_unique<KdDbMlineStyle>();
+        style->initMlineStyle();
+        style->set(*source, true);
+        style->setName(m_newName);
+        KdDbObjectId id;
+        isMade = dictionary->setAt(m_newName, style.get(), id) == Status::done;
+        if (isMade) {
+            m_styleId = id;
+            style.release()->close(); // the drawing's now
+        }
+    }
+    if (source != nullptr) {
+        source->close();
+    }
+    if (dictionary != nullptr) {
+        dictionary->close();
+    }
+    return isMade;
+}
+
+bool CMlstyleNewModDlg::copyToScratch() {
+    KdDbMlineStyle* style = nullptr;
+    kddbOpenObject(style, m_styleId, kForRead);
+    if (style == nullptr) {
+        return false;
+    }
+    m_scratchStyle = std::make_unique<KdDbMlineStyle>();
+    m_scratchStyle->initMlineStyle();
+    m_scratchStyle->set(*style, true);
+    style->close();
+    return true;
+}
+
+void CMlstyleNewModDlg::removeNewStyle() {
+    KdDbDictionary* dictionary = nullptr;
+    if (m_mode == modeNew) {
+        kddbOpenObject(dictionary, m_dictionaryId, kForWrite);
+    }
+    if (dictionary != nullptr) {
+        dictionary->remove(m_newName);
+        dictionary->close();
+    }
+}
+
+void CMlstyleNewModDlg::OnOK() {
+    UpdateData(true); // complains of a bad offset, whose row has its last good one
+    if (!ValidateAng(m_startAngleText) || !ValidateAng(m_endAngleText)) {
+        return;
+    }
+    ModifyStyle();
+    storeDialogPlace(*this, kPlace);
+    CDialog::OnOK();
+}
+
+void CMlstyleNewModDlg::OnCancel() {
+    removeNewStyle();
+    CDialog::OnCancel();
+}
+
+void CMlstyleNewModDlg::ModifyStyle() {
+    GetFlag70();
+    KdDbMlineStyle* style = nullptr;
+    kddbOpenObject(style, m_styleId, kForWrite);
+    if (style == nullptr) {
+        return;
+    }
+    SetFlag(style, m_flagWord);
+    style->setDescription(m_description);
+    style->setFillColor(chosenFillColour(style->fillColor()));
+    SetElementData(style);
+    SetAnger(style);
+    style->close();
+}
+
+void CMlstyleNewModDlg::showInPreview() {
+    if (m_scratchStyle) {
+        paintPreviewOf(GetParent(), m_scratchStyle.get());
+    }
+}
+
+void CMlstyleNewModDlg::ColorToString(int colour, CStdStr<wchar_t>& text) const {
+    text = colourWord(colour);
+}
+
+void CMlstyleNewModDlg::StringToColor(const CStdStr<wchar_t>& text, int& colour) const {
+    colour = colourIndexOf(text);
+}
+
+void CMlstyleNewModDlg::OnDestroy() {
+    m_elements.OnDestroy();
+    m_rowColours.clear();
+}

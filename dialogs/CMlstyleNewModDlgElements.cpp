@@ -1,0 +1,204 @@
+#include "CMlstyleNewModDlg.h"
+
+#include "CRect.h"
+#include "KdDbMlineStyle.h"
+#include "KdDocument.h"
+#include "modifyControls.h"
+#include "realText.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <limits>
+
+// The table of elements in the modify dialog. The table is the working copy: whatever changes in
+// it makes the elements of the style anew.
+
+namespace {
+
+enum Column : int { offsetColumn = 0, lineTypeColumn = 1, colourColumn = 2 };
+
+// In the order of the columns.
+constexpr unsigned kHeadingTexts[] = {1, 3, 2};
+constexpr unsigned kTableFullText = 25;
+constexpr unsigned kWholeRows = 32;
+constexpr unsigned kSelected = 2;
+constexpr int kOffsetRoom = 2049; // characters that are taken of the field, with the terminator
+constexpr std::uint16_t kByLayerIndex = 256;
+
+// Three headings of equal width. What would part the columns is no part of a heading.
+CStdStr<wchar_t> headings(int width) {
+    CStdStr<wchar_t> all;
+    for (const unsigned number : kHeadingTexts) {
+        CStdStr<wchar_t> name;
+        name.LoadStringW(number);
+        std::wstring plain = name.text();
+        std::erase_if(plain, [](wchar_t mark) { return mark == L',' || mark == L';'; });
+        CStdStr<wchar_t> column;
+        column.Format(L",%d", width);
+        all += all.IsEmpty() ? L"" : L";";
+        all += plain.c_str();
+        all += column;
+    }
+    return all;
+}
+
+} // namespace
+
+void CMlstyleNewModDlg::fillElementList(const KdDbMlineStyle& style) {
+    CRect client;
+    m_elements.GetClientRect(&client);
+    m_elements.SetExtendedStyle(m_elements.GetExtendedStyle() | kWholeRows);
+    m_elements.SetHeadings(headings(client.Width() / static_cast<int>(std::size(kHeadingTexts))));
+    m_elements.LoadColumnInfo();
+    for (const ElementRow& row : elementRows(style)) {
+        const int index = m_elements.AddItem(row.offset.c_str(), row.lineType.c_str(),
+                                             shownColour(row.colour).c_str());
+        setColourOf(index, row.colour);
+    }
+}
+
+std::vector<ElementRow> CMlstyleNewModDlg::rows() const {
+    std::vector<ElementRow> all;
+    for (int row = 0; row < m_elements.GetItemCount(); ++row) {
+        const KdCmColor* const colour = colourOf(row);
+        all.push_back({m_elements.GetItemText(row, offsetColumn).text(),
+                       m_elements.GetItemText(row, lineTypeColumn).text(),
+                       colour != nullptr ? *colour : KdCmColor()});
+    }
+    return all;
+}
+
+void CMlstyleNewModDlg::SetElementData(KdDbMlineStyle* style) {
+    if (style != nullptr) {
+        const KdDocument* const document = curDoc();
+        setElementRows(*style, rows(), document != nullptr ? document->database() : nullptr);
+    }
+}
+
+void CMlstyleNewModDlg::showElementsInPreview() {
+    SetElementData(m_scratchStyle.get());
+    showInPreview();
+}
+
+int CMlstyleNewModDlg::selectedRow() const {
+    return m_elements.GetNextItem(-1, kSelected);
+}
+
+KdCmColor* CMlstyleNewModDlg::colourOf(int row) const {
+    return reinterpret_cast<KdCmColor*>(m_elements.GetItemData(row));
+}
+
+void CMlstyleNewModDlg::setColourOf(int row, const KdCmColor& colour) {
+    if (KdCmColor* const known = colourOf(row)) {
+        *known = colour;
+        return;
+    }
+    m_rowColours.push_back(colour);
+    m_elements.SetItemData(row, reinterpret_cast<unsigned long>(&m_rowColours.back()));
+}
+
+void CMlstyleNewModDlg::forgetColourOf(int row) {
+    const KdCmColor* const known = colourOf(row);
+    m_elements.SetItemData(row, 0);
+    m_rowColours.remove_if([known](const KdCmColor& colour) { return &colour == known; });
+}
+
+void CMlstyleNewModDlg::SetControlState(bool on) {
+    // A style keeps one element at least.
+    GetDlgItem(kDeleteButton)->EnableWindow(on && m_elements.GetItemCount() != 1);
+    for (const int control : {kLineTypeCombo, kOffsetField, kElementColourCombo}) {
+        GetDlgItem(control)->EnableWindow(on);
+    }
+}
+
+void CMlstyleNewModDlg::OnClickList(tagNMHDR* /*header*/, long* /*result*/) {
+    const int row = selectedRow();
+    SetControlState(row >= 0);
+    if (row < 0) {
+        GetDlgItem(kOffsetField)->SetWindowTextW(kNoOffset);
+        return;
+    }
+    GetDlgItem(kOffsetField)->SetWindowTextW(m_elements.GetItemText(row, offsetColumn));
+    m_lineType.SetCurSel(m_lineType.FindString(-1, m_elements.GetItemText(row, lineTypeColumn)));
+    m_lineType.UpdateData(true);
+    const int index =
+        m_elementColour.FindStringExact(-1, m_elements.GetItemText(row, colourColumn));
+    if (index >= 0) {
+        m_elementColour.SetCurSel(index);
+    } else if (const KdCmColor* const colour = colourOf(row)) {
+        // It is offered from now on, and selected when the row is clicked again.
+        m_elementColour.AddColorToMRU(*colour);
+    }
+}
+
+void CMlstyleNewModDlg::OnEnterOffset() {
+    std::array<wchar_t, kOffsetRoom> text{};
+    GetDlgItem(kOffsetField)->GetWindowTextW(text.data(), kOffsetRoom);
+    if (gx_strIsValidReal(text.data(), true, false, nullptr)) {
+        m_elements.SetItemText(selectedRow(), offsetColumn, text.data());
+    }
+}
+
+void CMlstyleNewModDlg::OnOffsetKillfocus() {
+    UpdateData(true);
+    m_elements.Sort(offsetColumn, false);
+    showElementsInPreview();
+}
+
+void CMlstyleNewModDlg::OnAddElement() {
+    if (m_scratchStyle && m_scratchStyle->numElements() == std::numeric_limits<int>::max()) {
+        CStdStr<wchar_t> text;
+        text.LoadStringW(kTableFullText);
+        MessageBoxW(text, nullptr, 0);
+        return;
+    }
+    const std::wstring byLayer = localByLayer();
+    const int row = m_elements.AddItem(L"0", byLayer.c_str(), byLayer.c_str());
+    m_elements.SetFocus();
+    m_elements.SetItemState(row, 1, 1);
+    SetControlState(true);
+    OnClickList();
+    SetControlState(true);
+    KdCmColor colour;
+    colour.setColorIndex(kByLayerIndex);
+    setColourOf(row, colour);
+    m_elements.Sort(offsetColumn, false);
+    showElementsInPreview();
+}
+
+void CMlstyleNewModDlg::OnDelElement() {
+    const int row = std::min(selectedRow(), m_elements.GetItemCount() - 1);
+    if (row < 0) {
+        return;
+    }
+    m_elements.SetFocus();
+    m_elements.SetItemState(row, 1, 1);
+    forgetColourOf(row);
+    m_elements.DeleteItem(row);
+    SetControlState(selectedRow() >= 0);
+    showElementsInPreview();
+}
+
+void CMlstyleNewModDlg::OnselchgElecol() {
+    const int row = selectedRow();
+    if (row < 0) {
+        return;
+    }
+    KdCmColor colour;
+    m_elementColour.GetCurrentItemColor(colour);
+    m_elements.SetItemText(row, colourColumn, shownColour(colour).c_str());
+    setColourOf(row, colour);
+    showElementsInPreview();
+}
+
+void CMlstyleNewModDlg::OnLtypeSelChange() {
+    const int row = selectedRow();
+    if (row < 0) {
+        return;
+    }
+    CStdStr<wchar_t> name;
+    m_lineType.GetLBText(m_lineType.GetCurSel(), name);
+    m_elements.SetItemText(row, lineTypeColumn, name);
+    showElementsInPreview();
+}

@@ -1,0 +1,132 @@
+#include "CMlstyleNewModDlgView.h"
+
+#include "CMlstyleNewModDlg.h"
+#include "logicOf.h"
+#include "modifyControls.h"
+#include "ui_CMlstyleNewModDlg.h"
+
+namespace VOUI {
+
+CMlstyleNewModDlg::CMlstyleNewModDlg(QWidget* parent, CWnd* logic)
+    : QBaseDialog(parent), m_layout(std::make_unique<Ui_CMlstyleNewModDlg>()) {
+    m_layout->setupUi(this);
+    connectWidgets();
+    if (auto* const dialog = dynamic_cast<::CMlstyleNewModDlg*>(logic)) {
+        dialog->SetHandle(this);
+        dialog->SetAutoDelete(true, true);
+        registerWidgets(*dialog);
+    }
+}
+
+CMlstyleNewModDlg::~CMlstyleNewModDlg() = default;
+
+void CMlstyleNewModDlg::connectWidgets() {
+    using View = CMlstyleNewModDlg;
+    const Ui_CMlstyleNewModDlg& ui = *m_layout;
+    connect(ui.chkBoxOpen, &QCheckBox::clicked, this, &View::OnOpenCloseFill);
+    connect(ui.listWidget, &QTableWidget::itemClicked, this, &View::OnClickList);
+    connect(ui.pBtnAdd, &QPushButton::clicked, this, &View::OnAddElement);
+    connect(ui.pBtnDelete, &QPushButton::clicked, this, &View::OnDelElement);
+    connect(ui.lineEditOffset, &QLineEdit::editingFinished, this, &View::OnOffsetKillfocus);
+    connect(ui.lineEditOffset, &QLineEdit::textEdited, this, &View::OnEnterOffset);
+    connect(ui.lineEditAngleStart, &QLineEdit::editingFinished, this, &View::OnAngKillfocus);
+    connect(ui.lineEditAngleEnd, &QLineEdit::editingFinished, this, &View::OnAngKillfocus);
+    connect(ui.cbBoxColor, &MRUComboBox::selChanged, this, &View::OnselchgElecol);
+    connect(ui.cbBoxFillColor, &MRUComboBox::selChanged, this, &View::OnselchgFillcol);
+    connect(ui.cbBoxLinetype, &MRUComboBox::selChanged, this, &View::OnLtypeSelChange);
+    connect(ui.pBtnOK, &QPushButton::clicked, this, &View::OnOK);
+    connect(ui.pBtnCancel, &QPushButton::clicked, this, &View::OnCancel);
+}
+
+void CMlstyleNewModDlg::registerWidgets(::CMlstyleNewModDlg& logic) {
+    const Ui_CMlstyleNewModDlg& ui = *m_layout;
+    struct Item {
+        int number;
+        QWidget* widget;
+    };
+    const Item items[] = {
+        {1, ui.pBtnOK},
+        {2, ui.pBtnCancel},
+        {kDescriptionField, ui.lEditDescription},
+        {kStartLineBox, ui.chkBoxLineStart},
+        {kEndLineBox, ui.chkBoxLineEnd},
+        {kStartOuterArcBox, ui.chkBoxOuterArcStart},
+        {kStartInnerArcsBox, ui.chkBoxInnerStart},
+        {kEndOuterArcBox, ui.chkBoxOuterArcEnd},
+        {kEndInnerArcsBox, ui.chkBoxInnerEnd},
+        {kStartAngleField, ui.lineEditAngleStart},
+        {kEndAngleField, ui.lineEditAngleEnd},
+        {kElementList, ui.listWidget},
+        {kJointsBox, ui.chkBoxDisplayJoints},
+        {kFillColourCombo, ui.cbBoxFillColor},
+        {kElementColourCombo, ui.cbBoxColor},
+        {kOffsetField, ui.lineEditOffset},
+        {kAddButton, ui.pBtnAdd},
+        {kDeleteButton, ui.pBtnDelete},
+        {kFillBox, ui.chkBoxOpen},
+        {kLineTypeCombo, ui.cbBoxLinetype},
+    };
+    for (const Item& item : items) {
+        logic.SetDlgItem(item.number, item.widget);
+    }
+}
+
+void CMlstyleNewModDlg::tell(void (::CMlstyleNewModDlg::*handler)()) {
+    if (auto* const logic = logicOf<::CMlstyleNewModDlg>(this)) {
+        (logic->*handler)();
+    }
+}
+
+void CMlstyleNewModDlg::OnOK() {
+    tell(&::CMlstyleNewModDlg::OnOK);
+}
+
+void CMlstyleNewModDlg::OnCancel() {
+    tell(&::CMlstyleNewModDlg::OnCancel);
+}
+
+void CMlstyleNewModDlg::OnClickList() {
+    if (auto* const logic = logicOf<::CMlstyleNewModDlg>(this)) {
+        tagNMHDR header;
+        long result = 0;
+        logic->OnClickList(&header, &result);
+    }
+}
+
+void CMlstyleNewModDlg::OnOpenCloseFill() {
+    tell(&::CMlstyleNewModDlg::OnOpenCloseFill);
+}
+
+void CMlstyleNewModDlg::OnAddElement() {
+    tell(&::CMlstyleNewModDlg::OnAddElement);
+}
+
+void CMlstyleNewModDlg::OnDelElement() {
+    tell(&::CMlstyleNewModDlg::OnDelElement);
+}
+
+void CMlstyleNewModDlg::OnOffsetKillfocus() {
+    tell(&::CMlstyleNewModDlg::OnOffsetKillfocus);
+}
+
+void CMlstyleNewModDlg::OnEnterOffset() {
+    tell(&::CMlstyleNewModDlg::OnEnterOffset);
+}
+
+void CMlstyleNewModDlg::OnAngKillfocus() {
+    tell(&::CMlstyleNewModDlg::OnAngKillfocus);
+}
+
+void CMlstyleNewModDlg::OnselchgElecol() {
+    tell(&::CMlstyleNewModDlg::OnselchgElecol);
+}
+
+void CMlstyleNewModDlg::OnselchgFillcol() {
+    tell(&::CMlstyleNewModDlg::OnselchgFillcol);
+}
+
+void CMlstyleNewModDlg::OnLtypeSelChange() {
+    tell(&::CMlstyleNewModDlg::OnLtypeSelChange);
+}
+
+} // namespace VOUI

@@ -1,0 +1,146 @@
+#include "elementRows.h"
+
+#include "CStdStr.h"
+#include "KdDbLinetypeTable.h"
+#include "KdDbMlineStyle.h"
+#include "ZeroRule.h"
+#include "kddbObjects.h"
+#include "numberText.h"
+#include "styleRecord.h"
+#include "wideNumbers.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace {
+
+constexpr int kByLayer = 0;
+constexpr int kByBlock = 1;
+constexpr int kContinuous = 3;
+
+struct ReservedName {
+    int number;
+    const wchar_t* name; // as drawings have it
+};
+constexpr ReservedName kReservedNames[] = {
+    {kByLayer, L"ByLayer"},
+    {kByBlock, L"ByBlock"},
+    {kContinuous, L"Continuous"},
+};
+
+std::wstring local(int number) {
+    return kddbGetReservedString(number, true);
+}
+
+bool isSame(const std::wstring& a, const std::wstring& b) {
+    return StrCmpI(a.c_str(), b.c_str()) == 0;
+}
+
+// The local form of a reserved name, one of the first `count`; any other name stays.
+std::wstring localized(const std::wstring& name, int count) {
+    for (const ReservedName& reserved : kReservedNames) {
+        if (count-- > 0 && isSame(name, reserved.name)) {
+            return local(reserved.number);
+        }
+    }
+    return name;
+}
+
+std::wstring lineTypeName(KdDbObjectId id) {
+    KdDbLinetypeTableRecord* record = nullptr;
+    kddbOpenObject(record, id, kForRead);
+    if (record == nullptr) {
+        return {};
+    }
+    std::wstring name = record->name();
+    record->close();
+    return name;
+}
+
+std::wstring offsetText(double offset) {
+    constexpr int kDecimal = 2;
+    std::array<wchar_t, 512> text{};
+    kddbRToS(offset, kDecimal, 1, text.data());
+    return text.data();
+}
+
+double offsetOf(const std::wstring& text) {
+    constexpr double kMost = std::numeric_limits<double>::max();
+    return std::clamp(_wtof(text.c_str()), -kMost, kMost);
+}
+
+std::wstring bookKey(const KdCmColor& colour) {
+    const int length = std::max(colour.dictionaryKeyLength(), 0);
+    std::vector<wchar_t> key(static_cast<std::size_t>(length) + 1);
+    colour.getDictionaryKey(key.data());
+    return key.data();
+}
+
+// The names as the record's functions take them: one pointer each, null for an empty one.
+std::vector<wchar_t*> pointersTo(std::vector<std::wstring>& names) {
+    std::vector<wchar_t*> pointers;
+    pointers.reserve(names.size());
+    for (std::wstring& name : names) {
+        pointers.push_back(name.empty() ? nullptr : name.data());
+    }
+    return pointers;
+}
+
+} // namespace
+
+std::wstring localByLayer() {
+    return local(kByLayer);
+}
+
+std::wstring shownColour(const KdCmColor& colour) {
+    return localized(colour.colorNameForDisplay(), 2);
+}
+
+std::vector<ElementRow> elementRows(const KdDbMlineStyle& style) {
+    const ZeroRule dropZeros(8);
+    std::vector<ElementRow> rows;
+    for (int i = 0; i < style.numElements(); ++i) {
+        double offset = 0.0;
+        KdDbObjectId lineType;
+        ElementRow row;
+        style.getElementAt(i, offset, row.colour, lineType);
+        row.offset = offsetText(offset);
+        row.lineType = localized(lineTypeName(lineType), 3);
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+std::wstring storedLineType(const std::wstring& shown) {
+    if (isSame(shown, local(kByLayer))) {
+        return L"ByLayer";
+    }
+    if (isSame(shown, local(kByBlock))) {
+        return L"ByBlock";
+    }
+    return isSame(shown, local(kContinuous)) ? shown : L"Continuous";
+}
+
+void setElementRows(KdDbMlineStyle& style, const std::vector<ElementRow>& rows,
+                    KdDbDatabase* database) {
+    std::vector<double> offsets;
+    std::vector<int> indices;
+    std::vector<unsigned> values;
+    std::vector<std::wstring> lineTypes;
+    std::vector<std::wstring> keys;
+    for (const ElementRow& row : rows) {
+        offsets.push_back(offsetOf(row.offset));
+        lineTypes.push_back(storedLineType(row.lineType));
+        indices.push_back(row.colour.colorIndex());
+        values.push_back(row.colour.color());
+        keys.push_back(bookKey(row.colour));
+    }
+    const int count = static_cast<int>(rows.size());
+    SetNumElements(&style, count);
+    SetElemLtype(&style, pointersTo(lineTypes).data(), count, database);
+    SetElemOffset(&style, offsets.data(), count);
+    SetElemColor(&style, indices.data(), count);
+    SetElemRgb(&style, values.data(), count);
+    SetElemName(&style, pointersTo(keys).data(), count);
+}

@@ -1,0 +1,61 @@
+#include "realText.h"
+
+#include "wideNumbers.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <cwctype>
+#include <string>
+
+namespace {
+
+constexpr std::size_t kLongest = 511;
+constexpr double kSharpestAngle = 10.0;
+constexpr double kFlattestAngle = 170.0;
+
+bool isReal(const std::wstring& text, bool allowNegative) {
+    int points = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const wchar_t character = text[i];
+        if (character == L'.') {
+            if (++points > 1) {
+                return false;
+            }
+        } else if (character == L'-') {
+            if (!allowNegative || i > 0) {
+                return false;
+            }
+        } else if (character < L'0' || character > L'9') {
+            return false;
+        }
+    }
+    return !text.empty();
+}
+
+} // namespace
+
+bool gx_strIsValidReal(const wchar_t* text, bool allowNegative, bool trim, double* value) {
+    if (value != nullptr) {
+        *value = 0.0;
+    }
+    if (text == nullptr) {
+        return false;
+    }
+    const std::size_t length = std::find(text, text + kLongest, L'\0') - text;
+    std::wstring copy(text, length);
+    if (trim) {
+        std::erase_if(copy, [](wchar_t character) { return std::iswspace(character) != 0; });
+    }
+    if (!isReal(copy, allowNegative)) {
+        return false;
+    }
+    if (value != nullptr) {
+        *value = _wtof(copy.c_str());
+    }
+    return true;
+}
+
+bool isCapAngle(const wchar_t* text) {
+    const double degrees = _wtof(text);
+    return degrees >= kSharpestAngle && degrees <= kFlattestAngle;
+}
