@@ -18,32 +18,62 @@ protected:
     }
 };
 
-// A right angle to the left: element 0 inside through (9, 1), element 1 outside through (11, -1).
 TEST_F(BreakTools, CutOpensFromPickToPick) {
+    // Element 0 inside through (9, 1), element 1 outside through (11, -1).
+    const std::string corner = "0,0 10,0 10,10 : 1 -1";
+    const std::string straight = "0,0 10,0 20,0 30,0 40,0 : 1 -1";
     const struct {
         const char* name;
         Tool tool;
-        std::string picks, first, second; // lists of vertices 0 and 1, their offsets left out
+        std::string chain, picks;
+        std::string breaks; // of the segments in turn
     } cases[] = {
-        {"on the element of the first pick", cutSingle, "3,1 6,-1", "0 3 6 | 0", "0 | 0"},
-        {"over a vertex", cutSingle, "6,-1 11,4", "0 | 0 6", "0 | 5"},
-        {"backwards", cutSingle, "11,4 6,-1", "0 | 0 6", "0 | 5"},
+        {"on the element of the first pick", cutSingle, corner, "3,1 6,-1", "0 3 6 | 0, 0 | 0"},
+        {"over a vertex", cutSingle, corner, "6,-1 11,4", "0 | 0 6, 0 | 5"},
+        {"backwards", cutSingle, corner, "11,4 6,-1", "0 | 0 6, 0 | 5"},
         // Across from (11, 0) the inner element hasn't begun: the gap ends at its vertex (9, 1),
         // with the segment before.
-        {"all, square across", cutAll, "6,-1 11,0", "0 6 9 | 0 6", "0 | 1"},
-        {"again, over the first", cutSingle, "2,-1 5,-1 1,-1 7,-1", "0 | 0 1 7", "0 | 0"},
-        {"at one place", cutAll, "3,-1 3,-1", "0 | 0", "0 | 0"},
-        {"a miss goes on with the old pick", cutSingle, "3,-1 7,-1 5,-1 9,-1", "0 | 0 3 9",
-         "0 | 0"},
+        {"all, square across", cutAll, corner, "6,-1 11,0", "0 6 9 | 0 6, 0 | 1"},
+        {"again, over the first", cutSingle, corner, "2,-1 5,-1 1,-1 7,-1", "0 | 0 1 7, 0 | 0"},
+        {"at one place", cutAll, corner, "3,-1 3,-1", "0 | 0, 0 | 0"},
+        {"a miss goes on with the old pick", cutSingle, corner, "3,-1 7,-1 5,-1 9,-1",
+         "0 | 0 3 9, 0 | 0"},
+        {"over several", cutSingle, straight, "7,1 33,1", "0 7 | 0,  | 0,  | 0, 3 | 0"},
+        {"from vertex to vertex", cutSingle, straight, "30,-1 10,-1", "0 | 0, 0 |, 0 |, 0 | 0"},
+        {"from the chain's start", cutSingle, straight, "0,-1 4,-1", "0 | 4, 0 | 0, 0 | 0, 0 | 0"},
+        {"never across the closing vertex", cutSingle, "0,0 10,0 10,10 0,10 : 1 -1 closed",
+         "1,4 4,1", "0 3 | 0,  | 0,  | 0, 5 | 0"},
+        // Far from the origin points are equal at a larger distance.
+        {"far out", cutSingle, "1e7,0 10000010,0 : 1 -1", "10000005,1 10000005.0005,1", "0 | 0"},
     };
     for (const auto& c : cases) {
-        KdDbMline* const corner = add("0,0 10,0 10,10 : 1 -1");
-        playAll(c.tool, corner, c.picks);
-        EXPECT_EQ(breaksAt(corner, 0), c.first) << c.name;
-        EXPECT_EQ(breaksAt(corner, 1), c.second) << c.name;
+        KdDbMline* const mline = add(c.chain);
+        playAll(c.tool, mline, c.picks);
+        const int segments = mline->numVertices() - (mline->closedMline() ? 0 : 1);
+        std::string breaks = breaksAt(mline, 0);
+        for (int v = 1; v < segments; ++v) {
+            breaks += ", " + breaksAt(mline, v);
+        }
+        EXPECT_EQ(breaks, c.breaks) << c.name;
         EXPECT_TRUE(isUndoOffered());
-        corner->erase();
+        mline->erase();
     }
+}
+
+TEST_F(BreakTools, CutStopsAtWhatDoesntExist) {
+    const double nan = std::nan("");
+    const double start[3] = {3, 1, 0};
+    const double end[3] = {5, 1, 0};
+    const double nowhere[3] = {nan, nan, nan};
+    CMlineEdit run;
+    CMlineSegment seg;
+    run.Cut_Mongline(&seg, 0, start, 0, end, 0);
+    seg.m_mline = add("0,0 10,0 : 1 -1");
+    run.Cut_Mongline(&seg, 2, start, 0, end, 0);
+    run.Cut_Mongline(&seg, -1, start, 0, end, 0);
+    run.Cut_Mongline(&seg, 0, start, 0, end, 5);
+    run.Cut_Mongline(&seg, 0, start, 0, nowhere, 0);
+    EXPECT_EQ(lists(seg.m_mline, 0), "1 0 | -1 0");
 }
 
 TEST_F(BreakTools, ASecondPickElsewhereRepeatsThePrompt) {

@@ -1,4 +1,4 @@
-// One list at a time: what a cut, a shift, a trim and a weld make of it.
+// One list at a time, where no pick of a tool leads: lists without runs, bounds of tolerances.
 
 #include "breakList.h"
 #include "shiftList.h"
@@ -12,9 +12,7 @@
 
 namespace {
 
-// The old offset, and the one at the new miter.
-constexpr double e = 0.5;
-constexpr double e2 = 0.7;
+constexpr double e = 0.5; // the offset
 
 struct Row {
     BreakList before;
@@ -28,43 +26,6 @@ void expectAll(std::initializer_list<Row> rows, Edit edit) {
         EXPECT_EQ(edit(row.before, row.at), row.after)
             << testing::PrintToString(row.before) << " at " << row.at;
     }
-}
-
-TEST(BreakLists, GapWithinOneSegment) {
-    const struct {
-        BreakList before;
-        double from, to;
-        BreakList after;
-    } cases[] = {
-        {{e, 0, 3, 5}, 5, 7, {e, 0, 3, 7}},
-        {{e, 0}, 3, 7, {e, 0, 3, 7}}, // to the segment's end: the stretch behind has no length
-        // ends within 1e-10 of a break count as on it, and stand in its place
-        {{e, 0, 3, 5}, 3 + 0.9e-10, 5 - 0.9e-10, {e, 0, 3 + 0.9e-10, 5 - 0.9e-10}},
-        {{e, 0, 3, 5}, 5 + 0.9e-10, 7, {e, 0, 3, 7}},
-        // a stretch that begins before the segment ends with a gap at its start
-        {{e, -2, 1}, 0, 3, {e}},
-        {{}, 3, 5, {}},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(cutWithin(c.before, c.from, c.to, true), c.after)
-            << testing::PrintToString(c.before) << " from " << c.from << " to " << c.to;
-    }
-    // Whether both ends get a break is decided by the gap's end alone.
-    EXPECT_EQ(cutWithin({e, 0}, 3, 5, false), (BreakList{e, 0}));
-}
-
-TEST(BreakLists, EndSegmentsOfALongerGap) {
-    expectAll({{{e, 0, 2, 4, 6}, 5, {e, 0, 2, 4, 5}},
-               {{e, 0, 2}, 3, {e, 0, 2, 3}}, // in a gap: the rest turns on
-               {{e, 0, 3, 5}, 3, {e, 0, 3}},
-               {{e, -2, 4}, 0, {e, 0}}}, // at the start all goes, whatever its value
-              [](const BreakList& list, double at) { return cutToSegmentEnd(list, at, true); });
-    expectAll({{{e, 0, 2, 4, 6}, 5, {e, 5, 6}},
-               {{e, 0, 2, 4, 6}, 3, {e, 3, 4, 6}}, // in a gap: the gap turns on
-               {{e, 0, 3, 5}, 3, {e, 3, 5}},
-               {{9, 8}, 3, {9, 3, 8}}, // all lies beyond it, the offset too: only the insertion
-               {{}, 3, {}}},
-              [](const BreakList& list, double at) { return cutFromSegmentStart(list, at, true); });
 }
 
 // Drawn length of a list between two places, as painting would see it.
@@ -115,50 +76,26 @@ TEST(ShiftList, AVertexMovesAlongTheSegment) {
               shortenFromStart);
     // What is gained stays undrawn, also of an unbroken element.
     expectAll({{{e, 0, 5, 7}, 2, {e, 2, 7, 9}}, {{e, 0}, 2, {e, 2}}, {{}, 2, {}}}, lengthenAtStart);
-    expectAll({{{e, 0, 5, 7}, 6, {e, 0, 5}},
-               {{e, 0, 5, 7}, 9, {e, 0, 5, 7}},
+    expectAll({{{e, 0, 5, 7}, 9, {e, 0, 5, 7}},
                {{e, 0, 5, 7}, 5, {e, 0}}, // a break at the end goes
                {{e}, 0.1, {e}},           // the offset isn't compared
                {{}, 1, {}}},
               endAt);
-    expectAll({{{e, 0, 5, 7}, 6, {e, 0, 5}}, {{e, 0, 5, 7}, 5, {e, 0}}, {{e, 0, 5, 7}, 0, {e}}},
-              beforeNewVertex);
-}
-
-TEST(ShiftList, AnElementsStartSlidesToAnotherMiter) {
-    expectAll({{{e, 0}, 2, {e2, 0}}, // the run follows its start
-               {{e, 3, 5}, 2, {e2, 5, 7}},
-               {{e, 1e-11, 5}, 2, {e2, 0, 7}}, // 0 but for a rounding
-               {{}, 2, {}}},
-              [](BreakList list, double d) { return growAtStart(std::move(list), d, e2); });
-    expectAll({{{e, 0}, 2, {e2, 0}},
-               {{e, 0, 5, 7}, 3, {e2, 0, 2, 4}},
-               {{e, 0, 5, 7}, 6, {e2, 1}},
-               {{e}, 2, {e2}}},
-              [](BreakList list, double d) { return shrinkAtStart(std::move(list), d, e2); });
     // Along the axis the offset stays finite; sin 30 degrees is a half.
     EXPECT_NEAR(alongMiter(0.5, std::acos(-1.0) / 6.0), 1.0, 1e-15);
     EXPECT_EQ(alongMiter(0.5, 0.0), 0.5 / std::sin(0.005));
 }
 
-TEST(TrimList, KeepsWhatLiesBeforeThePoint) {
-    expectAll({{{e, 0}, 5, {e, 0, 5}},
-               {{e, 0, 2, 4, 6}, 5, {e, 0, 2, 4}}, // on a stretch: it runs open to the end
-               {{e, 0, 2, 4, 6}, 3, {e, 0, 2, 3}},
+TEST(TrimList, ComparesTheOffsetLikeABreakAndKeepsTheFirstBreakBehind) {
+    expectAll({{{e, 0, 2, 4, 6}, 3, {e, 0, 2, 3}},
                {{e, 0, 5}, 5 - 1e-11, {e, 0, 5}}, // a break at the point counts as reached
-               {{e, 0, 5}, 5 - 1e-9, {e, 0}},
-               {{e}, 5, {e, 5}}, // drawn again from there on
-               {{5}, 5, {5}},    // the offset is compared like a break
+               {{e}, 5, {e, 5}},                  // drawn again from there on
+               {{5}, 5, {5}},
                {{}, 3, {}}},
               [](const BreakList& list, double at) { return keepUpTo(list, at, true); });
     EXPECT_EQ(keepUpTo({e, 0, 6}, 3, false), (BreakList{e, 0, 6, 3})) << "appended unseen";
-}
-
-TEST(TrimList, KeepsWhatLiesBehindThePoint) {
     expectAll(
-        {{{e, 0, 2, 4, 6}, 5, {e, 5, 6}},
-         {{e, 0, 2, 4, 6}, 3, {e, 4, 6}},
-         {{e, 0, 2, 4, 6}, 7, {e}},
+        {{{e, 0, 2, 4, 6}, 3, {e, 4, 6}},
          {{e, 6, 8}, 5, {e, 5, 8}}, // the first break goes in any case
          {{e, 0, 5}, 5, {e, 5, 5}}, // a break at the point isn't reached
          {{e}, 5, {e}}},
@@ -167,54 +104,17 @@ TEST(TrimList, KeepsWhatLiesBehindThePoint) {
     EXPECT_EQ(keepFrom({e, 0, 2}, 9, TrimPlace::beyondEnd), (BreakList{e, 0, 2, 9}));
 }
 
-constexpr double kAperture = 0.1;
-
-// Ends as the tool makes them: each asks the list whether a break at it lies between the two.
-WeldEnd lowerEnd(const BreakList& list, double distance) {
-    return {distance, standsInGap(list, distance, kAperture)};
-}
-WeldEnd upperEnd(const BreakList& list, double distance) {
-    return {distance, !standsInGap(list, distance, kAperture)};
-}
-
-TEST(WeldList, OnOneSegmentTheBreaksBetweenGo) {
+TEST(WeldList, EndsWhereNothingIsDrawnOrNothingLiesBefore) {
+    constexpr double kAperture = 0.1;
     const BreakList gap = {e, 0, 3, 5};
-    const struct {
-        BreakList before;
-        double from, to;
-        BreakList after;
-    } cases[] = {
-        {gap, 3.05, 4.96, {e, 0}}, // within the aperture of the gap's ends
-        {gap, 1, 6, {e, 0}},
-        {gap, 4, 4.5, gap},     // inside the gap: nothing lies between
-        {gap, 4, 6, {e, 0, 3}}, // the stretch from 5 on is given up
-        {gap, 1, 4, {e, 0, 5}}, // and here the one up to 3 reaches on to 5
-        {{e, 0, 3, 5, 7, 9}, 4, 8, {e, 0, 3, 9}},
-        {{e, 2, 6}, 2, 4, {e, 6}}, // the first break at the lower end goes at once
-        {{e}, 1, 4, {e, 0}},       // an element without any run is whole again
-        {{9, 12}, 3, 5, {9, 12}},  // no entry lies before the upper end
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(
-            weldWithin(c.before, lowerEnd(c.before, c.from), upperEnd(c.before, c.to), kAperture),
-            c.after)
-            << testing::PrintToString(c.before) << " from " << c.from << " to " << c.to;
-    }
-    EXPECT_FALSE(standsInGap(gap, 2.8, kAperture));
-    EXPECT_TRUE(standsInGap(gap, 2.95, kAperture)) << "a break a little ahead counts as passed";
-}
-
-TEST(WeldList, OnSeveralSegmentsEachListKeepsItsOuterPart) {
-    const BreakList gap = {e, 0, 3, 5};
-    EXPECT_EQ(weldToSegmentEnd(gap, lowerEnd(gap, 3.05), kAperture), (BreakList{e, 0}));
-    EXPECT_EQ(weldToSegmentEnd(gap, lowerEnd(gap, 4), kAperture), (BreakList{e, 0, 3}));
+    EXPECT_EQ(weldWithin({e, 2, 6}, {2, false}, {4, true}, kAperture), (BreakList{e, 6}));
+    EXPECT_EQ(weldWithin({e}, {1, false}, {4, true}, kAperture), (BreakList{e, 0}));
+    EXPECT_EQ(weldWithin({9, 12}, {3, false}, {5, true}, kAperture), (BreakList{9, 12}));
     EXPECT_EQ(weldToSegmentEnd({e, 2, 6}, {2, false}, 0.0), (BreakList{e, 0})) << "left bare";
-
-    EXPECT_EQ(weldFromSegmentStart(gap, upperEnd(gap, 4.95), kAperture), (BreakList{e, 0}));
-    EXPECT_EQ(weldFromSegmentStart(gap, {4, false}, 0.0), (BreakList{e, 5}));
     EXPECT_EQ(weldFromSegmentStart({9, 12}, {1, false}, 0.0), (BreakList{9, 12}));
     EXPECT_EQ(weldFromSegmentStart({e}, {1, false}, 0.0), (BreakList{e})) << "stays bare";
-    EXPECT_EQ(weldWhole({e}), (BreakList{e, 0}));
+    EXPECT_FALSE(standsInGap(gap, 2.8, kAperture));
+    EXPECT_TRUE(standsInGap(gap, 2.95, kAperture)) << "a break a little ahead counts as passed";
 }
 
 } // namespace

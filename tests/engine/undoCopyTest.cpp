@@ -7,19 +7,6 @@ namespace {
 
 using UndoCopies = orvex::testing::EngineWorld;
 
-TEST_F(UndoCopies, OfNothingArentWrittenBack) {
-    KdDbMline* const mline = addMline({{0, 0, 0}, {10, 0, 0}}, {0.5});
-    CMlineEdit run;
-    KdDbMline empty;
-    long name[2];
-    nameOf(mline, name);
-    run.MlineCopy(name, &empty);
-    run.MlineCopy(name, nullptr);
-    EXPECT_EQ(mline->numVertices(), 2);
-    nameOf(addLine(), name);
-    run.MlineCopy(name, mline); // another class refuses it
-}
-
 // The guard's oddities: the second record keeps its pointer, the first loses it.
 TEST_F(UndoCopies, TheGuardOpensForWriteAndCloses) {
     KdDbMline* const a = addMline({{0, 0, 0}, {10, 0, 0}}, {0.5});
