@@ -4,11 +4,10 @@
 #include "KdDbLinetypeTable.h"
 #include "KdDbMlineStyle.h"
 #include "KdString.h"
+#include "ZeroRule.h"
 #include "kddbObjects.h"
 #include "numberText.h"
-#include "promptStatus.h"
 #include "styleRecord.h"
-#include "systemVariables.h"
 
 #include <algorithm>
 #include <array>
@@ -17,29 +16,6 @@ namespace {
 
 constexpr unsigned kIndexBits = 0xFFFF;
 using Text = CStdStr<wchar_t>;
-
-// Keeps DIMZIN at 0 as long as it lives, so that angles have all their zeros.
-class AllZeros {
-public:
-    AllZeros() : m_wasRead(kdedGetVar(kName, &m_before) == kPromptNormal) {
-        resbuf zero;
-        zero.restype = kResultShort;
-        zero.resval.rint = 0;
-        kdedSetVar(kName, &zero);
-    }
-    ~AllZeros() {
-        if (m_wasRead) {
-            kdedSetVar(kName, &m_before);
-        }
-    }
-    AllZeros(const AllZeros&) = delete;
-    AllZeros& operator=(const AllZeros&) = delete;
-
-private:
-    static constexpr const wchar_t* kName = L"DIMZIN";
-    resbuf m_before;
-    bool m_wasRead;
-};
 
 class BlockLines {
 public:
@@ -135,7 +111,7 @@ std::wstring oneLine(std::wstring text) {
 }
 
 std::vector<std::string> styleBlockLines(const KdDbMlineStyle& style) {
-    const AllZeros allZeros;
+    const ZeroRule allZeros(0);
     const KdCmColor& fill = style.fillColor();
     const std::wstring fillKey = bookKey(fill);
     BlockLines block;

@@ -7,6 +7,7 @@
 #include "StyleWorld.h"
 #include "dialogRun.h"
 #include "messageBeep.h"
+#include "realText.h"
 #include "resourceLibrary.h"
 #include "styleRecord.h"
 #include "systemVariables.h"
@@ -201,7 +202,10 @@ private:
 };
 
 TEST_F(ModifyDialog, showsAStyleWithItsOffsetsRounded) {
-    const int zeros = zeroRule();
+    resbuf dropLeading;
+    dropLeading.restype = kResultShort;
+    dropLeading.resval.rint = 4; // neither of the rules that the dialog writes its numbers by
+    kdedSetVar(L"DIMZIN", &dropLeading);
     modify(L"wall", [this] {
         const QWidget& view = *m_dialog->GetSafeHwnd();
         EXPECT_EQ(view.windowTitle(), "Modify Multiline Style: wall");
@@ -225,7 +229,264 @@ TEST_F(ModifyDialog, showsAStyleWithItsOffsetsRounded) {
         EXPECT_EQ(table().rowHeight(0), 20);
         click("pBtnCancel");
     });
-    EXPECT_EQ(zeroRule(), zeros);
+    EXPECT_EQ(zeroRule(), 4);
+}
+
+TEST_F(ModifyDialog, okWritesWhatItShowsAndCancelNothing) {
+    const auto before = style(L"Wall")->content();
+    EXPECT_EQ(modify(L"Wall",
+                     [this] {
+                         click("chkBoxLineStart");
+                         clickRow(0);
+                         click("pBtnDelete");
+                         type("lEditDescription", "other");
+                         click("pBtnCancel");
+                     }),
+              2);
+    EXPECT_TRUE(style(L"Wall")->content()->equals(*before));
+    EXPECT_EQ(setting(L"MlstyNewModDlgPosLeft"), -10000);
+
+    EXPECT_EQ(modify(L"Wall", [this] { click("pBtnOK"); }), 1);
+    const KdDbMlineStyle& wall = *style(L"Wall");
+    EXPECT_THAT(elements(L"Wall"),
+                ElementsAre("0.3 1 ByBlock", "0 30 Continuous", "-0.3 150 Continuous"));
+    EXPECT_EQ(wall.fillColor().colorNameForDisplay(), L"30");
+    EXPECT_DOUBLE_EQ(wall.startAngle(), 45.68 * kDegree);
+    EXPECT_STREQ(wall.description(), L"brick");
+    EXPECT_NE(setting(L"MlstyNewModDlgPosLeft"), -10000);
+}
+
+TEST_F(ModifyDialog, aNewStyleGoesOnEveryRoadButOk) {
+    const auto before = style(L"Wall")->content();
+    const std::function<void()> roads[] = {
+        [this] { click("pBtnCancel"); },
+        [this] { QTest::keyClick(&widget<QLineEdit>("lEditDescription"), Qt::Key_Escape); },
+        [this] { m_dialog->GetSafeHwnd()->close(); },
+    };
+    for (const auto& road : roads) {
+        EXPECT_EQ(make(L"Fence", L"Wall",
+                       [this, &road] {
+                           EXPECT_NE(style(L"Fence"), nullptr);
+                           EXPECT_EQ(m_dialog->GetSafeHwnd()->windowTitle(),
+                                     "New Multiline Style: Fence");
+                           click("pBtnAdd");
+                           road();
+                       }),
+                  2);
+        EXPECT_TRUE(styleId(L"Fence").isNull());
+        EXPECT_TRUE(style(L"Wall")->content()->equals(*before));
+    }
+    EXPECT_EQ(make(L"Fence", L"Wall",
+                   [this] {
+                       type("lEditDescription", "wood");
+                       QTest::keyClick(&widget<QLineEdit>("lEditDescription"), Qt::Key_Return);
+                   }),
+              1);
+    ASSERT_NE(style(L"Fence"), nullptr);
+    EXPECT_STREQ(style(L"Fence")->name(), L"Fence");
+    EXPECT_STREQ(style(L"Fence")->description(), L"wood");
+    EXPECT_EQ(elements(L"Fence").size(), 3U);
+    EXPECT_TRUE(style(L"Wall")->content()->equals(*before));
+}
+
+TEST_F(ModifyDialog, doesntStartWithoutItsStyle) {
+    for (const int mode : {CMlstyleNewModDlg::modeNew, CMlstyleNewModDlg::modeModify}) {
+        prepare();
+        m_dialog->m_mode = mode;
+        m_dialog->m_styleName = L"nobody";
+        m_dialog->m_newName = L"Fence";
+        EXPECT_EQ(m_dialog->DoModal(), -1);
+        EXPECT_TRUE(styleId(L"Fence").isNull());
+        m_dialog->m_styleName = L"Wall";
+        m_dialog->m_dictionaryId = KdDbObjectId();
+        EXPECT_EQ(m_dialog->DoModal(), -1);
+    }
+}
+
+TEST_F(ModifyDialog, offsetsAreTakenAsTyped) {
+    struct Case {
+        QString typed;
+        const char* row;
+        int beeps; // when the field is left
+    };
+    const Case cases[] = {
+        {"0.125", "0.125", 0}, {"-7", "-7", 0},     {".", ".", 0},   {"-.", "-.", 0},
+        {"1e5", "1", 1},       {"1.5.2", "1.5", 1}, {"--2", "-", 1}, {"+2", "0.3", 1},
+        {" 2", "0.3", 1},      {"abc", "0.3", 1},   {"", "0.3", 1},
+    };
+    for (const Case& each : cases) {
+        modify(L"Wall", [this, &each] {
+            clickRow(0);
+            type("lineEditOffset", each.typed);
+            EXPECT_EQ(table().item(0, 0)->text().toStdString(), each.row);
+            EXPECT_EQ(m_beeps, 0);
+            leaveField();
+            EXPECT_EQ(m_beeps, each.beeps) << each.typed.toStdString();
+            click("pBtnCancel");
+        });
+    }
+    modify(L"Wall", [this] {
+        clickRow(2);
+        type("lineEditOffset", "0.125");
+        EXPECT_EQ(rows()[2], "0.125 DASHED 0,128,255"); // in its place while it is typed
+        leaveField();
+        EXPECT_EQ(rows()[1], "0.125 DASHED 0,128,255");
+        EXPECT_EQ(selectedRow(), 1);
+        type("lineEditOffset", "0.125x");
+        click("pBtnOK"); // a bad text is complained of and holds nothing up
+        EXPECT_GT(m_beeps, 0);
+    });
+    EXPECT_EQ(elements(L"Wall")[1], "0.125 150 Continuous");
+    modify(L"Wall", [this] {
+        EXPECT_EQ(rows()[1], "0.1 Continuous 150");
+        clickRow(0);
+        type("lineEditOffset", QString(400, '9'));
+        click("pBtnOK");
+    });
+    EXPECT_EQ(elements(L"Wall")[1], "0.1 150 Continuous");
+    EXPECT_EQ(elements(L"Wall")[0], "1.79769e+308 1 ByBlock");
+}
+
+TEST_F(ModifyDialog, elementsComeAndGo) {
+    modify(L"Wall", [this] {
+        click("pBtnAdd");
+        EXPECT_THAT(rows(), ElementsAre("0.3 ByBlock 1", "0 Continuous 30", "0 ByLayer ByLayer",
+                                        "-0.3 DASHED 0,128,255"));
+        EXPECT_EQ(selectedRow(), 2);
+        EXPECT_EQ(widget<QLineEdit>("lineEditOffset").text(), "0");
+        EXPECT_EQ(widget<QComboBox>("cbBoxLinetype").currentText(), "ByLayer");
+        EXPECT_EQ(widget<QComboBox>("cbBoxColor").currentText(), "ByLayer");
+        QTest::keyClick(&table(), Qt::Key_Up);
+        QTest::keyClick(&table(), Qt::Key_Up);
+        EXPECT_EQ(widget<QLineEdit>("lineEditOffset").text(), "0.3");
+        for (int left = 3; left > 0; --left) {
+            clickRow(0);
+            click("pBtnDelete");
+            EXPECT_EQ(table().rowCount(), left);
+            EXPECT_EQ(selectedRow(), -1);
+            for (const char* name : {"pBtnDelete", "lineEditOffset", "cbBoxLinetype"}) {
+                EXPECT_FALSE(widget<QWidget>(name).isEnabled()) << name;
+            }
+        }
+        clickRow(0); // the last one stays
+        EXPECT_FALSE(widget<QWidget>("pBtnDelete").isEnabled());
+        EXPECT_TRUE(widget<QWidget>("lineEditOffset").isEnabled());
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, QPoint(5, 100));
+        EXPECT_FALSE(widget<QWidget>("lineEditOffset").isEnabled());
+        EXPECT_EQ(widget<QLineEdit>("lineEditOffset").text(), "0.000");
+        click("pBtnOK");
+    });
+    EXPECT_THAT(elements(L"Wall"), ElementsAre("-0.3 150 Continuous"));
+}
+
+TEST_F(ModifyDialog, coloursAndLineTypesAreChosen) {
+    modify(L"Wall", [this] {
+        clickRow(0);
+        choose("cbBoxColor", "3");
+        choose("cbBoxLinetype", "DASHED");
+        clickRow(2);
+        choose("cbBoxLinetype", "ByLayer");
+        // A colour that isn't in the list is put there, and selected at the next click.
+        EXPECT_EQ(widget<QComboBox>("cbBoxColor").currentText(), "3");
+        clickRow(2);
+        EXPECT_EQ(widget<QComboBox>("cbBoxColor").currentText(), "0,128,255");
+        choose("cbBoxColor", "ByBlock");
+        choose("cbBoxFillColor", "2");
+        EXPECT_THAT(rows(), ElementsAre("0.3 DASHED 3", "0 Continuous 30", "-0.3 ByLayer ByBlock"));
+        click("pBtnOK");
+    });
+    EXPECT_THAT(elements(L"Wall"),
+                ElementsAre("0.3 3 Continuous", "0 30 Continuous", "-0.3 ByBlock ByLayer"));
+    EXPECT_EQ(style(L"Wall")->fillColor().colorIndex(), 2);
+}
+
+TEST_F(ModifyDialog, eachBoxSetsItsOwnProperty) {
+    using Getter = bool (KdDbMlineStyle::*)() const;
+    const std::pair<const char*, Getter> boxes[] = {
+        {"chkBoxOpen", &KdDbMlineStyle::filled},
+        {"chkBoxDisplayJoints", &KdDbMlineStyle::showMiters},
+        {"chkBoxLineStart", &KdDbMlineStyle::startSquareCap},
+        {"chkBoxLineEnd", &KdDbMlineStyle::endSquareCap},
+        {"chkBoxOuterArcStart", &KdDbMlineStyle::startRoundCap},
+        {"chkBoxOuterArcEnd", &KdDbMlineStyle::endRoundCap},
+        {"chkBoxInnerStart", &KdDbMlineStyle::startInnerArcs},
+        {"chkBoxInnerEnd", &KdDbMlineStyle::endInnerArcs},
+    };
+    for (const auto& [name, isSet] : boxes) {
+        SetFlag(&open(L"Wall"), 0);
+        modify(L"Wall", [this, box = name] {
+            EXPECT_FALSE(widget<QWidget>("cbBoxFillColor").isEnabled());
+            click(box);
+            click("pBtnOK");
+        });
+        for (const auto& [other, isOtherSet] : boxes) {
+            EXPECT_EQ((style(L"Wall")->*isOtherSet)(), other == name) << name << ' ' << other;
+        }
+        modify(L"Wall", [this, box = name] {
+            EXPECT_TRUE(widget<QCheckBox>(box).isChecked());
+            EXPECT_EQ(widget<QWidget>("cbBoxFillColor").isEnabled(),
+                      widget<QCheckBox>("chkBoxOpen").isChecked());
+            click("pBtnCancel");
+        });
+    }
+}
+
+TEST_F(ModifyDialog, anAngleOutOfRangeHoldsOkUp) {
+    struct Case {
+        const char* typed;
+        int beeps;      // when the field is left
+        double degrees; // what is written, 0 where OK stays without effect
+    };
+    const Case cases[] = {
+        {"10", 0, 10}, {"170", 0, 170}, {"9.99", 1, 0},  {"170.01", 1, 0},  {"abc", 1, 0},
+        {"", 1, 0},    {"-45", 1, 0},   {"1e2", 1, 100}, {"45abc", 1, 100}, // 45 for the check, no
+                                                                            // angle for the style
+    };
+    for (const Case& each : cases) {
+        open(L"Wall").setEndAngle(100.0 * kDegree);
+        const int result = modify(L"Wall", [this, &each] {
+            type("lineEditAngleEnd", each.typed);
+            leaveField();
+            EXPECT_EQ(m_beeps, each.beeps) << each.typed;
+            click("pBtnOK");
+            if (each.degrees == 0.0) {
+                EXPECT_TRUE(m_dialog->GetSafeHwnd()->isVisible()) << each.typed;
+                click("pBtnCancel");
+            }
+        });
+        EXPECT_EQ(result, each.degrees == 0.0 ? 2 : 1) << each.typed;
+        EXPECT_DOUBLE_EQ(style(L"Wall")->endAngle() / kDegree,
+                         each.degrees == 0.0 ? 100.0 : each.degrees)
+            << each.typed;
+    }
+}
+
+TEST_F(ModifyDialog, numbersOfColoursHaveNames) {
+    prepare();
+    const std::pair<int, const wchar_t*> words[] = {
+        {0, L"BYBLOCK"}, {256, L"BYLAYER"}, {1, L"Red"}, {7, L"White"}, {8, L"8"}, {-1, L"-1"}};
+    for (const auto& [number, word] : words) {
+        CStdStr<wchar_t> text;
+        m_dialog->ColorToString(number, text);
+        EXPECT_STREQ(text, word);
+        int back = 99;
+        m_dialog->StringToColor(text, back);
+        EXPECT_EQ(back, number);
+    }
+    int index = 0;
+    m_dialog->StringToColor(L"bylayer", index);
+    EXPECT_EQ(index, 256);
+}
+
+TEST(RealText, isToldFromAnyOtherText) {
+    double value = 9.0;
+    EXPECT_TRUE(gx_strIsValidReal(L" 1 2.5\t", true, true, &value));
+    EXPECT_EQ(value, 12.5);
+    EXPECT_FALSE(gx_strIsValidReal(L"-1", false, false, &value));
+    EXPECT_EQ(value, 0.0);
+    EXPECT_FALSE(gx_strIsValidReal(L"\u0663", true, false, &value));
+    EXPECT_FALSE(gx_strIsValidReal(nullptr, true, false, nullptr));
+    EXPECT_TRUE(gx_strIsValidReal((std::wstring(511, L'1') + L"x").c_str(), true, false, nullptr));
 }
 
 } // namespace
