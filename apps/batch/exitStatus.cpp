@@ -16,8 +16,4 @@ ExitStatus exitStatus(const BatchFailure& failure) {
     return ExitStatus::unplayable;
 }
 
-std::string atLine(const std::string& file, std::size_t line, const std::string& text) {
-    return file + ':' + (line > 0 ? std::to_string(line) + ": " : " ") + text;
-}
-
 } // namespace orvex

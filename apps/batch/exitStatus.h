@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 
 namespace orvex {
@@ -21,8 +20,5 @@ struct BatchFailure {
 };
 
 ExitStatus exitStatus(const BatchFailure& failure);
-
-// "file:line: text", or "file: text" when no line is to blame (0).
-std::string atLine(const std::string& file, std::size_t line, const std::string& text);
 
 } // namespace orvex

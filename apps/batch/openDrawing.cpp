@@ -1,5 +1,7 @@
 #include "openDrawing.h"
 
+#include "atLine.h"
+
 #include <cstdio>
 
 namespace orvex {

@@ -3,6 +3,8 @@
 #include "ModuleLoader.h"
 #include "ScriptSource.h"
 #include "Session.h"
+#include "atLine.h"
+#include "moduleFiles.h"
 #include "openDrawing.h"
 #include "textCodec.h"
 #include "verbs.h"
@@ -20,8 +22,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Cause = BatchFailure::Cause;
-
-constexpr const char* kModuleFile = "libOmxMLStyle.omx";
 
 // How messages name a script.
 std::string scriptName(const RunCall& call) {
@@ -46,18 +46,6 @@ std::variant<std::string, BatchFailure> readScript(const RunCall& call) {
                             atLine(scriptName(call), *line, "the script isn't UTF-8")};
     }
     return text;
-}
-
-// Beside the program, as in a build tree, or in the library folder of an installation.
-std::vector<std::string> moduleFiles(const RunCall& call) {
-    if (call.module) {
-        return {*call.module};
-    }
-    std::error_code error;
-    const fs::path program = fs::read_symlink("/proc/self/exe", error);
-    const fs::path folder = program.parent_path();
-    return {(folder / kModuleFile).string(),
-            (folder / "../lib/orvex" / kModuleFile).lexically_normal().string()};
 }
 
 void printLine(const std::wstring& line) {
@@ -99,7 +87,7 @@ std::optional<BatchFailure> runScript(const RunCall& call) {
     SessionSetup setup;
     setup.drawing = std::move(std::get<std::unique_ptr<DrawingFile>>(opened));
     setup.source = &script;
-    setup.moduleFiles = moduleFiles(call);
+    setup.moduleFiles = moduleFiles(call.module);
     Session session(std::move(setup), modules);
     if (auto failure = playToTheEnd(session, script, scriptName(call))) {
         return failure;

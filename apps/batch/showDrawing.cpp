@@ -1,6 +1,7 @@
 // The verb show: a drawing as a picture.
 
 #include "Scene.h"
+#include "atLine.h"
 #include "openDrawing.h"
 #include "pictureWriter.h"
 #include "verbs.h"
