@@ -134,4 +134,17 @@ std::string DrawingFile::bytes() {
     return result;
 }
 
+std::size_t DrawingFile::contentMark() {
+    constexpr std::size_t kStart = 0xCBF29CE484222325U; // FNV-1a over whole words
+    constexpr std::size_t kPrime = 0x100000001B3U;
+    std::size_t mark = kStart;
+    for (const FileEdit& edit : collectEdits(*m_document, m_database->core())) {
+        for (const std::size_t part :
+             {edit.offset, edit.length, std::hash<std::string>()(edit.text)}) {
+            mark = (mark ^ part) * kPrime;
+        }
+    }
+    return mark;
+}
+
 } // namespace orvex

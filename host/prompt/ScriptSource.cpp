@@ -1,5 +1,6 @@
 #include "ScriptSource.h"
 
+#include "answerFromText.h"
 #include "textCodec.h"
 #include "typedAnswer.h"
 
@@ -36,38 +37,6 @@ std::size_t characterLength(std::string_view text) {
     const bool valid = !(first == 0xE0 && second < 0xA0) && !(first == 0xED && second >= 0xA0) &&
                        !(first == 0xF0 && second < 0x90) && !(first == 0xF4 && second >= 0x90);
     return valid ? length : 0;
-}
-
-std::wstring wanted(PromptKind kind) {
-    switch (kind) {
-    case PromptKind::keyword:
-        return L"a keyword";
-    case PromptKind::entity:
-        return L"a pick";
-    case PromptKind::point:
-        return L"a point";
-    case PromptKind::real:
-        return L"a number";
-    case PromptKind::command:
-    case PromptKind::text:
-        break;
-    }
-    return L"an answer";
-}
-
-std::wstring complaint(const PromptRequest& request, const std::wstring& text) {
-    std::wstring message = L"'" + text + L"' is not " + wanted(request.kind);
-    if (!request.keywords.empty()) {
-        message +=
-            request.kind == PromptKind::keyword ? L" on offer (" : L" or one of the keywords (";
-        for (const std::wstring& keyword : request.keywords) {
-            message += keyword + L' ';
-        }
-        message.back() = L')';
-    } else if (request.kind == PromptKind::keyword) {
-        message += L" on offer";
-    }
-    return message;
 }
 
 } // namespace
@@ -120,41 +89,14 @@ PromptAnswer ScriptSource::ask(const PromptRequest& request) {
 }
 
 PromptAnswer ScriptSource::answerTo(const PromptRequest& request, const std::wstring& text) {
-    using Kind = PromptAnswer::Kind;
     PromptAnswer answer;
     if (text == kCancel) {
         return answer;
     }
-    if (text.empty()) {
-        answer.kind = Kind::empty;
-        return answer;
+    if (const auto understood = answerFromText(request, text)) {
+        return *understood;
     }
-    if (const auto keyword = matchKeyword(request.keywords, text)) {
-        answer.kind = Kind::keyword;
-        answer.keyword = *keyword;
-        return answer;
-    }
-    if (request.kind == PromptKind::command || request.kind == PromptKind::text) {
-        answer.kind = Kind::text;
-        answer.text = text;
-        return answer;
-    }
-    if (request.kind == PromptKind::real) {
-        if (const auto number = parseReal(text)) {
-            answer.kind = Kind::number;
-            answer.number = *number;
-            return answer;
-        }
-    } else if (request.kind != PromptKind::keyword) {
-        const auto pick = parsePick(text);
-        if (pick && (request.kind == PromptKind::entity || !pick->handle)) {
-            answer.kind = Kind::point;
-            answer.point = pick->point;
-            answer.handle = pick->handle;
-            return answer;
-        }
-    }
-    reject(complaint(request, text));
+    reject(complaintAbout(request, text));
     return answer;
 }
 

@@ -7,12 +7,25 @@
 
 namespace orvex {
 
+namespace {
+
+constexpr std::array kCommands = {
+    HostCommand{L"MLINE", mlineCommand},
+    HostCommand{L"SETVAR", setVariableCommand},
+    HostCommand{L"ZOOM", zoomCommand},
+};
+
+} // namespace
+
+std::vector<std::wstring> hostCommandNames() {
+    std::vector<std::wstring> names{L"U"}; // which stands outside of what brackets commands
+    for (const HostCommand& command : kCommands) {
+        names.emplace_back(command.name);
+    }
+    return names;
+}
+
 const HostCommand* findHostCommand(const std::wstring& name) {
-    static constexpr std::array kCommands = {
-        HostCommand{L"MLINE", mlineCommand},
-        HostCommand{L"SETVAR", setVariableCommand},
-        HostCommand{L"ZOOM", zoomCommand},
-    };
     const std::wstring folded = foldCase(name);
     for (const HostCommand& command : kCommands) {
         if (folded == command.name) {
