@@ -1,0 +1,115 @@
+#include "CommandInput.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QStringListModel>
+
+namespace orvex {
+
+CommandInput::CommandInput(QWidget* parent)
+    : QLineEdit(parent), m_completer(new QCompleter(this)), m_words(new QStringListModel(this)) {
+    setFrame(false);
+    m_completer->setModel(m_words);
+    m_completer->setCaseSensitivity(Qt::CaseInsensitive);
+    m_completer->setCompletionMode(QCompleter::PopupCompletion);
+    setCompleter(m_completer);
+}
+
+void CommandInput::setCompletions(const QStringList& words) {
+    hideList();
+    m_words->setStringList(words);
+}
+
+bool CommandInput::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        auto* const key = static_cast<QKeyEvent*>(event);
+        // In an empty field these belong to the window: they undo commands, not letters.
+        if (text().isEmpty() &&
+            (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo))) {
+            event->ignore();
+            return true;
+        }
+    }
+    // Before Qt moves the focus by it.
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab) {
+        complete();
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
+bool CommandInput::isEnter(const QKeyEvent& event) const {
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return true;
+    case Qt::Key_Space:
+        return m_blank == BlankKey::enters ||
+               (m_blank == BlankKey::entersUnlessXy && !text().contains(','));
+    default:
+        return false;
+    }
+}
+
+void CommandInput::keyPressEvent(QKeyEvent* event) {
+    if (isEnter(*event)) {
+        enter();
+        return;
+    }
+    const bool isListOpen = m_completer->popup()->isVisible();
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        hideList();
+        clear();
+        emit cancelled();
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (!isListOpen) { // else it moves in there
+            setText(event->key() == Qt::Key_Up ? m_history.earlier(text())
+                                               : m_history.later(text()));
+        }
+        break;
+    default:
+        QLineEdit::keyPressEvent(event);
+        break;
+    }
+}
+
+QString CommandInput::chosenOrTyped() const {
+    const QAbstractItemView* const list = m_completer->popup();
+    if (list->isVisible() && list->currentIndex().isValid()) {
+        return list->currentIndex().data().toString();
+    }
+    return text();
+}
+
+void CommandInput::enter() {
+    const QString line = chosenOrTyped().trimmed();
+    hideList();
+    clear();
+    m_history.add(line);
+    emit entered(line);
+}
+
+void CommandInput::complete() {
+    if (text().isEmpty()) {
+        return;
+    }
+    QString word = chosenOrTyped();
+    if (word == text()) {
+        m_completer->setCompletionPrefix(text());
+        word = m_completer->currentCompletion();
+    }
+    if (!word.isEmpty()) {
+        setText(word);
+    }
+    hideList();
+}
+
+void CommandInput::hideList() {
+    m_completer->popup()->hide();
+}
+
+} // namespace orvex

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "InputHistory.h"
+
+#include <QLineEdit>
+
+class QCompleter;
+class QStringListModel;
+
+namespace orvex {
+
+// What the blank key does.
+enum class BlankKey {
+    enters,         // as Enter
+    entersUnlessXy, // as Enter, but a blank behind a comma: a handle may follow a point
+    types,          // a blank
+};
+
+// The field of the command line. Up and Down fetch former lines, Tab completes, a list offers what
+// begins as what was typed.
+class CommandInput final : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit CommandInput(QWidget* parent = nullptr);
+
+    void setBlankKey(BlankKey blank) { m_blank = blank; }
+    void setCompletions(const QStringList& words);
+
+signals:
+    void entered(const QString& line); // the field is empty again
+    void cancelled();
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    [[nodiscard]] bool isEnter(const QKeyEvent& event) const;
+    // The word chosen in the list, or what is typed.
+    [[nodiscard]] QString chosenOrTyped() const;
+    void enter();
+    void complete();
+    void hideList();
+
+    QCompleter* m_completer;
+    QStringListModel* m_words;
+    InputHistory m_history;
+    BlankKey m_blank = BlankKey::enters;
+};
+
+} // namespace orvex

@@ -1,0 +1,128 @@
+#include "CommandLine.h"
+
+#include <QCoreApplication>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace orvex {
+
+namespace {
+
+constexpr int kMostLines = 5000;
+constexpr int kMargin = 4; // pixels
+
+bool isModifier(int key) {
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt ||
+           key == Qt::Key_AltGr || key == Qt::Key_Meta || key == Qt::Key_CapsLock;
+}
+
+QPlainTextEdit* makeHistory(QWidget* parent) {
+    auto* const history = new QPlainTextEdit(parent);
+    history->setObjectName(QStringLiteral("commandHistory"));
+    history->setReadOnly(true);
+    history->setFrameShape(QFrame::NoFrame);
+    history->setMaximumBlockCount(kMostLines);
+    history->setMinimumHeight(history->fontMetrics().lineSpacing() * 2);
+    history->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return history;
+}
+
+} // namespace
+
+CommandLine::CommandLine(QWidget* parent)
+    : QWidget(parent), m_history(makeHistory(this)), m_keywords(new QWidget(this)),
+      m_keywordRow(new QHBoxLayout(m_keywords)), m_prompt(new QLabel(this)),
+      m_input(new CommandInput(this)) {
+    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_input->setObjectName(QStringLiteral("commandInput"));
+    m_prompt->setObjectName(QStringLiteral("commandPrompt"));
+    m_prompt->setTextFormat(Qt::PlainText); // a command's text is no markup
+    m_keywords->setObjectName(QStringLiteral("commandKeywords"));
+    m_keywordRow->setContentsMargins(kMargin, 0, kMargin, 0);
+    m_keywordRow->setSpacing(2);
+    m_keywordRow->addStretch();
+    m_keywords->hide();
+
+    auto* const field = new QWidget(this);
+    field->setBackgroundRole(QPalette::Base);
+    field->setAutoFillBackground(true);
+    auto* const fieldRow = new QHBoxLayout(field);
+    fieldRow->setContentsMargins(kMargin, 2, kMargin, 2);
+    fieldRow->addWidget(m_prompt);
+    fieldRow->addWidget(m_input, 1);
+
+    auto* const rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(2);
+    rows->addWidget(m_history, 1);
+    rows->addWidget(m_keywords);
+    rows->addWidget(field);
+
+    setFocusProxy(m_input);
+    m_history->installEventFilter(this);
+    connect(m_input, &CommandInput::entered, this, &CommandLine::entered);
+    connect(m_input, &CommandInput::cancelled, this, &CommandLine::cancelled);
+}
+
+void CommandLine::setQuestion(const Question& question) {
+    m_prompt->setText(question.text);
+    m_input->setBlankKey(question.blank);
+    m_input->setCompletions(question.completions);
+    showKeywords(question.keywords);
+}
+
+void CommandLine::showKeywords(const QStringList& keywords) {
+    for (QToolButton* const old : m_keywords->findChildren<QToolButton*>()) {
+        old->hide();
+        old->deleteLater(); // it may be the one that was clicked
+    }
+    for (const QString& keyword : keywords) {
+        auto* const button = new QToolButton(m_keywords);
+        button->setText(QString(keyword).replace('&', QLatin1String("&&")));
+        button->setObjectName(QStringLiteral("keyword") + keyword);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setToolTip(tr("Answer %1").arg(keyword.toHtmlEscaped()));
+        connect(button, &QToolButton::clicked, this, [this, keyword] { emit entered(keyword); });
+        m_keywordRow->insertWidget(m_keywordRow->count() - 1, button);
+    }
+    m_keywords->setVisible(!keywords.isEmpty());
+}
+
+void CommandLine::print(const QString& line) {
+    m_history->appendPlainText(line);
+    m_history->verticalScrollBar()->setValue(m_history->verticalScrollBar()->maximum());
+}
+
+QString CommandLine::history() const {
+    return m_history->toPlainText();
+}
+
+void CommandLine::takeKey(const QKeyEvent& event) {
+    if (isModifier(event.key())) {
+        return;
+    }
+    m_input->setFocus();
+    QKeyEvent copy(event.type(), event.key(), event.modifiers(), event.text(), event.isAutoRepeat(),
+                   static_cast<ushort>(event.count()));
+    QCoreApplication::sendEvent(m_input, &copy);
+}
+
+bool CommandLine::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_history && event->type() == QEvent::KeyPress) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        const bool isPlain = (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+        const bool scrolls = key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown;
+        if (isPlain && !scrolls) {
+            takeKey(key);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace orvex

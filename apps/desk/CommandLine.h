@@ -1,0 +1,52 @@
+#pragma once
+
+#include "CommandInput.h"
+
+#include <QKeyEvent>
+#include <QWidget>
+
+class QHBoxLayout;
+class QLabel;
+class QPlainTextEdit;
+
+namespace orvex {
+
+// The command line: what was said before, what is asked, the keywords on offer, and the answer.
+class CommandLine final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CommandLine(QWidget* parent = nullptr);
+
+    struct Question {
+        QString text;
+        QStringList keywords;    // shown as buttons
+        QStringList completions; // what the field offers
+        BlankKey blank = BlankKey::enters;
+    };
+    void setQuestion(const Question& question);
+    // Said below everything said before.
+    void print(const QString& line);
+    [[nodiscard]] QString history() const;
+
+    // A key that was pressed elsewhere goes into the field.
+    void takeKey(const QKeyEvent& event);
+
+signals:
+    void entered(const QString& line); // typed, or a keyword's button
+    void cancelled();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void showKeywords(const QStringList& keywords);
+
+    QPlainTextEdit* m_history;
+    QWidget* m_keywords;
+    QHBoxLayout* m_keywordRow;
+    QLabel* m_prompt;
+    CommandInput* m_input;
+};
+
+} // namespace orvex

@@ -1,0 +1,59 @@
+#include "CommandRunner.h"
+
+#include "DeskPrompts.h"
+#include "Session.h"
+#include "qtWide.h"
+
+#include <utility>
+
+namespace orvex {
+
+void CommandRunner::start(const QString& name, const QStringList& answers) {
+    post([this, name, answers] { run(name, answers); });
+}
+
+void CommandRunner::repeat() {
+    if (!m_last.isEmpty()) {
+        start(m_last);
+    }
+}
+
+void CommandRunner::post(std::function<void()> task) {
+    m_task = std::move(task);
+    if (m_working) {
+        m_prompts.cancelAll();
+    } else {
+        QMetaObject::invokeMethod(this, &CommandRunner::work, Qt::QueuedConnection);
+    }
+}
+
+void CommandRunner::work() {
+    if (m_working) {
+        return; // whoever works goes on with it
+    }
+    m_working = true;
+    while (m_task) {
+        m_prompts.allow();
+        std::exchange(m_task, nullptr)();
+    }
+    m_prompts.allow();
+    m_working = false;
+}
+
+void CommandRunner::run(const QString& name, const QStringList& answers) {
+    if (m_session == nullptr) {
+        return;
+    }
+    emit commandStarted(name);
+    m_prompts.answerAhead(answers);
+    const Session::Result result = m_session->run(toWide(name));
+    m_prompts.answerAhead({});
+    if (result.outcome == Session::Outcome::done) {
+        m_last = name;
+    } else {
+        m_prompts.print(result.message);
+    }
+    emit commandEnded();
+}
+
+} // namespace orvex

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+#include <functional>
+
+namespace orvex {
+
+class DeskPrompts;
+class Session;
+
+// Runs what the user starts, one at a time: commands, and what has to wait till none runs. What is
+// started while something runs cancels that first. All starts from the event loop, never from
+// within the widget that was clicked.
+class CommandRunner final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit CommandRunner(DeskPrompts& prompts) : m_prompts(prompts) {}
+
+    // Where commands run; not owned. Null: they don't.
+    void setSession(Session* session) { m_session = session; }
+
+    // A command's name, and what is typed at its first prompts.
+    void start(const QString& name, const QStringList& answers = {});
+    // The last command once more.
+    void repeat();
+    // Something else that mustn't run beside a command. Of what is waiting the latest wins.
+    void post(std::function<void()> task);
+
+    [[nodiscard]] bool isBusy() const { return m_working; }
+
+signals:
+    void commandStarted(const QString& name);
+    void commandEnded();
+
+private:
+    void work();
+    void run(const QString& name, const QStringList& answers);
+
+    DeskPrompts& m_prompts;
+    Session* m_session = nullptr;
+    QString m_last;
+    std::function<void()> m_task;
+    bool m_working = false;
+};
+
+} // namespace orvex

@@ -1,0 +1,61 @@
+#include "DeskDrawing.h"
+
+#include "DatabaseCore.h"
+#include "qtWide.h"
+#include "variableText.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace orvex {
+
+void DeskDrawing::replace(std::unique_ptr<DrawingFile> file, const QString& path, int viewWidth,
+                          int viewHeight) {
+    m_session.reset(); // there is one at a time
+    SessionSetup setup;
+    setup.drawing = std::move(file);
+    setup.source = &m_source;
+    setup.hasWindow = true;
+    setup.viewWidth = std::max(viewWidth, 1);
+    setup.viewHeight = std::max(viewHeight, 1);
+    setup.moduleFiles = m_moduleFiles;
+    m_session = std::make_unique<Session>(std::move(setup), m_modules);
+    m_path = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
+    m_savedMark = m_session->drawing().contentMark();
+}
+
+QString DeskDrawing::name() const {
+    return m_path.isEmpty() ? QObject::tr("Unnamed drawing") : QFileInfo(m_path).fileName();
+}
+
+bool DeskDrawing::isChanged() const {
+    return m_session != nullptr && m_session->drawing().contentMark() != m_savedMark;
+}
+
+std::unique_ptr<DrawingError> DeskDrawing::save(const QString& path) {
+    DrawingFile& drawing = m_session->drawing();
+    auto error = drawing.save(path.toStdString());
+    if (error == nullptr) {
+        m_path = QFileInfo(path).absoluteFilePath();
+        m_savedMark = drawing.contentMark();
+    }
+    return error;
+}
+
+QString DeskDrawing::currentStyle() const {
+    return m_session != nullptr ? toQt(variableText(L"CMLSTYLE").value_or(L"")) : QString();
+}
+
+int DeskDrawing::countMlines() const {
+    if (m_session == nullptr) {
+        return 0;
+    }
+    const auto& entities = m_session->database().core().modelSpace().entities;
+    return static_cast<int>(
+        std::count_if(entities.begin(), entities.end(), [](const KdDbStub* entity) {
+            return entity->kind == ObjectKind::mline && !entity->erased;
+        }));
+}
+
+} // namespace orvex

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "DrawingFile.h"
+#include "ModuleLoader.h"
+#include "Session.h"
+
+#include <QString>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace orvex {
+
+// The drawing in the window: its session, its file, and whether it differs from that.
+class DeskDrawing {
+public:
+    // `modules` and `source` outlive it.
+    DeskDrawing(ModuleLoader& modules, PromptSource& source, std::vector<std::string> moduleFiles)
+        : m_modules(modules), m_source(source), m_moduleFiles(std::move(moduleFiles)) {}
+
+    // Lets the drawing go that was there, with its session. An empty path: it has no file yet.
+    void replace(std::unique_ptr<DrawingFile> file, const QString& path, int viewWidth,
+                 int viewHeight);
+
+    [[nodiscard]] Session* session() const { return m_session.get(); } // null before `replace`
+    [[nodiscard]] const QString& path() const { return m_path; }       // absolute
+    [[nodiscard]] QString name() const;                                // for a title
+
+    // True when a save would write something else than the drawing was opened or saved with; an
+    // edit taken back leaves no difference.
+    [[nodiscard]] bool isChanged() const;
+
+    // Nothing when it went well.
+    std::unique_ptr<DrawingError> save(const QString& path);
+
+    [[nodiscard]] QString currentStyle() const;
+    [[nodiscard]] int countMlines() const; // in model space
+
+private:
+    ModuleLoader& m_modules;
+    PromptSource& m_source;
+    std::vector<std::string> m_moduleFiles;
+    std::unique_ptr<Session> m_session;
+    QString m_path;
+    std::size_t m_savedMark = 0;
+};
+
+} // namespace orvex

@@ -1,0 +1,161 @@
+#include "DeskFiles.h"
+
+#include "atLine.h"
+#include "pictureWriter.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace orvex {
+
+namespace {
+
+constexpr int kPictureWidth = 1600; // pixels, as orvex-batch draws
+constexpr int kPictureHeight = 1200;
+
+QString drawingFilter() {
+    return QObject::tr("Drawings (*.dxf *.DXF);;All files (*)");
+}
+
+QString withSuffix(const QString& path, const QString& suffix) {
+    return path.isEmpty() || !QFileInfo(path).suffix().isEmpty() ? path : path + '.' + suffix;
+}
+
+// The suffix that a filter of the dialog begins with, as in "SVG (*.svg)".
+QString suffixOf(const QString& filter) {
+    return filter.section(QLatin1String("*."), 1).section(')', 0, 0);
+}
+
+} // namespace
+
+void DeskFiles::newDrawing() {
+    if (mayLeave()) {
+        m_take(DrawingFile::create(), QString());
+    }
+}
+
+void DeskFiles::askAndOpen() {
+    if (!mayLeave()) {
+        return;
+    }
+    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Open a drawing"),
+                                                      m_settings.text(DeskSettings::kDrawingFolder),
+                                                      drawingFilter());
+    if (!path.isEmpty()) {
+        open(path);
+    }
+}
+
+void DeskFiles::open(const QString& path) {
+    DrawingFile::Opened result = m_opener.open(path);
+    if (const auto* const error = std::get_if<DrawingError>(&result)) {
+        if (error->cancelled) {
+            emit printed(tr("The opening of %1 was cancelled.").arg(path));
+        } else {
+            emit missing(path);
+            tell(tr("The drawing can't be opened."),
+                 QString::fromStdString(atLine(path.toStdString(), error->line, error->text)));
+        }
+        return;
+    }
+    auto file = std::move(std::get<std::unique_ptr<DrawingFile>>(result));
+    m_settings.setText(DeskSettings::kDrawingFolder, QFileInfo(path).absolutePath());
+    tellWarnings(*file, path);
+    m_take(std::move(file), path);
+    emit used(path);
+}
+
+void DeskFiles::tellWarnings(const DrawingFile& file, const QString& path) {
+    for (const DrawingWarning& warning : file.warnings()) {
+        emit printed(QString::fromStdString(
+            atLine(path.toStdString(), warning.line, "warning: " + warning.text)));
+    }
+}
+
+bool DeskFiles::save() {
+    return m_drawing.path().isEmpty() ? saveAs() : saveInto(m_drawing.path());
+}
+
+bool DeskFiles::saveAs() {
+    QString start = m_drawing.path();
+    if (start.isEmpty()) {
+        start = QDir(m_settings.text(DeskSettings::kDrawingFolder)).filePath(tr("drawing.dxf"));
+    }
+    QFileDialog dialog(&m_window, tr("Save the drawing as"), QFileInfo(start).path(),
+                       drawingFilter());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("dxf"));
+    dialog.selectFile(QFileInfo(start).fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return false;
+    }
+    const QString path = dialog.selectedFiles().front();
+    m_settings.setText(DeskSettings::kDrawingFolder, QFileInfo(path).absolutePath());
+    return saveInto(path);
+}
+
+bool DeskFiles::saveInto(const QString& path) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto error = m_drawing.save(path);
+    QApplication::restoreOverrideCursor();
+    if (error != nullptr) {
+        tell(tr("The drawing can't be saved. What was in the file before is still there."),
+             QString::fromStdString(atLine(path.toStdString(), error->line, error->text)));
+        return false;
+    }
+    emit printed(tr("Saved into %1").arg(path));
+    emit used(path);
+    emit saved();
+    return true;
+}
+
+void DeskFiles::exportPicture() {
+    QString filter;
+    const QString name = QFileInfo(m_drawing.name()).completeBaseName() + QLatin1String(".svg");
+    QString path = QFileDialog::getSaveFileName(
+        &m_window, tr("Export a picture"),
+        QDir(m_settings.text(DeskSettings::kPictureFolder)).filePath(name),
+        tr("SVG (*.svg);;PNG (*.png);;PDF (*.pdf)"), &filter);
+    if (path.isEmpty()) {
+        return;
+    }
+    path = withSuffix(path, suffixOf(filter));
+    m_settings.setText(DeskSettings::kPictureFolder, QFileInfo(path).absolutePath());
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto error = writePicture(m_drawing.session()->scene(), path.toStdString(), kPictureWidth,
+                                    kPictureHeight);
+    QApplication::restoreOverrideCursor();
+    if (error) {
+        tell(tr("The picture can't be written."),
+             QString::fromStdString(atLine(path.toStdString(), 0, *error)));
+    } else {
+        emit printed(tr("Drawn into %1").arg(path));
+    }
+}
+
+bool DeskFiles::mayLeave() {
+    if (!m_drawing.isChanged()) {
+        return true;
+    }
+    QMessageBox box(QMessageBox::Warning, tr("Orvex"),
+                    tr("%1 has changes that aren't saved.").arg(m_drawing.name()),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("Do you want to save them?"));
+    box.setDefaultButton(QMessageBox::Save);
+    const int answer = box.exec();
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
+}
+
+void DeskFiles::tell(const QString& what, const QString& why) {
+    emit printed(why);
+    QMessageBox box(QMessageBox::Critical, tr("Orvex"), what, QMessageBox::Ok, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(why);
+    box.exec();
+}
+
+} // namespace orvex

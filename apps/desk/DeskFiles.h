@@ -1,0 +1,57 @@
+#pragma once
+
+#include "DeskDrawing.h"
+#include "DeskSettings.h"
+#include "DrawingOpener.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace orvex {
+
+// What the menu File does with the drawing in the window: asks for names, asks about changes,
+// opens, saves, tells what went wrong.
+class DeskFiles final : public QObject {
+    Q_OBJECT
+
+public:
+    // Is given each drawing that takes the place of the one before; no path for a new one.
+    using Taker = std::function<void(std::unique_ptr<DrawingFile>, const QString& path)>;
+
+    // All of these outlive it.
+    DeskFiles(QWidget& window, DeskDrawing& drawing, DeskSettings& settings, Taker take)
+        : m_window(window), m_drawing(drawing), m_settings(settings), m_take(std::move(take)),
+          m_opener(window) {}
+
+    void newDrawing();
+    void askAndOpen();
+    void open(const QString& path);
+    bool save(); // false when it isn't saved
+    bool saveAs();
+    void exportPicture();
+
+    // Asks about changes that no file holds. True when the drawing may go.
+    [[nodiscard]] bool mayLeave();
+
+    [[nodiscard]] DrawingOpener& opener() { return m_opener; }
+
+signals:
+    void used(const QString& path);    // opened or saved
+    void missing(const QString& path); // can't be opened
+    void printed(const QString& line);
+    void saved();
+
+private:
+    bool saveInto(const QString& path);
+    void tellWarnings(const DrawingFile& file, const QString& path);
+    void tell(const QString& what, const QString& why);
+
+    QWidget& m_window;
+    DeskDrawing& m_drawing;
+    DeskSettings& m_settings;
+    Taker m_take;
+    DrawingOpener m_opener;
+};
+
+} // namespace orvex

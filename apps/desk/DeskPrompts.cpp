@@ -1,0 +1,119 @@
+#include "DeskPrompts.h"
+
+#include "answerFromText.h"
+#include "clickedPoint.h"
+#include "fileQuestion.h"
+#include "qtWide.h"
+#include "typedAnswer.h"
+
+#include <QEventLoop>
+
+#include <utility>
+
+namespace orvex {
+
+namespace {
+
+constexpr const wchar_t* kCancelEcho = L"*Cancel*";
+
+PromptAnswer cancelled() {
+    PromptAnswer answer;
+    answer.echo = kCancelEcho;
+    return answer;
+}
+
+} // namespace
+
+const PromptRequest* DeskPrompts::request() const {
+    return m_loop != nullptr ? m_request : nullptr;
+}
+
+PromptAnswer DeskPrompts::ask(const PromptRequest& request) {
+    // Within a question nobody can ask another one.
+    if (m_cancelsAll || m_loop != nullptr) {
+        return cancelled();
+    }
+    if (!m_ahead.isEmpty()) {
+        if (const auto answer = understand(request, m_ahead.takeFirst())) {
+            return *answer;
+        }
+        m_ahead.clear(); // the rest was meant for another question
+    }
+    QEventLoop loop;
+    m_answer = cancelled(); // also when the program ends meanwhile
+    m_request = &request;
+    m_loop = &loop;
+    emit asked();
+    loop.exec();
+    m_loop = nullptr;
+    m_request = nullptr;
+    emit answered();
+    return std::move(m_answer);
+}
+
+void DeskPrompts::print(const std::wstring& line) {
+    emit printed(toQt(line));
+}
+
+std::optional<std::wstring> DeskPrompts::chooseFile(const std::wstring& title,
+                                                    const std::wstring& defaultPath,
+                                                    const std::wstring& extension, int flags) {
+    const QString path =
+        askFile(m_window, {toQt(title), toQt(defaultPath), toQt(extension), flags});
+    return path.isEmpty() ? std::nullopt : std::optional(toWide(path));
+}
+
+std::optional<PromptAnswer> DeskPrompts::understand(const PromptRequest& request,
+                                                    const QString& typed) {
+    const std::wstring wide = toWide(typed);
+    const std::wstring text(trimmed(wide));
+    std::optional<PromptAnswer> answer = answerFromText(request, text);
+    if (answer) {
+        answer->echo = text;
+    } else {
+        print(request.text + L' ' + text);
+        print(complaintAbout(request, text));
+    }
+    return answer;
+}
+
+void DeskPrompts::answerText(const QString& typed) {
+    if (m_loop == nullptr) {
+        return;
+    }
+    if (auto answer = understand(*m_request, typed)) {
+        finish(std::move(*answer));
+    }
+}
+
+void DeskPrompts::answerClick(double worldX, double worldY, double unitsPerPixel) {
+    const bool wantsPoint = m_loop != nullptr && (m_request->kind == PromptKind::entity ||
+                                                  m_request->kind == PromptKind::point);
+    if (!wantsPoint) {
+        return;
+    }
+    PromptAnswer answer;
+    answer.kind = PromptAnswer::Kind::point;
+    answer.point = clickedPoint(worldX, worldY, unitsPerPixel);
+    answer.echo = pointText(answer.point);
+    finish(std::move(answer));
+}
+
+void DeskPrompts::cancel() {
+    m_ahead.clear();
+    if (m_loop != nullptr) {
+        finish(cancelled());
+    }
+}
+
+void DeskPrompts::cancelAll() {
+    m_cancelsAll = true;
+    cancel();
+}
+
+void DeskPrompts::finish(PromptAnswer answer) {
+    m_answer = std::move(answer);
+    m_loop->quit();
+}
+
+} // namespace orvex

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "PromptSource.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QWidget>
+
+#include <optional>
+
+class QEventLoop;
+
+namespace orvex {
+
+// Answers prompts by hand. A question runs an event loop of its own, so that the window lives on,
+// until somebody types, clicks or cancels.
+class DeskPrompts final : public QObject, public PromptSource {
+    Q_OBJECT
+
+public:
+    // File choosers stand over `window`, which outlives this.
+    explicit DeskPrompts(QWidget& window) : m_window(window) {}
+
+    PromptAnswer ask(const PromptRequest& request) override;
+    void print(const std::wstring& line) override;
+    std::optional<std::wstring> chooseFile(const std::wstring& title,
+                                           const std::wstring& defaultPath,
+                                           const std::wstring& extension, int flags) override;
+
+    // What is asked at the moment; null when nothing is.
+    [[nodiscard]] const PromptRequest* request() const;
+
+    // Lines that answer the next questions as if they were typed.
+    void answerAhead(QStringList lines) { m_ahead = std::move(lines); }
+
+    // All of these do nothing while nothing is asked.
+
+    // Text that fits the question is the answer; about any other the user is told.
+    void answerText(const QString& typed);
+    // A click at a world point of the plan; a pixel is `unitsPerPixel` drawing units wide.
+    void answerClick(double worldX, double worldY, double unitsPerPixel);
+    void cancel();
+
+    // Answers this question and all that follow by a cancel, until `allow`.
+    void cancelAll();
+    void allow() { m_cancelsAll = false; }
+
+signals:
+    void asked(); // `request` tells what
+    void answered();
+    void printed(const QString& line);
+
+private:
+    // Nothing for text that fits no question; tells the user so.
+    std::optional<PromptAnswer> understand(const PromptRequest& request, const QString& typed);
+    void finish(PromptAnswer answer);
+
+    QWidget& m_window;
+    const PromptRequest* m_request = nullptr;
+    QEventLoop* m_loop = nullptr;
+    PromptAnswer m_answer;
+    QStringList m_ahead;
+    bool m_cancelsAll = false;
+};
+
+} // namespace orvex

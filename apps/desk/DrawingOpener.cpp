@@ -1,0 +1,74 @@
+#include "DrawingOpener.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QProgressDialog>
+
+#include <exception>
+#include <memory>
+
+namespace orvex {
+
+namespace {
+
+constexpr qint64 kLargeFile = 2 << 20; // bytes; what is smaller is open before one could look
+constexpr qint64 kPumpEvery = 10;      // milliseconds
+constexpr int kSteps = 1000;           // of the bar
+
+std::unique_ptr<QProgressDialog> makeProgress(QWidget& window, const QString& path) {
+    auto dialog = std::make_unique<QProgressDialog>(&window);
+    dialog->setWindowTitle(QObject::tr("Opening"));
+    dialog->setLabelText(QObject::tr("Opening %1 ...").arg(QFileInfo(path).fileName()));
+    dialog->setRange(0, kSteps);
+    dialog->setAutoClose(false);
+    dialog->setAutoReset(false);
+    dialog->setMinimumDuration(0);
+    // Nothing behind it can be used, from the first moment on.
+    dialog->setWindowModality(Qt::ApplicationModal);
+    dialog->show();
+    return dialog;
+}
+
+// Sets a flag while it lives.
+class FlagScope {
+public:
+    explicit FlagScope(bool& flag) : m_flag(flag) { m_flag = true; }
+    ~FlagScope() { m_flag = false; }
+    FlagScope(const FlagScope&) = delete;
+    FlagScope& operator=(const FlagScope&) = delete;
+
+private:
+    bool& m_flag;
+};
+
+} // namespace
+
+DrawingFile::Opened DrawingOpener::open(const QString& path) {
+    const FlagScope opening(m_isOpening);
+    m_isCancelled = false;
+    std::unique_ptr<QProgressDialog> dialog;
+    DrawingProgress progress;
+    QElapsedTimer sincePump;
+    sincePump.start();
+    if (QFileInfo(path).size() >= kLargeFile) {
+        dialog = makeProgress(m_window, path);
+        progress = [&](double done) {
+            if (sincePump.elapsed() >= kPumpEvery) {
+                dialog->setValue(static_cast<int>(done * kSteps));
+                QCoreApplication::processEvents();
+                sincePump.restart();
+            }
+            return !m_isCancelled && !dialog->wasCanceled();
+        };
+    }
+    try {
+        return DrawingFile::open(path.toStdString(), progress);
+    } catch (const std::bad_alloc&) {
+        return DrawingError{0, "there is not enough memory for it", false};
+    } catch (const std::exception& error) {
+        return DrawingError{0, error.what(), false};
+    }
+}
+
+} // namespace orvex

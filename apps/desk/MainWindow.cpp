@@ -1,0 +1,281 @@
+#include "MainWindow.h"
+
+#include "Canvas.h"
+#include "CommandLine.h"
+#include "commandNames.h"
+#include "qtWide.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include <filesystem>
+
+namespace orvex {
+
+namespace {
+
+constexpr QSize kFirstSize(1200, 800);
+constexpr int kFirstCommandHeight = 150; // pixels
+
+} // namespace
+
+MainWindow::MainWindow(ModuleLoader& modules, std::vector<std::string> moduleFiles)
+    : m_modules(modules), m_prompts(*this), m_runner(m_prompts),
+      m_drawing(modules, m_prompts, moduleFiles),
+      m_files(*this, m_drawing, m_settings,
+              [this](std::unique_ptr<DrawingFile> file, const QString& path) {
+                  takeDrawing(std::move(file), path);
+              }),
+      m_canvas(new Canvas(this)), m_commandLine(new CommandLine(this)),
+      m_menus(*this, [this](const DeskActionRow& row) { act(row); }), m_status(*statusBar()),
+      m_recent(*m_menus.recent, m_settings) {
+    setCentralWidget(m_canvas);
+    makeCommandDock();
+    connectCommandLine();
+    connectCanvas();
+    connectFiles();
+    restorePlace();
+    takeDrawing(DrawingFile::create(), QString());
+    loadModule(moduleFiles);
+    showIdle();
+    m_commandLine->setFocus();
+}
+
+MainWindow::~MainWindow() {
+    m_canvas->setSession(nullptr); // the session goes first
+}
+
+void MainWindow::makeCommandDock() {
+    auto* const dock = new QDockWidget(tr("Command line"), this);
+    dock->setObjectName(QStringLiteral("commandDock"));
+    dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
+    dock->setAllowedAreas(Qt::TopDockWidgetArea | Qt::BottomDockWidgetArea);
+    dock->setWidget(m_commandLine);
+    addDockWidget(Qt::BottomDockWidgetArea, dock);
+    resizeDocks({dock}, {kFirstCommandHeight}, Qt::Vertical);
+    m_menus.view->addSeparator();
+    m_menus.view->addAction(m_menus.tools->toggleViewAction());
+}
+
+void MainWindow::connectCommandLine() {
+    connect(m_commandLine, &CommandLine::entered, this, &MainWindow::enterLine);
+    connect(m_commandLine, &CommandLine::cancelled, this, &MainWindow::escape);
+    connect(&m_prompts, &DeskPrompts::printed, m_commandLine, &CommandLine::print);
+    connect(&m_prompts, &DeskPrompts::asked, this, &MainWindow::showQuestion);
+    connect(&m_prompts, &DeskPrompts::answered, this, &MainWindow::showIdle);
+    connect(&m_runner, &CommandRunner::commandStarted, this,
+            [this](const QString& name) { m_commandLine->print(tr("Command: %1").arg(name)); });
+    connect(&m_runner, &CommandRunner::commandEnded, this, [this] {
+        m_canvas->viewChanged();
+        m_canvas->refresh();
+        showIdle();
+        showChange();
+    });
+}
+
+void MainWindow::connectCanvas() {
+    connect(m_canvas, &Canvas::clicked, this, [this](double x, double y) {
+        m_prompts.answerClick(x, y, session()->view().unitsPerPixel());
+    });
+    connect(m_canvas, &Canvas::rightClicked, this, [this] { enterLine(QString()); });
+    connect(m_canvas, &Canvas::keyTyped, this,
+            [this](QKeyEvent* event) { m_commandLine->takeKey(*event); });
+    connect(m_canvas, &Canvas::cursorMoved, this, [this](double x, double y) {
+        m_status.showCursor(x, y, session()->view().unitsPerPixel());
+    });
+    connect(m_canvas, &Canvas::cursorLeft, &m_status, &StatusLine::clearCursor);
+}
+
+void MainWindow::connectFiles() {
+    connect(&m_files, &DeskFiles::printed, m_commandLine, &CommandLine::print);
+    connect(&m_files, &DeskFiles::used, &m_recent, &RecentFiles::add);
+    connect(&m_files, &DeskFiles::missing, &m_recent, &RecentFiles::remove);
+    connect(&m_files, &DeskFiles::saved, this, &MainWindow::showChange);
+    connect(&m_recent, &RecentFiles::chosen, this, [this](const QString& path) {
+        m_runner.post([this, path] {
+            if (m_files.mayLeave()) {
+                m_files.open(path);
+            }
+        });
+    });
+}
+
+void MainWindow::loadModule(const std::vector<std::string>& files) {
+    for (const std::string& file : files) {
+        std::error_code ignored;
+        if (std::filesystem::exists(file, ignored)) {
+            if (const auto failure = m_modules.load(file)) {
+                m_commandLine->print(QString::fromStdString(*failure));
+            }
+            return;
+        }
+    }
+    m_commandLine->print(tr("The module of the multiline commands can't be found."));
+}
+
+void MainWindow::open(const QString& path) {
+    m_runner.post([this, path] { m_files.open(path); });
+}
+
+void MainWindow::start(const QString& command, const QStringList& answers) {
+    m_runner.start(command, answers);
+}
+
+void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& path) {
+    m_canvas->setSession(nullptr);
+    m_runner.setSession(nullptr);
+    m_drawing.replace(std::move(file), path, m_canvas->width(), m_canvas->height());
+    session()->display().setRepaint([this] { m_canvas->refresh(); });
+    m_runner.setSession(session());
+    m_canvas->setSession(session());
+    showChange();
+}
+
+void MainWindow::act(const DeskActionRow& row) {
+    struct Act {
+        std::string_view name;
+        void (*run)(MainWindow&);
+    };
+    // What has to do with files waits till no command runs.
+    static constexpr Act kFileActs[] = {
+        {"new", [](MainWindow& w) { w.m_files.newDrawing(); }},
+        {"open", [](MainWindow& w) { w.m_files.askAndOpen(); }},
+        {"save", [](MainWindow& w) { w.m_files.save(); }},
+        {"saveAs", [](MainWindow& w) { w.m_files.saveAs(); }},
+        {"export", [](MainWindow& w) { w.m_files.exportPicture(); }},
+    };
+    // These don't disturb a command.
+    static constexpr Act kOtherActs[] = {
+        {"exit", [](MainWindow& w) { w.close(); }},
+        {"zoomExtents", [](MainWindow& w) { w.m_canvas->zoomExtents(); }},
+        {"zoomWindow", [](MainWindow& w) { w.m_canvas->startZoomWindow(); }},
+        {"zoomPrevious", [](MainWindow& w) { w.m_canvas->zoomPrevious(); }},
+        {"zoomIn", [](MainWindow& w) { w.m_canvas->zoomBy(1.5); }},
+        {"zoomOut", [](MainWindow& w) { w.m_canvas->zoomBy(1.0 / 1.5); }},
+        {"about", [](MainWindow& w) { w.about(); }},
+    };
+    if (row.command != nullptr) {
+        start(QString::fromLatin1(row.command),
+              row.answer != nullptr ? QStringList{QString::fromLatin1(row.answer)} : QStringList());
+        return;
+    }
+    for (const Act& each : kFileActs) {
+        if (each.name == row.name) {
+            m_runner.post([this, run = each.run] { run(*this); });
+        }
+    }
+    for (const Act& each : kOtherActs) {
+        if (each.name == row.name) {
+            each.run(*this);
+        }
+    }
+}
+
+void MainWindow::enterLine(const QString& line) {
+    if (m_prompts.request() != nullptr) {
+        m_prompts.answerText(line);
+    } else if (m_runner.isBusy()) {
+        return; // a dialog of a command is open
+    } else if (line.isEmpty()) {
+        m_runner.repeat();
+    } else {
+        start(line);
+    }
+}
+
+void MainWindow::escape() {
+    if (m_prompts.request() != nullptr) {
+        m_prompts.cancel();
+    } else if (!m_runner.isBusy()) {
+        m_commandLine->print(tr("Command: *Cancel*"));
+    }
+}
+
+void MainWindow::showQuestion() {
+    const PromptRequest& request = *m_prompts.request();
+    CommandLine::Question question;
+    question.text = toQt(request.text).trimmed();
+    question.keywords = toQt(request.keywords);
+    question.completions = question.keywords;
+    const bool isText = request.kind == PromptKind::text;
+    const bool isPick = request.kind == PromptKind::entity;
+    question.blank = isText   ? BlankKey::types
+                     : isPick ? BlankKey::entersUnlessXy
+                              : BlankKey::enters;
+    m_commandLine->setQuestion(question);
+    m_canvas->setAim(isPick                              ? CanvasAim::entity
+                     : request.kind == PromptKind::point ? CanvasAim::point
+                                                         : CanvasAim::none,
+                     &request);
+}
+
+void MainWindow::showIdle() {
+    m_canvas->setAim(CanvasAim::none);
+    CommandLine::Question question;
+    if (!m_runner.isBusy() || m_prompts.request() == nullptr) {
+        question.text = tr("Command:");
+        question.completions = commandNames();
+    }
+    m_commandLine->setQuestion(question);
+}
+
+void MainWindow::showChange() {
+    setWindowTitle(m_drawing.name() + tr("[*] - Orvex"));
+    setWindowModified(m_drawing.isChanged());
+    setWindowFilePath(m_drawing.path());
+    m_status.showDrawing(m_drawing.currentStyle(), m_drawing.countMlines());
+}
+
+void MainWindow::about() {
+    QMessageBox box(QMessageBox::NoIcon, tr("About Orvex"),
+                    tr("Orvex %1").arg(QLatin1String(ORVEX_VERSION)), QMessageBox::Ok, this);
+    box.setIconPixmap(windowIcon().pixmap(64, 64));
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(
+        tr("Opens real drawings and edits their multilines: walls, roads, pipes.\n"
+           "What isn't edited is saved byte for byte."));
+    box.exec();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (m_mayClose || (!m_runner.isBusy() && m_files.mayLeave())) {
+        storePlace();
+        event->accept();
+        return;
+    }
+    event->ignore();
+    if (!m_runner.isBusy()) {
+        return; // the user changed his mind
+    }
+    m_files.opener().cancel();
+    m_runner.post([this] {
+        if (m_files.mayLeave()) {
+            m_mayClose = true;
+            close();
+            m_mayClose = false;
+        }
+    });
+}
+
+// Whatever has the focus, one types into the command line.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    m_commandLine->takeKey(*event);
+}
+
+void MainWindow::restorePlace() {
+    resize(kFirstSize);
+    restoreGeometry(m_settings.bytes(DeskSettings::kGeometry));
+    restoreState(m_settings.bytes(DeskSettings::kState));
+}
+
+void MainWindow::storePlace() {
+    m_settings.setBytes(DeskSettings::kGeometry, saveGeometry());
+    m_settings.setBytes(DeskSettings::kState, saveState());
+}
+
+} // namespace orvex

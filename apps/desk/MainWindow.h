@@ -1,0 +1,79 @@
+#pragma once
+
+#include "CommandRunner.h"
+#include "DeskDrawing.h"
+#include "DeskFiles.h"
+#include "DeskMenus.h"
+#include "DeskPrompts.h"
+#include "DeskSettings.h"
+#include "RecentFiles.h"
+#include "SessionChoices.h"
+#include "StatusLine.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace orvex {
+
+class Canvas;
+class CommandLine;
+
+// The window of orvex-desk: a drawing on a canvas, a command line below it, menus around.
+class MainWindow final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    // The module's commands are there from the start. `modules` outlives the window.
+    MainWindow(ModuleLoader& modules, std::vector<std::string> moduleFiles);
+    ~MainWindow() override;
+
+    // Opens a drawing as soon as nothing else runs.
+    void open(const QString& path);
+    // Starts a command as if it was typed.
+    void start(const QString& command, const QStringList& answers = {});
+
+    [[nodiscard]] Session* session() const { return m_drawing.session(); }
+    [[nodiscard]] bool isBusy() const { return m_runner.isBusy(); }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void makeCommandDock();
+    void connectCommandLine();
+    void connectCanvas();
+    void connectFiles();
+    void loadModule(const std::vector<std::string>& files);
+    void restorePlace();
+    void storePlace();
+
+    void act(const DeskActionRow& row);
+    void takeDrawing(std::unique_ptr<DrawingFile> file, const QString& path);
+    void enterLine(const QString& line);
+    void escape();
+    void showQuestion();
+    void showIdle();
+    void showChange(); // after a command, an opening or a save
+    void about();
+
+    DeskSettings m_settings;
+    HostProfileStore m_profile;
+    SessionChoices m_choices;
+    ModuleLoader& m_modules;
+    DeskPrompts m_prompts;
+    CommandRunner m_runner;
+    DeskDrawing m_drawing;
+    DeskFiles m_files;
+    Canvas* m_canvas;
+    CommandLine* m_commandLine;
+    DeskMenus m_menus;
+    StatusLine m_status;
+    RecentFiles m_recent;
+    bool m_mayClose = false;
+};
+
+} // namespace orvex

@@ -1,0 +1,42 @@
+#include "StatusLine.h"
+
+#include "clickedPoint.h"
+
+#include <QLabel>
+#include <QStatusBar>
+
+namespace orvex {
+
+namespace {
+
+QLabel* addLabel(QStatusBar& bar, const char* name, int characters) {
+    auto* const label = new QLabel(&bar);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setMinimumWidth(label->fontMetrics().averageCharWidth() * characters);
+    bar.addPermanentWidget(label);
+    return label;
+}
+
+} // namespace
+
+StatusLine::StatusLine(QStatusBar& bar)
+    : QObject(&bar), m_cursor(addLabel(bar, "statusCursor", 26)),
+      m_style(addLabel(bar, "statusStyle", 0)), m_mlines(addLabel(bar, "statusMlines", 0)) {}
+
+void StatusLine::showCursor(double x, double y, double unitsPerPixel) {
+    const int decimals = worthwhileDecimals(unitsPerPixel);
+    m_cursor->setText(QString::number(x, 'f', decimals) + QLatin1String(", ") +
+                      QString::number(y, 'f', decimals));
+}
+
+void StatusLine::clearCursor() {
+    m_cursor->clear();
+}
+
+void StatusLine::showDrawing(const QString& style, int mlines) {
+    m_style->setText(tr("Style: %1").arg(style));
+    m_mlines->setText(mlines == 1 ? tr("1 multiline") : tr("%1 multilines").arg(mlines));
+}
+
+} // namespace orvex
