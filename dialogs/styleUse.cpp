@@ -9,37 +9,61 @@
 #include "kddbObjects.h"
 
 #include <memory>
+#include <unordered_map>
 
 namespace {
 
-bool isNamed(KdDbObjectId styleId, const wchar_t* name) {
-    KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, styleId, kForRead);
-    if (style == nullptr) {
-        return false;
-    }
-    const bool same = StrCmpI(style->name(), name) == 0;
-    style->close();
-    return same;
-}
+// Answers for one style after the other whether it has the name. It runs for each multiline of a
+// drawing, so each style is looked at once.
+class NameTest {
+public:
+    explicit NameTest(const wchar_t* name) : m_name(name) {}
 
-bool isUsedIn(const KdDbBlockTableRecord& block, const wchar_t* name) {
+    bool operator()(KdDbObjectId styleId) {
+        if (styleId == m_lastId) {
+            return m_last;
+        }
+        const auto [known, isNew] = m_known.try_emplace(styleId, false);
+        if (isNew) {
+            known->second = isNamed(styleId);
+        }
+        m_lastId = styleId;
+        m_last = known->second;
+        return m_last;
+    }
+
+private:
+    [[nodiscard]] bool isNamed(KdDbObjectId styleId) const {
+        KdDbMlineStyle* style = nullptr;
+        kddbOpenObject(style, styleId, kForRead);
+        if (style == nullptr) {
+            return false;
+        }
+        const bool same = StrCmpI(style->name(), m_name) == 0;
+        style->close();
+        return same;
+    }
+
+    const wchar_t* m_name;
+    std::unordered_map<KdDbObjectId, bool> m_known;
+    KdDbObjectId m_lastId;
+    bool m_last = false; // no multiline without a style counts
+};
+
+bool isUsedIn(const KdDbBlockTableRecord& block, NameTest& hasName) {
     KdDbBlockTableRecordIterator* made = nullptr;
     block.newIterator(made);
     const std::unique_ptr<KdDbBlockTableRecordIterator> walk(made);
-    bool used = false;
-    for (; walk != nullptr && !walk->done() && !used; walk->step()) {
-        KdDbEntity* entity = nullptr;
-        walk->getEntity(entity, kForRead);
-        if (entity == nullptr) {
-            continue;
-        }
-        if (entity->isA() == KdDbMline::desc()) {
-            used = isNamed(static_cast<const KdDbMline*>(entity)->style(), name);
-        }
-        entity->close();
+    if (walk == nullptr) {
+        return false;
     }
-    return used;
+    const KdRxClass* const mline = KdDbMline::desc();
+    for (; !walk->done(); walk->step()) {
+        if (walk->entityClass() == mline && hasName(KdDbMline::styleOf(walk->objectId()))) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -57,12 +81,13 @@ bool isStyleUsed(const wchar_t* name) {
     KdDbBlockTableIterator* made = nullptr;
     blocks->newIterator(made);
     const std::unique_ptr<KdDbBlockTableIterator> walk(made);
+    NameTest hasName(name);
     bool used = false;
     for (; walk != nullptr && !walk->done() && !used; walk->step()) {
         KdDbBlockTableRecord* block = nullptr;
         walk->getRecord(block, kForRead);
         if (block != nullptr) {
-            used = isUsedIn(*block, name);
+            used = isUsedIn(*block, hasName);
             block->close();
         }
     }

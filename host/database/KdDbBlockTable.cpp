@@ -3,6 +3,7 @@
 #include "DatabaseCore.h"
 #include "EntityTraits.h"
 #include "KdDbEntity.h"
+#include "KdDbMline.h"
 #include "kddbObjects.h"
 
 namespace {
@@ -57,6 +58,13 @@ public:
     }
     [[nodiscard]] KdDbObjectId objectId() const override {
         return done() ? KdDbObjectId() : KdDbObjectId(m_block.entities[m_index]);
+    }
+    [[nodiscard]] const KdRxClass* entityClass() const override {
+        if (done()) {
+            return nullptr;
+        }
+        return m_block.entities[m_index]->kind == orvex::ObjectKind::mline ? KdDbMline::desc()
+                                                                           : KdDbEntity::desc();
     }
     Status getEntity(KdDbEntity*& entity, int mode) override {
         return kddbOpenObject(entity, objectId(), mode);

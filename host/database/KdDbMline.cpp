@@ -122,6 +122,23 @@ KdDbObjectId KdDbMline::style() const {
     return m_imp->content().style;
 }
 
+KdDbObjectId KdDbMline::styleOf(KdDbObjectId mline) {
+    KdDbStub* const stub = mline.stub();
+    if (stub == nullptr || stub->erased || stub->kind != orvex::ObjectKind::mline) {
+        return {};
+    }
+    const orvex::ObjectSource* const source = stub->database->source();
+    // As long as nothing has changed the record tells, and it is at hand without touching the
+    // object.
+    if (!stub->changed && source != nullptr && stub->record != orvex::kNoRecord) {
+        if (const auto style = source->styleOf(*stub)) {
+            return *style;
+        }
+    }
+    const auto* const object = static_cast<const KdDbMline*>(stub->database->load(*stub));
+    return object != nullptr ? object->style() : KdDbObjectId();
+}
+
 Status KdDbMline::setStyle(KdDbObjectId style) {
     m_imp->changeContent().style = style;
     return Status::done;

@@ -4,6 +4,7 @@
 #include "KdDbStub.h"
 
 #include <memory>
+#include <optional>
 
 namespace orvex {
 
@@ -18,6 +19,12 @@ public:
 
     // What an entity without a model of its own looks like. Not kept: ask again when needed.
     [[nodiscard]] virtual EntityShape shapeOf(const KdDbStub& stub) const = 0;
+
+    // The style of a multiline as its record names it, null for one that the drawing doesn't have;
+    // nothing where only loading the multiline tells.
+    [[nodiscard]] virtual std::optional<KdDbObjectId> styleOf(const KdDbStub& /*stub*/) const {
+        return std::nullopt;
+    }
 };
 
 } // namespace orvex

@@ -112,6 +112,19 @@ std::unique_ptr<KdDbObject> DrawingDocument::loadDictionary(const RecordContext&
     return makeObject<KdDbDictionary>(std::move(content));
 }
 
+std::optional<KdDbObjectId> DrawingDocument::styleOf(const KdDbStub& stub) const {
+    if (stub.kind != ObjectKind::mline || stub.record == kNoRecord ||
+        cut.records[stub.record].namedStyle == 0) {
+        return std::nullopt;
+    }
+    if (m_namedStyles.empty()) {
+        for (const NamedStyle& named : cut.namedStyles) {
+            m_namedStyles.emplace_back(findStyle(*stub.database, named.handle));
+        }
+    }
+    return m_namedStyles[cut.records[stub.record].namedStyle - 1];
+}
+
 EntityShape DrawingDocument::shapeOf(const KdDbStub& stub) const {
     if (stub.kind != ObjectKind::entity || stub.record == kNoRecord) {
         return {};

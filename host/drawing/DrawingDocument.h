@@ -66,10 +66,13 @@ public:
 
     [[nodiscard]] std::unique_ptr<KdDbObject> load(const KdDbStub& stub) override;
     [[nodiscard]] EntityShape shapeOf(const KdDbStub& stub) const override;
+    [[nodiscard]] std::optional<KdDbObjectId> styleOf(const KdDbStub& stub) const override;
 
 private:
     [[nodiscard]] std::unique_ptr<KdDbObject> loadDictionary(const RecordContext& context,
                                                              const RecordSpan& span) const;
+    // Of the named styles; looked up at the first question, when all objects are known.
+    mutable std::vector<KdDbObjectId> m_namedStyles;
     MlineParser m_parser; // lends its memory to one multiline after the other
 };
 

@@ -415,7 +415,7 @@ void DrawingReader::noteObject(KdDbStub& stub) {
 
 void DrawingReader::warnOfStyles() {
     std::vector<std::size_t> lines;
-    for (const auto& [handle, line] : m_document.cut.mlineStyles) {
+    for (const auto& [handle, line] : m_document.cut.namedStyles) {
         const KdDbStub* const style = m_document.findObject(handle);
         if (style == nullptr || style->kind != ObjectKind::mlineStyle) {
             lines.push_back(line);

@@ -21,8 +21,7 @@ KdDbStub* findStyle(const RecordContext& context, const MlineParser& parser,
     if (parser.style == 0) {
         return context.core.findStyle(name);
     }
-    KdDbStub* const found = context.core.findHandle(parser.style);
-    return found != nullptr && found->kind == ObjectKind::mlineStyle ? found : nullptr;
+    return findStyle(context.core, parser.style);
 }
 
 // A style that is in memory alone gets its handle once a multiline refers to it.
@@ -115,6 +114,11 @@ void keepFileFields(Fields& before, Fields& after, const MlineContent& old,
 }
 
 } // namespace
+
+KdDbStub* findStyle(DatabaseCore& core, std::uint64_t handle) {
+    KdDbStub* const found = core.findHandle(handle);
+    return found != nullptr && found->kind == ObjectKind::mlineStyle ? found : nullptr;
+}
 
 std::shared_ptr<MlineContent> readMline(const RecordContext& context, const RecordSpan& span,
                                         MlineParser& parser) {

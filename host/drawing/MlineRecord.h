@@ -16,6 +16,9 @@ class MlineParser;
 [[nodiscard]] std::shared_ptr<MlineContent> readMline(const RecordContext& context,
                                                       const RecordSpan& span, MlineParser& parser);
 
+// The style with that handle; null when the drawing has none.
+[[nodiscard]] KdDbStub* findStyle(DatabaseCore& core, std::uint64_t handle);
+
 // The record as it should be for `content`, or nothing when it says the same. Values that are the
 // same keep their text.
 [[nodiscard]] std::optional<std::string>

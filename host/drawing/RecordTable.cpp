@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <unordered_map>
 
 namespace orvex {
 
@@ -27,6 +28,7 @@ private:
     void startRecord(const Tag& tag);
     void endRecord();
     void take(const Tag& tag);
+    void noteStyle(Record& record);
 
     std::size_t m_size;
     TagReader m_reader;
@@ -35,7 +37,8 @@ private:
     RecordKind m_kind = RecordKind::other; // of the record at hand
     bool m_hasHandle = false;
     std::size_t m_recordLine = 0;
-    std::uint64_t m_lastStyle = 0; // the one that the multiline before named
+    std::unordered_map<std::uint64_t, std::uint32_t> m_places; // of named styles by handle
+    std::uint32_t m_lastPlace = 0; // of the style that the multiline before names
 };
 
 std::optional<DrawingError> RecordCutter::run(const DrawingProgress& progress) {
@@ -62,7 +65,8 @@ std::optional<DrawingError> RecordCutter::run(const DrawingProgress& progress) {
         }
     }
     endRecord();
-    m_result.records.m_records.push_back({m_reader.position(), 0, RecordKind::other, false, false});
+    m_result.records.m_records.push_back(
+        {m_reader.position(), 0, RecordKind::other, false, false, 0});
     m_result.lineCount = 2 * m_reader.tagCount();
     m_result.lineEnds = {m_result.lineCount, m_reader.carriageReturns()};
     if (read == TagReader::Result::badCode) {
@@ -79,7 +83,7 @@ void RecordCutter::startRecord(const Tag& tag) {
     m_kind = recordKind(trimBlanks(tag.value));
     m_hasHandle = m_kind == RecordKind::section; // the header's code 5 names no section
     m_recordLine = line() - 2;
-    m_result.records.m_records.push_back({tag.begin, 0, m_kind, false, false});
+    m_result.records.m_records.push_back({tag.begin, 0, m_kind, false, false, 0});
     if (m_kind == RecordKind::mline) {
         m_mline.begin();
     }
@@ -111,10 +115,23 @@ void RecordCutter::endRecord() {
             {m_recordLine, std::string("a multiline contradicts itself, ") + reason});
     } else if (m_mline.style == 0) {
         m_result.warnings.push_back({m_recordLine, "a multiline names its style by name alone"});
-    } else if (m_mline.style != m_lastStyle) {
-        m_lastStyle = m_mline.style;
-        m_result.mlineStyles.try_emplace(m_lastStyle, m_recordLine);
+    } else {
+        noteStyle(m_result.records.m_records.back());
     }
+}
+
+void RecordCutter::noteStyle(Record& record) {
+    std::vector<NamedStyle>& styles = m_result.namedStyles;
+    // Most multilines have the style of the one before.
+    if (m_lastPlace == 0 || styles[m_lastPlace - 1].handle != m_mline.style) {
+        const auto next = static_cast<std::uint32_t>(styles.size() + 1);
+        const auto [place, isNew] = m_places.try_emplace(m_mline.style, next);
+        if (isNew) {
+            styles.push_back({m_mline.style, m_recordLine});
+        }
+        m_lastPlace = place->second;
+    }
+    record.namedStyle = m_lastPlace;
 }
 
 std::optional<DrawingError> cutDrawing(std::string_view bytes, std::size_t start,

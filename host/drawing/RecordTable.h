@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace orvex {
@@ -19,6 +18,16 @@ struct Record {
     RecordKind kind = RecordKind::other;
     bool inPaperSpace = false;
     bool opaque = false; // contradicts what its kind claims
+    // Of a multiline that names its style by handle: place among the drawing's named styles, from
+    // 1.
+    std::uint32_t namedStyle = 0;
+};
+static_assert(sizeof(Record) == 24); // there is one for every object of the drawing
+
+// A style that multilines name by handle.
+struct NamedStyle {
+    std::uint64_t handle = 0;
+    std::size_t line = 0; // where the first such record starts
 };
 
 // How the lines of a file end.
@@ -56,8 +65,7 @@ struct CutDrawing {
     LineEnds lineEnds;
     std::size_t lineCount = 0;
     std::uint64_t highestHandle = 0;
-    // Style handles that multilines name, each with the line where the first such record starts.
-    std::unordered_map<std::uint64_t, std::size_t> mlineStyles;
+    std::vector<NamedStyle> namedStyles; // each once, in the order of the file
     std::vector<DrawingWarning> warnings;
     bool hasEnd = false; // an EOF record
 };

@@ -24,6 +24,8 @@ public:
     [[nodiscard]] virtual bool done() const = 0;
     virtual void step() = 0;
     [[nodiscard]] virtual KdDbObjectId objectId() const = 0;
+    // The entity's class, told without opening it; null at the end.
+    [[nodiscard]] virtual const KdRxClass* entityClass() const = 0;
     // Opens the entity; the caller closes it.
     virtual Status getEntity(KdDbEntity*& entity, int mode) = 0;
 };

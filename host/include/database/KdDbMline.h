@@ -45,6 +45,9 @@ public:
 
     [[nodiscard]] KdDbObjectId style() const; // null when the drawing has no such style
     Status setStyle(KdDbObjectId style);
+    // The style of a multiline, told without opening or reading it where the drawing can; null
+    // when it has none or isn't there.
+    [[nodiscard]] static KdDbObjectId styleOf(KdDbObjectId mline);
     [[nodiscard]] KdGeVector3d normal() const;
     Status setNormal(const KdGeVector3d& normal);
     [[nodiscard]] double scale() const;

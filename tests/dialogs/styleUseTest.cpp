@@ -1,0 +1,99 @@
+#include "styleUse.h"
+#include "DatabaseCore.h"
+#include "DictionaryContent.h"
+#include "DrawingFile.h"
+#include "KdDbDictionary.h"
+#include "KdDbMline.h"
+#include "KdDbMlineStyle.h"
+#include "KdDocument.h"
+#include "TestPaths.h"
+#include "kddbObjects.h"
+#include "styleNames.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+// A drawing with three multilines: 51 and 52 in model space, 41 in a block; styles STANDARD (2E)
+// and WALL (2F).
+class StyleUse : public testing::Test {
+protected:
+    StyleUse() : m_before(orvex::setCurrentDocument(&m_document)) { core().beginCommand(); }
+    ~StyleUse() override { orvex::setCurrentDocument(m_before); }
+
+    [[nodiscard]] orvex::DatabaseCore& core() const { return m_file->database().core(); }
+    [[nodiscard]] KdDbStub& stub(std::uint64_t handle) const { return *core().findHandle(handle); }
+    [[nodiscard]] KdDbMline& mline(std::uint64_t handle) const {
+        return *static_cast<KdDbMline*>(core().load(stub(handle)));
+    }
+    [[nodiscard]] KdDbMlineStyle& style(std::uint64_t handle) const {
+        return *static_cast<KdDbMlineStyle*>(core().load(stub(handle)));
+    }
+
+    std::unique_ptr<orvex::DrawingFile> m_file = std::get<0>(orvex::DrawingFile::open(
+        (orvex::testing::sourceDir() / "tests/host_drawing/corpus/sample.dxf").string()));
+    KdDocument m_document{&m_file->database()};
+    KdDocument* m_before;
+};
+
+TEST_F(StyleUse, isToldWithoutReadingAMultiline) {
+    for (const bool loaded : {false, true}) {
+        for (const std::uint64_t handle : {0x41U, 0x51U, 0x52U}) {
+            EXPECT_EQ(stub(handle).object != nullptr, loaded);
+            const KdDbObjectId told = KdDbMline::styleOf(KdDbObjectId(&stub(handle)));
+            EXPECT_EQ(stub(handle).object != nullptr, loaded);
+            EXPECT_EQ(told, mline(handle).style());
+        }
+    }
+    EXPECT_TRUE(KdDbMline::styleOf(KdDbObjectId()).isNull());
+    EXPECT_TRUE(KdDbMline::styleOf(KdDbObjectId(&stub(0x50))).isNull());
+}
+
+TEST_F(StyleUse, goesByTheStylesOwnNameInAllBlocks) {
+    EXPECT_TRUE(isStyleUsed(L"wall"));
+    EXPECT_FALSE(isStyleUsed(L""));
+    EXPECT_FALSE(isStyleUsed(nullptr));
+    EXPECT_EQ(stub(0x51).object, nullptr);
+
+    for (const std::uint64_t handle : {0x41U, 0x51U, 0x52U}) {
+        mline(handle).setStyle(KdDbObjectId(&stub(0x2E)));
+    }
+    EXPECT_FALSE(isStyleUsed(L"WALL"));
+    mline(0x41).setStyle(KdDbObjectId(&stub(0x2F)));
+    EXPECT_TRUE(isStyleUsed(L"WALL")); // in a block definition alone
+
+    // The key of the dictionary doesn't count.
+    style(0x2F).setName(L"Other");
+    EXPECT_FALSE(isStyleUsed(L"WALL"));
+    EXPECT_TRUE(isStyleUsed(L"OTHER"));
+
+    mline(0x41).erase();
+    EXPECT_FALSE(isStyleUsed(L"OTHER"));
+    mline(0x51).setStyle(KdDbObjectId());
+    mline(0x52).erase();
+    EXPECT_FALSE(isStyleUsed(L"STANDARD"));
+    core().endCommand();
+    core().undo();
+    EXPECT_TRUE(isStyleUsed(L"WALL"));
+    orvex::setCurrentDocument(nullptr);
+    EXPECT_FALSE(isStyleUsed(L"WALL"));
+}
+
+TEST_F(StyleUse, namesOfStylesAreTheKeysOfTheirDictionary) {
+    const KdDbObjectId dictionaryId(core().styleDictionary);
+    std::vector<std::wstring> expected;
+    for (const auto& entry :
+         static_cast<KdDbDictionary*>(core().load(*core().styleDictionary))->entries().entries) {
+        expected.push_back(entry.key);
+    }
+    style(0x2F).setName(L"Other");
+    std::vector<std::wstring> names;
+    for (const auto& name : styleNames(dictionaryId)) {
+        names.push_back(name.text());
+    }
+    EXPECT_EQ(names, expected);
+    EXPECT_TRUE(styleNames(KdDbObjectId()).empty());
+    EXPECT_TRUE(styleNames(KdDbObjectId(&stub(0x50))).empty());
+}
+
+} // namespace
