@@ -22,7 +22,8 @@ void write(std::ostream& out, const KdGePoint3d& point) {
     out << '(' << rounded(point.x) << ' ' << rounded(point.y) << ')';
 }
 
-// Writes down what is drawn: "0 (x y)(x y)" for a stretch of element 0.
+// Writes down what is drawn: "0 (x y)(x y)" for a stretch of element 0; of a cap or a joint the
+// first point, the one in the middle and the last.
 class PartsInWords final : public MlineParts {
 public:
     void fill(std::span<const KdGePoint3d> outline) override {
@@ -39,7 +40,6 @@ public:
         write(text, end);
         stretches.push_back(text.str());
     }
-    // First point, the one in the middle, last point.
     void crossing(std::span<const KdGePoint3d> chain, StrokeRole role, unsigned first,
                   unsigned second) override {
         std::ostringstream text;
@@ -55,69 +55,56 @@ public:
     Texts crossings;
 };
 
-PartsInWords partsOf(const MlineContent& mline, const MlineStyleContent* style = nullptr) {
+PartsInWords partsOf(const MlineContent& mline, int flags = 0) {
+    const MlineStyleContent style = sketchStyle(flags, {});
     PartsInWords parts;
-    drawMline(mline, style, parts);
+    drawMline(mline, flags == 0 ? nullptr : &style, parts);
     return parts;
 }
 
-struct ListCase {
-    const char* what;
-    ValueList list; // of one element at 0.5, on a segment of length 10
-    Texts drawn;
-};
-
 TEST(MlineStretches, LieOnTheElementsLineExactlyAsItsListSays) {
-    const ListCase cases[] = {
+    const struct {
+        const char* what;
+        ValueList list; // of one element at 0.5, on a segment of length 10
+        Texts drawn;
+    } cases[] = {
         {"unbroken", {0.5, 0}, {"0 (0 0.5)(10 0.5)"}},
         {"one gap", {0.5, 0, 4, 6}, {"0 (0 0.5)(4 0.5)", "0 (6 0.5)(10 0.5)"}},
-        {"begins late", {0.5, 3}, {"0 (3 0.5)(10 0.5)"}},
         {"runs over both ends", {0.5, -2, 12}, {"0 (-2 0.5)(12 0.5)"}},
         {"backwards", {0.5, 7, 2}, {"0 (7 0.5)(2 0.5)"}},
         {"of no length", {0.5, 0, 0, 4}, {"0 (4 0.5)(10 0.5)"}},
         {"a position alone", {0.5}, {}},
         {"nothing at all", {}, {}},
     };
-    for (const ListCase& each : cases) {
+    for (const auto& each : cases) {
         auto mline = sketchMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {each.list}, {}},
                                   {{10, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{0.5, 0}}, {}}});
         EXPECT_THAT(partsOf(mline).stretches, ElementsAreArray(each.drawn)) << each.what;
     }
-}
-
-TEST(MlineStretches, FollowThePositionsOfBothVerticesNotTheAxis) {
     // From (0, 3) to (4, 0): 5 long, so half way is at 2.5, whatever the axis says.
-    const auto mline = sketchMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{3, 2.5}}, {}},
-                                    {{4, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{0, 0}}, {}}});
-    EXPECT_THAT(partsOf(mline).stretches, ElementsAre("0 (2 1.5)(4 0)"));
+    const auto slanting = sketchMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{3, 2.5}}, {}},
+                                       {{4, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{0, 0}}, {}}});
+    EXPECT_THAT(partsOf(slanting).stretches, ElementsAre("0 (2 1.5)(4 0)"));
 }
 
-MlineContent square(bool closed) {
+TEST(MlineStretches, TheLastVertexLeadsBackInAClosedChainAndNowhereInAnOpenOne) {
     // Counter-clockwise round (0,0)-(10,10), one element 1 inside: the miters point inwards along
     // the diagonals and have unit length, so the position is sqrt(2) along.
     const double h = std::sqrt(0.5);
     const ValueList list{std::sqrt(2.0), 0};
-    return sketchMline({{{0, 0, 0}, {1, 0, 0}, {h, h, 0}, {list}, {}},
-                        {{10, 0, 0}, {0, 1, 0}, {-h, h, 0}, {list}, {}},
-                        {{10, 10, 0}, {-1, 0, 0}, {-h, -h, 0}, {list}, {}},
-                        {{0, 10, 0}, {0, -1, 0}, {h, -h, 0}, {list}, {}}},
-                       closed);
+    auto square = sketchMline({{{0, 0, 0}, {1, 0, 0}, {h, h, 0}, {list}, {}},
+                               {{10, 0, 0}, {0, 1, 0}, {-h, h, 0}, {list}, {}},
+                               {{10, 10, 0}, {-1, 0, 0}, {-h, -h, 0}, {list}, {}},
+                               {{0, 10, 0}, {0, -1, 0}, {h, -h, 0}, {list}, {}}});
+    Texts sides{"0 (1 1)(9 1)", "0 (9 1)(9 9)", "0 (9 9)(1 9)"};
+    EXPECT_THAT(partsOf(square).stretches, ElementsAreArray(sides));
+    sides.emplace_back("0 (1 9)(1 1)");
+    square.closed = true;
+    EXPECT_THAT(partsOf(square).stretches, ElementsAreArray(sides));
 }
 
-TEST(MlineStretches, TheLastVertexLeadsBackInAClosedChainAndNowhereInAnOpenOne) {
-    EXPECT_THAT(partsOf(square(true)).stretches,
-                ElementsAre("0 (1 1)(9 1)", "0 (9 1)(9 9)", "0 (9 9)(1 9)", "0 (1 9)(1 1)"));
-    EXPECT_THAT(partsOf(square(false)).stretches,
-                ElementsAre("0 (1 1)(9 1)", "0 (9 1)(9 9)", "0 (9 9)(1 9)"));
-}
-
-struct CapCase {
-    const char* what;
-    int flags;
-    std::vector<ValueList> lists;
-    Texts drawn;
-};
-
+constexpr int kFilled = 1;
+constexpr int kJoints = 2;
 constexpr int kStartLine = 16;
 constexpr int kStartArcs = 32;
 constexpr int kStartRound = 64;
@@ -130,7 +117,12 @@ TEST(MlineCaps, StandWhereTheirElementsReachTheEnd) {
     const ValueList inner{1, 0};
     const ValueList lower{-1, 0};
     const ValueList lowest{-2, 0};
-    const CapCase cases[] = {
+    const struct {
+        const char* what;
+        int flags;
+        std::vector<ValueList> lists;
+        Texts drawn;
+    } cases[] = {
         {"line at the start", kStartLine, {outer, lowest}, {"cap 0-1 (0 2)(0 0)(0 -2)"}},
         // Half circles of radius 2 over the end's miter.
         {"round at the start", kStartRound, {outer, lowest}, {"cap 0-1 (0 2)(-2 0)(0 -2)"}},
@@ -161,35 +153,33 @@ TEST(MlineCaps, StandWhereTheirElementsReachTheEnd) {
          {"cap 1-2 (0 1)(-1 0)(0 -1)"}},
         {"one element has none", kStartLine | kEndRound, {outer}, {}},
     };
-    for (const CapCase& each : cases) {
-        const auto style = sketchStyle(each.flags, {});
+    for (const auto& each : cases) {
         const auto mline = sketchEastward(0, 0, 10, each.lists);
-        EXPECT_THAT(partsOf(mline, &style).crossings, ElementsAreArray(each.drawn)) << each.what;
+        EXPECT_THAT(partsOf(mline, each.flags).crossings, ElementsAreArray(each.drawn))
+            << each.what;
     }
 }
 
 TEST(MlineCaps, ASuppressedEndAndAClosedChainHaveNone) {
-    const auto style = sketchStyle(kStartLine | kEndLine, {});
+    constexpr int kBoth = kStartLine | kEndLine;
     auto mline = sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}});
     mline.startCapsSuppressed = true;
-    EXPECT_THAT(partsOf(mline, &style).crossings, ElementsAre("cap 0-1 (10 1)(10 0)(10 -1)"));
+    EXPECT_THAT(partsOf(mline, kBoth).crossings, ElementsAre("cap 0-1 (10 1)(10 0)(10 -1)"));
     mline.endCapsSuppressed = true;
-    EXPECT_THAT(partsOf(mline, &style).crossings, IsEmpty());
-
-    auto closed = sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}});
-    closed.closed = true;
-    EXPECT_THAT(partsOf(closed, &style).crossings, IsEmpty());
+    EXPECT_THAT(partsOf(mline, kBoth).crossings, IsEmpty());
+    mline.startCapsSuppressed = mline.endCapsSuppressed = false;
+    mline.closed = true;
+    EXPECT_THAT(partsOf(mline, kBoth).crossings, IsEmpty());
 }
 
 TEST(MlineCaps, FollowASlantingEnd) {
     // Miter at 45 degrees: the outer elements cross it at 2 and -2 across, 2 and -2 along.
     const double h = std::sqrt(0.5);
     const double r = 2 * std::sqrt(2.0);
-    const auto style = sketchStyle(kStartLine | kStartRound, {});
     const auto mline = sketchMline({{{0, 0, 0}, {1, 0, 0}, {h, h, 0}, {{r, 0}, {-r, 0}}, {}},
                                     {{10, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{2, 0}, {-2, 0}}, {}}});
     // The arc's top lies a radius away from the line's middle, square to it.
-    EXPECT_THAT(partsOf(mline, &style).crossings,
+    EXPECT_THAT(partsOf(mline, kStartLine | kStartRound).crossings,
                 ElementsAre("cap 0-1 (2 2)(0 0)(-2 -2)", "cap 0-1 (2 2)(-2 2)(-2 -2)"));
 }
 
@@ -203,33 +193,30 @@ MlineContent corner(const std::vector<ValueList>& first, const std::vector<Value
 
 TEST(MlineJoints, StandAtInnerVerticesOutsideOfGaps) {
     const double m = std::sqrt(2.0);
-    const auto style = sketchStyle(2, {});
-    EXPECT_THAT(partsOf(corner({{1, 0, 5}, {-1, 0, 5}}, {{m, 0}, {-m, 0}}), &style).crossings,
+    EXPECT_THAT(partsOf(corner({{1, 0, 5}, {-1, 0, 5}}, {{m, 0}, {-m, 0}}), kJoints).crossings,
                 ElementsAre("joint 0-1 (9 1)(10 0)(11 -1)"))
         << "a gap on one side";
-    EXPECT_THAT(partsOf(corner({{1, 0, 5}, {-1, 0, 5}}, {{m, 3}, {-m, 3}}), &style).crossings,
+    EXPECT_THAT(partsOf(corner({{1, 0, 5}, {-1, 0, 5}}, {{m, 3}, {-m, 3}}), kJoints).crossings,
                 IsEmpty())
         << "a gap over the corner";
 }
 
 TEST(MlineFill, LiesBetweenTheOuterElementsWhateverTheirGaps) {
-    const auto style = sketchStyle(1, {});
-    EXPECT_THAT(partsOf(sketchEastward(0, 0, 10, {{1, 0, 4, 6}, {0, 0}, {-2, 0}}), &style).fills,
+    EXPECT_THAT(partsOf(sketchEastward(0, 0, 10, {{1, 0, 4, 6}, {0, 0}, {-2, 0}}), kFilled).fills,
                 ElementsAre("(0 1)(10 1)(10 -2)(0 -2)"));
     const double m = std::sqrt(2.0);
-    EXPECT_THAT(partsOf(corner({{1, 0}, {-1, 0}}, {{m, 0}, {-m, 0}}), &style).fills,
+    EXPECT_THAT(partsOf(corner({{1, 0}, {-1, 0}}, {{m, 0}, {-m, 0}}), kFilled).fills,
                 ElementsAre("(0 1)(9 1)(9 10)(11 10)(11 -1)(0 -1)"))
         << "one outline over all segments";
 }
 
 TEST(MlineFill, FollowsAreaListsWhereThereAreSome) {
-    const auto style = sketchStyle(1, {});
     const std::vector<ValueList> whole{{1, 0}, {-1, 0}};
     auto mline =
         sketchMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, whole, {{1, 0, 3, 5}, {-1, 0, 4, 6}}},
                      {{10, 0, 0}, {1, 0, 0}, {0, 1, 0}, whole, {{}, {}}},
                      {{20, 0, 0}, {1, 0, 0}, {0, 1, 0}, whole, {{}, {}}}});
-    EXPECT_THAT(partsOf(mline, &style).fills,
+    EXPECT_THAT(partsOf(mline, kFilled).fills,
                 ElementsAre("(0 1)(3 1)(4 -1)(0 -1)", "(5 1)(10 1)(10 -1)(6 -1)",
                             "(10 1)(20 1)(20 -1)(10 -1)"));
 }

@@ -48,8 +48,8 @@ TEST(PlanView, TurnsPixelsIntoUnits) {
 TEST(PlanView, RefusesViewsThatShowNothing) {
     PlanView view(0, -5); // brought up to a pixel
     view.setView({1, 2}, 30);
-    for (const double height : {0.0, -3.0, std::nan(""), HUGE_VAL}) {
-        view.setView({0, 0}, height);
+    for (const double bad : {0.0, -3.0, std::nan(""), HUGE_VAL}) {
+        view.setView({0, 0}, bad);
     }
     view.setView({std::nan(""), 0}, 5);
     EXPECT_EQ(view.center(), (PlanPoint{1, 2}));

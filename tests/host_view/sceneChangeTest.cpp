@@ -15,25 +15,6 @@
 namespace orvex::testing {
 namespace {
 
-TEST(SceneChange, IsSeenAtTheNextQuestion) {
-    TestDrawing drawing;
-    KdDbStub& wall = drawing.addMline(sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}}));
-    Scene scene(drawing.database);
-    EXPECT_EQ(scene.pick({5, 1}, 0.1), &wall);
-
-    // Opened for write and not closed: what it is now counts.
-    drawing.core.beginCommand();
-    auto* mline = static_cast<KdDbMline*>(drawing.core.open(wall, true));
-    mline->setContent(std::make_shared<MlineContent>(sketchEastward(0, 80, 10, {{1, 0}})));
-    EXPECT_EQ(scene.pick({5, 81}, 0.1), &wall);
-    EXPECT_EQ(scene.appearance(wall).strokes.size(), 1U);
-    drawing.core.endCommand();
-
-    drawing.core.undo();
-    EXPECT_EQ(scene.pick({5, 1}, 0.1), &wall);
-    EXPECT_EQ(scene.extents().high.y, 1);
-}
-
 TEST(SceneChange, FollowsLayersStylesAndBlocks) {
     TestDrawing drawing;
     KdDbLayerTableRecord& layer = drawing.addLayer(L"WALL", 1);

@@ -21,13 +21,6 @@ EntityTraits onLayer(const wchar_t* layer, std::uint16_t colour = 256) {
     return traits;
 }
 
-void expectBox(const PlanBox& box, double x1, double y1, double x2, double y2) {
-    EXPECT_NEAR(box.low.x, x1, 1e-9);
-    EXPECT_NEAR(box.low.y, y1, 1e-9);
-    EXPECT_NEAR(box.high.x, x2, 1e-9);
-    EXPECT_NEAR(box.high.y, y2, 1e-9);
-}
-
 TEST(ScenePick, FindsAMultilineByItsStretchesAlone) {
     TestDrawing drawing;
     MlineContent wall = sketchEastward(0, 0, 10, {{1, 0, 4, 6}, {-1, 0}});
@@ -67,20 +60,6 @@ TEST(ScenePick, PassesOverWhatIsNotSeen) {
     EXPECT_EQ(scene.entityAt({5, 1.5, 99}, 3), &hidden); // pixels are its reach
     EXPECT_EQ(scene.entityAt({5, 1.6, 0}, 3), nullptr);
     EXPECT_EQ(scene.entityAt({std::nan(""), 0, 0}, 3), nullptr);
-}
-
-TEST(SceneExtents, AreThoseOfAllStrokes) {
-    TestDrawing drawing;
-    Scene scene(drawing.database);
-    EXPECT_TRUE(scene.extents().isEmpty());
-    // A half circle of radius 1 beyond the end.
-    MlineContent wall = sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}});
-    wall.style = KdDbObjectId(&drawing.addStyle(sketchStyle(1024, {1, -1})));
-    drawing.addMline(wall);
-    expectBox(scene.extents(), 0, -1, 11, 1);
-    drawing.addShape(ConicShape{{20, 0, 0}, {5, 0, 0}, {0, 5, 0}});
-    drawing.addLine(std::nan(""), 0, 1e300, 1e200);
-    expectBox(scene.extents(), 0, -5, 25, 5);
 }
 
 TEST(SceneLook, ResolvesColoursByLayerAndByBlock) {
