@@ -62,24 +62,23 @@ TEST(KdDbMlineStyle, ElementsKeepTheirOrderAndMayRepeat) {
 }
 
 TEST(KdDbMlineStyle, EachFlagStandsForItself) {
-    using Setter = void (KdDbMlineStyle::*)(bool);
-    using Getter = bool (KdDbMlineStyle::*)() const;
+    using Style = KdDbMlineStyle;
     const struct {
         int bit;
-        Setter set;
-        Getter get;
+        void (Style::*set)(bool);
+        bool (Style::*get)() const;
     } flags[] = {
-        {1, &KdDbMlineStyle::setFilled, &KdDbMlineStyle::filled},
-        {2, &KdDbMlineStyle::setShowMiters, &KdDbMlineStyle::showMiters},
-        {16, &KdDbMlineStyle::setStartSquareCap, &KdDbMlineStyle::startSquareCap},
-        {32, &KdDbMlineStyle::setStartInnerArcs, &KdDbMlineStyle::startInnerArcs},
-        {64, &KdDbMlineStyle::setStartRoundCap, &KdDbMlineStyle::startRoundCap},
-        {256, &KdDbMlineStyle::setEndSquareCap, &KdDbMlineStyle::endSquareCap},
-        {512, &KdDbMlineStyle::setEndInnerArcs, &KdDbMlineStyle::endInnerArcs},
-        {1024, &KdDbMlineStyle::setEndRoundCap, &KdDbMlineStyle::endRoundCap},
+        {1, &Style::setFilled, &Style::filled},
+        {2, &Style::setShowMiters, &Style::showMiters},
+        {16, &Style::setStartSquareCap, &Style::startSquareCap},
+        {32, &Style::setStartInnerArcs, &Style::startInnerArcs},
+        {64, &Style::setStartRoundCap, &Style::startRoundCap},
+        {256, &Style::setEndSquareCap, &Style::endSquareCap},
+        {512, &Style::setEndInnerArcs, &Style::endInnerArcs},
+        {1024, &Style::setEndRoundCap, &Style::endRoundCap},
     };
     for (const auto& flag : flags) {
-        KdDbMlineStyle style;
+        Style style;
         (style.*flag.set)(true);
         EXPECT_EQ(style.values().flags, flag.bit);
         for (const auto& other : flags) {

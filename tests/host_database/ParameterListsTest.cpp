@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
-#include <limits>
 #include <random>
 
 namespace {
@@ -40,102 +40,91 @@ void expectSame(const ParameterLists& lists, const Model& model) {
     }
 }
 
-class Fuzz {
+// Changes lists and their model alike.
+class Editor {
 public:
-    explicit Fuzz(unsigned seed) : m_random(seed) {}
+    explicit Editor(unsigned seed) : m_random(seed) { assignFlat(); }
+
+    ParameterLists lists;
+    Model model;
 
     unsigned below(unsigned count) { return static_cast<unsigned>(m_random()) % count; }
 
-    std::vector<double> list() {
-        std::vector<double> result(below(5));
-        for (double& value : result) {
-            value = static_cast<double>(below(9)) - 4.0;
+    void step() {
+        const unsigned kind = below(12);
+        if (kind == 0) {
+            assignFlat();
+        } else if (kind < 3) {
+            lists.appendVertex();
+            model.emplace_back(model.empty() ? 0 : model[0].size());
+        } else if (kind < 5) {
+            lists.dropLastVertex();
+            model.resize(model.empty() ? 0 : model.size() - 1);
+        } else if (!model.empty()) {
+            const unsigned vertex = below(static_cast<unsigned>(model.size()));
+            kind < 8 ? readNested(vertex) : setNested(vertex);
         }
-        return result;
-    }
-    std::vector<ListPair> record() {
-        std::vector<ListPair> result(below(4));
-        for (ListPair& pair : result) {
-            pair = {list(), list()};
-        }
-        return result;
     }
 
 private:
-    std::mt19937 m_random;
-};
-
-void assignFlat(Fuzz& fuzz, ParameterLists& lists, Model& model) {
-    const unsigned elements = 1 + fuzz.below(3);
-    model.assign(fuzz.below(5), std::vector<ListPair>(elements));
-    std::vector<std::uint32_t> counts;
-    std::vector<double> flat;
-    for (auto& record : model) {
-        for (ListPair& pair : record) {
-            pair = {fuzz.list(), fuzz.list()};
-            for (const auto* const list : {&pair.line, &pair.area}) {
-                counts.push_back(static_cast<std::uint32_t>(list->size()));
-                flat.insert(flat.end(), list->begin(), list->end());
+    std::vector<double> list() {
+        std::vector<double> result(below(5));
+        std::ranges::generate(result, [this] { return static_cast<double>(below(9)) - 4.0; });
+        return result;
+    }
+    void assignFlat() {
+        const unsigned elements = 1 + below(3);
+        model.assign(below(5), std::vector<ListPair>(elements));
+        std::vector<std::uint32_t> counts;
+        std::vector<double> flat;
+        for (auto& record : model) {
+            for (ListPair& pair : record) {
+                pair = {list(), list()};
+                for (const auto* const part : {&pair.line, &pair.area}) {
+                    counts.push_back(static_cast<std::uint32_t>(part->size()));
+                    flat.insert(flat.end(), part->begin(), part->end());
+                }
             }
         }
+        lists.assignFlat(elements, counts, flat);
     }
-    lists.assignFlat(elements, counts, flat);
-}
+    void setNested(unsigned vertex) {
+        model[vertex].resize(below(4));
+        VoVector<KdMLSegment> record;
+        for (ListPair& pair : model[vertex]) {
+            pair = {list(), list()};
+            record.append({vectorOf(pair.area), vectorOf(pair.line)});
+        }
+        lists.setNested(vertex, record);
+    }
+    void readNested(unsigned vertex) {
+        const VoVector<KdMLSegment>& record = lists.nested(vertex);
+        ASSERT_EQ(record.size(), model[vertex].size());
+        for (unsigned element = 0; element < record.size(); ++element) {
+            const KdMLSegment& segment = record[static_cast<int>(element)];
+            ASSERT_EQ(values(segment.m_lineParams), model[vertex][element].line);
+            ASSERT_EQ(values(segment.m_areaParams), model[vertex][element].area);
+        }
+        ASSERT_EQ(&record, &lists.nested(vertex));
+    }
 
-void setNested(Fuzz& fuzz, ParameterLists& lists, Model& model) {
-    const unsigned vertex = fuzz.below(static_cast<unsigned>(model.size()));
-    model[vertex] = fuzz.record();
-    VoVector<KdMLSegment> record;
-    for (const ListPair& pair : model[vertex]) {
-        record.append({vectorOf(pair.area), vectorOf(pair.line)});
-    }
-    lists.setNested(vertex, record);
-}
-
-void readNested(Fuzz& fuzz, const ParameterLists& lists, const Model& model) {
-    const unsigned vertex = fuzz.below(static_cast<unsigned>(model.size()));
-    const VoVector<KdMLSegment>& record = lists.nested(vertex);
-    ASSERT_EQ(record.size(), model[vertex].size());
-    for (unsigned element = 0; element < record.size(); ++element) {
-        const KdMLSegment& segment = record[static_cast<int>(element)];
-        ASSERT_EQ(values(segment.m_lineParams), model[vertex][element].line);
-        ASSERT_EQ(values(segment.m_areaParams), model[vertex][element].area);
-    }
-    ASSERT_EQ(&record, &lists.nested(vertex));
-}
-
-void step(Fuzz& fuzz, ParameterLists& lists, Model& model) {
-    const unsigned kind = fuzz.below(12);
-    if (kind == 0) {
-        assignFlat(fuzz, lists, model);
-    } else if (kind < 3) {
-        lists.appendVertex();
-        model.emplace_back(model.empty() ? 0 : model[0].size());
-    } else if (kind < 5) {
-        lists.dropLastVertex();
-        model.resize(model.empty() ? 0 : model.size() - 1);
-    } else if (!model.empty()) {
-        kind < 8 ? readNested(fuzz, lists, model) : setNested(fuzz, lists, model);
-    }
-}
+    std::mt19937 m_random;
+};
 
 TEST(ParameterLists, BehaveAsNestedListsAndCopiesAsValues) {
     for (unsigned seed = 1; seed <= 60; ++seed) {
         SCOPED_TRACE(seed);
-        Fuzz fuzz(seed);
-        ParameterLists lists;
-        Model model;
-        assignFlat(fuzz, lists, model);
-        ParameterLists copy = lists;
-        Model copyModel = model;
+        Editor editor(seed);
+        ParameterLists copy = editor.lists;
+        Model copyModel = editor.model;
         for (int i = 0; i < 200; ++i) {
-            step(fuzz, lists, model);
-            ASSERT_NO_FATAL_FAILURE(expectSame(lists, model));
+            editor.step();
+            ASSERT_NO_FATAL_FAILURE(expectSame(editor.lists, editor.model));
             ASSERT_NO_FATAL_FAILURE(expectSame(copy, copyModel));
-            if (fuzz.below(10) == 0) {
-                copy = lists;
-                copyModel = model;
-                ASSERT_TRUE(copy == lists);
+            if (editor.below(10) == 0) {
+                copy = editor.lists;
+                copyModel = editor.model;
+                ASSERT_TRUE(copy == editor.lists);
             }
         }
     }

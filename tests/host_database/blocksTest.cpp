@@ -58,20 +58,14 @@ TEST(Blocks, AnEntityKnowsItsBlock) {
     KdDbDatabase database;
     orvex::DatabaseCore& core = database.core();
     BlockEntities& model = core.modelSpace();
-    BlockEntities& paper = *core.findBlock(L"*PAPER_SPACE");
     BlockEntities& door = core.addBlock(L"Door"); // no record, as in an old file
-    const struct {
-        KdDbStub* owner;
-        BlockEntities& block;
-    } cases[] = {
-        {nullptr, model},      {nullptr, paper},      {nullptr, door},
-        {model.record, model}, {paper.record, paper}, {core.layerTable, model}, // nonsense
-        {model.record, door}, // so is this: where it stands counts
-    };
-    for (const auto& each : cases) {
-        KdDbStub& entity = core.addStub(ObjectKind::entity, 0, 1, each.owner);
-        core.appendEntity(each.block, entity);
-        EXPECT_EQ(core.blockOf(entity), &each.block);
+    // Where it stands counts, whatever it names as its owner.
+    for (KdDbStub* const owner : {static_cast<KdDbStub*>(nullptr), model.record, core.layerTable}) {
+        for (BlockEntities* const block : {&model, &door}) {
+            KdDbStub& entity = core.addStub(ObjectKind::entity, 0, 1, owner);
+            core.appendEntity(*block, entity);
+            EXPECT_EQ(core.blockOf(entity), block);
+        }
     }
     EXPECT_EQ(core.findBlock(L"DOOR"), &door);
     EXPECT_EQ(core.findBlock(L"Window"), nullptr);
