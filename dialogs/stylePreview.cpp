@@ -1,4 +1,9 @@
 #include "stylePreview.h"
 
-// There is no style manager yet.
-void paintPreviewOf(CWnd* /*parent*/, KdDbMlineStyle* /*style*/) {}
+#include "CMlineStyleDialog.h"
+
+void paintPreviewOf(CWnd* parent, KdDbMlineStyle* style) {
+    if (auto* const manager = dynamic_cast<CMlineStyleDialog*>(parent)) {
+        manager->PaintPreview(style);
+    }
+}

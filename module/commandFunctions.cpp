@@ -1,9 +1,9 @@
 #include "commandFunctions.h"
 
 #include "CMLEditDialog.h"
+#include "CMlineStyleDialog.h"
 #include "CStdStr.h"
 #include "CommandResources.h"
-#include "commandLine.h"
 #include "mlineEditOperation.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -12,14 +12,13 @@
 #include <optional>
 
 void cmd_vomlstyle() {
+    std::optional<CMlineStyleDialog> manager; // goes after the library was released
     const CommandResources resources;
     if (resources.handle() == nullptr) {
         return;
     }
-    constexpr unsigned kNoDialogText = 4016;
-    CStdStr<wchar_t> text;
-    text.LoadStringW(kNoDialogText);
-    kdutPrintf(L"%ls", text.c_str());
+    manager.emplace(nullptr);
+    manager->DoModal();
 }
 
 void cmd_vomledit() {

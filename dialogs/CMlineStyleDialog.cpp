@@ -1,0 +1,174 @@
+// The list and the state of the buttons.
+
+#include "CMlineStyleDialog.h"
+
+#include "CDataExchange.h"
+#include "CMlineStyleDialogView.h"
+#include "KdDbDictionary.h"
+#include "KdDbMlineStyle.h"
+#include "dialogIcon.h"
+#include "dialogPlace.h"
+#include "dictionarySearch.h"
+#include "hostHeap.h"
+#include "kddbObjects.h"
+#include "promptStatus.h"
+#include "styleManagerControls.h"
+#include "styleNames.h"
+#include "styleUse.h"
+#include "systemVariables.h"
+
+namespace {
+
+constexpr unsigned kResource = 101;
+constexpr const wchar_t* kPlace = L"MlstylePos";
+
+} // namespace
+
+CMlineStyleDialog::CMlineStyleDialog(CWnd* parent) : CDialog(kResource, parent) {
+    new VOUI::CMlineStyleDialog(nullptr, this); // ties itself to this and goes with it
+}
+
+void CMlineStyleDialog::DoDataExchange(CDataExchange* exchange) {
+    CDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, kManagerPreview, m_preview);
+    DDX_Control(exchange, kManagerList, m_list);
+}
+
+int CMlineStyleDialog::OnInitDialog() {
+    CDialog::OnInitDialog();
+    setDialogIcon(*this, 0);
+    long root[2] = {0, 0};
+    if (kddbNamedObjDict(root) != kPromptNormal) {
+        return 0;
+    }
+    findDictionary(root);
+    readCurrentStyle();
+    AddStylesToList();
+    m_list.SelectString(-1, m_currentStyle);
+    constexpr unsigned kSunkenPicture = 526;
+    m_preview.ModifyStyle(0, kSunkenPicture, 0);
+    registerItems();
+    restoreDialogPlace(*this, kPlace);
+    m_resizer.Resize(this);
+    OnListSelChange();
+    return 1;
+}
+
+void CMlineStyleDialog::findDictionary(const long* root) {
+    resbuf* const found = kddbDictSearch(root, L"ACAD_MLINESTYLE", 0);
+    const resbuf* item = found;
+    while (item != nullptr && item->restype != kResultObjectName) {
+        item = item->rbnext;
+    }
+    if (item != nullptr) {
+        m_dictionaryName[0] = item->resval.rlname[0];
+        m_dictionaryName[1] = item->resval.rlname[1];
+        kddbGetObjectId(m_dictionaryId, m_dictionaryName);
+    }
+    kdutRelRb(found);
+}
+
+void CMlineStyleDialog::readCurrentStyle() {
+    resbuf current;
+    if (kdedGetVar(L"CMLSTYLE", &current) == kPromptNormal && current.restype == kResultText) {
+        m_currentStyle = current.resval.rstring;
+        rvex_free(current.resval.rstring);
+    }
+    GetDlgItem(kManagerCurrentStyle)->SetWindowTextW(m_currentStyle);
+}
+
+void CMlineStyleDialog::registerItems() {
+    const struct {
+        int number;
+        unsigned flags;
+    } items[] = {
+        {kManagerClose, RESIZE_LOCKBOTTOMRIGHT},
+        {kManagerList, RESIZE_LOCKLEFT | RESIZE_LOCKRIGHT},
+        {kManagerSetCurrent, RESIZE_LOCKRIGHT | RESIZE_LOCKTOP},
+        {kManagerNew, RESIZE_LOCKRIGHT | RESIZE_LOCKTOP},
+        {kManagerModify, RESIZE_LOCKRIGHT | RESIZE_LOCKTOP},
+        {kManagerRename, RESIZE_LOCKRIGHT | RESIZE_LOCKTOP},
+        {kManagerDelete, RESIZE_LOCKRIGHT | RESIZE_LOCKTOP},
+        {kManagerLoad, RESIZE_LOCKRIGHT | RESIZE_LOCKTOP},
+        {kManagerSave, RESIZE_LOCKRIGHT | RESIZE_LOCKTOP},
+        {kManagerDescriptionBox, RESIZE_LOCKLEFT | RESIZE_LOCKRIGHT},
+        {kManagerDescription, RESIZE_LOCKLEFT | RESIZE_LOCKRIGHT},
+        {kManagerPreview, RESIZE_LOCKALL},
+    };
+    for (const auto& item : items) {
+        m_resizer.Add(this, item.number, item.flags);
+    }
+}
+
+void CMlineStyleDialog::AddStylesToList() {
+    for (const CStdStr<wchar_t>& name : styleNames(m_dictionaryId)) {
+        m_list.AddString(name);
+    }
+}
+
+CStdStr<wchar_t> CMlineStyleDialog::selectedName() const {
+    CStdStr<wchar_t> name;
+    m_list.GetText(m_list.GetCurSel(), name);
+    return name;
+}
+
+KdDbObjectId CMlineStyleDialog::styleId(const CStdStr<wchar_t>& name) const {
+    KdDbObjectId id;
+    KdDbDictionary* dictionary = nullptr;
+    kddbOpenObject(dictionary, m_dictionaryId, kForRead);
+    if (dictionary != nullptr) {
+        dictionary->getAt(name, id);
+        dictionary->close();
+    }
+    return id;
+}
+
+// The current style can't be deleted, STANDARD can't be renamed, and one that a multiline uses can
+// only be made current. Delete stays on for STANDARD and does nothing.
+void CMlineStyleDialog::OnListSelChange() {
+    const CStdStr<wchar_t> name = selectedName();
+    const bool isUsed = isStyleUsed(name);
+    const bool isCurrent = name.CompareNoCase(m_currentStyle) == 0;
+    const bool isStandard = name.CompareNoCase(L"STANDARD") == 0;
+    GetDlgItem(kManagerSetCurrent)->EnableWindow(!isCurrent);
+    GetDlgItem(kManagerModify)->EnableWindow(!isUsed);
+    GetDlgItem(kManagerRename)->EnableWindow(!isUsed && !isStandard);
+    GetDlgItem(kManagerDelete)->EnableWindow(!isUsed && !isCurrent);
+    showDescription(name);
+    DrawCurStylePreview();
+}
+
+void CMlineStyleDialog::showDescription(const CStdStr<wchar_t>& name) {
+    KdDbMlineStyle* style = nullptr;
+    kddbOpenObject(style, styleId(name), kForRead);
+    if (style != nullptr) {
+        GetDlgItem(kManagerDescription)->SetWindowTextW(style->description());
+        style->close();
+    }
+}
+
+void CMlineStyleDialog::DrawCurStylePreview() {
+    resbuf* const found = kddbDictSearch(m_dictionaryName, selectedName(), 0);
+    const resbuf* item = found;
+    while (item != nullptr && item->restype != kResultObjectName) {
+        item = item->rbnext;
+    }
+    KdDbObjectId id;
+    if (item != nullptr) {
+        kddbGetObjectId(id, item->resval.rlname);
+    }
+    kdutRelRb(found);
+    KdDbMlineStyle* style = nullptr;
+    kddbOpenObject(style, id, kForRead);
+    if (style != nullptr) {
+        PaintPreview(style);
+        style->close();
+    }
+}
+
+void CMlineStyleDialog::PaintPreview(KdDbMlineStyle* /*style*/) {}
+
+void CMlineStyleDialog::OnOK() {
+    storeDialogPlace(*this, kPlace);
+    CDialog::OnOK();
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "CDialog.h"
+#include "CDlgItemResizer.h"
+#include "CListBox.h"
+#include "CStatic.h"
+#include "KdDbObjectId.h"
+
+class KdDbMlineStyle;
+
+// The style manager: lists the styles of the open drawing and makes, changes, renames, deletes,
+// loads and saves them. Each of its functions acts on the drawing at once, so there is nothing to
+// accept; the list is kept in step by hand.
+//
+// What may be done with a style is told by its buttons alone: the functions behind them rely on
+// that.
+class CMlineStyleDialog : public CDialog {
+public:
+    explicit CMlineStyleDialog(CWnd* parent);
+
+    // Hands the selected style, open for reading, to PaintPreview.
+    void DrawCurStylePreview();
+    // Told of each style that is to be seen. The preview stays blank.
+    void PaintPreview(KdDbMlineStyle* style);
+
+    void AddStylesToList();
+    // Makes a style the current one. Where the drawing refuses it nothing changes.
+    void SetCurStyle(const CStdStr<wchar_t>& name);
+    // Whether a line of a library is this text, ignoring case; no part of it will do.
+    [[nodiscard]] static bool IsContainStr(const CStdStr<wchar_t>& line, const wchar_t* text);
+
+    void DoDataExchange(CDataExchange* exchange) override;
+    int OnInitDialog() override; // refuses without an open drawing
+    void OnOK() override;
+
+    // What the view's signals come to.
+    void OnListSelChange(); // also after every change that is made here
+    void OnListDbClick();
+    void OnSetCurStyle();
+    void OnAddStyle();
+    void OnModifyStyle();
+    void OnRenameStyle();
+    void OnDeleteStyle();
+    void OnLoadStyle();
+    void OnSaveStyle();
+
+private:
+    [[nodiscard]] CStdStr<wchar_t> selectedName() const; // empty where nothing is selected
+    [[nodiscard]] KdDbObjectId styleId(const CStdStr<wchar_t>& name) const;
+    void findDictionary(const long* root);
+    void readCurrentStyle();
+    void registerItems();
+    void showDescription(const CStdStr<wchar_t>& name);
+    void appendAndSelect(const CStdStr<wchar_t>& name);
+
+    CStatic m_preview;
+    CListBox m_list;
+    CDlgItemResizer m_resizer;
+    CStdStr<wchar_t> m_currentStyle; // as the label shows it, which CMLSTYLE need not hold
+    long m_dictionaryName[2] = {0, 0};
+    KdDbObjectId m_dictionaryId; // null where the drawing has no dictionary of styles
+};
