@@ -5,6 +5,8 @@
 #include "modifyControls.h"
 #include "ui_CMlstyleNewModDlg.h"
 
+#include <QHeaderView>
+
 namespace VOUI {
 
 CMlstyleNewModDlg::CMlstyleNewModDlg(QWidget* parent, CWnd* logic)
@@ -19,6 +21,18 @@ CMlstyleNewModDlg::CMlstyleNewModDlg(QWidget* parent, CWnd* logic)
 }
 
 CMlstyleNewModDlg::~CMlstyleNewModDlg() = default;
+
+void CMlstyleNewModDlg::showEvent(QShowEvent* event) {
+    QBaseDialog::showEvent(event);
+    // The scroll bar of a long table comes last. The last column takes what is left of the width,
+    // but never less than its own.
+    QHeaderView& headings = *m_layout->listWidget->horizontalHeader();
+    headings.setStretchLastSection(true);
+    headings.resizeSection(headings.count() - 1, headings.minimumSectionSize());
+    // Wider samples of line types would leave no room for a name.
+    m_layout->cbBoxLinetype->setIconSize(QSize(32, 12));
+    m_layout->lEditDescription->home(false); // a long one is read from its beginning
+}
 
 void CMlstyleNewModDlg::connectWidgets() {
     using View = CMlstyleNewModDlg;

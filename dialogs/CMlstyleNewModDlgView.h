@@ -24,6 +24,9 @@ public slots:
     void OnOK() override;
     void OnCancel() override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private slots:
     void OnOpenCloseFill();
     void OnClickList();

@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableWidget>
 
 #include <gmock/gmock.h>
@@ -41,7 +42,9 @@ public:
     Choices& operator=(const Choices&) = delete;
 
     [[nodiscard]] std::vector<orvex::LineTypeChoice> lineTypes() const override {
-        return {{L"Continuous", {}}, {L"DASHED", {0.5, -0.25}}};
+        return {{L"Continuous", {}},
+                {L"DASHED", {0.5, -0.25}},
+                {L"ACAD_ISO02W100 long dashed dots", {12, -3}}};
     }
 
 private:
@@ -377,6 +380,27 @@ TEST_F(ModifyDialog, elementsComeAndGo) {
         click("pBtnOK");
     });
     EXPECT_THAT(elements(L"Wall"), ElementsAre("-0.3 150 Continuous"));
+}
+
+TEST_F(ModifyDialog, aStyleHasAnyNumberOfElements) {
+    for (const int count : {0, 16, 300}) {
+        KdDbMlineStyle& wall = open(L"Wall");
+        SetNumElements(&wall, 0);
+        for (int i = 0; i < count; ++i) {
+            add(wall, i * 0.5, indexed(1), L"ByLayer");
+        }
+        modify(L"Wall", [this, count] {
+            EXPECT_TRUE(
+                QTest::qWaitFor([this] { return !table().horizontalScrollBar()->isVisible(); }));
+            click("pBtnAdd");
+            EXPECT_EQ(table().rowCount(), count + 1);
+            EXPECT_EQ(selectedRow(), count); // 0 is the lowest
+            EXPECT_EQ(widget<QWidget>("pBtnDelete").isEnabled(), count > 0);
+            click("pBtnOK");
+        });
+        EXPECT_EQ(elements(L"Wall").size(), static_cast<std::size_t>(count) + 1);
+        EXPECT_EQ(elements(L"Wall").back(), "0 ByLayer ByLayer");
+    }
 }
 
 TEST_F(ModifyDialog, coloursAndLineTypesAreChosen) {
