@@ -1,21 +1,22 @@
 #include "TilePainting.h"
 
-#include "LinePainter.h"
 #include "lookStrokes.h"
 #include "paintAppearance.h"
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace orvex {
 
 namespace {
 
-constexpr double kDotSide = 1.5; // pixels; what is no larger shows as a dot
+// Sides of boxes in pixels. What is no larger than a dot shows as one; what is no larger than a
+// sketch is drawn from its sketch, whose points are then right to a thousandth of a pixel.
+constexpr double kDotSide = 1.5;
+constexpr double kSketchSide = 64.0;
+constexpr double kLeastLabel = 1.0; // pixels high; painters leave out smaller ones
 constexpr std::size_t kEntitiesBetweenLooksAtTheClock = 8;
-
-bool isOver(std::chrono::steady_clock::time_point deadline) {
-    return std::chrono::steady_clock::now() >= deadline;
-}
 
 } // namespace
 
@@ -30,62 +31,108 @@ TilePainting::TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& t
     painter.fillRect(pixels, QColor::fromRgb(kGroundRgb));
 }
 
-bool TilePainting::advance(std::chrono::steady_clock::time_point deadline) {
-    if (m_pass == Pass::fills && pass(deadline, true)) {
+// All fills go below all lines, so that none hides a line.
+bool TilePainting::advance(Deadline deadline) {
+    if (m_pass == Pass::fills && paintFills(deadline)) {
         m_pass = Pass::lines;
         m_next = 0;
     }
-    if (m_pass == Pass::lines && pass(deadline, false)) {
+    if (m_pass == Pass::lines && paintLines(deadline)) {
         m_pass = Pass::done;
     }
     return m_pass == Pass::done;
 }
 
-// All fills go below all lines, so that none hides a line.
-bool TilePainting::pass(std::chrono::steady_clock::time_point deadline, bool fills) {
+bool TilePainting::isOver(Deadline deadline) const {
+    return m_next % kEntitiesBetweenLooksAtTheClock == 0 &&
+           std::chrono::steady_clock::now() >= deadline;
+}
+
+// The longer side of an entity's box, in pixels of lines.
+double TilePainting::sideOf(std::uint32_t place) const {
+    const PlanBox& box = m_scene->boxAt(place);
+    return std::max(box.high.x - box.low.x, box.high.y - box.low.y) /
+           (m_grid.unitsPerPixel() * m_lineWidth);
+}
+
+bool TilePainting::paintFills(Deadline deadline) {
     const PlanView view = m_grid.viewOf(m_tile);
     QPainter painter(&m_image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(m_pixels);
     for (; m_next < m_places.size(); ++m_next) {
-        if (m_next % kEntitiesBetweenLooksAtTheClock == 0 && isOver(deadline)) {
+        if (isOver(deadline)) {
             return false;
         }
-        fills ? paintFills(m_places[m_next], painter, view)
-              : paintLines(m_places[m_next], painter, view);
+        const std::uint32_t place = m_places[m_next];
+        if (sideOf(place) > kDotSide && m_scene->sketchAt(place).hasFills()) {
+            paintAppearance(painter, m_scene->lookAt(place), view, {}, PaintParts::fills);
+        }
     }
     return true;
 }
 
-bool TilePainting::isDot(std::uint32_t place) const {
-    const PlanBox& box = m_scene->boxAt(place);
-    const double side = kDotSide * m_lineWidth * m_grid.unitsPerPixel();
-    return box.high.x - box.low.x <= side && box.high.y - box.low.y <= side;
-}
-
-void TilePainting::paintFills(std::uint32_t place, QPainter& painter, const PlanView& view) {
-    if (isDot(place) || !m_scene->hasFillsAt(place)) {
-        return;
-    }
-    paintAppearance(painter, m_scene->lookAt(place), view, {}, PaintParts::fills);
-}
-
-void TilePainting::paintLines(std::uint32_t place, QPainter& painter, const PlanView& view) {
+bool TilePainting::paintLines(Deadline deadline) {
+    const PlanView view = m_grid.viewOf(m_tile);
     LinePainter lines(m_image, m_pixels, m_lineWidth);
-    if (isDot(place)) {
-        const PlanBox& box = m_scene->boxAt(place);
-        const PlanPoint middle{(box.low.x + box.high.x) / 2, (box.low.y + box.high.y) / 2};
-        lines.dot(m_grid.toTilePixels(m_tile, middle), m_scene->dotColorAt(place));
-        return;
+    for (; m_next < m_places.size(); ++m_next) {
+        if (isOver(deadline)) {
+            return false;
+        }
+        const std::uint32_t place = m_places[m_next];
+        if (paintSmall(place, lines)) {
+            continue;
+        }
+        const Appearance& look = m_scene->lookAt(place);
+        drawStrokes(lines, look, 1.0 / m_grid.unitsPerPixel(), m_lineWidth,
+                    [this](PlanPoint point) { return m_grid.toTilePixels(m_tile, point); });
+        if (!look.labels.empty()) {
+            Appearance labels;
+            labels.labels = look.labels;
+            QPainter painter(&m_image);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setClipRect(m_pixels);
+            paintAppearance(painter, labels, view, {}, PaintParts::linesAndLabels);
+        }
     }
-    const Appearance& look = m_scene->lookAt(place);
-    drawStrokes(lines, look, 1.0 / m_grid.unitsPerPixel(), m_lineWidth,
-                [this](PlanPoint point) { return m_grid.toTilePixels(m_tile, point); });
-    if (!look.labels.empty()) {
-        Appearance labels;
-        labels.labels = look.labels;
-        paintAppearance(painter, labels, view, {}, PaintParts::linesAndLabels);
+    return true;
+}
+
+// False when the entity needs its look.
+bool TilePainting::paintSmall(std::uint32_t place, LinePainter& lines) {
+    const double side = sideOf(place);
+    if (side > kSketchSide) {
+        return false;
     }
+    const PlanBox& box = m_scene->boxAt(place);
+    const LookSketch sketch = m_scene->sketchAt(place);
+    if (side > kDotSide) {
+        return paintSketch(sketch, box, lines);
+    }
+    const PlanPoint middle{(box.low.x + box.high.x) / 2, (box.low.y + box.high.y) / 2};
+    lines.dot(m_grid.toTilePixels(m_tile, middle), sketch.rgb());
+    return true;
+}
+
+bool TilePainting::paintSketch(LookSketch sketch, const PlanBox& box, LinePainter& lines) {
+    const double pixelsOfUnit = 1.0 / m_grid.unitsPerPixel();
+    if (sketch.labelHeight() * pixelsOfUnit >= kLeastLabel) {
+        return false;
+    }
+    LookSketch::Line line;
+    for (LookSketch ahead = sketch; ahead.next(line);) {
+        if (line.period * pixelsOfUnit >= kLeastDashPeriod) {
+            return false;
+        }
+    }
+    while (sketch.next(line)) {
+        m_points.clear();
+        for (const std::uint32_t point : line.points) {
+            m_points.push_back(m_grid.toTilePixels(m_tile, LookSketch::place(point, box)));
+        }
+        lines.chain(m_points, line.rgb);
+    }
+    return true;
 }
 
 } // namespace orvex

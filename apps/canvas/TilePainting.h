@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LinePainter.h"
 #include "PixelGrid.h"
 #include "Scene.h"
 
@@ -10,6 +11,8 @@
 #include <cstdint>
 #include <vector>
 
+class QPainter;
+
 namespace orvex {
 
 // What the ground of the plan is painted with, 0xRRGGBB.
@@ -19,13 +22,15 @@ inline constexpr std::uint32_t kGroundRgb = 0x1E2127;
 // a tile that is painted piece by piece is the same as one painted at once.
 class TilePainting {
 public:
+    using Deadline = std::chrono::steady_clock::time_point;
+
     // The scene has to stay as it is till the end. `before` is what the tile showed, of no size
     // when it is painted for the first time; only `pixels` of it change.
     TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, const QImage& before,
                  const QRect& pixels, int lineWidth);
 
     // True when it is done.
-    bool advance(std::chrono::steady_clock::time_point deadline);
+    bool advance(Deadline deadline);
 
     [[nodiscard]] const TileKey& tile() const { return m_tile; }
     [[nodiscard]] const QRect& pixels() const { return m_pixels; }
@@ -33,10 +38,12 @@ public:
 
 private:
     enum class Pass : std::uint8_t { fills, lines, done };
-    bool pass(std::chrono::steady_clock::time_point deadline, bool fills);
-    void paintFills(std::uint32_t place, class QPainter& painter, const PlanView& view);
-    void paintLines(std::uint32_t place, class QPainter& painter, const PlanView& view);
-    [[nodiscard]] bool isDot(std::uint32_t place) const;
+    bool paintFills(Deadline deadline);
+    bool paintLines(Deadline deadline);
+    [[nodiscard]] bool isOver(Deadline deadline) const;
+    [[nodiscard]] double sideOf(std::uint32_t place) const;
+    bool paintSmall(std::uint32_t place, LinePainter& lines);
+    bool paintSketch(LookSketch sketch, const PlanBox& box, LinePainter& lines);
 
     Scene* m_scene;
     PixelGrid m_grid;
@@ -47,6 +54,7 @@ private:
     std::vector<std::uint32_t> m_places;
     std::size_t m_next = 0;
     Pass m_pass = Pass::fills;
+    std::vector<PlanPoint> m_points; // kept, so that not every line needs memory of its own
 };
 
 } // namespace orvex

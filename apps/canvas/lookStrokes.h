@@ -6,12 +6,13 @@
 
 namespace orvex {
 
+inline constexpr double kLeastDashPeriod = 3.0; // pixels; finer dashes look grey
+
 // Draws the lines of a look. `toPixels` takes a place of the plan to the painter's pixels, where a
 // drawing unit is `pixelsOfUnit` long.
 template <class ToPixels>
 void drawStrokes(LinePainter& lines, const Appearance& look, double pixelsOfUnit, int lineWidth,
                  ToPixels&& toPixels) {
-    constexpr double kLeastPeriod = 3.0; // pixels; finer dashes look grey
     std::vector<PlanPoint> points;
     for (const Stroke& stroke : look.strokes) {
         points.clear();
@@ -21,7 +22,7 @@ void drawStrokes(LinePainter& lines, const Appearance& look, double pixelsOfUnit
         DashCycle cycle;
         if (stroke.dashes > 0 && stroke.dashes <= look.dashPatterns.size()) {
             cycle = dashCycle(look.dashPatterns[stroke.dashes - 1], pixelsOfUnit, lineWidth,
-                              kLeastPeriod);
+                              kLeastDashPeriod);
         }
         if (cycle.lengths.empty()) {
             lines.chain(points, stroke.rgb);

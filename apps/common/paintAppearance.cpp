@@ -106,7 +106,10 @@ public:
         m_painter.translate(anchor.x, anchor.y);
         m_painter.rotate(-label.angle * 180.0 / std::numbers::pi);
         m_painter.translate(0.0, -baseLineRise(label) / m_view.unitsPerPixel());
-        m_painter.scale(scale, scale);
+        // What reached out of its box would be cut off where a part of a picture is painted anew.
+        const double room = labelWidth(label) / m_view.unitsPerPixel();
+        const double narrowing = width * scale > room ? room / (width * scale) : 1.0;
+        m_painter.scale(scale * narrowing, scale);
         m_painter.setFont(font);
         m_painter.setPen(color(label.rgb));
         m_painter.drawText(QPointF(-width * label.horizontal / 2.0, 0.0), text);

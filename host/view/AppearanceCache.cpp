@@ -40,6 +40,7 @@ const Appearance* AppearanceCache::find(const KdDbStub& entity) {
 const Appearance& AppearanceCache::keep(const KdDbStub& entity, Appearance&& appearance) {
     drop(entity);
     makeRoom();
+    freeSome();
     m_youngBytes += bytesOf(appearance);
     return m_young.emplace(&entity, std::move(appearance)).first->second;
 }
@@ -53,15 +54,33 @@ void AppearanceCache::drop(const KdDbStub& entity) {
 }
 
 void AppearanceCache::clear() {
-    m_young.clear();
-    m_old.clear();
+    discard(std::exchange(m_young, {}));
+    discard(std::exchange(m_old, {}));
     m_youngBytes = 0;
 }
 
 void AppearanceCache::makeRoom() {
     if (m_youngBytes > m_youngLimit) {
-        m_old = std::exchange(m_young, {});
+        discard(std::exchange(m_old, std::exchange(m_young, {})));
         m_youngBytes = 0;
+    }
+}
+
+void AppearanceCache::discard(Generation&& generation) {
+    if (!generation.empty()) {
+        m_discarded.push_back(std::move(generation));
+    }
+}
+
+// More than come in, so that there is never much more than a generation of them.
+void AppearanceCache::freeSome() {
+    constexpr int kSome = 4;
+    for (int i = 0; i < kSome && !m_discarded.empty(); ++i) {
+        Generation& last = m_discarded.back();
+        last.erase(last.begin());
+        if (last.empty()) {
+            m_discarded.pop_back();
+        }
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <unordered_map>
+#include <vector>
 
 struct KdDbStub;
 
@@ -11,10 +12,11 @@ namespace orvex {
 
 // Looks that were asked for, up to a bounded amount of memory. Two generations: what is used goes
 // into the young one, and when that is full it becomes the old one, whose looks are dropped unless
-// they are used again. So a look found or kept just now always survives.
+// they are used again. So a look found or kept just now always survives. Freeing thousands of looks
+// at once would hold up a window; what is dropped in bulk goes bit by bit as new looks come in.
 class AppearanceCache {
 public:
-    explicit AppearanceCache(std::size_t bytes) : m_youngLimit(bytes / 2) {}
+    explicit AppearanceCache(std::size_t bytes) : m_youngLimit(bytes / 3) {}
 
     [[nodiscard]] const Appearance* find(const KdDbStub& entity); // null when it isn't here
     const Appearance& keep(const KdDbStub& entity, Appearance&& appearance);
@@ -26,11 +28,14 @@ public:
 private:
     using Generation = std::unordered_map<const KdDbStub*, Appearance>;
     void makeRoom();
+    void discard(Generation&& generation);
+    void freeSome();
 
     std::size_t m_youngLimit;
     std::size_t m_youngBytes = 0;
     Generation m_young;
     Generation m_old;
+    std::vector<Generation> m_discarded;
 };
 
 } // namespace orvex

@@ -6,6 +6,7 @@
 #include "IndexBuild.h"
 #include "KdDbDatabase.h"
 #include "LookMaker.h"
+#include "LookSketch.h"
 #include "PickIndex.h"
 #include "pickDistance.h"
 
@@ -20,27 +21,13 @@ namespace {
 
 constexpr std::size_t kCacheBytes = std::size_t{48} << 20;
 constexpr std::uint32_t kNotPlaced = std::numeric_limits<std::uint32_t>::max();
+constexpr std::size_t kManyChanges = 1000;
 constexpr std::size_t kMostAreas = 1024; // with more of them, everything may as well be different
 
 // Two lines lie equally near when rounding alone could tell them apart: of the reach, and of the
 // coordinates.
 constexpr double kTieOfReach = 1e-9;
 constexpr double kTieOfCoordinate = 1e-14;
-
-// What painters want to know of a look without making it again.
-struct Glimpse {
-    std::uint32_t rgb = 0;
-    bool hasFills = false;
-    bool isKnown = false;
-};
-
-Glimpse glimpseOf(const Appearance& look) {
-    const std::uint32_t rgb = !look.strokes.empty()  ? look.strokes.front().rgb
-                              : !look.fills.empty()  ? look.fills.front().rgb
-                              : !look.labels.empty() ? look.labels.front().rgb
-                                                     : 0U;
-    return {rgb, !look.fills.empty(), true};
-}
 
 } // namespace
 
@@ -58,7 +45,7 @@ struct Scene::State {
     std::vector<KdDbStub*> unindexed; // changed since the index knew them; some may be there twice
     std::vector<std::uint32_t> placeOf; // by a stub's ordinal
     std::size_t placed = 0;             // entities of model space that have their place
-    std::vector<Glimpse> glimpses;      // by place
+    LookSketches sketches; // by place
     Difference difference;
     std::unordered_set<const KdDbStub*> hidden;
     std::vector<KdDbStub*> shownOrHidden; // since the last settlement
@@ -73,7 +60,6 @@ struct Scene::State {
     }
 
     const Appearance& look(const KdDbStub& entity);
-    const Glimpse& glimpse(std::uint32_t place);
     std::vector<KdDbStub*> takeChanges();
     void settle();
     void placeNewEntities();
@@ -90,14 +76,6 @@ const Appearance& Scene::State::look(const KdDbStub& entity) {
         return *known;
     }
     return cache.keep(entity, maker.appearance(entity));
-}
-
-const Glimpse& Scene::State::glimpse(std::uint32_t place) {
-    Glimpse& known = glimpses[place];
-    if (!known.isKnown) {
-        known = glimpseOf(look(*entities()[place]));
-    }
-    return known;
 }
 
 std::vector<KdDbStub*> Scene::State::takeChanges() {
@@ -124,8 +102,12 @@ void Scene::State::settle() {
         isIndexed = false;
         return;
     }
-    for (const KdDbStub* stub : changed) {
-        cache.drop(*stub);
+    if (changed.size() > kManyChanges) {
+        cache.clear(); // which takes no time
+    } else {
+        for (const KdDbStub* stub : changed) {
+            cache.drop(*stub);
+        }
     }
     unindexed.insert(unindexed.end(), changed.begin(), changed.end());
 }
@@ -153,8 +135,7 @@ void Scene::State::reindex(std::uint32_t place) {
     noteDifference(index.box(place));
     noteDifference(box);
     index.set(place, box);
-    glimpses.resize(std::max(glimpses.size(), std::size_t{place} + 1));
-    glimpses[place] = {};
+    sketches.drop(place);
 }
 
 // True when all is done.
@@ -187,7 +168,7 @@ bool Scene::State::buildIndex(Deadline deadline) {
     unindexed.erase(unindexed.begin(),
                     unindexed.begin() + static_cast<std::ptrdiff_t>(index.size()));
     unindexed.insert(unindexed.end(), changed.begin(), changed.end());
-    glimpses.assign(placed, {});
+    sketches.clear();
     difference = {.everything = true, .areas = {}};
     isIndexed = true;
     maker.startWalk();
@@ -299,12 +280,17 @@ const Appearance& Scene::lookAt(std::uint32_t place) {
     return m_state->look(*m_state->entities()[place]);
 }
 
-bool Scene::hasFillsAt(std::uint32_t place) {
-    return m_state->glimpse(place).hasFills;
-}
-
-std::uint32_t Scene::dotColorAt(std::uint32_t place) {
-    return m_state->glimpse(place).rgb;
+LookSketch Scene::sketchAt(std::uint32_t place) {
+    auto words = m_state->sketches.find(place);
+    if (words.empty()) {
+        // Not kept among the looks, or a walk over the whole drawing would empty them of what is
+        // seen all the time.
+        const KdDbStub& entity = *m_state->entities()[place];
+        const Appearance* known = m_state->cache.find(entity);
+        const Appearance made = known != nullptr ? Appearance{} : m_state->maker.appearance(entity);
+        words = m_state->sketches.keep(place, known != nullptr ? *known : made, boxAt(place));
+    }
+    return LookSketch(words);
 }
 
 void Scene::hide(KdDbStub& entity) {

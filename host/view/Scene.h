@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Appearance.h"
+#include "LookSketch.h"
 #include "PromptSession.h"
 
 #include <chrono>
@@ -71,9 +72,8 @@ public:
     [[nodiscard]] const PlanBox& boxAt(std::uint32_t place) const;
     // The reference stays valid till the next question.
     [[nodiscard]] const Appearance& lookAt(std::uint32_t place);
-    [[nodiscard]] bool hasFillsAt(std::uint32_t place);
-    // The colour that an entity too small for lines shows, 0xRRGGBB.
-    [[nodiscard]] std::uint32_t dotColorAt(std::uint32_t place);
+    // For entities that cover few pixels. Valid till the next question.
+    [[nodiscard]] LookSketch sketchAt(std::uint32_t place);
 
 private:
     struct State;

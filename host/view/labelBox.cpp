@@ -27,11 +27,16 @@ double baseLineRise(const Label& label) {
     }
 }
 
-PlanBox labelBox(const Label& label) {
+double labelWidth(const Label& label) {
     double width = 0.0;
     for (const wchar_t letter : label.text) {
         width += (letter < kFirstBroad ? kLetter : kBroadLetter) * label.height;
     }
+    return width;
+}
+
+PlanBox labelBox(const Label& label) {
+    const double width = labelWidth(label);
     const double left = -width * label.horizontal / 2.0;
     const double baseLine = baseLineRise(label);
     const double cosine = std::cos(label.angle);

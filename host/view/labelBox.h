@@ -12,6 +12,10 @@ constexpr double kCapitalOfFontSize = 0.729;
 // How far the base line lies above the anchor, in drawing units.
 double baseLineRise(const Label& label);
 
+// The width of its box along its base line, in drawing units. What is painted in pixels is no
+// wider.
+double labelWidth(const Label& label);
+
 // What a text covers, by the usual width of letters; fonts differ a little.
 PlanBox labelBox(const Label& label);
 

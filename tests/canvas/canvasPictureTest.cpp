@@ -1,5 +1,11 @@
 #include "CanvasFixture.h"
+#include "KdDbLayerTable.h"
+#include "KdDbMline.h"
+#include "KdDbMlineStyle.h"
+#include "MlineContent.h"
+#include "PlanPicture.h"
 
+#include <functional>
 #include <random>
 
 namespace orvex::testing {
@@ -34,6 +40,164 @@ TEST_F(CanvasFixture, ManyMovementsComeToThePictureOfTheirEnd) {
         }
         settle();
         ASSERT_EQ(differences(picture(), pictureFromScratch()), 0) << round;
+    }
+}
+
+// Edits of any kind, by the database's own means.
+class EditedCanvas : public CanvasFixture {
+protected:
+    DatabaseCore& core() { return session->database().core(); }
+    int number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(m_random); }
+    KdDbStub& anyEntity() {
+        const auto& all = core().modelSpace().entities;
+        return *all[static_cast<std::size_t>(number(0, static_cast<int>(all.size()) - 1))];
+    }
+    KdDbStub& anyMline() {
+        for (;;) {
+            KdDbStub& stub = anyEntity();
+            if (stub.kind == ObjectKind::mline && !stub.erased) {
+                return stub;
+            }
+        }
+    }
+    void moveBy(KdDbStub& stub, double x, double y) {
+        auto* mline = static_cast<KdDbMline*>(core().open(stub, true));
+        auto content =
+            std::make_shared<MlineContent>(static_cast<const MlineContent&>(*mline->content()));
+        for (ChainVertex& vertex : content->vertices) {
+            vertex.position.x += x;
+            vertex.position.y += y;
+        }
+        mline->setContent(content);
+        mline->close();
+    }
+    void edit() {
+        core().beginCommand();
+        switch (number(0, 5)) {
+        case 0:
+            core().erase(anyMline());
+            break;
+        case 1:
+            session->scene().hide(anyEntity());
+            break;
+        case 2:
+            moveBy(anyMline(), 1e5, 1e5); // out of sight
+            break;
+        default:
+            moveBy(anyMline(), number(-900, 900), number(-900, 900));
+        }
+        core().endCommand();
+        if (number(0, 4) == 0) {
+            core().undo();
+        }
+        if (number(0, 9) == 0) {
+            play("MLINE\n1000,2000\n5000,4000\n7000,1000\nC\n");
+        }
+    }
+
+private:
+    std::mt19937 m_random{11};
+};
+
+TEST_F(EditedCanvas, EditsComeToThePictureOfTheEditedDrawing) {
+    for (int round = 0; round < 40; ++round) {
+        if (round % 8 == 0) {
+            canvas.zoomExtents();
+            wheel({number(0, kWidth), number(0, kHeight)}, number(-12, 12));
+            settle();
+        }
+        const int edits = number(1, 3);
+        for (int i = 0; i < edits; ++i) {
+            edit();
+            canvas.refresh();
+            if (number(0, 1) == 0) {
+                QCoreApplication::processEvents(); // the next edit comes while this is painted
+            }
+        }
+        settle();
+        ASSERT_EQ(differences(picture(), pictureFromScratch()), 0) << round;
+    }
+}
+
+TEST_F(EditedCanvas, LayersAndStylesChangeAllThatUsesThem) {
+    auto& mline = *static_cast<KdDbMline*>(core().load(anyMline()));
+    const std::wstring name = mline.traits().layer;
+    auto* style = static_cast<KdDbMlineStyle*>(core().load(*mline.style().stub()));
+    auto* layer = static_cast<KdDbLayerTableRecord*>(core().load(*core().findLayer(name)));
+    const std::function<void()> changes[] = {
+        [&] { style->setFilled(!style->filled()); },
+        [&] { layer->setIsOff(true); },
+        [&] { layer->setIsOff(false); },
+    };
+    for (const auto& change : changes) {
+        const QImage before = picture();
+        core().beginCommand();
+        change();
+        core().endCommand();
+        canvas.refresh();
+        const QImage after = picture();
+        EXPECT_EQ(differences(after, pictureFromScratch()), 0);
+        EXPECT_GT(differences(after, before), 0);
+    }
+}
+
+TEST_F(EditedCanvas, AnEditPaintsNoMoreThanItsPlace) {
+    PlanPicture whole;
+    whole.setScene(&session->scene());
+    whole.setView(session->view(), 1.0);
+    const auto never = PlanPicture::Deadline::max();
+    (void)session->scene().takeDifference();
+    whole.paintSome(never);
+    ASSERT_TRUE(whole.isComplete());
+
+    KdDbStub& mline = anyMline();
+    PlanBox places = session->scene().appearance(mline).box();
+    moveBy(mline, 300, -200);
+    places.include(session->scene().appearance(mline).box());
+    ASSERT_TRUE(session->scene().prepareSome(std::chrono::hours(1)));
+    whole.takeDifference(session->scene().takeDifference());
+    ASSERT_FALSE(whole.isComplete());
+    const QRect painted = whole.paintSome(never).boundingRect();
+    EXPECT_TRUE(whole.isComplete());
+    constexpr int kLines = 3; // pixels that lines reach over the box
+    const QPoint low = pixelAt({places.low.x, places.high.y}) - QPoint(kLines, kLines);
+    const QPoint high = pixelAt({places.high.x, places.low.y}) + QPoint(kLines, kLines);
+    EXPECT_TRUE(QRect(low, high).contains(painted));
+    EXPECT_FALSE(painted.isEmpty());
+}
+
+TEST_F(EditedCanvas, HighlightsWhatAPickWouldFind) {
+    KdDbStub& mline = anyMline();
+    for (const CanvasAim aim : {CanvasAim::none, CanvasAim::entity, CanvasAim::point}) {
+        canvas.setAim(aim);
+        const Appearance look = session->scene().appearance(mline);
+        const Stroke& stroke = look.strokes.front();
+        const PlanPoint on{(stroke.points[0].x + stroke.points[1].x) / 2,
+                           (stroke.points[0].y + stroke.points[1].y) / 2};
+        const QImage plain = picture();
+        const QPoint pixel = pixelAt(on);
+        const PlanPoint at = planAt(pixel);
+        KdDbStub* const found =
+            session->scene().entityAt({at.x, at.y, 0}, PromptSession::current().pickBox);
+        ASSERT_NE(found, nullptr);
+        hover(pixel);
+        const QImage highlit = canvas.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        int thicker = 0; // pixels beside the cursor's own cross and box
+        for (int y = 0; y < kHeight; ++y) {
+            for (int x = 0; x < kWidth; ++x) {
+                const QPoint way = QPoint(x, y) - pixel;
+                const bool isBeside = way.x() != 0 && way.y() != 0 &&
+                                      std::max(std::abs(way.x()), std::abs(way.y())) > 5;
+                thicker += isBeside && highlit.pixel(x, y) != plain.pixel(x, y) ? 1 : 0;
+            }
+        }
+        hover({2, 2});
+        if (aim == CanvasAim::point) {
+            EXPECT_EQ(thicker, 0);
+        } else {
+            EXPECT_GT(thicker, 20);
+        }
+        EXPECT_EQ(differences(picture(), plain), 0) << "nothing stays behind";
     }
 }
 

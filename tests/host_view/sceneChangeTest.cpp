@@ -2,10 +2,13 @@
 
 #include "AppearanceCache.h"
 #include "LookMaker.h"
+#include "LookSketch.h"
 #include "MlineSketch.h"
 #include "TestDrawing.h"
 #include "pickDistance.h"
 
+#include <algorithm>
+#include <chrono>
 #include <functional>
 #include <random>
 #include <set>
@@ -140,6 +143,9 @@ TEST(SceneProperty, TheIndexFindsWhatALinearSearchFinds) {
         Scene scene(random.drawing.database);
         for (int step = 0; step < 60; ++step) {
             random.change(scene);
+            for (int steps = static_cast<int>(random.number(0, 4)); steps > 0; --steps) {
+                scene.prepareSome({}); // stops wherever it is
+            }
             const PlanPoint point{std::round(random.number(0, 110)), random.number(0, 101)};
             LookMaker maker(random.drawing.core);
             KdDbStub* expected = nullptr;
@@ -166,6 +172,118 @@ TEST(SceneProperty, TheIndexFindsWhatALinearSearchFinds) {
         }
     }
     EXPECT_GT(found, 200) << "or nothing was tested";
+}
+
+// Whether all that a set of boxes covers was told.
+bool isTold(const Scene::Difference& difference, const PlanBox& box) {
+    return difference.everything ||
+           std::any_of(difference.areas.begin(), difference.areas.end(), [&](const PlanBox& area) {
+               return area.low.x <= box.low.x && area.low.y <= box.low.y &&
+                      area.high.x >= box.high.x && area.high.y >= box.high.y;
+           });
+}
+
+TEST(SceneSteps, TellWhatLooksDifferentBeforeAndAfter) {
+    TestDrawing drawing;
+    KdDbStub& wall = drawing.addMline(sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}}));
+    drawing.addMline(sketchEastward(0, 500, 10, {{1, 0}}));
+    Scene scene(drawing.database);
+    ASSERT_TRUE(scene.prepareSome(std::chrono::hours(1)));
+    EXPECT_TRUE(scene.takeDifference().everything) << "nothing was known before";
+    ASSERT_TRUE(scene.prepareSome({}));
+    EXPECT_TRUE(scene.takeDifference().isEmpty());
+
+    const PlanBox before = scene.appearance(wall).box();
+    TestDrawing::mline(wall).setContent(
+        std::make_shared<MlineContent>(sketchEastward(0, 80, 10, {{1, 0}})));
+    const PlanBox after = scene.appearance(wall).box();
+    scene.prepareSome(std::chrono::hours(1));
+    Scene::Difference difference = scene.takeDifference();
+    EXPECT_TRUE(isTold(difference, before));
+    EXPECT_TRUE(isTold(difference, after));
+    EXPECT_FALSE(isTold(difference, {{0, 499}, {10, 501}}));
+
+    for (const bool hide : {true, false}) {
+        hide ? scene.hide(wall) : scene.show(wall);
+        scene.prepareSome(std::chrono::hours(1));
+        EXPECT_TRUE(isTold(scene.takeDifference(), after)) << hide;
+    }
+    KdDbStub& added = drawing.addLine(900, 900, 901, 902);
+    scene.prepareSome(std::chrono::hours(1));
+    EXPECT_TRUE(isTold(scene.takeDifference(), {{900, 900}, {901, 902}}));
+    drawing.core.erase(added);
+    scene.prepareSome(std::chrono::hours(1));
+    EXPECT_TRUE(isTold(scene.takeDifference(), {{900, 900}, {901, 902}}));
+}
+
+// Enough for the index to be packed beside the program.
+TEST(SceneSteps, TakeChangesInWhileTheIndexIsMade) {
+    TestDrawing drawing;
+    KdDbLayerTableRecord& layer = drawing.addLayer(L"WALL", 1);
+    constexpr int kWalls = 5000;
+    for (int i = 0; i < kWalls; ++i) {
+        drawing.addMline(sketchEastward(0, 10.0 * i, 5, {{1, 0}}), i % 2 == 0 ? L"WALL" : L"0");
+    }
+    Scene scene(drawing.database);
+    int added = 0;
+    for (int change = 0; change < 12; ++change) {
+        layer.setIsOff(!layer.isOff()); // the index begins anew, in whichever state it is
+        for (int steps = 0; steps < 700 * change; ++steps) {
+            if (scene.prepareSome({})) {
+                break;
+            }
+            if (steps == 100) {
+                drawing.addLine(100, added, 105, added);
+                ++added;
+            }
+        }
+    }
+    while (!scene.prepareSome(std::chrono::milliseconds(1))) {
+    }
+    const std::size_t walls = layer.isOff() ? kWalls / 2 : kWalls;
+    EXPECT_EQ(scene.placesIn({{-1, -1}, {1e6, 1e6}}).size(), walls + static_cast<unsigned>(added));
+    EXPECT_EQ(scene.placesIn({{99, -1}, {106, 1e6}}).size(), static_cast<std::size_t>(added));
+    EXPECT_GT(added, 5);
+}
+
+TEST(LookSketch, HasTheLinesOfTheLook) {
+    Appearance look;
+    std::vector<PlanPoint> chain;
+    for (int i = 0; i < 600; ++i) {
+        chain.push_back({1000.0 + i, 50.0 + std::sin(i * 0.1)});
+    }
+    look.strokes.push_back({.points = chain, .rgb = 0x123456, .dashes = 1});
+    look.strokes.push_back({.points = {{1000, 60}}, .rgb = 0xFFFFFF}); // a dot
+    look.dashPatterns = {{3.0, -1.5}};
+    look.labels.push_back({.anchor = {1001, 52}, .height = 2.5, .text = L"A"});
+    const PlanBox box = look.box();
+    LookSketches sketches;
+    LookSketch sketch(sketches.keep(7, look, box));
+    EXPECT_EQ(sketch.rgb(), 0x123456U);
+    EXPECT_FALSE(sketch.hasFills());
+    EXPECT_EQ(sketch.labelHeight(), 2.5F);
+    std::vector<PlanPoint> drawn;
+    LookSketch::Line line;
+    while (sketch.next(line) && line.rgb == 0x123456) {
+        EXPECT_EQ(line.period, 4.5F);
+        if (!drawn.empty()) {
+            drawn.pop_back(); // the parts of a long chain share a point
+        }
+        for (const std::uint32_t point : line.points) {
+            drawn.push_back(LookSketch::place(point, box));
+        }
+    }
+    ASSERT_EQ(drawn.size(), chain.size());
+    for (std::size_t i = 0; i < chain.size(); ++i) {
+        EXPECT_NEAR(drawn[i].x, chain[i].x, 600 / 65535.0);
+        EXPECT_NEAR(drawn[i].y, chain[i].y, 12 / 65535.0);
+    }
+    EXPECT_EQ(line.points.size(), 1U);
+    EXPECT_FALSE(sketch.next(line));
+    EXPECT_FALSE(sketches.find(7).empty());
+    sketches.drop(7);
+    EXPECT_TRUE(sketches.find(7).empty());
+    EXPECT_TRUE(sketches.find(8).empty());
 }
 
 } // namespace
