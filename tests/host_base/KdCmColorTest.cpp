@@ -21,13 +21,11 @@ std::wstring keyOf(const KdCmColor& colour) {
 }
 
 TEST(KdCmColorTest, ThePackedValueTellsMethodAndIndex) {
-    struct Case {
+    const struct {
         std::uint32_t value;
-        int method;
-        int index;
+        int method, index;
         const wchar_t* name;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {0xC0000000U, 192, 256, L"ByLayer"},
         {0xC1000000U, 193, 0, L"ByBlock"},
         {0xC3000005U, 195, 5, L"5"},
@@ -37,7 +35,7 @@ TEST(KdCmColorTest, ThePackedValueTellsMethodAndIndex) {
         // None is black; the darkest blue, red and green have 38 in one channel, red comes first.
         {0xC2000000U, 194, 18, L"0,0,0"},
     };
-    for (const Case& each : cases) {
+    for (const auto& each : cases) {
         const KdCmColor colour = withValue(each.value);
         EXPECT_EQ(colour.color(), each.value);
         EXPECT_EQ(colour.colorMethod(), each.method) << std::hex << each.value;
@@ -92,23 +90,21 @@ TEST(KdCmColorTest, ATrueColourKeepsTheIndexStoredBeforeIt) {
 }
 
 TEST(KdCmColorTest, NamesStandBesideTheValue) {
-    struct Case {
+    const struct {
         const wchar_t* key;
         const wchar_t* book;
         const wchar_t* name;
-        const wchar_t* keyAgain;
-    };
-    const Case cases[] = {{L"RAL$RAL 3000", L"RAL", L"RAL 3000", L"RAL$RAL 3000"},
-                          {L"Brick", L"", L"Brick", L"Brick"},
-                          {L"a$b$c", L"a", L"b$c", L"a$b$c"},
-                          {nullptr, L"", L"", L""}};
-    for (const Case& each : cases) {
+    } cases[] = {{L"RAL$RAL 3000", L"RAL", L"RAL 3000"},
+                 {L"Brick", L"", L"Brick"},
+                 {L"a$b$c", L"a", L"b$c"},
+                 {nullptr, L"", L""}};
+    for (const auto& each : cases) {
         KdCmColor colour = withValue(0xC2102030U);
         colour.setNamesFromDictionaryKey(L"old$names");
         colour.setNamesFromDictionaryKey(each.key);
         EXPECT_STREQ(colour.bookName(), each.book);
         EXPECT_STREQ(colour.colorName(), each.name);
-        EXPECT_EQ(keyOf(colour), each.keyAgain);
+        EXPECT_EQ(keyOf(colour), each.key != nullptr ? each.key : L"");
         EXPECT_EQ(colour.hasColorName(), *each.name != L'\0');
         EXPECT_EQ(colour.color(), 0xC2102030U);
 
@@ -118,16 +114,13 @@ TEST(KdCmColorTest, NamesStandBesideTheValue) {
 }
 
 TEST(PaletteTest, HuesAndGreysStandWhereTheyAreExpected) {
-    struct Case {
-        std::uint16_t index;
-        std::uint32_t rgb;
-    };
     // A quarter step between primaries: 255 * 1/4 = 63, 255 * 1/2 = 127, 255 * 3/4 = 191.
-    const Case cases[] = {{2, 0xFFFF00},   {7, 0xFFFFFF},   {11, 0xFF7F7F},  {12, 0xA50000},
-                          {19, 0x261313},  {20, 0xFF3F00},  {60, 0xBFFF00},  {150, 0x007FFF},
-                          {210, 0xFF00FF}, {240, 0xFF003F}, {250, 0x333333}, {255, 0xFFFFFF}};
-    for (const Case& each : cases) {
-        EXPECT_EQ(orvex::paletteRgb(each.index), each.rgb) << each.index;
+    const std::pair<std::uint16_t, std::uint32_t> cases[] = {
+        {2, 0xFFFF00},   {7, 0xFFFFFF},   {11, 0xFF7F7F},  {12, 0xA50000},
+        {19, 0x261313},  {20, 0xFF3F00},  {60, 0xBFFF00},  {150, 0x007FFF},
+        {210, 0xFF00FF}, {240, 0xFF003F}, {250, 0x333333}, {255, 0xFFFFFF}};
+    for (const auto& each : cases) {
+        EXPECT_EQ(orvex::paletteRgb(each.first), each.second) << each.first;
     }
 }
 

@@ -19,15 +19,13 @@ TEST(BoundedCopyTest, BytesAreCopiedWholeOrNotAtAll) {
 }
 
 TEST(BoundedCopyTest, TextIsCutAndAlwaysTerminated) {
-    struct Case {
-        std::size_t capacity;
-        std::size_t count;
+    const struct {
+        std::size_t capacity, count;
         const wchar_t* result;
         bool whole;
-    };
-    const Case cases[] = {{6, 99, L"abcde", true}, {5, 99, L"abcd", false}, {1, 99, L"", false},
-                          {6, 2, L"ab", true},     {3, 2, L"ab", true},     {2, 2, L"a", false}};
-    for (const Case& each : cases) {
+    } cases[] = {{6, 99, L"abcde", true}, {5, 99, L"abcd", false}, {1, 99, L"", false},
+                 {6, 2, L"ab", true},     {3, 2, L"ab", true},     {2, 2, L"a", false}};
+    for (const auto& each : cases) {
         std::wstring target(6, L'#');
         EXPECT_EQ(wcsncpy_s(target.data(), each.capacity, L"abcde", each.count) == 0, each.whole);
         EXPECT_STREQ(target.c_str(), each.result);

@@ -4,13 +4,8 @@
 #include "KdDbBlockTable.h"
 #include "KdDbLayerTable.h"
 #include "KdDbLinetypeTable.h"
-#include "KdDbMline.h"
-#include "KdDbMlineImp.h"
 #include "KdDbMlineStyle.h"
-#include "KdDbSystemInternals.h"
-#include "MlineContent.h"
 #include "MlineStyleContent.h"
-#include "kddbObjects.h"
 #include "sampleDrawing.h"
 
 #include <gmock/gmock.h>
@@ -117,27 +112,6 @@ TEST(Opening, PutsEntitiesIntoTheirBlocks) {
     EXPECT_EQ(room->basePoint, (KdGePoint3d{1.5, 2.5, 0.0}));
     EXPECT_EQ(room->record, &stubOf(*file, 0x1C));
     EXPECT_EQ(core.blockOf(stubOf(*file, 0x41)), room);
-}
-
-TEST(Opening, ReadsAMultiline) {
-    const auto file = openDrawing(sampleDrawing());
-    const auto* const mline =
-        dynamic_cast<KdDbMline*>(file->database().core().load(stubOf(*file, 0x51)));
-    ASSERT_NE(mline, nullptr);
-    EXPECT_EQ(mline->style().stub(), &stubOf(*file, 0x2F));
-    EXPECT_EQ(mline->scale(), 0.5);
-    EXPECT_EQ(mline->justification(), 1);
-    EXPECT_FALSE(mline->closedMline());
-    EXPECT_EQ(mline->layer(), L"Walls");
-    EXPECT_EQ(mline->color().colorIndex(), 1);
-    ASSERT_EQ(mline->numVertices(), 3);
-    EXPECT_EQ(mline->vertexAt(2), (KdGePoint3d{10.0, 5.0, 0.0}));
-    EXPECT_EQ(mline->axisAt(0), (KdGeVector3d{1.0, 0.0, 0.0}));
-    EXPECT_EQ(mline->miterAt(2), (KdGeVector3d{-1.0, 0.0, 0.0}));
-    const ParameterLists& lists = KdDbSystemInternals::getImpObject(mline)->content().lists;
-    EXPECT_THAT(lists.line(0, 1), ::testing::ElementsAre(-0.25, 0.0, 2.0, 3.5));
-    EXPECT_THAT(lists.area(1, 0), ::testing::ElementsAre(0.0, 1.0));
-    EXPECT_TRUE(lists.line(2, 1).empty());
 }
 
 TEST(Opening, ReadsStylesTablesAndVariables) {

@@ -21,21 +21,6 @@ EntityTraits onLayer(const wchar_t* layer, std::uint16_t colour = 256) {
     return traits;
 }
 
-TEST(ScenePick, FindsAMultilineByItsStretchesAlone) {
-    TestDrawing drawing;
-    MlineContent wall = sketchEastward(0, 0, 10, {{1, 0, 4, 6}, {-1, 0}});
-    wall.style = KdDbObjectId(&drawing.addStyle(sketchStyle(1 | 16 | 1024, {1, -1})));
-    KdDbStub& stub = drawing.addMline(wall);
-    Scene scene(drawing.database);
-    ASSERT_EQ(scene.appearance(stub).strokes.size(), 5U) << "three stretches and two caps";
-    EXPECT_EQ(scene.pick({3, 1}, 0.5), &stub);
-    EXPECT_EQ(scene.pick({5, 1}, 0.5), nullptr) << "in the gap";
-    EXPECT_EQ(scene.pick({5, -1}, 0.5), &stub) << "beside the gap";
-    EXPECT_EQ(scene.pick({0, 0}, 0.5), nullptr) << "on the start's cap";
-    EXPECT_EQ(scene.pick({11, 0}, 0.5), nullptr) << "on the end's arc";
-    EXPECT_EQ(scene.pick({2, 0}, 0.5), nullptr) << "on the fill";
-}
-
 TEST(ScenePick, PassesOverWhatIsNotSeen) {
     TestDrawing drawing;
     drawing.addLayer(L"OFF", 1).setIsOff(true);
