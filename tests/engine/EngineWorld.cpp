@@ -126,10 +126,6 @@ bool EngineWorld::isOpen(const KdDbObject* entity) {
     return stub.openForRead + stub.openForWrite > 0;
 }
 
-bool EngineWorld::isOpenForWrite(const KdDbObject* entity) {
-    return entity->objectId().stub()->openForWrite > 0;
-}
-
 std::vector<double> EngineWorld::breaks(const KdDbMline* mline, int vertex, int element) {
     return lineList(mline, vertex, element);
 }

@@ -75,7 +75,6 @@ protected:
 
     static void nameOf(const KdDbObject* entity, long (&name)[2]);
     static bool isOpen(const KdDbObject* entity);
-    static bool isOpenForWrite(const KdDbObject* entity);
     static std::vector<double> breaks(const KdDbMline* mline, int vertex, int element);
 
     KdDbDatabase database;

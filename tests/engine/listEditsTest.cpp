@@ -1,9 +1,7 @@
-// One list at a time, where no pick of a tool leads: lists without runs, bounds of tolerances.
+// One list at a time: what holds for every cut, and what shifts make of lists without runs.
 
 #include "breakList.h"
 #include "shiftList.h"
-#include "trimList.h"
-#include "weldList.h"
 
 #include <gtest/gtest.h>
 
@@ -84,37 +82,6 @@ TEST(ShiftList, AVertexMovesAlongTheSegment) {
     // Along the axis the offset stays finite; sin 30 degrees is a half.
     EXPECT_NEAR(alongMiter(0.5, std::acos(-1.0) / 6.0), 1.0, 1e-15);
     EXPECT_EQ(alongMiter(0.5, 0.0), 0.5 / std::sin(0.005));
-}
-
-TEST(TrimList, ComparesTheOffsetLikeABreakAndKeepsTheFirstBreakBehind) {
-    expectAll({{{e, 0, 2, 4, 6}, 3, {e, 0, 2, 3}},
-               {{e, 0, 5}, 5 - 1e-11, {e, 0, 5}}, // a break at the point counts as reached
-               {{e}, 5, {e, 5}},                  // drawn again from there on
-               {{5}, 5, {5}},
-               {{}, 3, {}}},
-              [](const BreakList& list, double at) { return keepUpTo(list, at, true); });
-    EXPECT_EQ(keepUpTo({e, 0, 6}, 3, false), (BreakList{e, 0, 6, 3})) << "appended unseen";
-    expectAll(
-        {{{e, 0, 2, 4, 6}, 3, {e, 4, 6}},
-         {{e, 6, 8}, 5, {e, 5, 8}}, // the first break goes in any case
-         {{e, 0, 5}, 5, {e, 5, 5}}, // a break at the point isn't reached
-         {{e}, 5, {e}}},
-        [](const BreakList& list, double at) { return keepFrom(list, at, TrimPlace::within); });
-    EXPECT_EQ(keepFrom({e, 1, 2, 4}, 2, TrimPlace::behindStart), (BreakList{e, -2, 2, 4}));
-    EXPECT_EQ(keepFrom({e, 0, 2}, 9, TrimPlace::beyondEnd), (BreakList{e, 0, 2, 9}));
-}
-
-TEST(WeldList, EndsWhereNothingIsDrawnOrNothingLiesBefore) {
-    constexpr double kAperture = 0.1;
-    const BreakList gap = {e, 0, 3, 5};
-    EXPECT_EQ(weldWithin({e, 2, 6}, {2, false}, {4, true}, kAperture), (BreakList{e, 6}));
-    EXPECT_EQ(weldWithin({e}, {1, false}, {4, true}, kAperture), (BreakList{e, 0}));
-    EXPECT_EQ(weldWithin({9, 12}, {3, false}, {5, true}, kAperture), (BreakList{9, 12}));
-    EXPECT_EQ(weldToSegmentEnd({e, 2, 6}, {2, false}, 0.0), (BreakList{e, 0})) << "left bare";
-    EXPECT_EQ(weldFromSegmentStart({9, 12}, {1, false}, 0.0), (BreakList{9, 12}));
-    EXPECT_EQ(weldFromSegmentStart({e}, {1, false}, 0.0), (BreakList{e})) << "stays bare";
-    EXPECT_FALSE(standsInGap(gap, 2.8, kAperture));
-    EXPECT_TRUE(standsInGap(gap, 2.95, kAperture)) << "a break a little ahead counts as passed";
 }
 
 } // namespace

@@ -106,24 +106,6 @@ TEST_F(PickMatching, ThePickIsInTheUsersSystemAndASecondOneSharesTheOpening) {
     EXPECT_FALSE(isOpen(mline)) << "not opened again";
 }
 
-TEST_F(PickMatching, WhatTheEntityDoesntHaveIsZero) {
-    KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
-    storeLineList(mline, 1, 1, {});
-    PointTable table = nullptr;
-    int rows = 0;
-    run.ptListInitialize(mline, 4, 3, &table, &rows);
-    ASSERT_EQ(rows, 3);
-    EXPECT_EQ(table[0][1][1], 0.5);
-    EXPECT_EQ(table[1][1][1], 0.0) << "without a list the offset is 0";
-    EXPECT_EQ(table[0][3][0] + table[2][1][0], 0.0);
-    freePointTable(table, rows);
-
-    mline->erase();
-    const CMlineSegment& seg = pickAt(mline, 3.0, 0.0);
-    EXPECT_EQ(seg.m_mline, nullptr);
-    EXPECT_EQ(seg.m_numVertices + seg.m_numElements, 0);
-}
-
 TEST_F(PickMatching, OnlyAMultilineEndsAPromptForOne) {
     KdDbMline* const mline = addMline(kStraight, {0.5});
     long name[2];

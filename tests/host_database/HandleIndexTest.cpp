@@ -86,21 +86,4 @@ TEST(Handles, AHandleGivenAgainLeadsToTheLiveObject) {
     EXPECT_GT(core.takeHandle(), unwritten.handle);
 }
 
-TEST(Handles, AreNotGivenForWhatCompletesADrawing) {
-    KdDbDatabase database(false);
-    DatabaseCore& core = database.core();
-    core.noteHighestHandle(0x2F);
-    core.completeDefaults();
-    for (const KdDbStub& stub : core.stubs()) {
-        EXPECT_EQ(stub.handle, 0U);
-    }
-    EXPECT_TRUE(core.changedStubs().empty());
-
-    KdDbStub* const style = core.findStyle(L"STANDARD");
-    ASSERT_NE(style, nullptr);
-    EXPECT_EQ(core.ensureHandle(*style), 0x30U);
-    EXPECT_EQ(core.findHandle(0x30), style);
-    EXPECT_EQ(core.takeHandle(), 0x31U);
-}
-
 } // namespace

@@ -1,14 +1,19 @@
 // A changed object is written anew only where it differs; everything else keeps its text.
 
 #include "DatabaseCore.h"
+#include "KdDbDatabase.h"
 #include "KdDbDictionary.h"
+#include "KdDbLayerTable.h"
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineContent.h"
 #include "sampleDrawing.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <initializer_list>
+#include <iterator>
+#include <random>
 
 namespace {
 
@@ -246,6 +251,115 @@ TEST(ChangedVariables, AreWrittenInPlaceOrAtTheEndOfTheHeader) {
         expectEdit([&](DrawingFile& f) { f.database().core().setVariable(c.name, c.value); },
                    c.from, c.to);
     }
+}
+
+// One of many edits, of which most can be made again and again; what isn't there stays untouched.
+void editSomething(DrawingFile& file, std::vector<KdDbStub*>& mlines, std::mt19937& random) {
+    DatabaseCore& core = file.database().core();
+    const auto below = [&](std::size_t count) { return static_cast<int>(random() % count); };
+    const double number = below(2) == 0 ? -0.0 : below(5) / 3.0;
+    KdGePoint3d point{number, 1.0, 2.0};
+    auto* const mline = static_cast<KdDbMline*>(core.open(*mlines[random() % mlines.size()], true));
+    auto& style = opened<KdDbMlineStyle>(file, 0x2E);
+    auto& styles = opened<KdDbDictionary>(file, 0x17);
+    auto& walls = opened<KdDbLayerTableRecord>(file, 0x10);
+    const std::wstring key(1, static_cast<wchar_t>(L'A' + below(3)));
+    KdCmColor color;
+    color.setColorIndex(static_cast<std::uint16_t>(1 + below(3)));
+    int index = 0;
+    const std::function<void()> edits[] = {
+        [&] { style.addElement(index, number, color, KdDbObjectId(), true); },
+        [&] { style.removeElementAt(0); },
+        [&] { style.setFilled(below(2) == 0); },
+        [&] { styles.remove(key.c_str()); },
+        [&] { styles.setName(key.c_str(), L"B"); },
+        [&] {
+            KdDbObjectId id;
+            auto* const made = new KdDbMlineStyle;
+            made->initMlineStyle();
+            styles.setAt(key.c_str(), made, id);
+        },
+        [&] { core.setVariable("CMLSCALE", number); },
+        [&] { core.setVariable("UCSORG", point); },
+        [&] { walls.setColor(color); },
+        [&] { walls.setIsFrozen(!walls.isFrozen()); },
+        [&] {
+            auto made = std::make_unique<KdDbMline>();
+            made->setDatabaseDefaults(&file.database());
+            made->appendSeg(point);
+            mlines.push_back(&core.adopt(std::move(made), ObjectKind::mline, nullptr));
+            core.appendEntity(core.modelSpace(), *mlines.back());
+        },
+        [&] { mline->setScale(number); },
+        [&] { mline->appendSeg(point); },
+        [&] { mline->removeLastSeg(point); },
+        [&] { mline->setClosedMline(!mline->closedMline()); },
+        [&] { mline->setLayer(key.c_str()); },
+        [&] {
+            mline->setNormal({0.0, number, 1.0});
+        },
+        [&] { mline->erase(); },
+        [&] {
+            if (mline->numVertices() == 3) {
+                setLines(*mline, 0, 0, {number, 1.0, 2.0});
+            }
+        },
+        [&] {
+            KdDbMline copy; // changed and changed back
+            copy.copyFrom(mline);
+            mline->setScale(5.0);
+            mline->copyFrom(&copy);
+        },
+    };
+    constexpr int kFirstOnMline = 11;
+    const int choice = below(std::size(edits));
+    if (choice < kFirstOnMline || mline != nullptr) {
+        edits[choice]();
+    }
+}
+
+TEST(Undo, RestoresEveryStepByteForByte) {
+    std::size_t steps = 0;
+    for (unsigned seed = 1; seed <= 40; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        const auto file = openDrawing(sampleDrawing());
+        DatabaseCore& core = file->database().core();
+        std::vector<KdDbStub*> mlines{&stubOf(*file, 0x51), &stubOf(*file, 0x52)};
+        // Of an old layer nothing is written, so it stands beside the file.
+        const auto state = [&] {
+            const auto& walls = opened<KdDbLayerTableRecord>(*file, 0x10);
+            return file->bytes() + std::to_string(walls.color().colorIndex()) +
+                   (walls.isFrozen() ? "frozen" : "");
+        };
+        std::vector<std::string> before;
+        const auto stepBack = [&] {
+            ASSERT_TRUE(core.undo());
+            ASSERT_TRUE(sameText(state(), before.back()));
+            before.pop_back();
+        };
+        for (int i = 0; i < 60; ++i) {
+            const std::string now = state();
+            core.beginCommand();
+            for (int edits = 1 + i % 4; edits > 0; --edits) {
+                editSomething(*file, mlines, random);
+            }
+            if (core.endCommand()) {
+                before.push_back(now);
+                ++steps;
+            } else {
+                ASSERT_TRUE(sameText(state(), now)) << "no command, and yet a change";
+            }
+            for (int back = i % 7 == 6 ? 3 : 0; back > 0 && !before.empty(); --back) {
+                ASSERT_NO_FATAL_FAILURE(stepBack());
+            }
+        }
+        while (!before.empty()) {
+            ASSERT_NO_FATAL_FAILURE(stepBack());
+        }
+        EXPECT_FALSE(core.undo());
+    }
+    EXPECT_GT(steps, 1000U);
 }
 
 } // namespace

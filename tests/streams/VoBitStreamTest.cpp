@@ -142,6 +142,8 @@ TEST_F(VoBitStreamTest, NothingIsReadPastTheLength) {
     EXPECT_EQ(value, 0x7F);
     EXPECT_THAT(bytes, ElementsAre(9, 9, 9));
     EXPECT_EQ(stream.tell(), 12U);
+    EXPECT_EQ(VoBitStream(&buffer, 33).length(), 32U) << "at most what the buffer holds";
+    EXPECT_EQ(VoBitStream(nullptr, 17).length(), 0U);
 }
 
 TEST_F(VoBitStreamTest, SingleBitsAreReadUpToTheBuffersEnd) {
@@ -160,15 +162,6 @@ TEST_F(VoBitStreamTest, SingleBitsAreReadUpToTheBuffersEnd) {
     EXPECT_THAT(reports(), ElementsAre(kBufferReport));
     stream.readUInt8(bit); // behind the length nothing is left
     EXPECT_THAT(reports(), ElementsAre(kBitsReport));
-}
-
-TEST_F(VoBitStreamTest, ABitLengthIsAtMostWhatTheBufferHolds) {
-    VoFlatMemBuf buffer;
-    fill(buffer, {1, 2});
-    EXPECT_EQ(VoBitStream(&buffer, 11).length(), 11U);
-    EXPECT_EQ(VoBitStream(&buffer, 17).length(), 16U);
-    EXPECT_EQ(VoBitStream(nullptr, 17).length(), 0U);
-    EXPECT_EQ(VoBitStream(&buffer).length(), 0U);
 }
 
 struct Seek {
@@ -253,35 +246,6 @@ TEST_F(VoBitStreamTest, ARunThatIsNotThereLeavesTheTargetAtItsPlace) {
         EXPECT_EQ(source.tell(), 0U);
     }
     source.readBits(nullptr, 0, 5);
-}
-
-// A buffer that shows no bytes, and may not grow either.
-class ClosedBuf : public VoMemStreamBuf {
-public:
-    explicit ClosedBuf(bool grows) : m_grows(grows) {}
-    using VoMemStreamBuf::readBytes;
-    using VoMemStreamBuf::writeBytes;
-    [[nodiscard]] std::uint64_t tell() const override { return 0; }
-    [[nodiscard]] std::uint64_t length() const override { return m_length; }
-    void setlength(std::uint64_t length) override { m_length = m_grows ? length : m_length; }
-    void readBytes(void* /*target*/, unsigned /*count*/) override {}
-    void writeBytes(const void* /*source*/, unsigned /*count*/) override {}
-
-private:
-    bool m_grows;
-    std::uint64_t m_length = 0;
-};
-
-TEST_F(VoBitStreamTest, ABufferThatTakesNothingIsReportedAndNothingMoves) {
-    for (const bool grows : {false, true}) {
-        ClosedBuf buffer(grows);
-        VoBitStream stream(&buffer);
-        stream.writeBit(1, 1);
-        stream.writeBytes("abc", 3);
-        EXPECT_EQ(reports(), Reports(2, kBufferReport));
-        EXPECT_EQ(stream.tell(), 0U);
-        EXPECT_EQ(stream.length(), 0U);
-    }
 }
 
 TEST_F(VoBitStreamTest, ABufferThatIsCutMeanwhileIsNotWrittenBehindItsEnd) {
