@@ -47,6 +47,8 @@ TEST(ExportedNames, areThoseOfTheInterfaceAndNoOthers) {
                                "hResModule", "theExtensionDLL"}) {
         EXPECT_THAT(names, testing::Contains(needed));
     }
+    EXPECT_THAT(names, testing::Contains(testing::StartsWith("TKL_MlstyleBitmap(int, int,")));
+    EXPECT_THAT(names, testing::Contains("FindStyleName(wchar_t*, wchar_t*)"));
     // Beside them: two texts, the two functions of the dialogs that others may call, and the
     // classes of the streams.
     const std::regex allowed("DllMain|kdrxEntryPoint|kdrxGetApiVersion|hAppModule|hResModule|"

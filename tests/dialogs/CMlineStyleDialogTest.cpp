@@ -1,0 +1,321 @@
+#include "CMlineStyleDialog.h"
+
+#include "KdDbMline.h"
+#include "StyleWorld.h"
+#include "TKL_MlstyleBitmap.h"
+#include "dialogRun.h"
+#include "hostHeap.h"
+#include "promptStatus.h"
+#include "styleSample.h"
+#include "systemVariables.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTextEdit>
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+using orvex::testing::child;
+using orvex::testing::runDialog;
+using orvex::testing::StyleWorld;
+using testing::ElementsAre;
+
+namespace {
+
+void setVariable(const wchar_t* name, const wchar_t* text) {
+    resbuf value;
+    value.restype = kResultText;
+    kdutNewString(text, value.resval.rstring);
+    EXPECT_EQ(kdedSetVar(name, &value), kPromptNormal);
+    kdutDelString(value.resval.rstring);
+}
+
+std::wstring variable(const wchar_t* name) {
+    resbuf value;
+    EXPECT_EQ(kdedGetVar(name, &value), kPromptNormal);
+    const std::wstring text = value.resval.rstring;
+    rvex_free(value.resval.rstring);
+    return text;
+}
+
+// Acts in whatever opens on top of the manager.
+template <class Act>
+void inNextDialog(Act act) {
+    QTimer::singleShot(0, qApp, [act] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        act(*dialog);
+    });
+}
+
+void press(const QWidget& dialog, const char* name) {
+    QTest::mouseClick(dialog.findChild<QPushButton*>(name), Qt::LeftButton);
+}
+
+class StyleManager : public StyleWorld {
+protected:
+    StyleManager() {
+        addStyle(L"Wall", L"brick");
+        addStyle(L"Pipe", L"<b>steel</b>");
+        addStyle(L"Kerb");
+    }
+
+    template <class Act>
+    int manage(Act act) {
+        m_dialog = std::make_unique<CMlineStyleDialog>(nullptr);
+        return runDialog(*m_dialog, act);
+    }
+    [[nodiscard]] QListWidget& list() { return child<QListWidget>(*m_dialog, "listWidgetStyles"); }
+    [[nodiscard]] std::string label(const char* name) {
+        return child<QLabel>(*m_dialog, name).text().toStdString();
+    }
+    [[nodiscard]] std::string current() { return label("labelCurrentMultilineStyleResult"); }
+    [[nodiscard]] QPushButton& button(const char* name) {
+        return child<QPushButton>(*m_dialog, name);
+    }
+    void press(const char* name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
+    void close() { press("pBtnClose"); }
+
+    void select(const char* name) {
+        const auto items = list().findItems(name, Qt::MatchExactly);
+        ASSERT_EQ(items.size(), 1) << name;
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, middleOf(items.front()));
+    }
+    [[nodiscard]] QPoint middleOf(QListWidgetItem* item) {
+        return list().visualItemRect(item).center();
+    }
+    [[nodiscard]] std::string selected() {
+        const auto items = list().selectedItems();
+        return items.isEmpty() ? "" : items.front()->text().toStdString();
+    }
+    [[nodiscard]] std::vector<std::string> listed() {
+        std::vector<std::string> names;
+        for (int row = 0; row < list().count(); ++row) {
+            names.push_back(list().item(row)->text().toStdString());
+        }
+        return names;
+    }
+    // Which of Set Current, Modify, Rename and Delete are on.
+    [[nodiscard]] std::string enabled() {
+        std::string letters;
+        for (const char* const name :
+             {"pBtnSetCurrent", "pBtnModify", "pBtnRename", "pBtnDelete"}) {
+            letters += button(name).isEnabled() ? name[4] : '-';
+        }
+        return letters;
+    }
+
+    std::unique_ptr<CMlineStyleDialog> m_dialog;
+};
+
+TEST_F(StyleManager, tellsByItsButtonsWhatMayBeDone) {
+    const struct {
+        const char* style;
+        const wchar_t* current;
+        bool used;
+        const char* enabled;
+    } cases[] = {
+        {"Wall", L"STANDARD", false, "SMRD"},     {"Wall", L"Wall", false, "-MR-"},
+        {"Wall", L"STANDARD", true, "S---"},      {"Wall", L"Wall", true, "----"},
+        {"STANDARD", L"STANDARD", false, "-M--"}, {"STANDARD", L"Wall", false, "SM-D"},
+        {"STANDARD", L"Wall", true, "S---"},
+    };
+    for (const bool used : {false, true}) {
+        for (const auto& each : cases) {
+            if (each.used != used) {
+                continue;
+            }
+            if (used) {
+                use(each.style);
+            }
+            setVariable(L"CMLSTYLE", each.current);
+            manage([&] {
+                select(each.style);
+                EXPECT_EQ(enabled(), each.enabled) << each.style << used;
+                EXPECT_TRUE(button("pBtnNew").isEnabled() && button("pBtnSave").isEnabled());
+                close();
+            });
+        }
+    }
+}
+
+TEST_F(StyleManager, showsTheCurrentStyleFirstAndTextsAsTheyAre) {
+    setVariable(L"CMLSTYLE", L"Pipe");
+    manage([&] {
+        EXPECT_THAT(listed(), ElementsAre("STANDARD", "Wall", "Pipe", "Kerb"));
+        EXPECT_EQ(current(), "Pipe");
+        EXPECT_EQ(selected(), "Pipe");
+        auto& description = child<QLabel>(*m_dialog, "labelDescription");
+        EXPECT_EQ(description.text(), "<b>steel</b>");
+        EXPECT_EQ(description.textFormat(), Qt::PlainText);
+        select("Kerb");
+        EXPECT_EQ(description.text(), "");
+        QTest::keyClick(&list(), Qt::Key_Up); // keys change the buttons, too
+        EXPECT_EQ(enabled(), "-MR-");
+        EXPECT_TRUE(child<QTextEdit>(*m_dialog, "textEdit").toPlainText().isEmpty());
+        close();
+    });
+}
+
+TEST_F(StyleManager, makesAStyleCurrentAtOnce) {
+    manage([&] {
+        select("Wall");
+        press("pBtnSetCurrent");
+        EXPECT_EQ(current(), "Wall");
+        EXPECT_EQ(enabled(), "-MR-");
+        EXPECT_TRUE(button("pBtnNew").hasFocus());
+        EXPECT_EQ(variable(L"CMLSTYLE"), L"Wall");
+        const QPoint kerb = middleOf(list().item(3));
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, kerb);
+        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, kerb);
+        EXPECT_EQ(current(), "Kerb");
+        EXPECT_EQ(variable(L"CMLSTYLE"), L"Kerb");
+        close();
+    });
+    EXPECT_EQ(variable(L"CMLSTYLE"), L"Kerb");
+}
+
+TEST_F(StyleManager, deletesAfterAQuestionAndNeverTheStandard) {
+    setVariable(L"CMLSTYLE", L"Kerb");
+    const auto answer = [](QMessageBox::StandardButton wanted) {
+        inNextDialog([wanted](QWidget& dialog) {
+            auto* const box = qobject_cast<QMessageBox*>(&dialog);
+            ASSERT_NE(box, nullptr);
+            EXPECT_THAT(box->text().toStdString(), testing::EndsWith("\"Pipe\"?"));
+            EXPECT_EQ(box->windowTitle(), "ORVEX");
+            QTest::mouseClick(box->button(wanted), Qt::LeftButton);
+        });
+    };
+    manage([&] {
+        select("STANDARD");
+        press("pBtnDelete"); // a question would stop here
+        select("Pipe");
+        answer(QMessageBox::No);
+        press("pBtnDelete");
+        EXPECT_EQ(list().count(), 4);
+        answer(QMessageBox::Yes);
+        press("pBtnDelete");
+        EXPECT_THAT(listed(), ElementsAre("STANDARD", "Wall", "Kerb"));
+        EXPECT_EQ(selected(), "Wall");
+        EXPECT_EQ(list().window()->focusWidget(), &list());
+        EXPECT_EQ(label("labelDescription"), "brick");
+        close();
+    });
+    EXPECT_EQ(style(L"Pipe"), nullptr);
+    EXPECT_NE(style(L"STANDARD"), nullptr);
+}
+
+// The label then shows a name that isn't current; it is so for whichever style was renamed.
+TEST_F(StyleManager, showsARenamedStyleAsCurrentAndLeavesTheVariable) {
+    manage([&] {
+        select("Pipe");
+        inNextDialog([](QWidget& dialog) {
+            dialog.findChild<QLineEdit*>("lineEditNewStyleName")->setText("Duct");
+            ::press(dialog, "pBtnOK");
+        });
+        press("pBtnRename");
+        EXPECT_THAT(listed(), ElementsAre("STANDARD", "Wall", "Kerb", "Duct"));
+        EXPECT_EQ(selected(), "Duct");
+        EXPECT_EQ(current(), "Duct");
+        EXPECT_EQ(enabled(), "-MR-");
+        close();
+    });
+    EXPECT_EQ(variable(L"CMLSTYLE"), L"STANDARD");
+    ASSERT_NE(style(L"Duct"), nullptr);
+    EXPECT_STREQ(style(L"Duct")->name(), L"Duct");
+    EXPECT_EQ(style(L"Pipe"), nullptr);
+}
+
+TEST_F(StyleManager, selectsTheStandardAfterLoading) {
+    manage([&] {
+        select("Pipe");
+        inNextDialog([](QWidget& dialog) { ::press(dialog, "pBtnCancel"); });
+        press("pBtnLoad");
+        EXPECT_EQ(selected(), "STANDARD");
+        EXPECT_EQ(enabled(), "-M--");
+        close();
+    });
+}
+
+TEST_F(StyleManager, savesTheSelectedStyleIntoTheChosenLibrary) {
+    const fs::path library = fs::temp_directory_path() / "own.mln";
+    m_chooser.choice = library.wstring();
+    manage([&] {
+        select("Wall");
+        press("pBtnSave");
+        EXPECT_THAT(m_chooser.asked, testing::EndsWith(L"/Support/|mln|3"));
+        select("Pipe");
+        press("pBtnSave");
+        m_chooser.choice.reset();
+        press("pBtnSave");
+        m_chooser.asked.clear();
+        list().clearSelection();
+        press("pBtnSave");
+        EXPECT_EQ(m_chooser.asked, L"");
+        close();
+    });
+    std::ifstream stream(library);
+    const std::string text{std::istreambuf_iterator<char>(stream), {}};
+    EXPECT_THAT(text, testing::StartsWith("MLSTYLE\n2\n Wall\n70\n 0\n3\n brick\n"));
+    EXPECT_THAT(text, testing::HasSubstr("\n0\nMLSTYLE\n2\n Pipe\n"));
+}
+
+TEST_F(StyleManager, remembersItsPlaceWhenItIsAcceptedByEnter) {
+    manage([&] { close(); });
+    EXPECT_EQ(setting(L"MlstylePosLeft"), -10000);
+    EXPECT_EQ(manage([&] {
+                  m_dialog->MoveWindow(CRect(40, 50, 560, 550));
+                  QTest::keyClick(&list(), Qt::Key_Return);
+              }),
+              1);
+    EXPECT_EQ(setting(L"MlstylePosLeft"), 40);
+    EXPECT_EQ(setting(L"MlstylePosBottom"), 550);
+    manage([&] {
+        CRect place;
+        m_dialog->GetWindowRect(&place);
+        EXPECT_EQ(place.left, 40);
+        EXPECT_EQ(place.bottom, 550);
+        close();
+    });
+}
+
+TEST_F(StyleManager, refusesToStartWithoutADrawing) {
+    KdDocument* const document = orvex::setCurrentDocument(nullptr);
+    EXPECT_EQ(CMlineStyleDialog(nullptr).DoModal(), -1);
+    orvex::setCurrentDocument(document);
+}
+
+TEST(StyleSample, spreadsTheElementsOverTheHeight) {
+    EXPECT_THAT(scaledOffsets({0.5, 0.1, -0.5}, 100), ElementsAre(50.0, 10.0, -50.0));
+    EXPECT_THAT(scaledOffsets({0.5, 0.1, 0.5}, 100), ElementsAre(0.0, 0.0, 0.0));
+    EXPECT_TRUE(scaledOffsets({}, 100).empty());
+    const double right = 1.5707963267948966;
+    const StyleSample sample = makeStyleSample(101, {50.0, -50.0}, {right, right / 3.0});
+    EXPECT_EQ(sample.vertices[1].x, 50.0);
+    EXPECT_EQ(sample.vertices[2].x, 101.0);
+    EXPECT_NEAR(sample.miters[1].y, 1.0, 1e-12);
+    EXPECT_NEAR(sample.distances[0][1], -100.0, 1e-12);
+    EXPECT_NEAR(sample.distances[2][1], -200.0, 1e-12); // at 30 degrees twice as far
+    EXPECT_THAT(makeStyleSample(0, {1.0, 2.0}, {0.0, 0.0}).distances[0], ElementsAre(0.0, 0.0));
+}
+
+TEST_F(StyleManager, buildsASampleThatLeavesTheDrawingsViewBehind) {
+    EXPECT_EQ(TKL_MlstyleBitmap(100, 50, nullptr), nullptr);
+    resbuf scale;
+    kdedGetVar(L"LTSCALE", &scale);
+    EXPECT_EQ(scale.resval.rreal, 1.0);
+    EXPECT_EQ(TKL_MlstyleBitmap(100, 50, const_cast<KdDbMlineStyle*>(style(L"Wall"))), nullptr);
+    kdedGetVar(L"LTSCALE", &scale);
+    EXPECT_EQ(scale.resval.rreal, 50.0);
+    EXPECT_NE(style(L"Wall"), nullptr);
+}
+
+} // namespace
