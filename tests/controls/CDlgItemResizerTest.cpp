@@ -12,16 +12,12 @@ namespace {
 // Lets the records be seen.
 class Resizer : public CDlgItemResizer {
 public:
-    using CDlgItemResizer::m_gaps;
     using CDlgItemResizer::m_initialSize;
     using CDlgItemResizer::m_items;
     using CDlgItemResizer::m_minimumSize;
 
     [[nodiscard]] const DLGITEMINFO& item(int index) const {
         return *static_cast<const DLGITEMINFO*>(m_items.GetAt(index));
-    }
-    [[nodiscard]] int gap(int index) const {
-        return static_cast<const DLGITEMGAP*>(m_gaps.GetAt(index))->gap;
     }
 };
 
@@ -63,19 +59,6 @@ TEST_F(ItemResizer, recordsWhereItemsStandAndTheSizesOfTheFirstMoment) {
     EXPECT_EQ(resizer.m_minimumSize.cy, 200);
     resizer.ClearData();
     EXPECT_EQ(resizer.m_items.GetSize(), 0);
-}
-
-TEST_F(ItemResizer, gapsAreMeasuredOrTakenAsGiven) {
-    CWnd* const first = logic.GetDlgItem(1);
-    CWnd* const second = logic.GetDlgItem(2);
-    resizer.SetGap(first, second, -1, RESIZE_GAP_HORIZONTAL, RESIZE_GAP_KEEP);
-    resizer.SetGap(first, second, -1, RESIZE_GAP_VERTICAL, RESIZE_GAP_KEEP);
-    resizer.SetGap(first, second, -2, RESIZE_GAP_VERTICAL, RESIZE_GAP_KEEP);
-    resizer.SetGap(first, nullptr, 5, RESIZE_GAP_VERTICAL, RESIZE_GAP_KEEP);
-    ASSERT_EQ(resizer.m_gaps.GetSize(), 3);
-    EXPECT_EQ(resizer.gap(0), 120 - 90);
-    EXPECT_EQ(resizer.gap(1), 60 - 45);
-    EXPECT_EQ(resizer.gap(2), -2);
 }
 
 TEST_F(ItemResizer, theEdgeThatIsDraggedStopsAtTheSmallestSize) {

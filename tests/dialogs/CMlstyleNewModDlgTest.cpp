@@ -1,8 +1,6 @@
 #include "CMlstyleNewModDlg.h"
 
-#include "DrawingChoices.h"
 #include "KdDbLinetypeTable.h"
-#include "MRUComboBox.h"
 #include "ObjectContent.h"
 #include "StyleWorld.h"
 #include "dialogRun.h"
@@ -33,35 +31,13 @@ namespace {
 
 constexpr double kDegree = 3.141592653589793 / 180.0;
 
-// A drawing with one line type of its own.
-class Choices : public orvex::DrawingChoices {
-public:
-    Choices() : m_before(orvex::setDrawingChoices(this)) {}
-    ~Choices() override { orvex::setDrawingChoices(m_before); }
-    Choices(const Choices&) = delete;
-    Choices& operator=(const Choices&) = delete;
-
-    [[nodiscard]] std::vector<orvex::LineTypeChoice> lineTypes() const override {
-        return {{L"Continuous", {}},
-                {L"DASHED", {0.5, -0.25}},
-                {L"ACAD_ISO02W100 long dashed dots", {12, -3}}};
-    }
-
-private:
-    orvex::DrawingChoices* m_before;
-};
-
-KdCmColor indexed(std::uint16_t index) {
-    KdCmColor colour;
-    colour.setColorIndex(index);
-    return colour;
+KdCmColor colour(std::uint32_t value) { // with the method in the top byte
+    KdCmColor made;
+    made.setColor(value);
+    return made;
 }
-
-KdCmColor trueColour(std::uint32_t rgb) {
-    KdCmColor colour;
-    colour.setColor(0xC2000000U | rgb);
-    return colour;
-}
+constexpr std::uint32_t kTrue = 0xC2000000U;
+constexpr std::uint32_t kIndex = 0xC3000000U;
 
 class ModifyDialog : public StyleWorld {
 protected:
@@ -70,14 +46,14 @@ protected:
         addStyle(L"Wall", L"brick");
         KdDbMlineStyle& wall = open(L"Wall");
         wall.setFilled(true);
-        wall.setFillColor(trueColour(0xFF8000));
+        wall.setFillColor(colour(kTrue | 0xFF8000U));
         wall.setStartAngle(45.678 * kDegree);
         while (wall.numElements() > 0) {
             wall.removeElementAt(0);
         }
-        add(wall, -0.25, trueColour(0x0080FF), L"DASHED");
-        add(wall, 0.25, indexed(1), L"ByBlock");
-        add(wall, 0.0, indexed(30), L"Continuous");
+        add(wall, -0.25, colour(kTrue | 0x0080FFU), L"DASHED");
+        add(wall, 0.25, colour(kIndex | 1U), L"ByBlock");
+        add(wall, 0.0, colour(kIndex | 30U), L"Continuous");
         wall.close();
     }
     ~ModifyDialog() override {
@@ -122,25 +98,19 @@ protected:
         return all;
     }
 
-    // Runs `act` in the dialog over a style.
-    int modify(const wchar_t* name, std::function<void()> act) {
-        prepare();
-        m_dialog->m_mode = CMlstyleNewModDlg::modeModify;
-        m_dialog->m_styleName = name;
+    // Runs `act` in the dialog over a style; with a new name over a copy of it.
+    int modify(const wchar_t* name, std::function<void()> act, const wchar_t* newName = nullptr) {
+        prepare(name, newName);
         return runDialog(*m_dialog, std::move(act));
     }
-    // Over a new style that starts as a copy.
-    int make(const wchar_t* newName, const wchar_t* source, std::function<void()> act) {
-        prepare();
-        m_dialog->m_mode = CMlstyleNewModDlg::modeNew;
-        m_dialog->m_styleName = source;
-        m_dialog->m_newName = newName;
-        return runDialog(*m_dialog, std::move(act));
-    }
-    void prepare() {
+    void prepare(const wchar_t* name, const wchar_t* newName) {
         m_beeps = 0;
         m_dialog = std::make_unique<CMlstyleNewModDlg>(nullptr);
         m_dialog->m_dictionaryId = dictionaryId();
+        m_dialog->m_mode =
+            newName != nullptr ? CMlstyleNewModDlg::modeNew : CMlstyleNewModDlg::modeModify;
+        m_dialog->m_styleName = name;
+        m_dialog->m_newName = newName;
     }
 
     template <class W>
@@ -194,7 +164,6 @@ protected:
         return value.resval.rint;
     }
 
-    Choices m_choices;
     int m_beeps = 0;
     std::unique_ptr<CMlstyleNewModDlg> m_dialog;
 
@@ -261,48 +230,41 @@ TEST_F(ModifyDialog, okWritesWhatItShowsAndCancelNothing) {
 
 TEST_F(ModifyDialog, aNewStyleGoesOnEveryRoadButOk) {
     const auto before = style(L"Wall")->content();
+    const auto press = [this](Qt::Key key) {
+        QTest::keyClick(&widget<QLineEdit>("lEditDescription"), key);
+    };
     const std::function<void()> roads[] = {
         [this] { click("pBtnCancel"); },
-        [this] { QTest::keyClick(&widget<QLineEdit>("lEditDescription"), Qt::Key_Escape); },
         [this] { m_dialog->GetSafeHwnd()->close(); },
+        [press] { press(Qt::Key_Escape); },
+        [press] { press(Qt::Key_Return); },
     };
     for (const auto& road : roads) {
-        EXPECT_EQ(make(L"Fence", L"Wall",
-                       [this, &road] {
-                           EXPECT_NE(style(L"Fence"), nullptr);
-                           EXPECT_EQ(m_dialog->GetSafeHwnd()->windowTitle(),
-                                     "New Multiline Style: Fence");
-                           click("pBtnAdd");
-                           road();
-                       }),
-                  2);
-        EXPECT_TRUE(styleId(L"Fence").isNull());
+        const auto act = [this, &road] {
+            EXPECT_NE(style(L"Fence"), nullptr);
+            EXPECT_EQ(m_dialog->GetSafeHwnd()->windowTitle(), "New Multiline Style: Fence");
+            click("pBtnAdd");
+            type("lEditDescription", "wood");
+            road();
+        };
+        const bool isLast = &road == std::end(roads) - 1;
+        EXPECT_EQ(modify(L"Wall", act, L"Fence"), isLast ? 1 : 2);
+        EXPECT_EQ(styleId(L"Fence").isNull(), !isLast);
         EXPECT_TRUE(style(L"Wall")->content()->equals(*before));
     }
-    EXPECT_EQ(make(L"Fence", L"Wall",
-                   [this] {
-                       type("lEditDescription", "wood");
-                       QTest::keyClick(&widget<QLineEdit>("lEditDescription"), Qt::Key_Return);
-                   }),
-              1);
-    ASSERT_NE(style(L"Fence"), nullptr);
     EXPECT_STREQ(style(L"Fence")->name(), L"Fence");
     EXPECT_STREQ(style(L"Fence")->description(), L"wood");
-    EXPECT_EQ(elements(L"Fence").size(), 3U);
-    EXPECT_TRUE(style(L"Wall")->content()->equals(*before));
+    EXPECT_EQ(elements(L"Fence").size(), 4U);
 }
 
 TEST_F(ModifyDialog, doesntStartWithoutItsStyle) {
-    for (const int mode : {CMlstyleNewModDlg::modeNew, CMlstyleNewModDlg::modeModify}) {
-        prepare();
-        m_dialog->m_mode = mode;
-        m_dialog->m_styleName = L"nobody";
-        m_dialog->m_newName = L"Fence";
+    for (const wchar_t* newName : {static_cast<const wchar_t*>(nullptr), L"Fence"}) {
+        prepare(L"nobody", newName);
         EXPECT_EQ(m_dialog->DoModal(), -1);
-        EXPECT_TRUE(styleId(L"Fence").isNull());
-        m_dialog->m_styleName = L"Wall";
+        prepare(L"Wall", newName);
         m_dialog->m_dictionaryId = KdDbObjectId();
         EXPECT_EQ(m_dialog->DoModal(), -1);
+        EXPECT_TRUE(styleId(L"Fence").isNull());
     }
 }
 
@@ -387,7 +349,7 @@ TEST_F(ModifyDialog, aStyleHasAnyNumberOfElements) {
         KdDbMlineStyle& wall = open(L"Wall");
         SetNumElements(&wall, 0);
         for (int i = 0; i < count; ++i) {
-            add(wall, i * 0.5, indexed(1), L"ByLayer");
+            add(wall, i * 0.5, colour(kIndex | 1U), L"ByLayer");
         }
         modify(L"Wall", [this, count] {
             EXPECT_TRUE(
@@ -407,8 +369,9 @@ TEST_F(ModifyDialog, coloursAndLineTypesAreChosen) {
     modify(L"Wall", [this] {
         clickRow(0);
         choose("cbBoxColor", "3");
-        choose("cbBoxLinetype", "DASHED");
+        choose("cbBoxLinetype", "Continuous");
         clickRow(2);
+        EXPECT_EQ(widget<QComboBox>("cbBoxLinetype").currentIndex(), -1); // DASHED isn't offered
         choose("cbBoxLinetype", "ByLayer");
         // A colour that isn't in the list is put there, and selected at the next click.
         EXPECT_EQ(widget<QComboBox>("cbBoxColor").currentText(), "3");
@@ -416,7 +379,8 @@ TEST_F(ModifyDialog, coloursAndLineTypesAreChosen) {
         EXPECT_EQ(widget<QComboBox>("cbBoxColor").currentText(), "0,128,255");
         choose("cbBoxColor", "ByBlock");
         choose("cbBoxFillColor", "2");
-        EXPECT_THAT(rows(), ElementsAre("0.3 DASHED 3", "0 Continuous 30", "-0.3 ByLayer ByBlock"));
+        EXPECT_THAT(rows(),
+                    ElementsAre("0.3 Continuous 3", "0 Continuous 30", "-0.3 ByLayer ByBlock"));
         click("pBtnOK");
     });
     EXPECT_THAT(elements(L"Wall"),
@@ -486,20 +450,16 @@ TEST_F(ModifyDialog, anAngleOutOfRangeHoldsOkUp) {
 }
 
 TEST_F(ModifyDialog, numbersOfColoursHaveNames) {
-    prepare();
-    const std::pair<int, const wchar_t*> words[] = {
-        {0, L"BYBLOCK"}, {256, L"BYLAYER"}, {1, L"Red"}, {7, L"White"}, {8, L"8"}, {-1, L"-1"}};
-    for (const auto& [number, word] : words) {
+    prepare(L"Wall", nullptr);
+    for (const auto& [number, word] :
+         {std::pair{0, L"BYBLOCK"}, {256, L"BYLAYER"}, {1, L"Red"}, {7, L"White"}, {8, L"8"}}) {
         CStdStr<wchar_t> text;
-        m_dialog->ColorToString(number, text);
-        EXPECT_STREQ(text, word);
         int back = 99;
+        m_dialog->ColorToString(number, text);
         m_dialog->StringToColor(text, back);
+        EXPECT_STREQ(text, word);
         EXPECT_EQ(back, number);
     }
-    int index = 0;
-    m_dialog->StringToColor(L"bylayer", index);
-    EXPECT_EQ(index, 256);
 }
 
 TEST(RealText, isToldFromAnyOtherText) {
