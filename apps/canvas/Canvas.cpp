@@ -44,6 +44,7 @@ void Canvas::setSession(Session* session) {
     s.history.clear();
     s.highlight = {};
     s.panFrom.reset();
+    s.waitingClick.reset();
     s.windowStep = State::WindowStep::off;
     s.aim = CanvasAim::none;
     s.request.reset();
@@ -55,6 +56,7 @@ void Canvas::setSession(Session* session) {
 
 void Canvas::setAim(CanvasAim aim, const PromptRequest* request) {
     m_state->aim = aim;
+    m_state->waitingClick.reset();
     m_state->request = request != nullptr ? std::optional(*request) : std::nullopt;
     m_state->isHighlightStale = true;
     m_state->startWork();
@@ -170,6 +172,11 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
         s.endWindow(event->pos());
     } else if (isLeft && s.aim != CanvasAim::none) {
         const PlanPoint at = s.planAtCursor();
+        if (s.aim == CanvasAim::entity && !s.session->scene().prepareSome({})) {
+            s.waitingClick = at; // a pick would take as long as the rest of the index
+            s.startWork();
+            return;
+        }
         emit clicked(at.x, at.y);
         return; // whoever took the click may have done anything
     }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace orvex {
 
@@ -54,6 +55,11 @@ void Canvas::State::step() {
     if (!isShown && !startView()) {
         work.stop();
         return;
+    }
+    if (waitingClick) {
+        const PlanPoint at = *std::exchange(waitingClick, std::nullopt);
+        emit canvas.clicked(at.x, at.y);
+        return; // whoever took the click may have done anything
     }
     if (wantsExtents) {
         zoomToExtents();

@@ -37,6 +37,9 @@ struct Canvas::State {
     Highlight highlight;
     bool isHighlightStale = false;
 
+    // A pick that came while the index was behind what the drawing looks like.
+    std::optional<PlanPoint> waitingClick;
+
     std::optional<QPoint> panFrom;
     Qt::MouseButton panButton = Qt::NoButton;
     WindowStep windowStep = WindowStep::off;

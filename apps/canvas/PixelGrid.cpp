@@ -7,8 +7,6 @@ namespace orvex {
 
 namespace {
 
-constexpr int kLineReach = 2; // pixels that a line covers to each side of itself, at most
-
 // Doubles have no whole pixels beyond, and nothing can be seen of a plan there.
 std::int64_t wholePixel(double pixel) {
     constexpr double kFarthest = 1e15;
@@ -24,11 +22,18 @@ std::int64_t tileOfPixel(std::int64_t pixel) {
 
 PixelGrid::PixelGrid(const PlanView& view, double ratio)
     : m_unitsPerPixel(view.unitsPerPixel() / ratio),
+      m_lineWidth(std::max(1, static_cast<int>(std::lround(ratio)))),
       m_width(static_cast<int>(std::ceil(view.width() * ratio))),
       m_height(static_cast<int>(std::ceil(view.height() * ratio))) {
     const PlanPoint corner = view.toPlan({0.0, 0.0});
     m_left = wholePixel(corner.x / m_unitsPerPixel + 0.5);
     m_top = wholePixel(-corner.y / m_unitsPerPixel + 0.5);
+}
+
+// How far from its points a line may leave a trace, pixels: its end reaches over by half its width,
+// and at 45 degrees its sides are another 0.71 of its width away.
+int PixelGrid::lineReach() const {
+    return 1 + 2 * m_lineWidth;
 }
 
 std::vector<TileKey> PixelGrid::visibleTiles() const {
@@ -70,10 +75,10 @@ PlanPoint PixelGrid::toViewPixels(PlanPoint plan) const {
 }
 
 PlanBox PixelGrid::planOf(const TileKey& tile, const QRect& pixels) const {
-    const auto left = static_cast<double>(tile.column * kTileSide + pixels.left() - kLineReach);
-    const auto top = static_cast<double>(tile.row * kTileSide + pixels.top() - kLineReach);
-    const double right = left + pixels.width() + 2 * kLineReach;
-    const double bottom = top + pixels.height() + 2 * kLineReach;
+    const auto left = static_cast<double>(tile.column * kTileSide + pixels.left() - lineReach());
+    const auto top = static_cast<double>(tile.row * kTileSide + pixels.top() - lineReach());
+    const double right = left + pixels.width() + 2 * lineReach();
+    const double bottom = top + pixels.height() + 2 * lineReach();
     return {{left * m_unitsPerPixel, -bottom * m_unitsPerPixel},
             {right * m_unitsPerPixel, -top * m_unitsPerPixel}};
 }
@@ -84,8 +89,8 @@ QRect PixelGrid::pixelsOf(const TileKey& tile, const PlanBox& box) const {
     const auto inside = [](double pixel) {
         return static_cast<int>(std::clamp(std::floor(pixel), -16.0, kTileSide + 16.0));
     };
-    const QRect touched(QPoint(inside(low.x) - kLineReach, inside(low.y) - kLineReach),
-                        QPoint(inside(high.x) + kLineReach, inside(high.y) + kLineReach));
+    const QRect touched(QPoint(inside(low.x) - lineReach(), inside(low.y) - lineReach()),
+                        QPoint(inside(high.x) + lineReach(), inside(high.y) + lineReach()));
     return touched & QRect(0, 0, kTileSide, kTileSide);
 }
 

@@ -29,6 +29,7 @@ public:
     PixelGrid(const PlanView& view, double ratio);
 
     [[nodiscard]] double unitsPerPixel() const { return m_unitsPerPixel; }
+    [[nodiscard]] int lineWidth() const { return m_lineWidth; } // pixels
     [[nodiscard]] bool hasScaleOf(const PixelGrid& other) const {
         return m_unitsPerPixel == other.m_unitsPerPixel;
     }
@@ -51,7 +52,10 @@ public:
     [[nodiscard]] PlanView viewOf(const TileKey& tile) const;
 
 private:
+    [[nodiscard]] int lineReach() const;
+
     double m_unitsPerPixel = 1.0;
+    int m_lineWidth = 1;
     std::int64_t m_left = 0; // the view's window, grid pixels
     std::int64_t m_top = 0;
     int m_width = 1;

@@ -33,7 +33,6 @@ void PlanPicture::setView(const PlanView& view, double devicePixelRatio) {
     }
     m_grid = grid;
     m_size = size;
-    m_ratio = devicePixelRatio;
     m_hasView = true;
     m_visible = grid.visibleTiles();
     const bool isSeen = m_painting && std::find(m_visible.begin(), m_visible.end(),
@@ -102,16 +101,15 @@ bool PlanPicture::startPainting() {
     if (m_scene == nullptr || !m_hasView) {
         return false;
     }
-    const int lineWidth = std::max(1, static_cast<int>(std::lround(m_ratio)));
     for (const TileKey& key : m_visible) {
         if (const Tile* tile = find(key); tile != nullptr && !tile->stale.isEmpty()) {
-            m_painting.emplace(*m_scene, m_grid, key, tile->image, *tile->stale.begin(), lineWidth);
+            m_painting.emplace(*m_scene, m_grid, key, tile->image, *tile->stale.begin());
             return true;
         }
     }
     for (const TileKey& key : m_visible) {
         if (find(key) == nullptr) {
-            m_painting.emplace(*m_scene, m_grid, key, QImage(), kWholeTile, lineWidth);
+            m_painting.emplace(*m_scene, m_grid, key, QImage(), kWholeTile);
             return true;
         }
     }

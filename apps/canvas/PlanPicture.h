@@ -52,7 +52,6 @@ private:
     Scene* m_scene = nullptr;
     PixelGrid m_grid;
     QSize m_size;
-    double m_ratio = 1.0;
     bool m_hasView = false;
     std::vector<TileKey> m_visible; // in the order of painting
     std::vector<Tile> m_tiles;

@@ -21,9 +21,9 @@ constexpr std::size_t kEntitiesBetweenLooksAtTheClock = 8;
 } // namespace
 
 TilePainting::TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile,
-                           const QImage& before, const QRect& pixels, int lineWidth)
+                           const QImage& before, const QRect& pixels)
     : m_scene(&scene), m_grid(grid), m_tile(tile), m_pixels(pixels), m_image(before),
-      m_lineWidth(lineWidth), m_places(scene.placesIn(grid.planOf(tile, pixels))) {
+      m_places(scene.placesIn(grid.planOf(tile, pixels))) {
     if (m_image.isNull()) {
         m_image = QImage(PixelGrid::kTileSide, PixelGrid::kTileSide, QImage::Format_RGB32);
     }
@@ -52,7 +52,7 @@ bool TilePainting::isOver(Deadline deadline) const {
 double TilePainting::sideOf(std::uint32_t place) const {
     const PlanBox& box = m_scene->boxAt(place);
     return std::max(box.high.x - box.low.x, box.high.y - box.low.y) /
-           (m_grid.unitsPerPixel() * m_lineWidth);
+           (m_grid.unitsPerPixel() * m_grid.lineWidth());
 }
 
 bool TilePainting::paintFills(Deadline deadline) {
@@ -74,7 +74,7 @@ bool TilePainting::paintFills(Deadline deadline) {
 
 bool TilePainting::paintLines(Deadline deadline) {
     const PlanView view = m_grid.viewOf(m_tile);
-    LinePainter lines(m_image, m_pixels, m_lineWidth);
+    LinePainter lines(m_image, m_pixels, m_grid.lineWidth());
     for (; m_next < m_places.size(); ++m_next) {
         if (isOver(deadline)) {
             return false;
@@ -84,7 +84,7 @@ bool TilePainting::paintLines(Deadline deadline) {
             continue;
         }
         const Appearance& look = m_scene->lookAt(place);
-        drawStrokes(lines, look, 1.0 / m_grid.unitsPerPixel(), m_lineWidth,
+        drawStrokes(lines, look, 1.0 / m_grid.unitsPerPixel(), m_grid.lineWidth(),
                     [this](PlanPoint point) { return m_grid.toTilePixels(m_tile, point); });
         if (!look.labels.empty()) {
             Appearance labels;

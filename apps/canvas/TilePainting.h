@@ -27,7 +27,7 @@ public:
     // The scene has to stay as it is till the end. `before` is what the tile showed, of no size
     // when it is painted for the first time; only `pixels` of it change.
     TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, const QImage& before,
-                 const QRect& pixels, int lineWidth);
+                 const QRect& pixels);
 
     // True when it is done.
     bool advance(Deadline deadline);
@@ -50,7 +50,6 @@ private:
     TileKey m_tile;
     QRect m_pixels;
     QImage m_image;
-    int m_lineWidth;
     std::vector<std::uint32_t> m_places;
     std::size_t m_next = 0;
     Pass m_pass = Pass::fills;

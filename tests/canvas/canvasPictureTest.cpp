@@ -183,9 +183,10 @@ TEST_F(EditedCanvas, HighlightsWhatAPickWouldFind) {
         hover(pixel);
         const QImage highlit = canvas.grab().toImage().convertToFormat(QImage::Format_RGB32);
         int thicker = 0; // pixels beside the cursor's own cross and box
-        for (int y = 0; y < kHeight; ++y) {
-            for (int x = 0; x < kWidth; ++x) {
-                const QPoint way = QPoint(x, y) - pixel;
+        const int ratio = highlit.width() / kWidth;
+        for (int y = 0; y < highlit.height(); ++y) {
+            for (int x = 0; x < highlit.width(); ++x) {
+                const QPoint way = QPoint(x / ratio, y / ratio) - pixel;
                 const bool isBeside = way.x() != 0 && way.y() != 0 &&
                                       std::max(std::abs(way.x()), std::abs(way.y())) > 5;
                 thicker += isBeside && highlit.pixel(x, y) != plain.pixel(x, y) ? 1 : 0;
