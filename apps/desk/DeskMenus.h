@@ -8,6 +8,7 @@
 
 class QAction;
 class QMenu;
+class QToolBar;
 
 namespace orvex {
 

@@ -32,9 +32,13 @@ MainWindow::MainWindow(ModuleLoader& modules, std::vector<std::string> moduleFil
                   takeDrawing(std::move(file), path);
               }),
       m_canvas(new Canvas(this)), m_commandLine(new CommandLine(this)),
-      m_menus(*this, [this](const DeskActionRow& row) { act(row); }), m_status(*statusBar()),
+      m_menus(*this, [this](const DeskActionRow& row) { act(row); }),
+      m_style(new StyleButton(this)), m_status(*statusBar()),
       m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
+    m_menus.tools->addSeparator();
+    m_menus.tools->addWidget(m_style);
+    connect(m_style, &QToolButton::clicked, this, [this] { start(QStringLiteral("MLSTYLE")); });
     makeCommandDock();
     connectCommandLine();
     connectCanvas();
@@ -228,6 +232,7 @@ void MainWindow::showChange() {
     setWindowTitle(m_drawing.name() + tr("[*] - Orvex"));
     setWindowModified(m_drawing.isChanged());
     setWindowFilePath(m_drawing.path());
+    m_style->showStyle(session()->database());
     m_status.showDrawing(m_drawing.currentStyle(), m_drawing.countMlines());
 }
 

@@ -9,6 +9,7 @@
 #include "RecentFiles.h"
 #include "SessionChoices.h"
 #include "StatusLine.h"
+#include "StyleButton.h"
 
 #include <QMainWindow>
 
@@ -36,7 +37,10 @@ public:
     void start(const QString& command, const QStringList& answers = {});
 
     [[nodiscard]] Session* session() const { return m_drawing.session(); }
-    [[nodiscard]] bool isBusy() const { return m_runner.isBusy(); }
+    // Nothing runs, or a command asks something.
+    [[nodiscard]] bool waitsForUser() const {
+        return !m_runner.isBusy() || m_prompts.request() != nullptr;
+    }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -71,6 +75,7 @@ private:
     Canvas* m_canvas;
     CommandLine* m_commandLine;
     DeskMenus m_menus;
+    StyleButton* m_style;
     StatusLine m_status;
     RecentFiles m_recent;
     bool m_mayClose = false;

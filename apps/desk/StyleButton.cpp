@@ -1,0 +1,42 @@
+#include "StyleButton.h"
+
+#include "KdDbDatabase.h"
+#include "KdDbMlineStyle.h"
+#include "kddbObjects.h"
+#include "qtWide.h"
+#include "styleSwatch.h"
+
+namespace orvex {
+
+namespace {
+
+constexpr QSize kSwatch(80, 24); // pixels
+constexpr int kLongestName = 24; // characters
+
+} // namespace
+
+StyleButton::StyleButton(QWidget* parent) : QToolButton(parent) {
+    setObjectName(QStringLiteral("styleButton"));
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setIconSize(kSwatch);
+    setFocusPolicy(Qt::NoFocus);
+    setStatusTip(tr("The current multiline style; a click manages the styles of the drawing"));
+}
+
+void StyleButton::showStyle(KdDbDatabase& database) {
+    KdDbMlineStyle* style = nullptr;
+    kddbOpenObject(style, database.cmlstyle(), kForRead);
+    if (style == nullptr) {
+        setIcon(QIcon());
+        setText(tr("(no style)"));
+        return;
+    }
+    setIcon(styleSwatch(*style, kSwatch, devicePixelRatioF()));
+    const QString name = toQt(std::wstring(style->name()));
+    style->close();
+    QString shown = name.size() > kLongestName ? name.left(kLongestName - 1) + QChar(0x2026) : name;
+    setText(shown.replace('&', QLatin1String("&&")));
+    setToolTip(tr("Current style: %1").arg(name).toHtmlEscaped());
+}
+
+} // namespace orvex

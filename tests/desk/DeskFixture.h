@@ -1,0 +1,200 @@
+#pragma once
+
+#include "Canvas.h"
+#include "CommandLine.h"
+#include "MainWindow.h"
+#include "ScriptSource.h"
+#include "TestPaths.h"
+#include "applicationProfile.h"
+#include "textCodec.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <gmock/gmock.h>
+
+#include <deque>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <memory>
+#include <string>
+
+namespace orvex::testing {
+
+inline std::string readFile(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+// Drives the real window on a copy of the sample plan. What a user does is a list of steps: a
+// question of a command holds its event loop up, so steps come from there, each as soon as the
+// window waits for the user or shows a dialog.
+class DeskFixture : public ::testing::Test {
+protected:
+    using Step = std::function<void()>;
+
+    DeskFixture() {
+        std::filesystem::copy_file(sourceDir() / "samples/floorplan.dxf", plan,
+                                   std::filesystem::copy_options::overwrite_existing);
+        ApplicationProfile::instance().setText(L"Desk", L"RecentFiles", L"");
+        makeWindow();
+        window->resize(1000, 800);
+    }
+
+    void makeWindow() {
+        window.reset();
+        window = std::make_unique<MainWindow>(
+            modules, std::vector<std::string>{(binDir() / "libOmxMLStyle.omx").string()});
+        window->show();
+    }
+
+    void play(std::deque<Step> all) {
+        steps = std::move(all);
+        QEventLoop loop;
+        QTimer watchdog;
+        QObject::connect(&watchdog, &QTimer::timeout, [&] {
+            ADD_FAILURE() << "the window doesn't wait for the user any more: "
+                          << history().toStdString();
+            std::abort();
+        });
+        watchdog.start(60'000);
+        scheduleNext(loop);
+        loop.exec();
+        ASSERT_TRUE(steps.empty());
+    }
+
+    // ---- what a user does ----
+    Step openPlan() {
+        return [this] { window->open(QString::fromStdString(plan.string())); };
+    }
+    // A line with Enter, typed where the focus is not.
+    Step type(const QString& line) {
+        return [this, line] {
+            for (const QChar each : line) {
+                if (each == ' ') { // a blank is Enter at most questions
+                    input().insert(" ");
+                } else {
+                    QTest::keyClick(canvas(), each.toLatin1());
+                }
+            }
+            QTest::keyClick(&input(), Qt::Key_Return);
+        };
+    }
+    Step key(Qt::Key which) {
+        return [this, which] { QTest::keyClick(canvas(), which); };
+    }
+    Step trigger(const char* action) {
+        return [this, action] { window->findChild<QAction*>(action)->trigger(); };
+    }
+    Step clickKeyword(const QString& keyword) {
+        return [this, keyword] {
+            auto* const button = window->findChild<QToolButton*>("keyword" + keyword);
+            ASSERT_NE(button, nullptr) << keyword.toStdString();
+            QTest::mouseClick(button, Qt::LeftButton);
+        };
+    }
+    // With the mouse, after the plan was moved so that the point is in the middle of the canvas.
+    Step pick(double x, double y) {
+        return [this, x, y] {
+            PlanView& view = window->session()->view();
+            view.setView({x, y}, view.viewHeight());
+            canvas()->viewChanged();
+            const PlanPoint pixel = view.toPixels({x, y});
+            QTest::mouseClick(canvas(), Qt::LeftButton, {},
+                              {static_cast<int>(pixel.x), static_cast<int>(pixel.y)});
+        };
+    }
+    // Does something to the dialog that is open then.
+    template <class Dialog, class Act>
+    Step inDialog(Act act) {
+        return [act] {
+            auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            act(*dialog);
+        };
+    }
+
+    // ---- what a user sees ----
+    [[nodiscard]] Canvas* canvas() const { return window->findChild<Canvas*>(); }
+    [[nodiscard]] QLineEdit& input() const {
+        return *window->findChild<QLineEdit*>("commandInput");
+    }
+    [[nodiscard]] QString prompt() const {
+        return window->findChild<QLabel*>("commandPrompt")->text();
+    }
+    [[nodiscard]] QString history() const { return window->findChild<CommandLine*>()->history(); }
+    [[nodiscard]] QString lastLine() const { return history().section('\n', -1); }
+
+    // What was typed and clicked, taken from the command line as a script.
+    [[nodiscard]] std::string script() const {
+        std::string text;
+        for (const QString& line : history().split('\n')) {
+            const int colon = line.lastIndexOf(QLatin1String(": "));
+            if (colon >= 0) {
+                text += line.mid(colon + 2).toStdString() + '\n';
+            }
+        }
+        return text;
+    }
+
+    // The plan after a script, in a view as high as the canvas. There is one session at a time, so
+    // the window goes.
+    std::string bytesByScript(const std::string& script) {
+        const int width = canvas()->width();
+        const int height = canvas()->height();
+        window.reset();
+        ScriptSource source(script, [](const std::wstring&) {});
+        SessionSetup setup;
+        setup.drawing = std::get<std::unique_ptr<DrawingFile>>(
+            DrawingFile::openBytes(readFile(sourceDir() / "samples/floorplan.dxf")));
+        setup.source = &source;
+        setup.viewWidth = width;
+        setup.viewHeight = height;
+        Session session(std::move(setup), modules);
+        while (!source.atEnd()) {
+            const std::wstring command = session.askCommand();
+            if (!command.empty()) {
+                EXPECT_EQ(session.run(command).outcome, Session::Outcome::done) << narrow(command);
+            }
+        }
+        EXPECT_FALSE(source.failure()) << narrow(source.failure()->text);
+        return session.drawing().bytes();
+    }
+
+    const std::filesystem::path plan = std::filesystem::temp_directory_path() / "plan.dxf";
+    const std::string original = readFile(sourceDir() / "samples/floorplan.dxf");
+    ModuleLoader modules;
+    std::unique_ptr<MainWindow> window;
+
+private:
+    [[nodiscard]] bool isReady() const {
+        return QApplication::activeModalWidget() != nullptr ||
+               (window->waitsForUser() && canvas()->isSettled());
+    }
+    void scheduleNext(QEventLoop& loop) {
+        QTimer::singleShot(1, &loop, [this, &loop] {
+            if (!isReady()) {
+                scheduleNext(loop);
+            } else if (steps.empty()) {
+                loop.quit();
+            } else {
+                const Step step = std::move(steps.front());
+                steps.pop_front();
+                scheduleNext(loop); // the step may run a loop of its own
+                step();
+            }
+        });
+    }
+
+    std::deque<Step> steps;
+};
+
+} // namespace orvex::testing

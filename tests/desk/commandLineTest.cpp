@@ -1,0 +1,87 @@
+#include "DeskFixture.h"
+
+#include "InputHistory.h"
+
+namespace orvex::testing {
+
+namespace {
+
+TEST_F(DeskFixture, anAnswerThatFitsNoQuestionIsToldAndAskedAgain) {
+    play({
+        type("nonsense"),
+        [this] { EXPECT_THAT(lastLine().toStdString(), ::testing::HasSubstr("no command")); },
+        type("-MLEDIT"),
+        type("XX"),
+        [this] {
+            EXPECT_THAT(lastLine().toStdString(), ::testing::HasSubstr("'XX' is not a keyword"));
+            EXPECT_TRUE(prompt().startsWith("Enter an editing tool"));
+        },
+        key(Qt::Key_Escape),
+        type("SETVAR"),
+        type("NOTHING"),
+        [this] {
+            EXPECT_EQ(lastLine(), "there is no variable 'NOTHING'");
+            EXPECT_EQ(prompt(), "Command:");
+        },
+    });
+}
+
+TEST_F(DeskFixture, blanksAreTypedWhereATextOrAHandleIsAsked) {
+    play({
+        type("SETVAR"),
+        [this] {
+            QTest::keyClicks(&input(), "a b");
+            EXPECT_EQ(input().text(), "a b");
+        },
+        key(Qt::Key_Escape),
+        type("-MLEDIT"),
+        type("CC"),
+        [this] {
+            QTest::keyClicks(&input(), "1,2 #3");
+            EXPECT_EQ(input().text(), "1,2 #3");
+        },
+        key(Qt::Key_Escape),
+        [this] { EXPECT_TRUE(input().text().isEmpty()); },
+    });
+}
+
+TEST_F(DeskFixture, namesAreCompletedAndFormerInputsFetched) {
+    play({
+        [this] {
+            QTest::keyClicks(&input(), "-ml");
+            QTest::keyClick(&input(), Qt::Key_Tab);
+            EXPECT_EQ(input().text(), "-MLEDIT");
+            input().clear();
+        },
+        type("ZOOM"),
+        type("E"),
+        [this] {
+            QTest::keyClick(&input(), Qt::Key_Up);
+            QTest::keyClick(&input(), Qt::Key_Up);
+            EXPECT_EQ(input().text(), "ZOOM");
+            QTest::keyClick(&input(), Qt::Key_Down);
+            EXPECT_EQ(input().text(), "E");
+            QTest::keyClick(&input(), Qt::Key_Down);
+            EXPECT_EQ(input().text(), "");
+        },
+    });
+}
+
+TEST(InputHistory, keepsTheLineThatWasBeingTypedAndStaysAtItsEnds) {
+    InputHistory history;
+    EXPECT_EQ(history.earlier("x"), "x");
+    history.add("a");
+    history.add("b");
+    history.add("b");
+    history.add("");
+    EXPECT_EQ(history.earlier("typing"), "b");
+    EXPECT_EQ(history.earlier("b"), "a");
+    EXPECT_EQ(history.earlier("a"), "a");
+    EXPECT_EQ(history.later("a"), "b");
+    EXPECT_EQ(history.later("b"), "typing");
+    EXPECT_EQ(history.later("typing"), "typing");
+}
+
+} // namespace
+
+} // namespace orvex::testing

@@ -1,0 +1,154 @@
+#include "DeskFixture.h"
+
+#include <QDialog>
+#include <QPushButton>
+
+#include <map>
+
+namespace orvex::testing {
+
+namespace {
+
+TEST_F(DeskFixture, typedClickedAndPickedEditsSaveWhatTheirScriptSaves) {
+    play({
+        openPlan(),
+        type("zoom"),
+        type("c"),
+        type("9000,2000"),
+        type("400"),
+        type("-mledit"),
+        clickKeyword("CA"),
+        pick(2200, 0),
+        pick(4210, 0),
+        // The right button ends as Enter does, and Enter repeats the last command.
+        [this] { QTest::mouseClick(canvas(), Qt::RightButton); },
+        key(Qt::Key_Return),
+        type("ca"),
+        type("10500,7500 #7A"),
+        type("10500,9510 #7A"),
+        pick(6500, 0),
+        pick(7510, 0),
+        clickKeyword("UNDO"),
+        key(Qt::Key_Space),
+        key(Qt::Key_Space),
+        [this] { EXPECT_TRUE(prompt().startsWith("Enter an editing tool")); },
+        type("cc"),
+        key(Qt::Key_Escape),
+        [this] { EXPECT_TRUE(window->isWindowModified()); },
+        trigger("save"),
+        [this] { EXPECT_FALSE(window->isWindowModified()); },
+    });
+    const std::string typed = script();
+    const std::string saved = readFile(plan);
+    EXPECT_NE(saved, original);
+    EXPECT_EQ(saved, bytesByScript(QString::fromStdString(typed)
+                                       .replace("*Cancel*", "*CANCEL*")
+                                       .section("Saved", 0, 0)
+                                       .toStdString()));
+}
+
+// A step for each line of a script: points by the mouse, tools by the palette.
+TEST_F(DeskFixture, allTwelveToolsFromThePaletteSaveWhatTheirScriptSaves) {
+    const std::map<std::string, const char*> buttons = {
+        {"CC", "closedCrossBtn"}, {"OC", "openCrossBtn"}, {"MC", "mergedCrossBtn"},
+        {"CT", "closedTeeBtn"},   {"OT", "openTeeBtn"},   {"MT", "mergedTeeBtn"},
+        {"CJ", "cornerJointBtn"}, {"AV", "addVertexBtn"}, {"DV", "deleteVertexBtn"},
+        {"CS", "cutSingleBtn"},   {"CA", "cutAllBtn"},    {"WA", "weldAllBtn"}};
+    std::deque<Step> all{openPlan()};
+    std::map<std::string, int> runs;
+    std::ifstream tour(sourceDir() / "samples/tour.scr");
+    for (std::string line; std::getline(tour, line);) {
+        const QStringList point = QString::fromStdString(line).split(',');
+        if (line.starts_with(';')) {
+            continue;
+        }
+        if (line == "-MLEDIT") {
+            all.push_back(type("MLEDIT"));
+        } else if (const auto button = buttons.find(line); button != buttons.end()) {
+            ++runs[line];
+            all.push_back(inDialog<QDialog>([name = button->second](QDialog& palette) {
+                palette.findChild<QPushButton*>(name)->click();
+            }));
+        } else if (point.size() == 2 && line.find('#') == std::string::npos && !runs.empty()) {
+            all.push_back(pick(point[0].toDouble(), point[1].toDouble()));
+        } else {
+            all.push_back(type(QString::fromStdString(line)));
+        }
+    }
+    all.push_back(trigger("save"));
+    play(std::move(all));
+    EXPECT_EQ(runs.size(), buttons.size());
+
+    // The palette leaves no word on the command line.
+    std::string byKeyword;
+    std::deque<std::string> tools;
+    tour.clear();
+    tour.seekg(0);
+    for (std::string line; std::getline(tour, line);) {
+        if (buttons.contains(line)) {
+            tools.push_back(line);
+        }
+    }
+    std::istringstream typed(script());
+    for (std::string line; std::getline(typed, line);) {
+        if (line == "MLEDIT" && !tools.empty()) {
+            line = "-MLEDIT\n" + tools.front();
+            tools.pop_front();
+        }
+        byKeyword += line + '\n';
+    }
+    const std::string saved = readFile(plan);
+    EXPECT_NE(saved, original);
+    EXPECT_EQ(saved, bytesByScript(byKeyword));
+}
+
+TEST_F(DeskFixture, whatIsEditedAndUndoneIsNotChanged) {
+    play({
+        openPlan(),
+        type("-MLEDIT"),
+        type("CA"),
+        type("2200,0 #7A"),
+        type("4210,0 #7A"),
+        key(Qt::Key_Return),
+        [this] { EXPECT_TRUE(window->isWindowModified()); },
+        trigger("undo"),
+        [this] { EXPECT_FALSE(window->isWindowModified()); },
+        type("MLINE"),
+        type("0,0"),
+        type("1000,0"),
+        key(Qt::Key_Return),
+        [this] { EXPECT_TRUE(window->isWindowModified()); },
+        trigger("save"),
+        trigger("undo"),
+        [this] { EXPECT_TRUE(window->isWindowModified()); }, // the file has the multiline
+        trigger("save"),
+        [this] { EXPECT_FALSE(window->isWindowModified()); },
+    });
+    EXPECT_EQ(readFile(plan), original);
+}
+
+TEST_F(DeskFixture, aCommandStartedMeanwhileCancelsTheOneThatRuns) {
+    play({
+        openPlan(),
+        trigger("toolCA"),
+        [this] { EXPECT_EQ(canvas()->aim(), CanvasAim::entity); },
+        pick(2200, 0),
+        trigger("mline"),
+        [this] {
+            EXPECT_TRUE(history().contains("*Cancel*\nCommand: MLINE"));
+            EXPECT_EQ(canvas()->aim(), CanvasAim::point);
+        },
+        trigger("zoomIn"), // looks closer while the command goes on
+        [this] { EXPECT_EQ(canvas()->aim(), CanvasAim::point); },
+        trigger("save"),
+        [this] {
+            EXPECT_EQ(prompt(), "Command:");
+            EXPECT_EQ(canvas()->aim(), CanvasAim::none);
+        },
+    });
+    EXPECT_EQ(readFile(plan), original);
+}
+
+} // namespace
+
+} // namespace orvex::testing

@@ -1,0 +1,175 @@
+#include "DeskFixture.h"
+
+#include <QFileDialog>
+#include <QMenu>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+
+namespace orvex::testing {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+void writeFile(const fs::path& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+QString titleOf(const QWidget& window) {
+    return window.windowTitle().section('[', 0, 0);
+}
+
+class FilesOfDesk : public DeskFixture {
+protected:
+    Step edit() {
+        return [this] { window->start("MLINE", {"0,0", "1000,0", "", ""}); };
+    }
+    Step answer(QMessageBox::StandardButton button) {
+        return inDialog<QMessageBox>([button](QMessageBox& box) { box.button(button)->click(); });
+    }
+    QMenu* recentMenu() const { return window->findChild<QAction*>("recent")->menu(); }
+};
+
+TEST_F(FilesOfDesk, aDrawingThatCannotBeOpenedLeavesTheOneThatIsThere) {
+    const fs::path broken = fs::temp_directory_path() / "broken.dxf";
+    writeFile(broken, "  0\nSECTION\nno code\nHEADER\n");
+    QString told;
+    play({
+        openPlan(),
+        edit(),
+        [&] { window->open(QString::fromStdString(broken.string())); },
+        inDialog<QMessageBox>([&](QMessageBox& box) {
+            told = box.informativeText();
+            box.accept();
+        }),
+        [this] {
+            EXPECT_EQ(titleOf(*window), "plan.dxf");
+            EXPECT_TRUE(window->isWindowModified());
+            EXPECT_EQ(recentMenu()->actions().size(), 1);
+        },
+        trigger("undo"),
+        trigger("save"),
+    });
+    EXPECT_TRUE(told.startsWith(QString::fromStdString(broken.string()) + ":3: "))
+        << told.toStdString();
+    EXPECT_EQ(readFile(plan), original);
+}
+
+TEST_F(FilesOfDesk, aCancelledOpeningLeavesTheDrawingThatIsThere) {
+    const fs::path large = fs::temp_directory_path() / "large.dxf";
+    std::string comments;
+    while (comments.size() < (std::size_t{40} << 20U)) {
+        comments += "999\nnothing of note\n";
+    }
+    writeFile(large, comments + original);
+    play({
+        openPlan(),
+        edit(),
+        [&] { window->open(QString::fromStdString(large.string())); },
+        inDialog<QProgressDialog>([&](QProgressDialog& dialog) {
+            QTest::keyClicks(&input(), "U"); // what is started meanwhile waits
+            QTest::keyClick(&input(), Qt::Key_Return);
+            trigger("toolCA")();
+            EXPECT_TRUE(window->isWindowModified());
+            dialog.cancel();
+        }),
+        [this] {
+            EXPECT_TRUE(history().contains("was cancelled.\nCommand: -MLEDIT"));
+            EXPECT_EQ(titleOf(*window), "plan.dxf");
+            EXPECT_TRUE(window->isWindowModified());
+        },
+        key(Qt::Key_Escape),
+    });
+    fs::remove(large);
+}
+
+TEST_F(FilesOfDesk, changesAreAskedAboutBeforeTheyAreLost) {
+    play({
+        openPlan(),
+        edit(),
+        trigger("new"),
+        answer(QMessageBox::Cancel),
+        [this] { EXPECT_EQ(titleOf(*window), "plan.dxf"); },
+        // Closing while a command asks: the command goes first.
+        trigger("toolCC"),
+        trigger("exit"),
+        answer(QMessageBox::Cancel),
+        [this] {
+            EXPECT_TRUE(window->isVisible());
+            EXPECT_EQ(prompt(), "Command:");
+        },
+        trigger("exit"),
+        answer(QMessageBox::Save),
+        [this] { EXPECT_FALSE(window->isVisible()); },
+    });
+    const std::string saved = readFile(plan);
+    EXPECT_NE(saved, original);
+
+    makeWindow();
+    play({
+        openPlan(),
+        edit(),
+        trigger("new"),
+        answer(QMessageBox::Discard),
+        [this] {
+            EXPECT_EQ(titleOf(*window), "Unnamed drawing");
+            EXPECT_FALSE(window->isWindowModified());
+        },
+    });
+    EXPECT_EQ(readFile(plan), saved);
+}
+
+TEST_F(FilesOfDesk, savingAsAndExportingAskForAFileAndTellWhatFails) {
+    const fs::path copy = fs::temp_directory_path() / "copy.dxf";
+    const fs::path picture = fs::temp_directory_path() / "copy.svg";
+    const auto choose = [this](const fs::path& path) {
+        return inDialog<QFileDialog>([path](QFileDialog& dialog) {
+            dialog.selectFile(QString::fromStdString(path.string()));
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+    };
+    play({
+        openPlan(),
+        trigger("saveAs"),
+        choose(copy),
+        [this] { EXPECT_EQ(titleOf(*window), "copy.dxf"); },
+        [&] {
+            fs::remove(copy);
+            fs::create_directory(copy); // nothing can be saved there
+        },
+        edit(),
+        trigger("save"),
+        inDialog<QMessageBox>([](QMessageBox& box) { box.accept(); }),
+        [&] {
+            EXPECT_TRUE(window->isWindowModified());
+            fs::remove(copy);
+        },
+        trigger("save"),
+        [this] { EXPECT_FALSE(window->isWindowModified()); },
+        trigger("export"),
+        choose(picture),
+    });
+    EXPECT_NE(readFile(copy), original);
+    EXPECT_THAT(readFile(picture), ::testing::HasSubstr("<svg"));
+    EXPECT_EQ(readFile(plan), original);
+}
+
+TEST_F(FilesOfDesk, recentDrawingsAndThePlaceOfTheWindowAreRemembered) {
+    play({
+        openPlan(),
+        [this] { window->resize(900, 700); },
+        trigger("exit"),
+    });
+    makeWindow();
+    EXPECT_EQ(window->size(), QSize(900, 700));
+    ASSERT_EQ(recentMenu()->actions().size(), 1);
+    play({
+        [this] { recentMenu()->actions().front()->trigger(); },
+        [this] { EXPECT_EQ(titleOf(*window), "plan.dxf"); },
+    });
+}
+
+} // namespace
+
+} // namespace orvex::testing
