@@ -1,5 +1,4 @@
-#!/usr/bin/python3
-"""Print the multilines and styles of a drawing as ezdxf reads them, as JSON.
+"""The multilines and styles of a drawing as ezdxf reads them.
 
 The shape is that of `orvex-batch list --json`, as far as this reader knows the
 values: a colour is told by its index only. Multilines come in the order of
@@ -7,10 +6,6 @@ their handles' records in the file, blocks first, since that is how they are
 read; compare them by handle. A drawing that names no version is old to this
 reader, which then gives multilines without vertices.
 """
-
-import argparse
-import json
-import sys
 
 import ezdxf
 from ezdxf import recover
@@ -77,14 +72,3 @@ def lists(doc):
         "multilines": [multiline(doc, entity) for entity in entities],
         "styles": [style(record) for _, record in doc.mline_styles],
     }
-
-
-def main():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("drawing")
-    json.dump(lists(load(parser.parse_args().drawing)), sys.stdout, indent=1, ensure_ascii=False)
-    print()
-
-
-if __name__ == "__main__":
-    main()

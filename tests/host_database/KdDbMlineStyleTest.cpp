@@ -61,34 +61,6 @@ TEST(KdDbMlineStyle, ElementsKeepTheirOrderAndMayRepeat) {
     EXPECT_EQ(offsets(target), offsets(style));
 }
 
-TEST(KdDbMlineStyle, EachFlagStandsForItself) {
-    using Style = KdDbMlineStyle;
-    const struct {
-        int bit;
-        void (Style::*set)(bool);
-        bool (Style::*get)() const;
-    } flags[] = {
-        {1, &Style::setFilled, &Style::filled},
-        {2, &Style::setShowMiters, &Style::showMiters},
-        {16, &Style::setStartSquareCap, &Style::startSquareCap},
-        {32, &Style::setStartInnerArcs, &Style::startInnerArcs},
-        {64, &Style::setStartRoundCap, &Style::startRoundCap},
-        {256, &Style::setEndSquareCap, &Style::endSquareCap},
-        {512, &Style::setEndInnerArcs, &Style::endInnerArcs},
-        {1024, &Style::setEndRoundCap, &Style::endRoundCap},
-    };
-    for (const auto& flag : flags) {
-        Style style;
-        (style.*flag.set)(true);
-        EXPECT_EQ(style.values().flags, flag.bit);
-        for (const auto& other : flags) {
-            EXPECT_EQ((style.*other.get)(), other.bit == flag.bit);
-        }
-        (style.*flag.set)(false);
-        EXPECT_EQ(style.values().flags, 0);
-    }
-}
-
 TEST(KdDbMlineStyle, AnUnknownLineTypeKeepsItsNameTillAnotherIsSet) {
     const KdDbDatabase database;
     auto content = std::make_shared<orvex::MlineStyleContent>();

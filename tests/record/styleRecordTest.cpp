@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -32,25 +33,17 @@ protected:
         orvex::setCurrentDocument(before);
     }
 
-    KdCmColor colour(int i) const {
+    std::pair<KdCmColor, KdDbObjectId> element(int i) const {
         double offset = 0.0;
-        KdCmColor found;
-        KdDbObjectId linetype;
-        style.getElementAt(i, offset, found, linetype);
+        std::pair<KdCmColor, KdDbObjectId> found;
+        style.getElementAt(i, offset, found.first, found.second);
         return found;
     }
+    KdCmColor colour(int i) const { return element(i).first; }
     std::wstring linetype(int i) const {
-        double offset = 0.0;
-        KdCmColor found;
-        KdDbObjectId id;
-        style.getElementAt(i, offset, found, id);
         KdDbLinetypeTableRecord* record = nullptr;
-        kddbOpenObject(record, id, kForRead);
-        std::wstring name = record != nullptr ? record->name() : L"";
-        if (record != nullptr) {
-            record->close();
-        }
-        return name;
+        kddbOpenObject(record, element(i).second, kForRead);
+        return record != nullptr ? record->name() : L"";
     }
     std::vector<double> offsets(int count) const {
         std::vector<double> all(static_cast<std::size_t>(count), 99.0);
@@ -133,11 +126,19 @@ TEST_F(StyleRecord, LineTypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
     EXPECT_EQ(offsets(3), (Offsets{1, 2, 3}));
 }
 
-TEST_F(StyleRecord, WritesAllFlags) {
-    SetFlag(&style, 1 + 32 + 1024);
-    EXPECT_TRUE(style.filled() && style.startInnerArcs() && style.endRoundCap());
-    EXPECT_FALSE(style.showMiters() || style.startSquareCap() || style.startRoundCap() ||
-                 style.endSquareCap() || style.endInnerArcs());
+TEST_F(StyleRecord, WritesEachFlagForItself) {
+    using Style = KdDbMlineStyle;
+    const std::pair<int, bool (Style::*)() const> flags[] = {
+        {1, &Style::filled},          {2, &Style::showMiters},     {16, &Style::startSquareCap},
+        {32, &Style::startInnerArcs}, {64, &Style::startRoundCap}, {256, &Style::endSquareCap},
+        {512, &Style::endInnerArcs},  {1024, &Style::endRoundCap},
+    };
+    for (const auto& [bit, ignored] : flags) {
+        EXPECT_EQ(SetFlag(&style, bit), 1);
+        for (const auto& [other, isSet] : flags) {
+            EXPECT_EQ((style.*isSet)(), other == bit) << other << " of " << bit;
+        }
+    }
 }
 
 TEST_F(StyleRecord, NullsChangeNothing) {

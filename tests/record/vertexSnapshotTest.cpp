@@ -38,32 +38,28 @@ TEST(VertexSnapshot, CopiesTheWholeChain) {
     EXPECT_EQ(elementOffset(mline, 1, 1), 0.5);
 }
 
-TEST(VertexSnapshot, HasNoElementsWhereTheMultilineHasNone) {
+// Drawings exist whose vertices differ in their number of elements; vertex 0 counts.
+TEST(VertexSnapshot, RepeatsTheLastElementAtAVertexThatHasFewer) {
     KdDbMline mline;
     EXPECT_EQ(ret_vert(&mline), nullptr);
     EXPECT_EQ(ret_vert(nullptr), nullptr);
     const KdGePoint3d chain[] = {{0, 0, 0}, {10, 0, 0}};
-    orvex::testing::buildMline(mline, chain, {});
-    const Snapshot snapshot(ret_vert(&mline));
-    ASSERT_NE(snapshot, nullptr);
-    EXPECT_EQ(snapshot[0].elem, nullptr);
-}
-
-// Drawings exist whose vertices differ in their number of elements; vertex 0 counts.
-TEST(VertexSnapshot, RepeatsTheLastElementAtAVertexThatHasFewer) {
-    KdDbMline mline;
-    const KdGePoint3d chain[] = {{0, 0, 0}, {10, 0, 0}};
     const double offsets[] = {1.0, 0.0, -1.0};
     orvex::testing::buildMline(mline, chain, offsets);
-    VoVector<KdMLSegment> fewer;
-    fewer.append(orvex::testing::segmentRecord({5.0, 0.0}));
+    VoVector<KdMLSegment> record;
     KdArray<void*> entry;
-    entry.append(&fewer);
+    entry.append(&record);
+    record.append(orvex::testing::segmentRecord({5.0, 0.0}));
     mline.setParametersAt(1, entry);
+    const Snapshot fewer(ret_vert(&mline));
+    EXPECT_EQ(fewer[0].elem[2].lineParams[0], -1.0);
+    EXPECT_EQ(fewer[1].elem[2].lineParams[0], 5.0);
 
-    const Snapshot snapshot(ret_vert(&mline));
-    EXPECT_EQ(snapshot[0].elem[2].lineParams[0], -1.0);
-    EXPECT_EQ(snapshot[1].elem[2].lineParams[0], 5.0);
+    record.resize(0);
+    mline.setParametersAt(0, entry);
+    const Snapshot none(ret_vert(&mline));
+    ASSERT_NE(none, nullptr);
+    EXPECT_EQ(none[0].elem, nullptr);
 }
 
 } // namespace
