@@ -65,7 +65,8 @@ bool TilePainting::paintFills(Deadline deadline) {
             return false;
         }
         const std::uint32_t place = m_places[m_next];
-        if (sideOf(place) > kDotSide && m_scene->sketchAt(place).hasFills()) {
+        const double side = sideOf(place);
+        if (side > kSketchSide || (side > kDotSide && m_scene->sketchAt(place).hasFills())) {
             paintAppearance(painter, m_scene->lookAt(place), view, {}, PaintParts::fills);
         }
     }

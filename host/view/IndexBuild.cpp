@@ -49,8 +49,12 @@ bool IndexBuild::advance(std::size_t count, const std::function<PlanBox(std::siz
     return waitFor(m_packing, deadline);
 }
 
-PickIndex IndexBuild::take() {
-    return m_packing.get();
+void IndexBuild::take(PickIndex& target) {
+    PickIndex former = std::exchange(target, m_packing.get());
+    if (former.size() > kFewBoxes) {
+        m_disposal = std::async(std::launch::async,
+                                [disposed = std::move(former)]() mutable { disposed = {}; });
+    }
 }
 
 // A packing that runs is left to run, since waiting for its end here would take as long.

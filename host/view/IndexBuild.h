@@ -24,7 +24,8 @@ public:
     // then has all places that were there when the last box was made.
     bool advance(std::size_t count, const std::function<PlanBox(std::size_t)>& boxAt,
                  Deadline deadline);
-    [[nodiscard]] PickIndex take();
+    // Puts the index in the place of another one, which is taken apart beside the program.
+    void take(PickIndex& target);
     // What was made so far isn't right any more.
     void restart();
 
@@ -32,6 +33,7 @@ private:
     std::vector<PlanBox> m_boxes;
     std::future<PickIndex> m_packing;
     bool m_isStale = false; // the index being packed
+    std::future<void> m_disposal;
 };
 
 } // namespace orvex

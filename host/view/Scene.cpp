@@ -45,7 +45,7 @@ struct Scene::State {
     std::vector<KdDbStub*> unindexed; // changed since the index knew them; some may be there twice
     std::vector<std::uint32_t> placeOf; // by a stub's ordinal
     std::size_t placed = 0;             // entities of model space that have their place
-    LookSketches sketches; // by place
+    LookSketches sketches;              // by place
     Difference difference;
     std::unordered_set<const KdDbStub*> hidden;
     std::vector<KdDbStub*> shownOrHidden; // since the last settlement
@@ -159,7 +159,7 @@ bool Scene::State::buildIndex(Deadline deadline) {
     if (!build.advance(entities().size(), boxAt, deadline)) {
         return false;
     }
-    index = build.take();
+    build.take(index);
     placed = 0;
     placeOf.assign(core.stubs().size(), kNotPlaced);
     // What changed meanwhile is looked at again; what is as it was when its box was made isn't.
