@@ -1,6 +1,8 @@
 #include "DatabaseCore.h"
 
+#include "CStdStr.h"
 #include "ChangeFeed.h"
+#include "DictionaryContent.h"
 #include "KdDbBlockTable.h"
 #include "KdDbDatabase.h"
 #include "KdDbDictionary.h"
@@ -106,16 +108,54 @@ std::uint64_t DatabaseCore::ensureHandle(KdDbStub& stub) {
 
 // ---- well-known objects -------------------------------------------------------------------------
 
-KdDbStub* DatabaseCore::findStyle(std::wstring_view key) const {
-    if (styleDictionary == nullptr) {
+namespace {
+
+const DictionaryContent* entriesOf(KdDbStub* dictionary) {
+    const auto* const object =
+        dictionary != nullptr
+            ? dynamic_cast<const KdDbDictionary*>(dictionary->database->load(*dictionary))
+            : nullptr;
+    return object != nullptr ? &object->entries() : nullptr;
+}
+
+// Null for what is erased, unreadable or no style.
+const KdDbMlineStyle* styleAt(KdDbObjectId id) {
+    return id.isValid() ? dynamic_cast<const KdDbMlineStyle*>(id.stub()->database->load(*id.stub()))
+                        : nullptr;
+}
+
+} // namespace
+
+KdDbStub* DatabaseCore::findStyle(std::wstring_view name) const {
+    const DictionaryContent* const styles = entriesOf(styleDictionary);
+    if (styles == nullptr) {
         return nullptr;
     }
-    KdDbObjectId id;
-    if (const auto* const dictionary =
-            dynamic_cast<KdDbDictionary*>(styleDictionary->database->load(*styleDictionary))) {
-        dictionary->getAt(std::wstring(key).c_str(), id);
+    const std::wstring text(name);
+    const std::size_t index = styles->find(text.c_str());
+    if (index < styles->entries.size() && styleAt(styles->entries[index].id) != nullptr) {
+        return styles->entries[index].id.stub();
     }
-    return id.isValid() ? id.stub() : nullptr;
+    // Some programs give a style another name than its key.
+    for (const DictionaryEntry& entry : styles->entries) {
+        const KdDbMlineStyle* const style = styleAt(entry.id);
+        if (style != nullptr && StrCmpI(style->name(), text.c_str()) == 0) {
+            return entry.id.stub();
+        }
+    }
+    return nullptr;
+}
+
+std::wstring DatabaseCore::nameOfStyle(KdDbStub& style) const {
+    const KdDbObjectId id(&style);
+    const KdDbMlineStyle* const object = styleAt(id);
+    if (object != nullptr && findStyle(object->name()) == &style) {
+        return object->name();
+    }
+    const DictionaryContent* const styles = entriesOf(styleDictionary);
+    const std::size_t index = styles != nullptr ? styles->find(id) : 0;
+    return styles != nullptr && index < styles->entries.size() ? styles->entries[index].key
+                                                               : std::wstring();
 }
 
 namespace {

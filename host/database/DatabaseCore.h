@@ -73,7 +73,11 @@ public:
     // seed above its handle.
     std::uint64_t ensureHandle(KdDbStub& stub);
 
-    [[nodiscard]] KdDbStub* findStyle(std::wstring_view key) const;
+    // By the key in the dictionary of styles, else by the style's own name; ignores case. Null
+    // where the entry's object isn't there or is no style.
+    [[nodiscard]] KdDbStub* findStyle(std::wstring_view name) const;
+    // The name that finds the style again: its own, or its key where that finds another one.
+    [[nodiscard]] std::wstring nameOfStyle(KdDbStub& style) const;
     [[nodiscard]] KdDbStub* findLayer(std::wstring_view name) const;
     [[nodiscard]] KdDbStub* findLinetype(std::wstring_view name) const;
 

@@ -94,8 +94,15 @@ private:
 
     void enter(KdDbStub* dictionary, const wchar_t* key, KdDbStub& entry) {
         if (auto* const object = dynamic_cast<KdDbDictionary*>(m_core.load(*dictionary))) {
-            KdDbObjectId id;
-            object->setAt(key, entry.object.get(), id);
+            auto content = std::make_shared<DictionaryContent>(object->entries());
+            const std::size_t index = content->find(key);
+            if (index == content->entries.size()) {
+                content->entries.push_back({key, KdDbObjectId(&entry)});
+            } else {
+                // What the entry named can't be used, but the file may have it: it isn't erased.
+                content->entries[index].id = KdDbObjectId(&entry);
+            }
+            object->setContent(std::move(content));
         }
     }
 

@@ -105,25 +105,32 @@ bool fillResult(const VariableRow& row, const Value& value, resbuf& result) {
     return true;
 }
 
-bool namesSomething(NamedThing kind, const std::wstring& name) {
+// The name as it is stored; nothing when it names nothing. A style is known to other programs by
+// its own spelling alone.
+std::optional<std::wstring> storedName(NamedThing kind, const std::wstring& name) {
     const DatabaseCore* const drawing = openDrawing();
     if (drawing == nullptr) {
-        return false;
+        return std::nullopt;
     }
+    bool isThere = true;
     switch (kind) {
-    case NamedThing::style:
-        return drawing->findStyle(name) != nullptr;
+    case NamedThing::style: {
+        KdDbStub* const style = drawing->findStyle(name);
+        return style != nullptr ? std::optional(drawing->nameOfStyle(*style)) : std::nullopt;
+    }
     case NamedThing::layer:
-        return drawing->findLayer(name) != nullptr;
+        isThere = drawing->findLayer(name) != nullptr;
+        break;
     case NamedThing::linetype: {
         const std::wstring folded = orvex::foldCase(name);
-        return folded == L"BYLAYER" || folded == L"BYBLOCK" ||
-               drawing->findLinetype(name) != nullptr;
+        isThere =
+            folded == L"BYLAYER" || folded == L"BYBLOCK" || drawing->findLinetype(name) != nullptr;
+        break;
     }
     case NamedThing::any:
         break;
     }
-    return true;
+    return isThere ? std::optional(name) : std::nullopt;
 }
 
 std::optional<double> numberOf(const resbuf& value) {
@@ -143,11 +150,10 @@ std::optional<double> numberOf(const resbuf& value) {
 // The value as the row's type; nothing where it doesn't convert without loss or isn't allowed.
 std::optional<Value> acceptedValue(const VariableRow& row, const resbuf& given) {
     if (row.type == kResultText) {
-        if (given.restype != kResultText || given.resval.rstring == nullptr ||
-            !namesSomething(row.named, given.resval.rstring)) {
+        if (given.restype != kResultText || given.resval.rstring == nullptr) {
             return std::nullopt;
         }
-        return std::wstring(given.resval.rstring);
+        return storedName(row.named, given.resval.rstring);
     }
     if (row.type == kResultPoint) {
         const double* const p = given.resval.rpoint;

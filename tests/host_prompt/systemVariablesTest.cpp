@@ -58,7 +58,7 @@ TEST_F(SystemVariables, areSetWithinTheirRangesOnly) {
         {L"CMLJUST", L"3", nullptr},
         {L"CMLSCALE", L"-2.5", L"-2.5"},
         {L"LTSCALE", L"0", nullptr},
-        {L"CMLSTYLE", L"standard", L"standard"},
+        {L"CMLSTYLE", L"standard", L"STANDARD"},
         {L"CLAYER", L"walls", nullptr},
         {L"CELTYPE", L"bylayer", L"bylayer"},
         {L"UCSORG", L"1,2,3", L"1,2,3"},

@@ -2,6 +2,10 @@
 
 #include "KdDbMlineStyle.h"
 #include "KdMLSegment.h"
+#include "textCodec.h"
+
+#include <fstream>
+#include <tuple>
 
 namespace {
 
@@ -61,6 +65,55 @@ TEST_F(SessionFixture, mlineLiesInTheUserSystemAtTheLevelOfItsStart) {
     EXPECT_EQ(mlines().front()->vertexAt(0), (KdGePoint3d{100, 0, 8}));
     EXPECT_EQ(mlines().front()->vertexAt(1), (KdGePoint3d{100, 10, 8}));
     EXPECT_EQ(mlines().front()->axisAt(0), (KdGeVector3d{0, 1, 0}));
+}
+
+// The drawing with styles STANDARD (2E) and WALL (2F), with another entry for STANDARD.
+std::string withEntry(const std::string& entry) {
+    std::ifstream stream(orvex::testing::sourceDir() / "tests/host_drawing/corpus/sample.dxf");
+    std::string text{std::istreambuf_iterator<char>(stream), {}};
+    const std::string old = "STANDARD\n350\n2E\n";
+    return text.replace(text.find(old), old.size(), entry);
+}
+
+std::size_t stylesIn(const std::string& drawing) {
+    std::size_t count = 0;
+    for (std::size_t at = 0; (at = drawing.find("\nMLINESTYLE\n", at)) != std::string::npos; ++at) {
+        ++count;
+    }
+    return count;
+}
+
+TEST_F(SessionFixture, mlineFindsAStyleByItsOwnNameAndStoresItsSpelling) {
+    open(std::get<0>(orvex::DrawingFile::openBytes(withEntry("Main\n350\n2E\n"))));
+    for (const auto& [typed, stored, handle] :
+         {std::tuple(L"standard", L"STANDARD", 0x2EU), std::tuple(L"main", L"STANDARD", 0x2EU),
+          std::tuple(L"wall", L"WALL", 0x2FU)}) {
+        play("MLINE\nST\n" + orvex::narrow(typed) + "\n0,0\n10,0\n\n");
+        EXPECT_FALSE(m_script->failure());
+        EXPECT_EQ(core().variables().text("CMLSTYLE"), stored);
+        EXPECT_EQ(mlines().back()->style().stub(), core().findHandle(handle));
+    }
+    EXPECT_EQ(stylesIn(m_session->drawing().bytes()), 2U);
+    // Where the own name leads to another style the key is what counts.
+    auto& wall = static_cast<KdDbMlineStyle&>(*core().load(*core().findHandle(0x2F)));
+    wall.setName(L"Main");
+    EXPECT_EQ(core().nameOfStyle(*core().findHandle(0x2F)), L"WALL");
+}
+
+TEST_F(SessionFixture, mlineHasAStandardStyleWhereTheEntryNamesNothing) {
+    const std::string bytes = withEntry("Standard\n350\nFFF\n");
+    open(std::get<0>(orvex::DrawingFile::openBytes(bytes)));
+    EXPECT_EQ(m_session->drawing().bytes(), bytes);
+    play("MLINE\nST\nSTANDARD\n0,0\n10,0\n\n");
+    ASSERT_FALSE(m_script->failure());
+    const auto& style =
+        static_cast<const KdDbMlineStyle&>(*core().load(*mlines().back()->style().stub()));
+    EXPECT_EQ(style.numElements(), 2);
+    const std::string saved = m_session->drawing().bytes();
+    EXPECT_EQ(stylesIn(saved), 3U);
+    open(std::get<0>(orvex::DrawingFile::openBytes(saved)));
+    EXPECT_NE(core().findStyle(L"STANDARD"), core().findHandle(0x2E));
+    EXPECT_EQ(core().findStyle(L"STANDARD"), mlines().back()->style().stub());
 }
 
 } // namespace
