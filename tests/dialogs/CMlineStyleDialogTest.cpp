@@ -258,7 +258,11 @@ TEST_F(StyleManager, savesTheSelectedStyleIntoTheChosenLibrary) {
         press("pBtnSave");
         m_chooser.asked.clear();
         list().clearSelection();
-        press("pBtnSave");
+        for (const char* const name :
+             {"pBtnSave", "pBtnModify", "pBtnRename", "pBtnDelete", "pBtnSetCurrent"}) {
+            press(name); // without a style nothing opens and nothing changes
+        }
+        EXPECT_EQ(current(), "STANDARD");
         EXPECT_EQ(m_chooser.asked, L"");
         close();
     });
