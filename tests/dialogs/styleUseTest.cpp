@@ -1,14 +1,11 @@
 #include "styleUse.h"
 #include "DatabaseCore.h"
-#include "DictionaryContent.h"
 #include "DrawingFile.h"
-#include "KdDbDictionary.h"
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "KdDocument.h"
 #include "TestPaths.h"
 #include "kddbObjects.h"
-#include "styleNames.h"
 
 #include <gmock/gmock.h>
 
@@ -77,23 +74,6 @@ TEST_F(StyleUse, goesByTheStylesOwnNameInAllBlocks) {
     EXPECT_TRUE(isStyleUsed(L"WALL"));
     orvex::setCurrentDocument(nullptr);
     EXPECT_FALSE(isStyleUsed(L"WALL"));
-}
-
-TEST_F(StyleUse, namesOfStylesAreTheKeysOfTheirDictionary) {
-    const KdDbObjectId dictionaryId(core().styleDictionary);
-    std::vector<std::wstring> expected;
-    for (const auto& entry :
-         static_cast<KdDbDictionary*>(core().load(*core().styleDictionary))->entries().entries) {
-        expected.push_back(entry.key);
-    }
-    style(0x2F).setName(L"Other");
-    std::vector<std::wstring> names;
-    for (const auto& name : styleNames(dictionaryId)) {
-        names.push_back(name.text());
-    }
-    EXPECT_EQ(names, expected);
-    EXPECT_TRUE(styleNames(KdDbObjectId()).empty());
-    EXPECT_TRUE(styleNames(KdDbObjectId(&stub(0x50))).empty());
 }
 
 } // namespace
