@@ -1,10 +1,8 @@
 #include "BoundedCrashRecorder.h"
-#include "KdGeMatrix3d.h"
 #include "VoMath.h"
 
 #include <gmock/gmock.h>
 
-#include <cmath>
 #include <limits>
 
 namespace {
@@ -24,21 +22,6 @@ TEST(CrashRecorderTest, KeepsTheLatestReportsAndCountsAll) {
     orvex::setCrashRecorder(nullptr);
     orvex::reportBadAccess(L"nobody listens");
     EXPECT_EQ(orvex::setCrashRecorder(before), nullptr);
-}
-
-TEST(GeometryTest, AMatrixGivesBackItsCoordinateSystemToTheBit) {
-    const KdGePoint3d origin{0.1, -0.0, 1e300};
-    const KdGeVector3d axes[3] = {{1e-300, 2, 3}, {4, 5, 6}, {7, 8, 9}};
-    KdGeMatrix3d matrix;
-    matrix.setCoordSystem(origin, axes[0], axes[1], axes[2]);
-    KdGePoint3d gotOrigin;
-    KdGeVector3d got[3];
-    matrix.getCoordSystem(gotOrigin, got[0], got[1], got[2]);
-    EXPECT_EQ(gotOrigin, origin);
-    EXPECT_TRUE(std::signbit(gotOrigin.y));
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(got[i], axes[i]);
-    }
 }
 
 TEST(VoMathTest, NumbersWithoutAFormBecomeZeroAndCoordinatesStayInRange) {

@@ -84,8 +84,10 @@ void readCharAndAddress(VoDwgStream& stream) {
     stream.readAddress(address);
 }
 
-constexpr auto text = pass<CStdStr<wchar_t>, &VoDwgStream::readString, &VoDwgStream::writeString>;
-constexpr Step kTexts[] = {readRawText<char>, readRawText<wchar_t>, readUnicodeText, text, text};
+constexpr auto passText =
+    pass<CStdStr<wchar_t>, &VoDwgStream::readString, &VoDwgStream::writeString>;
+constexpr Step kTexts[] = {readRawText<char>, readRawText<wchar_t>, readUnicodeText, passText,
+                           passText};
 
 constexpr Step kReferences[] = {
     pass<KdDbHandle, &VoDwgStream::readHandle, &VoDwgStream::writeHandle>,
