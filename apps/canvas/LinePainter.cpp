@@ -107,6 +107,39 @@ void LinePainter::dot(PlanPoint point, std::uint32_t rgb) {
     fill(x, y, x + m_width, y + m_width, rgb);
 }
 
+void LinePainter::area(std::span<const PlanPoint> outline, std::uint32_t rgb) {
+    if (!std::all_of(outline.begin(), outline.end(), isUsable) || outline.size() < 3) {
+        return;
+    }
+    const auto [top, bottom] =
+        std::minmax_element(outline.begin(), outline.end(),
+                            [](const PlanPoint& a, const PlanPoint& b) { return a.y < b.y; });
+    const int first = std::max(wholePixel(top->y, m_top, m_bottom), m_top);
+    const int last = std::min(wholePixel(bottom->y, m_top, m_bottom), m_bottom - 1);
+    for (int row = first; row <= last; ++row) {
+        const double middle = row + 0.5;
+        m_crossings.clear();
+        for (std::size_t i = 0; i < outline.size(); ++i) {
+            const PlanPoint& from = outline[i];
+            const PlanPoint& to = outline[i + 1 < outline.size() ? i + 1 : 0];
+            if ((from.y <= middle) != (to.y <= middle)) {
+                const double part = (middle - from.y) / (to.y - from.y);
+                m_crossings.push_back({from.x + (to.x - from.x) * part, to.y > from.y ? 1 : -1});
+            }
+        }
+        std::sort(m_crossings.begin(), m_crossings.end(),
+                  [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
+        int turns = 0;
+        for (std::size_t i = 0; i + 1 < m_crossings.size(); ++i) {
+            turns += m_crossings[i].turn;
+            if (turns != 0) {
+                fill(wholePixel(m_crossings[i].x + 0.5, m_left, m_right), row,
+                     wholePixel(m_crossings[i + 1].x + 0.5, m_left, m_right), row + 1, rgb);
+            }
+        }
+    }
+}
+
 bool LinePainter::canMeet(PlanPoint from, PlanPoint to) const {
     const double margin = m_width + 1.0;
     return isUsable(from) && isUsable(to) && std::max(from.x, to.x) >= m_left - margin &&

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <span>
+#include <vector>
 
 namespace orvex {
 
@@ -15,7 +16,7 @@ namespace orvex {
 // painter. What a pixel gets from a line depends on the line and the pixel alone: a part of a
 // picture that is painted again within a clip comes out as it was. Coordinates are pixels, y
 // downwards; pixel (0, 0) reaches to (1, 1). Lines along the axes fill whole pixels, so that they
-// are crisp; all others are smoothed.
+// are crisp; all others are smoothed. Areas aren't: their edges have lines on them.
 class LinePainter {
 public:
     // Draws only within `clip`, which lies within the image.
@@ -24,9 +25,11 @@ public:
     void chain(std::span<const PlanPoint> points, std::uint32_t rgb);
     void dashedChain(std::span<const PlanPoint> points, std::uint32_t rgb, const DashCycle& cycle);
     void dot(PlanPoint point, std::uint32_t rgb);
+    // Every pixel whose middle the outline goes around, as often as it may (but not 0 times in
+    // all).
+    void area(std::span<const PlanPoint> outline, std::uint32_t rgb);
 
 private:
-    struct Shade;
     void line(PlanPoint from, PlanPoint to, std::uint32_t rgb, bool squareEnds);
     void alongAxis(double from, double to, double across, bool upright, std::uint32_t rgb,
                    bool squareEnds);
@@ -37,6 +40,13 @@ private:
     void fill(int left, int top, int right, int bottom,
               std::uint32_t rgb); // right, bottom excluded
     void shade(int x, int y, std::uint32_t rgb, double cover);
+
+    // Where a row's middle is crossed, and whether on the way down.
+    struct Crossing {
+        double x;
+        int turn;
+    };
+    std::vector<Crossing> m_crossings; // kept, so that not every row needs memory of its own
 
     std::uint32_t* m_pixels;
     int m_stride;                         // pixels

@@ -60,14 +60,17 @@ bool TilePainting::paintFills(Deadline deadline) {
     QPainter painter(&m_image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(m_pixels);
+    LinePainter lines(m_image, m_pixels, m_grid.lineWidth());
     for (; m_next < m_places.size(); ++m_next) {
         if (isOver(deadline)) {
             return false;
         }
         const std::uint32_t place = m_places[m_next];
         const double side = sideOf(place);
-        if (side > kSketchSide || (side > kDotSide && m_scene->sketchAt(place).hasFills())) {
+        if (side > kSketchSide) {
             paintAppearance(painter, m_scene->lookAt(place), view, {}, PaintParts::fills);
+        } else if (side > kDotSide) {
+            paintAreas(m_scene->sketchAt(place), m_scene->boxAt(place), lines);
         }
     }
     return true;
@@ -127,13 +130,30 @@ bool TilePainting::paintSketch(LookSketch sketch, const PlanBox& box, LinePainte
         }
     }
     while (sketch.next(line)) {
-        m_points.clear();
-        for (const std::uint32_t point : line.points) {
-            m_points.push_back(m_grid.toTilePixels(m_tile, LookSketch::place(point, box)));
+        if (!line.isFill) {
+            lines.chain(inPixels(line, box), line.rgb);
         }
-        lines.chain(m_points, line.rgb);
     }
     return true;
+}
+
+void TilePainting::paintAreas(LookSketch sketch, const PlanBox& box, LinePainter& lines) {
+    if (!sketch.hasFills()) {
+        return;
+    }
+    LookSketch::Line line;
+    while (sketch.next(line) && line.isFill) {
+        lines.area(inPixels(line, box), line.rgb);
+    }
+}
+
+const std::vector<PlanPoint>& TilePainting::inPixels(const LookSketch::Line& line,
+                                                     const PlanBox& box) {
+    m_points.clear();
+    for (const std::uint32_t point : line.points) {
+        m_points.push_back(m_grid.toTilePixels(m_tile, LookSketch::place(point, box)));
+    }
+    return m_points;
 }
 
 } // namespace orvex

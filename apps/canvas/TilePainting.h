@@ -44,6 +44,8 @@ private:
     [[nodiscard]] double sideOf(std::uint32_t place) const;
     bool paintSmall(std::uint32_t place, LinePainter& lines);
     bool paintSketch(LookSketch sketch, const PlanBox& box, LinePainter& lines);
+    void paintAreas(LookSketch sketch, const PlanBox& box, LinePainter& lines);
+    const std::vector<PlanPoint>& inPixels(const LookSketch::Line& line, const PlanBox& box);
 
     Scene* m_scene;
     PixelGrid m_grid;

@@ -9,9 +9,9 @@ namespace orvex {
 namespace {
 
 constexpr double kSteps = 65535.0; // of a side of the box
-constexpr std::size_t kMostPoints = 255;
 constexpr std::size_t kChunkWords = std::size_t{1} << 18;
 constexpr std::uint32_t kColorBits = 0xFFFFFF;
+constexpr std::uint32_t kFillBit = 1U << 24U;
 
 std::uint32_t stepOf(double value, double low, double high) {
     const double side = high - low;
@@ -41,20 +41,13 @@ float periodOf(const Stroke& stroke, const Appearance& look) {
     return static_cast<float>(period);
 }
 
-// A longer chain comes in parts that share a point.
-void addStroke(const Stroke& stroke, const Appearance& look, const PlanBox& box,
-               std::vector<std::uint32_t>& words) {
-    const std::size_t count = stroke.points.size();
-    for (std::size_t first = 0; first < count; first += kMostPoints - 1) {
-        const std::size_t points = std::min(kMostPoints, count - first);
-        if (points == 1 && first > 0) {
-            break;
-        }
-        words.push_back((stroke.rgb & kColorBits) | static_cast<std::uint32_t>(points) << 24U);
-        words.push_back(std::bit_cast<std::uint32_t>(periodOf(stroke, look)));
-        for (std::size_t i = first; i < first + points; ++i) {
-            words.push_back(pointWord(stroke.points[i], box));
-        }
+void addPoints(std::uint32_t head, float period, const std::vector<PlanPoint>& points,
+               const PlanBox& box, std::vector<std::uint32_t>& words) {
+    words.push_back(head);
+    words.push_back(std::bit_cast<std::uint32_t>(period));
+    words.push_back(static_cast<std::uint32_t>(points.size()));
+    for (const PlanPoint& point : points) {
+        words.push_back(pointWord(point, box));
     }
 }
 
@@ -68,10 +61,11 @@ bool LookSketch::next(Line& line) {
     if (m_at >= m_words.size()) {
         return false;
     }
-    const std::size_t count = m_words[m_at] >> 24U;
-    line = {m_words[m_at] & kColorBits, std::bit_cast<float>(m_words[m_at + 1]),
-            m_words.subspan(m_at + 2, count)};
-    m_at += 2 + count;
+    const std::uint32_t head = m_words[m_at];
+    const std::size_t count = m_words[m_at + 2];
+    line = {(head & kFillBit) != 0, head & kColorBits, std::bit_cast<float>(m_words[m_at + 1]),
+            m_words.subspan(m_at + 3, count)};
+    m_at += 3 + count;
     return true;
 }
 
@@ -92,10 +86,13 @@ std::span<const std::uint32_t> LookSketches::keep(std::uint32_t number, const Ap
     for (const Label& label : look.labels) {
         labelHeight = std::max(labelHeight, label.height);
     }
-    words.push_back(firstRgb(look) | (look.fills.empty() ? 0U : 1U << 24U));
+    words.push_back(firstRgb(look) | (look.fills.empty() ? 0U : kFillBit));
     words.push_back(std::bit_cast<std::uint32_t>(static_cast<float>(labelHeight)));
+    for (const Fill& fill : look.fills) {
+        addPoints((fill.rgb & kColorBits) | kFillBit, 0.0F, fill.outline, box, words);
+    }
     for (const Stroke& stroke : look.strokes) {
-        addStroke(stroke, look, box, words);
+        addPoints(stroke.rgb & kColorBits, periodOf(stroke, look), stroke.points, box, words);
     }
     if (m_kept + words.size() > kMostWords) {
         return words; // made again whenever it is asked for

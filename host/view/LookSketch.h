@@ -14,13 +14,15 @@ namespace orvex {
 // are counted in 65,535ths of the box's sides. Words:
 //   0  bits 0 to 23 the colour of what comes first in the look, bit 24 set when it has fills
 //   1  the height of the tallest label as a float, 0 without labels
-// and for each stroke
-//   bits 0 to 23 the colour, the rest the number of points, up to 255
-//   the length of the dashes' pattern as a float, 0 for a continuous line
+// and for each fill, then each stroke
+//   the colour in bits 0 to 23, set bit 24 for a fill
+//   the length of the dashes' pattern as a float, 0 for a continuous line and for a fill
+//   the number of points
 //   the points, x in the lower half
 class LookSketch {
 public:
     struct Line {
+        bool isFill = false; // of what the points go around
         std::uint32_t rgb = 0;
         float period = 0.0F; // drawing units
         std::span<const std::uint32_t> points;
@@ -31,7 +33,7 @@ public:
     [[nodiscard]] std::uint32_t rgb() const { return m_words[0] & 0xFFFFFFU; }
     [[nodiscard]] bool hasFills() const { return (m_words[0] >> 24U & 1U) != 0; }
     [[nodiscard]] float labelHeight() const; // drawing units
-    // The lines one after the other; false when there are no more.
+    // The fills, then the lines, one after the other; false when there are no more.
     bool next(Line& line);
 
     // Where a point lies in the box.

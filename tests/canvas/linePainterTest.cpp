@@ -70,6 +70,23 @@ TEST(LinePainter, DashesFollowTheChainFromItsStart) {
     }
 }
 
+TEST(LinePainter, AreasMeetWithoutGapsAndOverlaps) {
+    QImage image = emptyImage();
+    LinePainter lines(image, image.rect(), 1);
+    const std::vector<PlanPoint> corners{{5.2, 7.9}, {50.1, 3.3}, {57.4, 49.6}, {11.8, 55.5}};
+    double covered = 0.0;
+    for (std::size_t i = 0; i < 4; ++i) {
+        QImage part = emptyImage();
+        LinePainter painter(part, part.rect(), 1);
+        const std::vector<PlanPoint> triangle{corners[i], corners[(i + 1) % 4], {31.0, 29.5}};
+        painter.area(triangle, 0xFFFFFF);
+        covered += inkOf(part);
+    }
+    lines.area(corners, 0xFFFFFF);
+    EXPECT_EQ(inkOf(image), covered);
+    EXPECT_NEAR(inkOf(image), 2161, 10); // the area by the corners' coordinates
+}
+
 // What partial repaints rest on.
 TEST(LinePainter, APixelDoesNotDependOnTheClip) {
     std::mt19937 random(5);
@@ -91,6 +108,7 @@ TEST(LinePainter, APixelDoesNotDependOnTheClip) {
             lines.chain(chain, rgb);
             lines.dashedChain(chain, ~rgb & 0xFFFFFFU, cycle);
             lines.dot(chain.front(), rgb);
+            lines.area(chain, rgb / 2);
         };
         QImage whole = emptyImage();
         paint(whole, whole.rect());
@@ -112,6 +130,7 @@ TEST(LinePainter, PassesOverWhatHasNoPlace) {
         lines.chain(std::vector<PlanPoint>{{odd, 1}, {5, 5}}, 0xFFFFFF);
         lines.dashedChain(std::vector<PlanPoint>{{odd, 1}, {5, 5}}, 0xFFFFFF, {{4.0, 4.0}, 0.0});
         lines.dot({5, odd}, 0xFFFFFF);
+        lines.area(std::vector<PlanPoint>{{odd, 1}, {5, 5}, {9, 60}}, 0xFFFFFF);
     }
     EXPECT_EQ(inkOf(image), 0.0);
 }

@@ -254,30 +254,31 @@ TEST(LookSketch, HasTheLinesOfTheLook) {
     }
     look.strokes.push_back({.points = chain, .rgb = 0x123456, .dashes = 1});
     look.strokes.push_back({.points = {{1000, 60}}, .rgb = 0xFFFFFF}); // a dot
+    look.fills.push_back({.outline = {{1000, 50}, {1100, 50}, {1000, 51}}, .rgb = 0x00FF00});
     look.dashPatterns = {{3.0, -1.5}};
     look.labels.push_back({.anchor = {1001, 52}, .height = 2.5, .text = L"A"});
     const PlanBox box = look.box();
     LookSketches sketches;
     LookSketch sketch(sketches.keep(7, look, box));
     EXPECT_EQ(sketch.rgb(), 0x123456U);
-    EXPECT_FALSE(sketch.hasFills());
+    EXPECT_TRUE(sketch.hasFills());
     EXPECT_EQ(sketch.labelHeight(), 2.5F);
-    std::vector<PlanPoint> drawn;
     LookSketch::Line line;
-    while (sketch.next(line) && line.rgb == 0x123456) {
-        EXPECT_EQ(line.period, 4.5F);
-        if (!drawn.empty()) {
-            drawn.pop_back(); // the parts of a long chain share a point
-        }
-        for (const std::uint32_t point : line.points) {
-            drawn.push_back(LookSketch::place(point, box));
-        }
-    }
-    ASSERT_EQ(drawn.size(), chain.size());
+    ASSERT_TRUE(sketch.next(line));
+    EXPECT_TRUE(line.isFill);
+    EXPECT_EQ(line.rgb, 0x00FF00U);
+    EXPECT_EQ(line.points.size(), 3U);
+    ASSERT_TRUE(sketch.next(line));
+    EXPECT_EQ(line.rgb, 0x123456U);
+    EXPECT_EQ(line.period, 4.5F);
+    ASSERT_EQ(line.points.size(), chain.size());
     for (std::size_t i = 0; i < chain.size(); ++i) {
-        EXPECT_NEAR(drawn[i].x, chain[i].x, 600 / 65535.0);
-        EXPECT_NEAR(drawn[i].y, chain[i].y, 12 / 65535.0);
+        const PlanPoint drawn = LookSketch::place(line.points[i], box);
+        EXPECT_NEAR(drawn.x, chain[i].x, 600 / 65535.0);
+        EXPECT_NEAR(drawn.y, chain[i].y, 12 / 65535.0);
     }
+    ASSERT_TRUE(sketch.next(line));
+    EXPECT_FALSE(line.isFill);
     EXPECT_EQ(line.points.size(), 1U);
     EXPECT_FALSE(sketch.next(line));
     EXPECT_FALSE(sketches.find(7).empty());
