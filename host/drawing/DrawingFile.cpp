@@ -31,38 +31,48 @@ public:
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;
 
-    // All its bytes; false with `errno` set when that fails.
-    bool readAll(std::string& bytes) const {
+    enum class Outcome { done, failed, givenUp };
+    // All its bytes; when it failed, `errno` tells why.
+    Outcome readAll(std::string& bytes, const DrawingProgress& progress) const {
         struct stat status {};
         if (m_descriptor < 0 || fstat(m_descriptor, &status) != 0) {
-            return false;
+            return Outcome::failed;
         }
-        // One more than the file has, so that its end is seen; a pipe has no size.
-        constexpr std::size_t kPiece = std::size_t{1} << 16U;
-        bytes.resize(S_ISREG(status.st_mode) ? static_cast<std::size_t>(status.st_size) + 1
-                                             : kPiece);
-        std::size_t filled = 0;
-        for (;;) {
-            const ssize_t got = ::read(m_descriptor, bytes.data() + filled, bytes.size() - filled);
-            if (got < 0 && errno == EINTR) {
-                continue;
-            }
+        constexpr std::size_t kPiece = std::size_t{1} << 20U;
+        // A pipe has no size.
+        const std::size_t size =
+            S_ISREG(status.st_mode) ? static_cast<std::size_t>(status.st_size) : 0;
+        bytes.reserve(size + kPiece); // with room to see its end
+        for (std::size_t filled = 0;;) {
+            // Memory that is used for the first time takes as long as reading.
+            bytes.resize(filled + kPiece);
+            const ssize_t got = readPiece(bytes.data() + filled, kPiece);
             if (got < 0) {
-                return false;
-            }
-            if (got == 0) {
-                break;
+                return Outcome::failed;
             }
             filled += static_cast<std::size_t>(got);
-            if (filled == bytes.size()) {
-                bytes.resize(filled * 2);
+            bytes.resize(filled);
+            if (got == 0) {
+                return Outcome::done;
+            }
+            const double part =
+                size == 0 ? 0.0
+                          : std::min(1.0, static_cast<double>(filled) / static_cast<double>(size));
+            if (progress && !progress(part)) {
+                return Outcome::givenUp;
             }
         }
-        bytes.resize(filled);
-        return true;
     }
 
 private:
+    ssize_t readPiece(char* target, std::size_t size) const {
+        ssize_t got = 0;
+        do {
+            got = ::read(m_descriptor, target, size);
+        } while (got < 0 && errno == EINTR);
+        return got;
+    }
+
     int m_descriptor;
 };
 
@@ -83,11 +93,25 @@ DrawingFile::DrawingFile() : m_database(std::make_unique<KdDbDatabase>(false, tr
 DrawingFile::~DrawingFile() = default;
 
 DrawingFile::Opened DrawingFile::open(const std::string& path, const DrawingProgress& progress) {
-    std::string bytes;
-    if (!InputFile(path).readAll(bytes)) {
-        return DrawingError{0, std::strerror(errno), false};
+    constexpr double kPartOfReading = 0.2;
+    DrawingProgress ofReading;
+    DrawingProgress ofTheRest;
+    if (progress) {
+        ofReading = [&](double done) { return progress(done * kPartOfReading); };
+        ofTheRest = [&](double done) {
+            return progress(kPartOfReading + done * (1.0 - kPartOfReading));
+        };
     }
-    return openBytes(std::move(bytes), progress);
+    std::string bytes;
+    switch (InputFile(path).readAll(bytes, ofReading)) {
+    case InputFile::Outcome::failed:
+        return DrawingError{0, std::strerror(errno), false};
+    case InputFile::Outcome::givenUp:
+        return DrawingError{0, "given up", true};
+    case InputFile::Outcome::done:
+        break;
+    }
+    return openBytes(std::move(bytes), ofTheRest);
 }
 
 DrawingFile::Opened DrawingFile::openBytes(std::string bytes, const DrawingProgress& progress) {

@@ -15,6 +15,7 @@ namespace orvex {
 namespace {
 
 constexpr std::string_view kNewestVersion = "AC1032";
+constexpr double kPartOfCutting = 0.7; // of the whole work
 
 // The binary form begins with 18 letters and blanks, then these.
 bool isBinary(std::string_view bytes) {
@@ -26,14 +27,17 @@ bool isBinary(std::string_view bytes) {
 
 class DrawingReader {
 public:
-    DrawingReader(DrawingDocument& document, DatabaseCore& core,
+    DrawingReader(DrawingDocument& document, DatabaseCore& core, const DrawingProgress& progress,
                   std::vector<DrawingWarning>& warnings)
-        : m_document(document), m_records(document.cut.records), m_core(core),
+        : m_document(document), m_records(document.cut.records), m_core(core), m_progress(progress),
           m_warnings(warnings) {}
 
-    std::optional<DrawingError> run(const DrawingProgress& progress);
+    std::optional<DrawingError> run();
 
 private:
+    std::optional<DrawingError> cut(std::size_t start);
+    void readSections();
+    [[nodiscard]] bool goesOn(std::uint32_t record);
     void warnOfForm(std::size_t start);
     void warnOfVersion(std::string_view version);
     void findSections();
@@ -70,19 +74,21 @@ private:
     DrawingDocument& m_document;
     RecordTable& m_records;
     DatabaseCore& m_core;
+    const DrawingProgress& m_progress;
+    bool m_isGivenUp = false;
     std::vector<DrawingWarning>& m_warnings;
     std::unordered_map<std::wstring, KdDbStub*> m_blockRecords; // by name in one case
     std::size_t m_countedTo = 0;
     std::size_t m_linesCounted = 0;
 };
 
-std::optional<DrawingError> DrawingReader::run(const DrawingProgress& progress) {
+std::optional<DrawingError> DrawingReader::run() {
     const std::string_view bytes = m_document.bytes;
     if (isBinary(bytes)) {
         return DrawingError{1, "a binary drawing, which isn't read", false};
     }
     const std::size_t start = bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
-    if (auto error = cutDrawing(bytes, start, progress, m_document.cut)) {
+    if (auto error = cut(start)) {
         return error;
     }
     warnOfForm(start);
@@ -91,6 +97,25 @@ std::optional<DrawingError> DrawingReader::run(const DrawingProgress& progress) 
     m_warnings.insert(m_warnings.end(), m_document.cut.warnings.begin(),
                       m_document.cut.warnings.end());
     m_core.noteHighestHandle(m_document.cut.highestHandle);
+    readSections();
+    if (m_isGivenUp) {
+        return DrawingError{0, "given up", true};
+    }
+    warnOfStyles();
+    completeDefaults();
+    return std::nullopt;
+}
+
+// The first part of the work; making the objects is the rest.
+std::optional<DrawingError> DrawingReader::cut(std::size_t start) {
+    DrawingProgress progress;
+    if (m_progress) {
+        progress = [this](double done) { return m_progress(done * kPartOfCutting); };
+    }
+    return cutDrawing(m_document.bytes, start, progress, m_document.cut);
+}
+
+void DrawingReader::readSections() {
     for (const RecordRun& section : m_document.sections) {
         if (section.name == "TABLES") {
             readTables(section);
@@ -110,12 +135,20 @@ std::optional<DrawingError> DrawingReader::run(const DrawingProgress& progress) 
             readEntities(section);
         }
     }
-    if (const RecordRun* const objects = m_document.findSection("OBJECTS")) {
+    if (const RecordRun* const objects = m_document.findSection("OBJECTS");
+        objects != nullptr && !m_isGivenUp) {
         readObjects(*objects);
     }
-    warnOfStyles();
-    completeDefaults();
-    return std::nullopt;
+}
+
+// Asked at each record of long runs; tells the progress now and then.
+bool DrawingReader::goesOn(std::uint32_t record) {
+    constexpr std::uint32_t kStep = 4096; // records between two calls
+    if (m_progress && record % kStep == 0 && !m_isGivenUp) {
+        const double part = static_cast<double>(record) / static_cast<double>(m_records.size());
+        m_isGivenUp = !m_progress(kPartOfCutting + (1.0 - kPartOfCutting) * part);
+    }
+    return !m_isGivenUp;
 }
 
 void DrawingReader::warnOfForm(std::size_t start) {
@@ -272,7 +305,7 @@ BlockEntities& DrawingReader::blockNamed(const std::wstring& name) {
 void DrawingReader::readBlocks(const RecordRun& section) {
     const std::size_t first = m_document.blocks.size();
     bool open = false;
-    for (std::uint32_t i = section.begin + 1; i < section.end; ++i) {
+    for (std::uint32_t i = section.begin + 1; i < section.end && goesOn(i); ++i) {
         const RecordKind kind = m_records[i].kind;
         if (kind != RecordKind::block && kind != RecordKind::endBlock) {
             continue;
@@ -289,7 +322,7 @@ void DrawingReader::readBlocks(const RecordRun& section) {
     }
     for (std::size_t block = first; block < m_document.blocks.size(); ++block) {
         const RecordRun& run = m_document.blocks[block];
-        for (std::uint32_t i = run.begin + 1; i < run.end; ++i) {
+        for (std::uint32_t i = run.begin + 1; i < run.end && goesOn(i); ++i) {
             addEntity(i, *run.block);
         }
     }
@@ -318,7 +351,7 @@ void DrawingReader::startBlock(std::uint32_t record) {
 void DrawingReader::readEntities(const RecordRun& section) {
     BlockEntities& model = m_core.modelSpace();
     BlockEntities* paper = nullptr;
-    for (std::uint32_t i = section.begin + 1; i < section.end; ++i) {
+    for (std::uint32_t i = section.begin + 1; i < section.end && goesOn(i); ++i) {
         if (!m_records[i].inPaperSpace) {
             addEntity(i, model);
             continue;
@@ -447,7 +480,7 @@ void DrawingReader::completeDefaults() {
 std::optional<DrawingError> readDrawing(DrawingDocument& document, DatabaseCore& core,
                                         const DrawingProgress& progress,
                                         std::vector<DrawingWarning>& warnings) {
-    return DrawingReader(document, core, warnings).run(progress);
+    return DrawingReader(document, core, progress, warnings).run();
 }
 
 } // namespace orvex
