@@ -63,7 +63,11 @@ DrawingFile::Opened DrawingOpener::open(const QString& path) {
         };
     }
     try {
-        return DrawingFile::open(path.toStdString(), progress);
+        DrawingFile::Opened opened = DrawingFile::open(path.toStdString(), progress);
+        if (dialog) {
+            QCoreApplication::processEvents(); // the swap of the drawings takes its time, too
+        }
+        return opened;
     } catch (const std::bad_alloc&) {
         return DrawingError{0, "there is not enough memory for it", false};
     } catch (const std::exception& error) {

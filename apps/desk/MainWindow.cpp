@@ -101,7 +101,7 @@ void MainWindow::connectFiles() {
     connect(&m_files, &DeskFiles::missing, &m_recent, &RecentFiles::remove);
     connect(&m_files, &DeskFiles::saved, this, &MainWindow::showChange);
     connect(&m_recent, &RecentFiles::chosen, this, [this](const QString& path) {
-        m_runner.post([this, path] {
+        post([this, path] {
             if (m_files.mayLeave()) {
                 m_files.open(path);
             }
@@ -123,11 +123,20 @@ void MainWindow::loadModule(const std::vector<std::string>& files) {
 }
 
 void MainWindow::open(const QString& path) {
-    m_runner.post([this, path] { m_files.open(path); });
+    post([this, path] { m_files.open(path); });
 }
 
 void MainWindow::start(const QString& command, const QStringList& answers) {
-    m_runner.start(command, answers);
+    if (!m_files.opener().isOpening()) {
+        m_runner.start(command, answers);
+    }
+}
+
+// While a drawing is being opened, nothing else can be started.
+void MainWindow::post(std::function<void()> task) {
+    if (!m_files.opener().isOpening()) {
+        m_runner.post(std::move(task));
+    }
 }
 
 void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& path) {
@@ -170,7 +179,7 @@ void MainWindow::act(const DeskActionRow& row) {
     }
     for (const Act& each : kFileActs) {
         if (each.name == row.name) {
-            m_runner.post([this, run = each.run] { run(*this); });
+            post([this, run = each.run] { run(*this); });
         }
     }
     for (const Act& each : kOtherActs) {

@@ -56,6 +56,7 @@ private:
     void storePlace();
 
     void act(const DeskActionRow& row);
+    void post(std::function<void()> task);
     void takeDrawing(std::unique_ptr<DrawingFile> file, const QString& path);
     void enterLine(const QString& line);
     void escape();
