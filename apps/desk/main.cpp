@@ -37,7 +37,9 @@ int showWindow(const DeskCall& call, int argc, char** argv) {
         complain("there is no display to open a window on; orvex-batch works without");
         return kFailed;
     }
-    QApplication application(argc, argv);
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("orvex-desk"));
     QApplication::setApplicationVersion(QStringLiteral(ORVEX_VERSION));
     QApplication::setApplicationDisplayName(QStringLiteral("Orvex"));
