@@ -122,7 +122,7 @@ CStdStr<Char> CStdStr<Char>::Mid(int from, int count) const {
 
 template <class Char>
 CStdStr<Char>& CStdStr<Char>::Trim() {
-    constexpr Char kBlanks[] = {' ', '\t', '\0'};
+    constexpr Char kBlanks[] = {' ', '\t', '\n', '\v', '\f', '\r', '\0'};
     m_text.erase(m_text.find_last_not_of(kBlanks) + 1);
     m_text.erase(0, m_text.find_first_not_of(kBlanks));
     return *this;

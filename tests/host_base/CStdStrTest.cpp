@@ -41,7 +41,7 @@ TEST(CStdStrTest, PositionsAreBroughtInsideTheText) {
     EXPECT_EQ(text.Find(L'.', 99), -1);
     EXPECT_EQ(text.Find(L"b.c"), 2);
     EXPECT_EQ(text.ReverseFind(L'.'), 3);
-    EXPECT_STREQ(Str(L" \t a b\t ").Trim(), L"a b");
+    EXPECT_STREQ(Str(L" \t\f a b\v ").Trim(), L"a b");
     constexpr int kMost = std::numeric_limits<int>::max();
     const struct {
         int from, count;

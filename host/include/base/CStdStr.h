@@ -36,7 +36,7 @@ public:
     // Any index or count is brought inside the text.
     [[nodiscard]] CStdStr Mid(int from) const;
     [[nodiscard]] CStdStr Mid(int from, int count) const;
-    CStdStr& Trim(); // blanks and tabs at both ends
+    CStdStr& Trim(); // ASCII white space at both ends
 
     [[nodiscard]] int CompareNoCase(const Char* text) const;
     // Understands %d, %u, %ls, %s, %%, %f and %.Nf; the decimal separator is the point.
