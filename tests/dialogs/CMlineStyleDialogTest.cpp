@@ -153,6 +153,7 @@ TEST_F(StyleManager, showsTheCurrentStyleFirstAndTextsAsTheyAre) {
         EXPECT_THAT(listed(), ElementsAre("STANDARD", "Wall", "Pipe", "Kerb"));
         EXPECT_EQ(current(), "Pipe");
         EXPECT_EQ(selected(), "Pipe");
+        EXPECT_EQ(m_dialog->GetSafeHwnd()->size(), QSize(520, 500));
         auto& description = child<QLabel>(*m_dialog, "labelDescription");
         EXPECT_EQ(description.text(), "<b>steel</b>");
         EXPECT_EQ(description.textFormat(), Qt::PlainText);
