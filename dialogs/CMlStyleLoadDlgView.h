@@ -19,6 +19,7 @@ public:
     CMlStyleLoadDlg(QWidget* parent, CWnd* logic);
     ~CMlStyleLoadDlg() override;
 
+public slots:
     void OnOK() override;
     void OnCancel() override; // doesn't ask the logic
 

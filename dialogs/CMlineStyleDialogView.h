@@ -19,6 +19,7 @@ public:
     CMlineStyleDialog(QWidget* parent, CWnd* logic);
     ~CMlineStyleDialog() override;
 
+public slots:
     void OnOK() override;
 
 private slots:

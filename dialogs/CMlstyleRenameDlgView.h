@@ -18,6 +18,7 @@ public:
     CMlstyleRenameDlg(QWidget* parent, CWnd* logic);
     ~CMlstyleRenameDlg() override;
 
+public slots:
     void OnOK() override; // the logic's
 
 private slots:
