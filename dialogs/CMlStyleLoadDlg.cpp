@@ -82,19 +82,15 @@ int CMlStyleLoadDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     GetDlgItem(kMessageLine)->SetWindowTextW(L"");
     const CStdStr<wchar_t> last = AfxGetApp()->GetProfileString(kSection, kFileKey, L"");
-    if (last.IsEmpty()) {
-        GetDlgItem(kFileName)->SetWindowTextW(L"ORVEX.mln");
-        SetListStyleName(defaultLibrary());
-    } else {
-        GetDlgItem(kFileName)->SetWindowTextW(last);
-        SetListStyleName(last);
-    }
+    GetDlgItem(kFileName)->SetWindowTextW(last.IsEmpty() ? L"ORVEX.mln" : last.c_str());
+    std::wstring path = (last.IsEmpty() ? defaultLibrary() : last).text();
+    SetListStyleName(path.data());
     restoreDialogPlace(*this, kPlace);
     GetDlgItem(kAccept)->EnableWindow(false); // till a style is selected
     return 1;
 }
 
-void CMlStyleLoadDlg::SetListStyleName(const wchar_t* path) {
+void CMlStyleLoadDlg::SetListStyleName(wchar_t* path) {
     const auto names = listLibraryStyles(path);
     if (!names) {
         return;
@@ -153,26 +149,28 @@ void CMlStyleLoadDlg::OnOK() {
     CDialog::OnOK();
 }
 
-void CMlStyleLoadDlg::AddStyleToDrw() {
+bool CMlStyleLoadDlg::AddStyleToDrw() {
     KdDbDictionary* dictionary = nullptr;
     kddbOpenObject(dictionary, m_dictionaryId, kForWrite);
     if (dictionary == nullptr) {
-        return;
+        return false;
     }
     dictionary->getAt(m_chosenName, m_styleId);
     if (m_styleId.isNull()) {
         m_styleId = addStyle(*dictionary, m_chosenName);
     }
     dictionary->close();
-    ModifyStyle();
+    return ModifyStyle();
 }
 
-void CMlStyleLoadDlg::ModifyStyle() {
+bool CMlStyleLoadDlg::ModifyStyle() {
     KdDbMlineStyle* style = nullptr;
     kddbOpenObject(style, m_styleId, kForWrite);
-    if (style != nullptr && applyLibraryStyle(m_file, m_chosenName, *style)) {
-        style->close();
+    if (style == nullptr || !applyLibraryStyle(m_file, m_chosenName, *style)) {
+        return false;
     }
+    style->close();
+    return true;
 }
 
 bool CMlStyleLoadDlg::PreTranslateMessage(tagMSG* message) {

@@ -14,12 +14,13 @@ public:
     explicit CMlStyleLoadDlg(CWnd* parent);
 
     // Lists a library and makes it the one shown. One that can't be opened changes nothing.
-    void SetListStyleName(const wchar_t* path);
-    // Makes or finds the style of the chosen name in the dictionary, then ModifyStyle.
-    void AddStyleToDrw();
+    void SetListStyleName(wchar_t* path);
+    // Makes or finds the style of the chosen name in the dictionary, then ModifyStyle with its
+    // result.
+    bool AddStyleToDrw();
     // Gives the style m_styleId what the library shown has under the chosen name. The style stays
-    // open for writing when its block isn't found or stops short.
-    void ModifyStyle();
+    // open for writing when its block isn't found or stops short: false. Nobody asks.
+    bool ModifyStyle();
 
     void OnLoadFileStyle();
     void OnSelectChanged();

@@ -168,6 +168,16 @@ void CMlineStyleDialog::DrawCurStylePreview() {
 
 void CMlineStyleDialog::PaintPreview(KdDbMlineStyle* /*style*/) {}
 
+void CMlineStyleDialog::OnSize(unsigned /*type*/, int /*width*/, int /*height*/) {
+    m_resizer.Resize(this);
+}
+
+void CMlineStyleDialog::OnSizing(unsigned /*edge*/, tagRECT* rectangle) {
+    m_resizer.OnSizing(this, rectangle);
+}
+
+void CMlineStyleDialog::OnPaint() {}
+
 void CMlineStyleDialog::OnOK() {
     storeDialogPlace(*this, kPlace);
     CDialog::OnOK();

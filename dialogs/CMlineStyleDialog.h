@@ -25,7 +25,7 @@ public:
 
     void AddStylesToList();
     // Makes a style the current one. Where the drawing refuses it nothing changes.
-    void SetCurStyle(const CStdStr<wchar_t>& name);
+    void SetCurStyle(CStdStr<wchar_t> name);
     // Whether a line of a library is this text, ignoring case; no part of it will do.
     [[nodiscard]] static bool IsContainStr(const CStdStr<wchar_t>& line, const wchar_t* text);
 
@@ -43,6 +43,11 @@ public:
     void OnDeleteStyle();
     void OnLoadStyle();
     void OnSaveStyle();
+
+    // Nobody calls these: layouts move the items and the view paints itself.
+    void OnSize(unsigned type, int width, int height);
+    void OnSizing(unsigned edge, tagRECT* rectangle);
+    void OnPaint();
 
 private:
     [[nodiscard]] CStdStr<wchar_t> selectedName() const; // empty where nothing is selected

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -38,13 +39,40 @@ Open<Object> open(KdDbObjectId id, int mode) {
     return Open<Object>(object);
 }
 
+// Gives the style under a key a new key and that name; false when there is none to rename.
+bool renameStyle(KdDbObjectId dictionaryId, const wchar_t* key, const wchar_t* name) {
+    const auto dictionary = open<KdDbDictionary>(dictionaryId, kForWrite);
+    if (dictionary == nullptr) {
+        return false;
+    }
+    KdDbObjectId id;
+    dictionary->getAt(key, id);
+    auto style = open<KdDbMlineStyle>(id, kForWrite);
+    if (style == nullptr) {
+        return false;
+    }
+    style->setName(name);
+    style.reset();
+    dictionary->setName(key, name);
+    return true;
+}
+
+bool removeStyle(KdDbObjectId dictionaryId, const wchar_t* key) {
+    const auto dictionary = open<KdDbDictionary>(dictionaryId, kForWrite);
+    if (dictionary == nullptr) {
+        return false;
+    }
+    dictionary->remove(key);
+    return true;
+}
+
 } // namespace
 
 void CMlineStyleDialog::appendAndSelect(const CStdStr<wchar_t>& name) {
     m_list.SetCurSel(m_list.AddString(name));
 }
 
-void CMlineStyleDialog::SetCurStyle(const CStdStr<wchar_t>& name) {
+void CMlineStyleDialog::SetCurStyle(CStdStr<wchar_t> name) {
     resbuf value;
     value.restype = kResultText;
     if (kdutNewString(name, value.resval.rstring) != Status::done) {
@@ -53,7 +81,7 @@ void CMlineStyleDialog::SetCurStyle(const CStdStr<wchar_t>& name) {
     if (kdedSetVar(L"CMLSTYLE", &value) == kPromptNormal) {
         GetDlgItem(kManagerCurrentStyle)->SetWindowTextW(name);
         GetDlgItem(kManagerSetCurrent)->EnableWindow(false);
-        m_currentStyle = name;
+        m_currentStyle = std::move(name);
         OnListSelChange();
     }
     kdutDelString(value.resval.rstring);
@@ -113,13 +141,9 @@ void CMlineStyleDialog::OnRenameStyle() {
     if (naming.DoModal() != kAccepted || m_list.FindStringExact(-1, naming.m_newName) != -1) {
         return;
     }
-    const auto dictionary = open<KdDbDictionary>(m_dictionaryId, kForWrite);
-    const auto style = open<KdDbMlineStyle>(styleId(naming.m_oldName), kForWrite);
-    if (dictionary == nullptr || style == nullptr) {
+    if (!renameStyle(m_dictionaryId, naming.m_oldName, naming.m_newName)) {
         return;
     }
-    style->setName(naming.m_newName);
-    dictionary->setName(naming.m_oldName, naming.m_newName);
     m_list.DeleteString(m_list.GetCurSel());
     appendAndSelect(naming.m_newName);
     // Whichever style it was, and CMLSTYLE is left alone: from now on the label may show a name
@@ -146,11 +170,9 @@ void CMlineStyleDialog::OnDeleteStyle() {
     if (MessageBoxW(question, L"ORVEX", kYesOrNo) != kYes) {
         return;
     }
-    const auto dictionary = open<KdDbDictionary>(m_dictionaryId, kForWrite);
-    if (dictionary == nullptr) {
+    if (!removeStyle(m_dictionaryId, name)) {
         return;
     }
-    dictionary->remove(name);
     const int index = m_list.GetCurSel();
     m_list.DeleteString(index);
     m_list.SetCurSel(std::max(index - 1, 0));

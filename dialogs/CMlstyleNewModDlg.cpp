@@ -63,7 +63,7 @@ int CMlstyleNewModDlg::OnInitDialog() {
     return 1;
 }
 
-void CMlstyleNewModDlg::SetcurentStyle(const CStdStr<wchar_t>& name) {
+void CMlstyleNewModDlg::SetcurentStyle(CStdStr<wchar_t> name) {
     m_styleId = KdDbObjectId();
     KdDbDictionary* dictionary = nullptr;
     kddbOpenObject(dictionary, m_dictionaryId, kForRead);
@@ -168,11 +168,11 @@ void CMlstyleNewModDlg::showInPreview() {
     }
 }
 
-void CMlstyleNewModDlg::ColorToString(int colour, CStdStr<wchar_t>& text) const {
+void CMlstyleNewModDlg::ColorToString(int colour, CStdStr<wchar_t>& text) {
     text = colourWord(colour);
 }
 
-void CMlstyleNewModDlg::StringToColor(const CStdStr<wchar_t>& text, int& colour) const {
+void CMlstyleNewModDlg::StringToColor(CStdStr<wchar_t> text, int& colour) {
     colour = colourIndexOf(text);
 }
 

@@ -34,17 +34,17 @@ public:
     void OnOK() override;
     void OnCancel() override;
 
-    void SetcurentStyle(const CStdStr<wchar_t>& name);
+    void SetcurentStyle(CStdStr<wchar_t> name);
     void InitialDialog();
     int OnCreate(tagCREATESTRUCTW* created); // the caption; always 0
     void SetElementData(KdDbMlineStyle* style);
     void SetAnger(KdDbMlineStyle* style); // the two angles
     void ModifyStyle();
     void GetFlag70();
-    [[nodiscard]] bool ValidateAng(const CStdStr<wchar_t>& text) const;
+    [[nodiscard]] bool ValidateAng(CStdStr<wchar_t> text);
     void SetControlState(bool on);
-    void ColorToString(int colour, CStdStr<wchar_t>& text) const;
-    void StringToColor(const CStdStr<wchar_t>& text, int& colour) const;
+    void ColorToString(int colour, CStdStr<wchar_t>& text);
+    void StringToColor(CStdStr<wchar_t> text, int& colour);
     void DDV_RealOffset(CDataExchange* exchange, CEdit& field);
     void DDV_RealAng(CDataExchange* exchange, CEdit& field);
     void OnDestroy(); // nothing is connected to it

@@ -133,7 +133,7 @@ void CMlstyleNewModDlg::OnAngKillfocus() {
     }
 }
 
-bool CMlstyleNewModDlg::ValidateAng(const CStdStr<wchar_t>& text) const {
+bool CMlstyleNewModDlg::ValidateAng(CStdStr<wchar_t> text) {
     return isCapAngle(text);
 }
 

@@ -35,11 +35,11 @@ bool isReal(const std::wstring& text, bool allowNegative) {
 } // namespace
 
 bool gx_strIsValidReal(const wchar_t* text, bool allowNegative, bool trim, double* value) {
-    if (value != nullptr) {
-        *value = 0.0;
-    }
     if (text == nullptr) {
         return false;
+    }
+    if (value != nullptr) {
+        *value = 0.0;
     }
     const std::size_t length = std::find(text, text + kLongest, L'\0') - text;
     std::wstring copy(text, length);
