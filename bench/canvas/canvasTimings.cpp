@@ -24,6 +24,8 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <malloc.h>
 #include <string>
 #include <vector>
 
@@ -215,8 +217,10 @@ void measurePhases(Canvas& canvas, Session& session, int multilines) {
         }
     }
     core.endCommand();
+    malloc_trim(0); // what the edits have left to the allocator is their cost, not the canvas's
     watch.phase("all have changed", {[&] { canvas.refresh(); }});
     core.undo();
+    malloc_trim(0);
     watch.phase("all changes undone", {[&] { canvas.refresh(); }});
     auto* layer = static_cast<KdDbLayerTableRecord*>(core.open(*core.findLayer(L"WALLS"), true));
     KdCmColor blue;

@@ -62,6 +62,7 @@ struct Scene::State {
     const Appearance& look(const KdDbStub& entity);
     std::vector<KdDbStub*> takeChanges();
     void settle();
+    void rebuild();
     void placeNewEntities();
     void reindex(std::uint32_t place);
     bool updateIndex(Deadline deadline);
@@ -97,9 +98,7 @@ void Scene::State::settle() {
         // A layer, a style or a block: whatever uses it looks different now.
         maker.forgetShared();
         cache.clear();
-        build.restart();
-        unindexed.clear();
-        isIndexed = false;
+        rebuild();
         return;
     }
     if (changed.size() > kManyChanges) {
@@ -110,6 +109,17 @@ void Scene::State::settle() {
         }
     }
     unindexed.insert(unindexed.end(), changed.begin(), changed.end());
+    if (isIndexed && unindexed.size() > kManyChanges && unindexed.size() > placed / 3) {
+        rebuild(); // sooner done than so many changes
+    }
+}
+
+void Scene::State::rebuild() {
+    build.restart();
+    unindexed.clear();
+    isIndexed = false;
+    placed = 0;
+    placeOf.clear();
 }
 
 void Scene::State::placeNewEntities() {
@@ -155,19 +165,18 @@ bool Scene::State::updateIndex(Deadline deadline) {
 }
 
 bool Scene::State::buildIndex(Deadline deadline) {
-    const auto boxAt = [this](std::size_t place) { return boxOf(*entities()[place]); };
+    placeOf.resize(core.stubs().size(), kNotPlaced);
+    const auto boxAt = [this](std::size_t place) {
+        const KdDbStub& entity = *entities()[place];
+        placeOf[entity.ordinal] = static_cast<std::uint32_t>(place);
+        placed = place + 1;
+        return boxOf(entity);
+    };
     if (!build.advance(entities().size(), boxAt, deadline)) {
         return false;
     }
+    // What changed since its box was made is looked at again: it is still among the unindexed.
     build.take(index);
-    placed = 0;
-    placeOf.assign(core.stubs().size(), kNotPlaced);
-    // What changed meanwhile is looked at again; what is as it was when its box was made isn't.
-    std::vector<KdDbStub*> changed = std::exchange(unindexed, {});
-    placeNewEntities();
-    unindexed.erase(unindexed.begin(),
-                    unindexed.begin() + static_cast<std::ptrdiff_t>(index.size()));
-    unindexed.insert(unindexed.end(), changed.begin(), changed.end());
     sketches.clear();
     difference = {.everything = true, .areas = {}};
     isIndexed = true;
