@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace {
 
@@ -63,11 +62,6 @@ std::wstring offsetText(double offset) {
     std::array<wchar_t, 512> text{};
     kddbRToS(offset, kDecimal, 1, text.data());
     return text.data();
-}
-
-double offsetOf(const std::wstring& text) {
-    constexpr double kMost = std::numeric_limits<double>::max();
-    return std::clamp(_wtof(text.c_str()), -kMost, kMost);
 }
 
 std::wstring bookKey(const KdCmColor& colour) {
@@ -130,7 +124,7 @@ void setElementRows(KdDbMlineStyle& style, const std::vector<ElementRow>& rows,
     std::vector<std::wstring> lineTypes;
     std::vector<std::wstring> keys;
     for (const ElementRow& row : rows) {
-        offsets.push_back(offsetOf(row.offset));
+        offsets.push_back(_wtof(row.offset.c_str()));
         lineTypes.push_back(storedLineType(row.lineType));
         indices.push_back(row.colour.colorIndex());
         values.push_back(row.colour.color());
