@@ -145,7 +145,9 @@ TEST_F(MlineRecord, TheStyleIsOpenedWhenThereIsOne) {
 
 TEST_F(MlineRecord, WholeListsComeBackAsStored) {
     storeLineList(&mline, 1, 0, {0.5, 0, 3, 5});
+    storeAreaList(&mline, 1, 0, {7, 8});
     EXPECT_EQ(lineList(&mline, 1, 0), (Values{0.5, 0, 3, 5}));
+    EXPECT_EQ(areaList(&mline, 1, 0), (Values{7, 8}));
     storeLineList(&mline, 1, 0, {});
     EXPECT_EQ(elementOffset(mline, 1, 0), 0.0);
     storeLineList(&mline, 3, 0, {1});

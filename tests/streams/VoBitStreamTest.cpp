@@ -231,6 +231,35 @@ TEST_F(VoBitStreamTest, ARunThatIsNotThereLeavesTheTargetAtItsPlace) {
     source.readBits(nullptr, 0, 5);
 }
 
+// A buffer that shows no bytes, and may not grow either.
+class ClosedBuf : public VoMemStreamBuf {
+public:
+    explicit ClosedBuf(bool grows) : m_grows(grows) {}
+    using VoMemStreamBuf::readBytes;
+    using VoMemStreamBuf::writeBytes;
+    [[nodiscard]] std::uint64_t tell() const override { return 0; }
+    [[nodiscard]] std::uint64_t length() const override { return m_length; }
+    void setlength(std::uint64_t length) override { m_length = m_grows ? length : m_length; }
+    void readBytes(void* /*target*/, unsigned /*count*/) override {}
+    void writeBytes(const void* /*source*/, unsigned /*count*/) override {}
+
+private:
+    bool m_grows;
+    std::uint64_t m_length = 0;
+};
+
+TEST_F(VoBitStreamTest, ABufferThatTakesNothingIsReportedAndNothingMoves) {
+    for (const bool grows : {false, true}) {
+        ClosedBuf buffer(grows);
+        VoBitStream stream(&buffer);
+        stream.writeBit(1, 1);
+        stream.writeBytes("abc", 3);
+        EXPECT_EQ(reports(), Reports(2, kBufferReport));
+        EXPECT_EQ(stream.tell(), 0U);
+        EXPECT_EQ(stream.length(), 0U);
+    }
+}
+
 TEST_F(VoBitStreamTest, ABufferThatIsCutMeanwhileIsNotWrittenBehindItsEnd) {
     VoFlatMemBuf buffer;
     VoBitStream stream(&buffer);
