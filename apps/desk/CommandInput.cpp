@@ -75,6 +75,8 @@ void CommandInput::keyPressEvent(QKeyEvent* event) {
         QLineEdit::keyPressEvent(event);
         break;
     }
+    // What nobody wants ends here: the window sends all such keys to this field.
+    event->accept();
 }
 
 QString CommandInput::chosenOrTyped() const {

@@ -42,6 +42,8 @@ TEST_F(DeskFixture, blanksAreTypedWhereATextOrAHandleIsAsked) {
         },
         key(Qt::Key_Escape),
         [this] { EXPECT_TRUE(input().text().isEmpty()); },
+        key(Qt::Key_F35), // wanted by nobody, the keys that the window sends here neither
+        [this] { QTest::keyClick(window.get(), Qt::Key_F35, Qt::ControlModifier); },
     });
 }
 
