@@ -65,6 +65,7 @@ CommandLine::CommandLine(QWidget* parent)
 
     setFocusProxy(m_input);
     m_history->installEventFilter(this);
+    m_history->viewport()->installEventFilter(this);
     connect(m_input, &CommandInput::entered, this, &CommandLine::entered);
     connect(m_input, &CommandInput::cancelled, this, &CommandLine::cancelled);
 }
@@ -95,6 +96,10 @@ void CommandLine::showKeywords(const QStringList& keywords) {
 
 void CommandLine::print(const QString& line) {
     m_history->appendPlainText(line);
+    showLatest();
+}
+
+void CommandLine::showLatest() {
     m_history->verticalScrollBar()->setValue(m_history->verticalScrollBar()->maximum());
 }
 
@@ -121,6 +126,10 @@ bool CommandLine::eventFilter(QObject* watched, QEvent* event) {
             takeKey(key);
             return true;
         }
+    }
+    if (watched == m_history->viewport() && event->type() == QEvent::Resize) {
+        // The row of keywords comes and goes below it.
+        QMetaObject::invokeMethod(this, &CommandLine::showLatest, Qt::QueuedConnection);
     }
     return QWidget::eventFilter(watched, event);
 }

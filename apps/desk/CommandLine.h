@@ -40,6 +40,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void showLatest();
     void showKeywords(const QStringList& keywords);
 
     QPlainTextEdit* m_history;

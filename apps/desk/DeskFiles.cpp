@@ -63,6 +63,7 @@ void DeskFiles::open(const QString& path) {
     }
     auto file = std::move(std::get<std::unique_ptr<DrawingFile>>(result));
     m_settings.setText(DeskSettings::kDrawingFolder, QFileInfo(path).absolutePath());
+    emit printed(tr("Opened %1").arg(path));
     tellWarnings(*file, path);
     m_take(std::move(file), path);
     emit used(path);

@@ -7,6 +7,7 @@
 
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
@@ -20,7 +21,7 @@ namespace orvex {
 namespace {
 
 constexpr QSize kFirstSize(1200, 800);
-constexpr int kFirstCommandHeight = 150; // pixels
+constexpr int kFirstCommandHeight = 170; // pixels
 
 } // namespace
 
@@ -36,9 +37,7 @@ MainWindow::MainWindow(ModuleLoader& modules, std::vector<std::string> moduleFil
       m_style(new StyleButton(this)), m_status(*statusBar()),
       m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
-    m_menus.tools->addSeparator();
-    m_menus.tools->addWidget(m_style);
-    connect(m_style, &QToolButton::clicked, this, [this] { start(QStringLiteral("MLSTYLE")); });
+    addStyleButton();
     makeCommandDock();
     connectCommandLine();
     connectCanvas();
@@ -52,6 +51,17 @@ MainWindow::MainWindow(ModuleLoader& modules, std::vector<std::string> moduleFil
 
 MainWindow::~MainWindow() {
     m_canvas->setSession(nullptr); // the session goes first
+}
+
+void MainWindow::addStyleButton() {
+    // Right inside of a tool bar its icon would have the size of all others.
+    auto* const holder = new QWidget(this);
+    auto* const row = new QHBoxLayout(holder);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_style);
+    m_menus.tools->addSeparator();
+    m_menus.tools->addWidget(holder);
+    connect(m_style, &QToolButton::clicked, this, [this] { start(QStringLiteral("MLSTYLE")); });
 }
 
 void MainWindow::makeCommandDock() {

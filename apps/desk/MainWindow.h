@@ -47,6 +47,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void addStyleButton();
     void makeCommandDock();
     void connectCommandLine();
     void connectCanvas();

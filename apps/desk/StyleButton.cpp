@@ -19,6 +19,7 @@ StyleButton::StyleButton(QWidget* parent) : QToolButton(parent) {
     setObjectName(QStringLiteral("styleButton"));
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setIconSize(kSwatch);
+    setAutoRaise(true);
     setFocusPolicy(Qt::NoFocus);
     setStatusTip(tr("The current multiline style; a click manages the styles of the drawing"));
 }

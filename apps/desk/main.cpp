@@ -32,6 +32,17 @@ bool haveDisplay() {
     return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
 }
 
+// Qt ends the process by an abort where it can't start, which looks like a fault of the program.
+void tellWhyQtStops(QtMsgType kind, const QMessageLogContext& /*context*/, const QString& text) {
+    if (kind == QtFatalMsg) {
+        complain(text.simplified().toStdString());
+        std::_Exit(kFailed);
+    }
+    if (kind == QtCriticalMsg) {
+        complain(text.toStdString());
+    }
+}
+
 int showWindow(const DeskCall& call, int argc, char** argv) {
     if (!haveDisplay()) {
         complain("there is no display to open a window on; orvex-batch works without");
@@ -39,7 +50,9 @@ int showWindow(const DeskCall& call, int argc, char** argv) {
     }
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const auto before = qInstallMessageHandler(tellWhyQtStops);
     const QApplication application(argc, argv);
+    qInstallMessageHandler(before);
     QApplication::setApplicationName(QStringLiteral("orvex-desk"));
     QApplication::setApplicationVersion(QStringLiteral(ORVEX_VERSION));
     QApplication::setApplicationDisplayName(QStringLiteral("Orvex"));

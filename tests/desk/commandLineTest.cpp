@@ -2,6 +2,8 @@
 
 #include "InputHistory.h"
 
+#include <QMenu>
+
 namespace orvex::testing {
 
 namespace {
@@ -45,6 +47,31 @@ TEST_F(DeskFixture, blanksAreTypedWhereATextOrAHandleIsAsked) {
         key(Qt::Key_F35), // wanted by nobody, the keys that the window sends here neither
         [this] { QTest::keyClick(window.get(), Qt::Key_F35, Qt::ControlModifier); },
     });
+}
+
+// In an empty field, the window's own keys are the window's; letters with Alt always are.
+TEST_F(DeskFixture, keysOfMenusWorkFromTheCommandLine) {
+    QString menu;
+    play({
+        openPlan(),
+        type("MLINE"),
+        type("0,0"),
+        type("1000,0"),
+        key(Qt::Key_Return),
+        [this] { QTest::keyClick(&input(), Qt::Key_Z, Qt::ControlModifier); },
+        [this] { EXPECT_FALSE(window->isWindowModified()); },
+        [&] {
+            QTimer::singleShot(0, window.get(), [&menu] {
+                if (QWidget* const popup = QApplication::activePopupWidget()) {
+                    menu = qobject_cast<QMenu*>(popup)->title();
+                    popup->close();
+                }
+            });
+            QTest::keyClick(&input(), Qt::Key_F, Qt::AltModifier);
+        },
+        [] {},
+    });
+    EXPECT_EQ(menu, "&File");
 }
 
 TEST_F(DeskFixture, namesAreCompletedAndFormerInputsFetched) {

@@ -1,5 +1,7 @@
 #include "DeskFixture.h"
 
+#include "fileQuestion.h"
+
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
@@ -152,6 +154,33 @@ TEST_F(FilesOfDesk, savingAsAndExportingAskForAFileAndTellWhatFails) {
     EXPECT_NE(readFile(copy), original);
     EXPECT_THAT(readFile(picture), ::testing::HasSubstr("<svg"));
     EXPECT_EQ(readFile(plan), original);
+}
+
+// What the dialogs of styles ask for, and where they begin.
+TEST_F(FilesOfDesk, commandsChooseFilesAsTheirFlagsSay) {
+    const fs::path folder = fs::temp_directory_path() / "library";
+    fs::create_directory(folder);
+    const QString library = QString::fromStdString((folder / "walls.mln").string());
+    writeFile(library.toStdString(), "old");
+    struct Case {
+        int flags;
+        QString start;
+        bool saves;
+    };
+    for (const Case& each :
+         {Case{3, QString::fromStdString(folder.string()) + '/', true}, Case{64, library, false}}) {
+        QTimer::singleShot(0, window.get(), [&] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->acceptMode() == QFileDialog::AcceptSave, each.saves);
+            EXPECT_EQ(dialog->directory().path(), QString::fromStdString(folder.string()));
+            if (each.saves) {
+                dialog->selectFile("walls"); // which exists; nobody is asked about that
+            }
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        EXPECT_EQ(askFile(*window, {"Styles", each.start, "mln", each.flags}), library);
+    }
 }
 
 TEST_F(FilesOfDesk, recentDrawingsAndThePlaceOfTheWindowAreRemembered) {
