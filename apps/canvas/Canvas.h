@@ -33,7 +33,8 @@ public:
     void setSession(Session* session);
 
     // What the next click is for, and what moves with the cursor meanwhile: a line from `base`
-    // (world), or what the prompt's preview draws.
+    // (world), or what the prompt's preview draws. The request is copied; its preview is called
+    // till the next setAim, which has to come before the question ends.
     void setAim(CanvasAim aim, const PromptRequest* request = nullptr);
     [[nodiscard]] CanvasAim aim() const;
 

@@ -101,7 +101,7 @@ void LinePainter::dot(PlanPoint point, std::uint32_t rgb) {
     if (!isUsable(point)) {
         return;
     }
-    const double low = (m_width - 1) / 2;
+    const int low = (m_width - 1) / 2;
     const int x = wholePixel(point.x - low, m_left - m_width, m_right);
     const int y = wholePixel(point.y - low, m_top - m_width, m_bottom);
     fill(x, y, x + m_width, y + m_width, rgb);
@@ -175,7 +175,8 @@ void LinePainter::alongAxis(double from, double to, double across, bool upright,
     end = std::min(end, high);
     const int acrossLow = upright ? m_left : m_top;
     const int acrossHigh = upright ? m_right : m_bottom;
-    const int side = wholePixel(across - (m_width - 1) / 2, acrossLow - m_width, acrossHigh);
+    const int before = (m_width - 1) / 2;
+    const int side = wholePixel(across - before, acrossLow - m_width, acrossHigh);
     if (upright) {
         fill(side, begin, side + m_width, end, rgb);
     } else {

@@ -43,14 +43,17 @@ private:
 
     // Where a row's middle is crossed, and whether on the way down.
     struct Crossing {
-        double x;
-        int turn;
+        double x = 0.0;
+        int turn = 0;
     };
     std::vector<Crossing> m_crossings; // kept, so that not every row needs memory of its own
 
     std::uint32_t* m_pixels;
-    int m_stride;                         // pixels
-    int m_left, m_top, m_right, m_bottom; // of the clip; right and bottom excluded
+    int m_stride; // pixels
+    int m_left;   // of the clip
+    int m_top;
+    int m_right; // excluded, as the bottom
+    int m_bottom;
     int m_width;
 };
 

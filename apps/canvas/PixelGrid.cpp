@@ -46,8 +46,8 @@ std::vector<TileKey> PixelGrid::visibleTiles() const {
     }
     const auto distance = [this](const TileKey& tile) {
         const QPoint origin = tileOrigin(tile);
-        return std::hypot(origin.x() + kTileSide / 2 - m_width / 2,
-                          origin.y() + kTileSide / 2 - m_height / 2);
+        return std::hypot(origin.x() + (kTileSide - m_width) / 2.0,
+                          origin.y() + (kTileSide - m_height) / 2.0);
     };
     std::stable_sort(tiles.begin(), tiles.end(),
                      [&](const TileKey& a, const TileKey& b) { return distance(a) < distance(b); });

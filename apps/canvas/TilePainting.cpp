@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace orvex {
 
@@ -20,9 +21,9 @@ constexpr std::size_t kEntitiesBetweenLooksAtTheClock = 8;
 
 } // namespace
 
-TilePainting::TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile,
-                           const QImage& before, const QRect& pixels)
-    : m_scene(&scene), m_grid(grid), m_tile(tile), m_pixels(pixels), m_image(before),
+TilePainting::TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, QImage before,
+                           const QRect& pixels)
+    : m_scene(&scene), m_grid(grid), m_tile(tile), m_pixels(pixels), m_image(std::move(before)),
       m_places(scene.placesIn(grid.planOf(tile, pixels))) {
     if (m_image.isNull()) {
         m_image = QImage(PixelGrid::kTileSide, PixelGrid::kTileSide, QImage::Format_RGB32);

@@ -11,8 +11,6 @@
 #include <cstdint>
 #include <vector>
 
-class QPainter;
-
 namespace orvex {
 
 // What the ground of the plan is painted with, 0xRRGGBB.
@@ -26,7 +24,7 @@ public:
 
     // The scene has to stay as it is till the end. `before` is what the tile showed, of no size
     // when it is painted for the first time; only `pixels` of it change.
-    TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, const QImage& before,
+    TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, QImage before,
                  const QRect& pixels);
 
     // True when it is done.

@@ -107,6 +107,7 @@ std::vector<std::function<void()>> panning(Canvas& canvas, int steps) {
 
 std::vector<std::function<void()>> hovering(Canvas& canvas, int steps) {
     std::vector<std::function<void()>> inputs;
+    inputs.reserve(static_cast<std::size_t>(steps));
     for (int step = 0; step < steps; ++step) {
         const QPoint pixel(300 + 13 * step, 200 + 9 * step);
         inputs.push_back(

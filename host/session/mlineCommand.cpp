@@ -118,6 +118,7 @@ KdGePoint3d worldToUser(const KdGePoint3d& point) {
 // In the current style and settings; null when there is nothing to draw.
 std::unique_ptr<KdDbMline> makeMline(Session& session, const Chain& chain) {
     std::vector<KdGePoint3d> points;
+    points.reserve(chain.points.size());
     for (const KdGePoint3d& point : chain.points) {
         points.push_back(userToWorld(point));
     }

@@ -96,6 +96,7 @@ TEST(LinePainter, APixelDoesNotDependOnTheClip) {
     for (int round = 0; round < 300; ++round) {
         const double far = round % 3 == 0 ? 1e6 : 100.0;
         std::vector<PlanPoint> chain;
+        chain.reserve(5);
         for (int i = 0; i < 5; ++i) {
             chain.push_back({number(-far, far), number(-far, far)});
         }

@@ -32,6 +32,7 @@ private:
 
 std::vector<std::vector<PlanPoint>> linesOf(const Appearance& look) {
     std::vector<std::vector<PlanPoint>> lines;
+    lines.reserve(look.strokes.size());
     for (const Stroke& stroke : look.strokes) {
         lines.push_back(stroke.points);
     }

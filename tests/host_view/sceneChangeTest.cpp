@@ -249,6 +249,7 @@ TEST(SceneSteps, TakeChangesInWhileTheIndexIsMade) {
 TEST(LookSketch, HasTheLinesOfTheLook) {
     Appearance look;
     std::vector<PlanPoint> chain;
+    chain.reserve(600);
     for (int i = 0; i < 600; ++i) {
         chain.push_back({1000.0 + i, 50.0 + std::sin(i * 0.1)});
     }
