@@ -202,5 +202,29 @@ TEST_F(EditedCanvas, HighlightsWhatAPickWouldFind) {
     }
 }
 
+TEST_F(EditedCanvas, TheHighlightFollowsTheDrawingUnderTheCursor) {
+    canvas.setAim(CanvasAim::entity);
+    const Appearance look = session->scene().appearance(anyMline());
+    const QPoint pixel = pixelAt(look.strokes.front().points.front());
+    const auto grabbed = [&] { return canvas.grab().toImage(); };
+    hover(pixel);
+    const QImage before = grabbed();
+    const PlanPoint at = planAt(pixel);
+    core().erase(*session->scene().entityAt({at.x, at.y, 0}, PromptSession::current().pickBox));
+    canvas.refresh();
+    settle();
+    const QImage erased = grabbed();
+    EXPECT_GT(differences(erased, before), 0);
+    wheel(pixel + QPoint(40, 30), 3);
+    settle();
+    const QImage zoomed = grabbed();
+    hover({1, 1});
+    hover(pixel); // whatever is there now is found anew
+    EXPECT_EQ(differences(grabbed(), zoomed), 0);
+    canvas.zoomPrevious();
+    settle();
+    EXPECT_EQ(differences(grabbed(), erased), 0);
+}
+
 } // namespace
 } // namespace orvex::testing
