@@ -87,7 +87,6 @@ void CommandLine::showKeywords(const QStringList& keywords) {
         button->setText(QString(keyword).replace('&', QLatin1String("&&")));
         button->setObjectName(QStringLiteral("keyword") + keyword);
         button->setFocusPolicy(Qt::NoFocus);
-        button->setToolTip(tr("Answer %1").arg(keyword.toHtmlEscaped()));
         connect(button, &QToolButton::clicked, this, [this, keyword] { emit entered(keyword); });
         m_keywordRow->insertWidget(m_keywordRow->count() - 1, button);
     }

@@ -153,9 +153,11 @@ bool DeskFiles::mayLeave() {
 
 void DeskFiles::tell(const QString& what, const QString& why) {
     emit printed(why);
-    QMessageBox box(QMessageBox::Critical, tr("Orvex"), what, QMessageBox::Ok, &m_window);
+    // All in one, for names of files are no markup, and the text below is always looked through for
+    // some.
+    QMessageBox box(QMessageBox::Critical, tr("Orvex"), what + QLatin1String("\n\n") + why,
+                    QMessageBox::Ok, &m_window);
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(why);
     box.exec();
 }
 

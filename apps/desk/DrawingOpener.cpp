@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QLabel>
 #include <QProgressDialog>
 
 #include <exception>
@@ -19,7 +20,9 @@ constexpr int kSteps = 1000;           // of the bar
 std::unique_ptr<QProgressDialog> makeProgress(QWidget& window, const QString& path) {
     auto dialog = std::make_unique<QProgressDialog>(&window);
     dialog->setWindowTitle(QObject::tr("Opening"));
-    dialog->setLabelText(QObject::tr("Opening %1 ...").arg(QFileInfo(path).fileName()));
+    auto* const label = new QLabel(QObject::tr("Opening %1 ...").arg(QFileInfo(path).fileName()));
+    label->setTextFormat(Qt::PlainText);
+    dialog->setLabel(label); // which it takes over
     dialog->setRange(0, kSteps);
     dialog->setAutoClose(false);
     dialog->setAutoReset(false);

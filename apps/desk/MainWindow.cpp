@@ -11,8 +11,10 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QUrl>
 
 #include <filesystem>
 
@@ -37,6 +39,7 @@ MainWindow::MainWindow(ModuleLoader& modules, std::vector<std::string> moduleFil
       m_style(new StyleButton(this)), m_status(*statusBar()),
       m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
+    setAcceptDrops(true);
     addStyleButton();
     makeCommandDock();
     connectCommandLine();
@@ -110,13 +113,7 @@ void MainWindow::connectFiles() {
     connect(&m_files, &DeskFiles::used, &m_recent, &RecentFiles::add);
     connect(&m_files, &DeskFiles::missing, &m_recent, &RecentFiles::remove);
     connect(&m_files, &DeskFiles::saved, this, &MainWindow::showChange);
-    connect(&m_recent, &RecentFiles::chosen, this, [this](const QString& path) {
-        post([this, path] {
-            if (m_files.mayLeave()) {
-                m_files.open(path);
-            }
-        });
-    });
+    connect(&m_recent, &RecentFiles::chosen, this, &MainWindow::open);
 }
 
 void MainWindow::loadModule(const std::vector<std::string>& files) {
@@ -133,7 +130,11 @@ void MainWindow::loadModule(const std::vector<std::string>& files) {
 }
 
 void MainWindow::open(const QString& path) {
-    post([this, path] { m_files.open(path); });
+    post([this, path] {
+        if (m_files.mayLeave()) {
+            m_files.open(path);
+        }
+    });
 }
 
 void MainWindow::start(const QString& command, const QStringList& answers) {
@@ -202,12 +203,12 @@ void MainWindow::act(const DeskActionRow& row) {
 void MainWindow::enterLine(const QString& line) {
     if (m_prompts.request() != nullptr) {
         m_prompts.answerText(line);
-    } else if (m_runner.isBusy()) {
-        return; // a dialog of a command is open
-    } else if (line.isEmpty()) {
-        m_runner.repeat();
-    } else {
-        start(line);
+    } else if (!m_runner.isBusy()) { // else a dialog of a command is open
+        if (line.isEmpty()) {
+            m_runner.repeat();
+        } else {
+            start(line);
+        }
     }
 }
 
@@ -289,6 +290,18 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 // Whatever has the focus, one types into the command line.
 void MainWindow::keyPressEvent(QKeyEvent* event) {
     m_commandLine->takeKey(*event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.front().isLocalFile() && !m_files.opener().isOpening()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    open(event->mimeData()->urls().front().toLocalFile());
 }
 
 void MainWindow::restorePlace() {

@@ -31,7 +31,7 @@ public:
     MainWindow(ModuleLoader& modules, std::vector<std::string> moduleFiles);
     ~MainWindow() override;
 
-    // Opens a drawing as soon as nothing else runs.
+    // Opens a drawing as soon as nothing else runs, and changes to the one before were asked about.
     void open(const QString& path);
     // Starts a command as if it was typed.
     void start(const QString& command, const QStringList& answers = {});
@@ -45,6 +45,9 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    // A drawing that is dropped on the window is opened.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void addStyleButton();

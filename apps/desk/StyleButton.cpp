@@ -6,6 +6,8 @@
 #include "qtWide.h"
 #include "styleSwatch.h"
 
+#include <QTextDocument>
+
 namespace orvex {
 
 namespace {
@@ -37,7 +39,7 @@ void StyleButton::showStyle(KdDbDatabase& database) {
     style->close();
     QString shown = name.size() > kLongestName ? name.left(kLongestName - 1) + QChar(0x2026) : name;
     setText(shown.replace('&', QLatin1String("&&")));
-    setToolTip(tr("Current style: %1").arg(name).toHtmlEscaped());
+    setToolTip(Qt::convertFromPlainText(tr("Current style: %1").arg(name)));
 }
 
 } // namespace orvex
