@@ -16,6 +16,7 @@ namespace {
 constexpr qint64 kLargeFile = 2 << 20; // bytes; what is smaller is open before one could look
 constexpr qint64 kPumpEvery = 10;      // milliseconds
 constexpr int kSteps = 1000;           // of the bar
+constexpr int kWidth = 360;            // pixels
 
 std::unique_ptr<QProgressDialog> makeProgress(QWidget& window, const QString& path) {
     auto dialog = std::make_unique<QProgressDialog>(&window);
@@ -24,6 +25,7 @@ std::unique_ptr<QProgressDialog> makeProgress(QWidget& window, const QString& pa
     label->setTextFormat(Qt::PlainText);
     dialog->setLabel(label); // which it takes over
     dialog->setRange(0, kSteps);
+    dialog->setMinimumWidth(kWidth);
     dialog->setAutoClose(false);
     dialog->setAutoReset(false);
     dialog->setMinimumDuration(0);
