@@ -4,6 +4,9 @@
 #include "Session.h"
 #include "qtWide.h"
 
+#include <QCoreApplication>
+
+#include <chrono>
 #include <utility>
 
 namespace orvex {
@@ -44,6 +47,10 @@ void CommandRunner::run(const QString& name, const QStringList& answers) {
     if (m_session == nullptr) {
         return;
     }
+    waitForFirstLook();
+    if (m_task) {
+        return; // something else was started meanwhile
+    }
     emit commandStarted(name);
     m_prompts.answerAhead(answers);
     const Session::Result result = m_session->run(toWide(name));
@@ -54,6 +61,15 @@ void CommandRunner::run(const QString& name, const QStringList& answers) {
         m_prompts.print(result.message);
     }
     emit commandEnded();
+}
+
+// A command needs the view, and so the extents of the drawing. In a large one they take a while, in
+// which the window lives on.
+void CommandRunner::waitForFirstLook() {
+    constexpr std::chrono::milliseconds kSlice{8};
+    while (!m_task && !m_session->isViewStarted() && !m_session->scene().prepareSome(kSlice)) {
+        QCoreApplication::processEvents();
+    }
 }
 
 } // namespace orvex

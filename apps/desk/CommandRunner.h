@@ -38,6 +38,7 @@ signals:
 private:
     void work();
     void run(const QString& name, const QStringList& answers);
+    void waitForFirstLook();
 
     DeskPrompts& m_prompts;
     Session* m_session = nullptr;

@@ -1,6 +1,5 @@
 #include "DeskDrawing.h"
 
-#include "DatabaseCore.h"
 #include "qtWide.h"
 #include "variableText.h"
 
@@ -45,17 +44,6 @@ std::unique_ptr<DrawingError> DeskDrawing::save(const QString& path) {
 
 QString DeskDrawing::currentStyle() const {
     return m_session != nullptr ? toQt(variableText(L"CMLSTYLE").value_or(L"")) : QString();
-}
-
-int DeskDrawing::countMlines() const {
-    if (m_session == nullptr) {
-        return 0;
-    }
-    const auto& entities = m_session->database().core().modelSpace().entities;
-    return static_cast<int>(
-        std::count_if(entities.begin(), entities.end(), [](const KdDbStub* entity) {
-            return entity->kind == ObjectKind::mline && !entity->erased;
-        }));
 }
 
 } // namespace orvex

@@ -36,7 +36,6 @@ public:
     std::unique_ptr<DrawingError> save(const QString& path);
 
     [[nodiscard]] QString currentStyle() const;
-    [[nodiscard]] int countMlines() const; // in model space
 
 private:
     ModuleLoader& m_modules;

@@ -253,7 +253,7 @@ void MainWindow::showChange() {
     setWindowModified(m_drawing.isChanged());
     setWindowFilePath(m_drawing.path());
     m_style->showStyle(session()->database());
-    m_status.showDrawing(m_drawing.currentStyle(), m_drawing.countMlines());
+    m_status.showStyle(m_drawing.currentStyle());
 }
 
 void MainWindow::about() {

@@ -22,7 +22,7 @@ QLabel* addLabel(QStatusBar& bar, const char* name, int characters) {
 
 StatusLine::StatusLine(QStatusBar& bar)
     : QObject(&bar), m_cursor(addLabel(bar, "statusCursor", 26)),
-      m_style(addLabel(bar, "statusStyle", 0)), m_mlines(addLabel(bar, "statusMlines", 0)) {}
+      m_style(addLabel(bar, "statusStyle", 0)) {}
 
 void StatusLine::showCursor(double x, double y, double unitsPerPixel) {
     const int decimals = worthwhileDecimals(unitsPerPixel);
@@ -34,9 +34,8 @@ void StatusLine::clearCursor() {
     m_cursor->clear();
 }
 
-void StatusLine::showDrawing(const QString& style, int mlines) {
+void StatusLine::showStyle(const QString& style) {
     m_style->setText(tr("Style: %1").arg(style));
-    m_mlines->setText(mlines == 1 ? tr("1 multiline") : tr("%1 multilines").arg(mlines));
 }
 
 } // namespace orvex

@@ -7,8 +7,8 @@ class QStatusBar;
 
 namespace orvex {
 
-// What the status bar always shows: where the cursor is, the current style, how many multilines
-// there are. Hints of actions come and go beside it.
+// What the status bar always shows: where the cursor is, and the current style. Hints of actions
+// come and go beside it.
 class StatusLine final : public QObject {
     Q_OBJECT
 
@@ -18,12 +18,11 @@ public:
     // Drawing units; decimals below a pixel's width aren't shown.
     void showCursor(double x, double y, double unitsPerPixel);
     void clearCursor();
-    void showDrawing(const QString& style, int mlines);
+    void showStyle(const QString& style);
 
 private:
     QLabel* m_cursor;
     QLabel* m_style;
-    QLabel* m_mlines;
 };
 
 } // namespace orvex
