@@ -23,10 +23,10 @@ void CommandInput::setCompletions(const QStringList& words) {
 
 bool CommandInput::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
-        auto* const key = static_cast<QKeyEvent*>(event);
-        // In an empty field these belong to the window: they undo commands, not letters.
-        if (text().isEmpty() &&
-            (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo))) {
+        const auto* const key = static_cast<const QKeyEvent*>(event);
+        // In an empty field these belong to the window: they undo commands, not letters, and
+        // export pictures rather than go to the end of nothing.
+        if (text().isEmpty() && (key->modifiers() & Qt::ControlModifier) != 0) {
             event->ignore();
             return true;
         }

@@ -60,6 +60,18 @@ TEST_F(DeskFixture, keysOfMenusWorkFromTheCommandLine) {
         key(Qt::Key_Return),
         [this] { QTest::keyClick(&input(), Qt::Key_Z, Qt::ControlModifier); },
         [this] { EXPECT_FALSE(window->isWindowModified()); },
+        [this] {
+            const auto belongsToField = [this] {
+                QKeyEvent key(QEvent::ShortcutOverride, Qt::Key_A, Qt::ControlModifier);
+                key.ignore();
+                QCoreApplication::sendEvent(&input(), &key);
+                return key.isAccepted();
+            };
+            EXPECT_FALSE(belongsToField());
+            QTest::keyClicks(&input(), "U");
+            EXPECT_TRUE(belongsToField());
+            input().clear();
+        },
         [&] {
             QTimer::singleShot(0, window.get(), [&menu] {
                 if (QWidget* const popup = QApplication::activePopupWidget()) {
