@@ -5,37 +5,36 @@
 
 #include <QDir>
 #include <QLabel>
-#include <QPushButton>
 
 #include <gmock/gmock.h>
 
 using orvex::testing::child;
+using orvex::testing::press;
 using orvex::testing::runDialog;
 
 namespace {
 
-struct Row {
-    int number;
+// In the order of their numbers.
+struct Tool {
     int control;
     const char* button;
-    const char* label; // none for Close
+    const char* label;
     const char* caption;
 };
 
-constexpr Row kRows[] = {
-    {1, 5759, "closedCrossBtn", "label_2", "Closed Cross"},
-    {2, 5760, "openCrossBtn", "label_3", "Open Cross"},
-    {3, 5761, "mergedCrossBtn", "label_6", "Merged Cross"},
-    {4, 5762, "closedTeeBtn", "CloseTeeBtn", "Closed Tee"},
-    {5, 5763, "openTeeBtn", "CloseTeeBtn_2", "Open Tee"},
-    {6, 5764, "mergedTeeBtn", "CloseTeeBtn_3", "Merged Tee"},
-    {7, 5765, "cornerJointBtn", "label_4", "Corner Joint"},
-    {8, 5767, "addVertexBtn", "label_14", "Add Vertex"},
-    {9, 5766, "deleteVertexBtn", "label_16", "Delete Vertex"},
-    {10, 5768, "cutSingleBtn", "label_5", "Cut Single"},
-    {11, 5769, "cutAllBtn", "label_15", "Cut All"},
-    {12, 5770, "weldAllBtn", "label_17", "Weld All"},
-    {13, 5771, "closeBtn", nullptr, "&Close"},
+constexpr Tool kTools[] = {
+    {5759, "closedCrossBtn", "label_2", "Closed Cross"},
+    {5760, "openCrossBtn", "label_3", "Open Cross"},
+    {5761, "mergedCrossBtn", "label_6", "Merged Cross"},
+    {5762, "closedTeeBtn", "CloseTeeBtn", "Closed Tee"},
+    {5763, "openTeeBtn", "CloseTeeBtn_2", "Open Tee"},
+    {5764, "mergedTeeBtn", "CloseTeeBtn_3", "Merged Tee"},
+    {5765, "cornerJointBtn", "label_4", "Corner Joint"},
+    {5767, "addVertexBtn", "label_14", "Add Vertex"},
+    {5766, "deleteVertexBtn", "label_16", "Delete Vertex"},
+    {5768, "cutSingleBtn", "label_5", "Cut Single"},
+    {5769, "cutAllBtn", "label_15", "Cut All"},
+    {5770, "weldAllBtn", "label_17", "Weld All"},
 };
 
 class Palette : public testing::Test {
@@ -45,95 +44,67 @@ protected:
     HINSTANCE m_library = loadResourceDll(L"OmxMLStyleRes.dll");
 };
 
-TEST_F(Palette, eachButtonGivesItsNumberAndEndsTheDialog) {
-    for (const Row& row : kRows) {
+// Pictures and captions stand in rows of their own: nothing but the layout ties them to the
+// buttons.
+TEST_F(Palette, eachButtonShowsItsToolAndGivesItsNumber) {
+    std::vector<QImage> seen;
+    int number = 0;
+    for (const Tool& tool : kTools) {
         CMLEditDialog dialog(nullptr);
-        EXPECT_EQ(dialog.m_toolNumber, 0);
-        auto& button = child<QPushButton>(dialog, row.button);
-        const int result = runDialog(dialog, [&] { QTest::mouseClick(&button, Qt::LeftButton); });
-        EXPECT_EQ(result, 1) << row.button;
-        EXPECT_EQ(dialog.m_toolNumber, row.number) << row.button;
+        auto& button = child<QPushButton>(dialog, tool.button);
+        EXPECT_EQ(GetDlgItem(dialog.GetSafeHwnd(), tool.control), &button);
+        const int result = runDialog(dialog, [&] {
+            ASSERT_THAT(button.icon().availableSizes(), testing::ElementsAre(QSize(41, 38)));
+            const QImage picture = button.icon().pixmap(41, 38).toImage();
+            EXPECT_THAT(seen, testing::Not(testing::Contains(picture))) << tool.button;
+            seen.push_back(picture);
+
+            const auto& label = child<QLabel>(dialog, tool.label);
+            EXPECT_EQ(label.text(), tool.caption);
+            const QPoint below(button.width() / 2, button.height());
+            const QPoint top(label.width() / 2, 0);
+            const QPoint apart = label.mapToGlobal(top) - button.mapToGlobal(below);
+            EXPECT_NEAR(apart.x(), 0, 1) << tool.label;
+            EXPECT_EQ(apart.y(), 0) << tool.label;
+            press(*dialog.GetSafeHwnd(), tool.button);
+        });
+        EXPECT_EQ(result, 1) << tool.button;
+        EXPECT_EQ(dialog.m_toolNumber, ++number) << tool.button;
     }
 }
 
 TEST_F(Palette, keysAndTheCloseControlEndItWithoutATool) {
-    CMLEditDialog escaped(nullptr);
-    runDialog(escaped, [&] { QTest::keyClick(escaped.GetSafeHwnd(), Qt::Key_Escape); });
-    EXPECT_EQ(escaped.m_toolNumber, 0);
-
-    CMLEditDialog closed(nullptr);
-    runDialog(closed, [&] { closed.GetSafeHwnd()->close(); });
-    EXPECT_EQ(closed.m_toolNumber, 0);
-
-    // Enter is for the default button, wherever the focus is.
-    CMLEditDialog entered(nullptr);
-    runDialog(entered, [&] {
-        auto& tool = child<QPushButton>(entered, "cutAllBtn");
-        tool.setFocus();
-        QTest::keyClick(&tool, Qt::Key_Return);
-    });
-    EXPECT_EQ(entered.m_toolNumber, 13);
-}
-
-TEST_F(Palette, registersEachButtonUnderItsControlNumber) {
-    CMLEditDialog dialog(nullptr);
-    for (const Row& row : kRows) {
-        EXPECT_EQ(GetDlgItem(dialog.GetSafeHwnd(), row.control),
-                  &child<QPushButton>(dialog, row.button));
-    }
-}
-
-// The captions stand in rows of their own, so nothing but the layout ties them to the buttons.
-TEST_F(Palette, showsEachCaptionRightBelowItsButton) {
-    CMLEditDialog dialog(nullptr);
-    const auto placed = [&](const QWidget& widget) {
-        return QRect(widget.mapTo(dialog.GetSafeHwnd(), QPoint()), widget.size());
+    const struct {
+        void (*leave)(QWidget& view);
+        int number;
+    } cases[] = {
+        {[](QWidget& view) { QTest::keyClick(&view, Qt::Key_Escape); }, 0},
+        {[](QWidget& view) { view.close(); }, 0},
+        {[](QWidget& view) { press(view, "closeBtn"); }, 13},
+        // Enter is for the default button, wherever the focus is.
+        {[](QWidget& view) {
+             child<QWidget>(view, "cutAllBtn").setFocus();
+             QTest::keyClick(view.focusWidget(), Qt::Key_Return);
+         },
+         13},
     };
-    runDialog(dialog, [&] {
-        for (const Row& row : kRows) {
-            const auto& button = child<QPushButton>(dialog, row.button);
-            if (row.label == nullptr) {
-                EXPECT_EQ(button.text(), row.caption);
-                continue;
-            }
-            EXPECT_EQ(button.size(), QSize(41, 38)) << row.button;
-            const auto& label = child<QLabel>(dialog, row.label);
-            EXPECT_EQ(label.text(), row.caption);
-            EXPECT_NEAR(placed(label).center().x(), placed(button).center().x(), 1) << row.label;
-            EXPECT_EQ(placed(label).top(), placed(button).bottom() + 1) << row.label;
-        }
-        dialog.OnClose();
-    });
-}
-
-TEST_F(Palette, showsTwelveDifferentPictures) {
-    CMLEditDialog dialog(nullptr);
-    std::vector<QImage> seen;
-    for (const Row& row : kRows) {
-        if (row.label == nullptr) {
-            continue;
-        }
-        const QIcon icon = child<QPushButton>(dialog, row.button).icon();
-        ASSERT_THAT(icon.availableSizes(), testing::ElementsAre(QSize(41, 38))) << row.button;
-        const QImage picture = icon.pixmap(41, 38).toImage();
-        EXPECT_THAT(seen, testing::Not(testing::Contains(picture))) << row.button;
-        seen.push_back(picture);
+    for (const auto& [leave, number] : cases) {
+        CMLEditDialog dialog(nullptr);
+        runDialog(dialog, [&, act = leave] { act(*dialog.GetSafeHwnd()); });
+        EXPECT_EQ(dialog.m_toolNumber, number);
     }
 }
 
-TEST_F(Palette, findsThePicturesThatItsButtonsAskFor) {
-    const wchar_t* const names[] = {L"CLOSE_CROSS",  L"OPEN_CROSS", L"MERGED_CROSS",
-                                    L"CLOSE_TREE",   L"OPEN_TREE",  L"MERGED_TREE",
-                                    L"CORNER_JOINT", L"ADD_VERTEX", L"DELETE_VERTEX",
-                                    L"CUT_SINGLE",   L"CUT_ALL",    L"WELD_ALL"};
-    for (const std::wstring name : names) {
-        const std::wstring stem = L"IDB_" + name;
+TEST_F(Palette, hasThreePicturesOfEachOwnerDrawnButton) {
+    const QStringList pictures = QDir(":/").entryList({"IDB_*_UP*"});
+    EXPECT_EQ(pictures.size(), 12);
+    for (const QString& up : pictures) {
+        const std::wstring stem = up.left(up.indexOf("_UP")).toStdWString();
         CBitmapButton button;
         EXPECT_TRUE(button.LoadBitmaps((stem + L"_UP").c_str(), (stem + L"_DOWN").c_str(),
                                        (stem + L"_FOCUS").c_str()))
-            << name;
+            << stem;
     }
-    EXPECT_EQ(QDir(":/").entryList({"IDB_*"}).size(), 36);
 }
 
 } // namespace

@@ -1,11 +1,9 @@
 #include "CMlStyleLoadDlg.h"
 
+#include "MlineStyleContent.h"
 #include "StyleWorld.h"
 #include "dialogRun.h"
 #include "textCodec.h"
-
-#include <QListWidget>
-#include <QPushButton>
 
 #include <gmock/gmock.h>
 
@@ -16,6 +14,7 @@ namespace fs = std::filesystem;
 using orvex::testing::child;
 using orvex::testing::runDialog;
 using orvex::testing::StyleWorld;
+using orvex::testing::textsOf;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -50,24 +49,14 @@ protected:
     }
 
     [[nodiscard]] QListWidget& list() { return child<QListWidget>(*m_dialog, "listWidget"); }
-    [[nodiscard]] QPushButton& button(const char* name) {
-        return child<QPushButton>(*m_dialog, name);
+    [[nodiscard]] std::vector<std::string> listed() { return textsOf(list()); }
+    [[nodiscard]] bool mayLoad() { return child<QPushButton>(*m_dialog, "pBtnOK").isEnabled(); }
+    void clickRow(int row) { orvex::testing::clickRow(list(), row); }
+    void press(const char* name) { orvex::testing::press(*m_dialog->GetSafeHwnd(), name); }
+    void loadRow(int row) {
+        clickRow(row);
+        press("pBtnOK");
     }
-    [[nodiscard]] std::vector<std::string> listed() {
-        std::vector<std::string> names;
-        for (int row = 0; row < list().count(); ++row) {
-            names.push_back(list().item(row)->text().toStdString());
-        }
-        return names;
-    }
-
-    [[nodiscard]] QPoint middleOf(int row) {
-        return list().visualItemRect(list().item(row)).center();
-    }
-    void clickRow(int row) {
-        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, middleOf(row));
-    }
-    void press(const char* name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
 
     [[nodiscard]] std::wstring description(const wchar_t* name) {
         const KdDbMlineStyle* const found = style(name);
@@ -85,12 +74,12 @@ protected:
 TEST_F(LoadDialog, listsTheDefaultLibraryAndNeedsASelection) {
     load([&] {
         EXPECT_THAT(listed(), ElementsAre("Curb", "WALL"));
-        EXPECT_FALSE(button("pBtnOK").isEnabled());
+        EXPECT_FALSE(mayLoad());
         clickRow(1);
-        EXPECT_TRUE(button("pBtnOK").isEnabled());
+        EXPECT_TRUE(mayLoad());
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
                           QPoint(20, list().viewport()->height() - 5));
-        EXPECT_FALSE(button("pBtnOK").isEnabled());
+        EXPECT_FALSE(mayLoad());
         m_dialog->OnOK(); // nothing is selected
         EXPECT_TRUE(m_dialog->GetSafeHwnd()->isVisible());
         press("pBtnCancel");
@@ -99,23 +88,19 @@ TEST_F(LoadDialog, listsTheDefaultLibraryAndNeedsASelection) {
     EXPECT_EQ(rememberedFile(), L"");
 }
 
-TEST_F(LoadDialog, aNewStyleIsMadeAndOneThatIsThereIsOverwritten) {
-    EXPECT_EQ(load([&] {
-                  clickRow(0);
-                  press("pBtnOK");
-              }),
-              1);
+TEST_F(LoadDialog, makesANewStyleAndOverwritesOneThatIsThere) {
+    EXPECT_EQ(load([&] { loadRow(0); }), 1);
     EXPECT_TRUE(m_dialog->m_chosenName == L"Curb");
     EXPECT_EQ(m_dialog->m_styleId, styleId(L"Curb"));
     ASSERT_EQ(description(L"Curb"), L"loaded");
     EXPECT_STREQ(style(L"Curb")->name(), L"Curb");
     EXPECT_EQ(style(L"Curb")->numElements(), 1);
-    EXPECT_TRUE(style(L"Curb")->showMiters());
 
     const KdDbObjectId wall = styleId(L"Wall");
     EXPECT_EQ(load([&] {
                   clickRow(1);
-                  QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, middleOf(1));
+                  QTest::mouseDClick(list().viewport(), Qt::LeftButton, {},
+                                     list().visualItemRect(list().item(1)).center());
               }),
               1);
     EXPECT_EQ(styleId(L"WALL"), wall);
@@ -125,37 +110,26 @@ TEST_F(LoadDialog, aNewStyleIsMadeAndOneThatIsThereIsOverwritten) {
 
 TEST_F(LoadDialog, aStyleInUseIsLeftAlone) {
     use("Wall");
-    EXPECT_EQ(load([&] {
-                  clickRow(1);
-                  press("pBtnOK");
-                  EXPECT_TRUE(m_dialog->GetSafeHwnd()->isVisible());
-                  EXPECT_EQ(description(L"Wall"), L"mine");
-                  clickRow(0);
-                  press("pBtnOK");
-              }),
-              1);
+    load([&] {
+        loadRow(1);
+        EXPECT_TRUE(m_dialog->GetSafeHwnd()->isVisible());
+        loadRow(0);
+    });
     EXPECT_EQ(description(L"Wall"), L"mine");
     EXPECT_EQ(description(L"Curb"), L"loaded");
 }
 
 // Whatever stands below a line "2" is listed.
-TEST_F(LoadDialog, aStyleWithoutABlockKeepsWhatANewOneHas) {
+TEST_F(LoadDialog, aStyleWithoutABlockHasTheElementsOfANewOne) {
     write("Support/ORVEX.mln", "2\n Ghost\n" + block("Curb"));
-    load([&] {
-        clickRow(0);
-        press("pBtnOK");
-    });
+    load([&] { loadRow(0); });
     ASSERT_EQ(description(L"Ghost"), L"");
-    ASSERT_EQ(style(L"Ghost")->numElements(), 2);
-    for (const int index : {0, 1}) {
-        double offset = 0.0;
-        KdCmColor color;
-        KdDbObjectId linetype;
-        (void)style(L"Ghost")->getElementAt(index, offset, color, linetype);
-        EXPECT_EQ(offset, index == 0 ? 0.5 : -0.5);
-        EXPECT_EQ(color.colorIndex(), 256);
-        EXPECT_FALSE(linetype.isNull());
-    }
+    const auto& elements = style(L"Ghost")->values().elements;
+    ASSERT_EQ(elements.size(), 2U);
+    EXPECT_EQ(elements[0].offset, 0.5);
+    EXPECT_EQ(elements[1].offset, -0.5);
+    EXPECT_EQ(elements[1].color.colorIndex(), 256);
+    EXPECT_FALSE(elements[1].linetype.isNull());
 }
 
 TEST_F(LoadDialog, enterAndBlankCancelWhereverTheFocusIs) {
@@ -189,12 +163,12 @@ TEST_F(LoadDialog, remembersAChosenFileAtOnce) {
         press("pBtnFile");
         EXPECT_EQ(rememberedFile(), gone);
         EXPECT_THAT(listed(), ElementsAre("Curb", "WALL"));
-        EXPECT_TRUE(button("pBtnOK").isEnabled());
+        EXPECT_TRUE(mayLoad());
 
         m_chooser.choice = other;
         press("pBtnFile");
         EXPECT_THAT(listed(), ElementsAre("Kerb"));
-        EXPECT_FALSE(button("pBtnOK").isEnabled());
+        EXPECT_FALSE(mayLoad());
         press("pBtnCancel");
     });
     EXPECT_EQ(rememberedFile(), other);
@@ -206,24 +180,21 @@ TEST_F(LoadDialog, remembersAChosenFileAtOnce) {
     fs::remove(other);
     load([&] {
         EXPECT_THAT(listed(), IsEmpty());
-        EXPECT_FALSE(button("pBtnOK").isEnabled());
+        EXPECT_FALSE(mayLoad());
         press("pBtnCancel");
     });
 }
 
 TEST_F(LoadDialog, keepsItsPlaceWhenAStyleIsLoaded) {
     const QRect place(140, 110, 450, 320);
-    load([&] {
-        m_dialog->GetSafeHwnd()->setGeometry(place);
-        press("pBtnCancel");
-    });
-    EXPECT_EQ(setting(L"MlstyleLoadDlgPosLeft"), -10000);
-    load([&] {
-        m_dialog->GetSafeHwnd()->setGeometry(place);
-        clickRow(0);
-        press("pBtnOK");
-    });
-    EXPECT_EQ(setting(L"MlstyleLoadDlgPosRight"), 590);
+    for (const bool loads : {false, true}) {
+        load([&] {
+            m_dialog->GetSafeHwnd()->setGeometry(place);
+            clickRow(0);
+            press(loads ? "pBtnOK" : "pBtnCancel");
+        });
+        EXPECT_EQ(setting(L"MlstyleLoadDlgPosRight"), loads ? 590 : -10000);
+    }
     load([&] {
         EXPECT_EQ(m_dialog->GetSafeHwnd()->geometry(), place);
         press("pBtnCancel");

@@ -6,15 +6,13 @@
 #include "dialogRun.h"
 #include "hostHeap.h"
 #include "promptStatus.h"
+#include "resourceLibrary.h"
 #include "styleSample.h"
 #include "systemVariables.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTextEdit>
 
 #include <gmock/gmock.h>
@@ -24,8 +22,10 @@
 
 namespace fs = std::filesystem;
 using orvex::testing::child;
+using orvex::testing::inNextDialog;
 using orvex::testing::runDialog;
 using orvex::testing::StyleWorld;
+using orvex::testing::textsOf;
 using testing::ElementsAre;
 
 namespace {
@@ -46,20 +46,6 @@ std::wstring variable(const wchar_t* name) {
     return text;
 }
 
-// Acts in whatever opens on top of the manager.
-template <class Act>
-void inNextDialog(Act act) {
-    QTimer::singleShot(0, qApp, [act] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
-        act(*dialog);
-    });
-}
-
-void press(const QWidget& dialog, const char* name) {
-    QTest::mouseClick(dialog.findChild<QPushButton*>(name), Qt::LeftButton);
-}
-
 class StyleManager : public StyleWorld {
 protected:
     StyleManager() {
@@ -78,37 +64,20 @@ protected:
         return child<QLabel>(*m_dialog, name).text().toStdString();
     }
     [[nodiscard]] std::string current() { return label("labelCurrentMultilineStyleResult"); }
-    [[nodiscard]] QPushButton& button(const char* name) {
-        return child<QPushButton>(*m_dialog, name);
-    }
-    void press(const char* name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
+    void press(const char* name) { orvex::testing::press(*m_dialog->GetSafeHwnd(), name); }
     void close() { press("pBtnClose"); }
-
-    void select(const char* name) {
-        const auto items = list().findItems(name, Qt::MatchExactly);
-        ASSERT_EQ(items.size(), 1) << name;
-        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, middleOf(items.front()));
-    }
-    [[nodiscard]] QPoint middleOf(QListWidgetItem* item) {
-        return list().visualItemRect(item).center();
-    }
+    void select(const char* name) { orvex::testing::clickText(list(), name); }
     [[nodiscard]] std::string selected() {
         const auto items = list().selectedItems();
         return items.isEmpty() ? "" : items.front()->text().toStdString();
     }
-    [[nodiscard]] std::vector<std::string> listed() {
-        std::vector<std::string> names;
-        for (int row = 0; row < list().count(); ++row) {
-            names.push_back(list().item(row)->text().toStdString());
-        }
-        return names;
-    }
-    // Which of Set Current, Modify, Rename and Delete are on.
+    [[nodiscard]] std::vector<std::string> listed() { return textsOf(list()); }
+    // Which of Set Current, Modify, Rename and Delete are on; New and Save always are.
     [[nodiscard]] std::string enabled() {
         std::string letters;
         for (const char* const name :
-             {"pBtnSetCurrent", "pBtnModify", "pBtnRename", "pBtnDelete"}) {
-            letters += button(name).isEnabled() ? name[4] : '-';
+             {"pBtnSetCurrent", "pBtnModify", "pBtnRename", "pBtnDelete", "pBtnNew", "pBtnSave"}) {
+            letters += child<QPushButton>(*m_dialog, name).isEnabled() ? name[4] : '-';
         }
         return letters;
     }
@@ -120,36 +89,33 @@ TEST_F(StyleManager, tellsByItsButtonsWhatMayBeDone) {
     const struct {
         const char* style;
         const wchar_t* current;
-        bool used;
-        const char* enabled;
+        const char* unused; // what is on
+        const char* used;
     } cases[] = {
-        {"Wall", L"STANDARD", false, "SMRD"},     {"Wall", L"Wall", false, "-MR-"},
-        {"Wall", L"STANDARD", true, "S---"},      {"Wall", L"Wall", true, "----"},
-        {"STANDARD", L"STANDARD", false, "-M--"}, {"STANDARD", L"Wall", false, "SM-D"},
-        {"STANDARD", L"Wall", true, "S---"},
+        {"Wall", L"STANDARD", "SMRDNS", "S---NS"},
+        {"Wall", L"Wall", "-MR-NS", "----NS"},
+        {"STANDARD", L"Wall", "SM-DNS", "S---NS"},
+        {"STANDARD", L"STANDARD", "-M--NS", "----NS"},
     };
-    for (const bool used : {false, true}) {
+    for (const bool areUsed : {false, true}) {
         for (const auto& each : cases) {
-            if (each.used != used) {
-                continue;
-            }
-            if (used) {
-                use(each.style);
-            }
             setVariable(L"CMLSTYLE", each.current);
             manage([&] {
                 select(each.style);
-                EXPECT_EQ(enabled(), each.enabled) << each.style << used;
-                EXPECT_TRUE(button("pBtnNew").isEnabled() && button("pBtnSave").isEnabled());
+                EXPECT_EQ(enabled(), areUsed ? each.used : each.unused) << each.style;
                 close();
             });
         }
+        use("Wall");
+        use("STANDARD");
     }
 }
 
 TEST_F(StyleManager, showsTheCurrentStyleFirstAndTextsAsTheyAre) {
     setVariable(L"CMLSTYLE", L"Pipe");
+    const HINSTANCE pictures = loadResourceDll(L"ORVEXRes.dll");
     manage([&] {
+        EXPECT_FALSE(list().window()->windowIcon().pixmap(32, 32).isNull());
         EXPECT_THAT(listed(), ElementsAre("STANDARD", "Wall", "Pipe", "Kerb"));
         EXPECT_EQ(current(), "Pipe");
         EXPECT_EQ(selected(), "Pipe");
@@ -160,10 +126,16 @@ TEST_F(StyleManager, showsTheCurrentStyleFirstAndTextsAsTheyAre) {
         select("Kerb");
         EXPECT_EQ(description.text(), "");
         QTest::keyClick(&list(), Qt::Key_Up); // keys change the buttons, too
-        EXPECT_EQ(enabled(), "-MR-");
+        EXPECT_EQ(enabled(), "-MR-NS");
         EXPECT_TRUE(child<QTextEdit>(*m_dialog, "textEdit").toPlainText().isEmpty());
+
+        inNextDialog([](const QWidget& loading) { orvex::testing::press(loading, "pBtnCancel"); });
+        press("pBtnLoad");
+        EXPECT_EQ(selected(), "STANDARD");
+        EXPECT_EQ(enabled(), "SM-DNS");
         close();
     });
+    AfxFreeLibrary(pictures);
 }
 
 TEST_F(StyleManager, makesAStyleCurrentAtOnce) {
@@ -171,12 +143,12 @@ TEST_F(StyleManager, makesAStyleCurrentAtOnce) {
         select("Wall");
         press("pBtnSetCurrent");
         EXPECT_EQ(current(), "Wall");
-        EXPECT_EQ(enabled(), "-MR-");
-        EXPECT_TRUE(button("pBtnNew").hasFocus());
+        EXPECT_EQ(enabled(), "-MR-NS");
+        EXPECT_EQ(list().window()->focusWidget()->objectName(), "pBtnNew");
         EXPECT_EQ(variable(L"CMLSTYLE"), L"Wall");
-        const QPoint kerb = middleOf(list().item(3));
-        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, kerb);
-        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, kerb);
+        select("Kerb");
+        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {},
+                           list().visualItemRect(list().currentItem()).center());
         EXPECT_EQ(current(), "Kerb");
         EXPECT_EQ(variable(L"CMLSTYLE"), L"Kerb");
         close();
@@ -220,30 +192,19 @@ TEST_F(StyleManager, showsARenamedStyleAsCurrentAndLeavesTheVariable) {
         select("Pipe");
         inNextDialog([](QWidget& dialog) {
             dialog.findChild<QLineEdit*>("lineEditNewStyleName")->setText("Duct");
-            ::press(dialog, "pBtnOK");
+            orvex::testing::press(dialog, "pBtnOK");
         });
         press("pBtnRename");
         EXPECT_THAT(listed(), ElementsAre("STANDARD", "Wall", "Kerb", "Duct"));
         EXPECT_EQ(selected(), "Duct");
         EXPECT_EQ(current(), "Duct");
-        EXPECT_EQ(enabled(), "-MR-");
+        EXPECT_EQ(enabled(), "-MR-NS");
         close();
     });
     EXPECT_EQ(variable(L"CMLSTYLE"), L"STANDARD");
     ASSERT_NE(style(L"Duct"), nullptr);
     EXPECT_STREQ(style(L"Duct")->name(), L"Duct");
     EXPECT_EQ(style(L"Pipe"), nullptr);
-}
-
-TEST_F(StyleManager, selectsTheStandardAfterLoading) {
-    manage([&] {
-        select("Pipe");
-        inNextDialog([](QWidget& dialog) { ::press(dialog, "pBtnCancel"); });
-        press("pBtnLoad");
-        EXPECT_EQ(selected(), "STANDARD");
-        EXPECT_EQ(enabled(), "-M--");
-        close();
-    });
 }
 
 TEST_F(StyleManager, savesTheSelectedStyleIntoTheChosenLibrary) {
@@ -306,13 +267,14 @@ TEST(StyleSample, spreadsTheElementsOverTheHeight) {
 }
 
 TEST_F(StyleManager, buildsASampleThatLeavesTheDrawingsViewBehind) {
-    EXPECT_EQ(TKL_MlstyleBitmap(100, 50, nullptr), nullptr);
-    resbuf scale;
-    kdedGetVar(L"LTSCALE", &scale);
-    EXPECT_EQ(scale.resval.rreal, 1.0);
-    EXPECT_EQ(TKL_MlstyleBitmap(100, 50, const_cast<KdDbMlineStyle*>(style(L"Wall"))), nullptr);
-    kdedGetVar(L"LTSCALE", &scale);
-    EXPECT_EQ(scale.resval.rreal, 50.0);
+    const auto scaleAfter = [](const KdDbMlineStyle* style) {
+        EXPECT_EQ(TKL_MlstyleBitmap(100, 50, const_cast<KdDbMlineStyle*>(style)), nullptr);
+        resbuf scale;
+        kdedGetVar(L"LTSCALE", &scale);
+        return scale.resval.rreal;
+    };
+    EXPECT_EQ(scaleAfter(nullptr), 1.0);
+    EXPECT_EQ(scaleAfter(style(L"Wall")), 50.0);
     EXPECT_NE(style(L"Wall"), nullptr);
 }
 

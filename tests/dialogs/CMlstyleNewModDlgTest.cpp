@@ -1,7 +1,7 @@
 #include "CMlstyleNewModDlg.h"
 
 #include "KdDbLinetypeTable.h"
-#include "ObjectContent.h"
+#include "MlineStyleContent.h"
 #include "StyleWorld.h"
 #include "dialogRun.h"
 #include "messageBeep.h"
@@ -13,7 +13,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
 
@@ -48,12 +47,13 @@ protected:
         wall.setFilled(true);
         wall.setFillColor(colour(kTrue | 0xFF8000U));
         wall.setStartAngle(45.678 * kDegree);
-        while (wall.numElements() > 0) {
-            wall.removeElementAt(0);
-        }
-        add(wall, -0.25, colour(kTrue | 0x0080FFU), L"DASHED");
-        add(wall, 0.25, colour(kIndex | 1U), L"ByBlock");
-        add(wall, 0.0, colour(kIndex | 30U), L"Continuous");
+        SetNumElements(&wall, 0);
+        add(wall, -0.25, colour(kTrue | 0x0080FFU));
+        add(wall, 0.25, colour(kIndex | 1U));
+        add(wall, 0.0, colour(kIndex | 30U));
+        std::wstring names[] = {L"DASHED", L"ByBlock", L"Continuous"};
+        wchar_t* lineTypes[] = {names[0].data(), names[1].data(), names[2].data()};
+        SetElemLtype(&wall, lineTypes, 3, curDoc()->database());
         wall.close();
     }
     ~ModifyDialog() override {
@@ -68,30 +68,22 @@ protected:
         return *found;
     }
 
-    static void add(KdDbMlineStyle& style, double offset, const KdCmColor& colour,
-                    const std::wstring& lineType) {
-        int index = style.numElements();
-        style.addElement(index, offset, colour, KdDbObjectId(), true);
-        std::vector<std::wstring> names(static_cast<std::size_t>(index) + 1, lineType);
-        std::vector<wchar_t*> pointers(names.size(), nullptr);
-        pointers.back() = names.back().data();
-        SetElemLtype(&style, pointers.data(), 1, curDoc()->database());
+    // An element of the line type that the standard's have.
+    void add(KdDbMlineStyle& to, double offset, const KdCmColor& colour) const {
+        int index = to.numElements();
+        to.addElement(index, offset, colour, style(L"STANDARD")->values().elements[0].linetype,
+                      true);
     }
 
     // "offset colour line type" of each element.
     [[nodiscard]] std::vector<std::string> elements(const wchar_t* name) const {
         std::vector<std::string> all;
-        const KdDbMlineStyle& found = *style(name);
-        for (int i = 0; i < found.numElements(); ++i) {
-            double offset = 0.0;
-            KdCmColor colour;
-            KdDbObjectId id;
-            found.getElementAt(i, offset, colour, id);
+        for (const orvex::StyleElement& each : style(name)->values().elements) {
             KdDbLinetypeTableRecord* record = nullptr;
-            kddbOpenObject(record, id, kForRead);
+            kddbOpenObject(record, each.linetype, kForRead);
             all.push_back(QString("%1 %2 %3")
-                              .arg(offset)
-                              .arg(QString::fromStdWString(colour.colorNameForDisplay()))
+                              .arg(each.offset)
+                              .arg(QString::fromStdWString(each.color.colorNameForDisplay()))
                               .arg(QString::fromStdWString(record->name()))
                               .toStdString());
         }
@@ -291,6 +283,12 @@ TEST_F(ModifyDialog, offsetsAreTakenAsTyped) {
         });
     }
     modify(L"Wall", [this] {
+        clickRow(0);
+        type("lineEditOffset", "x");
+        QTest::keyClick(&widget<QWidget>("lineEditOffset"), Qt::Key_Escape);
+    });
+    EXPECT_EQ(m_beeps, 0); // a field that is left with the dialog says nothing
+    modify(L"Wall", [this] {
         clickRow(2);
         type("lineEditOffset", "0.125");
         EXPECT_EQ(rows()[2], "0.125 DASHED 0,128,255"); // in its place while it is typed
@@ -349,7 +347,7 @@ TEST_F(ModifyDialog, aStyleHasAnyNumberOfElements) {
         KdDbMlineStyle& wall = open(L"Wall");
         SetNumElements(&wall, 0);
         for (int i = 0; i < count; ++i) {
-            add(wall, i * 0.5, colour(kIndex | 1U), L"ByLayer");
+            add(wall, i * 0.5, colour(kIndex | 1U));
         }
         modify(L"Wall", [this, count] {
             EXPECT_TRUE(
