@@ -1,4 +1,5 @@
-// MLSTYLE as a user has it: the style manager of the loaded module, with the dialogs on top of it.
+// MLEDIT and MLSTYLE as a user has them: the dialogs of the loaded module, and what is left of them
+// in the drawing.
 
 #include "DrawingFile.h"
 #include "ModuleLoader.h"
@@ -6,60 +7,30 @@
 #include "ScriptSource.h"
 #include "Session.h"
 #include "TestPaths.h"
+#include "dialogRun.h"
 
-#include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMessageBox>
 #include <QProcess>
-#include <QPushButton>
-#include <QTextEdit>
-#include <QTimer>
 
 #include <gmock/gmock.h>
 
 #include <filesystem>
 #include <fstream>
-#include <functional>
 
 namespace {
 
 namespace fs = std::filesystem;
 using orvex::Session;
-
-// Does something to the next dialog when it is there.
-void inNextDialog(const std::function<void(QWidget&)>& act) {
-    QTimer::singleShot(0, qApp, [act] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
-        act(*dialog);
-    });
-}
-
-template <class Widget>
-Widget& child(QWidget& dialog, const char* name) {
-    auto* const widget = dialog.findChild<Widget*>(name);
-    EXPECT_NE(widget, nullptr) << name;
-    return *widget;
-}
-
-void press(QWidget& dialog, const char* button) {
-    child<QPushButton>(dialog, button).click();
-}
-
-void select(QWidget& dialog, const char* list, const char* name) {
-    auto& widget = child<QListWidget>(dialog, list);
-    const auto items = widget.findItems(name, Qt::MatchExactly);
-    ASSERT_EQ(items.size(), 1) << name;
-    widget.setCurrentItem(items.front());
-    emit widget.itemClicked(items.front());
-}
+using orvex::testing::child;
+using orvex::testing::clickText;
+using orvex::testing::inNextDialog;
+using orvex::testing::press;
+using orvex::testing::textsOf;
 
 // Plays a script and, where a dialog asks for a file, gives the one that it is told.
 class User final : public orvex::PromptSource {
 public:
-    explicit User(std::string file) : m_file(std::move(file)) {}
     orvex::PromptAnswer ask(const orvex::PromptRequest& request) override {
         return script->ask(request);
     }
@@ -68,17 +39,16 @@ public:
                                            const std::wstring& /*start*/,
                                            const std::wstring& /*extension*/,
                                            int /*flags*/) override {
-        return fs::path(m_file).wstring();
+        return file.wstring();
     }
-    std::unique_ptr<orvex::ScriptSource> script;
 
-private:
-    std::string m_file;
+    std::unique_ptr<orvex::ScriptSource> script;
+    fs::path file = fs::temp_directory_path() / "own.mln";
 };
 
-class StyleCommand : public testing::Test {
+class WindowCommands : public testing::Test {
 protected:
-    StyleCommand() {
+    WindowCommands() {
         orvex::SessionSetup setup;
         setup.drawing = orvex::DrawingFile::create();
         setup.source = &m_user;
@@ -99,37 +69,55 @@ protected:
         EXPECT_FALSE(m_user.script->failure());
     }
     // One MLSTYLE; the manager is closed at the end.
-    void manage(const std::function<void(QWidget&)>& act) {
-        inNextDialog([&](QWidget& manager) {
+    template <class Act>
+    void manage(Act act) {
+        inNextDialog([&](const QWidget& manager) {
             act(manager);
             press(manager, "pBtnClose");
         });
         play("MLSTYLE\n");
     }
+    [[nodiscard]] std::string drawing() const { return m_session->drawing().bytes(); }
 
     // What a program that reads drawings finds: audit and all styles, a line each.
     std::string report() {
-        const fs::path file = m_folder / "styles.dxf";
+        const fs::path file = fs::temp_directory_path() / "styles.dxf";
         EXPECT_FALSE(m_session->drawing().save(file.string()));
+        const fs::path script = orvex::testing::sourceDir() / "tests/module/tellStyles.py";
         QProcess python;
-        python.start(ORVEX_PYTHON,
-                     {QString::fromStdString(
-                          (orvex::testing::sourceDir() / "tests/module/tellStyles.py").string()),
-                      QString::fromStdString(file.string())});
+        python.start(ORVEX_PYTHON, {script.c_str(), file.c_str()});
         EXPECT_TRUE(python.waitForFinished());
         return (python.readAllStandardOutput() + python.readAllStandardError()).toStdString();
     }
 
-    fs::path m_folder = fs::temp_directory_path();
-    User m_user{(m_folder / "own.mln").string()};
+    User m_user;
     orvex::ModuleLoader m_modules;
     std::unique_ptr<Session> m_session;
 };
 
-void makeStyle(QWidget& manager, const char* name, const char* description) {
-    inNextDialog([=](QWidget& naming) {
+TEST_F(WindowCommands, thePaletteRunsTheToolOfItsButtonAfterItHasClosed) {
+    play("SETVAR\nCMLSCALE\n1\nMLINE\n0,0\n10,0\n\nMLINE\n5,-5\n5,5\n\nZOOM\nE\n");
+    const std::string picks = "2,0\n5,-3\n\n"; // justification top: an element lies on the chain
+    const std::string untouched = drawing();
+    for (const auto& [button, keyword] :
+         {std::pair{"closedCrossBtn", "CC"}, {"cornerJointBtn", "CJ"}}) {
+        inNextDialog([name = button](const QWidget& palette) { press(palette, name); });
+        play("MLEDIT\n" + picks);
+        const std::string byPalette = drawing();
+        EXPECT_NE(byPalette, untouched);
+        play("U\n-MLEDIT\n" + (keyword + ("\n" + picks)));
+        EXPECT_EQ(drawing(), byPalette);
+        play("U\n");
+    }
+    inNextDialog([](const QWidget& palette) { press(palette, "closeBtn"); });
+    play("MLEDIT\nZOOM\nE\n"); // no tool asks
+    EXPECT_EQ(drawing(), untouched);
+}
+
+void makeStyle(const QWidget& manager, const char* name, const char* description) {
+    inNextDialog([=](const QWidget& naming) {
         child<QLineEdit>(naming, "lineEditNewStyleName").setText(name);
-        inNextDialog([=](QWidget& making) {
+        inNextDialog([=](const QWidget& making) {
             child<QLineEdit>(making, "lEditDescription").setText(description);
             press(making, "pBtnAdd"); // a third element
             press(making, "pBtnOK");
@@ -139,82 +127,75 @@ void makeStyle(QWidget& manager, const char* name, const char* description) {
     press(manager, "pBtnNew");
 }
 
-void answerYes(QWidget& box) {
-    dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
-}
-
-TEST_F(StyleCommand, leavesADrawingThatOthersReadAndThatOneUndoTakesBack) {
-    const std::string before = m_session->drawing().bytes();
+TEST_F(WindowCommands, stylesAreLeftAsOthersReadThemAndOneUndoTakesThemBack) {
+    const std::string before = drawing();
     EXPECT_EQ(report(), "current STANDARD\nSTANDARD, 2 elements, \n");
-    manage([](QWidget& manager) {
+    manage([](const QWidget& manager) {
+        const auto& styles = child<QListWidget>(manager, "listWidgetStyles");
         makeStyle(manager, "WALL", "brick");
         makeStyle(manager, "TEMP", ""); // starts with the one before
         makeStyle(manager, "GONE", "");
 
-        select(manager, "listWidgetStyles", "TEMP");
-        inNextDialog([](QWidget& naming) {
+        clickText(styles, "TEMP");
+        inNextDialog([](const QWidget& naming) {
             child<QLineEdit>(naming, "lineEditNewStyleName").setText("KERB");
             press(naming, "pBtnOK");
         });
         press(manager, "pBtnRename");
 
-        select(manager, "listWidgetStyles", "GONE");
-        inNextDialog(answerYes);
+        clickText(styles, "GONE");
+        inNextDialog([](QWidget& box) {
+            dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
+        });
         press(manager, "pBtnDelete");
 
-        select(manager, "listWidgetStyles", "WALL");
-        inNextDialog([](QWidget& changing) {
+        clickText(styles, "WALL");
+        inNextDialog([](const QWidget& changing) {
             child<QLineEdit>(changing, "lEditDescription").setText("brick, 240 mm");
             press(changing, "pBtnOK");
         });
         press(manager, "pBtnModify");
 
-        inNextDialog([](QWidget& loading) {
-            select(loading, "listWidget", "RAILWAY");
+        inNextDialog([](const QWidget& loading) {
+            clickText(child<QListWidget>(loading, "listWidget"), "RAILWAY");
             press(loading, "pBtnOK");
         });
         press(manager, "pBtnLoad");
 
-        select(manager, "listWidgetStyles", "WALL");
+        clickText(styles, "WALL");
         press(manager, "pBtnSetCurrent");
         press(manager, "pBtnSave");
     });
     EXPECT_EQ(report(), "current WALL\nSTANDARD, 2 elements, \nWALL, 3 elements, brick, 240 mm\n"
                         "KERB, 4 elements, \nRAILWAY, 5 elements, Track of 1435 mm: rail heads of "
                         "70 mm and the centre line\n");
-    std::ifstream library(m_folder / "own.mln");
     std::string line;
-    std::getline(library, line);
+    std::getline(std::ifstream(m_user.file) >> std::ws, line);
     EXPECT_EQ(line, "MLSTYLE");
 
     play("MLINE\n0,0\n10,0\n\n");
     EXPECT_THAT(report(), testing::EndsWith("multiline of WALL\n"));
-    manage([](QWidget& manager) {
-        select(manager, "listWidgetStyles", "WALL"); // in use now
-        EXPECT_FALSE(child<QPushButton>(manager, "pBtnModify").isEnabled());
-        EXPECT_FALSE(child<QPushButton>(manager, "pBtnRename").isEnabled());
-    });
     play("U\nU\n");
-    EXPECT_EQ(m_session->drawing().bytes(), before);
+    EXPECT_EQ(drawing(), before);
 }
 
 // What is cancelled is as if it had never been begun.
-TEST_F(StyleCommand, changesNothingWhereEverythingIsCancelled) {
-    const std::string before = m_session->drawing().bytes();
-    manage([](QWidget& manager) {
-        inNextDialog([](QWidget& naming) {
+TEST_F(WindowCommands, changesNothingWhereEverythingIsCancelled) {
+    const std::string before = drawing();
+    manage([](const QWidget& manager) {
+        inNextDialog([](const QWidget& naming) {
             child<QLineEdit>(naming, "lineEditNewStyleName").setText("WALL");
-            inNextDialog([](QWidget& making) { press(making, "pBtnCancel"); });
+            inNextDialog([](const QWidget& making) { press(making, "pBtnCancel"); });
             press(naming, "pBtnContinue");
         });
         press(manager, "pBtnNew");
-        EXPECT_EQ(child<QListWidget>(manager, "listWidgetStyles").count(), 1);
+        EXPECT_EQ(textsOf(child<QListWidget>(manager, "listWidgetStyles")).size(), 1U);
         for (const char* const button : {"pBtnModify", "pBtnLoad"}) {
-            inNextDialog([](QWidget& dialog) { press(dialog, "pBtnCancel"); });
+            inNextDialog([](const QWidget& dialog) { press(dialog, "pBtnCancel"); });
             press(manager, button);
         }
     });
-    EXPECT_EQ(m_session->drawing().bytes(), before);
+    EXPECT_EQ(drawing(), before);
 }
 
 } // namespace
