@@ -59,17 +59,21 @@ TEST(CDialog, refusesWithoutViewAndWhenTheLogicDoesNotStart) {
 
 TEST(CDialog, nestsAndDoesNotRunTwice) {
     Logic outer;
-    int again = 0;
-    int inner = 0;
+    int outerKeys = 0;
+    outer.onKey = [&](tagMSG&) { return ++outerKeys > 0; };
     const int result = outer.runWith([&] {
-        again = outer.DoModal();
-        Logic nested;
-        inner = nested.runWith([&] { nested.OnOK(); });
+        EXPECT_EQ(outer.DoModal(), -1);
+        Logic inner;
+        inner.onKey = [&](tagMSG&) {
+            inner.OnOK();
+            return true;
+        };
+        const auto press = [&] { QTest::keyClick(&inner.view(), Qt::Key_Return); };
+        EXPECT_EQ(inner.runWith(press), 1);
+        EXPECT_EQ(outerKeys, 0); // a dialog on top keeps its keys
         EXPECT_EQ(CWnd::FromHandle(&outer.view()), &outer);
         outer.OnCancel();
     });
-    EXPECT_EQ(again, -1);
-    EXPECT_EQ(inner, 1);
     EXPECT_EQ(result, 2);
 }
 

@@ -1,18 +1,9 @@
 #pragma once
 
 #include "CDialog.h"
-
-#include <QApplication>
-#include <QDialog>
-#include <QTest>
-#include <QTimer>
-
-#include <gtest/gtest.h>
+#include "dialogRun.h"
 
 #include <functional>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace orvex::testing {
 
@@ -54,11 +45,9 @@ public:
     }
 
     // Runs the dialog, with `act` as soon as its window is active.
-    int runWith(std::function<void()> act) {
-        QTimer::singleShot(0, m_view, [this, act = std::move(act)] {
-            EXPECT_TRUE(QTest::qWaitForWindowActive(m_view));
-            act();
-        });
+    template <class Act>
+    int runWith(Act act) {
+        whenActive(*m_view, std::move(act));
         return DoModal();
     }
 

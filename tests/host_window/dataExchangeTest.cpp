@@ -1,10 +1,8 @@
-#include "CComboBox.h"
 #include "CDataExchange.h"
 #include "CEdit.h"
 #include "DialogPair.h"
 #include "messageBeep.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 
 #include <gtest/gtest.h>
@@ -33,24 +31,6 @@ public:
     void PreSubclassWindow() override { ++bindings; }
     int bindings = 0;
 };
-
-TEST(DataExchange, aComboIsLoadedByWholeTextIgnoringCase) {
-    Logic logic;
-    auto& combo = logic.add<QComboBox>(1036);
-    CStdStr<wchar_t> name = L"standard";
-    logic.onExchange = [&](CDataExchange* exchange) { DDX_CBString(exchange, 1036, name); };
-    CComboBox control;
-    control.SubclassDlgItem(1036, &logic);
-    control.AddString(L"STANDARD2");
-    control.AddString(L"STANDARD");
-    EXPECT_TRUE(logic.UpdateData(false));
-    EXPECT_EQ(combo.currentIndex(), 1);
-    name = L"STAN";
-    logic.UpdateData(false);
-    EXPECT_EQ(combo.currentIndex(), 1);
-    logic.UpdateData(true);
-    EXPECT_STREQ(name, L"STANDARD");
-}
 
 TEST(DataExchange, aFailureEndsItWithOneBeepAndLeavesTheFocus) {
     Logic logic;

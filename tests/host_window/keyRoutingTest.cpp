@@ -42,10 +42,7 @@ TEST(KeyRouting, pressesReachTheLogicOnceBeforeQt) {
 TEST(KeyRouting, releasesAndRepeatsAreNotShown) {
     Logic logic;
     int seen = 0;
-    logic.onKey = [&](tagMSG&) {
-        ++seen;
-        return true;
-    };
+    logic.onKey = [&](tagMSG&) { return ++seen > 0; };
     logic.runWith([&] {
         QTest::keyRelease(&logic.view(), Qt::Key_Return);
         QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
@@ -57,25 +54,6 @@ TEST(KeyRouting, releasesAndRepeatsAreNotShown) {
     });
     QTest::keyClick(&logic.view(), Qt::Key_Return);
     EXPECT_EQ(seen, 1);
-}
-
-TEST(KeyRouting, aDialogOnTopKeepsItsKeys) {
-    Logic outer;
-    Logic inner;
-    int outerKeys = 0;
-    int innerKeys = 0;
-    outer.onKey = [&](tagMSG&) { return ++outerKeys > 0; };
-    inner.onKey = [&](tagMSG&) {
-        ++innerKeys;
-        inner.OnCancel();
-        return true;
-    };
-    outer.runWith([&] {
-        inner.runWith([&] { QTest::keyClick(&inner.view(), Qt::Key_Return); });
-        outer.OnCancel();
-    });
-    EXPECT_EQ(innerKeys, 1);
-    EXPECT_EQ(outerKeys, 0);
 }
 
 } // namespace
