@@ -1,20 +1,9 @@
 #include "QBaseDialog.h"
-#include "CDialog.h"
+#include "dialogRun.h"
 
-#include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMainWindow>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
 #include <QWindow>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <utility>
 
 namespace {
 
@@ -35,11 +24,9 @@ public:
         }
     }
 
-    int runWith(std::function<void()> act) {
-        QTimer::singleShot(0, this, [this, act = std::move(act)] {
-            EXPECT_TRUE(QTest::qWaitForWindowActive(this));
-            act();
-        });
+    template <class Act>
+    int runWith(Act act) {
+        orvex::testing::whenActive(*this, std::move(act));
         return exec();
     }
 
@@ -51,17 +38,16 @@ public:
 };
 
 TEST(BaseDialog, everyWayOutGoesThroughCancel) {
-    struct Case {
+    const struct {
         const char* what;
         void (*leave)(Dialog&);
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"Escape", [](Dialog& dialog) { QTest::keyClick(dialog.list, Qt::Key_Escape); }},
         {"the close control", [](Dialog& dialog) { dialog.close(); }},
         {"reject", [](Dialog& dialog) { dialog.reject(); }},
         {"the window system", [](Dialog& dialog) { dialog.windowHandle()->close(); }},
     };
-    for (const Case& each : cases) {
+    for (const auto& each : cases) {
         Dialog dialog;
         dialog.stays = true;
         const int result = dialog.runWith([&] {
@@ -120,79 +106,6 @@ TEST(BaseDialog, staysAboveTheWindowItWasOpenedFrom) {
         });
         dialog.reject();
     });
-}
-
-// A pair as dialogs are built: the view forwards, the logic decides.
-class Logic : public CDialog {
-public:
-    Logic() : CDialog(105) {
-        class View : public QBaseDialog {
-        public:
-            void OnOK() override {
-                if (auto* logic = dynamic_cast<Logic*>(FromHandle(this))) {
-                    logic->OnOK();
-                }
-            }
-            void OnCancel() override {
-                if (auto* logic = dynamic_cast<Logic*>(FromHandle(this))) {
-                    logic->OnCancel();
-                }
-            }
-        };
-        view = new View;
-        field = new QLineEdit(view);
-        accept = new QPushButton(view);
-        QObject::connect(field, &QLineEdit::editingFinished, view, [this] {
-            if (FromHandle(view) != nullptr) {
-                ++finished;
-            }
-        });
-        SetHandle(view);
-        SetAutoDelete(true, true);
-        SetDlgItem(1050, field);
-        SetDlgItem(1, accept);
-    }
-    void OnCancel() override {
-        ++cancels;
-        CDialog::OnCancel();
-    }
-
-    int runWith(std::function<void()> act) {
-        QTimer::singleShot(0, view, [this, act = std::move(act)] {
-            EXPECT_TRUE(QTest::qWaitForWindowActive(view));
-            act();
-        });
-        return DoModal();
-    }
-
-    QBaseDialog* view = nullptr;
-    QLineEdit* field = nullptr;
-    QPushButton* accept = nullptr;
-    int cancels = 0;
-    int finished = 0;
-};
-
-TEST(DialogPair, cancelReachesTheLogicOnceAndAFieldInUseIsSilent) {
-    Logic logic;
-    const int result = logic.runWith([&] {
-        logic.field->setFocus();
-        QTest::keyClicks(logic.field, "12");
-        QTest::keyClick(logic.field, Qt::Key_Escape);
-    });
-    QApplication::processEvents();
-    EXPECT_EQ(result, 2);
-    EXPECT_EQ(logic.cancels, 1);
-    EXPECT_EQ(logic.finished, 0);
-}
-
-TEST(DialogPair, enterInAFieldAcceptsAfterItsEditing) {
-    Logic logic;
-    const int result = logic.runWith([&] {
-        logic.field->setFocus();
-        QTest::keyClick(logic.field, Qt::Key_Return);
-    });
-    EXPECT_EQ(result, 1);
-    EXPECT_EQ(logic.finished, 1);
 }
 
 } // namespace

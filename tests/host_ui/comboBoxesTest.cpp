@@ -56,6 +56,14 @@ private:
     orvex::DrawingChoices* m_before;
 };
 
+QStringList textsOf(const QComboBox& box) {
+    QStringList all;
+    for (int index = 0; index < box.count(); ++index) {
+        all << box.itemText(index);
+    }
+    return all;
+}
+
 class ComboBoxes : public ::testing::Test {
 protected:
     ComboBoxes() : widget(new VOUI::MRUComboBox(&view)), logic(105) {
@@ -66,13 +74,6 @@ protected:
         view.show();
     }
 
-    [[nodiscard]] QStringList texts() const {
-        QStringList all;
-        for (int index = 0; index < widget->count(); ++index) {
-            all << widget->itemText(index);
-        }
-        return all;
-    }
     // As the user does: opens the list and clicks an entry.
     void choose(int index) {
         widget->showPopup();
@@ -93,16 +94,15 @@ protected:
 };
 
 TEST_F(ComboBoxes, coloursStandUnderTheirNames) {
-    EXPECT_EQ(texts(), QStringList({"VonLayer", "VonBlock", "1", "2", "3", "4", "5", "6", "7",
-                                    "More Colors..."}));
-    struct Case {
-        KdCmColor colour;
-        int index;
-    };
-    const Case cases[] = {{indexed(256), 0}, {indexed(0), 1},  {indexed(1), 2},
-                          {indexed(7), 8},   {indexed(8), -1}, {trueColour(0xFF0000), -1}};
-    for (const Case& each : cases) {
-        EXPECT_EQ(colours.FindItemByColor(each.colour), each.index);
+    EXPECT_EQ(textsOf(*widget), QStringList({"VonLayer", "VonBlock", "1", "2", "3", "4", "5", "6",
+                                             "7", "More Colors..."}));
+    for (const auto& [colour, index] : {std::pair{indexed(256), 0},
+                                        {indexed(0), 1},
+                                        {indexed(1), 2},
+                                        {indexed(7), 8},
+                                        {indexed(8), -1},
+                                        {trueColour(0xFF0000), -1}}) {
+        EXPECT_EQ(colours.FindItemByColor(colour), index);
     }
     // Swatches show the colours themselves.
     const QImage red = widget->itemIcon(2).pixmap(20, 12).toImage();
@@ -173,11 +173,7 @@ TEST_F(ComboBoxes, lineTypesStandUnderLocalNamesWithSamples) {
     QSignalSpy told(box, &VOUI::MRUComboBox::selChanged);
     CKdUiLineTypeComboBox lineTypes;
     lineTypes.SubclassDlgItem(1055, &logic);
-    QStringList names;
-    for (int index = 0; index < box->count(); ++index) {
-        names << box->itemText(index);
-    }
-    EXPECT_EQ(names,
+    EXPECT_EQ(textsOf(*box),
               QStringList({"VonLayer", "VonBlock", "Continuous", "DASHED", "DOT", "BROKEN"}));
     EXPECT_EQ(lineTypes.GetCurSel(), -1);
     lineTypes.SetCurSel(lineTypes.FindString(-1, L"dashed"));
@@ -188,21 +184,18 @@ TEST_F(ComboBoxes, lineTypesStandUnderLocalNamesWithSamples) {
     const auto inkAt = [box](int index, int x) {
         return box->itemIcon(index).pixmap(64, 12).toImage().pixelColor(x, 6).alpha() > 0;
     };
-    struct Case {
-        int index;
-        std::vector<int> ink;
-        std::vector<int> gap;
+    const std::tuple<int, std::vector<int>, std::vector<int>> inkAndGaps[] = {
+        {2, {0, 31, 63}, {}},
+        {3, {1, 9, 17, 25, 57}, {12, 14, 28, 46, 62}},
+        {4, {0, 16, 32, 48}, {4, 12, 30, 40, 60}},
+        {5, {0, 31, 63}, {}}, // no length that could be shown
     };
-    const Case cases[] = {{2, {0, 31, 63}, {}},
-                          {3, {1, 9, 17, 25, 57}, {12, 14, 28, 46, 62}},
-                          {4, {0, 16, 32, 48}, {4, 12, 30, 40, 60}},
-                          {5, {0, 31, 63}, {}}}; // no length that could be shown
-    for (const Case& each : cases) {
-        for (const int x : each.ink) {
-            EXPECT_TRUE(inkAt(each.index, x)) << each.index << ' ' << x;
+    for (const auto& [index, ink, gaps] : inkAndGaps) {
+        for (const int x : ink) {
+            EXPECT_TRUE(inkAt(index, x)) << index << ' ' << x;
         }
-        for (const int x : each.gap) {
-            EXPECT_FALSE(inkAt(each.index, x)) << each.index << ' ' << x;
+        for (const int x : gaps) {
+            EXPECT_FALSE(inkAt(index, x)) << index << ' ' << x;
         }
     }
 }
