@@ -25,11 +25,6 @@ protected:
         list.SubclassDlgItem(1046, &logic);
     }
 
-    void addRows(const Texts& numbers) {
-        for (const std::wstring& each : numbers) {
-            list.AddItem(each.c_str(), L"line", each.c_str());
-        }
-    }
     [[nodiscard]] Texts column(int index) const {
         Texts all;
         for (int row = 0; row < list.GetItemCount(); ++row) {
@@ -76,8 +71,8 @@ TEST_F(SortListCtrl, headingsComeFromNamesAndWidths) {
 
 TEST_F(SortListCtrl, sortsEachColumnByItsNumbersAndKeepsTheOrderOfEqualOnes) {
     list.SetHeadings(CStdStr<wchar_t>(L"A,50;B,50;C,50"));
-    addRows({L"-0.5", L"0.5", L"0", L"text", L"1e2", L"-"});
-    for (int row = 0; row < list.GetItemCount(); ++row) {
+    for (const wchar_t* number : {L"-0.5", L"0.5", L"0", L"text", L"1e2", L"-"}) {
+        const int row = list.AddItem(number, L"line", number);
         EXPECT_TRUE(list.SetItemData(row, 100 + row));
     }
     list.Sort(0, false);
@@ -116,12 +111,12 @@ TEST_F(SortListCtrl, whatAProfileSaysOfColumnsIsLeftAside) {
     orvex::setProfileStore(nullptr);
     list.SetHeadings(CStdStr<wchar_t>(L"A,50;B,60"));
     const unsigned char odd[] = {0xFF, 0, 0xFF};
-    unsigned char* stored = nullptr;
-    unsigned size = 0;
     AfxGetApp()->WriteProfileBinary(L"ListCtrls", L"1046", odd, sizeof odd);
     list.LoadColumnInfo();
     EXPECT_EQ(list.GetColumnWidth(1), 60);
     list.SaveColumnInfo();
+    unsigned char* stored = nullptr;
+    unsigned size = 0;
     EXPECT_FALSE(AfxGetApp()->GetProfileBinary(L"ListCtrls", L"1046", &stored, &size));
     orvex::setProfileStore(nullptr);
 }
