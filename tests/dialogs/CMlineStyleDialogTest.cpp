@@ -30,17 +30,9 @@ using testing::ElementsAre;
 
 namespace {
 
-void setVariable(const wchar_t* name, const wchar_t* text) {
+std::wstring currentStyle() {
     resbuf value;
-    value.restype = kResultText;
-    kdutNewString(text, value.resval.rstring);
-    EXPECT_EQ(kdedSetVar(name, &value), kPromptNormal);
-    kdutDelString(value.resval.rstring);
-}
-
-std::wstring variable(const wchar_t* name) {
-    resbuf value;
-    EXPECT_EQ(kdedGetVar(name, &value), kPromptNormal);
+    EXPECT_EQ(kdedGetVar(L"CMLSTYLE", &value), kPromptNormal);
     const std::wstring text = value.resval.rstring;
     rvex_free(value.resval.rstring);
     return text;
@@ -88,18 +80,18 @@ protected:
 TEST_F(StyleManager, tellsByItsButtonsWhatMayBeDone) {
     const struct {
         const char* style;
-        const wchar_t* current;
+        const char* current;
         const char* unused; // what is on
         const char* used;
     } cases[] = {
-        {"Wall", L"STANDARD", "SMRDNS", "S---NS"},
-        {"Wall", L"Wall", "-MR-NS", "----NS"},
-        {"STANDARD", L"Wall", "SM-DNS", "S---NS"},
-        {"STANDARD", L"STANDARD", "-M--NS", "----NS"},
+        {"Wall", "STANDARD", "SMRDNS", "S---NS"},
+        {"Wall", "Wall", "-MR-NS", "----NS"},
+        {"STANDARD", "Wall", "SM-DNS", "S---NS"},
+        {"STANDARD", "STANDARD", "-M--NS", "----NS"},
     };
     for (const bool areUsed : {false, true}) {
         for (const auto& each : cases) {
-            setVariable(L"CMLSTYLE", each.current);
+            makeCurrent(each.current);
             manage([&] {
                 select(each.style);
                 EXPECT_EQ(enabled(), areUsed ? each.used : each.unused) << each.style;
@@ -112,7 +104,7 @@ TEST_F(StyleManager, tellsByItsButtonsWhatMayBeDone) {
 }
 
 TEST_F(StyleManager, showsTheCurrentStyleFirstAndTextsAsTheyAre) {
-    setVariable(L"CMLSTYLE", L"Pipe");
+    makeCurrent("Pipe");
     const HINSTANCE pictures = loadResourceDll(L"ORVEXRes.dll");
     manage([&] {
         EXPECT_FALSE(list().window()->windowIcon().pixmap(32, 32).isNull());
@@ -145,19 +137,19 @@ TEST_F(StyleManager, makesAStyleCurrentAtOnce) {
         EXPECT_EQ(current(), "Wall");
         EXPECT_EQ(enabled(), "-MR-NS");
         EXPECT_EQ(list().window()->focusWidget()->objectName(), "pBtnNew");
-        EXPECT_EQ(variable(L"CMLSTYLE"), L"Wall");
+        EXPECT_EQ(currentStyle(), L"Wall");
         select("Kerb");
         QTest::mouseDClick(list().viewport(), Qt::LeftButton, {},
                            list().visualItemRect(list().currentItem()).center());
         EXPECT_EQ(current(), "Kerb");
-        EXPECT_EQ(variable(L"CMLSTYLE"), L"Kerb");
+        EXPECT_EQ(currentStyle(), L"Kerb");
         close();
     });
-    EXPECT_EQ(variable(L"CMLSTYLE"), L"Kerb");
+    EXPECT_EQ(currentStyle(), L"Kerb");
 }
 
 TEST_F(StyleManager, deletesAfterAQuestionAndNeverTheStandard) {
-    setVariable(L"CMLSTYLE", L"Kerb");
+    makeCurrent("Kerb");
     const auto answer = [](QMessageBox::StandardButton wanted) {
         inNextDialog([wanted](QWidget& dialog) {
             auto* const box = qobject_cast<QMessageBox*>(&dialog);
@@ -201,7 +193,7 @@ TEST_F(StyleManager, showsARenamedStyleAsCurrentAndLeavesTheVariable) {
         EXPECT_EQ(enabled(), "-MR-NS");
         close();
     });
-    EXPECT_EQ(variable(L"CMLSTYLE"), L"STANDARD");
+    EXPECT_EQ(currentStyle(), L"STANDARD");
     ASSERT_NE(style(L"Duct"), nullptr);
     EXPECT_STREQ(style(L"Duct")->name(), L"Duct");
     EXPECT_EQ(style(L"Pipe"), nullptr);

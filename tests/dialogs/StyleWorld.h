@@ -66,14 +66,17 @@ protected:
         made.release()->close();
     }
 
-    // Draws a multiline in that style.
-    void use(const std::string& name) {
-        ScriptSource script("MLINE\nST\n" + name + "\n0,0\n10,0\n\n", [](const std::wstring&) {});
+    void play(const std::string& text) {
+        ScriptSource script(text, [](const std::wstring&) {});
         m_session.setSource(&script);
         EXPECT_EQ(m_session.run(m_session.askCommand()).outcome, Session::Outcome::done);
         EXPECT_FALSE(script.failure());
         m_session.setSource(&m_chooser);
     }
+
+    // Draws a multiline in that style.
+    void use(const std::string& name) { play("MLINE\nST\n" + name + "\n0,0\n10,0\n\n"); }
+    void makeCurrent(const std::string& name) { play("SETVAR\nCMLSTYLE\n" + name + "\n"); }
 
     static int setting(const std::wstring& key) {
         return AfxGetApp()->GetProfileInt(L"Settings", key.c_str(), -10000);
