@@ -42,15 +42,12 @@ TEST(CWnd, aReadIsCutAndTerminated) {
     logic.add<QLineEdit>(1);
     CWnd* const field = logic.GetDlgItem(1);
     field->SetWindowTextW(L"abcdef");
-    struct Case {
-        int max;
-        const wchar_t* result;
-    };
-    for (const Case& each : {Case{7, L"abcdef"}, Case{4, L"abc"}, Case{1, L""}, Case{0, L"zzz"}}) {
+    for (const auto& [max, result] :
+         {std::pair{7, L"abcdef"}, {4, L"abc"}, {1, L""}, {0, L"zzz"}}) {
         wchar_t buffer[8] = L"zzz";
-        const int length = field->GetWindowTextW(buffer, each.max);
-        EXPECT_STREQ(buffer, each.result) << each.max;
-        EXPECT_EQ(length, each.max > 0 ? static_cast<int>(std::wcslen(each.result)) : 0);
+        const int length = field->GetWindowTextW(buffer, max);
+        EXPECT_STREQ(buffer, result) << max;
+        EXPECT_EQ(length, max > 0 ? static_cast<int>(std::wcslen(result)) : 0);
     }
     EXPECT_EQ(field->GetWindowTextW(nullptr, 5), 0);
 }
@@ -120,22 +117,18 @@ TEST(CWnd, messageBoxesAnswerByNumberInPlainText) {
         {0, QMessageBox::Ok, 1},   {1, QMessageBox::Cancel, 2}, {3, QMessageBox::NoButton, 2},
     };
     for (const Case& each : cases) {
-        Logic logic;
-        int answer = 0;
-        QTimer::singleShot(0, [&] {
-            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(box, nullptr);
-            EXPECT_EQ(box->textFormat(), Qt::PlainText);
-            EXPECT_EQ(box->text(), "Delete \"<b>A</b>\"?");
+        orvex::testing::inNextDialog([&](QWidget& dialog) {
+            auto& box = dynamic_cast<QMessageBox&>(dialog);
+            EXPECT_EQ(box.textFormat(), Qt::PlainText);
+            EXPECT_EQ(box.text(), "Delete \"<b>A</b>\"?");
             if (each.press == QMessageBox::NoButton) {
-                QTest::keyClick(box, Qt::Key_Escape);
+                QTest::keyClick(&box, Qt::Key_Escape);
             } else {
-                box->button(each.press)->click();
+                box.button(each.press)->click();
             }
         });
-        answer = logic.MessageBoxW(L"Delete \"<b>A</b>\"?", each.flags == 0 ? nullptr : L"ORVEX",
-                                   each.flags);
-        EXPECT_EQ(answer, each.answer) << each.flags << " " << each.press;
+        EXPECT_EQ(Logic().MessageBoxW(L"Delete \"<b>A</b>\"?", L"ORVEX", each.flags), each.answer)
+            << each.flags << ' ' << each.press;
     }
 }
 

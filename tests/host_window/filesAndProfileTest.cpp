@@ -34,30 +34,20 @@ TEST(MemFile, whatAnArchiveStoresAnotherLoads) {
     EXPECT_EQ(attached.Detach(), data.get());
 }
 
-TEST(Profile, valuesReadBackAndWrongKindsAreTheDefault) {
+TEST(Profile, valuesReadBackAndWhatIsntOfTheirKindIsTheDefault) {
     orvex::setProfileStore(nullptr);
     CWinApp& app = *AfxGetApp();
-    EXPECT_EQ(app.GetProfileInt(L"Settings", L"MlstylePosLeft", -10000), -10000);
-    EXPECT_TRUE(app.WriteProfileInt(L"Settings", L"MlstylePosLeft", -7));
-    EXPECT_EQ(app.GetProfileInt(L"Settings", L"MlstylePosLeft", -10000), -7);
-    EXPECT_STREQ(app.GetProfileString(L"Settings", L"MlstylePosLeft", L"none"), L"none");
-
-    EXPECT_TRUE(app.WriteProfileString(L"Settings", L"MlstyleFile", L"/a/\x00E4.mln"));
-    EXPECT_STREQ(app.GetProfileString(L"Settings", L"MlstyleFile"), L"/a/\x00E4.mln");
-    EXPECT_EQ(app.GetProfileInt(L"Settings", L"MlstyleFile", 5), 5);
+    EXPECT_TRUE(app.WriteProfileInt(L"Settings", L"Left", -7));
+    EXPECT_EQ(app.GetProfileInt(L"Settings", L"Left", -10000), -7);
+    EXPECT_STREQ(app.GetProfileString(L"Settings", L"Left", L"none"), L"none");
+    EXPECT_TRUE(app.WriteProfileString(L"Settings", L"File", L"/a/\x00E4.mln"));
+    EXPECT_STREQ(app.GetProfileString(L"Settings", L"File"), L"/a/\x00E4.mln");
+    EXPECT_EQ(app.GetProfileInt(L"Settings", L"File", 5), 5);
     EXPECT_STREQ(app.GetProfileString(nullptr, nullptr), L"");
-    orvex::setProfileStore(nullptr);
-    EXPECT_EQ(app.GetProfileInt(L"Settings", L"MlstylePosLeft", 1), 1); // a fresh one
-}
 
-TEST(Profile, bytesComeInNewMemoryOrNotAtAll) {
-    CWinApp& app = *AfxGetApp();
-    unsigned char* data = reinterpret_cast<unsigned char*>(&app);
-    unsigned size = 9;
-    EXPECT_FALSE(app.GetProfileBinary(L"ListCtrls", L"1046", &data, &size));
-    EXPECT_EQ(data, nullptr);
-    EXPECT_EQ(size, 0U);
     const std::array<unsigned char, 3> bytes{7, 0, 9};
+    unsigned char* data = nullptr;
+    unsigned size = 0;
     EXPECT_TRUE(app.WriteProfileBinary(L"ListCtrls", L"1046", bytes.data(), 3));
     EXPECT_TRUE(app.GetProfileBinary(L"ListCtrls", L"1046", &data, &size));
     const std::unique_ptr<unsigned char[]> owned(data);
@@ -66,6 +56,10 @@ TEST(Profile, bytesComeInNewMemoryOrNotAtAll) {
     EXPECT_FALSE(app.GetProfileBinary(L"ListCtrls", L"1046", nullptr, &size));
     EXPECT_TRUE(app.WriteProfileBinary(L"ListCtrls", L"1046", nullptr, 8));
     EXPECT_FALSE(app.GetProfileBinary(L"ListCtrls", L"1046", &data, &size));
+    EXPECT_EQ(data, nullptr);
+    EXPECT_EQ(size, 0U);
+    orvex::setProfileStore(nullptr);
+    EXPECT_EQ(app.GetProfileInt(L"Settings", L"Left", 1), 1); // a fresh one
 }
 
 } // namespace

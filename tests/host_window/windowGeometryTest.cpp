@@ -18,26 +18,6 @@ CRect placeOf(const CWnd& window) {
     return rect;
 }
 
-TEST(WindowGeometry, aStoredRectangleComesBackWithoutDrift) {
-    CRect stored(40, 60, 400, 300);
-    for (int round = 0; round < 3; ++round) {
-        Logic logic;
-        logic.onInit = [&] {
-            logic.MoveWindow(stored, true);
-            EXPECT_EQ(placeOf(logic), stored); // before the first show
-            return 1;
-        };
-        CRect later;
-        logic.runWith([&] {
-            QApplication::processEvents();
-            later = placeOf(logic);
-            logic.OnOK();
-        });
-        EXPECT_EQ(later, stored) << round;
-        stored = later;
-    }
-}
-
 TEST(WindowGeometry, aRectangleThatCannotBeUsedLeavesTheDefaultPlace) {
     const CRect cases[] = {
         {0, 0, 0, 0},                         // empty
