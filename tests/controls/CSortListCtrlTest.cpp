@@ -40,29 +40,25 @@ protected:
 };
 
 TEST_F(SortListCtrl, headingsComeFromNamesAndWidths) {
-    struct Case {
-        const wchar_t* text;
-        Texts names;
-        std::vector<int> widths;
+    const std::pair<const wchar_t*, std::wstring> cases[] = {
+        {L"", L""},
+        {L"Offset", L""},
+        {L"A,110;B,120", L"A 110|B 120|"},
+        {L"A,110;B,120;", L"A 110|B 120|"},
+        {L"A,110;rest", L"A 110|"},
+        {L"A;B,120,C", L"A;B 120|"}, // a name ends at its comma, whatever is in it
     };
-    const Case cases[] = {
-        {L"", {}, {}},
-        {L"Offset", {}, {}},
-        {L"A,110;B,120", {L"A", L"B"}, {110, 120}},
-        {L"A,110;B,120;", {L"A", L"B"}, {110, 120}},
-        {L"A,110;rest", {L"A"}, {110}},
-        {L"A;B,120,C", {L"A;B"}, {120}}, // a name ends at its comma, whatever is in it
-    };
-    for (const Case& each : cases) {
+    for (const auto& [text, columns] : cases) {
         QTableWidget fresh(&view);
         CSortListCtrl made;
         made.SubclassWindow(&fresh);
-        EXPECT_TRUE(made.SetHeadings(CStdStr<wchar_t>(each.text))) << each.text;
-        ASSERT_EQ(made.GetColumnCount(), static_cast<int>(each.names.size())) << each.text;
+        EXPECT_TRUE(made.SetHeadings(CStdStr<wchar_t>(text))) << text;
+        std::wstring all;
         for (int index = 0; index < made.GetColumnCount(); ++index) {
-            EXPECT_EQ(fresh.horizontalHeaderItem(index)->text().toStdWString(), each.names[index]);
-            EXPECT_EQ(made.GetColumnWidth(index), each.widths[index]) << each.text;
+            all += fresh.horizontalHeaderItem(index)->text().toStdWString() + L' ' +
+                   std::to_wstring(made.GetColumnWidth(index)) + L'|';
         }
+        EXPECT_EQ(all, columns) << text;
     }
     CSortListCtrl unbound;
     EXPECT_FALSE(unbound.SetHeadings(CStdStr<wchar_t>(L"A,10")));
