@@ -183,7 +183,11 @@ TEST_F(StyleManager, showsARenamedStyleAsCurrentAndLeavesTheVariable) {
     manage([&] {
         select("Pipe");
         inNextDialog([](QWidget& dialog) {
-            dialog.findChild<QLineEdit*>("lineEditNewStyleName")->setText("Duct");
+            const auto& old = child<QLabel>(dialog, "labelOldStyleNameResult");
+            EXPECT_EQ(old.text(), "Pipe");
+            EXPECT_EQ(old.textFormat(), Qt::PlainText);
+            EXPECT_FALSE(child<QWidget>(dialog, "renameComBo").isVisible());
+            child<QLineEdit>(dialog, "lineEditNewStyleName").setText("Duct");
             orvex::testing::press(dialog, "pBtnOK");
         });
         press("pBtnRename");

@@ -4,7 +4,6 @@
 #include "dialogRun.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 
 using orvex::testing::child;
@@ -88,23 +87,6 @@ TEST_F(StyleNameDialogs, newGivesTheNameAsTypedAndTheStyleToStartWith) {
     EXPECT_EQ(result, 1);
     EXPECT_EQ(dialog.m_newName, L"Ring-A");
     EXPECT_TRUE(dialog.m_startWith == L"STANDARD");
-}
-
-TEST_F(StyleNameDialogs, renameShowsTheOldNameAsItIs) {
-    CMlstyleRenameDlg dialog(nullptr);
-    dialog.m_dictionaryId = dictionaryId();
-    dialog.m_oldName = L"<b>a&b</b>";
-    const int result = runDialog(dialog, [&] {
-        const auto& label = child<QLabel>(dialog, "labelOldStyleNameResult");
-        EXPECT_EQ(label.text(), "<b>a&b</b>");
-        EXPECT_EQ(label.textFormat(), Qt::PlainText);
-        EXPECT_FALSE(child<QComboBox>(dialog, "renameComBo").isVisible());
-        QTest::keyClicks(&child<QLineEdit>(dialog, "lineEditNewStyleName"), "Brick7");
-        press(*dialog.GetSafeHwnd(), "pBtnOK");
-    });
-    EXPECT_EQ(result, 1);
-    EXPECT_EQ(dialog.m_newName, L"Brick7");
-    EXPECT_EQ(dialog.m_oldName, L"<b>a&b</b>");
 }
 
 // Opens a dialog, moves it and ends it by that button; where it was opened.
