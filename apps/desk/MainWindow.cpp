@@ -99,7 +99,9 @@ void MainWindow::connectCanvas() {
     connect(m_canvas, &Canvas::clicked, this, [this](double x, double y) {
         m_prompts.answerClick(x, y, session()->view().unitsPerPixel());
     });
-    connect(m_canvas, &Canvas::rightClicked, this, [this] { enterLine(QString()); });
+    connect(m_canvas, &Canvas::rightClicked, this, [this] {
+        m_commandLine->takeKey(QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier));
+    });
     connect(m_canvas, &Canvas::keyTyped, this,
             [this](QKeyEvent* event) { m_commandLine->takeKey(*event); });
     connect(m_canvas, &Canvas::cursorMoved, this, [this](double x, double y) {

@@ -49,6 +49,18 @@ TEST_F(DeskFixture, blanksAreTypedWhereATextOrAHandleIsAsked) {
     });
 }
 
+TEST_F(DeskFixture, theRightButtonEntersWhatWasTyped) {
+    play({
+        [this] { QTest::keyClicks(&input(), "ZOOM"); },
+        [this] { QTest::mouseClick(canvas(), Qt::RightButton); },
+        [this] {
+            EXPECT_EQ(prompt(), "Extents or Center:");
+            EXPECT_EQ(input().text(), "");
+        },
+        key(Qt::Key_Escape),
+    });
+}
+
 // In an empty field, the window's own keys are the window's; letters with Alt always are.
 TEST_F(DeskFixture, keysOfMenusWorkFromTheCommandLine) {
     QString menu;
