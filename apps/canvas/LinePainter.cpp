@@ -231,7 +231,7 @@ void LinePainter::fill(int left, int top, int right, int bottom, std::uint32_t r
 }
 
 void LinePainter::shade(int x, int y, std::uint32_t rgb, double cover) {
-    const int part = static_cast<int>(cover * 256.0 + 0.5);
+    const auto part = static_cast<int>(std::lround(cover * 256.0));
     if (part > 0) {
         std::uint32_t& pixel = m_pixels[static_cast<std::ptrdiff_t>(y) * m_stride + x];
         pixel = mixed(pixel, rgb, static_cast<unsigned>(std::min(part, 256)));
