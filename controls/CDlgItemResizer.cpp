@@ -101,10 +101,10 @@ void CDlgItemResizer::OnSizing(CWnd* parent, tagRECT* rectangle) {
         return;
     }
     const CRect current = windowRect(*parent);
-    const CSize wanted = CRect(*rectangle).Size();
-    holdAtLeast({rectangle->left, rectangle->right}, current.left, current.right, wanted.cx,
+    const CRect wanted = *rectangle;
+    holdAtLeast({rectangle->left, rectangle->right}, current.left, current.right, wanted.Width(),
                 m_minimumSize.cx);
-    holdAtLeast({rectangle->top, rectangle->bottom}, current.top, current.bottom, wanted.cy,
+    holdAtLeast({rectangle->top, rectangle->bottom}, current.top, current.bottom, wanted.Height(),
                 m_minimumSize.cy);
 }
 

@@ -7,6 +7,7 @@
 #include "wideNumbers.h"
 
 #include <algorithm>
+#include <bit>
 
 const wchar_t* const g_pszSection = L"ListCtrls";
 
@@ -119,7 +120,7 @@ unsigned long CSortListCtrl::GetItemData(int row) const {
 }
 
 ItemData* CSortListCtrl::dataOf(int row) const {
-    return reinterpret_cast<ItemData*>(CListCtrl::GetItemData(row));
+    return std::bit_cast<ItemData*>(CListCtrl::GetItemData(row));
 }
 
 void CSortListCtrl::FreeItemMemory(int row) {
@@ -180,9 +181,9 @@ void CSortListCtrl::OnDestroy() {
 }
 
 int CSortListCtrl::CompareFunction(long a, long b, long list) {
-    const auto* const sorted = reinterpret_cast<const CSortListCtrl*>(list);
-    const wchar_t* textA = textIn(reinterpret_cast<const ItemData*>(a), sorted->m_sortColumn);
-    const wchar_t* textB = textIn(reinterpret_cast<const ItemData*>(b), sorted->m_sortColumn);
+    const auto* const sorted = std::bit_cast<const CSortListCtrl*>(list);
+    const wchar_t* textA = textIn(std::bit_cast<const ItemData*>(a), sorted->m_sortColumn);
+    const wchar_t* textB = textIn(std::bit_cast<const ItemData*>(b), sorted->m_sortColumn);
     if (textA == nullptr || textB == nullptr) {
         textA = textB = nullptr;
     }

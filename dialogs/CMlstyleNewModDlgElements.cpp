@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <iterator>
 #include <limits>
 
@@ -86,7 +87,7 @@ int CMlstyleNewModDlg::selectedRow() const {
 }
 
 KdCmColor* CMlstyleNewModDlg::colourOf(int row) const {
-    return reinterpret_cast<KdCmColor*>(m_elements.GetItemData(row));
+    return std::bit_cast<KdCmColor*>(m_elements.GetItemData(row));
 }
 
 void CMlstyleNewModDlg::setColourOf(int row, const KdCmColor& colour) {

@@ -38,7 +38,7 @@ std::unique_ptr<QProgressDialog> makeProgress(QWidget& window, const QString& pa
 // Sets a flag while it lives.
 class FlagScope {
 public:
-    explicit FlagScope(bool& flag) : m_flag(flag) { m_flag = true; }
+    explicit FlagScope(bool& flag) : m_flag(flag) { flag = true; }
     ~FlagScope() { m_flag = false; }
     FlagScope(const FlagScope&) = delete;
     FlagScope& operator=(const FlagScope&) = delete;

@@ -27,7 +27,7 @@ constexpr int kFirstCommandHeight = 170; // pixels
 
 } // namespace
 
-MainWindow::MainWindow(ModuleLoader& modules, std::vector<std::string> moduleFiles)
+MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& moduleFiles)
     : m_modules(modules), m_prompts(*this), m_runner(m_prompts),
       m_drawing(modules, m_prompts, moduleFiles),
       m_files(*this, m_drawing, m_settings,

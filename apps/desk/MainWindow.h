@@ -28,7 +28,7 @@ class MainWindow final : public QMainWindow {
 
 public:
     // The module's commands are there from the start. `modules` outlives the window.
-    MainWindow(ModuleLoader& modules, std::vector<std::string> moduleFiles);
+    MainWindow(ModuleLoader& modules, const std::vector<std::string>& moduleFiles);
     ~MainWindow() override;
 
     // Opens a drawing as soon as nothing else runs, and changes to the one before were asked about.

@@ -9,10 +9,10 @@ enum class DeskMenu { file, edit, view, draw, modify, tools, help };
 
 // One entry of a menu. Texts are shown through Qt's translation, "&" marks the access key.
 struct DeskActionRow {
-    DeskMenu menu;
-    const char* name; // of the object, and of its icon
-    const char* text; // null: a line between groups
-    const char* hint; // for the status bar and the tool bar
+    DeskMenu menu = DeskMenu::file;
+    const char* name = "";      // of the object, and of its icon
+    const char* text = nullptr; // null: a line between groups
+    const char* hint = "";      // for the status bar and the tool bar
     const char* shortcut = "";
     const char* command = nullptr; // typed for the user; null where the window acts itself
     const char* answer = nullptr;  // typed at the command's first prompt
