@@ -285,9 +285,10 @@ TEST_F(StyleLibrary, findsABlockByItsThreeLines) {
 TEST_F(StyleLibrary, takesTheValuesOfABlockInItsOrder) {
     KdDbMlineStyle style;
     style.initMlineStyle();
-    ASSERT_TRUE(apply("MLSTYLE\n2\n A\n420\n 96\n62\n 65539\nnote\n3\n" + std::string(3000, 'y') +
-                          "\n70\n 1 or more\n51\n\n52\n 1e999\n51\n -45.5\n3\n\n430\n B$c\n0\n",
-                      L"A", style));
+    ASSERT_TRUE(
+        apply("MLSTYLE\n2\n A\n420\n 96\n62\n 65539\nnote\n3\n" + std::string(3000, 'y') +
+                  "\n70\n 1 or more\n52\n 1e999\n51\n -45.5\n51\n\n51\n east\n3\n\n430\n B$c\n0\n",
+              L"A", style));
     EXPECT_EQ(style.fillColor().color(), 0xC3000003U); // 62 behind 420, of 16 bits
     EXPECT_STREQ(style.fillColor().bookName(), L"B");
     EXPECT_EQ(style.values().flags, 1);
