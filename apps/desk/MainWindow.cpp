@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
@@ -23,6 +24,7 @@ namespace orvex {
 namespace {
 
 constexpr QSize kFirstSize(1200, 800);
+constexpr double kMostOfScreen = 0.9;    // the rest is left to the window's frame
 constexpr int kFirstCommandHeight = 170; // pixels
 
 } // namespace
@@ -307,7 +309,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 }
 
 void MainWindow::restorePlace() {
-    resize(kFirstSize);
+    resize(kFirstSize.boundedTo(screen()->availableSize() * kMostOfScreen));
     restoreGeometry(m_settings.bytes(DeskSettings::kGeometry));
     restoreState(m_settings.bytes(DeskSettings::kState));
 }
