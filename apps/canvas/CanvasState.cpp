@@ -33,6 +33,11 @@ KdGeVector3d userAxis(KdDbDatabase& database, const char* name, const KdGeVector
     return {axis.x, axis.y, axis.z};
 }
 
+// The distance of the view's middle, in heights of the view.
+double heightsFromOrigin(const ViewPlace& place) {
+    return std::max(std::abs(place.center.x), std::abs(place.center.y)) / place.height;
+}
+
 } // namespace
 
 // The middle of the pixel.
@@ -131,9 +136,11 @@ void Canvas::State::showView() {
 }
 
 void Canvas::State::moveTo(const ViewPlace& place, bool sameMovement) {
-    const double perPixel = place.height / view().height();
-    const double farthest = std::max(std::abs(place.center.x), std::abs(place.center.y));
-    if (!(farthest <= kFarthestPixel * perPixel) || !(place.height <= kGreatestHeight)) {
+    // From where only a command can lead, every step back is welcome.
+    const ViewPlace now = placeOf(view());
+    const double farthest = std::max(kFarthestPixel / view().height(), heightsFromOrigin(now));
+    const double greatest = std::max(kGreatestHeight, now.height);
+    if (!(heightsFromOrigin(place) <= farthest) || !(place.height <= greatest)) {
         return;
     }
     history.leave(placeOf(view()), sameMovement);

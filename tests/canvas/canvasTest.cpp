@@ -39,6 +39,18 @@ TEST_F(CanvasFixture, TheWheelKeepsThePlanUnderTheCursor) {
     EXPECT_DOUBLE_EQ(session->view().unitsPerPixel(), scale);
 }
 
+TEST_F(CanvasFixture, TheWheelLeadsBackFromWhereOnlyCommandsLead) {
+    for (const double height : {1e-12, 1e33}) {
+        session->view().setView({2400.0, 0.0}, height);
+        canvas.viewChanged();
+        wheel({300, 200}, height < 1.0 ? 10 : -10); // on there by no means
+        EXPECT_EQ(session->view().viewHeight(), height);
+        wheel({300, 200}, height < 1.0 ? -5 : 5);
+        const double zoom = std::pow(1.2, height < 1.0 ? 5 : -5);
+        EXPECT_NEAR(session->view().viewHeight() / height / zoom, 1.0, 1e-9);
+    }
+}
+
 TEST_F(CanvasFixture, PansWithTheMiddleButtonAndWithShift) {
     const PlanPoint place = planAt({200, 200});
     drag({200, 200}, {260, 170}, Qt::MiddleButton);
