@@ -53,6 +53,9 @@ bool CommandInput::isEnter(const QKeyEvent& event) const {
 }
 
 void CommandInput::keyPressEvent(QKeyEvent* event) {
+    if ((event->modifiers() & Qt::AltModifier) != 0) {
+        return; // it was meant for a menu
+    }
     if (isEnter(*event)) {
         enter();
         return;

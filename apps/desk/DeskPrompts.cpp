@@ -71,7 +71,7 @@ std::optional<PromptAnswer> DeskPrompts::understand(const PromptRequest& request
     if (answer) {
         answer->echo = text;
     } else {
-        print(request.text + L' ' + text);
+        print(std::wstring(trimmed(request.text)) + L' ' + text);
         print(complaintAbout(request, text));
     }
     return answer;

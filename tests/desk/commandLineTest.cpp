@@ -19,6 +19,10 @@ TEST_F(DeskFixture, anAnswerThatFitsNoQuestionIsToldAndAskedAgain) {
             EXPECT_TRUE(prompt().startsWith("Enter an editing tool"));
         },
         key(Qt::Key_Escape),
+        type("MLINE"),
+        type("5;5"),
+        [this] { EXPECT_THAT(history().toStdString(), ::testing::HasSubstr("/STyle]: 5;5\n")); },
+        key(Qt::Key_Escape),
         type("SETVAR"),
         type("NOTHING"),
         [this] {
@@ -92,6 +96,10 @@ TEST_F(DeskFixture, keysOfMenusWorkFromTheCommandLine) {
                 }
             });
             QTest::keyClick(&input(), Qt::Key_F, Qt::AltModifier);
+        },
+        [this] {
+            QTest::keyClick(&input(), Qt::Key_O, Qt::AltModifier); // of no menu
+            EXPECT_EQ(input().text(), "");
         },
         [] {},
     });
