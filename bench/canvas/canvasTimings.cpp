@@ -93,14 +93,14 @@ void mouse(Canvas& canvas, QEvent::Type type, const QPoint& pixel, Qt::MouseButt
 std::vector<std::function<void()>> panning(Canvas& canvas, int steps) {
     std::vector<std::function<void()>> inputs;
     QPoint pixel(kWidth / 2, kHeight / 2);
-    inputs.push_back(
+    inputs.emplace_back(
         [&canvas, pixel] { mouse(canvas, QEvent::MouseButtonPress, pixel, Qt::MiddleButton); });
     for (int step = 0; step < steps; ++step) {
         pixel += QPoint(11, 7);
-        inputs.push_back(
+        inputs.emplace_back(
             [&canvas, pixel] { mouse(canvas, QEvent::MouseMove, pixel, Qt::MiddleButton); });
     }
-    inputs.push_back(
+    inputs.emplace_back(
         [&canvas, pixel] { mouse(canvas, QEvent::MouseButtonRelease, pixel, Qt::MiddleButton); });
     return inputs;
 }
@@ -110,7 +110,7 @@ std::vector<std::function<void()>> hovering(Canvas& canvas, int steps) {
     inputs.reserve(static_cast<std::size_t>(steps));
     for (int step = 0; step < steps; ++step) {
         const QPoint pixel(300 + 13 * step, 200 + 9 * step);
-        inputs.push_back(
+        inputs.emplace_back(
             [&canvas, pixel] { mouse(canvas, QEvent::MouseMove, pixel, Qt::NoButton); });
     }
     return inputs;

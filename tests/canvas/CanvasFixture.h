@@ -68,7 +68,7 @@ protected:
         fresh.setSession(session.get());
         fresh.show();
         settle(fresh);
-        const QImage image = picture(fresh);
+        QImage image = picture(fresh);
         fresh.setSession(nullptr);
         return image;
     }

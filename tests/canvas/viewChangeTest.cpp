@@ -53,7 +53,7 @@ TEST(PixelGrid, TilesCoverTheViewAndMeetWithoutGaps) {
         PlanView view(700, 500);
         view.setView(center, 123.0);
         const PixelGrid grid(view, 1.0);
-        std::vector<int> covered(700 * 500);
+        std::vector<int> covered(std::size_t{700} * 500);
         for (const TileKey& tile : grid.visibleTiles()) {
             const QPoint origin = grid.tileOrigin(tile);
             const QRect seen = QRect(origin, QSize(PixelGrid::kTileSide, PixelGrid::kTileSide)) &
@@ -61,7 +61,7 @@ TEST(PixelGrid, TilesCoverTheViewAndMeetWithoutGaps) {
             ASSERT_FALSE(seen.isEmpty());
             for (int y = seen.top(); y <= seen.bottom(); ++y) {
                 for (int x = seen.left(); x <= seen.right(); ++x) {
-                    ++covered[static_cast<std::size_t>(y * 700 + x)];
+                    ++covered[static_cast<std::size_t>(y) * 700 + static_cast<std::size_t>(x)];
                 }
             }
             // What the tile paints of a place lies within a pixel of where the view has it.

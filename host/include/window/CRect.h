@@ -6,7 +6,12 @@
 class CRect : public tagRECT {
 public:
     CRect() = default;
-    CRect(int l, int t, int r, int b) : tagRECT{l, t, r, b} {}
+    CRect(int l, int t, int r, int b) {
+        left = l;
+        top = t;
+        right = r;
+        bottom = b;
+    }
     CRect(const tagRECT& rect) : tagRECT(rect) {}
 
     void SetRect(int l, int t, int r, int b) { *this = CRect(l, t, r, b); }

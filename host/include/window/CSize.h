@@ -5,6 +5,9 @@
 class CSize : public tagSIZE {
 public:
     CSize() = default;
-    CSize(int width, int height) : tagSIZE{width, height} {}
+    CSize(int width, int height) {
+        cx = width;
+        cy = height;
+    }
     CSize(const tagSIZE& size) : tagSIZE(size) {}
 };
