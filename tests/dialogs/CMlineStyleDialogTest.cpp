@@ -33,7 +33,7 @@ namespace {
 std::wstring currentStyle() {
     resbuf value;
     EXPECT_EQ(kdedGetVar(L"CMLSTYLE", &value), kPromptNormal);
-    const std::wstring text = value.resval.rstring;
+    std::wstring text = value.resval.rstring;
     rvex_free(value.resval.rstring);
     return text;
 }

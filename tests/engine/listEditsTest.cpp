@@ -49,8 +49,10 @@ TEST(BreakLists, AnyGapRemovesExactlyWhatLiesInIt) {
             }
         }
         // Halves lie inside stretches and gaps, whole numbers on breaks.
-        for (double a = 0; a < kLength; a += 0.5) {
-            for (double b = a + 1; b <= kLength; ++b) {
+        for (int half = 0; half < 2 * kLength; ++half) {
+            const double a = 0.5 * half;
+            for (int length = 1; a + length <= kLength; ++length) {
+                const double b = a + length;
                 const BreakList cut = cutWithin(list, a, b, true);
                 ASSERT_TRUE(std::is_sorted(cut.begin() + 1, cut.end()));
                 ASSERT_EQ(drawnLength(cut, 0, kLength),

@@ -40,6 +40,7 @@ inline void press(const QWidget& dialog, const char* button) {
 
 inline std::vector<std::string> textsOf(const QListWidget& list) {
     std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(list.count()));
     for (int row = 0; row < list.count(); ++row) {
         texts.push_back(list.item(row)->text().toStdString());
     }
