@@ -21,7 +21,20 @@ void DeskDrawing::replace(std::unique_ptr<DrawingFile> file, const QString& path
     setup.moduleFiles = m_moduleFiles;
     m_session = std::make_unique<Session>(std::move(setup), m_modules);
     m_path = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
+    m_file = fileState();
     m_savedMark = m_session->drawing().contentMark();
+}
+
+DeskDrawing::FileState DeskDrawing::fileState() const {
+    const QFileInfo file(m_path);
+    return !m_path.isEmpty() && file.exists() ? FileState{file.lastModified(), file.size()}
+                                              : FileState();
+}
+
+// A file that is gone can't be overwritten.
+bool DeskDrawing::wasWrittenElsewhere() const {
+    const FileState now = fileState();
+    return now.written.isValid() && !(now == m_file);
 }
 
 QString DeskDrawing::name() const {
@@ -37,6 +50,7 @@ std::unique_ptr<DrawingError> DeskDrawing::save(const QString& path) {
     auto error = drawing.save(path.toStdString());
     if (error == nullptr) {
         m_path = QFileInfo(path).absoluteFilePath();
+        m_file = fileState();
         m_savedMark = drawing.contentMark();
     }
     return error;

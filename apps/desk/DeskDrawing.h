@@ -6,7 +6,9 @@
 
 #include <QString>
 
+#include <QDateTime>
 #include <cstddef>
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -32,17 +34,28 @@ public:
     // edit taken back leaves no difference.
     [[nodiscard]] bool isChanged() const;
 
+    // True when somebody else wrote its file since it was opened or saved here.
+    [[nodiscard]] bool wasWrittenElsewhere() const;
     // Nothing when it went well.
     std::unique_ptr<DrawingError> save(const QString& path);
 
     [[nodiscard]] QString currentStyle() const;
 
 private:
+    // What tells one state of a file from another; the same where there is no file.
+    struct FileState {
+        QDateTime written;
+        qint64 size = 0;
+        friend bool operator==(const FileState&, const FileState&) = default;
+    };
+    [[nodiscard]] FileState fileState() const;
+
     ModuleLoader& m_modules;
     PromptSource& m_source;
     std::vector<std::string> m_moduleFiles;
     std::unique_ptr<Session> m_session;
     QString m_path;
+    FileState m_file; // as it was opened or saved
     std::size_t m_savedMark = 0;
 };
 

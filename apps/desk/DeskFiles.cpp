@@ -98,7 +98,22 @@ bool DeskFiles::saveAs() {
     return saveInto(path);
 }
 
+// Two windows on one file would else undo each other's work without a word.
+bool DeskFiles::mayOverwrite() {
+    QMessageBox box(QMessageBox::Warning, tr("Orvex"),
+                    tr("%1 was written by somebody else meanwhile.").arg(m_drawing.name()),
+                    QMessageBox::Save | QMessageBox::Cancel, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("Saving here loses what is in it now. Save all the same?"));
+    box.setDefaultButton(QMessageBox::Cancel);
+    return box.exec() == QMessageBox::Save;
+}
+
 bool DeskFiles::saveInto(const QString& path) {
+    const bool isOwnFile = QFileInfo(path).absoluteFilePath() == m_drawing.path();
+    if (isOwnFile && m_drawing.wasWrittenElsewhere() && !mayOverwrite()) {
+        return false;
+    }
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const auto error = m_drawing.save(path);
     QApplication::restoreOverrideCursor();

@@ -44,6 +44,7 @@ signals:
 
 private:
     bool saveInto(const QString& path);
+    bool mayOverwrite();
     void tellWarnings(const DrawingFile& file, const QString& path);
     void tell(const QString& what, const QString& why);
 

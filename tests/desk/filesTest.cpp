@@ -123,6 +123,28 @@ TEST_F(FilesOfDesk, changesAreAskedAboutBeforeTheyAreLost) {
     EXPECT_EQ(readFile(plan), saved);
 }
 
+TEST_F(FilesOfDesk, aFileThatSomebodyElseWroteIsNotOverwrittenUnasked) {
+    const auto writeElsewhere = [this] { std::ofstream(plan, std::ios::app) << "more"; };
+    play({
+        openPlan(),
+        edit(),
+        trigger("save"),
+        [this] { EXPECT_FALSE(window->isWindowModified()); },
+        edit(),
+        writeElsewhere,
+        trigger("save"),
+        answer(QMessageBox::Cancel),
+        [this] {
+            EXPECT_TRUE(window->isWindowModified());
+            EXPECT_TRUE(QString::fromStdString(readFile(plan)).endsWith("more"));
+        },
+        trigger("save"),
+        answer(QMessageBox::Save),
+        [this] { EXPECT_FALSE(window->isWindowModified()); },
+    });
+    EXPECT_FALSE(QString::fromStdString(readFile(plan)).endsWith("more"));
+}
+
 TEST_F(FilesOfDesk, savingAsAndExportingAskForAFileAndTellWhatFails) {
     const fs::path copy = fs::temp_directory_path() / "copy.dxf";
     const fs::path picture = fs::temp_directory_path() / "copy.svg";
