@@ -4,7 +4,6 @@
 
 #include "CDataExchange.h"
 #include "CMlineStyleDialogView.h"
-#include "KdDbDictionary.h"
 #include "KdDbMlineStyle.h"
 #include "dialogIcon.h"
 #include "dialogPlace.h"
@@ -21,6 +20,22 @@ namespace {
 
 constexpr unsigned kResource = 101;
 constexpr const wchar_t* kPlace = L"MlstylePos";
+
+// Writes the entity name of a dictionary's entry; false, and nothing is written, where there is
+// none.
+bool findEntry(const long* dictionary, const wchar_t* key, long* entry) {
+    resbuf* const found = kddbDictSearch(dictionary, key, 0);
+    const resbuf* item = found;
+    while (item != nullptr && item->restype != kResultObjectName) {
+        item = item->rbnext;
+    }
+    if (item != nullptr) {
+        entry[0] = item->resval.rlname[0];
+        entry[1] = item->resval.rlname[1];
+    }
+    kdutRelRb(found);
+    return item != nullptr;
+}
 
 } // namespace
 
@@ -41,7 +56,9 @@ int CMlineStyleDialog::OnInitDialog() {
     if (kddbNamedObjDict(root) != kPromptNormal) {
         return 0;
     }
-    findDictionary(root);
+    if (findEntry(root, L"ACAD_MLINESTYLE", m_dictionaryName)) {
+        kddbGetObjectId(m_dictionaryId, m_dictionaryName);
+    }
     readCurrentStyle();
     AddStylesToList();
     m_list.SelectString(-1, m_currentStyle);
@@ -52,20 +69,6 @@ int CMlineStyleDialog::OnInitDialog() {
     m_resizer.Resize(this);
     OnListSelChange();
     return 1;
-}
-
-void CMlineStyleDialog::findDictionary(const long* root) {
-    resbuf* const found = kddbDictSearch(root, L"ACAD_MLINESTYLE", 0);
-    const resbuf* item = found;
-    while (item != nullptr && item->restype != kResultObjectName) {
-        item = item->rbnext;
-    }
-    if (item != nullptr) {
-        m_dictionaryName[0] = item->resval.rlname[0];
-        m_dictionaryName[1] = item->resval.rlname[1];
-        kddbGetObjectId(m_dictionaryId, m_dictionaryName);
-    }
-    kdutRelRb(found);
 }
 
 void CMlineStyleDialog::readCurrentStyle() {
@@ -112,17 +115,6 @@ CStdStr<wchar_t> CMlineStyleDialog::selectedName() const {
     return name;
 }
 
-KdDbObjectId CMlineStyleDialog::styleId(const CStdStr<wchar_t>& name) const {
-    KdDbObjectId id;
-    KdDbDictionary* dictionary = nullptr;
-    kddbOpenObject(dictionary, m_dictionaryId, kForRead);
-    if (dictionary != nullptr) {
-        dictionary->getAt(name, id);
-        dictionary->close();
-    }
-    return id;
-}
-
 // The current style can't be deleted, STANDARD can't be renamed, and one that a multiline uses can
 // only be made current. Delete stays on for STANDARD and does nothing.
 void CMlineStyleDialog::OnListSelChange() {
@@ -140,7 +132,7 @@ void CMlineStyleDialog::OnListSelChange() {
 
 void CMlineStyleDialog::showDescription(const CStdStr<wchar_t>& name) {
     KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, styleId(name), kForRead);
+    kddbOpenObject(style, styleUnder(m_dictionaryId, name), kForRead);
     if (style != nullptr) {
         GetDlgItem(kManagerDescription)->SetWindowTextW(style->description());
         style->close();
@@ -148,16 +140,12 @@ void CMlineStyleDialog::showDescription(const CStdStr<wchar_t>& name) {
 }
 
 void CMlineStyleDialog::DrawCurStylePreview() {
-    resbuf* const found = kddbDictSearch(m_dictionaryName, selectedName(), 0);
-    const resbuf* item = found;
-    while (item != nullptr && item->restype != kResultObjectName) {
-        item = item->rbnext;
+    long entry[2] = {0, 0};
+    if (!findEntry(m_dictionaryName, selectedName(), entry)) {
+        return;
     }
     KdDbObjectId id;
-    if (item != nullptr) {
-        kddbGetObjectId(id, item->resval.rlname);
-    }
-    kdutRelRb(found);
+    kddbGetObjectId(id, entry);
     KdDbMlineStyle* style = nullptr;
     kddbOpenObject(style, id, kForRead);
     if (style != nullptr) {

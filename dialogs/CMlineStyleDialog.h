@@ -51,8 +51,6 @@ public:
 
 private:
     [[nodiscard]] CStdStr<wchar_t> selectedName() const; // empty where nothing is selected
-    [[nodiscard]] KdDbObjectId styleId(const CStdStr<wchar_t>& name) const;
-    void findDictionary(const long* root);
     void readCurrentStyle();
     void registerItems();
     void showDescription(const CStdStr<wchar_t>& name);

@@ -15,6 +15,7 @@
 #include "promptStatus.h"
 #include "styleLibraryWriter.h"
 #include "styleManagerControls.h"
+#include "styleNames.h"
 #include "systemVariables.h"
 
 #include <algorithm>
@@ -215,6 +216,6 @@ void CMlineStyleDialog::OnSaveStyle() {
     }
     const std::unique_ptr<wchar_t, decltype(&rvex_free)> path(chosen.resval.rstring, rvex_free);
     const CStdStr<wchar_t> name = selectedName();
-    const auto style = open<KdDbMlineStyle>(styleId(name), kForRead);
+    const auto style = open<KdDbMlineStyle>(styleUnder(m_dictionaryId, name), kForRead);
     saveLibraryStyle(path.get(), name, style.get());
 }

@@ -9,6 +9,7 @@
 #include "dialogPlace.h"
 #include "kddbObjects.h"
 #include "modifyControls.h"
+#include "styleNames.h"
 #include "stylePreview.h"
 #include "styleRecord.h"
 
@@ -64,13 +65,7 @@ int CMlstyleNewModDlg::OnInitDialog() {
 }
 
 void CMlstyleNewModDlg::SetcurentStyle(CStdStr<wchar_t> name) {
-    m_styleId = KdDbObjectId();
-    KdDbDictionary* dictionary = nullptr;
-    kddbOpenObject(dictionary, m_dictionaryId, kForRead);
-    if (dictionary != nullptr) {
-        dictionary->getAt(name, m_styleId);
-        dictionary->close();
-    }
+    m_styleId = styleUnder(m_dictionaryId, name);
 }
 
 int CMlstyleNewModDlg::OnCreate(tagCREATESTRUCTW* /*created*/) {

@@ -4,12 +4,12 @@
 #include "KdDbLinetypeTable.h"
 #include "KdDbMlineStyle.h"
 #include "ZeroRule.h"
+#include "bookKey.h"
 #include "kddbObjects.h"
 #include "numberText.h"
 #include "styleRecord.h"
 #include "wideNumbers.h"
 
-#include <algorithm>
 #include <array>
 
 namespace {
@@ -62,13 +62,6 @@ std::wstring offsetText(double offset) {
     std::array<wchar_t, 512> text{};
     kddbRToS(offset, kDecimal, 1, text.data());
     return text.data();
-}
-
-std::wstring bookKey(const KdCmColor& colour) {
-    const int length = std::max(colour.dictionaryKeyLength(), 0);
-    std::vector<wchar_t> key(static_cast<std::size_t>(length) + 1);
-    colour.getDictionaryKey(key.data());
-    return key.data();
 }
 
 // The names as the record's functions take them: one pointer each, null for an empty one.

@@ -5,6 +5,7 @@
 #include "KdDbMlineStyle.h"
 #include "KdString.h"
 #include "ZeroRule.h"
+#include "bookKey.h"
 #include "kddbObjects.h"
 #include "numberText.h"
 #include "styleRecord.h"
@@ -62,20 +63,11 @@ std::wstring angleText(double radians) {
     return text.data();
 }
 
-// Empty where there is none, or one that no reader would take whole.
-std::wstring bookKey(const KdCmColor& color) {
-    constexpr int kLongestKey = 2048;
-    const int length = color.dictionaryKeyLength();
-    if (length < 1 || length > kLongestKey) {
-        return {};
-    }
-    std::vector<wchar_t> key(static_cast<std::size_t>(length) + 1);
-    color.getDictionaryKey(key.data());
-    return key.data();
-}
+// A key that no reader would take whole isn't written.
+constexpr std::size_t kLongestKey = 2048;
 
 void addColorKey(BlockLines& block, const std::wstring& key) {
-    if (!key.empty()) {
+    if (!key.empty() && key.size() <= kLongestKey) {
         block.value("430", key);
     }
 }

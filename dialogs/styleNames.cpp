@@ -21,3 +21,14 @@ std::vector<CStdStr<wchar_t>> styleNames(KdDbObjectId dictionaryId) {
     dictionary->close();
     return names;
 }
+
+KdDbObjectId styleUnder(KdDbObjectId dictionaryId, const CStdStr<wchar_t>& key) {
+    KdDbObjectId id;
+    KdDbDictionary* dictionary = nullptr;
+    kddbOpenObject(dictionary, dictionaryId, kForRead);
+    if (dictionary != nullptr) {
+        dictionary->getAt(key, id);
+        dictionary->close();
+    }
+    return id;
+}
