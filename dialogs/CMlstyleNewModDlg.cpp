@@ -4,7 +4,7 @@
 #include "CMlstyleNewModDlgView.h"
 #include "KdDbDictionary.h"
 #include "KdDbMlineStyle.h"
-#include "colourWords.h"
+#include "colorWords.h"
 #include "dialogIcon.h"
 #include "dialogPlace.h"
 #include "kddbObjects.h"
@@ -36,9 +36,9 @@ void CMlstyleNewModDlg::DoDataExchange(CDataExchange* exchange) {
     DDX_Control(exchange, kOffsetField, m_offsetEdit);
     DDX_Control(exchange, kStartAngleField, m_startAngleEdit);
     DDX_Control(exchange, kEndAngleField, m_endAngleEdit);
-    DDX_Control(exchange, kFillColourCombo, m_fillColour);
-    DDX_Control(exchange, kElementColourCombo, m_elementColour);
-    DDX_Control(exchange, kLineTypeCombo, m_lineType);
+    DDX_Control(exchange, kFillColorCombo, m_fillColor);
+    DDX_Control(exchange, kElementColorCombo, m_elementColor);
+    DDX_Control(exchange, kLinetypeCombo, m_linetype);
     DDX_Control(exchange, kElementList, m_elements);
     DDV_RealOffset(exchange, m_offsetEdit);
     DDV_RealAng(exchange, m_startAngleEdit);
@@ -60,7 +60,7 @@ int CMlstyleNewModDlg::OnInitDialog() {
     }
     restoreDialogPlace(*this, kPlace);
     setDialogIcon(*this, 1);
-    m_lineType.UpdateData(true);
+    m_linetype.UpdateData(true);
     return 1;
 }
 
@@ -151,7 +151,7 @@ void CMlstyleNewModDlg::ModifyStyle() {
     }
     SetFlag(style, m_flagWord);
     style->setDescription(m_description);
-    style->setFillColor(chosenFillColour(style->fillColor()));
+    style->setFillColor(chosenFillColor(style->fillColor()));
     SetElementData(style);
     SetAnger(style);
     style->close();
@@ -163,15 +163,15 @@ void CMlstyleNewModDlg::showInPreview() {
     }
 }
 
-void CMlstyleNewModDlg::ColorToString(int colour, CStdStr<wchar_t>& text) {
-    text = colourWord(colour);
+void CMlstyleNewModDlg::ColorToString(int color, CStdStr<wchar_t>& text) {
+    text = colorWord(color);
 }
 
-void CMlstyleNewModDlg::StringToColor(CStdStr<wchar_t> text, int& colour) {
-    colour = colourIndexOf(text);
+void CMlstyleNewModDlg::StringToColor(CStdStr<wchar_t> text, int& color) {
+    color = colorIndexOf(text);
 }
 
 void CMlstyleNewModDlg::OnDestroy() {
     m_elements.OnDestroy();
-    m_rowColours.clear();
+    m_rowColors.clear();
 }

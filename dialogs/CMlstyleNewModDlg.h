@@ -43,8 +43,8 @@ public:
     void GetFlag70();
     [[nodiscard]] bool ValidateAng(CStdStr<wchar_t> text);
     void SetControlState(bool on);
-    void ColorToString(int colour, CStdStr<wchar_t>& text);
-    void StringToColor(CStdStr<wchar_t> text, int& colour);
+    void ColorToString(int color, CStdStr<wchar_t>& text);
+    void StringToColor(CStdStr<wchar_t> text, int& color);
     void DDV_RealOffset(CDataExchange* exchange, CEdit& field);
     void DDV_RealAng(CDataExchange* exchange, CEdit& field);
     void OnDestroy(); // nothing is connected to it
@@ -66,13 +66,13 @@ private:
     bool makeNewStyle();
     bool copyToScratch();
     void removeNewStyle();
-    [[nodiscard]] KdCmColor chosenFillColour(const KdCmColor& before) const;
+    [[nodiscard]] KdCmColor chosenFillColor(const KdCmColor& before) const;
     void showInPreview();
     void showElementsInPreview();
     [[nodiscard]] int selectedRow() const; // the first one; -1 for none
-    [[nodiscard]] KdCmColor* colourOf(int row) const;
-    void setColourOf(int row, const KdCmColor& colour);
-    void forgetColourOf(int row);
+    [[nodiscard]] KdCmColor* colorOf(int row) const;
+    void setColorOf(int row, const KdCmColor& color);
+    void forgetColorOf(int row);
     [[nodiscard]] std::vector<ElementRow> rows() const;
 
     KdDbObjectId m_styleId;                         // what OK writes to
@@ -82,10 +82,10 @@ public:
     KdDbObjectId m_dictionaryId;
 
 private:
-    CKdUiTrueColorComboBox m_fillColour;
-    CKdUiTrueColorComboBox m_elementColour;
+    CKdUiTrueColorComboBox m_fillColor;
+    CKdUiTrueColorComboBox m_elementColor;
     CSortListCtrl m_elements; // each row's word is its KdCmColor
-    CKdUiLineTypeComboBox m_lineType;
+    CKdUiLineTypeComboBox m_linetype;
 
 public:
     CStdStr<wchar_t> m_newName;
@@ -107,5 +107,5 @@ public:
     int m_mode = modeNew;
 
 private:
-    std::list<KdCmColor> m_rowColours; // of the rows; they point at them
+    std::list<KdCmColor> m_rowColors; // of the rows; they point at them
 };

@@ -17,7 +17,7 @@
 
 namespace {
 
-enum Column : int { offsetColumn = 0, lineTypeColumn = 1, colourColumn = 2 };
+enum Column : int { offsetColumn = 0, linetypeColumn = 1, colorColumn = 2 };
 
 // In the order of the columns.
 constexpr unsigned kHeadingTexts[] = {1, 3, 2};
@@ -53,19 +53,19 @@ void CMlstyleNewModDlg::fillElementList(const KdDbMlineStyle& style) {
     m_elements.SetHeadings(headings(client.Width() / static_cast<int>(std::size(kHeadingTexts))));
     m_elements.LoadColumnInfo();
     for (const ElementRow& row : elementRows(style)) {
-        const int index = m_elements.AddItem(row.offset.c_str(), row.lineType.c_str(),
-                                             shownColour(row.colour).c_str());
-        setColourOf(index, row.colour);
+        const int index = m_elements.AddItem(row.offset.c_str(), row.linetype.c_str(),
+                                             shownColor(row.color).c_str());
+        setColorOf(index, row.color);
     }
 }
 
 std::vector<ElementRow> CMlstyleNewModDlg::rows() const {
     std::vector<ElementRow> all;
     for (int row = 0; row < m_elements.GetItemCount(); ++row) {
-        const KdCmColor* const colour = colourOf(row);
+        const KdCmColor* const color = colorOf(row);
         all.push_back({m_elements.GetItemText(row, offsetColumn).text(),
-                       m_elements.GetItemText(row, lineTypeColumn).text(),
-                       colour != nullptr ? *colour : KdCmColor()});
+                       m_elements.GetItemText(row, linetypeColumn).text(),
+                       color != nullptr ? *color : KdCmColor()});
     }
     return all;
 }
@@ -86,29 +86,29 @@ int CMlstyleNewModDlg::selectedRow() const {
     return m_elements.GetNextItem(-1, kSelected);
 }
 
-KdCmColor* CMlstyleNewModDlg::colourOf(int row) const {
+KdCmColor* CMlstyleNewModDlg::colorOf(int row) const {
     return std::bit_cast<KdCmColor*>(m_elements.GetItemData(row));
 }
 
-void CMlstyleNewModDlg::setColourOf(int row, const KdCmColor& colour) {
-    if (KdCmColor* const known = colourOf(row)) {
-        *known = colour;
+void CMlstyleNewModDlg::setColorOf(int row, const KdCmColor& color) {
+    if (KdCmColor* const known = colorOf(row)) {
+        *known = color;
         return;
     }
-    m_rowColours.push_back(colour);
-    m_elements.SetItemData(row, reinterpret_cast<unsigned long>(&m_rowColours.back()));
+    m_rowColors.push_back(color);
+    m_elements.SetItemData(row, reinterpret_cast<unsigned long>(&m_rowColors.back()));
 }
 
-void CMlstyleNewModDlg::forgetColourOf(int row) {
-    const KdCmColor* const known = colourOf(row);
+void CMlstyleNewModDlg::forgetColorOf(int row) {
+    const KdCmColor* const known = colorOf(row);
     m_elements.SetItemData(row, 0);
-    m_rowColours.remove_if([known](const KdCmColor& colour) { return &colour == known; });
+    m_rowColors.remove_if([known](const KdCmColor& color) { return &color == known; });
 }
 
 void CMlstyleNewModDlg::SetControlState(bool on) {
     // A style keeps one element at least.
     GetDlgItem(kDeleteButton)->EnableWindow(on && m_elements.GetItemCount() != 1);
-    for (const int control : {kLineTypeCombo, kOffsetField, kElementColourCombo}) {
+    for (const int control : {kLinetypeCombo, kOffsetField, kElementColorCombo}) {
         GetDlgItem(control)->EnableWindow(on);
     }
 }
@@ -121,15 +121,14 @@ void CMlstyleNewModDlg::OnClickList(tagNMHDR* /*header*/, long* /*result*/) {
         return;
     }
     GetDlgItem(kOffsetField)->SetWindowTextW(m_elements.GetItemText(row, offsetColumn));
-    m_lineType.SetCurSel(m_lineType.FindString(-1, m_elements.GetItemText(row, lineTypeColumn)));
-    m_lineType.UpdateData(true);
-    const int index =
-        m_elementColour.FindStringExact(-1, m_elements.GetItemText(row, colourColumn));
+    m_linetype.SetCurSel(m_linetype.FindString(-1, m_elements.GetItemText(row, linetypeColumn)));
+    m_linetype.UpdateData(true);
+    const int index = m_elementColor.FindStringExact(-1, m_elements.GetItemText(row, colorColumn));
     if (index >= 0) {
-        m_elementColour.SetCurSel(index);
-    } else if (const KdCmColor* const colour = colourOf(row)) {
+        m_elementColor.SetCurSel(index);
+    } else if (const KdCmColor* const color = colorOf(row)) {
         // It is offered from now on, and selected when the row is clicked again.
-        m_elementColour.AddColorToMRU(*colour);
+        m_elementColor.AddColorToMRU(*color);
     }
 }
 
@@ -161,9 +160,9 @@ void CMlstyleNewModDlg::OnAddElement() {
     SetControlState(true);
     OnClickList();
     SetControlState(true);
-    KdCmColor colour;
-    colour.setColorIndex(kByLayerIndex);
-    setColourOf(row, colour);
+    KdCmColor color;
+    color.setColorIndex(kByLayerIndex);
+    setColorOf(row, color);
     m_elements.Sort(offsetColumn, false);
     showElementsInPreview();
 }
@@ -175,7 +174,7 @@ void CMlstyleNewModDlg::OnDelElement() {
     }
     m_elements.SetFocus();
     m_elements.SetItemState(row, 1, 1);
-    forgetColourOf(row);
+    forgetColorOf(row);
     m_elements.DeleteItem(row);
     SetControlState(selectedRow() >= 0);
     showElementsInPreview();
@@ -186,10 +185,10 @@ void CMlstyleNewModDlg::OnselchgElecol() {
     if (row < 0) {
         return;
     }
-    KdCmColor colour;
-    m_elementColour.GetCurrentItemColor(colour);
-    m_elements.SetItemText(row, colourColumn, shownColour(colour).c_str());
-    setColourOf(row, colour);
+    KdCmColor color;
+    m_elementColor.GetCurrentItemColor(color);
+    m_elements.SetItemText(row, colorColumn, shownColor(color).c_str());
+    setColorOf(row, color);
     showElementsInPreview();
 }
 
@@ -199,7 +198,7 @@ void CMlstyleNewModDlg::OnLtypeSelChange() {
         return;
     }
     CStdStr<wchar_t> name;
-    m_lineType.GetLBText(m_lineType.GetCurSel(), name);
-    m_elements.SetItemText(row, lineTypeColumn, name);
+    m_linetype.GetLBText(m_linetype.GetCurSel(), name);
+    m_elements.SetItemText(row, linetypeColumn, name);
     showElementsInPreview();
 }

@@ -65,13 +65,13 @@ void CMlstyleNewModDlg::InitialDialog() {
     for (const FlagBox& box : kFlagBoxes) {
         CheckDlgButton(box.control, (style->*box.isSet)() ? 1 : 0);
     }
-    GetDlgItem(kFillColourCombo)->EnableWindow(style->filled());
-    int fillColour = m_fillColour.FindItemByColor(style->fillColor());
-    if (fillColour < 0) {
-        fillColour = m_fillColour.AddColorToMRU(style->fillColor());
+    GetDlgItem(kFillColorCombo)->EnableWindow(style->filled());
+    int fillColor = m_fillColor.FindItemByColor(style->fillColor());
+    if (fillColor < 0) {
+        fillColor = m_fillColor.AddColorToMRU(style->fillColor());
     }
-    if (fillColour >= 0) {
-        m_fillColour.SetCurSel(fillColour);
+    if (fillColor >= 0) {
+        m_fillColor.SetCurSel(fillColor);
     }
     m_startAngle = style->startAngle();
     m_startAngleText = angleText(m_startAngle);
@@ -107,20 +107,20 @@ bool CMlstyleNewModDlg::OnCommand(unsigned long wParam, long lParam) {
 }
 
 void CMlstyleNewModDlg::OnOpenCloseFill() {
-    GetDlgItem(kFillColourCombo)->EnableWindow(IsDlgButtonChecked(kFillBox) != 0);
+    GetDlgItem(kFillColorCombo)->EnableWindow(IsDlgButtonChecked(kFillBox) != 0);
 }
 
 // The fill is an index colour once it has been here; a true colour gives its index.
-KdCmColor CMlstyleNewModDlg::chosenFillColour(const KdCmColor& before) const {
-    KdCmColor colour = before;
-    m_fillColour.GetCurrentItemColor(colour);
-    colour.setColorIndex(colour.colorIndex());
-    return colour;
+KdCmColor CMlstyleNewModDlg::chosenFillColor(const KdCmColor& before) const {
+    KdCmColor color = before;
+    m_fillColor.GetCurrentItemColor(color);
+    color.setColorIndex(color.colorIndex());
+    return color;
 }
 
 void CMlstyleNewModDlg::OnselchgFillcol() {
     if (m_scratchStyle) {
-        m_scratchStyle->setFillColor(chosenFillColour(m_scratchStyle->fillColor()));
+        m_scratchStyle->setFillColor(chosenFillColor(m_scratchStyle->fillColor()));
         showInPreview();
     }
 }

@@ -72,13 +72,13 @@ void CMlstyleNewModDlg::registerWidgets(::CMlstyleNewModDlg& logic) {
         {kEndAngleField, ui.lineEditAngleEnd},
         {kElementList, ui.listWidget},
         {kJointsBox, ui.chkBoxDisplayJoints},
-        {kFillColourCombo, ui.cbBoxFillColor},
-        {kElementColourCombo, ui.cbBoxColor},
+        {kFillColorCombo, ui.cbBoxFillColor},
+        {kElementColorCombo, ui.cbBoxColor},
         {kOffsetField, ui.lineEditOffset},
         {kAddButton, ui.pBtnAdd},
         {kDeleteButton, ui.pBtnDelete},
         {kFillBox, ui.chkBoxOpen},
-        {kLineTypeCombo, ui.cbBoxLinetype},
+        {kLinetypeCombo, ui.cbBoxLinetype},
     };
     for (const Item& item : items) {
         logic.SetDlgItem(item.number, item.widget);

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <vector>
 
-std::wstring bookKey(const KdCmColor& colour) {
-    const int length = std::max(colour.dictionaryKeyLength(), 0);
+std::wstring bookKey(const KdCmColor& color) {
+    const int length = std::max(color.dictionaryKeyLength(), 0);
     std::vector<wchar_t> key(static_cast<std::size_t>(length) + 1);
-    colour.getDictionaryKey(key.data());
+    color.getDictionaryKey(key.data());
     return key.data();
 }

@@ -5,4 +5,4 @@
 #include <string>
 
 // A colour's key in its colour book; empty where it is in none.
-std::wstring bookKey(const KdCmColor& colour);
+std::wstring bookKey(const KdCmColor& color);

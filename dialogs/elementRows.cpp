@@ -46,7 +46,7 @@ std::wstring localized(const std::wstring& name, int count) {
     return name;
 }
 
-std::wstring lineTypeName(KdDbObjectId id) {
+std::wstring linetypeName(KdDbObjectId id) {
     KdDbLinetypeTableRecord* record = nullptr;
     kddbOpenObject(record, id, kForRead);
     if (record == nullptr) {
@@ -80,8 +80,8 @@ std::wstring localByLayer() {
     return local(kByLayer);
 }
 
-std::wstring shownColour(const KdCmColor& colour) {
-    return localized(colour.colorNameForDisplay(), 2);
+std::wstring shownColor(const KdCmColor& color) {
+    return localized(color.colorNameForDisplay(), 2);
 }
 
 std::vector<ElementRow> elementRows(const KdDbMlineStyle& style) {
@@ -89,17 +89,17 @@ std::vector<ElementRow> elementRows(const KdDbMlineStyle& style) {
     std::vector<ElementRow> rows;
     for (int i = 0; i < style.numElements(); ++i) {
         double offset = 0.0;
-        KdDbObjectId lineType;
+        KdDbObjectId linetype;
         ElementRow row;
-        style.getElementAt(i, offset, row.colour, lineType);
+        style.getElementAt(i, offset, row.color, linetype);
         row.offset = offsetText(offset);
-        row.lineType = localized(lineTypeName(lineType), 3);
+        row.linetype = localized(linetypeName(linetype), 3);
         rows.push_back(std::move(row));
     }
     return rows;
 }
 
-std::wstring storedLineType(const std::wstring& shown) {
+std::wstring storedLinetype(const std::wstring& shown) {
     if (isSame(shown, local(kByLayer))) {
         return L"ByLayer";
     }
@@ -114,18 +114,18 @@ void setElementRows(KdDbMlineStyle& style, const std::vector<ElementRow>& rows,
     std::vector<double> offsets;
     std::vector<int> indices;
     std::vector<unsigned> values;
-    std::vector<std::wstring> lineTypes;
+    std::vector<std::wstring> linetypes;
     std::vector<std::wstring> keys;
     for (const ElementRow& row : rows) {
         offsets.push_back(_wtof(row.offset.c_str()));
-        lineTypes.push_back(storedLineType(row.lineType));
-        indices.push_back(row.colour.colorIndex());
-        values.push_back(row.colour.color());
-        keys.push_back(bookKey(row.colour));
+        linetypes.push_back(storedLinetype(row.linetype));
+        indices.push_back(row.color.colorIndex());
+        values.push_back(row.color.color());
+        keys.push_back(bookKey(row.color));
     }
     const int count = static_cast<int>(rows.size());
     SetNumElements(&style, count);
-    SetElemLtype(&style, pointersTo(lineTypes).data(), count, database);
+    SetElemLtype(&style, pointersTo(linetypes).data(), count, database);
     SetElemOffset(&style, offsets.data(), count);
     SetElemColor(&style, indices.data(), count);
     SetElemRgb(&style, values.data(), count);

@@ -11,21 +11,21 @@ class KdDbMlineStyle;
 // A style's elements as the modify dialog lists them.
 struct ElementRow {
     std::wstring offset;   // drawing units at scale 1
-    std::wstring lineType; // local name
-    KdCmColor colour;
+    std::wstring linetype; // local name
+    KdCmColor color;
 };
 
 // In the style's order, offsets with one decimal at most. The style is open.
 std::vector<ElementRow> elementRows(const KdDbMlineStyle& style);
 
 // Local name of by layer and by block; else the colour's name for display.
-std::wstring shownColour(const KdCmColor& colour);
+std::wstring shownColor(const KdCmColor& color);
 
 std::wstring localByLayer();
 
 // What is written for a line type in a row. The dialog keeps by layer, by block and Continuous
 // alone; any other name is Continuous.
-std::wstring storedLineType(const std::wstring& shown);
+std::wstring storedLinetype(const std::wstring& shown);
 
 // Makes the rows the style's elements, in their order. Of a colour the index is kept and a name
 // from a colour book, as SetElemName does it; true colours aren't. The style is open for write, or

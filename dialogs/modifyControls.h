@@ -13,13 +13,13 @@ enum ModifyControl : int {
     kEndAngleField = 1045,
     kElementList = 1046,
     kJointsBox = 1047,
-    kFillColourCombo = 1048,
-    kElementColourCombo = 1049,
+    kFillColorCombo = 1048,
+    kElementColorCombo = 1049,
     kOffsetField = 1050,
     kAddButton = 1051,
     kDeleteButton = 1052,
     kFillBox = 1054,
-    kLineTypeCombo = 1055,
+    kLinetypeCombo = 1055,
 };
 
 // The offset field where no row is selected.

@@ -31,7 +31,7 @@ std::string decimals(const PlanPoint& point) {
     return decimal(point.x) + ' ' + decimal(point.y);
 }
 
-std::string colour(std::uint32_t rgb) {
+std::string color(std::uint32_t rgb) {
     constexpr std::string_view kDigits = "0123456789abcdef";
     std::string text = "#";
     for (int shift = 20; shift >= 0; shift -= 4) {
@@ -82,7 +82,7 @@ void SvgPicture::add(const Appearance& appearance) {
 }
 
 void SvgPicture::addFill(const Fill& fill) {
-    m_fills += "<path fill=\"" + colour(paintedRgb(fill.rgb, m_settings)) + "\" d=\"";
+    m_fills += "<path fill=\"" + color(paintedRgb(fill.rgb, m_settings)) + "\" d=\"";
     char move = 'M';
     for (const PlanPoint& point : fill.outline) {
         m_fills += move + decimals(m_view.toPixels(point));
@@ -121,7 +121,7 @@ void SvgPicture::addStroke(const Stroke& stroke, const Appearance& appearance) {
 }
 
 std::string SvgPicture::strokeLook(const Stroke& stroke, const Appearance& appearance) const {
-    std::string look = "stroke=\"" + colour(paintedRgb(stroke.rgb, m_settings)) + '"';
+    std::string look = "stroke=\"" + color(paintedRgb(stroke.rgb, m_settings)) + '"';
     if (stroke.dashes == 0 || stroke.dashes > appearance.dashPatterns.size()) {
         return look;
     }
@@ -156,7 +156,7 @@ void SvgPicture::addLabel(const Label& label) {
                                              label.anchor.y + rise * std::cos(label.angle)});
     const double size = label.height / kCapitalOfFontSize / m_view.unitsPerPixel();
     m_labels += "<text x=\"" + decimal(place.x) + "\" y=\"" + decimal(place.y) + "\" font-size=\"" +
-                decimal(size) + "\" fill=\"" + colour(paintedRgb(label.rgb, m_settings)) + '"';
+                decimal(size) + "\" fill=\"" + color(paintedRgb(label.rgb, m_settings)) + '"';
     if (label.horizontal != 0) {
         m_labels += label.horizontal == 1 ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
     }

@@ -25,8 +25,8 @@ std::wstring SessionChoices::continuousName() const {
     return kddbGetReservedString(kContinuous, true);
 }
 
-std::vector<LineTypeChoice> SessionChoices::lineTypes() const {
-    std::vector<LineTypeChoice> choices;
+std::vector<LinetypeChoice> SessionChoices::linetypes() const {
+    std::vector<LinetypeChoice> choices;
     KdDocument* const document = curDoc();
     if (document == nullptr || document->database() == nullptr) {
         return choices;

@@ -15,7 +15,7 @@ public:
     [[nodiscard]] std::wstring byLayerName() const override;
     [[nodiscard]] std::wstring byBlockName() const override;
     [[nodiscard]] std::wstring continuousName() const override;
-    [[nodiscard]] std::vector<LineTypeChoice> lineTypes() const override;
+    [[nodiscard]] std::vector<LinetypeChoice> linetypes() const override;
 
 private:
     DrawingChoices* m_before;

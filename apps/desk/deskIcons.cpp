@@ -57,13 +57,13 @@ QPainterPath pathOf(const char* strokes) {
     return path;
 }
 
-QPixmap drawn(const QPainterPath& path, int size, const QColor& colour) {
+QPixmap drawn(const QPainterPath& path, int size, const QColor& color) {
     QPixmap pixmap(size, size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(size / double{kGrid}, size / double{kGrid});
-    painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(path);
     return pixmap;
 }

@@ -37,7 +37,7 @@ void CKdUiLineTypeComboBox::PreSubclassWindow() {
     add(drawing.byLayerName(), {});
     add(drawing.byBlockName(), {});
     add(drawing.continuousName(), {});
-    for (const orvex::LineTypeChoice& each : drawing.lineTypes()) {
+    for (const orvex::LinetypeChoice& each : drawing.linetypes()) {
         if (!isReserved(each.name)) {
             add(each.name, each.dashes);
         }

@@ -12,12 +12,12 @@
 namespace orvex {
 
 // The colours of the entries, in their order; the chooser's entry behind them has none.
-class ColourList {
+class ColorList {
 public:
     static constexpr int kFirstRecent = 9; // by layer, by block, 1 to 7
     static constexpr int kMostRecent = 8;
 
-    ColourList() {
+    ColorList() {
         constexpr std::uint16_t kLastPlain = 7;
         constexpr std::uint16_t kByLayer = 256;
         add(kByLayer);
@@ -26,28 +26,28 @@ public:
         }
     }
 
-    [[nodiscard]] int count() const { return static_cast<int>(m_colours.size()); }
-    [[nodiscard]] const KdCmColor& at(int index) const { return m_colours[index]; }
+    [[nodiscard]] int count() const { return static_cast<int>(m_colors.size()); }
+    [[nodiscard]] const KdCmColor& at(int index) const { return m_colors[index]; }
     [[nodiscard]] bool has(int index) const { return index >= 0 && index < count(); }
 
-    void insert(int index, const KdCmColor& colour) {
-        m_colours.insert(m_colours.begin() + index, colour);
+    void insert(int index, const KdCmColor& color) {
+        m_colors.insert(m_colors.begin() + index, color);
     }
-    void remove(int index) { m_colours.erase(m_colours.begin() + index); }
+    void remove(int index) { m_colors.erase(m_colors.begin() + index); }
 
 private:
     void add(std::uint16_t index) {
-        KdCmColor colour;
-        colour.setColorIndex(index);
-        m_colours.push_back(colour);
+        KdCmColor color;
+        color.setColorIndex(index);
+        m_colors.push_back(color);
     }
 
-    std::vector<KdCmColor> m_colours;
+    std::vector<KdCmColor> m_colors;
 };
 
 } // namespace orvex
 
-using orvex::ColourList;
+using orvex::ColorList;
 
 namespace {
 
@@ -65,27 +65,26 @@ bool isSame(const KdCmColor& a, const KdCmColor& b) {
                                                  : a.colorIndex() == b.colorIndex();
 }
 
-QString nameOf(const KdCmColor& colour) {
+QString nameOf(const KdCmColor& color) {
     const orvex::DrawingChoices& drawing = *orvex::drawingChoices();
-    switch (colour.colorMethod()) {
+    switch (color.colorMethod()) {
     case KdCmColor::byLayer:
         return QString::fromStdWString(drawing.byLayerName());
     case KdCmColor::byBlock:
         return QString::fromStdWString(drawing.byBlockName());
     default:
-        return QString::fromStdWString(colour.colorNameForDisplay());
+        return QString::fromStdWString(color.colorNameForDisplay());
     }
 }
 
-void insertEntry(QComboBox& combo, int index, const KdCmColor& colour) {
-    combo.insertItem(index,
-                     orvex::colourSwatch(colour.rgb(), combo.palette().color(QPalette::Text)),
-                     nameOf(colour));
+void insertEntry(QComboBox& combo, int index, const KdCmColor& color) {
+    combo.insertItem(index, orvex::colorSwatch(color.rgb(), combo.palette().color(QPalette::Text)),
+                     nameOf(color));
 }
 
 } // namespace
 
-CKdUiTrueColorComboBox::CKdUiTrueColorComboBox() : m_colours(std::make_shared<ColourList>()) {}
+CKdUiTrueColorComboBox::CKdUiTrueColorComboBox() : m_colors(std::make_shared<ColorList>()) {}
 
 CKdUiTrueColorComboBox::~CKdUiTrueColorComboBox() = default;
 
@@ -98,67 +97,67 @@ void CKdUiTrueColorComboBox::PreSubclassWindow() {
     const QSignalBlocker silent(combo);
     combo->clear();
     combo->setIconSize(orvex::kSwatchSize);
-    for (int index = 0; index < m_colours->count(); ++index) {
-        insertEntry(*combo, index, m_colours->at(index));
+    for (int index = 0; index < m_colors->count(); ++index) {
+        insertEntry(*combo, index, m_colors->at(index));
     }
     // Only a box that asks before it tells can have an entry that isn't a colour.
     if (auto* const asking = qobject_cast<VOUI::MRUComboBox*>(combo)) {
         combo->addItem("More Colors...");
-        const std::weak_ptr<ColourList> alive = m_colours;
+        const std::weak_ptr<ColorList> alive = m_colors;
         asking->setChooser([this, alive](int index) { return alive.expired() || choose(index); });
     }
     combo->setCurrentIndex(-1);
 }
 
-void CKdUiTrueColorComboBox::GetCurrentItemColor(KdCmColor& colour) const {
-    if (const int index = GetCurSel(); m_colours->has(index)) {
-        colour = m_colours->at(index);
+void CKdUiTrueColorComboBox::GetCurrentItemColor(KdCmColor& color) const {
+    if (const int index = GetCurSel(); m_colors->has(index)) {
+        color = m_colors->at(index);
     }
 }
 
-int CKdUiTrueColorComboBox::FindItemByColor(const KdCmColor& colour) const {
+int CKdUiTrueColorComboBox::FindItemByColor(const KdCmColor& color) const {
     if (comboOf(*this) == nullptr) {
         return -1;
     }
-    for (int index = 0; index < m_colours->count(); ++index) {
-        if (isSame(m_colours->at(index), colour)) {
+    for (int index = 0; index < m_colors->count(); ++index) {
+        if (isSame(m_colors->at(index), color)) {
             return index;
         }
     }
     return -1;
 }
 
-int CKdUiTrueColorComboBox::AddColorToMRU(const KdCmColor& colour) {
+int CKdUiTrueColorComboBox::AddColorToMRU(const KdCmColor& color) {
     QComboBox* const combo = comboOf(*this);
     if (combo == nullptr) {
         return -1;
     }
-    if (const int known = FindItemByColor(colour); known >= 0) {
+    if (const int known = FindItemByColor(color); known >= 0) {
         return known;
     }
     const QSignalBlocker silent(combo);
-    m_colours->insert(ColourList::kFirstRecent, colour);
-    insertEntry(*combo, ColourList::kFirstRecent, colour);
-    if (m_colours->count() > ColourList::kFirstRecent + ColourList::kMostRecent) {
+    m_colors->insert(ColorList::kFirstRecent, color);
+    insertEntry(*combo, ColorList::kFirstRecent, color);
+    if (m_colors->count() > ColorList::kFirstRecent + ColorList::kMostRecent) {
         // The oldest goes, unless it is the one that is shown.
-        int oldest = m_colours->count() - 1;
+        int oldest = m_colors->count() - 1;
         oldest -= oldest == combo->currentIndex() ? 1 : 0;
-        m_colours->remove(oldest);
+        m_colors->remove(oldest);
         combo->removeItem(oldest);
     }
-    return ColourList::kFirstRecent;
+    return ColorList::kFirstRecent;
 }
 
 // The user took an entry. False when nothing came of it.
 bool CKdUiTrueColorComboBox::choose(int index) {
     auto* const combo = qobject_cast<VOUI::MRUComboBox*>(GetSafeHwnd());
-    if (combo == nullptr || m_colours->has(index)) {
+    if (combo == nullptr || m_colors->has(index)) {
         return true;
     }
-    SetCurSel(m_colours->has(combo->indexBefore()) ? combo->indexBefore() : -1);
+    SetCurSel(m_colors->has(combo->indexBefore()) ? combo->indexBefore() : -1);
     KdCmColor before;
     GetCurrentItemColor(before);
-    const auto chosen = orvex::drawingChoices()->askColour(before);
+    const auto chosen = orvex::drawingChoices()->askColor(before);
     if (!chosen) {
         return false;
     }

@@ -26,27 +26,27 @@ void offerPalette() {
 }
 
 KdCmColor fromRgb(std::uint32_t rgb) {
-    KdCmColor colour;
+    KdCmColor color;
     const std::uint16_t index = nearestPaletteIndex(rgb);
     if (paletteRgb(index) == rgb) {
-        colour.setColorIndex(index);
+        color.setColorIndex(index);
     } else {
-        colour.setColor(std::uint32_t{KdCmColor::byColor} << 24U | rgb);
+        color.setColor(std::uint32_t{KdCmColor::byColor} << 24U | rgb);
     }
-    return colour;
+    return color;
 }
 
 } // namespace
 
-std::optional<KdCmColor> DrawingChoices::askColour(const KdCmColor& before) const {
+std::optional<KdCmColor> DrawingChoices::askColor(const KdCmColor& before) const {
     offerPalette();
     const QColor chosen = QColorDialog::getColor(QColor(before.rgb()), QApplication::activeWindow(),
                                                  "Select Color", QColorDialog::DontUseNativeDialog);
     if (!chosen.isValid()) {
         return std::nullopt;
     }
-    constexpr std::uint32_t kColourBits = 0xFFFFFF;
-    return fromRgb(chosen.rgb() & kColourBits);
+    constexpr std::uint32_t kColorBits = 0xFFFFFF;
+    return fromRgb(chosen.rgb() & kColorBits);
 }
 
 DrawingChoices* setDrawingChoices(DrawingChoices* choices) {

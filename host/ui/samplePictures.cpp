@@ -44,7 +44,7 @@ std::vector<Stroke> strokes(const std::vector<double>& dashes, double width) {
 
 } // namespace
 
-QIcon colourSwatch(std::uint32_t rgb, const QColor& frame) {
+QIcon colorSwatch(std::uint32_t rgb, const QColor& frame) {
     QPixmap picture(kSwatchSize);
     picture.fill(QColor(rgb));
     QPainter painter(&picture);

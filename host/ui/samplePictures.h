@@ -13,7 +13,7 @@ inline constexpr QSize kSwatchSize(20, 12);     // pixels
 inline constexpr QSize kLineSampleSize(64, 12); // pixels
 
 // A framed field of the colour 0xRRGGBB.
-QIcon colourSwatch(std::uint32_t rgb, const QColor& frame);
+QIcon colorSwatch(std::uint32_t rgb, const QColor& frame);
 
 // At least two repetitions of a line type, in drawing units: positive pen down, negative pen up, 0
 // a dot; without any length it is continuous.

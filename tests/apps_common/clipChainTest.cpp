@@ -10,7 +10,7 @@ using ::testing::IsEmpty;
 
 const PlanBox kFrame{{0, 0}, {10, 10}};
 
-TEST(ClipChain, KeepsWhatIsInsideAndTellsWhatWasBefore) {
+TEST(ClipChain, keepsWhatIsInsideAndTellsWhatWasBefore) {
     // In at (0, 5), round inside, out at (10, 5), back in from above at (2, 10) and to its end.
     const std::vector<PlanPoint> chain{{-5, 5}, {3, 5},   {3, 8},  {3, 5},
                                        {14, 5}, {14, 14}, {2, 14}, {2, 7}};
@@ -24,7 +24,7 @@ TEST(ClipChain, KeepsWhatIsInsideAndTellsWhatWasBefore) {
     EXPECT_DOUBLE_EQ(runs[1].before, 50.0);
 }
 
-TEST(ClipChain, DropsWhatIsOutside) {
+TEST(ClipChain, dropsWhatIsOutside) {
     EXPECT_THAT(clipChain(std::vector<PlanPoint>{{-5, 20}, {15, 20}}, kFrame), IsEmpty());
     EXPECT_THAT(clipChain(std::vector<PlanPoint>{{11, -5}, {11, 15}}, kFrame), IsEmpty());
     EXPECT_THAT(clipChain(std::vector<PlanPoint>{{20, 20}}, kFrame), IsEmpty());
@@ -32,7 +32,7 @@ TEST(ClipChain, DropsWhatIsOutside) {
     EXPECT_EQ(clipChain(std::vector<PlanPoint>{{5, 5}}, kFrame).size(), 1U) << "a dot";
 }
 
-TEST(ClipChain, CutsLinesLargerThanAnyPainterKnows) {
+TEST(ClipChain, cutsLinesLargerThanAnyPainterKnows) {
     const auto runs = clipChain(std::vector<PlanPoint>{{-1e15, 5}, {1e15, 5}}, kFrame);
     ASSERT_EQ(runs.size(), 1U);
     EXPECT_NEAR(runs[0].points.front().x, 0.0, 1.0);

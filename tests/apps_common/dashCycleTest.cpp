@@ -14,7 +14,7 @@ struct CycleCase {
     double offset;
 };
 
-TEST(DashCycle, BeginsWithAStrokeAndAlternates) {
+TEST(DashCycle, beginsWithAStrokeAndAlternates) {
     const CycleCase cases[] = {
         {"as it is", {3, -2}, {6, 4}, 0},
         {"with a dot", {3, -1, 0, -1}, {6, 2, 1, 2}, 0},

@@ -44,7 +44,7 @@ protected:
     TestDrawing drawing;
 };
 
-TEST_F(PictureWriter, WritesSvgThatReads) {
+TEST_F(PictureWriter, writesSvgThatReads) {
     drawing.addShape(TextShape{{5, 5, 0}, {1, 0, 0}, {0, 1, 0}, 1, 1, 2, {L"1 < 2 & \u00FC"}});
     Scene scene(drawing.database);
     EXPECT_EQ(writePicture(scene, file("a.SVG"), 110, 110), std::nullopt);
@@ -56,7 +56,7 @@ TEST_F(PictureWriter, WritesSvgThatReads) {
     EXPECT_THAT(text, HasSubstr("text-anchor=\"middle\">1 &lt; 2 &amp; \u00FC</text>"));
 }
 
-TEST_F(PictureWriter, PaintsPngAndPdf) {
+TEST_F(PictureWriter, paintsPngAndPdf) {
     Scene scene(drawing.database);
     EXPECT_EQ(writePicture(scene, file("a.png"), 110, 110), std::nullopt);
     const QImage image(QString::fromStdString(file("a.png")));
@@ -72,7 +72,7 @@ TEST_F(PictureWriter, PaintsPngAndPdf) {
     EXPECT_THAT(pdf, HasSubstr("%%EOF"));
 }
 
-TEST_F(PictureWriter, DrawsAnEmptyDrawingAndOddOnes) {
+TEST_F(PictureWriter, drawsAnEmptyDrawingAndOddOnes) {
     const TestDrawing empty;
     Scene nothing(empty.core.database());
     EXPECT_EQ(writePicture(nothing, file("empty.svg"), 100, 50), std::nullopt);
@@ -88,7 +88,7 @@ TEST_F(PictureWriter, DrawsAnEmptyDrawingAndOddOnes) {
     }
 }
 
-TEST_F(PictureWriter, RefusesWhatItCantWriteAndLeavesNothingBehind) {
+TEST_F(PictureWriter, refusesWhatItCantWriteAndLeavesNothingBehind) {
     Scene scene(drawing.database);
     struct Case {
         const char* name;

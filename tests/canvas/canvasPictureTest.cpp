@@ -22,7 +22,7 @@ int differences(const QImage& a, const QImage& b) {
     return count;
 }
 
-TEST_F(CanvasFixture, ManyMovementsComeToThePictureOfTheirEnd) {
+TEST_F(CanvasFixture, manyMovementsComeToThePictureOfTheirEnd) {
     std::mt19937 random(7);
     const auto number = [&](int from, int to) {
         return std::uniform_int_distribution<int>(from, to)(random);
@@ -99,7 +99,7 @@ private:
     std::mt19937 m_random{11};
 };
 
-TEST_F(EditedCanvas, EditsComeToThePictureOfTheEditedDrawing) {
+TEST_F(EditedCanvas, editsComeToThePictureOfTheEditedDrawing) {
     for (int round = 0; round < 40; ++round) {
         if (round % 8 == 0) {
             canvas.zoomExtents();
@@ -119,7 +119,7 @@ TEST_F(EditedCanvas, EditsComeToThePictureOfTheEditedDrawing) {
     }
 }
 
-TEST_F(EditedCanvas, LayersAndStylesChangeAllThatUsesThem) {
+TEST_F(EditedCanvas, layersAndStylesChangeAllThatUsesThem) {
     auto& mline = *static_cast<KdDbMline*>(core().load(anyMline()));
     const std::wstring name = mline.traits().layer;
     auto* style = static_cast<KdDbMlineStyle*>(core().load(*mline.style().stub()));
@@ -141,7 +141,7 @@ TEST_F(EditedCanvas, LayersAndStylesChangeAllThatUsesThem) {
     }
 }
 
-TEST_F(EditedCanvas, AnEditPaintsNoMoreThanItsPlace) {
+TEST_F(EditedCanvas, anEditPaintsNoMoreThanItsPlace) {
     PlanPicture whole;
     whole.setScene(&session->scene());
     whole.setView(session->view(), 1.0);
@@ -166,7 +166,7 @@ TEST_F(EditedCanvas, AnEditPaintsNoMoreThanItsPlace) {
     EXPECT_FALSE(painted.isEmpty());
 }
 
-TEST_F(EditedCanvas, HighlightsWhatAPickWouldFind) {
+TEST_F(EditedCanvas, highlightsWhatAPickWouldFind) {
     KdDbStub& mline = anyMline();
     for (const CanvasAim aim : {CanvasAim::none, CanvasAim::entity, CanvasAim::point}) {
         canvas.setAim(aim);
@@ -202,7 +202,7 @@ TEST_F(EditedCanvas, HighlightsWhatAPickWouldFind) {
     }
 }
 
-TEST_F(EditedCanvas, TheHighlightFollowsTheDrawingUnderTheCursor) {
+TEST_F(EditedCanvas, theHighlightFollowsTheDrawingUnderTheCursor) {
     canvas.setAim(CanvasAim::entity);
     const Appearance look = session->scene().appearance(anyMline());
     const QPoint pixel = pixelAt(look.strokes.front().points.front());

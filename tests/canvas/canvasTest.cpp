@@ -7,7 +7,7 @@ namespace {
 
 using ::testing::DoubleNear;
 
-TEST_F(CanvasFixture, ShowsTheExtentsFirstAndFollowsItsSize) {
+TEST_F(CanvasFixture, showsTheExtentsFirstAndFollowsItsSize) {
     const PlanBox extents = session->scene().extents();
     const PlanView& view = session->view();
     EXPECT_EQ(view.width(), kWidth);
@@ -26,7 +26,7 @@ TEST_F(CanvasFixture, ShowsTheExtentsFirstAndFollowsItsSize) {
     EXPECT_DOUBLE_EQ(view.unitsPerPixel(), scale);
 }
 
-TEST_F(CanvasFixture, TheWheelKeepsThePlanUnderTheCursor) {
+TEST_F(CanvasFixture, theWheelKeepsThePlanUnderTheCursor) {
     const QPoint pixel(123, 321);
     const PlanPoint before = planAt(pixel);
     const double scale = session->view().unitsPerPixel();
@@ -39,7 +39,7 @@ TEST_F(CanvasFixture, TheWheelKeepsThePlanUnderTheCursor) {
     EXPECT_DOUBLE_EQ(session->view().unitsPerPixel(), scale);
 }
 
-TEST_F(CanvasFixture, TheWheelLeadsBackFromWhereOnlyCommandsLead) {
+TEST_F(CanvasFixture, theWheelLeadsBackFromWhereOnlyCommandsLead) {
     for (const double height : {1e-12, 1e33}) {
         session->view().setView({2400.0, 0.0}, height);
         canvas.viewChanged();
@@ -51,7 +51,7 @@ TEST_F(CanvasFixture, TheWheelLeadsBackFromWhereOnlyCommandsLead) {
     }
 }
 
-TEST_F(CanvasFixture, PansWithTheMiddleButtonAndWithShift) {
+TEST_F(CanvasFixture, pansWithTheMiddleButtonAndWithShift) {
     const PlanPoint place = planAt({200, 200});
     drag({200, 200}, {260, 170}, Qt::MiddleButton);
     EXPECT_NEAR(planAt({260, 170}).x, place.x, 1e-9);
@@ -67,7 +67,7 @@ TEST_F(CanvasFixture, PansWithTheMiddleButtonAndWithShift) {
                 (session->scene().extents().low.x + session->scene().extents().high.x) / 2, 1e-9);
 }
 
-TEST_F(CanvasFixture, ZoomsToAWindowOfTwoClicksOrADrag) {
+TEST_F(CanvasFixture, zoomsToAWindowOfTwoClicksOrADrag) {
     const PlanPoint middle = planAt({150, 125});
     const double scale = session->view().unitsPerPixel();
     QSignalSpy clicks(&canvas, &Canvas::clicked);
@@ -92,7 +92,7 @@ TEST_F(CanvasFixture, ZoomsToAWindowOfTwoClicksOrADrag) {
     EXPECT_EQ(clicks.count(), 1);
 }
 
-TEST_F(CanvasFixture, ClicksTellThePlanOnlyWhenSomethingAsks) {
+TEST_F(CanvasFixture, clicksTellThePlanOnlyWhenSomethingAsks) {
     QSignalSpy clicks(&canvas, &Canvas::clicked);
     QSignalSpy rightClicks(&canvas, &Canvas::rightClicked);
     qRegisterMetaType<QKeyEvent*>("QKeyEvent*");
@@ -113,7 +113,7 @@ TEST_F(CanvasFixture, ClicksTellThePlanOnlyWhenSomethingAsks) {
     EXPECT_EQ(keys.count(), 1);
 }
 
-TEST_F(CanvasFixture, SessionsMayBeSwappedAndRemoved) {
+TEST_F(CanvasFixture, sessionsMayBeSwappedAndRemoved) {
     const QImage first = picture();
     auto other = openFloorplan();
     canvas.setSession(other.get());

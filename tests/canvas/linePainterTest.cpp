@@ -27,7 +27,7 @@ double inkOf(const QImage& image) {
     return ink;
 }
 
-TEST(LinePainter, LinesAreAsWideInEveryDirection) {
+TEST(LinePainter, linesAreAsWideInEveryDirection) {
     constexpr double kLength = 40.0;
     for (const int width : {1, 2, 3}) {
         for (int degrees = 0; degrees < 360; degrees += 7) {
@@ -46,7 +46,7 @@ TEST(LinePainter, LinesAreAsWideInEveryDirection) {
     }
 }
 
-TEST(LinePainter, LinesAlongTheAxesAreCrisp) {
+TEST(LinePainter, linesAlongTheAxesAreCrisp) {
     QImage image = emptyImage();
     LinePainter lines(image, image.rect(), 1);
     lines.chain(std::vector<PlanPoint>{{10.7, 5.3}, {20.2, 5.3}, {20.2, 30.9}}, 0xFFFFFF);
@@ -55,7 +55,7 @@ TEST(LinePainter, LinesAlongTheAxesAreCrisp) {
     EXPECT_EQ(image.pixel(40, 40), 0xFFFFFFFFU);
 }
 
-TEST(LinePainter, DashesFollowTheChainFromItsStart) {
+TEST(LinePainter, dashesFollowTheChainFromItsStart) {
     QImage image = emptyImage();
     LinePainter lines(image, image.rect(), 1);
     const DashCycle cycle{{4.0, 6.0}, 0.0};
@@ -70,7 +70,7 @@ TEST(LinePainter, DashesFollowTheChainFromItsStart) {
     }
 }
 
-TEST(LinePainter, AreasMeetWithoutGapsAndOverlaps) {
+TEST(LinePainter, areasMeetWithoutGapsAndOverlaps) {
     QImage image = emptyImage();
     LinePainter lines(image, image.rect(), 1);
     const std::vector<PlanPoint> corners{{5.2, 7.9}, {50.1, 3.3}, {57.4, 49.6}, {11.8, 55.5}};
@@ -88,7 +88,7 @@ TEST(LinePainter, AreasMeetWithoutGapsAndOverlaps) {
 }
 
 // What partial repaints rest on.
-TEST(LinePainter, APixelDoesNotDependOnTheClip) {
+TEST(LinePainter, aPixelDoesNotDependOnTheClip) {
     std::mt19937 random(5);
     const auto number = [&](double from, double to) {
         return std::uniform_real_distribution<double>(from, to)(random);
@@ -124,7 +124,7 @@ TEST(LinePainter, APixelDoesNotDependOnTheClip) {
     }
 }
 
-TEST(LinePainter, PassesOverWhatHasNoPlace) {
+TEST(LinePainter, passesOverWhatHasNoPlace) {
     QImage image = emptyImage();
     LinePainter lines(image, image.rect(), 1);
     for (const double odd : std::vector<double>{NAN, INFINITY, 1e300, -1e18}) {

@@ -32,7 +32,7 @@ int rowOf(const QImage& image, std::uint32_t rgb) {
     return -1;
 }
 
-TEST(StyleSwatch, ShowsElementsWhereTheirOffsetsPutThem) {
+TEST(StyleSwatch, showsElementsWhereTheirOffsetsPutThem) {
     KdDbMlineStyle style;
     MlineStyleContent content;
     content.elements = {{1000.0, colorOf(1), {}, {}}, {-500.0, colorOf(5), {}, {}}};
@@ -53,7 +53,7 @@ TEST(StyleSwatch, ShowsElementsWhereTheirOffsetsPutThem) {
     EXPECT_NEAR(rowOf(swatchOf(style, 2.0), 0xFF0000), 2 * red, 2);
 }
 
-TEST(StyleSwatch, IsTheGroundAloneWhereNothingFits) {
+TEST(StyleSwatch, isTheGroundAloneWhereNothingFits) {
     KdDbMlineStyle style;
     MlineStyleContent content;
     style.setContent(std::make_shared<MlineStyleContent>(content));

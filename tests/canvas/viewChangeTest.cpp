@@ -7,7 +7,7 @@
 namespace orvex::testing {
 namespace {
 
-TEST(ViewChange, ZoomingKeepsThePlanUnderThePixel) {
+TEST(ViewChange, zoomingKeepsThePlanUnderThePixel) {
     PlanView view(640, 480);
     view.setView({1e5, -300}, 77.0);
     const PlanPoint pixel{100.5, 33.5};
@@ -22,7 +22,7 @@ TEST(ViewChange, ZoomingKeepsThePlanUnderThePixel) {
     }
 }
 
-TEST(ViewChange, AWindowFitsWhicheverWayItIsDrawn) {
+TEST(ViewChange, aWindowFitsWhicheverWayItIsDrawn) {
     PlanView view(600, 300); // 0.1 a pixel
     view.setView({0, 0}, 30.0);
     // Narrow and tall: its height counts. 60 pixels of 300.
@@ -34,7 +34,7 @@ TEST(ViewChange, AWindowFitsWhicheverWayItIsDrawn) {
     EXPECT_DOUBLE_EQ(windowed(view, {0, 0}, {300, 10}).height, 15.0);
 }
 
-TEST(ViewHistory, GoesBackByMovements) {
+TEST(ViewHistory, goesBackByMovements) {
     ViewHistory history;
     ViewPlace place;
     EXPECT_FALSE(history.back(place));
@@ -48,7 +48,7 @@ TEST(ViewHistory, GoesBackByMovements) {
     EXPECT_FALSE(history.back(place));
 }
 
-TEST(PixelGrid, TilesCoverTheViewAndMeetWithoutGaps) {
+TEST(PixelGrid, tilesCoverTheViewAndMeetWithoutGaps) {
     for (const PlanPoint center : {PlanPoint{0, 0}, {-1234.56, 987.6}, {1e7, -1e7}}) {
         PlanView view(700, 500);
         view.setView(center, 123.0);

@@ -30,7 +30,7 @@ namespace {
 
 constexpr double kDegree = 3.141592653589793 / 180.0;
 
-KdCmColor colour(std::uint32_t value) { // with the method in the top byte
+KdCmColor color(std::uint32_t value) { // with the method in the top byte
     KdCmColor made;
     made.setColor(value);
     return made;
@@ -45,15 +45,15 @@ protected:
         addStyle(L"Wall", L"brick");
         KdDbMlineStyle& wall = open(L"Wall");
         wall.setFilled(true);
-        wall.setFillColor(colour(kTrue | 0xFF8000U));
+        wall.setFillColor(color(kTrue | 0xFF8000U));
         wall.setStartAngle(45.678 * kDegree);
         SetNumElements(&wall, 0);
-        add(wall, -0.25, colour(kTrue | 0x0080FFU));
-        add(wall, 0.25, colour(kIndex | 1U));
-        add(wall, 0.0, colour(kIndex | 30U));
+        add(wall, -0.25, color(kTrue | 0x0080FFU));
+        add(wall, 0.25, color(kIndex | 1U));
+        add(wall, 0.0, color(kIndex | 30U));
         std::wstring names[] = {L"DASHED", L"ByBlock", L"Continuous"};
-        wchar_t* lineTypes[] = {names[0].data(), names[1].data(), names[2].data()};
-        SetElemLtype(&wall, lineTypes, 3, curDoc()->database());
+        wchar_t* linetypes[] = {names[0].data(), names[1].data(), names[2].data()};
+        SetElemLtype(&wall, linetypes, 3, curDoc()->database());
         wall.close();
     }
     ~ModifyDialog() override {
@@ -69,9 +69,9 @@ protected:
     }
 
     // An element of the line type that the standard's have.
-    void add(KdDbMlineStyle& to, double offset, const KdCmColor& colour) const {
+    void add(KdDbMlineStyle& to, double offset, const KdCmColor& color) const {
         int index = to.numElements();
-        to.addElement(index, offset, colour, style(L"STANDARD")->values().elements[0].linetype,
+        to.addElement(index, offset, color, style(L"STANDARD")->values().elements[0].linetype,
                       true);
     }
 
@@ -338,7 +338,7 @@ TEST_F(ModifyDialog, aStyleHasAnyNumberOfElements) {
         KdDbMlineStyle& wall = open(L"Wall");
         SetNumElements(&wall, 0);
         for (int i = 0; i < count; ++i) {
-            add(wall, i * 0.5, colour(kIndex | 1U));
+            add(wall, i * 0.5, color(kIndex | 1U));
         }
         modify(L"Wall", [this, count] {
             EXPECT_TRUE(
@@ -354,7 +354,7 @@ TEST_F(ModifyDialog, aStyleHasAnyNumberOfElements) {
     }
 }
 
-TEST_F(ModifyDialog, coloursAndLineTypesAreChosen) {
+TEST_F(ModifyDialog, colorsAndLinetypesAreChosen) {
     modify(L"Wall", [this] {
         clickRow(0);
         choose("cbBoxColor", "3");
@@ -430,7 +430,7 @@ TEST_F(ModifyDialog, anAngleOutOfRangeHoldsOkUp) {
     }
 }
 
-TEST_F(ModifyDialog, numbersOfColoursHaveNames) {
+TEST_F(ModifyDialog, numbersOfColorsHaveNames) {
     prepare(L"Wall", nullptr);
     for (const auto& [number, word] :
          {std::pair{0, L"BYBLOCK"}, {256, L"BYLAYER"}, {1, L"Red"}, {7, L"White"}, {8, L"8"}}) {

@@ -157,7 +157,7 @@ TEST_F(StyleLibrary, readsBackWhatTheFormatKeeps) {
     EXPECT_TRUE(style.values().equals(kept));
 }
 
-TEST_F(StyleLibrary, tellsColourBooksAndOnlyTheLineTypesThatExist) {
+TEST_F(StyleLibrary, tellsColorBooksAndOnlyTheLinetypesThatExist) {
     KdDbMlineStyle style = wall();
     KdCmColor fill;
     fill.setNamesFromDictionaryKey(L"BOOK$sand");

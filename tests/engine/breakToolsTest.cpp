@@ -18,7 +18,7 @@ protected:
     }
 };
 
-TEST_F(BreakTools, CutOpensFromPickToPick) {
+TEST_F(BreakTools, cutOpensFromPickToPick) {
     // Element 0 inside through (9, 1), element 1 outside through (11, -1).
     const std::string corner = "0,0 10,0 10,10 : 1 -1";
     const std::string straight = "0,0 10,0 20,0 30,0 40,0 : 1 -1";
@@ -60,7 +60,7 @@ TEST_F(BreakTools, CutOpensFromPickToPick) {
     }
 }
 
-TEST_F(BreakTools, CutStopsAtWhatDoesntExist) {
+TEST_F(BreakTools, cutStopsAtWhatDoesntExist) {
     const double nan = std::nan("");
     const double start[3] = {3, 1, 0};
     const double end[3] = {5, 1, 0};
@@ -76,7 +76,7 @@ TEST_F(BreakTools, CutStopsAtWhatDoesntExist) {
     EXPECT_EQ(lists(seg.m_mline, 0), "1 0 | -1 0");
 }
 
-TEST_F(BreakTools, ASecondPickElsewhereRepeatsThePrompt) {
+TEST_F(BreakTools, aSecondPickElsewhereRepeatsThePrompt) {
     KdDbMline* const mline = add("0,0 10,0 : 1 -1");
     KdDbMline* const other = add("0,5 10,5 : 0");
     play(cutSingle, {pickAt(mline, "3,-1"), pickAt(other, "3,5"), miss(), pickAt(mline, "5,-1")});
@@ -87,7 +87,7 @@ TEST_F(BreakTools, ASecondPickElsewhereRepeatsThePrompt) {
 }
 
 // Segment 1 of the longer multiline doesn't exist on the shorter one.
-TEST_F(BreakTools, AnOldPickBeyondTheNewMultilineEndsTheCycle) {
+TEST_F(BreakTools, anOldPickBeyondTheNewMultilineEndsTheCycle) {
     KdDbMline* const corner = add("0,0 10,0 10,10 : 1 -1");
     KdDbMline* const shorter = add("0,50 10,50 : 1 -1");
     play(cutSingle, {pickAt(corner, "11,3"), pickAt(corner, "11,5"), pickAt(shorter, "5,55"),
@@ -98,7 +98,7 @@ TEST_F(BreakTools, AnOldPickBeyondTheNewMultilineEndsTheCycle) {
 }
 
 // The aperture is 0.424.
-TEST_F(BreakTools, WeldTakesEveryBreakBetweenThePicks) {
+TEST_F(BreakTools, weldTakesEveryBreakBetweenThePicks) {
     const struct {
         std::string picks, lists;
     } cases[] = {
@@ -126,7 +126,7 @@ TEST_F(BreakTools, WeldTakesEveryBreakBetweenThePicks) {
 // where it stays, it takes the break near the end of its segment along. The element mapped next
 // still finds the new segment, with the distance in the old one: its ends change places, so what
 // lies outside them goes.
-TEST_F(BreakTools, WeldGivesAVertexToTheSegmentBehindInTheLowerHalf) {
+TEST_F(BreakTools, weldGivesAVertexToTheSegmentBehindInTheLowerHalf) {
     const struct {
         int vertex;
         std::string picks, before, behind;

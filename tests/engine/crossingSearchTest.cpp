@@ -140,7 +140,7 @@ private:
     bool m_mixedHeights = false;
 };
 
-TEST(CrossingSearch, FindsWhatSolvingEveryPairInOrderFinds) {
+TEST(CrossingSearch, findsWhatSolvingEveryPairInOrderFinds) {
     RandomChains random(4711);
     std::size_t found = 0;
     std::size_t stale = 0;

@@ -56,7 +56,7 @@ protected:
     orvex::PromptAnswer onB = pick(b, 5, 5);
 };
 
-TEST_F(EditCycle, EndsWithTheStatusOfTheLastPrompt) {
+TEST_F(EditCycle, endsWithTheStatusOfTheLastPrompt) {
     EXPECT_EQ(play({cancel()}), -5002);
     EXPECT_EQ(play({enter()}), 5000);
     EXPECT_EQ(play({onA, enter()}), 5000);
@@ -69,7 +69,7 @@ TEST_F(EditCycle, EndsWithTheStatusOfTheLastPrompt) {
     EXPECT_TRUE(user.prompts.empty());
 }
 
-TEST_F(EditCycle, RepeatsItsPromptsTillAMultilineIsPicked) {
+TEST_F(EditCycle, repeatsItsPromptsTillAMultilineIsPicked) {
     play({pick(line, 1, 1), miss(), onA, pick(line, 1, 1), miss(), onB, cancel()});
     EXPECT_EQ(user.prompts, (Prompts{L"#4004", L"#4004", L"#4004", L"#4005", L"#4005", L"#4005",
                                      L"#4003 [UNDO]"}));
@@ -79,28 +79,28 @@ TEST_F(EditCycle, RepeatsItsPromptsTillAMultilineIsPicked) {
     EXPECT_FALSE(isOpen(b));
 }
 
-TEST_F(EditCycle, AnErrorEndsTheToolWhenTheInputIsClosed) {
+TEST_F(EditCycle, anErrorEndsTheToolWhenTheInputIsClosed) {
     HostSeams::current().errorNumber = 52;
     EXPECT_EQ(play({miss(), onA}), -5001);
     EXPECT_EQ(user.prompts.size(), 1U);
     EXPECT_EQ(play({onA, miss(), cancel()}), -5002) << "only at the first prompt";
 }
 
-TEST_F(EditCycle, TakesBackTheLastCycleAlone) {
+TEST_F(EditCycle, takesBackTheLastCycleAlone) {
     play({onA, onB, onA, onB, keyword(L"undo"), cancel()});
     EXPECT_EQ(marks(a), 1U) << "the first cycle stays";
     EXPECT_EQ(user.prompts.back(), L"#4004") << "one deep";
     EXPECT_EQ(display.events, (Events{"refresh", "refresh", "show A"}));
 }
 
-TEST_F(EditCycle, OffersUndoOnlyAtTheFirstPrompt) {
+TEST_F(EditCycle, offersUndoOnlyAtTheFirstPrompt) {
     orvex::PromptSession::current().armedKeywords = L"STALE";
     play({onA, onB, onA, keyword(L"UNDO")});
     EXPECT_EQ(user.prompts, (Prompts{L"#4004", L"#4005", L"#4003 [UNDO]", L"#4005"}));
     EXPECT_EQ(marks(a), 1U);
 }
 
-TEST_F(EditCycle, CopiesTheSecondEntityForToolsThatChangeIt) {
+TEST_F(EditCycle, copiesTheSecondEntityForToolsThatChangeIt) {
     run.marksSecond = true;
     play({onA, onB, keyword(L"UNDO")});
     EXPECT_EQ(marks(a), 0U);
@@ -115,7 +115,7 @@ TEST_F(EditCycle, CopiesTheSecondEntityForToolsThatChangeIt) {
     EXPECT_FALSE(isOpen(a));
 }
 
-TEST_F(EditCycle, HidesWhatTheRowSaysBeforeWritingBack) {
+TEST_F(EditCycle, hidesWhatTheRowSaysBeforeWritingBack) {
     struct {
         int number;
         Events events;
@@ -131,7 +131,7 @@ TEST_F(EditCycle, HidesWhatTheRowSaysBeforeWritingBack) {
     }
 }
 
-TEST_F(EditCycle, AFailedCycleDropsTheCopiesOfEarlierOnes) {
+TEST_F(EditCycle, aFailedCycleDropsTheCopiesOfEarlierOnes) {
     tool = withStep(2);
     for (const StepOutcome failure : {StepOutcome::failedSilently, StepOutcome::noCrossing}) {
         TestRun fresh;
@@ -148,7 +148,7 @@ TEST_F(EditCycle, AFailedCycleDropsTheCopiesOfEarlierOnes) {
     }
 }
 
-TEST_F(EditCycle, RefusesClosedMultilinesWhereTheToolDoes) {
+TEST_F(EditCycle, refusesClosedMultilinesWhereTheToolDoes) {
     KdDbMline* const ring = addMline({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}}, {0}, true);
     const auto onRing = pick(ring, 5, 0);
     tool = withStep(1);
@@ -167,7 +167,7 @@ TEST_F(EditCycle, RefusesClosedMultilinesWhereTheToolDoes) {
 
 // The corner joint refuses at the second pick too and starts over, with the first record on the
 // new pick and the copies of the cycle before. UNDO then writes them to that pick.
-TEST_F(EditCycle, ARefusedSecondPickLeavesTheFirstRecordBehind) {
+TEST_F(EditCycle, aRefusedSecondPickLeavesTheFirstRecordBehind) {
     KdDbMline* const ring = addMline({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}}, {0}, true);
     const auto onRing = pick(ring, 5, 0);
     KdDbMline* const c = addMline({{0, 7, 0}, {10, 7, 0}, {20, 7, 0}}, {0});
@@ -181,7 +181,7 @@ TEST_F(EditCycle, ARefusedSecondPickLeavesTheFirstRecordBehind) {
     EXPECT_TRUE(c->content()->equals(*original));
 }
 
-TEST_F(EditCycle, SinglePickToolsAskOnce) {
+TEST_F(EditCycle, singlePickToolsAskOnce) {
     tool = withStep(8);
     play({onA, keyword(L"UNDO"), onB, cancel()});
     EXPECT_EQ(user.prompts, (Prompts{L"#4009", L"#4008 [UNDO]", L"#4009", L"#4008 [UNDO]"}));
@@ -189,7 +189,7 @@ TEST_F(EditCycle, SinglePickToolsAskOnce) {
     EXPECT_EQ(marks(a), 0U);
 }
 
-TEST_F(EditCycle, ARowThatTakesAnyEntityCountsALineAsDone) {
+TEST_F(EditCycle, aRowThatTakesAnyEntityCountsALineAsDone) {
     tool = withStep(12);
     const auto onLine = pick(line, 1, 1);
     play({miss(), onLine, onA, onLine, keyword(L"UNDO"), cancel()});
@@ -202,7 +202,7 @@ TEST_F(EditCycle, ARowThatTakesAnyEntityCountsALineAsDone) {
     EXPECT_TRUE(isOpen(a));
 }
 
-TEST_F(EditCycle, AnEntityThatGoesAwayBetweenThePicksFailsTheCycle) {
+TEST_F(EditCycle, anEntityThatGoesAwayBetweenThePicksFailsTheCycle) {
     user.onPrompt = [this] {
         if (user.prompts.size() == 2) {
             a->erase();

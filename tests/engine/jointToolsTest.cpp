@@ -48,7 +48,7 @@ protected:
     }
 };
 
-TEST_F(JointTools, CrossesOpenTheLinesOfTheirKind) {
+TEST_F(JointTools, crossesOpenTheLinesOfTheirKind) {
     const std::string two = "0,0 10,0 : 1 -1";
     const std::string three = "0,0 10,0 : 1 0 -1";
     const std::string upTwo = "5,-5 5,5 : 1 -1";
@@ -111,7 +111,7 @@ TEST_F(JointTools, CrossesOpenTheLinesOfTheirKind) {
     });
 }
 
-TEST_F(JointTools, TeesStopTheStemOnThePickedSide) {
+TEST_F(JointTools, teesStopTheStemOnThePickedSide) {
     const std::string stem = "0,0 10,0 : 1 -1";
     const std::string bar = "6,-5 6,5 : 1 -1";
     const std::string before = "0,0 (1 0 5 | -1 0 5) 6,0 +8";
@@ -154,7 +154,7 @@ TEST_F(JointTools, TeesStopTheStemOnThePickedSide) {
     });
 }
 
-TEST_F(JointTools, CornersKeepThePickedSides) {
+TEST_F(JointTools, cornersKeepThePickedSides) {
     const std::string first = "0,0 10,0 : 1 -1";
     const std::string second = "6,-5 6,5 : 1 -1";
     const std::string start = "0,0 (1 0 7 | -1 0 5) 6,0 +8";
@@ -191,7 +191,7 @@ TEST_F(JointTools, CornersKeepThePickedSides) {
     });
 }
 
-TEST(CornerPlan, PairsTheElements) {
+TEST(CornerPlan, pairsTheElements) {
     constexpr bool kOpposite = true;
     constexpr bool kKeepsStart = true;
     const struct {

@@ -38,7 +38,7 @@ double drawnLength(const BreakList& list, double from, double to) {
 
 // On all lists with breaks at whole numbers, and all gaps between them: nothing is drawn inside the
 // gap afterwards, what is drawn outside stays, and a second cut changes nothing.
-TEST(BreakLists, AnyGapRemovesExactlyWhatLiesInIt) {
+TEST(BreakLists, anyGapRemovesExactlyWhatLiesInIt) {
     constexpr int kLength = 8;
     int gaps = 0;
     for (int mask = 0; mask < 1 << kLength; ++mask) {
@@ -67,7 +67,7 @@ TEST(BreakLists, AnyGapRemovesExactlyWhatLiesInIt) {
     EXPECT_EQ(gaps, 256 * (36 + 28));
 }
 
-TEST(ShiftList, AVertexMovesAlongTheSegment) {
+TEST(ShiftList, aVertexMovesAlongTheSegment) {
     expectAll({{{e, 0, 5, 7}, 3, {e, 0, 2, 4}},
                {{e, 0, 5, 7}, 6, {e, 1}}, // in the gap
                {{e, 0, 5, 7}, 8, {e, 0}}, // behind all breaks, on the last stretch

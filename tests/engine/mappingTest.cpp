@@ -30,7 +30,7 @@ void expectMapped(const CMlineSegment& seg, double x, double y, double distance)
     EXPECT_NEAR(seg.m_mappedDistance, distance, 1e-12);
 }
 
-TEST_F(Mapping, IsHeldToTheElementsOwnSegment) {
+TEST_F(Mapping, isHeldToTheElementsOwnSegment) {
     // Past the inner element's end, from the outer one.
     CMlineSegment& seg = pickOn(addMline(kCorner, {1, -1}), 10.5, -1);
     run.mappingToSpecifyMongline(&seg, 0, nullptr);
@@ -44,7 +44,7 @@ TEST_F(Mapping, IsHeldToTheElementsOwnSegment) {
     expectMapped(seg, 9, 1, 0);
 }
 
-TEST_F(Mapping, ToThePickedElementGivesThePickBack) {
+TEST_F(Mapping, toThePickedElementGivesThePickBack) {
     CMlineSegment& seg = pickOn(addMline(kCorner, {1, -1}), 4, -1);
     run.mappingToSpecifyMongline(&seg, 0, nullptr);
     seg.m_mappedSegment = 1;
@@ -56,7 +56,7 @@ TEST_F(Mapping, ToThePickedElementGivesThePickBack) {
     EXPECT_EQ(seg.m_mappedElement, 1);
 }
 
-TEST_F(Mapping, ToTheChainIsNotHeldAndLeavesTheRecord) {
+TEST_F(Mapping, toTheChainIsNotHeldAndLeavesTheRecord) {
     CMlineSegment& seg = pickOn(addMline(kCorner, {1, -1}), 10.5, -1);
     double out[3] = {9, 9, 9};
     run.mappingToSpecifyMongline(&seg, -1, out);
@@ -65,14 +65,14 @@ TEST_F(Mapping, ToTheChainIsNotHeldAndLeavesTheRecord) {
 }
 
 // At the segment's start the pick gives no direction, and the line across goes straight down.
-TEST_F(Mapping, FromTheStartPositionLooksDownWhateverTheDirection) {
+TEST_F(Mapping, fromTheStartPositionLooksDownWhateverTheDirection) {
     CMlineSegment& seg = pickOn(addMline({{0, 0, 0}, {0, 10, 0}}, {1, -1}), 1, 0);
     run.mappingToSpecifyMongline(&seg, 0, nullptr);
     // Parallel to the element: no crossing, so the pick itself, held by y to the element's start.
     expectMapped(seg, 1, 0, 2);
 }
 
-TEST_F(Mapping, IsFoundAgainAfterTheChainHasChanged) {
+TEST_F(Mapping, isFoundAgainAfterTheChainHasChanged) {
     CMlineSegment& seg = pickOn(addMline(kCorner, {1, -1}), 11, 5);
     ASSERT_EQ(seg.m_mappedSegment, 1);
     // Without the first vertex the old segment 1 is segment 0; its lines are infinite.
@@ -89,7 +89,7 @@ TEST_F(Mapping, IsFoundAgainAfterTheChainHasChanged) {
 }
 
 // The closing segment wants a distance of exactly the aperture.
-TEST_F(Mapping, HardlyEverIsFoundOnTheClosingSegment) {
+TEST_F(Mapping, hardlyEverIsFoundOnTheClosingSegment) {
     CMlineSegment& seg = pickOn(addMline(kSquare, {0}, true), 0, 4);
     ASSERT_EQ(seg.m_segment, 3);
     for (const double x : {0.0, run.m_pickRadius}) {

@@ -34,7 +34,7 @@ protected:
     static constexpr int kOldElement = 88;
 };
 
-TEST_F(PickMatching, FillsTheWholeRecord) {
+TEST_F(PickMatching, fillsTheWholeRecord) {
     KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
     const CMlineSegment& seg = pickAt(mline, 13.0, -0.4);
     EXPECT_EQ(seg.m_mline, mline);
@@ -50,7 +50,7 @@ TEST_F(PickMatching, FillsTheWholeRecord) {
     EXPECT_EQ(run.m_pickedName[0], 0);
 }
 
-TEST_F(PickMatching, TheApertureIsStrictAndTheLowerElementWinsOverTheNearer) {
+TEST_F(PickMatching, theApertureIsStrictAndTheLowerElementWinsOverTheNearer) {
     KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
     const double radius = 3 * 0.1 * 1.4142135623730951;
     KdDbMline* const onAxis = addMline(kStraight, {0.0});
@@ -60,7 +60,7 @@ TEST_F(PickMatching, TheApertureIsStrictAndTheLowerElementWinsOverTheNearer) {
     EXPECT_EQ(pickAt(mline, 3.0, -0.5).m_element, 0);
 }
 
-TEST_F(PickMatching, OnlyWhatIsDrawnIsPicked) {
+TEST_F(PickMatching, onlyWhatIsDrawnIsPicked) {
     KdDbMline* const mline = addMline({{0, 0, 0}, {10, 0, 0}}, {0.0});
     storeLineList(mline, 0, 0, {0.0, 1, 3, 5});
     for (const double drawn : {1.0, 2.0, 5.0, 9.0}) {
@@ -74,14 +74,14 @@ TEST_F(PickMatching, OnlyWhatIsDrawnIsPicked) {
 }
 
 // The offset at the front of the list takes part in the search for the stretch.
-TEST_F(PickMatching, NearTheStartAnElementWithALargerOffsetIsRefused) {
+TEST_F(PickMatching, nearTheStartAnElementWithALargerOffsetIsRefused) {
     KdDbMline* const mline = addMline({{0, 0, 0}, {10, 0, 0}}, {2.0, -2.0});
     EXPECT_TRUE(missed(pickAt(mline, 1.5, 2.0)));
     EXPECT_FALSE(missed(pickAt(mline, 2.0, 2.0)));
     EXPECT_EQ(pickAt(mline, 1.5, -2.0).m_element, 1) << "a negative offset never is";
 }
 
-TEST_F(PickMatching, WithoutAViewNothingIsWithinTheAperture) {
+TEST_F(PickMatching, withoutAViewNothingIsWithinTheAperture) {
     view.links = 2;
     KdDbMline* const mline = addMline(kStraight, {0.0});
     EXPECT_TRUE(missed(pickAt(mline, 3.0, 0.0)));
@@ -93,7 +93,7 @@ TEST_F(PickMatching, WithoutAViewNothingIsWithinTheAperture) {
     EXPECT_FALSE(missed(pickAt(mline, 3.0, 0.0)));
 }
 
-TEST_F(PickMatching, ThePickIsInTheUsersSystemAndASecondOneSharesTheOpening) {
+TEST_F(PickMatching, thePickIsInTheUsersSystemAndASecondOneSharesTheOpening) {
     database.core().setVariable("UCSORG", KdGePoint3d{100, 0, 0});
     KdDbMline* const mline = addMline(kStraight, {0.0});
     CMlineSegment& seg = pickAt(mline, -97.0, 0.0);
@@ -106,7 +106,7 @@ TEST_F(PickMatching, ThePickIsInTheUsersSystemAndASecondOneSharesTheOpening) {
     EXPECT_FALSE(isOpen(mline)) << "not opened again";
 }
 
-TEST_F(PickMatching, OnlyAMultilineEndsAPromptForOne) {
+TEST_F(PickMatching, onlyAMultilineEndsAPromptForOne) {
     KdDbMline* const mline = addMline(kStraight, {0.5});
     long name[2];
     nameOf(mline, name);
@@ -120,7 +120,7 @@ TEST_F(PickMatching, OnlyAMultilineEndsAPromptForOne) {
     EXPECT_FALSE(needBreak(unknown));
 }
 
-TEST(Collinear, SegmentsLieOnOneLineWhateverTheirDirection) {
+TEST(Collinear, segmentsLieOnOneLineWhateverTheirDirection) {
     const struct {
         const char* name;
         KdGePoint3d p[4];
@@ -139,7 +139,7 @@ TEST(Collinear, SegmentsLieOnOneLineWhateverTheirDirection) {
     }
 }
 
-TEST(Compass, SortsPlacesIntoEightDirections) {
+TEST(Compass, sortsPlacesIntoEightDirections) {
     const double from[3] = {5, 5, 0};
     struct {
         double x, y;

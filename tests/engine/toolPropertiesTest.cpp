@@ -233,7 +233,7 @@ bool areAlike(const std::vector<double>& a, const std::vector<double>& b) {
     return std::ranges::equal(a, b, close);
 }
 
-TEST_F(ToolProperties, UndoGivesBackEveryBitAndResultsAreWellFormed) {
+TEST_F(ToolProperties, undoGivesBackEveryBitAndResultsAreWellFormed) {
     RandomScenes random(12);
     std::array<int, kTools.size()> changed{};
     for (int round = 0; round < 6000; ++round) {
@@ -272,7 +272,7 @@ TEST_F(ToolProperties, UndoGivesBackEveryBitAndResultsAreWellFormed) {
 
 // Where a drawing lies doesn't matter to what becomes of it, unless a comparison stands on the edge
 // of its tolerance, which is rare.
-TEST_F(ToolProperties, ResultsDoNotDependOnWhereTheDrawingLies) {
+TEST_F(ToolProperties, resultsDoNotDependOnWhereTheDrawingLies) {
     RandomScenes random(34);
     std::array<int, kTools.size()> different{};
     for (std::size_t round = 0; round < 200 * kTools.size(); ++round) {

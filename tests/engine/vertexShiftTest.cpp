@@ -19,7 +19,7 @@ protected:
     }
 };
 
-TEST_F(VertexShift, AlongItsSegmentsKeepsTheBreaksInPlace) {
+TEST_F(VertexShift, alongItsSegmentsKeepsTheBreaksInPlace) {
     const struct {
         const char* name;
         int vertex;
@@ -58,7 +58,7 @@ TEST_F(VertexShift, AlongItsSegmentsKeepsTheBreaksInPlace) {
 
 // Two vertices along 3, 4, 5: offsets are the style's by justification and scale, whatever stood
 // in the lists, and the ends stand at the style's angles.
-TEST_F(VertexShift, SidewaysTakesOffsetsAndAnglesFromTheStyle) {
+TEST_F(VertexShift, sidewaysTakesOffsetsAndAnglesFromTheStyle) {
     const struct {
         int justification;
         double scale;
@@ -82,7 +82,7 @@ TEST_F(VertexShift, SidewaysTakesOffsetsAndAnglesFromTheStyle) {
     }
 }
 
-TEST_F(VertexShift, EndAnglesTurnWithTheNormalAndTheUserSystem) {
+TEST_F(VertexShift, endAnglesTurnWithTheNormalAndTheUserSystem) {
     const std::string cosine = number(std::sqrt(3.0) / 2);
     setStyle({1, -1}, 30, 150);
     // In the plane of a normal that points down, angles run the other way round.
@@ -108,7 +108,7 @@ TEST_F(VertexShift, EndAnglesTurnWithTheNormalAndTheUserSystem) {
 
 // A corner that becomes straight: vertex 2 at (10, 10) gets its neighbour before it moved to
 // (20, 10), on the line of the segment behind.
-TEST_F(VertexShift, SlidesTheStartsBehindToTheNewMiter) {
+TEST_F(VertexShift, slidesTheStartsBehindToTheNewMiter) {
     const std::string root2 = number(std::sqrt(2.0));
     KdDbMline* const mline = add("0,0 10,0 10,10 0,10 : 1 -1");
     setBreaks(mline, 2, {{2, 5}, {0, 5, 7}});
@@ -121,7 +121,7 @@ TEST_F(VertexShift, SlidesTheStartsBehindToTheNewMiter) {
 
 // Vertex 0 onto the last one: by number there is no vertex before it, so the closing segment keeps
 // its runs.
-TEST_F(VertexShift, AClosedChainHasNoVertexBeforeTheFirst) {
+TEST_F(VertexShift, aClosedChainHasNoVertexBeforeTheFirst) {
     KdDbMline* const mline = add("0,0 10,0 10,10 0,10 : 1 -1 closed");
     setBreaks(mline, 3, {{0, 5, 7}, {0, 5, 7}});
     const std::string kept = lists(mline, 3);

@@ -14,7 +14,7 @@ protected:
     }
 };
 
-TEST_F(VertexTools, AddEndsEveryRunAtTheNewVertex) {
+TEST_F(VertexTools, addEndsEveryRunAtTheNewVertex) {
     KdDbMline* const mline = add("0,0 10,0 : 1 -1");
     setBreaks(mline, 0, {{0, 5, 7}, {0, 5, 7}});
     storeAreaList(mline, 0, 1, {3, 4});
@@ -34,7 +34,7 @@ TEST_F(VertexTools, AddEndsEveryRunAtTheNewVertex) {
     EXPECT_EQ(directions(square, 4), "0,-1 / 1,0");
 }
 
-TEST_F(VertexTools, AddIsRefusedWhereAnElementPassesAVertex) {
+TEST_F(VertexTools, addIsRefusedWhereAnElementPassesAVertex) {
     KdDbMline* const onChain = add("0,0 10,0 : 0");
     addAt(onChain, 0, 0);
     EXPECT_EQ(chain(onChain), "0,0 10,0");
@@ -48,7 +48,7 @@ TEST_F(VertexTools, AddIsRefusedWhereAnElementPassesAVertex) {
 
 // Straight, so that all offsets stay 1 and -1 but for the miters: the style's ends stand at 30 and
 // 150 degrees, whose sines are a half.
-TEST_F(VertexTools, DeleteTurnsTheNeighboursAsItsRulesSay) {
+TEST_F(VertexTools, deleteTurnsTheNeighboursAsItsRulesSay) {
     setStyle({1, -1}, 30, 150);
     const struct {
         const char* name;
@@ -84,14 +84,14 @@ TEST_F(VertexTools, DeleteTurnsTheNeighboursAsItsRulesSay) {
 
 // Offsets are always measured at the old vertex 0 against the new first segment: both elements
 // pass it 4 above.
-TEST_F(VertexTools, DeleteOfABentBeginningMeasuresOffsetsThere) {
+TEST_F(VertexTools, deleteOfABentBeginningMeasuresOffsetsThere) {
     setStyle({1, -1});
     KdDbMline* const mline = add("0,4 0,0 10,0 : 1 -1");
     deleteAt(mline, 1, 3);
     EXPECT_EQ(drawn(mline), "0,0 (4 0 | 4 0) 10,0");
 }
 
-TEST_F(VertexTools, DeleteLeavesTheLeastThatAMultilineNeeds) {
+TEST_F(VertexTools, deleteLeavesTheLeastThatAMultilineNeeds) {
     KdDbMline* const two = add("0,0 10,0 : 1 -1");
     KdDbMline* const triangle = add("20,0 30,0 30,10 : 1 -1 closed");
     for (KdDbMline* const mline : {two, triangle}) {
@@ -102,7 +102,7 @@ TEST_F(VertexTools, DeleteLeavesTheLeastThatAMultilineNeeds) {
     }
 }
 
-TEST_F(VertexTools, DeleteAroundTheClosingVertex) {
+TEST_F(VertexTools, deleteAroundTheClosingVertex) {
     // The corner that goes, by a pick near it, and the triangle that stays: a diagonal and two
     // sides. The square corner opposite keeps its miter.
     const struct {
@@ -125,7 +125,7 @@ TEST_F(VertexTools, DeleteAroundTheClosingVertex) {
 }
 
 // Adding and removing measure in the world even then, but offsets by the normal.
-TEST_F(VertexTools, ANormalThatPointsDownTurnsOffsetsAround) {
+TEST_F(VertexTools, aNormalThatPointsDownTurnsOffsetsAround) {
     setStyle({1, -1}, 30, 150);
     KdDbMline* const mline = add("0,0 5,0 10,0 : -1 1");
     mline->setNormal({0, 0, -1});

@@ -9,7 +9,7 @@ namespace {
 
 using Str = CStdStr<wchar_t>;
 
-TEST(CStdStrTest, NullReadsAsEmpty) {
+TEST(CStdStrTest, nullReadsAsEmpty) {
     const wchar_t* const none = nullptr;
     Str text(none);
     EXPECT_TRUE(text.IsEmpty());
@@ -22,7 +22,7 @@ TEST(CStdStrTest, NullReadsAsEmpty) {
     EXPECT_EQ(Str(L"a").Find(none), -1);
 }
 
-TEST(CStdStrTest, JoinsTextsOfAllKinds) {
+TEST(CStdStrTest, joinsTextsOfAllKinds) {
     Str text = Str(L"ab") + L"cd" + Str(L"ef");
     text += L'g';
     text.appendNarrow(" W\xC3\xA4nde");
@@ -34,7 +34,7 @@ TEST(CStdStrTest, JoinsTextsOfAllKinds) {
     EXPECT_EQ(text.GetLength(), 26);
 }
 
-TEST(CStdStrTest, PositionsAreBroughtInsideTheText) {
+TEST(CStdStrTest, positionsAreBroughtInsideTheText) {
     const Str text(L"a.b.c");
     EXPECT_EQ(text.Find(L'.', 2), 3);
     EXPECT_EQ(text.Find(L'.', -7), 1);
@@ -54,7 +54,7 @@ TEST(CStdStrTest, PositionsAreBroughtInsideTheText) {
     }
 }
 
-TEST(CStdStrTest, ComparesWithoutCaseInAnyLanguage) {
+TEST(CStdStrTest, comparesWithoutCaseInAnyLanguage) {
     const struct {
         const wchar_t* a;
         const wchar_t* b;
@@ -79,7 +79,7 @@ Str formatted(const wchar_t* pattern, Values... values) {
     return text;
 }
 
-TEST(CStdStrTest, FormatsNumbersAndTexts) {
+TEST(CStdStrTest, formatsNumbersAndTexts) {
     EXPECT_STREQ(formatted(L"%d %d", 0, std::numeric_limits<int>::min()), L"0 -2147483648");
     EXPECT_STREQ(formatted(L"%u|%lu", 4294967295U, 5UL), L"4294967295|5");
     EXPECT_STREQ(formatted(L"%ls-%s-%ls", L"\u00E4", L"b", static_cast<const wchar_t*>(nullptr)),
@@ -91,7 +91,7 @@ TEST(CStdStrTest, FormatsNumbersAndTexts) {
     EXPECT_EQ(formatted(L"%f", -std::numeric_limits<double>::max()).Mid(0, 5), L"-1797");
 }
 
-TEST(CStdStrTest, OddFormatsStandAsWrittenAndOwnTextsAreRead) {
+TEST(CStdStrTest, oddFormatsStandAsWrittenAndOwnTextsAreRead) {
     EXPECT_STREQ(formatted(L"%d %q %d", 1, 2), L"1 %q %d");
     EXPECT_STREQ(formatted(L"%d%", 1), L"1%");
     EXPECT_STREQ(formatted(L"%n"), L"%n");

@@ -7,20 +7,20 @@
 namespace {
 
 KdCmColor withValue(std::uint32_t value) {
-    KdCmColor colour;
-    colour.setColor(value);
-    return colour;
+    KdCmColor color;
+    color.setColor(value);
+    return color;
 }
 
-std::wstring keyOf(const KdCmColor& colour) {
-    std::wstring key(static_cast<std::size_t>(colour.dictionaryKeyLength()) + 1, L'?');
-    colour.getDictionaryKey(key.data());
+std::wstring keyOf(const KdCmColor& color) {
+    std::wstring key(static_cast<std::size_t>(color.dictionaryKeyLength()) + 1, L'?');
+    color.getDictionaryKey(key.data());
     EXPECT_EQ(key.back(), L'\0');
     key.pop_back();
     return key;
 }
 
-TEST(KdCmColorTest, ThePackedValueTellsMethodAndIndex) {
+TEST(KdCmColorTest, thePackedValueTellsMethodAndIndex) {
     const struct {
         std::uint32_t value;
         int method, index;
@@ -36,60 +36,60 @@ TEST(KdCmColorTest, ThePackedValueTellsMethodAndIndex) {
         {0xC2000000U, 194, 18, L"0,0,0"},
     };
     for (const auto& each : cases) {
-        const KdCmColor colour = withValue(each.value);
-        EXPECT_EQ(colour.color(), each.value);
-        EXPECT_EQ(colour.colorMethod(), each.method) << std::hex << each.value;
-        EXPECT_EQ(colour.colorNameForDisplay(), each.name);
-        EXPECT_EQ(colour.colorIndex(), each.index) << std::hex << each.value;
+        const KdCmColor color = withValue(each.value);
+        EXPECT_EQ(color.color(), each.value);
+        EXPECT_EQ(color.colorMethod(), each.method) << std::hex << each.value;
+        EXPECT_EQ(color.colorNameForDisplay(), each.name);
+        EXPECT_EQ(color.colorIndex(), each.index) << std::hex << each.value;
     }
 }
 
-TEST(KdCmColorTest, AValueWithoutMethodIsKeptAndChangesNothingThatShows) {
+TEST(KdCmColorTest, aValueWithoutMethodIsKeptAndChangesNothingThatShows) {
     for (const std::uint32_t value : {192U, 196608U, 0U, 0xFFFFFFFFU}) {
-        KdCmColor colour = withValue(value);
-        EXPECT_EQ(colour.color(), value);
-        EXPECT_EQ(colour.colorMethod(), KdCmColor::byLayer);
-        EXPECT_EQ(colour.colorIndex(), 256);
+        KdCmColor color = withValue(value);
+        EXPECT_EQ(color.color(), value);
+        EXPECT_EQ(color.colorMethod(), KdCmColor::byLayer);
+        EXPECT_EQ(color.colorIndex(), 256);
 
-        colour.setColorIndex(3);
-        colour.setColor(value);
-        EXPECT_EQ(colour.color(), value);
-        EXPECT_EQ(colour.colorIndex(), 3);
-        EXPECT_EQ(colour.rgb(), 0x00FF00U);
+        color.setColorIndex(3);
+        color.setColor(value);
+        EXPECT_EQ(color.color(), value);
+        EXPECT_EQ(color.colorIndex(), 3);
+        EXPECT_EQ(color.rgb(), 0x00FF00U);
 
-        colour.setColor(0xC2123456U);
-        colour.setColor(value);
-        EXPECT_EQ(colour.rgb(), 0x123456U);
+        color.setColor(0xC2123456U);
+        color.setColor(value);
+        EXPECT_EQ(color.rgb(), 0x123456U);
     }
 }
 
-TEST(KdCmColorTest, ATrueColourKeepsTheIndexStoredBeforeIt) {
-    KdCmColor colour;
-    colour.setColorIndex(5);
-    colour.setColorMethod(194);
-    colour.setColor(0xC2FF8000U);
-    EXPECT_EQ(colour.colorIndex(), 5);
-    EXPECT_EQ(colour.rgb(), 0xFF8000U);
+TEST(KdCmColorTest, aTrueColorKeepsTheIndexStoredBeforeIt) {
+    KdCmColor color;
+    color.setColorIndex(5);
+    color.setColorMethod(194);
+    color.setColor(0xC2FF8000U);
+    EXPECT_EQ(color.colorIndex(), 5);
+    EXPECT_EQ(color.rgb(), 0xFF8000U);
 
-    colour.setColorIndex(7);
-    EXPECT_EQ(colour.colorMethod(), KdCmColor::byIndex);
-    EXPECT_EQ(colour.color(), 0xC3000007U);
-    EXPECT_EQ(colour.rgb(), 0xFFFFFFU);
-    EXPECT_NE(colour, withValue(0xC2FF8000U));
-    EXPECT_EQ(colour, withValue(0xC3000007U));
+    color.setColorIndex(7);
+    EXPECT_EQ(color.colorMethod(), KdCmColor::byIndex);
+    EXPECT_EQ(color.color(), 0xC3000007U);
+    EXPECT_EQ(color.rgb(), 0xFFFFFFU);
+    EXPECT_NE(color, withValue(0xC2FF8000U));
+    EXPECT_EQ(color, withValue(0xC3000007U));
 
     // By layer is no index a true colour could fall back to.
-    colour.setColorIndex(256);
-    colour.setColor(0xC2FF8000U);
-    EXPECT_EQ(colour.colorIndex(), 30);
+    color.setColorIndex(256);
+    color.setColor(0xC2FF8000U);
+    EXPECT_EQ(color.colorIndex(), 30);
 
     // An index beyond the palette is stored, and shown as white.
-    colour.setColorIndex(65535);
-    EXPECT_EQ(withValue(colour.color()).colorIndex(), 65535);
-    EXPECT_EQ(colour.rgb(), 0xFFFFFFU);
+    color.setColorIndex(65535);
+    EXPECT_EQ(withValue(color.color()).colorIndex(), 65535);
+    EXPECT_EQ(color.rgb(), 0xFFFFFFU);
 }
 
-TEST(KdCmColorTest, NamesStandBesideTheValue) {
+TEST(KdCmColorTest, namesStandBesideTheValue) {
     const struct {
         const wchar_t* key;
         const wchar_t* book;
@@ -99,21 +99,21 @@ TEST(KdCmColorTest, NamesStandBesideTheValue) {
                  {L"a$b$c", L"a", L"b$c"},
                  {nullptr, L"", L""}};
     for (const auto& each : cases) {
-        KdCmColor colour = withValue(0xC2102030U);
-        colour.setNamesFromDictionaryKey(L"old$names");
-        colour.setNamesFromDictionaryKey(each.key);
-        EXPECT_STREQ(colour.bookName(), each.book);
-        EXPECT_STREQ(colour.colorName(), each.name);
-        EXPECT_EQ(keyOf(colour), each.key != nullptr ? each.key : L"");
-        EXPECT_EQ(colour.hasColorName(), *each.name != L'\0');
-        EXPECT_EQ(colour.color(), 0xC2102030U);
+        KdCmColor color = withValue(0xC2102030U);
+        color.setNamesFromDictionaryKey(L"old$names");
+        color.setNamesFromDictionaryKey(each.key);
+        EXPECT_STREQ(color.bookName(), each.book);
+        EXPECT_STREQ(color.colorName(), each.name);
+        EXPECT_EQ(keyOf(color), each.key != nullptr ? each.key : L"");
+        EXPECT_EQ(color.hasColorName(), *each.name != L'\0');
+        EXPECT_EQ(color.color(), 0xC2102030U);
 
-        colour.setColor(0xC3000001U);
-        EXPECT_STREQ(colour.bookName(), each.book);
+        color.setColor(0xC3000001U);
+        EXPECT_STREQ(color.bookName(), each.book);
     }
 }
 
-TEST(PaletteTest, HuesAndGreysStandWhereTheyAreExpected) {
+TEST(PaletteTest, huesAndGreysStandWhereTheyAreExpected) {
     // A quarter step between primaries: 255 * 1/4 = 63, 255 * 1/2 = 127, 255 * 3/4 = 191.
     const std::pair<std::uint16_t, std::uint32_t> cases[] = {
         {2, 0xFFFF00},   {7, 0xFFFFFF},   {11, 0xFF7F7F},  {12, 0xA50000},
@@ -124,7 +124,7 @@ TEST(PaletteTest, HuesAndGreysStandWhereTheyAreExpected) {
     }
 }
 
-TEST(PaletteTest, TheNearestIndexOfAColourOfThePaletteShowsThatColour) {
+TEST(PaletteTest, theNearestIndexOfAColorOfThePaletteShowsThatColor) {
     for (std::uint16_t index = 1; index < 256; ++index) {
         const std::uint32_t rgb = orvex::paletteRgb(index);
         const std::uint16_t nearest = orvex::nearestPaletteIndex(rgb);

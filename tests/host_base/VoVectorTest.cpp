@@ -29,7 +29,7 @@ VoVector<double> numbers(std::initializer_list<double> values) {
     return vector;
 }
 
-TEST_F(VoVectorTest, EveryWayOfWritingLeavesTheOtherCopyAlone) {
+TEST_F(VoVectorTest, everyWayOfWritingLeavesTheOtherCopyAlone) {
     const VoVector<double> original = numbers({1, 2, 3});
     VoVector<double> copies[6] = {original, original, original, original, original, original};
     copies[0][0] = 9;
@@ -55,7 +55,7 @@ TEST_F(VoVectorTest, EveryWayOfWritingLeavesTheOtherCopyAlone) {
     EXPECT_EQ(VoVector<double>(static_cast<const VoVector<double>*>(nullptr)).size(), 0U);
 }
 
-TEST_F(VoVectorTest, ABadIndexIsToldAndMeetsAFreshZero) {
+TEST_F(VoVectorTest, aBadIndexIsToldAndMeetsAFreshZero) {
     VoVector<double> vector = numbers({1});
     const VoVector<double>& reading = vector;
     for (const int index : {-1, 1, 1000000}) {
@@ -68,7 +68,7 @@ TEST_F(VoVectorTest, ABadIndexIsToldAndMeetsAFreshZero) {
     }
 }
 
-TEST_F(VoVectorTest, RoomBehindTheEndIsZeroWhateverStoodThere) {
+TEST_F(VoVectorTest, roomBehindTheEndIsZeroWhateverStoodThere) {
     VoVector<int> vector;
     for (int i = 1; i <= 100; ++i) {
         vector.append(i);
@@ -85,7 +85,7 @@ TEST_F(VoVectorTest, RoomBehindTheEndIsZeroWhateverStoodThere) {
     EXPECT_EQ(vector.data()[49], 0);
 }
 
-TEST_F(VoVectorTest, AnElementOfTheArrayItselfCanBeAppendedAndSet) {
+TEST_F(VoVectorTest, anElementOfTheArrayItselfCanBeAppendedAndSet) {
     VoVector<std::wstring> vector;
     vector.append(L"a text that is too long for the small buffer of a string");
     for (int i = 0; i < 20; ++i) {
@@ -96,7 +96,7 @@ TEST_F(VoVectorTest, AnElementOfTheArrayItselfCanBeAppendedAndSet) {
     EXPECT_EQ(vector.at(0).size(), 56U);
 }
 
-TEST_F(VoVectorTest, AppendingManyMovesThemRarely) {
+TEST_F(VoVectorTest, appendingManyMovesThemRarely) {
     VoVector<int> vector;
     int moves = 0;
     const int* place = nullptr;

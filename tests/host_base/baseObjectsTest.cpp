@@ -9,7 +9,7 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST(CrashRecorderTest, KeepsTheLatestReportsAndCountsAll) {
+TEST(CrashRecorderTest, keepsTheLatestReportsAndCountsAll) {
     orvex::BoundedCrashRecorder recorder(2);
     CrashRecorder* const before = orvex::setCrashRecorder(&recorder);
     EXPECT_NE(before, nullptr); // somebody listens from the start
@@ -24,7 +24,7 @@ TEST(CrashRecorderTest, KeepsTheLatestReportsAndCountsAll) {
     EXPECT_EQ(orvex::setCrashRecorder(before), nullptr);
 }
 
-TEST(VoMathTest, NumbersWithoutAFormBecomeZeroAndCoordinatesStayInRange) {
+TEST(VoMathTest, numbersWithoutAFormBecomeZeroAndCoordinatesStayInRange) {
     using Limits = std::numeric_limits<double>;
     for (double value : {Limits::denorm_min(), Limits::infinity(), -Limits::infinity(),
                          Limits::quiet_NaN(), 0.0}) {

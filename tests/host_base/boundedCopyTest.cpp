@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(BoundedCopyTest, BytesAreCopiedWholeOrNotAtAll) {
+TEST(BoundedCopyTest, bytesAreCopiedWholeOrNotAtAll) {
     char target[4] = "xyz";
     EXPECT_NE(memcpy_s(target, 2, "abc", 3), 0);
     EXPECT_NE(memcpy_s(target, 4, nullptr, 3), 0);
@@ -18,7 +18,7 @@ TEST(BoundedCopyTest, BytesAreCopiedWholeOrNotAtAll) {
     EXPECT_EQ(memcpy_s(nullptr, 0, nullptr, 0), 0);
 }
 
-TEST(BoundedCopyTest, TextIsCutAndAlwaysTerminated) {
+TEST(BoundedCopyTest, textIsCutAndAlwaysTerminated) {
     const struct {
         std::size_t capacity, count;
         const wchar_t* result;

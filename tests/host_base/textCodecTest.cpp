@@ -8,7 +8,7 @@ using orvex::foldCase;
 using orvex::narrow;
 using orvex::widen;
 
-TEST(TextCodecTest, EveryCodePointGoesThereAndBack) {
+TEST(TextCodecTest, everyCodePointGoesThereAndBack) {
     std::wstring text;
     for (char32_t value = 1; value <= 0x10FFFF; value += value < 0x3000 ? 1 : 0xFB) {
         if (value < 0xD800 || value > 0xDFFF) {
@@ -19,7 +19,7 @@ TEST(TextCodecTest, EveryCodePointGoesThereAndBack) {
     EXPECT_EQ(widen(narrow(text)), text);
 }
 
-TEST(TextCodecTest, BytesThatAreNoUtf8AreReplacedOneByOne) {
+TEST(TextCodecTest, bytesThatAreNoUtf8AreReplacedOneByOne) {
     const std::pair<const char*, const wchar_t*> cases[] = {
         {"a\xFFz", L"a\uFFFDz"},
         {"\xC3", L"\uFFFD"},                               // cut off
@@ -36,7 +36,7 @@ TEST(TextCodecTest, BytesThatAreNoUtf8AreReplacedOneByOne) {
     }
 }
 
-TEST(TextCodecTest, WideValuesThatAreNoCodePointsAreReplacedAndFoldToThemselves) {
+TEST(TextCodecTest, wideValuesThatAreNoCodePointsAreReplacedAndFoldToThemselves) {
     const std::wstring odd{static_cast<wchar_t>(0xD800), static_cast<wchar_t>(0x110000),
                            static_cast<wchar_t>(-1)};
     EXPECT_EQ(narrow(odd), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");

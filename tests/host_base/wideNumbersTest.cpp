@@ -14,7 +14,7 @@ struct Case {
     Number value;
 };
 
-TEST(WideNumbersTest, IntegersAreReadAsFarAsTheyGo) {
+TEST(WideNumbersTest, integersAreReadAsFarAsTheyGo) {
     // Digits of other scripts are none here.
     const Case<int> cases[] = {{L"45abc", 45},
                                {L"\t+3.9", 3},
@@ -30,7 +30,7 @@ TEST(WideNumbersTest, IntegersAreReadAsFarAsTheyGo) {
     }
 }
 
-TEST(WideNumbersTest, RealsAreReadAsFarAsTheyGo) {
+TEST(WideNumbersTest, realsAreReadAsFarAsTheyGo) {
     constexpr double kMost = std::numeric_limits<double>::max();
     const Case<double> cases[] = {{L" -1.5 mm", -1.5},
                                   {L"+.25", 0.25},

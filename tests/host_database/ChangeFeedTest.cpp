@@ -21,7 +21,7 @@ KdDbMline& makeMline(DatabaseCore& core) {
         *core.adopt(std::make_unique<KdDbMline>(), ObjectKind::mline, nullptr).object);
 }
 
-TEST(ChangeFeed, TellsEachObjectOnceTillItIsTaken) {
+TEST(ChangeFeed, tellsEachObjectOnceTillItIsTaken) {
     KdDbDatabase database;
     DatabaseCore& core = database.core();
     ChangeFeed feed(core);
@@ -41,7 +41,7 @@ TEST(ChangeFeed, TellsEachObjectOnceTillItIsTaken) {
     EXPECT_EQ(feed.take(), Stubs{});
 }
 
-TEST(ChangeFeed, FeedsDontTakeFromEachOther) {
+TEST(ChangeFeed, feedsDontTakeFromEachOther) {
     KdDbDatabase database;
     DatabaseCore& core = database.core();
     KdDbMline& mline = makeMline(core);
@@ -64,7 +64,7 @@ TEST(ChangeFeed, FeedsDontTakeFromEachOther) {
     }
 }
 
-TEST(ChangeFeed, OutlivesItsDatabase) {
+TEST(ChangeFeed, outlivesItsDatabase) {
     auto database = std::make_unique<KdDbDatabase>();
     ChangeFeed feed(database->core());
     makeMline(database->core());

@@ -18,7 +18,7 @@ KdDbStub& add(DatabaseCore& core, std::uint64_t handle) {
     return core.addStub(ObjectKind::opaque, handle, 1, nullptr);
 }
 
-TEST(Handles, FindWhatAPlainMapFinds) {
+TEST(Handles, findWhatAPlainMapFinds) {
     std::mt19937 random(5);
     for (int round = 0; round < 20; ++round) {
         KdDbDatabase database(false);
@@ -44,7 +44,7 @@ TEST(Handles, FindWhatAPlainMapFinds) {
     }
 }
 
-TEST(Handles, TheNextIsAboveTheSeedAndAllHandlesWhileThereIsRoom) {
+TEST(Handles, theNextIsAboveTheSeedAndAllHandlesWhileThereIsRoom) {
     KdDbDatabase database(false);
     DatabaseCore& core = database.core();
     core.loadVariable("HANDSEED", HeaderHandle{0x100});
@@ -62,7 +62,7 @@ TEST(Handles, TheNextIsAboveTheSeedAndAllHandlesWhileThereIsRoom) {
     EXPECT_EQ(full.core().takeHandle(), 7U);
 }
 
-TEST(Handles, AHandleGivenAgainLeadsToTheLiveObject) {
+TEST(Handles, aHandleGivenAgainLeadsToTheLiveObject) {
     KdDbDatabase database;
     DatabaseCore& core = database.core();
     std::uint64_t handle = 0;

@@ -43,7 +43,7 @@ protected:
     KdDbDictionary* m_styles = nullptr;
 };
 
-TEST_F(Dictionary, KeysIgnoreCaseAndStayAsTyped) {
+TEST_F(Dictionary, keysIgnoreCaseAndStayAsTyped) {
     const KdDbObjectId wall = put(L"Wall");
     KdDbObjectId found;
     EXPECT_EQ(m_styles->getAt(L"WALL", found), Status::done);
@@ -59,7 +59,7 @@ TEST_F(Dictionary, KeysIgnoreCaseAndStayAsTyped) {
     EXPECT_EQ(key, L"");
 }
 
-TEST_F(Dictionary, RemovingErasesAndLeavesNoName) {
+TEST_F(Dictionary, removingErasesAndLeavesNoName) {
     const KdDbObjectId id = put(L"Wall");
     EXPECT_EQ(m_styles->remove(L"wall"), Status::done);
     EXPECT_FALSE(m_styles->has(L"Wall"));
@@ -70,7 +70,7 @@ TEST_F(Dictionary, RemovingErasesAndLeavesNoName) {
     EXPECT_FALSE(m_styles->has(L"Door"));
 }
 
-TEST_F(Dictionary, ANewNameKeepsIdAndPlace) {
+TEST_F(Dictionary, aNewNameKeepsIdAndPlace) {
     const KdDbObjectId a = put(L"A");
     put(L"B");
     EXPECT_EQ(m_styles->setName(L"a", L"C"), Status::done);
@@ -87,7 +87,7 @@ TEST_F(Dictionary, ANewNameKeepsIdAndPlace) {
     EXPECT_EQ(names(), (Names{L"STANDARD", L"c", L"B"}));
 }
 
-TEST_F(Dictionary, AnIteratorPassesOverWhatIsRemovedMeanwhile) {
+TEST_F(Dictionary, anIteratorPassesOverWhatIsRemovedMeanwhile) {
     put(L"A");
     put(L"B");
     put(L"C");
@@ -103,7 +103,7 @@ TEST_F(Dictionary, AnIteratorPassesOverWhatIsRemovedMeanwhile) {
     EXPECT_TRUE(iterator->objectId().isNull());
 }
 
-TEST_F(Dictionary, ForeignObjectsAreRefused) {
+TEST_F(Dictionary, foreignObjectsAreRefused) {
     KdDbDatabase other;
     KdDbDictionary* others = nullptr;
     other.getMLStyleDictionary(others, kForWrite);

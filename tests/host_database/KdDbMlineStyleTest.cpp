@@ -26,7 +26,7 @@ void add(KdDbMlineStyle& style, int index, double offset) {
     EXPECT_EQ(given, index);
 }
 
-TEST(KdDbMlineStyle, ElementsKeepTheirOrderAndMayRepeat) {
+TEST(KdDbMlineStyle, elementsKeepTheirOrderAndMayRepeat) {
     KdDbMlineStyle style;
     style.initMlineStyle();
     EXPECT_EQ(offsets(style), (std::vector{0.5, -0.5}));
@@ -61,7 +61,7 @@ TEST(KdDbMlineStyle, ElementsKeepTheirOrderAndMayRepeat) {
     EXPECT_EQ(offsets(target), offsets(style));
 }
 
-TEST(KdDbMlineStyle, AnUnknownLineTypeKeepsItsNameTillAnotherIsSet) {
+TEST(KdDbMlineStyle, anUnknownLinetypeKeepsItsNameTillAnotherIsSet) {
     const KdDbDatabase database;
     auto content = std::make_shared<orvex::MlineStyleContent>();
     content->elements.push_back({1.0, KdCmColor(), KdDbObjectId(), L"HEDGE"});

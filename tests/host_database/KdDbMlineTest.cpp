@@ -28,7 +28,7 @@ KdArray<void*> entryOf(VoVector<KdMLSegment>& record) {
     return parameters;
 }
 
-TEST(KdDbMline, AListIsSeenAsItWasSet) {
+TEST(KdDbMline, aListIsSeenAsItWasSet) {
     const auto mline = chainOfThree();
     VoVector<KdMLSegment> record(*parametersOf(*mline, 1));
     // Neither ascending nor positive nor of different values.
@@ -50,7 +50,7 @@ TEST(KdDbMline, AListIsSeenAsItWasSet) {
     }
 }
 
-TEST(KdDbMline, OddParameterArraysAreRefused) {
+TEST(KdDbMline, oddParameterArraysAreRefused) {
     const auto mline = chainOfThree();
     const auto before = mline->content();
     VoVector<KdMLSegment> record(5U);
@@ -69,7 +69,7 @@ TEST(KdDbMline, OddParameterArraysAreRefused) {
     EXPECT_EQ(mline->content(), before);
 }
 
-TEST(KdDbMline, VerticesComeBareAndGoFromTheEnd) {
+TEST(KdDbMline, verticesComeBareAndGoFromTheEnd) {
     const auto mline = chainOfThree();
     VoVector<KdMLSegment> record(5U);
     mline->setParametersAt(0, entryOf(record));
@@ -88,7 +88,7 @@ TEST(KdDbMline, VerticesComeBareAndGoFromTheEnd) {
     EXPECT_EQ(removed, KdGePoint3d());
 }
 
-TEST(KdDbMline, TheImplementationReplacesInOrder) {
+TEST(KdDbMline, theImplementationReplacesInOrder) {
     const auto mline = chainOfThree();
     KdDbMlineImp* const imp = KdDbSystemInternals::getImpObject(mline.get());
     KdArray<KdGePoint3d> points;
@@ -109,7 +109,7 @@ TEST(KdDbMline, TheImplementationReplacesInOrder) {
     EXPECT_EQ(mline->miterAt(0), (KdGeVector3d{0.0, 0.0, 0.5}));
 }
 
-TEST(KdDbMline, ACopyIsAValueOfItsOwn) {
+TEST(KdDbMline, aCopyIsAValueOfItsOwn) {
     const auto original = chainOfThree();
     original->setLayer(L"Walls");
     KdDbMline copy;
@@ -125,7 +125,7 @@ TEST(KdDbMline, ACopyIsAValueOfItsOwn) {
     EXPECT_EQ(original->copyFrom(original.get()), Status::done);
 }
 
-TEST(KdDbMline, NothingIsCopiedFromAnotherClass) {
+TEST(KdDbMline, nothingIsCopiedFromAnotherClass) {
     const auto mline = chainOfThree();
     const auto before = mline->content();
     const KdDbEntity plain;
@@ -139,7 +139,7 @@ TEST(KdDbMline, NothingIsCopiedFromAnotherClass) {
     EXPECT_EQ(mline->content(), before);
 }
 
-TEST(KdDbMline, AContentWithTooFewListsIsFilledUp) {
+TEST(KdDbMline, aContentWithTooFewListsIsFilledUp) {
     auto content = flatMline(2, 1);
     content->vertices.resize(4);
     content->traits = nullptr;
@@ -151,7 +151,7 @@ TEST(KdDbMline, AContentWithTooFewListsIsFilledUp) {
 }
 
 // The header of a file may hold what no command would have set.
-TEST(KdDbMline, TakesNoCurrentValueThatIsNone) {
+TEST(KdDbMline, takesNoCurrentValueThatIsNone) {
     KdDbDatabase database;
     orvex::DatabaseCore& core = database.core();
     core.setVariable("CMLJUST", 9);

@@ -37,7 +37,7 @@ constexpr const char* kFile = "\xEF\xBB\xBF;; line types\r\n"
                               "A,9\n"
                               "*LAST,nothing follows";
 
-TEST(LinetypeFile, FindsEntriesByName) {
+TEST(LinetypeFile, findsEntriesByName) {
     const struct {
         const wchar_t* wanted;
         const wchar_t* name;
@@ -59,7 +59,7 @@ TEST(LinetypeFile, FindsEntriesByName) {
     }
 }
 
-TEST(LinetypeFile, WhatCantBeReadIsMissing) {
+TEST(LinetypeFile, whatCantBeReadIsMissing) {
     for (const wchar_t* const name : {L"BROKEN", L"UNALIGNED", L"HUGE", L"LAST", L"", L"DASH"}) {
         EXPECT_FALSE(orvex::findLinetypeDefinition(kFile, name).has_value()) << orvex::narrow(name);
     }
@@ -91,7 +91,7 @@ protected:
     KdDbDatabase m_database;
 };
 
-TEST_F(LoadingLinetypes, AddsTheRecordOnceAndOnlyWhenThereIsOne) {
+TEST_F(LoadingLinetypes, addsTheRecordOnceAndOnlyWhenThereIsOne) {
     orvex::DatabaseCore& core = m_database.core();
     core.beginCommand();
     const KdDbObjectId id = load(L"test.lin", L"dashed");

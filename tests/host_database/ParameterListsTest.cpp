@@ -13,7 +13,7 @@ std::vector<double> values(const List& list) {
     return {list.begin(), list.end()};
 }
 
-TEST(ParameterLists, CountsBeyondTheValuesAreCutAndWhatIsOutsideIsEmpty) {
+TEST(ParameterLists, countsBeyondTheValuesAreCutAndWhatIsOutsideIsEmpty) {
     ParameterLists lists;
     lists.assignFlat(1, {2, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF}, {1.0, 2.0, 3.0});
     EXPECT_EQ(values(lists.line(0, 0)), (std::vector{1.0, 2.0}));
@@ -26,7 +26,7 @@ TEST(ParameterLists, CountsBeyondTheValuesAreCutAndWhatIsOutsideIsEmpty) {
     EXPECT_EQ(lists.vertexCount(), 2U);
 }
 
-TEST(ParameterLists, EqualityGoesByBits) {
+TEST(ParameterLists, equalityGoesByBits) {
     const auto with = [](double value, bool nested) {
         ParameterLists lists;
         lists.assignFlat(1, {1, 0}, {value});

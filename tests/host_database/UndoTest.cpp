@@ -30,7 +30,7 @@ protected:
     KdDbMline* m_mline = nullptr;
 };
 
-TEST_F(UndoSteps, ACommandWithoutNetChangeIsNone) {
+TEST_F(UndoSteps, aCommandWithoutNetChangeIsNone) {
     const auto seed = m_core.takeHandle() + 1;
     EXPECT_FALSE(command([] {}));
     EXPECT_FALSE(command([this] { m_core.open(*m_mline->objectId().stub(), true); }));
@@ -52,7 +52,7 @@ TEST_F(UndoSteps, ACommandWithoutNetChangeIsNone) {
     EXPECT_EQ(m_core.undoDepth(), 3U);
 }
 
-TEST_F(UndoSteps, TheOldestGoWhenMemoryRunsOut) {
+TEST_F(UndoSteps, theOldestGoWhenMemoryRunsOut) {
     // A list of 8 MiB each time: the limit holds that many images of it.
     constexpr unsigned kValues = 1U << 20U;
     constexpr std::size_t kFitting = orvex::UndoLog::kMemoryLimit / (kValues * sizeof(double));

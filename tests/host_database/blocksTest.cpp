@@ -29,7 +29,7 @@ std::vector<KdDbObjectId> entitiesOf(KdDbStub& record) {
     return ids;
 }
 
-TEST(Blocks, EntitiesAreWalkedInDrawingOrderWithoutTheErased) {
+TEST(Blocks, entitiesAreWalkedInDrawingOrderWithoutTheErased) {
     KdDbDatabase database;
     orvex::DatabaseCore& core = database.core();
     core.setSource(std::make_shared<FlatSource>());
@@ -54,7 +54,7 @@ TEST(Blocks, EntitiesAreWalkedInDrawingOrderWithoutTheErased) {
     EXPECT_EQ(added.stub()->object->ownerId(), KdDbObjectId(space.record));
 }
 
-TEST(Blocks, AnEntityKnowsItsBlock) {
+TEST(Blocks, anEntityKnowsItsBlock) {
     KdDbDatabase database;
     orvex::DatabaseCore& core = database.core();
     BlockEntities& model = core.modelSpace();
@@ -71,7 +71,7 @@ TEST(Blocks, AnEntityKnowsItsBlock) {
     EXPECT_EQ(core.findBlock(L"Window"), nullptr);
 }
 
-TEST(Tables, RecordsAreFoundByTheirNamesOfNow) {
+TEST(Tables, recordsAreFoundByTheirNamesOfNow) {
     KdDbDatabase database;
     KdDbLayerTable* layers = nullptr;
     ASSERT_EQ(kddbOpenObject(layers, database.layerTableId(), kForWrite), Status::done);

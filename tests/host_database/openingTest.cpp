@@ -28,7 +28,7 @@ protected:
     KdDbObjectId m_line;
 };
 
-TEST_F(Opening, AnyNumberOfOpensGiveOneObject) {
+TEST_F(Opening, anyNumberOfOpensGiveOneObject) {
     KdDbMline* first = nullptr;
     KdDbMline* second = nullptr;
     KdDbEntity* third = nullptr;
@@ -44,7 +44,7 @@ TEST_F(Opening, AnyNumberOfOpensGiveOneObject) {
     EXPECT_EQ(first->numVertices(), 3); // good after the close
 }
 
-TEST_F(Opening, AFailedOpenGivesNull) {
+TEST_F(Opening, aFailedOpenGivesNull) {
     auto* const other = reinterpret_cast<KdDbMline*>(this);
     KdDbMline* mline = other;
     EXPECT_EQ(kddbOpenObject(mline, KdDbObjectId(), kForRead), Status::nullId);
@@ -67,7 +67,7 @@ TEST_F(Opening, AFailedOpenGivesNull) {
     EXPECT_EQ(mline, nullptr);
 }
 
-TEST_F(Opening, NamesLeadBackToTheirObjectsAndNowhereElse) {
+TEST_F(Opening, namesLeadBackToTheirObjectsAndNowhereElse) {
     std::array<long, 2> name{};
     EXPECT_EQ(kddbGetEntityName(name.data(), m_mline), Status::done);
     EXPECT_GT(name[0], 0);
@@ -96,7 +96,7 @@ TEST_F(Opening, NamesLeadBackToTheirObjectsAndNowhereElse) {
     EXPECT_EQ(name, (std::array<long, 2>{}));
 }
 
-TEST_F(Opening, ADatabaseMayGoWithObjectsOpenInIt) {
+TEST_F(Opening, aDatabaseMayGoWithObjectsOpenInIt) {
     auto database = std::make_unique<KdDbDatabase>(true, false);
     KdDbMlineStyle* style = nullptr;
     ASSERT_EQ(kddbOpenObject(style, database->cmlstyle(), kForWrite), Status::done);

@@ -18,15 +18,15 @@
 namespace {
 
 KdCmColor indexed(std::uint16_t index) {
-    KdCmColor colour;
-    colour.setColorIndex(index);
-    return colour;
+    KdCmColor color;
+    color.setColorIndex(index);
+    return color;
 }
 
-KdCmColor trueColour(std::uint32_t rgb) {
-    KdCmColor colour;
-    colour.setColor(0xC2000000U | rgb);
-    return colour;
+KdCmColor trueColor(std::uint32_t rgb) {
+    KdCmColor color;
+    color.setColor(0xC2000000U | rgb);
+    return color;
 }
 
 // A drawing whose language isn't English.
@@ -39,12 +39,12 @@ public:
 
     [[nodiscard]] std::wstring byLayerName() const override { return L"VonLayer"; }
     [[nodiscard]] std::wstring byBlockName() const override { return L"VonBlock"; }
-    [[nodiscard]] std::vector<orvex::LineTypeChoice> lineTypes() const override {
+    [[nodiscard]] std::vector<orvex::LinetypeChoice> linetypes() const override {
         return {{L"BYBLOCK", {}},     {L"ByLayer", {}},
                 {L"CONTINUOUS", {}},  {L"DASHED", {0.5, -0.25}},
                 {L"DOT", {0, -0.25}}, {L"BROKEN", {0, 0, 1e308, -1e308, 1e308}}};
     }
-    [[nodiscard]] std::optional<KdCmColor> askColour(const KdCmColor& before) const override {
+    [[nodiscard]] std::optional<KdCmColor> askColor(const KdCmColor& before) const override {
         asked.push_back(before);
         return answer;
     }
@@ -69,7 +69,7 @@ protected:
     ComboBoxes() : widget(new VOUI::MRUComboBox(&view)), logic(105) {
         logic.SetHandle(&view);
         logic.SetDlgItem(1049, widget);
-        colours.SubclassDlgItem(1049, &logic);
+        colors.SubclassDlgItem(1049, &logic);
         QObject::connect(widget, &VOUI::MRUComboBox::selChanged, [this] { ++chosen; });
         view.show();
     }
@@ -89,20 +89,20 @@ protected:
     QDialog view;
     VOUI::MRUComboBox* widget;
     CDialog logic;
-    CKdUiTrueColorComboBox colours;
+    CKdUiTrueColorComboBox colors;
     int chosen = 0;
 };
 
-TEST_F(ComboBoxes, coloursStandUnderTheirNames) {
+TEST_F(ComboBoxes, colorsStandUnderTheirNames) {
     EXPECT_EQ(textsOf(*widget), QStringList({"VonLayer", "VonBlock", "1", "2", "3", "4", "5", "6",
                                              "7", "More Colors..."}));
-    for (const auto& [colour, index] : {std::pair{indexed(256), 0},
-                                        {indexed(0), 1},
-                                        {indexed(1), 2},
-                                        {indexed(7), 8},
-                                        {indexed(8), -1},
-                                        {trueColour(0xFF0000), -1}}) {
-        EXPECT_EQ(colours.FindItemByColor(colour), index);
+    for (const auto& [color, index] : {std::pair{indexed(256), 0},
+                                       {indexed(0), 1},
+                                       {indexed(1), 2},
+                                       {indexed(7), 8},
+                                       {indexed(8), -1},
+                                       {trueColor(0xFF0000), -1}}) {
+        EXPECT_EQ(colors.FindItemByColor(color), index);
     }
     // Swatches show the colours themselves.
     const QImage red = widget->itemIcon(2).pixmap(20, 12).toImage();
@@ -110,73 +110,73 @@ TEST_F(ComboBoxes, coloursStandUnderTheirNames) {
     EXPECT_EQ(chosen, 0);
 }
 
-TEST_F(ComboBoxes, recentColoursAreKeptUpToALimit) {
-    colours.SetCurSel(0);
-    EXPECT_EQ(colours.AddColorToMRU(indexed(1)), 2); // in the list already
-    EXPECT_EQ(colours.AddColorToMRU(trueColour(0xFF8000)), 9);
+TEST_F(ComboBoxes, recentColorsAreKeptUpToALimit) {
+    colors.SetCurSel(0);
+    EXPECT_EQ(colors.AddColorToMRU(indexed(1)), 2); // in the list already
+    EXPECT_EQ(colors.AddColorToMRU(trueColor(0xFF8000)), 9);
     EXPECT_EQ(widget->itemText(9), "255,128,0");
-    EXPECT_EQ(colours.AddColorToMRU(trueColour(0xFF8000)), 9);
-    colours.SetCurSel(9);
+    EXPECT_EQ(colors.AddColorToMRU(trueColor(0xFF8000)), 9);
+    colors.SetCurSel(9);
     for (std::uint16_t index = 30; index < 50; ++index) {
-        EXPECT_EQ(colours.AddColorToMRU(indexed(index)), 9);
+        EXPECT_EQ(colors.AddColorToMRU(indexed(index)), 9);
     }
     EXPECT_EQ(widget->count(), 9 + 8 + 1);
     EXPECT_EQ(widget->itemText(9), "49");
     // What is shown doesn't go.
     KdCmColor current;
-    colours.GetCurrentItemColor(current);
-    EXPECT_EQ(current, trueColour(0xFF8000));
-    EXPECT_EQ(colours.FindItemByColor(trueColour(0xFF8000)), colours.GetCurSel());
+    colors.GetCurrentItemColor(current);
+    EXPECT_EQ(current, trueColor(0xFF8000));
+    EXPECT_EQ(colors.FindItemByColor(trueColor(0xFF8000)), colors.GetCurSel());
     EXPECT_EQ(chosen, 0);
     KdCmColor named = indexed(1); // another colour than the one without a name
     named.setNamesFromDictionaryKey(L"BOOK$Crimson");
-    EXPECT_EQ(colours.AddColorToMRU(named), 9);
+    EXPECT_EQ(colors.AddColorToMRU(named), 9);
     EXPECT_EQ(widget->itemText(9), "Crimson");
 }
 
 TEST_F(ComboBoxes, theUsersChoiceIsToldAndOnlyThat) {
     choose(3);
     EXPECT_EQ(chosen, 1);
-    EXPECT_EQ(colours.GetCurSel(), 3);
-    colours.SetCurSel(5);
+    EXPECT_EQ(colors.GetCurSel(), 3);
+    colors.SetCurSel(5);
     EXPECT_EQ(chosen, 1);
     QTest::keyClick(widget, Qt::Key_Up);
     EXPECT_EQ(chosen, 2);
-    EXPECT_EQ(colours.GetCurSel(), 4);
+    EXPECT_EQ(colors.GetCurSel(), 4);
     QWheelEvent wheel({5, 5}, widget->mapToGlobal(QPoint(5, 5)), {}, {0, 120}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(widget, &wheel);
     EXPECT_EQ(chosen, 2);
-    EXPECT_EQ(colours.GetCurSel(), 4);
+    EXPECT_EQ(colors.GetCurSel(), 4);
 }
 
-TEST_F(ComboBoxes, moreColoursAsksAndACancelChangesNothing) {
-    colours.SetCurSel(4);
+TEST_F(ComboBoxes, moreColorsAsksAndACancelChangesNothing) {
+    colors.SetCurSel(4);
     choose(9);
     ASSERT_EQ(drawing.asked.size(), 1U);
     EXPECT_EQ(drawing.asked.front(), indexed(3));
     EXPECT_EQ(chosen, 0);
-    EXPECT_EQ(colours.GetCurSel(), 4);
+    EXPECT_EQ(colors.GetCurSel(), 4);
 
-    drawing.answer = trueColour(0x0080FF);
+    drawing.answer = trueColor(0x0080FF);
     choose(9);
     EXPECT_EQ(chosen, 1);
     KdCmColor current;
-    colours.GetCurrentItemColor(current);
-    EXPECT_EQ(current, trueColour(0x0080FF));
+    colors.GetCurrentItemColor(current);
+    EXPECT_EQ(current, trueColor(0x0080FF));
     EXPECT_EQ(widget->currentText(), "0,128,255");
 }
 
-TEST_F(ComboBoxes, lineTypesStandUnderLocalNamesWithSamples) {
+TEST_F(ComboBoxes, linetypesStandUnderLocalNamesWithSamples) {
     auto* const box = new VOUI::MRUComboBox(&view);
     logic.SetDlgItem(1055, box);
     QSignalSpy told(box, &VOUI::MRUComboBox::selChanged);
-    CKdUiLineTypeComboBox lineTypes;
-    lineTypes.SubclassDlgItem(1055, &logic);
+    CKdUiLineTypeComboBox linetypes;
+    linetypes.SubclassDlgItem(1055, &logic);
     EXPECT_EQ(textsOf(*box),
               QStringList({"VonLayer", "VonBlock", "Continuous", "DASHED", "DOT", "BROKEN"}));
-    EXPECT_EQ(lineTypes.GetCurSel(), -1);
-    lineTypes.SetCurSel(lineTypes.FindString(-1, L"dashed"));
+    EXPECT_EQ(linetypes.GetCurSel(), -1);
+    linetypes.SetCurSel(linetypes.FindString(-1, L"dashed"));
     EXPECT_EQ(box->currentText(), "DASHED");
     EXPECT_EQ(told.count(), 0);
 

@@ -81,11 +81,11 @@ public:
         return addShape(LineShape{{x1, y1, 0}, {x2, y2, 0}}, std::move(traits));
     }
 
-    KdDbLayerTableRecord& addLayer(const wchar_t* name, std::uint16_t colour) {
+    KdDbLayerTableRecord& addLayer(const wchar_t* name, std::uint16_t color) {
         auto record = std::make_unique<KdDbLayerTableRecord>();
         record->setName(name);
         KdCmColor color;
-        color.setColorIndex(colour);
+        color.setColorIndex(color);
         record->setColor(color);
         KdDbObjectId id;
         auto* table = static_cast<KdDbLayerTable*>(core.load(*core.layerTable));

@@ -24,7 +24,7 @@ double greatestError(const std::vector<KdGePoint3d>& chain, const KdGePoint3d& c
     return error / radius;
 }
 
-TEST(Arcs, KeepToTheCircleAtAnySize) {
+TEST(Arcs, keepToTheCircleAtAnySize) {
     for (const double radius : {1e-6, 1.0, 1e9}) {
         const ConicShape circle{{5, 6, 0}, {radius, 0, 0}, {0, radius, 0}};
         EXPECT_LT(greatestError(conicChain(circle), circle.center, radius), 1.0 / 4000) << radius;
@@ -36,7 +36,7 @@ struct BulgeCase {
     KdGePoint3d top; // middle of the arc from (0, 0) to (2, 0)
 };
 
-TEST(Arcs, BulgesTurnLeftWhenPositive) {
+TEST(Arcs, bulgesTurnLeftWhenPositive) {
     // The arc's height is bulge * half the chord, to the right of the way for a left turn.
     for (const BulgeCase& each : {BulgeCase{1.0, {1, -1, 0}}, BulgeCase{-1.0, {1, 1, 0}},
                                   BulgeCase{0.5, {1, -0.5, 0}}, BulgeCase{-3.0, {1, 3, 0}}}) {
@@ -52,7 +52,7 @@ TEST(Arcs, BulgesTurnLeftWhenPositive) {
     }
 }
 
-TEST(Arcs, OddBulgesAreStraight) {
+TEST(Arcs, oddBulgesAreStraight) {
     for (const double bulge : {std::nan(""), HUGE_VAL, 1e300, 1e-300}) {
         const PolylineShape shape{{{{0, 0, 0}, bulge}, {{2, 0, 0}, 0.0}}, true};
         EXPECT_EQ(polylineChain(shape).size(), 3U) << bulge;

@@ -15,7 +15,7 @@ struct PlanPick {
 };
 
 // The walls are told in samples/README.md, lengths in millimetres.
-TEST(FloorplanPick, FindsTheWallsAsTheyAreDrawn) {
+TEST(FloorplanPick, findsTheWallsAsTheyAreDrawn) {
     auto opened = DrawingFile::open((sourceDir() / "samples" / "floorplan.dxf").string());
     auto* file = std::get_if<std::unique_ptr<DrawingFile>>(&opened);
     ASSERT_NE(file, nullptr);

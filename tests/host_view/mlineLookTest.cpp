@@ -62,7 +62,7 @@ PartsInWords partsOf(const MlineContent& mline, int flags = 0) {
     return parts;
 }
 
-TEST(MlineStretches, LieOnTheElementsLineExactlyAsItsListSays) {
+TEST(MlineStretches, lieOnTheElementsLineExactlyAsItsListSays) {
     const struct {
         const char* what;
         ValueList list; // of one element at 0.5, on a segment of length 10
@@ -87,7 +87,7 @@ TEST(MlineStretches, LieOnTheElementsLineExactlyAsItsListSays) {
     EXPECT_THAT(partsOf(slanting).stretches, ElementsAre("0 (2 1.5)(4 0)"));
 }
 
-TEST(MlineStretches, TheLastVertexLeadsBackInAClosedChainAndNowhereInAnOpenOne) {
+TEST(MlineStretches, theLastVertexLeadsBackInAClosedChainAndNowhereInAnOpenOne) {
     // Counter-clockwise round (0,0)-(10,10), one element 1 inside: the miters point inwards along
     // the diagonals and have unit length, so the position is sqrt(2) along.
     const double h = std::sqrt(0.5);
@@ -112,7 +112,7 @@ constexpr int kEndLine = 256;
 constexpr int kEndArcs = 512;
 constexpr int kEndRound = 1024;
 
-TEST(MlineCaps, StandWhereTheirElementsReachTheEnd) {
+TEST(MlineCaps, standWhereTheirElementsReachTheEnd) {
     const ValueList outer{2, 0};
     const ValueList inner{1, 0};
     const ValueList lower{-1, 0};
@@ -160,7 +160,7 @@ TEST(MlineCaps, StandWhereTheirElementsReachTheEnd) {
     }
 }
 
-TEST(MlineCaps, ASuppressedEndAndAClosedChainHaveNone) {
+TEST(MlineCaps, aSuppressedEndAndAClosedChainHaveNone) {
     constexpr int kBoth = kStartLine | kEndLine;
     auto mline = sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}});
     mline.startCapsSuppressed = true;
@@ -172,7 +172,7 @@ TEST(MlineCaps, ASuppressedEndAndAClosedChainHaveNone) {
     EXPECT_THAT(partsOf(mline, kBoth).crossings, IsEmpty());
 }
 
-TEST(MlineCaps, FollowASlantingEnd) {
+TEST(MlineCaps, followASlantingEnd) {
     // Miter at 45 degrees: the outer elements cross it at 2 and -2 across, 2 and -2 along.
     const double h = std::sqrt(0.5);
     const double r = 2 * std::sqrt(2.0);
@@ -191,7 +191,7 @@ MlineContent corner(const std::vector<ValueList>& first, const std::vector<Value
                         {{10, 10, 0}, {0, 1, 0}, {-1, 0, 0}, {{1, 0}, {-1, 0}}, {}}});
 }
 
-TEST(MlineJoints, StandAtInnerVerticesOutsideOfGaps) {
+TEST(MlineJoints, standAtInnerVerticesOutsideOfGaps) {
     const double m = std::sqrt(2.0);
     EXPECT_THAT(partsOf(corner({{1, 0, 5}, {-1, 0, 5}}, {{m, 0}, {-m, 0}}), kJoints).crossings,
                 ElementsAre("joint 0-1 (9 1)(10 0)(11 -1)"))
@@ -201,7 +201,7 @@ TEST(MlineJoints, StandAtInnerVerticesOutsideOfGaps) {
         << "a gap over the corner";
 }
 
-TEST(MlineFill, LiesBetweenTheOuterElementsWhateverTheirGaps) {
+TEST(MlineFill, liesBetweenTheOuterElementsWhateverTheirGaps) {
     EXPECT_THAT(partsOf(sketchEastward(0, 0, 10, {{1, 0, 4, 6}, {0, 0}, {-2, 0}}), kFilled).fills,
                 ElementsAre("(0 1)(10 1)(10 -2)(0 -2)"));
     const double m = std::sqrt(2.0);
@@ -210,7 +210,7 @@ TEST(MlineFill, LiesBetweenTheOuterElementsWhateverTheirGaps) {
         << "one outline over all segments";
 }
 
-TEST(MlineFill, FollowsAreaListsWhereThereAreSome) {
+TEST(MlineFill, followsAreaListsWhereThereAreSome) {
     const std::vector<ValueList> whole{{1, 0}, {-1, 0}};
     auto mline =
         sketchMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, whole, {{1, 0, 3, 5}, {-1, 0, 4, 6}}},
@@ -221,7 +221,7 @@ TEST(MlineFill, FollowsAreaListsWhereThereAreSome) {
                             "(10 1)(20 1)(20 -1)(10 -1)"));
 }
 
-TEST(MlinePainter, CapsAreHalfOfEachElementsColour) {
+TEST(MlinePainter, capsAreHalfOfEachElementsColor) {
     const auto mline = sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}});
     const auto style = sketchStyle(kStartLine, {});
     MlinePens pens;
@@ -240,7 +240,7 @@ TEST(MlinePainter, CapsAreHalfOfEachElementsColour) {
     EXPECT_EQ(look.strokes[3].role, StrokeRole::cap);
 }
 
-TEST(Ink, PassesOverWhatIsNoPlaceInAnyDrawing) {
+TEST(Ink, passesOverWhatIsNoPlaceInAnyDrawing) {
     const double nan = std::nan("");
     for (const double bad : {nan, HUGE_VAL, -HUGE_VAL, 1e200}) {
         const auto mline = sketchEastward(0, 0, 10, {{bad, 0}, {-1, 0}, {1, 0, bad}});

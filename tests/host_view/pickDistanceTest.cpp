@@ -13,7 +13,7 @@ struct PickCase {
     double distance; // from (10, 20) with a reach of 1; below 0: not found
 };
 
-TEST(PickDistance, FindsWhatPassesThroughTheSquare) {
+TEST(PickDistance, findsWhatPassesThroughTheSquare) {
     const PickCase cases[] = {
         {"aside", {{0, 20.5}, {20, 20.5}}, 0.5},
         {"on the edge", {{0, 21}, {20, 21}}, 1.0},
@@ -41,7 +41,7 @@ TEST(PickDistance, FindsWhatPassesThroughTheSquare) {
     }
 }
 
-TEST(PickDistance, CapsAndJointsArentLines) {
+TEST(PickDistance, capsAndJointsArentLines) {
     for (const StrokeRole role : {StrokeRole::cap, StrokeRole::joint}) {
         Appearance look;
         look.strokes.push_back({.points = {{0, 0}, {1, 0}}, .role = role});

@@ -14,7 +14,7 @@ struct ExtentsCase {
     PlanPoint center;
 };
 
-TEST(PlanView, ShowsExtentsWithATenthMore) {
+TEST(PlanView, showsExtentsWithATenthMore) {
     const ExtentsCase cases[] = {
         {"high", {{0, 0}, {10, 100}}, 110.0, {5, 50}},
         {"wide", {{0, 0}, {200, 100}}, 165.0, {100, 50}}, // 1.1 * 0.75 * 200
@@ -30,7 +30,7 @@ TEST(PlanView, ShowsExtentsWithATenthMore) {
     }
 }
 
-TEST(PlanView, TurnsPixelsIntoUnits) {
+TEST(PlanView, turnsPixelsIntoUnits) {
     PlanView view(1600, 1200);
     view.setView({0, 0}, 2400);
     double length = 3.0;
@@ -45,7 +45,7 @@ TEST(PlanView, TurnsPixelsIntoUnits) {
     EXPECT_EQ(view.toPlan({820, 580}), (PlanPoint{110, 60}));
 }
 
-TEST(PlanView, RefusesViewsThatShowNothing) {
+TEST(PlanView, refusesViewsThatShowNothing) {
     PlanView view(0, -5); // brought up to a pixel
     view.setView({1, 2}, 30);
     for (const double bad : {0.0, -3.0, std::nan(""), HUGE_VAL}) {

@@ -18,7 +18,7 @@
 namespace orvex::testing {
 namespace {
 
-TEST(SceneChange, FollowsLayersStylesAndBlocks) {
+TEST(SceneChange, followsLayersStylesAndBlocks) {
     TestDrawing drawing;
     KdDbLayerTableRecord& layer = drawing.addLayer(L"WALL", 1);
     KdDbStub& style = drawing.addStyle(sketchStyle(0, {1, -1}));
@@ -48,7 +48,7 @@ TEST(SceneChange, FollowsLayersStylesAndBlocks) {
     EXPECT_EQ(scene.pick({5, 100}, 1), nullptr);
 }
 
-TEST(AppearanceCache, StaysWithinItsMemoryAndKeepsWhatIsUsed) {
+TEST(AppearanceCache, staysWithinItsMemoryAndKeepsWhatIsUsed) {
     constexpr std::size_t kBytes = 64 << 10;
     AppearanceCache cache(kBytes);
     std::vector<KdDbStub> stubs(1000);
@@ -136,7 +136,7 @@ private:
     std::vector<KdDbStub*> m_all;
 };
 
-TEST(SceneProperty, TheIndexFindsWhatALinearSearchFinds) {
+TEST(SceneProperty, theIndexFindsWhatALinearSearchFinds) {
     int found = 0;
     for (unsigned seed = 1; seed <= 20; ++seed) {
         RandomDrawing random(seed);
@@ -183,7 +183,7 @@ bool isTold(const Scene::Difference& difference, const PlanBox& box) {
            });
 }
 
-TEST(SceneSteps, TellWhatLooksDifferentBeforeAndAfter) {
+TEST(SceneSteps, tellWhatLooksDifferentBeforeAndAfter) {
     TestDrawing drawing;
     KdDbStub& wall = drawing.addMline(sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}}));
     drawing.addMline(sketchEastward(0, 500, 10, {{1, 0}}));
@@ -217,7 +217,7 @@ TEST(SceneSteps, TellWhatLooksDifferentBeforeAndAfter) {
 }
 
 // Enough for the index to be packed beside the program.
-TEST(SceneSteps, TakeChangesInWhileTheIndexIsMade) {
+TEST(SceneSteps, takeChangesInWhileTheIndexIsMade) {
     TestDrawing drawing;
     KdDbLayerTableRecord& layer = drawing.addLayer(L"WALL", 1);
     constexpr int kWalls = 5000;
@@ -246,7 +246,7 @@ TEST(SceneSteps, TakeChangesInWhileTheIndexIsMade) {
     EXPECT_GT(added, 5);
 }
 
-TEST(LookSketch, HasTheLinesOfTheLook) {
+TEST(LookSketch, hasTheLinesOfTheLook) {
     Appearance look;
     std::vector<PlanPoint> chain;
     chain.reserve(600);

@@ -14,14 +14,14 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-EntityTraits onLayer(const wchar_t* layer, std::uint16_t colour = 256) {
+EntityTraits onLayer(const wchar_t* layer, std::uint16_t color = 256) {
     EntityTraits traits;
     traits.layer = layer;
-    traits.color.setColorIndex(colour);
+    traits.color.setColorIndex(color);
     return traits;
 }
 
-TEST(ScenePick, PassesOverWhatIsNotSeen) {
+TEST(ScenePick, passesOverWhatIsNotSeen) {
     TestDrawing drawing;
     drawing.addLayer(L"OFF", 1).setIsOff(true);
     drawing.addLayer(L"FROZEN", 1).setIsFrozen(true);
@@ -47,7 +47,7 @@ TEST(ScenePick, PassesOverWhatIsNotSeen) {
     EXPECT_EQ(scene.entityAt({std::nan(""), 0, 0}, 3), nullptr);
 }
 
-TEST(SceneLook, ResolvesColoursByLayerAndByBlock) {
+TEST(SceneLook, resolvesColorsByLayerAndByBlock) {
     TestDrawing drawing;
     drawing.addLayer(L"RED", 1);
     auto style = sketchStyle(0, {1, 0, -1});
@@ -67,7 +67,7 @@ TEST(SceneLook, ResolvesColoursByLayerAndByBlock) {
     EXPECT_EQ(look.strokes[3].rgb, paletteRgb(3)) << "an element that the style doesn't have";
 }
 
-TEST(SceneLook, AnInsertPlacesItsBlockAndGivesItLayerAndColour) {
+TEST(SceneLook, anInsertPlacesItsBlockAndGivesItLayerAndColor) {
     TestDrawing drawing;
     drawing.addLayer(L"RED", 1);
     drawing.addLayer(L"GREEN", 3);
@@ -101,7 +101,7 @@ TEST(SceneLook, AnInsertPlacesItsBlockAndGivesItLayerAndColour) {
     EXPECT_EQ(scene.pick({100, 3}, 0.5), &stub);
 }
 
-TEST(SceneLook, BlocksInBlocksEndSomewhere) {
+TEST(SceneLook, blocksInBlocksEndSomewhere) {
     TestDrawing drawing;
     // A block that holds itself beside a line, and a tower of blocks that doubles at each floor.
     BlockEntities& cycle = drawing.core.addBlock(L"CYCLE");
@@ -129,7 +129,7 @@ TEST(SceneLook, BlocksInBlocksEndSomewhere) {
                 IsEmpty());
 }
 
-TEST(SceneLook, TextBecomesLabelsLineByLine) {
+TEST(SceneLook, textBecomesLabelsLineByLine) {
     TestDrawing drawing;
     const TextShape text{{10, 20, 0}, {0, 1, 0}, {-1, 0, 0}, 3, 1, 3, {L"one", L"two"}};
     KdDbStub& stub = drawing.addShape(text);

@@ -50,7 +50,7 @@ protected:
     std::unique_ptr<orvex::Session> m_session;
 };
 
-TEST_F(SupportLinetypes, ComeInThreeSizesInInchesAndMillimetres) {
+TEST_F(SupportLinetypes, comeInThreeSizesInInchesAndMillimetres) {
     const struct {
         const wchar_t* name;
         std::vector<double> inches;
@@ -92,7 +92,7 @@ TEST_F(SupportLinetypes, ComeInThreeSizesInInchesAndMillimetres) {
     EXPECT_THAT(dashes(L"orvex.lin", L"NOWHERE"), testing::IsEmpty());
 }
 
-TEST_F(SupportLinetypes, OneThatAStyleBringsInIsSavedAsOtherReadersTakeIt) {
+TEST_F(SupportLinetypes, oneThatAStyleBringsInIsSavedAsOtherReadersTakeIt) {
     database().core().beginCommand();
     KdDbMlineStyle* style = nullptr;
     kddbOpenObject(style, KdDbObjectId(database().core().findStyle(L"STANDARD")), kForWrite);

@@ -34,7 +34,7 @@ TEST(Comparisons, mlineRealEqualIsAbsoluteAndComparesWithZeroNearZero) {
                                {"the same the other way round", 1.0, 1.25, 1.0, true}});
 }
 
-TEST(Comparisons, IMvelaRealEqualGrowsWithTheCoordinates) {
+TEST(Comparisons, iMvelaRealEqualGrowsWithTheCoordinates) {
     expectAll(IMvelaRealEqual, {{"at the bound", 10.0 * 1.25, 10.0, 0.25, true},
                                 {"just outside", 12.51, 10.0, 0.25, false},
                                 {"half a unit at a million", 1e6 + 0.5, 1e6, 1e-6, true},
@@ -44,7 +44,7 @@ TEST(Comparisons, IMvelaRealEqualGrowsWithTheCoordinates) {
     EXPECT_FALSE(IMvelaIsZero(kNaN, 0.25)) << "unlike VoMath::isZero";
 }
 
-TEST(Comparisons, AnglesAreBroughtToOneTurnWithoutWrapAround) {
+TEST(Comparisons, anglesAreBroughtToOneTurnWithoutWrapAround) {
     expectAll(mlineAngleEqual,
               {{"zero and a full turn less nothing", 0.0, kTwoPi, 1e-10, true},
                {"zero and just below a full turn", 0.0, kTwoPi - 1e-6, 1e-10, false},
@@ -56,7 +56,7 @@ TEST(Comparisons, AnglesAreBroughtToOneTurnWithoutWrapAround) {
                {"infinity", kInfinity, 1.0, 1e-10, false}});
 }
 
-TEST(Comparisons, BetweenTakesTheEndsInAnyOrderWithTheirTolerance) {
+TEST(Comparisons, betweenTakesTheEndsInAnyOrderWithTheirTolerance) {
     const struct {
         double x, a, b;
         bool between;
@@ -75,7 +75,7 @@ TEST(Comparisons, BetweenTakesTheEndsInAnyOrderWithTheirTolerance) {
     }
 }
 
-TEST(Comparisons, PointsAreEqualRelativelyAndStrictly) {
+TEST(Comparisons, pointsAreEqualRelativelyAndStrictly) {
     const struct {
         const char* name;
         double a[3], b[3];

@@ -8,7 +8,7 @@ namespace {
 
 using orvex::testing::FakeDocument;
 
-TEST(Frames, DisplayCoordinatesAreTheViewsAndFlat) {
+TEST(Frames, displayCoordinatesAreTheViewsAndFlat) {
     const double point[3] = {1.0, 2.0, 3.0};
     for (int links = 0; links <= 3; ++links) {
         FakeDocument document;
@@ -23,7 +23,7 @@ TEST(Frames, DisplayCoordinatesAreTheViewsAndFlat) {
     }
 }
 
-TEST(Frames, WithoutAUserSystemOfItsOwnUserIsWorld) {
+TEST(Frames, withoutAUserSystemOfItsOwnUserIsWorld) {
     const double point[3] = {1.25, 2.5, 3.75};
     double user[3] = {};
     double world[3] = {};

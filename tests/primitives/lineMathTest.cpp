@@ -13,7 +13,7 @@ void expectPoint(const double* actual, const double* expected, const char* name)
     }
 }
 
-TEST(FootOnLine, TellsWhereTheFootLies) {
+TEST(FootOnLine, tellsWhereTheFootLies) {
     const double r3 = std::sqrt(3.0);
     const struct {
         const char* name;
@@ -61,7 +61,7 @@ void check(Cross cross, std::initializer_list<Case> cases, double z = 9) {
     }
 }
 
-TEST(PlanCrossing, TellsOnWhichSegmentsItLies) {
+TEST(PlanCrossing, tellsOnWhichSegmentsItLies) {
     constexpr double m = 1e9;
     constexpr double x = m + 0.0078125;
     check(gx_linexline,
@@ -85,7 +85,7 @@ TEST(PlanCrossing, TellsOnWhichSegmentsItLies) {
           {{"far", {m - 100, m, 0}, {m, m, 0}, {x, m - 10, 0}, {x, m + 10, 0}, 2, {x, m, 0}}}, 5);
 }
 
-TEST(PlanCrossing, OfParallelOrDegenerateLinesLeavesTheOutputAlone) {
+TEST(PlanCrossing, ofParallelOrDegenerateLinesLeavesTheOutputAlone) {
     check(gx_linexline,
           {
               {"parallel", {0, 0, 0}, {10, 0, 0}, {0, 1, 0}, {10, 1, 0}, -1, {7, 8, 9}},
@@ -98,7 +98,7 @@ TEST(PlanCrossing, OfParallelOrDegenerateLinesLeavesTheOutputAlone) {
 
 // The product of the distances to both ends bounds "on the segment" at 1e-7: with an end 1 away,
 // a crossing about 1e-7 past the other end is still on.
-TEST(PlanCrossing, CountsAsOnASegmentToASmallProduct) {
+TEST(PlanCrossing, countsAsOnASegmentToASmallProduct) {
     const double a1[3] = {0, 0, 0};
     const double a2[3] = {1, 0, 0};
     const auto resultAt = [&](double x) {
@@ -113,7 +113,7 @@ TEST(PlanCrossing, CountsAsOnASegmentToASmallProduct) {
     EXPECT_EQ(resultAt(-1.01e-7), 2);
 }
 
-TEST(SpaceCrossing, OfTwoVerticals) {
+TEST(SpaceCrossing, ofTwoVerticals) {
     check(linexline3d,
           {
               {"apart in plan", {0, 0, 0}, {0, 0, 5}, {1, 0, 0}, {1, 0, 5}, -1, {7, 8, 9}},
@@ -123,7 +123,7 @@ TEST(SpaceCrossing, OfTwoVerticals) {
           });
 }
 
-TEST(SpaceCrossing, OfParallels) {
+TEST(SpaceCrossing, ofParallels) {
     check(linexline3d,
           {
               {"apart in height", {0, 0, 0}, {4, 0, 0}, {0, 0, 1}, {4, 0, 1}, -1, {7, 8, 9}},
@@ -144,7 +144,7 @@ TEST(SpaceCrossing, OfParallels) {
           });
 }
 
-TEST(SpaceCrossing, OfLinesThatCrossInPlan) {
+TEST(SpaceCrossing, ofLinesThatCrossInPlan) {
     check(linexline3d,
           {
               {"both", {0, 0, 0}, {8, 8, 8}, {0, 8, 4}, {8, 0, 4}, 3, {4, 4, 4}},
@@ -177,7 +177,7 @@ TEST(SpaceCrossing, OfLinesThatCrossInPlan) {
           });
 }
 
-TEST(SpaceCrossing, OfASecondVertical) {
+TEST(SpaceCrossing, ofASecondVertical) {
     constexpr double m = 1e6;
     constexpr double x = m + 1.05;
     check(linexline3d,
@@ -200,7 +200,7 @@ TEST(SpaceCrossing, OfASecondVertical) {
 }
 
 // The first line always counts as met here, and the heights of the first decide for the second.
-TEST(SpaceCrossing, OfAFirstVerticalIsNoMirror) {
+TEST(SpaceCrossing, ofAFirstVerticalIsNoMirror) {
     check(linexline3d,
           {
               {"both", {2, 0, 0}, {2, 0, 5}, {0, 0, 0}, {8, 0, 8}, 3, {2, 0, 2}},

@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(ResultList, GivesTheFirstEntryOfAType) {
+TEST(ResultList, givesTheFirstEntryOfAType) {
     resbuf third{nullptr, kResultReal, {}};
     resbuf second{&third, kResultReal, {}};
     resbuf first{&second, kResultShort, {}};
@@ -16,7 +16,7 @@ TEST(ResultList, GivesTheFirstEntryOfAType) {
     EXPECT_EQ(gx_Associate(nullptr, kResultReal, &found), -1);
 }
 
-TEST(ResultList, EndsOnAListTiedIntoARing) {
+TEST(ResultList, endsOnAListTiedIntoARing) {
     resbuf second{nullptr, kResultShort, {}};
     resbuf first{&second, kResultShort, {}};
     second.rbnext = &first;

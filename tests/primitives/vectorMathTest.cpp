@@ -6,14 +6,14 @@ namespace {
 
 const double kOrigin[3] = {0.0, 0.0, 0.0};
 
-TEST(VectorMath, DistancesAreInSpaceAndNullReadsAsZero) {
+TEST(VectorMath, distancesAreInSpaceAndNullReadsAsZero) {
     const double p[3] = {2.0, 3.0, 6.0}; // 4 + 9 + 36 = 49
     EXPECT_EQ(tklengine_distance(kOrigin, p), 7.0);
     EXPECT_EQ(IMgx_dist3d(p, kOrigin), 7.0);
     EXPECT_EQ(tklengine_distance(nullptr, p), 0.0);
 }
 
-TEST(VectorMath, AnglesAreInPlanFromZeroToAFullTurn) {
+TEST(VectorMath, anglesAreInPlanFromZeroToAFullTurn) {
     struct {
         double to[3];
         double angle;
@@ -30,7 +30,7 @@ TEST(VectorMath, AnglesAreInPlanFromZeroToAFullTurn) {
     EXPECT_EQ(tklengine_angle(nullptr, kOrigin), 0.0);
 }
 
-TEST(VectorMath, ACrossProductMayOverwriteItsInput) {
+TEST(VectorMath, aCrossProductMayOverwriteItsInput) {
     double a[3] = {1.0, 2.0, 3.0};
     const double b[3] = {4.0, 5.0, 6.0};
     gx_crossproduct(a, b, a);
@@ -40,7 +40,7 @@ TEST(VectorMath, ACrossProductMayOverwriteItsInput) {
     EXPECT_EQ(a[2], -3.0);
 }
 
-TEST(VectorMath, TheDeterminantIsTheSignedPlanArea) {
+TEST(VectorMath, theDeterminantIsTheSignedPlanArea) {
     const C3Point east(2.0, 0.0, 0.0);
     const C3Point north(0.0, 3.0, 0.0);
     EXPECT_EQ(Determinant(east, north, nullptr), 6.0);

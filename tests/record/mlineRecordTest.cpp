@@ -38,7 +38,7 @@ protected:
     }
 };
 
-TEST_F(MlineRecord, OnlyItsOwnFlagsAreSetAndAChainOfTwoKeepsItsClosedBit) {
+TEST_F(MlineRecord, onlyItsOwnFlagsAreSetAndAChainOfTwoKeepsItsClosedBit) {
     const auto after = [this](int flags) {
         EXPECT_EQ(SetFlag(&mline, flags), 1);
         EXPECT_EQ(GetFlag(&mline, &flags), 1);
@@ -56,7 +56,7 @@ TEST_F(MlineRecord, OnlyItsOwnFlagsAreSetAndAChainOfTwoKeepsItsClosedBit) {
     EXPECT_EQ(after(0), kFlagHasVertex | kFlagClosed);
 }
 
-TEST_F(MlineRecord, TheNumberOfElementsChangesAtEveryVertex) {
+TEST_F(MlineRecord, theNumberOfElementsChangesAtEveryVertex) {
     EXPECT_EQ(SetSegmentsSize(&mline, 0), 0);
     EXPECT_EQ(SetSegmentsSize(&mline, 3), 1);
     for (int vertex = 0; vertex < 3; ++vertex) {
@@ -65,7 +65,7 @@ TEST_F(MlineRecord, TheNumberOfElementsChangesAtEveryVertex) {
     }
 }
 
-TEST_F(MlineRecord, ReadsClampTheirIndicesAndWritesRefuseThem) {
+TEST_F(MlineRecord, readsClampTheirIndicesAndWritesRefuseThem) {
     setLines(0, 0, {1, 10});
     setLines(2, 1, {2, 20, 21});
     EXPECT_EQ(lines(-5, -5), (Values{1, 10}));
@@ -89,7 +89,7 @@ TEST_F(MlineRecord, ReadsClampTheirIndicesAndWritesRefuseThem) {
     EXPECT_EQ(out[0], 9.0);
 }
 
-TEST_F(MlineRecord, AreasAreKeptBesideLinesAndTheirReadSaysRefused) {
+TEST_F(MlineRecord, areasAreKeptBesideLinesAndTheirReadSaysRefused) {
     const double areas[] = {4, 5};
     EXPECT_EQ(SetNumArea(&mline, 2, 1, 0), 1);
     EXPECT_EQ(SetAreaArray(&mline, areas, 1, 0), 1);
@@ -102,7 +102,7 @@ TEST_F(MlineRecord, AreasAreKeptBesideLinesAndTheirReadSaysRefused) {
     EXPECT_EQ(out[1], 5.0);
 }
 
-TEST_F(MlineRecord, PositionsAxesAndMitersReplaceWhatIsThere) {
+TEST_F(MlineRecord, positionsAxesAndMitersReplaceWhatIsThere) {
     const double in[3][3][3] = {{{1, 2, 3}, {4, 5, 6}, {7, 8, 9}},
                                 {{11, 2, 3}, {4, 5, 6}, {7, 8, 19}},
                                 {{21, 2, 3}, {4, 5, 6}, {7, 8, 29}}};
@@ -118,7 +118,7 @@ TEST_F(MlineRecord, PositionsAxesAndMitersReplaceWhatIsThere) {
     EXPECT_EQ(lines(2, 1).size(), 2U);
 }
 
-TEST_F(MlineRecord, ANullOrEmptyMultilineIsNoFault) {
+TEST_F(MlineRecord, aNullOrEmptyMultilineIsNoFault) {
     const KdDbMline empty;
     int number = 7;
     EXPECT_EQ(GetNumLine(&empty, &number, 0, 0), 1);
@@ -132,7 +132,7 @@ TEST_F(MlineRecord, ANullOrEmptyMultilineIsNoFault) {
     EXPECT_EQ(point[0], 7.0);
 }
 
-TEST_F(MlineRecord, TheStyleIsOpenedWhenThereIsOne) {
+TEST_F(MlineRecord, theStyleIsOpenedWhenThereIsOne) {
     KdDbMlineStyle* style = nullptr;
     EXPECT_EQ(GetMlStyle(&mline, &style), 1);
     EXPECT_EQ(style, nullptr) << "no style, and yet done";
@@ -143,7 +143,7 @@ TEST_F(MlineRecord, TheStyleIsOpenedWhenThereIsOne) {
     style->close();
 }
 
-TEST_F(MlineRecord, WholeListsComeBackAsStored) {
+TEST_F(MlineRecord, wholeListsComeBackAsStored) {
     storeLineList(&mline, 1, 0, {0.5, 0, 3, 5});
     storeAreaList(&mline, 1, 0, {7, 8});
     EXPECT_EQ(lineList(&mline, 1, 0), (Values{0.5, 0, 3, 5}));

@@ -39,7 +39,7 @@ protected:
         style.getElementAt(i, offset, found.first, found.second);
         return found;
     }
-    KdCmColor colour(int i) const { return element(i).first; }
+    KdCmColor color(int i) const { return element(i).first; }
     std::wstring linetype(int i) const {
         KdDbLinetypeTableRecord* record = nullptr;
         kddbOpenObject(record, element(i).second, kForRead);
@@ -54,12 +54,12 @@ protected:
 
 using Offsets = std::vector<double>;
 
-TEST_F(StyleRecord, ElementsComeAndGoAtTheFront) {
+TEST_F(StyleRecord, elementsComeAndGoAtTheFront) {
     EXPECT_EQ(SetNumElements(&style, 2), 1);
     EXPECT_EQ(offsets(2), (Offsets{2, 3}));
     SetNumElements(&style, 4);
     EXPECT_EQ(offsets(5), (Offsets{0.5, 0.5, 2, 3, 0})) << "0.0 past the last element";
-    EXPECT_EQ(colour(0).color(), 192U);
+    EXPECT_EQ(color(0).color(), 192U);
     const double one[] = {7};
     SetElemOffset(&style, one, 1);
     EXPECT_EQ(offsets(3), (Offsets{7, 0, 0}));
@@ -67,46 +67,46 @@ TEST_F(StyleRecord, ElementsComeAndGoAtTheFront) {
     EXPECT_EQ(style.numElements(), 0);
 }
 
-TEST_F(StyleRecord, ColourIndicesAreClampedInTheCallersArrayToo) {
+TEST_F(StyleRecord, colorIndicesAreClampedInTheCallersArrayToo) {
     int indices[] = {300, -1};
     SetElemColor(&style, indices, 2);
     EXPECT_EQ(indices[0], 256);
     EXPECT_EQ(indices[1], 256);
     int good[] = {5, 0};
     SetElemColor(&style, good, 2);
-    EXPECT_EQ(colour(0).colorIndex(), 5);
-    EXPECT_EQ(colour(1).colorIndex(), 0);
-    EXPECT_EQ(colour(2).colorIndex(), 256) << "beyond the array";
+    EXPECT_EQ(color(0).colorIndex(), 5);
+    EXPECT_EQ(color(1).colorIndex(), 0);
+    EXPECT_EQ(color(2).colorIndex(), 256) << "beyond the array";
     EXPECT_EQ(offsets(3), (Offsets{1, 2, 3})) << "the other attributes stay";
 }
 
-TEST_F(StyleRecord, TrueColoursAndNamesStartFromWhatIsStored) {
+TEST_F(StyleRecord, trueColorsAndNamesStartFromWhatIsStored) {
     int indices[] = {5, 6, 7};
     SetElemColor(&style, indices, 3);
     const unsigned rgb[] = {0x102030, 0x1000000, 0xFFFFFF};
     SetElemRgb(&style, rgb, 3);
-    EXPECT_EQ(colour(0).color(), 0xC2102030U);
-    EXPECT_EQ(colour(1).colorIndex(), 6) << "a value above 0xFFFFFF is none";
-    EXPECT_EQ(colour(2).color(), 0xC2FFFFFFU);
+    EXPECT_EQ(color(0).color(), 0xC2102030U);
+    EXPECT_EQ(color(1).colorIndex(), 6) << "a value above 0xFFFFFF is none";
+    EXPECT_EQ(color(2).color(), 0xC2FFFFFFU);
 
     wchar_t valid[] = L"book$red";
     wchar_t invalid[] = L"$x";
     wchar_t* names[] = {valid, valid, invalid};
     SetElemName(&style, names, 3);
-    EXPECT_STREQ(colour(0).bookName(), L"book");
-    EXPECT_STREQ(colour(0).colorName(), L"red");
-    EXPECT_EQ(colour(0).color(), 0xC2102030U);
-    EXPECT_FALSE(colour(2).hasColorName());
+    EXPECT_STREQ(color(0).bookName(), L"book");
+    EXPECT_STREQ(color(0).colorName(), L"red");
+    EXPECT_EQ(color(0).color(), 0xC2102030U);
+    EXPECT_FALSE(color(2).hasColorName());
     names[0] = nullptr;
     SetElemName(&style, names, 2);
-    EXPECT_TRUE(colour(0).hasColorName()) << "without a first name nothing changes";
+    EXPECT_TRUE(color(0).hasColorName()) << "without a first name nothing changes";
     names[0] = valid;
     names[1] = nullptr;
     SetElemName(&style, names, 2);
-    EXPECT_FALSE(colour(1).hasColorName()) << "a null entry clears";
+    EXPECT_FALSE(color(1).hasColorName()) << "a null entry clears";
 }
 
-TEST_F(StyleRecord, LineTypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
+TEST_F(StyleRecord, linetypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
     static std::vector<std::wstring> asked;
     asked.clear();
     orvex::setSupportFileFinder([](const std::wstring& file) {
@@ -126,7 +126,7 @@ TEST_F(StyleRecord, LineTypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
     EXPECT_EQ(offsets(3), (Offsets{1, 2, 3}));
 }
 
-TEST_F(StyleRecord, WritesEachFlagForItself) {
+TEST_F(StyleRecord, writesEachFlagForItself) {
     using Style = KdDbMlineStyle;
     const std::pair<int, bool (Style::*)() const> flags[] = {
         {1, &Style::filled},          {2, &Style::showMiters},     {16, &Style::startSquareCap},
@@ -141,7 +141,7 @@ TEST_F(StyleRecord, WritesEachFlagForItself) {
     }
 }
 
-TEST_F(StyleRecord, NullsChangeNothing) {
+TEST_F(StyleRecord, nullsChangeNothing) {
     EXPECT_EQ(SetNumElements(nullptr, 2) + SetElemColor(nullptr, nullptr, 1) + SetFlag(nullptr, 1),
               0);
     EXPECT_EQ(SetElemOffset(&style, nullptr, 1) + GetElemOffset(&style, nullptr, 1) +
@@ -151,7 +151,7 @@ TEST_F(StyleRecord, NullsChangeNothing) {
     EXPECT_EQ(offsets(3), (Offsets{1, 2, 3}));
 }
 
-TEST(ColorBookName, HasAtMostOneMarkInside) {
+TEST(ColorBookName, hasAtMostOneMarkInside) {
     EXPECT_TRUE(IsColorBookNameValid(L"a$b"));
     EXPECT_TRUE(IsColorBookNameValid(L"ab"));
     for (const wchar_t* name : {L"$ab", L"ab$", L"a$b$c", L"a$$b", L"$", L""}) {

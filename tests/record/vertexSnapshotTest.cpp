@@ -11,7 +11,7 @@ namespace {
 
 using Snapshot = std::unique_ptr<db_mlvertlink[]>;
 
-TEST(VertexSnapshot, CopiesTheWholeChain) {
+TEST(VertexSnapshot, copiesTheWholeChain) {
     KdDbMline mline;
     const KdGePoint3d chain[] = {{0, 0, 1}, {10, 0, 2}, {10, 10, 3}};
     const double offsets[] = {1.0, -2.0};
@@ -39,7 +39,7 @@ TEST(VertexSnapshot, CopiesTheWholeChain) {
 }
 
 // Drawings exist whose vertices differ in their number of elements; vertex 0 counts.
-TEST(VertexSnapshot, RepeatsTheLastElementAtAVertexThatHasFewer) {
+TEST(VertexSnapshot, repeatsTheLastElementAtAVertexThatHasFewer) {
     KdDbMline mline;
     EXPECT_EQ(ret_vert(&mline), nullptr);
     EXPECT_EQ(ret_vert(nullptr), nullptr);

@@ -65,7 +65,7 @@ void check(Write write, Read read, const std::vector<Form<T>>& forms) {
 
 using S = VoBitStream;
 
-TEST_F(VoBitStreamFormsTest, WholeNumbersTakeFewBits) {
+TEST_F(VoBitStreamFormsTest, wholeNumbersTakeFewBits) {
     check<std::uint8_t>(&S::writeUInt8, &S::readUInt8, {{0xA5, "10100101"}});
     check<std::int8_t>(&S::writeInt8, &S::readInt8, {{-2, "11111110"}});
     check<std::uint16_t>(&S::writeUInt16, &S::readUInt16,
@@ -99,7 +99,7 @@ TEST_F(VoBitStreamFormsTest, WholeNumbersTakeFewBits) {
                          {{0x123456789ABCDEF0, raw(0x123456789ABCDEF0, 8)}});
 }
 
-TEST_F(VoBitStreamFormsTest, NumbersThatAreNoneToTheFormatPassAsZero) {
+TEST_F(VoBitStreamFormsTest, numbersThatAreNoneToTheFormatPassAsZero) {
     const std::string zeros = raw(0, 8);
     check<double>(&S::writeDouble, &S::readDouble,
                   {{0.0, "10"},
@@ -114,7 +114,7 @@ TEST_F(VoBitStreamFormsTest, NumbersThatAreNoneToTheFormatPassAsZero) {
     check<float>(&S::writeFloat, &S::readFloat, {{0.125F, "00" + raw(0.125)}, {1.0F, "01"}});
 }
 
-TEST_F(VoBitStreamFormsTest, PointsAndVectorsAreHeldWithinTheFormatsReach) {
+TEST_F(VoBitStreamFormsTest, pointsAndVectorsAreHeldWithinTheFormatsReach) {
     check<KdGePoint2d>(&S::writePoint2d, &S::readPoint2d, {{{0, 1}, raw(0.0) + raw(1.0)}});
     check<KdGeVector2d>(&S::writeVector2d, &S::readVector2d,
                         {{{-2e100, 1e100}, raw(-2e100) + raw(1e100), {{-1e100, 1e100}}}});
@@ -135,7 +135,7 @@ TEST_F(VoBitStreamFormsTest, PointsAndVectorsAreHeldWithinTheFormatsReach) {
                         {{space, "100110011010100110101000" + raw(7.0)}});
 }
 
-TEST_F(VoBitStreamFormsTest, CodesWithoutMeaningAreReportedAndGiveZero) {
+TEST_F(VoBitStreamFormsTest, codesWithoutMeaningAreReportedAndGiveZero) {
     VoFlatMemBuf buffer;
     fill(buffer, {0xFF});
     VoBitStream stream(&buffer, 8);
@@ -150,7 +150,7 @@ TEST_F(VoBitStreamFormsTest, CodesWithoutMeaningAreReportedAndGiveZero) {
     EXPECT_EQ(stream.tell(), 4U);
 }
 
-TEST_F(VoBitStreamFormsTest, NumbersWithoutAFormAreRefused) {
+TEST_F(VoBitStreamFormsTest, numbersWithoutAFormAreRefused) {
     VoFlatMemBuf buffer;
     VoBitStream stream(&buffer);
     stream.writeUInt64((std::uint64_t{1} << 56) - 1);
@@ -161,7 +161,7 @@ TEST_F(VoBitStreamFormsTest, NumbersWithoutAFormAreRefused) {
     EXPECT_EQ(reports().size(), 2U);
 }
 
-TEST_F(VoBitStreamFormsTest, AFloatIsReadWithoutTouchingItsNeighbour) {
+TEST_F(VoBitStreamFormsTest, aFloatIsReadWithoutTouchingItsNeighbour) {
     VoFlatMemBuf buffer;
     VoBitStream stream(&buffer);
     stream.writeDouble(2.5);
@@ -172,7 +172,7 @@ TEST_F(VoBitStreamFormsTest, AFloatIsReadWithoutTouchingItsNeighbour) {
     EXPECT_EQ(pair[1], 7.0F);
 }
 
-TEST_F(VoBitStreamFormsTest, AValueThatIsCutOffGivesZerosForWhatIsMissing) {
+TEST_F(VoBitStreamFormsTest, aValueThatIsCutOffGivesZerosForWhatIsMissing) {
     VoFlatMemBuf buffer;
     fill(buffer, {0x00, 0xC0});
     VoBitStream stream(&buffer, 12); // code 0, then 8 of 16 bits, and 2 more

@@ -19,7 +19,7 @@ std::string bitText(unsigned value, unsigned count) {
     return text;
 }
 
-TEST_F(VoBitStreamTest, WritesAndReadsAreThoseOfARowOfBits) {
+TEST_F(VoBitStreamTest, writesAndReadsAreThoseOfARowOfBits) {
     std::mt19937 random(2);
     const auto below = [&](std::size_t count) { return static_cast<unsigned>(random() % count); };
     for (int round = 0; round < 300; ++round) {
@@ -71,7 +71,7 @@ TEST_F(VoBitStreamTest, WritesAndReadsAreThoseOfARowOfBits) {
     }
 }
 
-TEST_F(VoBitStreamTest, OneBitInCommonWithTheTestIsEnough) {
+TEST_F(VoBitStreamTest, oneBitInCommonWithTheTestIsEnough) {
     VoFlatMemBuf buffer;
     VoBitStream stream(&buffer);
     stream.writeBit(2, 3);
@@ -79,7 +79,7 @@ TEST_F(VoBitStreamTest, OneBitInCommonWithTheTestIsEnough) {
     EXPECT_EQ(bitsFrom(stream, 0), "10");
 }
 
-TEST_F(VoBitStreamTest, OtherNumbersOfBitsAndNoBufferDoNothing) {
+TEST_F(VoBitStreamTest, otherNumbersOfBitsAndNoBufferDoNothing) {
     VoFlatMemBuf buffer;
     fill(buffer, {0xFF, 0xFF});
     VoBitStream stream(&buffer, 16);
@@ -103,7 +103,7 @@ TEST_F(VoBitStreamTest, OtherNumbersOfBitsAndNoBufferDoNothing) {
     EXPECT_TRUE(none.isEOS());
 }
 
-TEST_F(VoBitStreamTest, NothingIsReadPastTheLength) {
+TEST_F(VoBitStreamTest, nothingIsReadPastTheLength) {
     VoFlatMemBuf buffer;
     fill(buffer, {0xFF, 0xFF, 0xFF, 0xFF});
     VoBitStream stream(&buffer, 12);
@@ -126,7 +126,7 @@ TEST_F(VoBitStreamTest, NothingIsReadPastTheLength) {
     EXPECT_EQ(VoBitStream(nullptr, 17).length(), 0U);
 }
 
-TEST_F(VoBitStreamTest, SingleBitsAreReadUpToTheBuffersEnd) {
+TEST_F(VoBitStreamTest, singleBitsAreReadUpToTheBuffersEnd) {
     VoFlatMemBuf buffer;
     fill(buffer, {0xFF});
     VoBitStream stream(&buffer);
@@ -151,7 +151,7 @@ struct Seek {
     bool refused = false;
 };
 
-TEST_F(VoBitStreamTest, SeeksBitsWithinTheLength) {
+TEST_F(VoBitStreamTest, seeksBitsWithinTheLength) {
     const Seek fromTenOfTwenty[] = {
         {0, 0, 0},  {13, 0, 13}, {20, 0, 20}, {21, 0, 10, true}, {kFar - 5, 1, 10, true},
         {0, 1, 10}, {10, 1, 20}, {5, 4, 10},  {11, 1, 10, true}, {kFar, 1, 10, true},
@@ -171,7 +171,7 @@ TEST_F(VoBitStreamTest, SeeksBitsWithinTheLength) {
     EXPECT_EQ(VoBitStream(nullptr).seek(1, VoIO::fromStart), 0U);
 }
 
-TEST_F(VoBitStreamTest, SeeksBytesWithinTheBufferAndKeepsTheBit) {
+TEST_F(VoBitStreamTest, seeksBytesWithinTheBufferAndKeepsTheBit) {
     const Seek fromTwoOfFive[] = {
         {0, 0, 0},          {4, 0, 4},          {5, 0, 2, true}, {2, 1, 4},       {3, 1, 2, true},
         {kFar, 1, 2, true}, {1, 2, 1},          {0, 3, 5},       {2, 2, 2, true}, {4, 3, 1},
@@ -189,7 +189,7 @@ TEST_F(VoBitStreamTest, SeeksBytesWithinTheBufferAndKeepsTheBit) {
     VoBitStream(nullptr).seekByte(1, VoIO::fromStart);
 }
 
-TEST_F(VoBitStreamTest, CopiesARunOfBitsToAPlaceInAnotherStream) {
+TEST_F(VoBitStreamTest, copiesARunOfBitsToAPlaceInAnotherStream) {
     std::mt19937 random(3);
     std::vector<unsigned char> bytes(9000);
     std::ranges::generate(bytes, [&] { return static_cast<unsigned char>(random()); });
@@ -213,7 +213,7 @@ TEST_F(VoBitStreamTest, CopiesARunOfBitsToAPlaceInAnotherStream) {
     }
 }
 
-TEST_F(VoBitStreamTest, ARunThatIsNotThereLeavesTheTargetAtItsPlace) {
+TEST_F(VoBitStreamTest, aRunThatIsNotThereLeavesTheTargetAtItsPlace) {
     VoFlatMemBuf sourceBuffer;
     fill(sourceBuffer, {1, 2});
     VoBitStream source(&sourceBuffer, 16);
@@ -248,7 +248,7 @@ private:
     std::uint64_t m_length = 0;
 };
 
-TEST_F(VoBitStreamTest, ABufferThatTakesNothingIsReportedAndNothingMoves) {
+TEST_F(VoBitStreamTest, aBufferThatTakesNothingIsReportedAndNothingMoves) {
     for (const bool grows : {false, true}) {
         ClosedBuf buffer(grows);
         VoBitStream stream(&buffer);
@@ -260,7 +260,7 @@ TEST_F(VoBitStreamTest, ABufferThatTakesNothingIsReportedAndNothingMoves) {
     }
 }
 
-TEST_F(VoBitStreamTest, ABufferThatIsCutMeanwhileIsNotWrittenBehindItsEnd) {
+TEST_F(VoBitStreamTest, aBufferThatIsCutMeanwhileIsNotWrittenBehindItsEnd) {
     VoFlatMemBuf buffer;
     VoBitStream stream(&buffer);
     stream.writeUInt32(0x12345678);
@@ -274,7 +274,7 @@ TEST_F(VoBitStreamTest, ABufferThatIsCutMeanwhileIsNotWrittenBehindItsEnd) {
     EXPECT_EQ(bytesOf(buffer), (Bytes{0, 0, 0, 0, 0x07, 0xF8}));
 }
 
-TEST_F(VoBitStreamTest, BytesOfTheBufferItselfCanBeWritten) {
+TEST_F(VoBitStreamTest, bytesOfTheBufferItselfCanBeWritten) {
     VoFlatMemBuf buffer;
     VoBitStream stream(&buffer);
     stream.writeBytes("01234567", 8);

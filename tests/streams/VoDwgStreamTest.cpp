@@ -12,7 +12,7 @@ using Text = CStdStr<wchar_t>;
 
 class VoDwgStreamTest : public StreamTest {};
 
-TEST_F(VoDwgStreamTest, HandlesCountTheirBytesAndStandHighestFirst) {
+TEST_F(VoDwgStreamTest, handlesCountTheirBytesAndStandHighestFirst) {
     struct Case {
         std::uint8_t code;
         std::uint64_t value;
@@ -55,7 +55,7 @@ TEST_F(VoDwgStreamTest, HandlesCountTheirBytesAndStandHighestFirst) {
     EXPECT_EQ(handle.value, 0xABCU);
 }
 
-TEST_F(VoDwgStreamTest, AHandleOfMoreThanEightBytesIsReportedAndNotRead) {
+TEST_F(VoDwgStreamTest, aHandleOfMoreThanEightBytesIsReportedAndNotRead) {
     VoFlatMemBuf buffer;
     fill(buffer, {0x29, 1, 2, 3});
     VoDwgStream stream(&buffer, 32);
@@ -74,7 +74,7 @@ TEST_F(VoDwgStreamTest, AHandleOfMoreThanEightBytesIsReportedAndNotRead) {
     EXPECT_THAT(reports(), ElementsAre(kBitsReport));
 }
 
-TEST_F(VoDwgStreamTest, IdsArePassedOverWhenRead) {
+TEST_F(VoDwgStreamTest, idsArePassedOverWhenRead) {
     VoFlatMemBuf buffer;
     VoDwgStream stream(&buffer);
     int place = 0;
@@ -104,7 +104,7 @@ TEST_F(VoDwgStreamTest, IdsArePassedOverWhenRead) {
     EXPECT_TRUE(kept.isNull());
 }
 
-TEST_F(VoDwgStreamTest, AScaleInSpaceTakesNoBits) {
+TEST_F(VoDwgStreamTest, aScaleInSpaceTakesNoBits) {
     VoFlatMemBuf buffer;
     VoDwgStream stream(&buffer);
     VoBitStream& base = stream;
@@ -117,7 +117,7 @@ TEST_F(VoDwgStreamTest, AScaleInSpaceTakesNoBits) {
     EXPECT_EQ(stream.length(), 128U);
 }
 
-TEST_F(VoDwgStreamTest, OfUnicodeTextsTheFirstHalfOfTheMemoryGoesOut) {
+TEST_F(VoDwgStreamTest, ofUnicodeTextsTheFirstHalfOfTheMemoryGoesOut) {
     VoFlatMemBuf buffer;
     VoDwgStream stream(&buffer);
     stream.writeUnicodeString(L"abcde");
@@ -134,7 +134,7 @@ TEST_F(VoDwgStreamTest, OfUnicodeTextsTheFirstHalfOfTheMemoryGoesOut) {
     kdutDelString(text);
 }
 
-TEST_F(VoDwgStreamTest, ACountBeyondTheStreamGivesNoUnicodeText) {
+TEST_F(VoDwgStreamTest, aCountBeyondTheStreamGivesNoUnicodeText) {
     for (const std::int32_t count : {-1, 4, 0x7FFFFFFF}) {
         VoFlatMemBuf buffer;
         VoDwgStream stream(&buffer);
@@ -149,7 +149,7 @@ TEST_F(VoDwgStreamTest, ACountBeyondTheStreamGivesNoUnicodeText) {
     }
 }
 
-TEST_F(VoDwgStreamTest, TextsAreNarrowAndLaterUnitsOf16Bits) {
+TEST_F(VoDwgStreamTest, textsAreNarrowAndLaterUnitsOf16Bits) {
     VoFlatMemBuf buffer;
     VoDwgStream stream(&buffer);
     stream.writeBits(1, 3);
@@ -175,7 +175,7 @@ TEST_F(VoDwgStreamTest, TextsAreNarrowAndLaterUnitsOf16Bits) {
     }
 }
 
-TEST_F(VoDwgStreamTest, ACountBeyondTheStreamGivesAnEmptyText) {
+TEST_F(VoDwgStreamTest, aCountBeyondTheStreamGivesAnEmptyText) {
     VoFlatMemBuf buffer;
     VoDwgR21Stream later(&buffer);
     later.writeInt16(3);
@@ -193,7 +193,7 @@ TEST_F(VoDwgStreamTest, ACountBeyondTheStreamGivesAnEmptyText) {
     EXPECT_THAT(reports(), ElementsAre(kBitsReport));
 }
 
-TEST_F(VoDwgStreamTest, TheCountOfALongTextIsCutAndItsCharactersAreNot) {
+TEST_F(VoDwgStreamTest, theCountOfALongTextIsCutAndItsCharactersAreNot) {
     const struct {
         std::size_t length;
         std::uint64_t narrowBits, wideBits;

@@ -53,7 +53,7 @@ protected:
     }
 };
 
-TEST_F(VoFlatMemBufTest, ReadsWithinItsBytes) {
+TEST_F(VoFlatMemBufTest, readsWithinItsBytes) {
     expect([](Buf& b) { return letter(b.readByte()); }, "c of abc|de");
     expect([](Buf& b) { return letter(b.readByte(4)); }, "e of ab|cde");
     expect([](Buf& b) { return letter(b.readByte(5)); }, ". of ab|cde out");
@@ -71,7 +71,7 @@ TEST_F(VoFlatMemBufTest, ReadsWithinItsBytes) {
     expect([](Buf& b) { return get(b, 5, 4); }, "____ of ab|cde out");
 }
 
-TEST_F(VoFlatMemBufTest, WritingCutsOrOverwrites) {
+TEST_F(VoFlatMemBufTest, writingCutsOrOverwrites) {
     expect([](Buf& b) { b.writeByte('9'); }, "ab9|");
     expect([](Buf& b) { b.writeByte(0, '9'); }, "|9bcde");
     expect([](Buf& b) { b.writeByte(4, '9'); }, "abcd|9");
@@ -98,7 +98,7 @@ TEST_F(VoFlatMemBufTest, WritingCutsOrOverwrites) {
     expect([](Buf& b) { b.open(b.buffer() + 1, 3, 1); }, "b|cd.");
 }
 
-TEST_F(VoFlatMemBufTest, LengthsAndPlacesStayWithinWhatCanBe) {
+TEST_F(VoFlatMemBufTest, lengthsAndPlacesStayWithinWhatCanBe) {
     expect([](Buf& b) { b.truncate(); }, "ab|");
     expect([](Buf& b) { b.setlength(1); }, "a |");
     expect([](Buf& b) { b.resize(7); }, "ab|cde..");
@@ -120,7 +120,7 @@ TEST_F(VoFlatMemBufTest, LengthsAndPlacesStayWithinWhatCanBe) {
     expect([](Buf& b) { b.seek(1, static_cast<VoIO::SeekType>(4)); }, "ab|cde");
 }
 
-TEST_F(VoFlatMemBufTest, ByteByByteReadingStopsAtTheEnd) {
+TEST_F(VoFlatMemBufTest, byteByByteReadingStopsAtTheEnd) {
     Buf buffer;
     setState(buffer, "ab|");
     EXPECT_EQ(buffer.readByte(), 0);
@@ -130,7 +130,7 @@ TEST_F(VoFlatMemBufTest, ByteByByteReadingStopsAtTheEnd) {
     EXPECT_EQ(buffer.tell(), 2U);
 }
 
-TEST_F(VoFlatMemBufTest, AByteAtTheEndStandsBehindIt) {
+TEST_F(VoFlatMemBufTest, aByteAtTheEndStandsBehindIt) {
     for (const unsigned length : {0U, 1U, 8U, 16U, 4096U}) {
         Buf buffer;
         buffer.setlength(length);
@@ -142,7 +142,7 @@ TEST_F(VoFlatMemBufTest, AByteAtTheEndStandsBehindIt) {
     }
 }
 
-TEST_F(VoFlatMemBufTest, RoomThatWasUsedOnceReadsAsZero) {
+TEST_F(VoFlatMemBufTest, roomThatWasUsedOnceReadsAsZero) {
     Buf buffer;
     setState(buffer, "|abcdef");
     buffer.setlength(2);
@@ -151,7 +151,7 @@ TEST_F(VoFlatMemBufTest, RoomThatWasUsedOnceReadsAsZero) {
     EXPECT_EQ(stateOf(buffer), "|ab...");
 }
 
-TEST_F(VoFlatMemBufTest, GrowsByDoublingUpTo64KiB) {
+TEST_F(VoFlatMemBufTest, growsByDoublingUpTo64KiB) {
     Buf buffer;
     buffer.setlength(1);
     buffer.setlength(9);

@@ -36,7 +36,7 @@ private:
 
 class VoStreamBufTest : public StreamTest {};
 
-TEST_F(VoStreamBufTest, FormsWithAPositionComeBackUnlessTheyAreThere) {
+TEST_F(VoStreamBufTest, formsWithAPositionComeBackUnlessTheyAreThere) {
     PlainBuf buffer;
     buffer.seek(1, VoIO::fromStart);
     EXPECT_EQ(buffer.readByte(2), 'c');
@@ -56,7 +56,7 @@ TEST_F(VoStreamBufTest, FormsWithAPositionComeBackUnlessTheyAreThere) {
     EXPECT_EQ(buffer.bytes, "2b3");
 }
 
-TEST_F(VoStreamBufTest, FormsWithAPositionDontReachPastTheEnd) {
+TEST_F(VoStreamBufTest, formsWithAPositionDontReachPastTheEnd) {
     PlainBuf buffer;
     std::array<char, 2> target{'x', 'x'};
     for (const std::uint64_t position : {std::uint64_t{2}, std::uint64_t{4}, kFar}) {
@@ -71,7 +71,7 @@ TEST_F(VoStreamBufTest, FormsWithAPositionDontReachPastTheEnd) {
     EXPECT_EQ(buffer.tell(), 0U);
 }
 
-TEST_F(VoStreamBufTest, CopiesTheRangeOrWhatIsLeft) {
+TEST_F(VoStreamBufTest, copiesTheRangeOrWhatIsLeft) {
     const struct {
         const char* source;
         const char* target;
@@ -110,7 +110,7 @@ TEST_F(VoStreamBufTest, CopiesTheRangeOrWhatIsLeft) {
     }
 }
 
-TEST_F(VoStreamBufTest, CopyingEndsWhateverThePlacesAre) {
+TEST_F(VoStreamBufTest, copyingEndsWhateverThePlacesAre) {
     VoFlatMemBuf source;
     VoFlatMemBuf target;
     setState(source, "abcd|ef");
@@ -129,7 +129,7 @@ TEST_F(VoStreamBufTest, CopyingEndsWhateverThePlacesAre) {
     EXPECT_EQ(source.tell(), 2U);
 }
 
-TEST_F(VoStreamBufTest, LongCopiesGoThroughInChunks) {
+TEST_F(VoStreamBufTest, longCopiesGoThroughInChunks) {
     std::vector<unsigned char> bytes(3 * 4096 + 5);
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         bytes[i] = static_cast<unsigned char>(i * 7 % 251);

@@ -43,7 +43,7 @@ protected:
     }
 };
 
-TEST_F(TypedStreamTest, ValuesAreTheirMemoryImages) {
+TEST_F(TypedStreamTest, valuesAreTheirMemoryImages) {
     using Out = VoOStream;
     using In = VoIStream;
     checkImage<std::int8_t>(&Out::writeInt8, &In::readInt8, -3);
@@ -81,7 +81,7 @@ TEST_F(TypedStreamTest, ValuesAreTheirMemoryImages) {
     EXPECT_TRUE(value) << "any image but zero is true";
 }
 
-TEST_F(TypedStreamTest, TextsCarryTheirCount) {
+TEST_F(TypedStreamTest, textsCarryTheirCount) {
     VoFlatMemBuf buffer;
     VoBufStream stream(&buffer);
     stream.writeRawStr("wall");
@@ -103,7 +103,7 @@ TEST_F(TypedStreamTest, TextsCarryTheirCount) {
     EXPECT_EQ(std::wmemcmp(wide + 2, L"\0\0", 3), 0);
 }
 
-TEST_F(TypedStreamTest, ACountBeyondTheStreamGivesNoText) {
+TEST_F(TypedStreamTest, aCountBeyondTheStreamGivesNoText) {
     using Limits = std::numeric_limits<std::int32_t>;
     for (const std::int32_t count : {-1, 4, Limits::max(), Limits::min()}) {
         VoFlatMemBuf buffer;
@@ -122,7 +122,7 @@ TEST_F(TypedStreamTest, ACountBeyondTheStreamGivesNoText) {
     }
 }
 
-TEST_F(TypedStreamTest, AStreamWithoutABufferIsEmpty) {
+TEST_F(TypedStreamTest, aStreamWithoutABufferIsEmpty) {
     VoBufStream stream(nullptr);
     VoFlatMemBuf buffer;
     VoBufStream other(&buffer);
@@ -139,7 +139,7 @@ TEST_F(TypedStreamTest, AStreamWithoutABufferIsEmpty) {
     other.copyTo(nullptr);
 }
 
-TEST_F(TypedStreamTest, StreamsCopyWhatTheirBuffersHaveLeft) {
+TEST_F(TypedStreamTest, streamsCopyWhatTheirBuffersHaveLeft) {
     VoFlatMemBuf source;
     VoFlatMemBuf target;
     setState(source, "a|bc");

@@ -6,7 +6,7 @@
 #include <memory>
 
 namespace orvex {
-class ColourList;
+class ColorList;
 }
 
 // A combo box of colours with swatches: by layer, by block, the colours 1 to 7, recent ones, and an
@@ -20,14 +20,14 @@ public:
     void PreSubclassWindow() override;
 
     // Without a current colour the argument stays as it is.
-    void GetCurrentItemColor(KdCmColor& colour) const;
-    [[nodiscard]] int FindItemByColor(const KdCmColor& colour) const; // -1 for none
+    void GetCurrentItemColor(KdCmColor& color) const;
+    [[nodiscard]] int FindItemByColor(const KdCmColor& color) const; // -1 for none
     // Puts it first among the recent colours, unless it is in the list already, and gives its
     // index; -1 when it isn't bound. Selects nothing. A limited number is kept.
-    int AddColorToMRU(const KdCmColor& colour);
+    int AddColorToMRU(const KdCmColor& color);
 
 private:
     bool choose(int index);
 
-    std::shared_ptr<orvex::ColourList> m_colours;
+    std::shared_ptr<orvex::ColorList> m_colors;
 };

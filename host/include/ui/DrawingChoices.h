@@ -8,7 +8,7 @@
 
 namespace orvex {
 
-struct LineTypeChoice {
+struct LinetypeChoice {
     std::wstring name;
     // Drawing units along the line: positive pen down, negative pen up, 0 a dot; empty:
     // continuous.
@@ -28,11 +28,11 @@ public:
 
     // All records of the line type table, in its order. Those called ByLayer, ByBlock or Continuous
     // in any case are passed over: they stand under their local names.
-    [[nodiscard]] virtual std::vector<LineTypeChoice> lineTypes() const { return {}; }
+    [[nodiscard]] virtual std::vector<LinetypeChoice> linetypes() const { return {}; }
 
     // Lets the user choose a colour, from `before`; nothing when it was cancelled. Here: Qt's
     // dialog, in which a colour that is one of the palette gives its index.
-    [[nodiscard]] virtual std::optional<KdCmColor> askColour(const KdCmColor& before) const;
+    [[nodiscard]] virtual std::optional<KdCmColor> askColor(const KdCmColor& before) const;
 };
 
 // Gives the process another source (null: reserved names only) and returns the one before, null for

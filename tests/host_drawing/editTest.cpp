@@ -79,7 +79,7 @@ std::string between(std::string_view from, std::string_view to) {
     return sample.substr(at, sample.find(to, at) - at);
 }
 
-TEST(ChangedMline, KeepsTheTextOfWhatIsTheSame) {
+TEST(ChangedMline, keepsTheTextOfWhatIsTheSame) {
     const std::string first = dxf("74      2\n41 0.250\n41 0.0");
     const std::string second = dxf("74      4\n41 -0.250\n41 0.0\n41 2.0\n41 3.5");
     expectMline(
@@ -103,7 +103,7 @@ TEST(ChangedMline, KeepsTheTextOfWhatIsTheSame) {
         "0.250\n 41\n0.0", "0.30000000000000004\n 41\n-0.0");
 }
 
-TEST(ChangedMline, WritesItsFields) {
+TEST(ChangedMline, writesItsFields) {
     using M = KdDbMline;
     expectMline([](M& m) { m.setScale(2.0); }, "0.50\n 70", "2.0\n 70");
     expectMline([](M& m) { m.setScale(1e300); }, "0.50\n 70", "1e+300\n 70");
@@ -126,7 +126,7 @@ TEST(ChangedMline, WritesItsFields) {
         "  2\nWALL\n340\n2F\n 40\n0.50", "  2\nSTANDARD\n340\n2E\n 40\n0.50");
 }
 
-TEST(ChangedMline, GainsAndLosesVertices) {
+TEST(ChangedMline, gainsAndLosesVertices) {
     const std::string sample = sampleDrawing();
     const std::string third = between(" 11\n10.00\n 21\n5.0", "1001\nOTHER_APP");
     expectEdit(
@@ -174,7 +174,7 @@ TEST(ChangedMline, GainsAndLosesVertices) {
                  "  0\nENDBLK", dxf("11 1.0\n21 0.0\n31 0.0") + bare + "  0\nENDBLK"));
 }
 
-TEST(ChangedMline, KeepsCommentsOtherDataAndTheLineEndsOfItsRecord) {
+TEST(ChangedMline, keepsCommentsOtherDataAndTheLineEndsOfItsRecord) {
     const std::string sample =
         replaced(replaced(sampleDrawing(), " 41\n0.250\n", " 41\n0.250\n999\na remark\n"),
                  "340\n2F\n", "340\n2F\n999\nanother\n");
@@ -191,7 +191,7 @@ TEST(ChangedMline, KeepsCommentsOtherDataAndTheLineEndsOfItsRecord) {
     expectEdit(withReturns(sample), edit, withReturns(expected));
 }
 
-TEST(ChangedMline, IsErased) {
+TEST(ChangedMline, isErased) {
     expectMline([](KdDbMline& mline) { mline.erase(); },
                 between("  0\nMLINE\n  5\n51", "  0\nMLINE\n  5\n52"), "");
     // A polyline goes with its vertices.
@@ -199,7 +199,7 @@ TEST(ChangedMline, IsErased) {
                between("  0\nPOLYLINE", "  0\nWHATEVER"), "");
 }
 
-TEST(ChangedStyle, KeepsTheTextOfWhatIsTheSame) {
+TEST(ChangedStyle, keepsTheTextOfWhatIsTheSame) {
     using Style = KdDbMlineStyle;
     const std::string element = dxf("49 0.50\n62 1\n420 16711680\n6 DASHED");
     expectStyle([](Style& style) { style.setDescription(L"\u00DCber\nall"); }, "Thick wall",
@@ -221,7 +221,7 @@ TEST(ChangedStyle, KeepsTheTextOfWhatIsTheSame) {
     expectStyle([](Style& style) { style.removeElementAt(0); }, dxf("71 2") + element, dxf("71 1"));
 }
 
-TEST(ChangedDictionary, FollowsItsEntries) {
+TEST(ChangedDictionary, followsItsEntries) {
     const std::string sample = sampleDrawing();
     expectEdit(
         [](DrawingFile& file) { opened<KdDbDictionary>(file, 0x17).setName(L"WALL", L"Brick"); },
@@ -232,7 +232,7 @@ TEST(ChangedDictionary, FollowsItsEntries) {
                  "  3\nWALL\n350\n2F\n", ""));
 }
 
-TEST(ChangedVariables, AreWrittenInPlaceOrAtTheEndOfTheHeader) {
+TEST(ChangedVariables, areWrittenInPlaceOrAtTheEndOfTheHeader) {
     const struct {
         const char* name;
         HeaderValue value;
@@ -318,7 +318,7 @@ void editSomething(DrawingFile& file, std::vector<KdDbStub*>& mlines, std::mt199
     }
 }
 
-TEST(Undo, RestoresEveryStepByteForByte) {
+TEST(Undo, restoresEveryStepByteForByte) {
     std::size_t steps = 0;
     for (unsigned seed = 1; seed <= 40; ++seed) {
         SCOPED_TRACE(seed);

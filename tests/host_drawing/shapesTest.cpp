@@ -32,7 +32,7 @@ void expectNear(const Triple& a, double x, double y, double z) {
 
 constexpr double kPi = std::numbers::pi;
 
-TEST(Shapes, OfLinesPointsAndSolids) {
+TEST(Shapes, ofLinesPointsAndSolids) {
     const auto line = shapeOf<LineShape>("0 LINE\n10 1\n20 2\n11 3\n21 4\n31 5\n1000 x\n10 9");
     expectNear(line.start, 1.0, 2.0, 0.0);
     expectNear(line.end, 3.0, 4.0, 5.0);
@@ -46,7 +46,7 @@ TEST(Shapes, OfLinesPointsAndSolids) {
 }
 
 // With the extrusion (0,0,-1) the plane's x axis is (0,1,0) x N = (-1,0,0), its y axis (0,1,0).
-TEST(Shapes, OfArcsInTheirPlane) {
+TEST(Shapes, ofArcsInTheirPlane) {
     const auto arc =
         shapeOf<ConicShape>("0 ARC\n10 5\n20 1\n30 2\n40 2\n50 270\n51 90\n210 0\n220 0\n230 -1");
     expectNear(arc.center, -5.0, 1.0, -2.0);
@@ -68,7 +68,7 @@ TEST(Shapes, OfArcsInTheirPlane) {
     EXPECT_DOUBLE_EQ(ellipse.end, 1.5);
 }
 
-TEST(Shapes, OfPolylines) {
+TEST(Shapes, ofPolylines) {
     const auto light = shapeOf<PolylineShape>(
         "0 LWPOLYLINE\n90 9999999\n70 1\n38 3\n10 1\n20 2\n42 0.5\n10 4\n20 5");
     ASSERT_EQ(light.vertices.size(), 2U);
@@ -93,7 +93,7 @@ TEST(Shapes, OfPolylines) {
     EXPECT_EQ(faces.paths[0].vertices.size(), 3U);
 }
 
-TEST(Shapes, OfTexts) {
+TEST(Shapes, ofTexts) {
     const auto text = shapeOf<TextShape>(
         "0 TEXT\n10 1\n20 2\n11 5\n21 6\n40 2.5\n50 90\n72 1\n73 2\n1 45%%d %%utop\\U+00E9");
     expectNear(text.position, 5.0, 6.0, 0.0);
@@ -113,7 +113,7 @@ TEST(Shapes, OfTexts) {
     EXPECT_EQ(paragraph.lines, (std::vector<std::wstring>{L"Bold 1/2", L"second \\ { "}));
 }
 
-TEST(Shapes, OfInsertsWithTheirAttributes) {
+TEST(Shapes, ofInsertsWithTheirAttributes) {
     const auto insert = shapeOf<InsertShape>(
         "0 INSERT\n66 1\n2 Room\n10 1\n20 2\n41 2\n42 3\n50 90\n70 4\n71 32767\n44 10\n45 20\n"
         "0 ATTRIB\n10 7\n20 8\n40 1\n1 shown\n70 0\n0 ATTRIB\n1 hidden\n70 1\n0 SEQEND");
@@ -129,7 +129,7 @@ TEST(Shapes, OfInsertsWithTheirAttributes) {
     EXPECT_EQ(insert.attributes[0].lines[0], L"shown");
 }
 
-TEST(Shapes, OfHatches) {
+TEST(Shapes, ofHatches) {
     const auto hatch = shapeOf<OutlinesShape>(
         "0 HATCH\n10 0\n20 0\n30 1\n91 2\n92 2\n72 1\n73 1\n93 2\n10 0\n20 0\n42 1\n10 4\n20 0\n"
         "42 0\n97 0\n92 1\n93 4\n72 1\n10 0\n20 0\n11 1\n21 1\n72 2\n10 5\n20 5\n40 2\n50 0\n"
@@ -148,7 +148,7 @@ TEST(Shapes, OfHatches) {
     expectNear(hatch.arcs[1].minor, 0.0, 1.0, 0.0);
 }
 
-TEST(Shapes, OfDamagedEntitiesAreHarmless) {
+TEST(Shapes, ofDamagedEntitiesAreHarmless) {
     const std::string hatch = "0 HATCH\n91 999999999\n92 1\n93 999999999\n72 4\n94 3\n95 "
                               "999999999\n96 999999999\n40 0\n40 1\n10 0\n20 0";
     EXPECT_EQ(shapeOf<OutlinesShape>(hatch).paths.size(), 1U);

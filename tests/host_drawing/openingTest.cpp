@@ -17,7 +17,7 @@ using namespace orvex;
 using namespace orvex::testing;
 using ::testing::HasSubstr;
 
-TEST(Opening, IsRefusedWithTheLine) {
+TEST(Opening, isRefusedWithTheLine) {
     const struct {
         std::string bytes;
         std::size_t line;
@@ -42,7 +42,7 @@ TEST(Opening, IsRefusedWithTheLine) {
     EXPECT_TRUE(std::holds_alternative<DrawingError>(DrawingFile::open("/")));
 }
 
-TEST(Opening, TellsOfWhatIsOdd) {
+TEST(Opening, tellsOfWhatIsOdd) {
     const std::string sample = sampleDrawing();
     const std::size_t lastLine = std::count(sample.begin(), sample.end(), '\n');
     const auto odd = [&](const char* from, const char* to) { return replaced(sample, from, to); };
@@ -82,7 +82,7 @@ TEST(Opening, TellsOfWhatIsOdd) {
     }
 }
 
-TEST(Opening, KeepsAContradictingMultilineOutOfReach) {
+TEST(Opening, keepsAContradictingMultilineOutOfReach) {
     const auto file = openDrawing(replaced(sampleDrawing(), " 72\n     3", " 72\n     4"));
     KdDbStub& stub = stubOf(*file, 0x51);
     EXPECT_EQ(stub.kind, ObjectKind::opaque);
@@ -93,7 +93,7 @@ TEST(Opening, KeepsAContradictingMultilineOutOfReach) {
     EXPECT_EQ(entities[1], &stub);
 }
 
-TEST(Opening, PutsEntitiesIntoTheirBlocks) {
+TEST(Opening, putsEntitiesIntoTheirBlocks) {
     const auto file = openDrawing(sampleDrawing());
     DatabaseCore& core = file->database().core();
     const auto handles = [](const BlockEntities& block) {
@@ -114,7 +114,7 @@ TEST(Opening, PutsEntitiesIntoTheirBlocks) {
     EXPECT_EQ(core.blockOf(stubOf(*file, 0x41)), room);
 }
 
-TEST(Opening, ReadsStylesTablesAndVariables) {
+TEST(Opening, readsStylesTablesAndVariables) {
     const auto file = openDrawing(sampleDrawing());
     DatabaseCore& core = file->database().core();
     const auto* const style = dynamic_cast<KdDbMlineStyle*>(core.load(stubOf(*file, 0x2F)));

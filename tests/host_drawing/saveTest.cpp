@@ -52,7 +52,7 @@ protected:
 
 using ::testing::ElementsAre;
 
-TEST_F(Saving, WritesTheBytesAndKeepsTheOldFilesMode) {
+TEST_F(Saving, writesTheBytesAndKeepsTheOldFilesMode) {
     const fs::path path = folder / "plan.dxf";
     EXPECT_EQ(file->save(path.string()), nullptr);
     EXPECT_TRUE(sameText(read(path), sampleDrawing()));
@@ -66,7 +66,7 @@ TEST_F(Saving, WritesTheBytesAndKeepsTheOldFilesMode) {
     EXPECT_THAT(names(), ElementsAre("plan.dxf"));
 }
 
-TEST_F(Saving, WritesOverItsOwnInputAgainAndAgain) {
+TEST_F(Saving, writesOverItsOwnInputAgainAndAgain) {
     const fs::path path = folder / "plan.dxf";
     write(path, sampleDrawing());
     auto opened = DrawingFile::open(path.string());
@@ -88,7 +88,7 @@ TEST_F(Saving, WritesOverItsOwnInputAgainAndAgain) {
     EXPECT_TRUE(sameText(read(path), sampleDrawing()));
 }
 
-TEST_F(Saving, FollowsLinks) {
+TEST_F(Saving, followsLinks) {
     write(folder / "plan.dxf", "old");
     fs::create_symlink("plan.dxf", folder / "link.dxf");
     fs::create_symlink("new.dxf", folder / "dangling.dxf");
@@ -101,7 +101,7 @@ TEST_F(Saving, FollowsLinks) {
     EXPECT_NE(file->save((folder / "ring.dxf").string()), nullptr);
 }
 
-TEST_F(Saving, FailsWithoutATraceWhereNothingCanBeWritten) {
+TEST_F(Saving, failsWithoutATraceWhereNothingCanBeWritten) {
     EXPECT_NE(file->save((folder / "missing" / "plan.dxf").string()), nullptr);
     EXPECT_NE(file->save(folder.string()), nullptr);
     EXPECT_NE(file->save(""), nullptr);
@@ -117,7 +117,7 @@ TEST_F(Saving, FailsWithoutATraceWhereNothingCanBeWritten) {
     EXPECT_TRUE(names().empty());
 }
 
-TEST_F(Saving, LeavesTheOldFileWhenTheDiskIsFull) {
+TEST_F(Saving, leavesTheOldFileWhenTheDiskIsFull) {
     const fs::path path = folder / "plan.dxf";
     write(path, "old");
     rlimit before{};

@@ -11,7 +11,7 @@ namespace {
 
 using namespace orvex;
 
-TEST(NumberText, ReadsWhatProgramsWriteAndNothingElse) {
+TEST(NumberText, readsWhatProgramsWriteAndNothingElse) {
     const struct {
         const char* text;
         double value;
@@ -54,7 +54,7 @@ TEST(NumberText, ReadsWhatProgramsWriteAndNothingElse) {
     }
 }
 
-TEST(NumberText, WritesWhatReadsBackTheSame) {
+TEST(NumberText, writesWhatReadsBackTheSame) {
     EXPECT_EQ(realText(3.0), "3.0");
     EXPECT_EQ(realText(-0.0), "-0.0");
     EXPECT_EQ(realText(0.1), "0.1");
@@ -65,7 +65,7 @@ TEST(NumberText, WritesWhatReadsBackTheSame) {
     EXPECT_EQ(handleText(0), "0");
 }
 
-TEST(DrawingText, ReadsAndWritesInTheFilesCodePage) {
+TEST(DrawingText, readsAndWritesInTheFilesCodePage) {
     const struct {
         const char* version;
         const char* codePage;

@@ -1,4 +1,4 @@
-#include "colourWords.h"
+#include "colorWords.h"
 
 #include "wideNumbers.h"
 
@@ -19,7 +19,7 @@ CStdStr<wchar_t> nameOf(int index) {
 
 } // namespace
 
-CStdStr<wchar_t> colourWord(int index) {
+CStdStr<wchar_t> colorWord(int index) {
     if (index == kByBlock || index == kByLayer) {
         return index == kByBlock ? kByBlockWord : kByLayerWord;
     }
@@ -31,7 +31,7 @@ CStdStr<wchar_t> colourWord(int index) {
     return digits;
 }
 
-int colourIndexOf(const CStdStr<wchar_t>& word) {
+int colorIndexOf(const CStdStr<wchar_t>& word) {
     if (StrCmpI(word, kByLayerWord) == 0) {
         return kByLayer;
     }

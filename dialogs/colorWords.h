@@ -5,7 +5,7 @@
 // A colour's index as a word: by layer 256, by block 0 and the seven with a name of their own,
 // which come from the current resource library; any other index in digits.
 
-CStdStr<wchar_t> colourWord(int index);
+CStdStr<wchar_t> colorWord(int index);
 
 // Ignores case; what is no word reads as a number.
-int colourIndexOf(const CStdStr<wchar_t>& word);
+int colorIndexOf(const CStdStr<wchar_t>& word);

@@ -76,7 +76,7 @@ constexpr const char* kNewMline = "100 AcDbMline\n2 WALL\n340 2F\n40 2.5\n70 1\n
                                   "11 8.0\n21 0.0\n31 0.0\n12 1.0\n22 0.0\n32 0.0\n"
                                   "13 0.0\n23 1.0\n33 0.0\n74 0\n75 0\n74 0\n75 0\n";
 
-TEST(NewMline, StandsBehindTheOthersOfItsBlock) {
+TEST(NewMline, standsBehindTheOthersOfItsBlock) {
     const std::string sample = sampleDrawing();
     const struct {
         const wchar_t* block;
@@ -104,7 +104,7 @@ TEST(NewMline, StandsBehindTheOthersOfItsBlock) {
 }
 
 // No handle comes behind the last one, so a seed there is as good as none.
-TEST(NewMline, TakesTheNextHandleWhereTheSeedIsNoUse) {
+TEST(NewMline, takesTheNextHandleWhereTheSeedIsNoUse) {
     const auto file = openDrawing(
         replaced(sampleDrawing(), "$HANDSEED\n  5\n100", "$HANDSEED\n  5\nFFFFFFFFFFFFFFFF"));
     const std::uint64_t highest = highestHandle(*file);
@@ -113,7 +113,7 @@ TEST(NewMline, TakesTheNextHandleWhereTheSeedIsNoUse) {
     EXPECT_EQ(seedOf(*file), highest + 2);
 }
 
-TEST(NewStyle, IsListedInTheDictionary) {
+TEST(NewStyle, isListedInTheDictionary) {
     const std::string sample = sampleDrawing();
     const auto file = openDrawing(sample);
     addStyle(*file, L"Zaun");
@@ -126,7 +126,7 @@ TEST(NewStyle, IsListedInTheDictionary) {
     EXPECT_TRUE(sameText(file->bytes(), expected));
 }
 
-TEST(NewLinetype, IsCountedWhereTheTableCountedRight) {
+TEST(NewLinetype, isCountedWhereTheTableCountedRight) {
     const std::string sample = sampleDrawing();
     for (const char* const count : {"2", "7"}) {
         const std::string bytes = replaced(sample, "AcDbSymbolTable\n 70\n2",
@@ -146,7 +146,7 @@ TEST(NewLinetype, IsCountedWhereTheTableCountedRight) {
 }
 
 // The multiline A1 names a style A3 that the file doesn't have, and still does so afterwards.
-TEST(NewObjects, DoNotTakeTheHandleOfAMissingStyle) {
+TEST(NewObjects, doNotTakeTheHandleOfAMissingStyle) {
     const std::string torn = dxf("0 SECTION\n2 ENTITIES\n0 MLINE\n5 A1\n8 0\n100 AcDbMline\n"
                                  "2 GONE\n340 A3\n40 1.0\n70 0\n71 1\n72 0\n73 2\n"
                                  "0 ENDSEC\n0 EOF\n");
@@ -159,7 +159,7 @@ TEST(NewObjects, DoNotTakeTheHandleOfAMissingStyle) {
 }
 
 // Sections, tables, dictionaries and a seed of handles come with them where the file has none.
-TEST(NewObjects, AreWrittenWhereverTheFileBreaksOff) {
+TEST(NewObjects, areWrittenWhereverTheFileBreaksOff) {
     const std::string sample = sampleDrawing();
     for (std::size_t at = 0; at < sample.size();
          at = sample.find('\n', sample.find('\n', at) + 1) + 1) {

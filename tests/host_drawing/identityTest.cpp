@@ -32,7 +32,7 @@ void expectIdentity(const std::string& bytes, const std::string& what) {
     ASSERT_TRUE(sameText(file->bytes(), bytes)) << what << ", with everything touched";
 }
 
-TEST(Identity, HoldsForFilesOfAnyForm) {
+TEST(Identity, holdsForFilesOfAnyForm) {
     const std::string sample = sampleDrawing();
     const std::string returns = withReturns(sample);
     const struct {
@@ -63,14 +63,14 @@ TEST(Identity, HoldsForFilesOfAnyForm) {
     }
 }
 
-TEST(Identity, HoldsForTheNewDrawing) {
+TEST(Identity, holdsForTheNewDrawing) {
     const auto file = DrawingFile::create();
     EXPECT_TRUE(file->warnings().empty());
     expectIdentity(file->bytes(), "new drawing");
 }
 
 // Cut anywhere, with any tag missing, twice, or with another value: it opens and stays.
-TEST(Identity, HoldsForDamagedFiles) {
+TEST(Identity, holdsForDamagedFiles) {
     const std::string sample = sampleDrawing();
     for (std::size_t at = 0; at < sample.size();) {
         const std::size_t value = sample.find('\n', at) + 1;
@@ -92,7 +92,7 @@ TEST(Identity, HoldsForDamagedFiles) {
     }
 }
 
-TEST(Identity, HoldsForHugeCountsWithoutMemoryForThem) {
+TEST(Identity, holdsForHugeCountsWithoutMemoryForThem) {
     for (const char* const count : {"2147483647", "65535", "99999999999999999999"}) {
         for (const char* const code :
              {" 72\n     3", " 73\n     2", " 74\n     4", " 75\n     2"}) {
@@ -104,7 +104,7 @@ TEST(Identity, HoldsForHugeCountsWithoutMemoryForThem) {
     }
 }
 
-TEST(Identity, IsNotLostByProgressAndCancelledByIt) {
+TEST(Identity, isNotLostByProgressAndCancelledByIt) {
     std::string large = "  0\nSECTION\n  2\nENTITIES\n";
     while (large.size() < (std::size_t{10} << 20U)) {
         large += "  0\nLINE\n 10\n1.0\n 20\n2.0\n 11\n3.0\n 21\n4.0\n";
