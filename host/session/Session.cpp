@@ -84,24 +84,30 @@ Session::Result Session::run(const std::wstring& name) {
     if (const HostCommand* const command = findHostCommand(name)) {
         return runInBracket(name, [this, command] { command->run(*this); });
     }
+    const ModuleCommand command = findModuleCommand(name);
+    return command.function != nullptr ? runInBracket(name, command.function) : command.refusal;
+}
+
+Session::ModuleCommand Session::findModuleCommand(const std::wstring& name) {
+    const Result needsWindow{Outcome::needsWindow, L"the command '" + name + L"' needs a window"};
     if (worksByDialog(name) && !m_setup.hasWindow) {
-        return {Outcome::needsWindow, L"the command '" + name + L"' needs a window"};
+        return {nullptr, needsWindow};
     }
     const KdEdCommand* command = findRegistered(name);
     if (command == nullptr) {
         if (const auto failure = loadModule()) {
-            return {Outcome::moduleFailed, *failure};
+            return {nullptr, {Outcome::moduleFailed, *failure}};
         }
         command = findRegistered(name);
     }
     if (command == nullptr) {
-        return {Outcome::unknown, L"there is no command '" + name + L"'"};
+        return {nullptr, {Outcome::unknown, L"there is no command '" + name + L"'"}};
     }
     // A translated name is looked at once it is known whose it is.
     if (worksByDialog(command->globalName) && !m_setup.hasWindow) {
-        return {Outcome::needsWindow, L"the command '" + name + L"' needs a window"};
+        return {nullptr, needsWindow};
     }
-    return runInBracket(name, command->function);
+    return {command->function, {}};
 }
 
 Session::Result Session::runInBracket(const std::wstring& name,

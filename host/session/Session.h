@@ -68,6 +68,14 @@ public:
     // Runs a command to its end within the bracket that all commands share.
     Result run(const std::wstring& name);
 
+    // A command of a module; the module is loaded where it has to be.
+    struct ModuleCommand {
+        void (*function)() = nullptr; // null where there is none, and `refusal` says why
+        Result refusal;
+    };
+    ModuleCommand findModuleCommand(const std::wstring& name);
+    [[nodiscard]] ModuleLoader& modules() { return m_modules; }
+
     [[nodiscard]] bool isRunning() const { return m_running; }
 
 private:

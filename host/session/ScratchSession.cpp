@@ -1,0 +1,147 @@
+#include "ScratchSession.h"
+
+#include "CommandStateGuard.h"
+#include "DatabaseCore.h"
+#include "KdDbMline.h"
+#include "KdDbMlineStyle.h"
+#include "MlineContent.h"
+#include "ModuleLoader.h"
+#include "Scene.h"
+#include "Session.h"
+#include "textCodec.h"
+
+#include <exception>
+
+namespace orvex {
+
+namespace {
+
+KdDbMline* mlineAt(KdDbStub& stub) {
+    return stub.erased ? nullptr : dynamic_cast<KdDbMline*>(stub.database->load(stub));
+}
+
+const MlineContent* contentOf(const std::shared_ptr<const ObjectContent>& content) {
+    return dynamic_cast<const MlineContent*>(content.get());
+}
+
+// A command in a database of copies: what it left open is closed and all changes are one step.
+class ScratchBracket {
+public:
+    ScratchBracket(DatabaseCore& core, ModuleLoader& modules) : m_core(core), m_use(modules) {
+        m_core.beginCommand();
+    }
+    ~ScratchBracket() { m_core.endCommand(); }
+    ScratchBracket(const ScratchBracket&) = delete;
+    ScratchBracket& operator=(const ScratchBracket&) = delete;
+
+private:
+    DatabaseCore& m_core;
+    ModuleLoader::Use m_use;
+};
+
+} // namespace
+
+ScratchSession::ScratchSession(Session& session)
+    : m_session(session), m_database(false, true), m_document(&m_database) {
+    for (const auto& [name, value] : session.database().core().variables().all()) {
+        m_database.core().loadVariable(name, value);
+    }
+    m_prompts.display = &m_view;
+    m_prompts.finder = this;
+}
+
+ScratchSession::~ScratchSession() = default;
+
+KdDbObjectId ScratchSession::copyOfStyle(KdDbObjectId style) {
+    if (!style.isValid()) {
+        return {};
+    }
+    const auto [place, isNew] = m_copies.try_emplace(style.stub(), nullptr);
+    if (isNew) {
+        KdDbStub& original = *style.stub();
+        const auto* const object =
+            dynamic_cast<const KdDbMlineStyle*>(original.database->load(original));
+        if (object != nullptr) {
+            KdDbStub& stub = core().addStub(ObjectKind::mlineStyle, original.handle, kNoRecord,
+                                            core().styleDictionary);
+            stub.hold(std::make_unique<KdDbMlineStyle>(*object));
+            place->second = &stub;
+        }
+    }
+    return KdDbObjectId(place->second);
+}
+
+KdDbMline* ScratchSession::copy(KdDbStub& original) {
+    if (const auto found = m_copies.find(&original); found != m_copies.end()) {
+        return mlineAt(*found->second);
+    }
+    const KdDbMline* const mline = mlineAt(original);
+    if (mline == nullptr) {
+        return nullptr;
+    }
+    auto content = std::make_shared<MlineContent>(*contentOf(mline->content()));
+    content->style = copyOfStyle(content->style);
+    auto object = std::make_unique<KdDbMline>();
+    object->setTraits(mline->traits());
+    object->setContent(std::move(content));
+    KdDbStub& stub = core().addStub(ObjectKind::mline, original.handle, kNoRecord, nullptr);
+    stub.hold(std::move(object));
+    core().modelSpace().entities.push_back(&stub);
+    m_copies.emplace(&original, &stub);
+    return mlineAt(stub);
+}
+
+void ScratchSession::giveBack(KdDbStub& original) {
+    const auto found = m_copies.find(&original);
+    KdDbMline* const mline = mlineAt(original);
+    if (found == m_copies.end() || mline == nullptr) {
+        return;
+    }
+    const auto copied = mlineAt(*found->second)->content();
+    const MlineContent& now = *contentOf(copied);
+    auto content = std::make_shared<MlineContent>(*contentOf(mline->content()));
+    content->vertices = now.vertices;
+    content->lists = now.lists;
+    content->closed = now.closed;
+    content->startCapsSuppressed = now.startCapsSuppressed;
+    content->endCapsSuppressed = now.endCapsSuppressed;
+    if (!content->equals(*mline->content())) {
+        mline->setContent(content);
+    }
+}
+
+bool ScratchSession::undo() {
+    return core().undo();
+}
+
+KdDbStub* ScratchSession::entityAt(const KdGePoint3d& worldPoint, int pickBoxPixels) {
+    if (m_scene == nullptr) {
+        m_scene = std::make_unique<Scene>(m_database);
+        m_scene->setUnitsPerPixel([this] { return view().unitsPerPixel(); });
+    }
+    return m_scene->entityAt(worldPoint, pickBoxPixels);
+}
+
+std::wstring ScratchSession::run(const std::wstring& command, PromptSource& source) {
+    const Session::ModuleCommand found = m_session.findModuleCommand(command);
+    if (found.function == nullptr) {
+        return found.refusal.message;
+    }
+    const CommandStateGuard guard;
+    PromptSession& prompts = PromptSession::current();
+    prompts = m_prompts;
+    prompts.source = &source;
+    setCurrentDocument(&m_document);
+    setActiveDocContext(&m_view);
+    std::wstring failure;
+    try {
+        const ScratchBracket bracket(core(), m_session.modules());
+        found.function();
+    } catch (const std::exception& error) {
+        failure = L"the command '" + command + L"' failed: " + widen(error.what());
+    }
+    m_prompts.pickBox = prompts.pickBox;
+    return failure;
+}
+
+} // namespace orvex
