@@ -1,0 +1,112 @@
+#include "JoinPlace.h"
+
+#include <array>
+#include <charconv>
+
+namespace orvex {
+
+namespace {
+
+struct ReasonWords {
+    JoinReason reason;
+    std::string_view code;
+    std::string_view text; // {has}, {needs}, {others}, {count} stand for the place's numbers
+};
+
+constexpr std::array kReasons{
+    ReasonWords{JoinReason::node, "node", "{count} walls meet here"},
+    ReasonWords{JoinReason::alongside, "alongside", "the walls run along each other"},
+    ReasonWords{JoinReason::duplicate, "duplicate", "the same wall stands here twice"},
+    ReasonWords{JoinReason::normal, "normal", "a wall's normal isn't +z"},
+    ReasonWords{JoinReason::plane, "plane", "the walls lie {has} apart in height"},
+    ReasonWords{JoinReason::gap, "gap", "a gap leaves no line to pick"},
+    ReasonWords{JoinReason::outerElements, "outer-elements",
+                "a wall's first and last element coincide or aren't the outermost"},
+    ReasonWords{JoinReason::singleElement, "single-element", "a wall has one element only"},
+    ReasonWords{JoinReason::tooFlat, "too-flat",
+                "nearly in one line: the corner would reach {has}, {needs} at most is allowed"},
+    ReasonWords{JoinReason::tooAcute, "too-acute",
+                "too acute: the corner would reach {has}, {needs} at most is allowed"},
+    ReasonWords{JoinReason::shortLeg, "short-leg",
+                "a leg of {has} is too short for the joint, which needs {needs}"},
+    ReasonWords{JoinReason::reach, "reach", "the joint reaches into the one of {others}"},
+    ReasonWords{JoinReason::bend, "bend", "the place lies on a bend"},
+    ReasonWords{JoinReason::bothEnds, "both-ends", "both ends of a wall lie at the place"},
+    ReasonWords{JoinReason::severalBars, "several-bars", "an end reaches several walls: {others}"},
+    ReasonWords{JoinReason::axis, "axis", "the chains don't cross where the walls do"},
+    ReasonWords{JoinReason::closing, "closing", "the closing segment of a ring can't be cut here"},
+    ReasonWords{JoinReason::refused, "refused", "the tool found nothing to join"},
+    ReasonWords{JoinReason::notRight, "not-right", "the joint came out wrong and was taken back"},
+};
+
+template <std::size_t... I>
+constexpr auto reasonsOnly(std::index_sequence<I...>) {
+    return std::array{kReasons[I].reason...};
+}
+
+std::string number(double value) {
+    std::array<char, 32> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, 6);
+    return {text.data(), end.ptr};
+}
+
+std::string handleText(std::uint64_t handle) {
+    std::array<char, 16> text{};
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), handle, 16);
+    std::string result(text.data(), end.ptr);
+    for (char& c : result) {
+        c = c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c;
+    }
+    return result;
+}
+
+std::string handleList(std::span<const unsigned> indices, std::span<const JoinWall> walls) {
+    std::string list;
+    for (const unsigned wall : indices) {
+        list += (list.empty() ? "" : ", ") + handleText(walls[wall].handle());
+    }
+    return list;
+}
+
+void replace(std::string& text, std::string_view word, const std::string& by) {
+    if (const auto at = text.find(word); at != std::string::npos) {
+        text.replace(at, word.size(), by);
+    }
+}
+
+} // namespace
+
+std::string_view placeKindWord(PlaceKind kind) {
+    constexpr std::array<std::string_view, 5> words{"cross", "tee", "corner", "node", "overlap"};
+    return words[static_cast<std::size_t>(kind)];
+}
+
+std::string_view placeResultWord(PlaceResult result) {
+    constexpr std::array<std::string_view, 5> words{"planned", "joined", "already", "left",
+                                                    "unasked"};
+    return words[static_cast<std::size_t>(result)];
+}
+
+std::string_view joinReasonCode(JoinReason reason) {
+    return reason == JoinReason::none ? "" : kReasons[static_cast<std::size_t>(reason) - 1].code;
+}
+
+std::span<const JoinReason> joinReasons() {
+    static constexpr auto reasons = reasonsOnly(std::make_index_sequence<kReasons.size()>{});
+    return reasons;
+}
+
+std::string joinReasonText(const JoinPlace& place, std::span<const JoinWall> walls) {
+    if (place.reason == JoinReason::none) {
+        return {};
+    }
+    std::string text(kReasons[static_cast<std::size_t>(place.reason) - 1].text);
+    replace(text, "{has}", number(place.has));
+    replace(text, "{needs}", number(place.needs));
+    replace(text, "{others}", handleList(place.others, walls));
+    replace(text, "{count}", std::to_string(place.walls.size()));
+    return text;
+}
+
+} // namespace orvex
