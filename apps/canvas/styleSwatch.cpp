@@ -9,7 +9,7 @@
 #include "MlineContent.h"
 #include "TilePainting.h"
 #include "lookStrokes.h"
-#include "mlineChain.h"
+#include "newChain.h"
 #include "mlinePainter.h"
 #include "newMline.h"
 #include "paintAppearance.h"
@@ -87,7 +87,7 @@ Appearance swatchLook(const KdDbMlineStyle& style, double width, double height) 
         return look;
     }
     KdDbMline mline;
-    fillChain(mline, makeMlineChain(points, false, {0.0, 0.0, 1.0}, settings));
+    fillChain(mline, makeNewChain(points, false, {0.0, 0.0, 1.0}, settings));
     AppearanceInk ink(look);
     Pencil pencil(ink);
     const auto content = std::static_pointer_cast<const MlineContent>(mline.content());

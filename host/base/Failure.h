@@ -22,6 +22,7 @@ enum class FailureCause : std::uint8_t {
     unwritableOutput, // nothing was left behind
     unplayableScript, // a command or an answer that can't be taken
     unloadableModule, // a module file or its texts
+    impossibleEdit,   // the geometry doesn't allow it; nothing was changed
     missedPick,       // a pick found nothing, and the caller wanted to know
     interrupted,      // by the user or by a signal
     programFault,     // what should never happen

@@ -57,7 +57,7 @@ MlineSettings settingsOf(const KdDbMlineStyle& style) {
     return settings;
 }
 
-void fillChain(KdDbMline& mline, const MlineChain& chain) {
+void fillChain(KdDbMline& mline, const NewChain& chain) {
     KdArray<KdGeVector3d> axes;
     KdArray<KdGeVector3d> miters;
     for (const ChainVertex& vertex : chain.vertices) {
@@ -83,7 +83,7 @@ bool hasCurrentElements(KdDbDatabase& database) {
 std::unique_ptr<KdDbMline> newMline(KdDbDatabase& database, const std::vector<KdGePoint3d>& points,
                                     bool closed, const KdGeVector3d& normal) {
     const MlineSettings settings = currentSettings(database);
-    const MlineChain chain = makeMlineChain(points, closed, normal, settings);
+    const NewChain chain = makeNewChain(points, closed, normal, settings);
     if (chain.vertices.empty() || settings.offsets.empty()) {
         return nullptr;
     }

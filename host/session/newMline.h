@@ -2,7 +2,7 @@
 
 #include "KdGePoint3d.h"
 #include "KdGeVector3d.h"
-#include "mlineChain.h"
+#include "newChain.h"
 
 #include <memory>
 #include <vector>
@@ -17,7 +17,7 @@ namespace orvex {
 MlineSettings settingsOf(const KdDbMlineStyle& style);
 
 // Gives a multiline without vertices a chain with unbroken elements.
-void fillChain(KdDbMline& mline, const MlineChain& chain);
+void fillChain(KdDbMline& mline, const NewChain& chain);
 
 // Whether the current style has anything to draw.
 bool hasCurrentElements(KdDbDatabase& database);

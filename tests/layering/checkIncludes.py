@@ -38,13 +38,15 @@ RULES = {
     "host/registry": host("base", "resources", "registry"),
     # Knows no file format, no view and no widget, or no drawing could be changed without them.
     "host/database": host("base", "resources", "database"),
+    # Geometry and edits of contents: a multiline in, a multiline out, whoever asks.
+    "host/change": host("base", "resources", "database"),
     # Pure: values of the database alone.
-    "host/join": host("base", "resources", "database"),
+    "host/join": host("base", "resources", "database") + ["host/change"],
     "host/prompt": host("base", "resources", "database", "prompt"),
-    "host/view": host("base", "resources", "database", "prompt", "view"),
+    "host/view": host("base", "resources", "database", "prompt", "view") + ["host/change"],
     "host/drawing": host("base", "resources", "database"),
     # Puts the others together, without a window.
-    "host/session": host(*SUBJECTS) + ["host/drawing", "host/join"],
+    "host/session": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join"],
     "host/window": host("base", "window"),
     "host/ui": host("base", "ui") + interface("window"),
     # The module. It takes the host's interface, never its insides.
@@ -58,10 +60,10 @@ RULES = {
     "module": interface(*SUBJECTS, *WINDOWS)
     + ["dialogs", "controls", "engine", "record", "primitives"],
     # The programs. The module is a file to them.
-    "apps/common": host(*SUBJECTS) + ["host/drawing", "host/join", "host/session"],
-    "apps/batch": host(*SUBJECTS) + ["host/drawing", "host/join", "host/session", "apps/common"],
-    "apps/canvas": host(*SUBJECTS) + ["host/drawing", "host/join", "host/session", "apps/common"],
-    "apps/desk": host(*SUBJECTS, *WINDOWS) + ["host/drawing", "host/join", "host/session", "apps/common", "apps/canvas"],
+    "apps/common": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session"],
+    "apps/batch": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common"],
+    "apps/canvas": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common"],
+    "apps/desk": host(*SUBJECTS, *WINDOWS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common", "apps/canvas"],
 }
 
 # Headers from outside the tree, and the only rooms that may reach them.

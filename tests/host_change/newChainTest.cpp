@@ -1,4 +1,4 @@
-#include "mlineChain.h"
+#include "newChain.h"
 
 #include <gmock/gmock.h>
 
@@ -6,9 +6,9 @@
 
 namespace {
 
-using orvex::makeMlineChain;
-using orvex::MlineChain;
+using orvex::makeNewChain;
 using orvex::MlineSettings;
+using orvex::NewChain;
 using testing::DoubleEq;
 using testing::ElementsAre;
 
@@ -29,11 +29,10 @@ void expectDirection(const KdGeVector3d& v, double x, double y) {
 }
 
 // 0.75 / sin 45 degrees; the value that drawings of other programs have to the last digit.
-TEST(MlineChain, aRightAngledCornerLiesFurtherOut) {
+TEST(NewChain, aRightAngledCornerLiesFurtherOut) {
     const double corner = 1.0606601717798212;
     const double half = std::sqrt(0.5);
-    const MlineChain chain =
-        makeMlineChain({{0, 0, 0}, {10, 0, 0}, {10, 10, 0}}, false, kUp, wall());
+    const NewChain chain = makeNewChain({{0, 0, 0}, {10, 0, 0}, {10, 10, 0}}, false, kUp, wall());
     ASSERT_EQ(chain.vertices.size(), 3U);
     EXPECT_THAT(chain.elementPositions[0], ElementsAre(0.75, -0.75));
     expectDirection(chain.vertices[0].miter, 0, 1); // positive offsets lie to the left
@@ -44,12 +43,12 @@ TEST(MlineChain, aRightAngledCornerLiesFurtherOut) {
     expectDirection(chain.vertices[2].miter, -1, 0);
 }
 
-TEST(MlineChain, justificationPutsAnOuterElementOnTheChain) {
+TEST(NewChain, justificationPutsAnOuterElementOnTheChain) {
     const std::vector<KdGePoint3d> points{{0, 0, 0}, {10, 0, 0}};
     const auto positions = [&](int justification) {
         MlineSettings settings = wall(2.0, justification);
         settings.offsets = {-1.0, 3.0, 0.0};
-        return makeMlineChain(points, false, kUp, settings).elementPositions[0];
+        return makeNewChain(points, false, kUp, settings).elementPositions[0];
     };
     EXPECT_THAT(positions(0), ElementsAre(-8, 0, -6));
     EXPECT_THAT(positions(1), ElementsAre(-2, 6, 0));
@@ -57,24 +56,24 @@ TEST(MlineChain, justificationPutsAnOuterElementOnTheChain) {
 }
 
 // At 30 degrees the element lies twice as far along the miter: 0.75 / sin 30.
-TEST(MlineChain, endsFollowTheAnglesOfTheStyle) {
+TEST(NewChain, endsFollowTheAnglesOfTheStyle) {
     MlineSettings settings = wall();
     settings.startAngle = std::acos(-1.0) / 6;
     settings.endAngle = std::acos(-1.0) * 5 / 6;
-    const MlineChain chain = makeMlineChain({{0, 0, 0}, {10, 0, 0}}, false, kUp, settings);
+    const NewChain chain = makeNewChain({{0, 0, 0}, {10, 0, 0}}, false, kUp, settings);
     expectDirection(chain.vertices[0].miter, std::sqrt(0.75), 0.5);
     expectDirection(chain.vertices[1].miter, -std::sqrt(0.75), 0.5);
     EXPECT_NEAR(chain.elementPositions[0][0], 1.5, 1e-14);
     EXPECT_NEAR(chain.elementPositions[1][0], 1.5, 1e-14);
 
     settings.startAngle = 0.0; // along the axis, as a damaged style may have it: square
-    EXPECT_THAT(makeMlineChain({{0, 0, 0}, {10, 0, 0}}, false, kUp, settings).elementPositions[0],
+    EXPECT_THAT(makeNewChain({{0, 0, 0}, {10, 0, 0}}, false, kUp, settings).elementPositions[0],
                 ElementsAre(0.75, -0.75));
 }
 
-TEST(MlineChain, closedOnesHaveJointsEverywhere) {
+TEST(NewChain, closedOnesHaveJointsEverywhere) {
     const std::vector<KdGePoint3d> square{{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}};
-    const MlineChain chain = makeMlineChain(square, true, kUp, wall());
+    const NewChain chain = makeNewChain(square, true, kUp, wall());
     const double half = std::sqrt(0.5);
     ASSERT_EQ(chain.vertices.size(), 4U);
     EXPECT_EQ(chain.vertices[3].axis, (KdGeVector3d{0, -1, 0}));
@@ -85,26 +84,26 @@ TEST(MlineChain, closedOnesHaveJointsEverywhere) {
     }
 }
 
-TEST(MlineChain, leavesOutRepeatedPointsAndNeedsTwoDifferentOnes) {
-    EXPECT_EQ(makeMlineChain({{1, 1, 0}, {1, 1, 0}}, false, kUp, wall()).vertices.size(), 0U);
+TEST(NewChain, leavesOutRepeatedPointsAndNeedsTwoDifferentOnes) {
+    EXPECT_EQ(makeNewChain({{1, 1, 0}, {1, 1, 0}}, false, kUp, wall()).vertices.size(), 0U);
     // The start again at the end of a closed chain, and what is left is too short to close.
-    const MlineChain chain = makeMlineChain({{0, 0, 0}, {5, 0, 0}, {0, 0, 0}}, true, kUp, wall());
+    const NewChain chain = makeNewChain({{0, 0, 0}, {5, 0, 0}, {0, 0, 0}}, true, kUp, wall());
     ASSERT_EQ(chain.vertices.size(), 2U);
     expectDirection(chain.vertices[1].miter, 0, 1);
 }
 
-TEST(MlineChain, straightOnAndStraightBackStayFinite) {
-    const MlineChain chain =
-        makeMlineChain({{0, 0, 0}, {5, 0, 0}, {9, 0, 0}, {2, 0, 0}}, false, kUp, wall());
+TEST(NewChain, straightOnAndStraightBackStayFinite) {
+    const NewChain chain =
+        makeNewChain({{0, 0, 0}, {5, 0, 0}, {9, 0, 0}, {2, 0, 0}}, false, kUp, wall());
     EXPECT_THAT(chain.elementPositions[1], ElementsAre(0.75, -0.75));
     EXPECT_THAT(chain.elementPositions[2], ElementsAre(0.75, -0.75));
     expectDirection(chain.vertices[2].miter, 0, -1); // left of the way back
 }
 
 // In the plane that faces south, X east and Z up, left of going east is up.
-TEST(MlineChain, turnsLeftAboutItsNormal) {
-    const MlineChain chain =
-        makeMlineChain({{0, 0, 0}, {4, 0, 0}}, false, KdGeVector3d{0, -1, 0}, wall());
+TEST(NewChain, turnsLeftAboutItsNormal) {
+    const NewChain chain =
+        makeNewChain({{0, 0, 0}, {4, 0, 0}}, false, KdGeVector3d{0, -1, 0}, wall());
     EXPECT_NEAR(chain.vertices[0].miter.z, 1.0, 1e-15);
 }
 

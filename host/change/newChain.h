@@ -3,21 +3,19 @@
 #include "KdGePoint3d.h"
 #include "KdGeVector3d.h"
 #include "MlineContent.h"
+#include "StyleLayout.h"
 
 #include <vector>
 
 namespace orvex {
 
 // What a style and the settings say about a new multiline.
-struct MlineSettings {
-    std::vector<double> offsets; // of the elements, drawing units at scale 1, left positive
-    double startAngle = 1.5707963267948966; // radians, between axis and miter at open ends
-    double endAngle = 1.5707963267948966;
+struct MlineSettings : StyleLayout {
     double scale = 1.0;
     int justification = 1; // 0 the greatest offset lies on the chain, 1 as they are, 2 the smallest
 };
 
-struct MlineChain {
+struct NewChain {
     std::vector<ChainVertex> vertices;
     // First line parameter of each element, [vertex][element]: how far along the miter it lies.
     std::vector<std::vector<double>> elementPositions;
@@ -27,7 +25,7 @@ struct MlineChain {
 // left of the way: at an open end by the style's angle, at a joint halfway between both segments.
 // Element positions are offset * scale / sin(miter - axis). A point that repeats the one before it
 // is left out; fewer than two different points give an empty chain, fewer than three an open one.
-MlineChain makeMlineChain(const std::vector<KdGePoint3d>& points, bool closed,
-                          const KdGeVector3d& normal, const MlineSettings& settings);
+NewChain makeNewChain(const std::vector<KdGePoint3d>& points, bool closed,
+                      const KdGeVector3d& normal, const MlineSettings& settings);
 
 } // namespace orvex

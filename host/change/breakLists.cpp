@@ -1,0 +1,140 @@
+#include "breakLists.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace orvex {
+
+namespace {
+
+constexpr double kReachTolerance = 1e-9; // of 1 drawing unit or of the track's length
+constexpr double kOpenEnd = std::numeric_limits<double>::infinity();
+
+std::vector<MlineStretch> stretchesOf(std::span<const double> list) {
+    std::vector<MlineStretch> stretches;
+    forEachStretch(list, kOpenEnd,
+                   [&](const MlineStretch& stretch) { stretches.push_back(stretch); });
+    return stretches;
+}
+
+// Only a last stretch can be without an end.
+std::vector<double> listOf(std::span<const double> positionOf,
+                           const std::vector<MlineStretch>& stretches) {
+    std::vector<double> list;
+    if (!positionOf.empty()) {
+        list.push_back(positionOf.front());
+    }
+    for (const MlineStretch& stretch : stretches) {
+        list.push_back(stretch.begin);
+        if (!stretch.toTrackEnd) {
+            list.push_back(stretch.end);
+        }
+    }
+    return list;
+}
+
+class Remeasurer {
+public:
+    explicit Remeasurer(const TrackMove& move)
+        : m_move(move), m_tolerance(reachTolerance(move.before.length)) {}
+
+    [[nodiscard]] MlineStretch operator()(const MlineStretch& old) const {
+        MlineStretch fresh{atBegin(old.begin), m_move.after.length, old.toTrackEnd};
+        if (!old.toTrackEnd) {
+            fresh.end = atEnd(old.end);
+        }
+        return fresh;
+    }
+
+private:
+    [[nodiscard]] double measured(double distance) const {
+        const KdGeVector3d way = m_move.before.at(distance) - m_move.after.start;
+        const KdGeVector3d& direction = m_move.after.direction;
+        return way.x * direction.x + way.y * direction.y + way.z * direction.z;
+    }
+    [[nodiscard]] double atBegin(double old) const {
+        if (std::abs(old) <= m_tolerance) {
+            return old;
+        }
+        const double fresh = measured(old);
+        return fresh < 0.0 && !(m_move.mayBeginBefore && old < 0.0) ? 0.0 : fresh;
+    }
+    [[nodiscard]] double atEnd(double old) const {
+        const double length = m_move.after.length;
+        if (std::abs(old - m_move.before.length) <= m_tolerance) {
+            return length;
+        }
+        const double fresh = measured(old);
+        return fresh > length && !(m_move.mayEndAfter && old > m_move.before.length) ? length
+                                                                                     : fresh;
+    }
+
+    const TrackMove& m_move;
+    double m_tolerance;
+};
+
+} // namespace
+
+double reachTolerance(double trackLength) {
+    return kReachTolerance * std::max(1.0, trackLength);
+}
+
+std::vector<double> remeasured(std::span<const double> list, const TrackMove& move) {
+    std::vector<MlineStretch> kept;
+    const Remeasurer remeasure(move);
+    for (const MlineStretch& old : stretchesOf(list)) {
+        const MlineStretch fresh = remeasure(old);
+        if (fresh.begin < fresh.end) {
+            kept.push_back(fresh);
+        }
+    }
+    return listOf(list, kept);
+}
+
+bool ascends(std::span<const double> list) {
+    return list.empty() || std::is_sorted(list.begin() + 1, list.end());
+}
+
+std::vector<double> inOrder(std::span<const double> list) {
+    std::vector<MlineStretch> stretches = stretchesOf(list);
+    for (MlineStretch& stretch : stretches) {
+        if (stretch.end < stretch.begin) { // drawn backwards
+            std::swap(stretch.begin, stretch.end);
+        }
+    }
+    std::stable_sort(
+        stretches.begin(), stretches.end(),
+        [](const MlineStretch& a, const MlineStretch& b) { return a.begin < b.begin; });
+    std::vector<MlineStretch> merged;
+    for (const MlineStretch& stretch : stretches) {
+        if (merged.empty() || merged.back().end < stretch.begin) {
+            merged.push_back(stretch);
+        } else if (merged.back().end < stretch.end) {
+            merged.back().end = stretch.end;
+            merged.back().toTrackEnd = stretch.toTrackEnd;
+        }
+    }
+    return listOf(list, merged);
+}
+
+std::vector<double> cutAtEnd(std::span<const double> list, double trackLength) {
+    std::vector<MlineStretch> kept;
+    for (MlineStretch stretch : stretchesOf(list)) {
+        if (stretch.begin < trackLength) {
+            stretch.toTrackEnd = stretch.end >= trackLength;
+            kept.push_back(stretch);
+        }
+    }
+    return listOf(list, kept);
+}
+
+VoVector<double> toParameters(std::span<const double> list) {
+    VoVector<double> parameters(static_cast<unsigned>(list.size()));
+    if (!list.empty()) {
+        std::copy(list.begin(), list.end(), parameters.data());
+    }
+    return parameters;
+}
+
+} // namespace orvex

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "KdMLSegment.h"
+#include "mlineTrack.h"
+
+#include <span>
+#include <vector>
+
+namespace orvex {
+
+// A list of line or area parameters: the position along the miter, then the distances at which
+// drawn stretches begin and end in turn.
+
+// By how much a distance may miss an end of a track and still be meant to reach it.
+double reachTolerance(double trackLength);
+
+// By how much a distance may lie beyond the end of its track before that is a fault, drawing units.
+inline constexpr double kReachBeyond = 1e-7;
+
+// How a track moves under a list that is to stay where it lies in the drawing.
+struct TrackMove {
+    MlineTrack before;
+    MlineTrack after;
+    // Whether stretches that begin before the track, or end after it, as those of joints do, may
+    // go on doing so. Otherwise they are cut off there.
+    bool mayBeginBefore = false;
+    bool mayEndAfter = false;
+};
+
+// The list with its distances measured on the new track, square to it. What began or ended with the
+// old track does so with the new one; the position is kept.
+std::vector<double> remeasured(std::span<const double> list, const TrackMove& move);
+
+// Whether no distance lies before the one in front of it.
+bool ascends(std::span<const double> list);
+// The same drawn stretches in order, those that overlap as one.
+std::vector<double> inOrder(std::span<const double> list);
+// Without what lies after the end of the track.
+std::vector<double> cutAtEnd(std::span<const double> list, double trackLength);
+
+VoVector<double> toParameters(std::span<const double> list);
+
+} // namespace orvex

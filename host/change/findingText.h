@@ -1,0 +1,20 @@
+#pragma once
+
+#include "auditMline.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace orvex {
+
+enum class FindingResult : std::uint8_t { found, repaired, left };
+
+// What programs call it.
+const char* nameOf(FindingCode code);
+const char* nameOf(FindingResult result);
+
+// For the user, without the result: "vertex 2, element 1: position 5, should be 7.5".
+std::string textOf(const Finding& finding);
+
+} // namespace orvex

@@ -1,0 +1,151 @@
+#include "layRight.h"
+
+#include "ChainFrame.h"
+#include "breakLists.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace orvex {
+
+namespace {
+
+constexpr double kRounding = 4.0 * std::numeric_limits<double>::epsilon();
+
+bool reachesTooFar(std::span<const double> list, double length) {
+    return std::any_of(list.begin() + (list.empty() ? 0 : 1), list.end(),
+                       [length](double value) { return value > length + kReachBeyond; });
+}
+
+void layDirections(MlineContent& laid, const ChainFrame& frame) {
+    for (std::size_t v = 0; v < laid.vertices.size(); ++v) {
+        ChainVertex& vertex = laid.vertices[v];
+        const VertexFrame& right = frame.vertices[v];
+        const double tolerance = right.noise + kRounding;
+        if ((vertex.axis - right.axis).length() > tolerance) {
+            vertex.axis = right.axis;
+        }
+        if (miterDeviation(vertex.miter, right) > tolerance) {
+            vertex.miter = right.miter.direction;
+        }
+    }
+}
+
+void putFirst(VoVector<double>& list, double value) {
+    if (list.isEmpty()) {
+        list.append(value);
+    } else {
+        list.setAt(0, value);
+    }
+}
+
+// The positions along the miters. What lies along an old miter stays at its distance.
+void layPositions(MlineContent& laid, const MlineContent& old, const ChainFrame& frame) {
+    for (unsigned v = 0; v < laid.vertices.size(); ++v) {
+        const VertexFrame& right = frame.vertices[v];
+        const KdGeVector3d& before = old.vertices[v].miter;
+        const KdGeVector3d& after = laid.vertices[v].miter;
+        const double sine = sineOf(after, right);
+        const double turned = before == after ? 1.0 : dot(right.left, before) / sine;
+        VoVector<KdMLSegment> record = old.lists.nested(v);
+        bool changed = false;
+        for (unsigned e = 0; e < record.size(); ++e) {
+            KdMLSegment& element = record[static_cast<int>(e)];
+            const std::span<const double> line = old.lists.line(v, e);
+            const std::span<const double> area = old.lists.area(v, e);
+            const double stored = line.empty() ? 0.0 : line.front() * turned;
+            const bool isStyled = e < frame.distances.size();
+            const double distance = isStyled ? frame.distances[e] : stored * sine;
+            if (std::abs(stored * sine - distance) > kRounding * frame.largest || line.empty()) {
+                putFirst(element.m_lineParams, distance / sine);
+                changed = true;
+            } else if (turned != 1.0) {
+                putFirst(element.m_lineParams, stored);
+                changed = true;
+            }
+            if (!area.empty() && turned != 1.0) {
+                putFirst(element.m_areaParams, area.front() * turned);
+                changed = true;
+            }
+        }
+        if (changed) {
+            laid.lists.setNested(v, record);
+        }
+    }
+}
+
+bool isSameTrack(const MlineTrack& a, const MlineTrack& b) {
+    return a.start == b.start && a.end == b.end;
+}
+
+std::vector<double> remeasuredList(std::span<const double> list, const MlineTrack& before,
+                                   const MlineTrack& after, bool inJoint) {
+    if (isSameTrack(before, after)) {
+        return {list.begin(), list.end()};
+    }
+    return remeasured(list, {before, after, true, inJoint});
+}
+
+std::vector<double> repairedList(std::vector<double> list, double length, bool inJoint) {
+    if (!ascends(list)) {
+        list = inOrder(list);
+    }
+    if (!inJoint && reachesTooFar(list, length)) {
+        list = cutAtEnd(list, length);
+    }
+    return list;
+}
+
+bool isSameList(std::span<const double> a, std::span<const double> b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end());
+}
+
+// The breaks, once the positions are where they belong.
+void layBreaks(MlineContent& laid, const MlineContent& old) {
+    const MlineChain oldChain(old);
+    const MlineContent positioned = laid;
+    const MlineChain chain(positioned);
+    for (unsigned s = 0; s < chain.segmentCount(); ++s) {
+        const bool inJoint = endsInJoint(old, s);
+        VoVector<KdMLSegment> record = positioned.lists.nested(s);
+        bool changed = false;
+        for (unsigned e = 0; e < record.size(); ++e) {
+            KdMLSegment& element = record[static_cast<int>(e)];
+            const MlineTrack track = chain.track(s, e);
+            const auto line = chain.line(s, e);
+            const std::vector<double> freshLine = repairedList(
+                remeasuredList(line, oldChain.track(s, e), track, inJoint), track.length, inJoint);
+            if (!isSameList(line, freshLine)) {
+                element.m_lineParams = toParameters(freshLine);
+                changed = true;
+            }
+            const auto area = chain.area(s, e);
+            const std::vector<double> freshArea =
+                remeasuredList(area, oldChain.areaTrack(s, e), chain.areaTrack(s, e), true);
+            if (!isSameList(area, freshArea)) {
+                element.m_areaParams = toParameters(freshArea);
+                changed = true;
+            }
+        }
+        if (changed) {
+            laid.lists.setNested(s, record);
+        }
+    }
+}
+
+} // namespace
+
+Result<MlineContent> layRight(const MlineContent& mline, const StyleLayout& style) {
+    const Result<ChainFrame> frame = chainFrameOf(mline, style);
+    if (!frame) {
+        return frame.failure();
+    }
+    MlineContent laid = mline;
+    layDirections(laid, *frame);
+    layPositions(laid, mline, *frame);
+    layBreaks(laid, mline);
+    return laid;
+}
+
+} // namespace orvex
