@@ -81,11 +81,11 @@ public:
         return addShape(LineShape{{x1, y1, 0}, {x2, y2, 0}}, std::move(traits));
     }
 
-    KdDbLayerTableRecord& addLayer(const wchar_t* name, std::uint16_t color) {
+    KdDbLayerTableRecord& addLayer(const wchar_t* name, std::uint16_t colorIndex) {
         auto record = std::make_unique<KdDbLayerTableRecord>();
         record->setName(name);
         KdCmColor color;
-        color.setColorIndex(color);
+        color.setColorIndex(colorIndex);
         record->setColor(color);
         KdDbObjectId id;
         auto* table = static_cast<KdDbLayerTable*>(core.load(*core.layerTable));
