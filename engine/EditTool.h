@@ -6,8 +6,8 @@ struct CMlineSegment;
 // How a tool's own work ended, and with it the cycle.
 enum class StepOutcome {
     done,           // the display is refreshed, the cycle can be taken back
-    noCrossing,     // text 4007 is printed, no refresh, nothing can be taken back any more
-    failedSilently, // as noCrossing without the text
+    noCrossing,     // a message is printed, no refresh, nothing can be taken back any more
+    failedSilently, // as noCrossing without the message
 };
 
 // What one editing tool does differently from the others in the cycle that they share.

@@ -6,7 +6,6 @@
 #include "KdDbMline.h"
 #include "commandLine.h"
 #include "displayRefresh.h"
-#include "editTexts.h"
 #include "kddbObjects.h"
 #include "mlineRecord.h"
 #include "pickTests.h"
@@ -15,6 +14,7 @@
 #include "resourceLibrary.h"
 #include "segments.h"
 #include "systemVariables.h"
+#include "textNumbers.h"
 
 #include <cwchar>
 
@@ -80,7 +80,7 @@ int CMlineEdit::runTool(const EditTool& tool, HINSTANCE resources) {
 
 CMlineEdit::Prompted CMlineEdit::askFirst(const EditTool& tool, HINSTANCE resources) {
     if (m_undoFirst != nullptr) {
-        loadText(resources, editTexts::kUndoKeyword, m_buffer);
+        loadText(resources, mledit::texts::kUndoKeyword, m_buffer);
         kdedInitGet(0, m_buffer);
         loadText(resources, tool.prompts.firstWithUndo, m_buffer);
     } else {
@@ -137,7 +137,7 @@ bool CMlineEdit::isRefusedAsClosed(HINSTANCE resources) {
     GetFlag(mline, &flags);
     if ((flags & kFlagClosed) != 0) {
         // Stays open for read; the host closes it at the end of the command.
-        loadText(resources, editTexts::kClosedRefused, m_buffer);
+        loadText(resources, mledit::texts::kClosedRefused, m_buffer);
         kdutPrintf(L"%ls", m_buffer);
         return true;
     }
@@ -169,7 +169,7 @@ void CMlineEdit::workOnPicks(const EditTool& tool, HINSTANCE resources) {
         return;
     }
     if (outcome == StepOutcome::noCrossing) {
-        loadText(resources, editTexts::kNoCrossing, m_buffer);
+        loadText(resources, mledit::texts::kNoCrossing, m_buffer);
         kdutPrintf(L"%ls", m_buffer);
     }
     discard(m_undoFirst);

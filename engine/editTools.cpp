@@ -1,18 +1,26 @@
 // The twelve tools: a row each of what is particular about it, and the members that run it.
 
 #include "CMlineEdit.h"
+#include "textNumbers.h"
 
 #include <array>
 
 namespace {
 
+namespace texts = mledit::texts;
+
 using FirstPick = EditTool::FirstPick;
 using SecondPick = EditTool::SecondPick;
 using Closes = EditTool::Closes;
 
-constexpr EditTool::Prompts kCrossingPrompts{.firstWithUndo = 4003, .first = 4004, .second = 4005};
-constexpr EditTool::Prompts kVertexPrompts{.firstWithUndo = 4008, .first = 4009};
-constexpr EditTool::Prompts kBreakPrompts{.firstWithUndo = 4010, .first = 4011, .second = 4012};
+constexpr EditTool::Prompts kCrossingPrompts{.firstWithUndo = texts::kFirstMultilineOrUndo,
+                                             .first = texts::kFirstMultiline,
+                                             .second = texts::kSecondMultiline};
+constexpr EditTool::Prompts kVertexPrompts{.firstWithUndo = texts::kMultilineOrUndo,
+                                           .first = texts::kMultiline};
+constexpr EditTool::Prompts kBreakPrompts{.firstWithUndo = texts::kFirstPointOrUndo,
+                                          .first = texts::kFirstPoint,
+                                          .second = texts::kSecondPoint};
 
 constexpr int kTools = 12;
 

@@ -53,12 +53,12 @@ RULES = {
     "primitives": interface("base", "database", "prompt", "view"),
     "streams": interface("base", "database"),
     "record": interface("base", "database", "prompt", "view", "resources") + ["primitives"],
-    "engine": interface("base", "database", "prompt", "view", "resources") + ["record", "primitives"],
+    "engine": interface("base", "database", "prompt", "view", "resources") + ["record", "primitives", "resources"],
     "controls": interface("base", "resources", *WINDOWS),
     "dialogs": interface("base", "database", "prompt", "view", "resources", *WINDOWS)
-    + ["controls", "record", "primitives"],
+    + ["controls", "engine", "record", "primitives", "resources"],
     "module": interface(*SUBJECTS, *WINDOWS)
-    + ["dialogs", "controls", "engine", "record", "primitives"],
+    + ["dialogs", "controls", "engine", "record", "primitives", "resources"],
     # The programs. The module is a file to them.
     "apps/common": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session"],
     "apps/batch": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common"],
