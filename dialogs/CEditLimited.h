@@ -6,11 +6,14 @@
 // styles may be longer than it says.
 class CEditLimited : public CEdit {
 public:
-    void SetMaxWords(int limit); // 0 and less leave the limit
+    // 0 and less leave the limit.
+    void SetMaxWords(int limit) { m_maxWords = limit > 0 ? limit : m_maxWords; }
     [[nodiscard]] int maxWords() const { return m_maxWords; }
 
     // Takes no notification while the field notifies, which it always does.
-    bool OnChildNotify(unsigned message, unsigned long wParam, long lParam, long* result) override;
+    bool OnChildNotify(unsigned message, unsigned long wParam, long lParam, long* result) override {
+        return CEdit::OnChildNotify(message, wParam, lParam, result) && !m_notifies;
+    }
 
 private:
     int m_maxWords = 8;

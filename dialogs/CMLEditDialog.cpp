@@ -2,101 +2,105 @@
 
 #include "CDataExchange.h"
 #include "CMLEditDialogView.h"
+#include "controlNumbers.h"
+#include "toolTable.h"
 
 #include <string>
+
+using namespace mledit;
 
 namespace {
 
 constexpr unsigned kResource = 5758;
-
-// Between "IDB_" and "_UP", "_DOWN" or "_FOCUS", by tool number less one.
-constexpr std::array<const wchar_t*, CMLEditDialog::kToolCount> kBitmapNames{
-    L"CLOSE_CROSS",  L"OPEN_CROSS", L"MERGED_CROSS",  L"CLOSE_TREE", L"OPEN_TREE", L"MERGED_TREE",
-    L"CORNER_JOINT", L"ADD_VERTEX", L"DELETE_VERTEX", L"CUT_SINGLE", L"CUT_ALL",   L"WELD_ALL"};
+constexpr int kCloseNumber = 13;
 
 } // namespace
 
 CMLEditDialog::CMLEditDialog(CWnd* parent) : CDialog(kResource, parent) {
-    for (std::size_t i = 0; i < m_tools.size(); ++i) {
-        const std::wstring stem = std::wstring(L"IDB_") + kBitmapNames[i];
+    auto button = m_tools.begin();
+    for (const ToolRow& row : kTools) {
+        const std::wstring name = row.bitmap;
         // A disabled tool looks like one that has the focus.
-        const std::wstring focus = stem + L"_FOCUS";
-        m_tools[i].LoadBitmaps((stem + L"_UP").c_str(), (stem + L"_DOWN").c_str(), focus.c_str(),
-                               focus.c_str());
+        const std::wstring focus = name + L"_FOCUS";
+        button++->LoadBitmaps((name + L"_UP").c_str(), (name + L"_DOWN").c_str(), focus.c_str(),
+                              focus.c_str());
     }
     new VOUI::CMLEditDialog(nullptr, this); // ties itself to this and goes with it
 }
 
 void CMLEditDialog::DoDataExchange(CDataExchange* exchange) {
     CDialog::DoDataExchange(exchange);
-    for (std::size_t i = 0; i < m_tools.size(); ++i) {
-        DDX_Control(exchange, kControls[i], m_tools[i]);
+    auto button = m_tools.begin();
+    for (const ToolRow& row : kTools) {
+        DDX_Control(exchange, row.control, *button++);
     }
-    DDX_Control(exchange, kControls[kCloseNumber - 1], m_close);
+    DDX_Control(exchange, kPaletteClose, m_close);
 }
 
 int CMLEditDialog::OnInitDialog() {
-    for (std::size_t i = 0; i < m_tools.size(); ++i) {
-        m_tools[i].SubclassDlgItem(kControls[i], this);
+    auto button = m_tools.begin();
+    for (const ToolRow& row : kTools) {
+        button++->SubclassDlgItem(row.control, this);
     }
     return CDialog::OnInitDialog();
 }
 
-void CMLEditDialog::choose(int number) {
-    m_toolNumber = number;
+void CMLEditDialog::choose(Tool tool) {
+    m_toolNumber = static_cast<int>(tool);
     CDialog::OnOK();
 }
 
 void CMLEditDialog::OnClosedCross() {
-    choose(1);
+    choose(Tool::closedCross);
 }
 
 void CMLEditDialog::OnOpenCross() {
-    choose(2);
+    choose(Tool::openCross);
 }
 
 void CMLEditDialog::OnMergedCross() {
-    choose(3);
+    choose(Tool::mergedCross);
 }
 
 void CMLEditDialog::OnClosedTee() {
-    choose(4);
+    choose(Tool::closedTee);
 }
 
 void CMLEditDialog::OnOpenTee() {
-    choose(5);
+    choose(Tool::openTee);
 }
 
 void CMLEditDialog::OnMergedTee() {
-    choose(6);
+    choose(Tool::mergedTee);
 }
 
 void CMLEditDialog::OnCornerJoint() {
-    choose(7);
+    choose(Tool::cornerJoint);
 }
 
 void CMLEditDialog::OnAddVertex() {
-    choose(8);
+    choose(Tool::addVertex);
 }
 
 void CMLEditDialog::OnDeleteVertex() {
-    choose(9);
+    choose(Tool::deleteVertex);
 }
 
 void CMLEditDialog::OnCutSingle() {
-    choose(10);
+    choose(Tool::cutSingle);
 }
 
 void CMLEditDialog::OnCutAll() {
-    choose(11);
+    choose(Tool::cutAll);
 }
 
 void CMLEditDialog::OnWeldAll() {
-    choose(12);
+    choose(Tool::weldAll);
 }
 
 void CMLEditDialog::OnClose() {
-    choose(kCloseNumber);
+    m_toolNumber = kCloseNumber;
+    CDialog::OnOK();
 }
 
 void CMLEditDialog::OnPaint() {}

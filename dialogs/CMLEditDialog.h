@@ -2,6 +2,7 @@
 
 #include "CBitmapButton.h"
 #include "CDialog.h"
+#include "Tool.h"
 
 #include <array>
 
@@ -10,13 +11,6 @@
 class CMLEditDialog : public CDialog {
 public:
     explicit CMLEditDialog(CWnd* parent);
-
-    static constexpr int kToolCount = 12;
-    static constexpr int kCloseNumber = 13;
-    // The controls by tool number less one, then Close. Deleting a vertex came before adding one
-    // when the numbers were given.
-    static constexpr std::array<int, kCloseNumber> kControls{
-        5759, 5760, 5761, 5762, 5763, 5764, 5765, 5767, 5766, 5768, 5769, 5770, 5771};
 
     void OnClosedCross();
     void OnOpenCross();
@@ -38,9 +32,9 @@ public:
     int OnInitDialog() override;
 
 private:
-    void choose(int number);
+    void choose(mledit::Tool tool);
 
-    std::array<CBitmapButton, kToolCount> m_tools;
+    std::array<CBitmapButton, mledit::kToolCount> m_tools;
     CButton m_close;
 
 public:

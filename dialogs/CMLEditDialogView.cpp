@@ -1,60 +1,58 @@
 #include "CMLEditDialogView.h"
 
 #include "CMLEditDialog.h"
-#include "logicOf.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
+#include "toolTable.h"
 #include "ui_CMLEditDialog.h"
 
 #include <QPixmap>
 
+using namespace mledit;
+
 namespace VOUI {
-
-struct CMLEditDialog::ToolRow {
-    QPushButton* Ui_MleditDialog::*button;
-    const char* picture; // none for Close
-    void (CMLEditDialog::*slot)();
-};
-
-// In the order of ::CMLEditDialog::kControls.
-const CMLEditDialog::ToolRow CMLEditDialog::kTools[] = {
-    {&Ui_MleditDialog::closedCrossBtn, ":/ML_CLOSEDCROSS_UP.BMP", &CMLEditDialog::OnClosedCross},
-    {&Ui_MleditDialog::openCrossBtn, ":/ML_OPENCROSS_UP.BMP", &CMLEditDialog::OnOpenCross},
-    {&Ui_MleditDialog::mergedCrossBtn, ":/ML_MERGEDCROSS_UP.BMP", &CMLEditDialog::OnMergedCross},
-    {&Ui_MleditDialog::closedTeeBtn, ":/ML_CLOSEDTREE_UP.BMP", &CMLEditDialog::OnClosedTee},
-    {&Ui_MleditDialog::openTeeBtn, ":/ML_OPENTREE_UP.BMP", &CMLEditDialog::OnOpenTee},
-    {&Ui_MleditDialog::mergedTeeBtn, ":/ML_MERGEDTREE_UP.BMP", &CMLEditDialog::OnMergedTee},
-    {&Ui_MleditDialog::cornerJointBtn, ":/ML_CORNERJOINT_UP.BMP", &CMLEditDialog::OnCornerJoint},
-    {&Ui_MleditDialog::addVertexBtn, ":/ML_ADDVERTEX_UP.BMP", &CMLEditDialog::OnAddVertex},
-    {&Ui_MleditDialog::deleteVertexBtn, ":/ML_DELETEVERTEX_UP.BMP", &CMLEditDialog::OnDeleteVertex},
-    {&Ui_MleditDialog::cutSingleBtn, ":/ML_CUTSINGLE_UP.BMP", &CMLEditDialog::OnCutSingle},
-    {&Ui_MleditDialog::cutAllBtn, ":/ML_CUTALL_UP.BMP", &CMLEditDialog::OnCutAll},
-    {&Ui_MleditDialog::weldAllBtn, ":/ML_WELDALL_UP.BMP", &CMLEditDialog::OnWeldAll},
-    {&Ui_MleditDialog::closeBtn, nullptr, &CMLEditDialog::OnClose},
-};
 
 CMLEditDialog::CMLEditDialog(QWidget* parent, CWnd* logic)
     : QBaseDialog(parent), m_layout(std::make_unique<Ui_MleditDialog>()) {
     m_layout->setupUi(this);
     for (const ToolRow& row : kTools) {
-        QPushButton* const button = m_layout.get()->*row.button;
-        if (row.picture != nullptr) {
-            button->setIcon(QPixmap(row.picture));
-        }
-        connect(button, &QPushButton::clicked, this, row.slot);
+        findChild<QPushButton*>(row.button)->setIcon(QPixmap(row.picture));
     }
-
-    auto* const palette = dynamic_cast<::CMLEditDialog*>(logic);
-    if (palette == nullptr) {
-        return;
-    }
-    palette->SetHandle(this);
-    palette->SetAutoDelete(true, true);
-    const int* control = ::CMLEditDialog::kControls.data();
-    for (const ToolRow& row : kTools) {
-        palette->SetDlgItem(*control++, m_layout.get()->*row.button);
+    connectButtons();
+    if (auto* const palette = dynamic_cast<::CMLEditDialog*>(logic)) {
+        palette->SetHandle(this);
+        palette->SetAutoDelete(true, true);
+        registerButtons(*palette);
     }
 }
 
 CMLEditDialog::~CMLEditDialog() = default;
+
+void CMLEditDialog::connectButtons() {
+    const auto onClick = [this](QPushButton* button, void (CMLEditDialog::*slot)()) {
+        connect(button, &QPushButton::clicked, this, slot);
+    };
+    onClick(m_layout->closedCrossBtn, &CMLEditDialog::OnClosedCross);
+    onClick(m_layout->openCrossBtn, &CMLEditDialog::OnOpenCross);
+    onClick(m_layout->mergedCrossBtn, &CMLEditDialog::OnMergedCross);
+    onClick(m_layout->closedTeeBtn, &CMLEditDialog::OnClosedTee);
+    onClick(m_layout->openTeeBtn, &CMLEditDialog::OnOpenTee);
+    onClick(m_layout->mergedTeeBtn, &CMLEditDialog::OnMergedTee);
+    onClick(m_layout->cornerJointBtn, &CMLEditDialog::OnCornerJoint);
+    onClick(m_layout->addVertexBtn, &CMLEditDialog::OnAddVertex);
+    onClick(m_layout->deleteVertexBtn, &CMLEditDialog::OnDeleteVertex);
+    onClick(m_layout->cutSingleBtn, &CMLEditDialog::OnCutSingle);
+    onClick(m_layout->cutAllBtn, &CMLEditDialog::OnCutAll);
+    onClick(m_layout->weldAllBtn, &CMLEditDialog::OnWeldAll);
+    onClick(m_layout->closeBtn, &CMLEditDialog::OnClose);
+}
+
+void CMLEditDialog::registerButtons(::CMLEditDialog& logic) {
+    for (const ToolRow& row : kTools) {
+        logic.SetDlgItem(row.control, findChild<QPushButton*>(row.button));
+    }
+    logic.SetDlgItem(kPaletteClose, m_layout->closeBtn);
+}
 
 void CMLEditDialog::tell(void (::CMLEditDialog::*handler)()) {
     if (auto* const logic = logicOf<::CMLEditDialog>(this)) {

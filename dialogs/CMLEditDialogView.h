@@ -36,9 +36,8 @@ private slots:
     void OnClose();
 
 private:
-    struct ToolRow;
-    static const ToolRow kTools[];
-
+    void connectButtons();
+    void registerButtons(::CMLEditDialog& logic);
     void tell(void (::CMLEditDialog::*handler)());
 
     std::unique_ptr<Ui_MleditDialog> m_layout;

@@ -6,7 +6,8 @@
 #include "KdDbDictionary.h"
 #include "KdDbMlineStyle.h"
 #include "KdDocument.h"
-#include "dialogPlace.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
 #include "fileChooser.h"
 #include "hostFolders.h"
 #include "hostHeap.h"
@@ -14,18 +15,17 @@
 #include "promptStatus.h"
 #include "resourceLibrary.h"
 #include "styleLibraryReader.h"
+#include "styleNames.h"
 #include "styleRecord.h"
-#include "styleUse.h"
+#include "textNumbers.h"
 
 #include <memory>
+
+using namespace mledit;
 
 namespace {
 
 constexpr unsigned kResource = 108;
-constexpr int kAccept = 1;
-constexpr int kFileName = 1057;
-constexpr int kStyleList = 1058;
-constexpr int kMessageLine = 1064;
 constexpr const wchar_t* kPlace = L"MlstyleLoadDlgPos";
 constexpr const wchar_t* kSection = L"Settings";
 constexpr const wchar_t* kFileKey = L"MlstyleFile";
@@ -75,18 +75,18 @@ CMlStyleLoadDlg::CMlStyleLoadDlg(CWnd* parent) : CDialog(kResource, parent) {
 
 void CMlStyleLoadDlg::DoDataExchange(CDataExchange* exchange) {
     CDialog::DoDataExchange(exchange);
-    DDX_Control(exchange, kStyleList, m_list);
+    DDX_Control(exchange, kLoadStyleList, m_list);
 }
 
 int CMlStyleLoadDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    GetDlgItem(kMessageLine)->SetWindowTextW(L"");
+    GetDlgItem(kLoadMessage)->SetWindowTextW(L"");
     const CStdStr<wchar_t> last = AfxGetApp()->GetProfileString(kSection, kFileKey, L"");
-    GetDlgItem(kFileName)->SetWindowTextW(last.IsEmpty() ? L"ORVEX.mln" : last.c_str());
+    GetDlgItem(kLoadFileName)->SetWindowTextW(last.IsEmpty() ? L"ORVEX.mln" : last.c_str());
     std::wstring path = (last.IsEmpty() ? defaultLibrary() : last).text();
     SetListStyleName(path.data());
-    restoreDialogPlace(*this, kPlace);
-    GetDlgItem(kAccept)->EnableWindow(false); // till a style is selected
+    restorePosition(*this, kPlace);
+    GetDlgItem(kAcceptButton)->EnableWindow(false); // until a style is selected
     return 1;
 }
 
@@ -99,16 +99,16 @@ void CMlStyleLoadDlg::SetListStyleName(wchar_t* path) {
     for (const CStdStr<wchar_t>& name : *names) {
         m_list.AddString(name);
     }
-    GetDlgItem(kFileName)->SetWindowTextW(path);
+    GetDlgItem(kLoadFileName)->SetWindowTextW(path);
     m_file = path;
     if (!names->empty()) {
-        GetDlgItem(kAccept)->EnableWindow(false);
+        GetDlgItem(kAcceptButton)->EnableWindow(false);
     }
 }
 
 void CMlStyleLoadDlg::OnLoadFileStyle() {
     const CStdStr<wchar_t> start = defaultLibrary();
-    constexpr unsigned kTitle = 26;
+    constexpr unsigned kTitle = 26; // in the host's library, which may have none
     constexpr int kExistingFile = 64;
     const CStdStr<wchar_t> title =
         velaManagerResourceString(kTitle, L"Load Multiline Style From File");
@@ -123,7 +123,7 @@ void CMlStyleLoadDlg::OnLoadFileStyle() {
 }
 
 void CMlStyleLoadDlg::OnSelectChanged() {
-    GetDlgItem(kAccept)->EnableWindow(m_list.GetSelCount() != 0);
+    GetDlgItem(kAcceptButton)->EnableWindow(m_list.GetSelCount() != 0);
 }
 
 void CMlStyleLoadDlg::OnDbClick() {
@@ -136,16 +136,15 @@ void CMlStyleLoadDlg::OnOK() {
     }
     m_list.GetText(m_list.GetCurSel(), m_chosenName);
     if (isStyleUsed(m_chosenName)) {
-        constexpr unsigned kStyleInUse = 16;
         CStdStr<wchar_t> text;
-        text.LoadStringW(kStyleInUse);
-        GetDlgItem(kMessageLine)->SetWindowTextW(text);
+        text.LoadStringW(texts::kStyleInUse);
+        GetDlgItem(kLoadMessage)->SetWindowTextW(text);
         return;
     }
     if (!m_chosenName.IsEmpty()) {
         AddStyleToDrw();
     }
-    storeDialogPlace(*this, kPlace);
+    storePosition(*this, kPlace);
     CDialog::OnOK();
 }
 

@@ -1,8 +1,11 @@
 #include "CMlStyleLoadDlgView.h"
 
 #include "CMlStyleLoadDlg.h"
-#include "logicOf.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
 #include "ui_CMlStyleLoadDlg.h"
+
+using namespace mledit;
 
 namespace VOUI {
 
@@ -23,10 +26,10 @@ CMlStyleLoadDlg::CMlStyleLoadDlg(QWidget* parent, CWnd* logic)
     }
     dialog->SetHandle(this);
     dialog->SetAutoDelete(true, true);
-    dialog->SetDlgItem(1056, m_layout->pBtnFile);
-    dialog->SetDlgItem(1058, m_layout->listWidget);
-    dialog->SetDlgItem(1, m_layout->pBtnOK);
-    dialog->SetDlgItem(2, m_layout->pBtnCancel);
+    dialog->SetDlgItem(kLoadFileButton, m_layout->pBtnFile);
+    dialog->SetDlgItem(kLoadStyleList, m_layout->listWidget);
+    dialog->SetDlgItem(kAcceptButton, m_layout->pBtnOK);
+    dialog->SetDlgItem(kCancelButton, m_layout->pBtnCancel);
 }
 
 CMlStyleLoadDlg::~CMlStyleLoadDlg() = default;

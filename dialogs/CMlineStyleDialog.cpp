@@ -5,16 +5,16 @@
 #include "CDataExchange.h"
 #include "CMlineStyleDialogView.h"
 #include "KdDbMlineStyle.h"
-#include "dialogIcon.h"
-#include "dialogPlace.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
 #include "dictionarySearch.h"
 #include "hostHeap.h"
 #include "kddbObjects.h"
 #include "promptStatus.h"
-#include "styleManagerControls.h"
 #include "styleNames.h"
-#include "styleUse.h"
 #include "systemVariables.h"
+
+using namespace mledit;
 
 namespace {
 
@@ -65,7 +65,7 @@ int CMlineStyleDialog::OnInitDialog() {
     constexpr unsigned kSunkenPicture = 526;
     m_preview.ModifyStyle(0, kSunkenPicture, 0);
     registerItems();
-    restoreDialogPlace(*this, kPlace);
+    restorePosition(*this, kPlace);
     m_resizer.Resize(this);
     OnListSelChange();
     return 1;
@@ -85,7 +85,7 @@ void CMlineStyleDialog::registerItems() {
         int number;
         unsigned flags;
     } items[] = {
-        {kManagerClose, RESIZE_LOCKBOTTOMRIGHT},
+        {kAcceptButton, RESIZE_LOCKBOTTOMRIGHT},
         {kManagerList, RESIZE_LOCKLEFT | RESIZE_LOCKRIGHT},
         {kManagerSetCurrent, RESIZE_LOCKRIGHT | RESIZE_LOCKTOP},
         {kManagerNew, RESIZE_LOCKRIGHT | RESIZE_LOCKTOP},
@@ -167,6 +167,6 @@ void CMlineStyleDialog::OnSizing(unsigned /*edge*/, tagRECT* rectangle) {
 void CMlineStyleDialog::OnPaint() {}
 
 void CMlineStyleDialog::OnOK() {
-    storeDialogPlace(*this, kPlace);
+    storePosition(*this, kPlace);
     CDialog::OnOK();
 }

@@ -8,19 +8,22 @@
 #include "CMlstyleRenameDlg.h"
 #include "KdDbDictionary.h"
 #include "KdDbMlineStyle.h"
+#include "controlNumbers.h"
 #include "fileChooser.h"
 #include "hostFolders.h"
 #include "hostHeap.h"
 #include "kddbObjects.h"
 #include "promptStatus.h"
 #include "styleLibraryWriter.h"
-#include "styleManagerControls.h"
 #include "styleNames.h"
 #include "systemVariables.h"
+#include "textNumbers.h"
 
 #include <algorithm>
 #include <memory>
 #include <utility>
+
+using namespace mledit;
 
 namespace {
 
@@ -162,11 +165,10 @@ void CMlineStyleDialog::OnDeleteStyle() {
     if (name.CompareNoCase(L"STANDARD") == 0) {
         return;
     }
-    constexpr unsigned kQuestion = 13;
     constexpr unsigned kYesOrNo = 36;
     constexpr int kYes = 6;
     CStdStr<wchar_t> question;
-    question.LoadStringW(kQuestion);
+    question.LoadStringW(texts::kDeleteQuestion);
     question = question + L"\"" + name + L"\"?";
     if (MessageBoxW(question, L"ORVEX", kYesOrNo) != kYes) {
         return;
@@ -204,10 +206,9 @@ void CMlineStyleDialog::OnSaveStyle() {
     if (m_list.GetSelCount() == 0) {
         return;
     }
-    constexpr unsigned kTitle = 15;
     constexpr int kFileToSaveInto = 3;
     CStdStr<wchar_t> title;
-    title.LoadStringW(kTitle);
+    title.LoadStringW(texts::kSaveTitle);
     CStdStr<wchar_t> start;
     start.Format(L"%ls%ls", kddbHostApplicationServices()->rootFolder(), L"Support/");
     resbuf chosen;

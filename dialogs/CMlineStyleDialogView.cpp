@@ -1,9 +1,11 @@
 #include "CMlineStyleDialogView.h"
 
 #include "CMlineStyleDialog.h"
-#include "logicOf.h"
-#include "styleManagerControls.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
 #include "ui_CMlineStyleDialog.h"
+
+using namespace mledit;
 
 namespace VOUI {
 
@@ -52,7 +54,7 @@ void CMlineStyleDialog::registerWidgets(::CMlineStyleDialog& logic) {
     logic.SetDlgItem(kManagerLoad, m_layout->pBtnLoad);
     logic.SetDlgItem(kManagerSave, m_layout->pBtnSave);
     logic.SetDlgItem(kManagerPreview, m_layout->textEdit);
-    logic.SetDlgItem(kManagerClose, m_layout->pBtnClose);
+    logic.SetDlgItem(kAcceptButton, m_layout->pBtnClose);
 }
 
 void CMlineStyleDialog::tell(void (::CMlineStyleDialog::*handler)()) {

@@ -2,17 +2,15 @@
 
 #include "CDataExchange.h"
 #include "CMlstyleNewDlgView.h"
-#include "dialogIcon.h"
-#include "dialogPlace.h"
-#include "styleNameRules.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
 #include "styleNames.h"
+
+using namespace mledit;
 
 namespace {
 
 constexpr unsigned kResource = 107;
-constexpr int kContinue = 1;
-constexpr int kNameField = 1035;
-constexpr int kStyleCombo = 1036;
 constexpr int kWordLimit = 31;
 constexpr const wchar_t* kPlace = L"MlstyleNewPos";
 
@@ -25,17 +23,17 @@ CMlstyleNewDlg::CMlstyleNewDlg(CWnd* parent) : CDialog(kResource, parent) {
 
 void CMlstyleNewDlg::DoDataExchange(CDataExchange* exchange) {
     CDialog::DoDataExchange(exchange);
-    DDX_Control(exchange, kStyleCombo, m_styles);
-    DDX_Text(exchange, kNameField, m_newName);
-    DDX_CBString(exchange, kStyleCombo, m_startWith);
-    DDX_Control(exchange, kNameField, m_nameField);
+    DDX_Control(exchange, kNewStyleCombo, m_styles);
+    DDX_Text(exchange, kNewNameField, m_newName);
+    DDX_CBString(exchange, kNewStyleCombo, m_startWith);
+    DDX_Control(exchange, kNewNameField, m_nameField);
 }
 
 int CMlstyleNewDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     AddStyleNameToCombo();
     UpdateData(false); // now that the combo has the style to start with
-    restoreDialogPlace(*this, kPlace);
+    restorePosition(*this, kPlace);
     setDialogIcon(*this, 1);
     return 1;
 }
@@ -49,11 +47,11 @@ void CMlstyleNewDlg::AddStyleNameToCombo() {
 void CMlstyleNewDlg::OnEnterName() {
     UpdateData(true);
     const bool isNew = m_styles.FindStringExact(-1, m_newName) == -1;
-    GetDlgItem(kContinue)->EnableWindow(isNew && isNameForNewStyle(m_newName.text()));
+    GetDlgItem(kAcceptButton)->EnableWindow(isNew && isNameForNewStyle(m_newName.text()));
 }
 
 void CMlstyleNewDlg::OnOK() {
     UpdateData(true);
-    storeDialogPlace(*this, kPlace);
+    storePosition(*this, kPlace);
     CDialog::OnOK();
 }

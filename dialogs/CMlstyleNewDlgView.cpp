@@ -1,8 +1,11 @@
 #include "CMlstyleNewDlgView.h"
 
 #include "CMlstyleNewDlg.h"
-#include "logicOf.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
 #include "ui_CMlstyleNewDlg.h"
+
+using namespace mledit;
 
 namespace VOUI {
 
@@ -18,10 +21,10 @@ CMlstyleNewDlg::CMlstyleNewDlg(QWidget* parent, CWnd* logic)
     }
     dialog->SetHandle(this);
     dialog->SetAutoDelete(true, true);
-    dialog->SetDlgItem(1035, m_layout->lineEditNewStyleName);
-    dialog->SetDlgItem(1036, m_layout->cbBoxStartWith);
-    dialog->SetDlgItem(1, m_layout->pBtnContinue);
-    dialog->SetDlgItem(2, m_layout->pBtnCancel);
+    dialog->SetDlgItem(kNewNameField, m_layout->lineEditNewStyleName);
+    dialog->SetDlgItem(kNewStyleCombo, m_layout->cbBoxStartWith);
+    dialog->SetDlgItem(kAcceptButton, m_layout->pBtnContinue);
+    dialog->SetDlgItem(kCancelButton, m_layout->pBtnCancel);
 }
 
 CMlstyleNewDlg::~CMlstyleNewDlg() = default;

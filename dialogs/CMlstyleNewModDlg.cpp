@@ -1,23 +1,23 @@
 #include "CMlstyleNewModDlg.h"
 
 #include "CDataExchange.h"
+#include "CMlineStyleDialog.h"
 #include "CMlstyleNewModDlgView.h"
 #include "KdDbDictionary.h"
 #include "KdDbMlineStyle.h"
 #include "colorWords.h"
-#include "dialogIcon.h"
-#include "dialogPlace.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
 #include "kddbObjects.h"
-#include "modifyControls.h"
 #include "styleNames.h"
-#include "stylePreview.h"
 #include "styleRecord.h"
+#include "textNumbers.h"
+
+using namespace mledit;
 
 namespace {
 
 constexpr unsigned kResource = 105;
-constexpr unsigned kNewCaption = 4;
-constexpr unsigned kModifyCaption = 5;
 constexpr const wchar_t* kPlace = L"MlstyNewModDlgPos";
 
 } // namespace
@@ -58,7 +58,7 @@ int CMlstyleNewModDlg::OnInitDialog() {
         removeNewStyle();
         return 0;
     }
-    restoreDialogPlace(*this, kPlace);
+    restorePosition(*this, kPlace);
     setDialogIcon(*this, 1);
     m_linetype.UpdateData(true);
     return 1;
@@ -70,7 +70,7 @@ void CMlstyleNewModDlg::SetcurentStyle(CStdStr<wchar_t> name) {
 
 int CMlstyleNewModDlg::OnCreate(tagCREATESTRUCTW* /*created*/) {
     const bool isNew = m_mode == modeNew;
-    m_captionPrefix.LoadStringW(isNew ? kNewCaption : kModifyCaption);
+    m_captionPrefix.LoadStringW(isNew ? texts::kNewStyleCaption : texts::kModifyStyleCaption);
     SetWindowTextW(m_captionPrefix + (isNew ? m_newName : m_styleName));
     return 0;
 }
@@ -133,7 +133,7 @@ void CMlstyleNewModDlg::OnOK() {
         return;
     }
     ModifyStyle();
-    storeDialogPlace(*this, kPlace);
+    storePosition(*this, kPlace);
     CDialog::OnOK();
 }
 
@@ -158,8 +158,10 @@ void CMlstyleNewModDlg::ModifyStyle() {
 }
 
 void CMlstyleNewModDlg::showInPreview() {
-    if (m_scratchStyle) {
-        paintPreviewOf(GetParent(), m_scratchStyle.get());
+    // The manager opens its dialogs without a parent, so mostly nothing is shown.
+    auto* const manager = dynamic_cast<CMlineStyleDialog*>(GetParent());
+    if (manager != nullptr && m_scratchStyle) {
+        manager->PaintPreview(m_scratchStyle.get());
     }
 }
 

@@ -73,7 +73,7 @@ private:
     [[nodiscard]] KdCmColor* colorOf(int row) const;
     void setColorOf(int row, const KdCmColor& color);
     void forgetColorOf(int row);
-    [[nodiscard]] std::vector<ElementRow> rows() const;
+    [[nodiscard]] std::vector<mledit::ElementRow> rows() const;
 
     KdDbObjectId m_styleId;                         // what OK writes to
     std::unique_ptr<KdDbMlineStyle> m_scratchStyle; // in no database, for the preview

@@ -3,14 +3,17 @@
 #include "CRect.h"
 #include "KdDbMlineStyle.h"
 #include "KdDocument.h"
-#include "modifyControls.h"
-#include "realText.h"
+#include "controlNumbers.h"
+#include "fieldNumbers.h"
+#include "textNumbers.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <iterator>
 #include <limits>
+
+using namespace mledit;
 
 // The table of elements in the modify dialog. The table is the working copy: whatever changes in
 // it makes the elements of the style anew.
@@ -20,8 +23,8 @@ namespace {
 enum Column : int { offsetColumn = 0, linetypeColumn = 1, colorColumn = 2 };
 
 // In the order of the columns.
-constexpr unsigned kHeadingTexts[] = {1, 3, 2};
-constexpr unsigned kTableFullText = 25;
+constexpr unsigned kHeadings[] = {texts::kOffsetHeading, texts::kLinetypeHeading,
+                                  texts::kColorHeading};
 constexpr unsigned kWholeRows = 32;
 constexpr unsigned kSelected = 2;
 constexpr int kOffsetRoom = 2049; // characters that are taken of the field, with the terminator
@@ -30,7 +33,7 @@ constexpr std::uint16_t kByLayerIndex = 256;
 // Three headings of equal width. What would part the columns is no part of a heading.
 CStdStr<wchar_t> headings(int width) {
     CStdStr<wchar_t> all;
-    for (const unsigned number : kHeadingTexts) {
+    for (const unsigned number : kHeadings) {
         CStdStr<wchar_t> name;
         name.LoadStringW(number);
         std::wstring plain = name.text();
@@ -50,7 +53,7 @@ void CMlstyleNewModDlg::fillElementList(const KdDbMlineStyle& style) {
     CRect client;
     m_elements.GetClientRect(&client);
     m_elements.SetExtendedStyle(m_elements.GetExtendedStyle() | kWholeRows);
-    m_elements.SetHeadings(headings(client.Width() / static_cast<int>(std::size(kHeadingTexts))));
+    m_elements.SetHeadings(headings(client.Width() / static_cast<int>(std::size(kHeadings))));
     m_elements.LoadColumnInfo();
     for (const ElementRow& row : elementRows(style)) {
         const int index = m_elements.AddItem(row.offset.c_str(), row.linetype.c_str(),
@@ -149,7 +152,7 @@ void CMlstyleNewModDlg::OnOffsetKillfocus() {
 void CMlstyleNewModDlg::OnAddElement() {
     if (m_scratchStyle && m_scratchStyle->numElements() == std::numeric_limits<int>::max()) {
         CStdStr<wchar_t> text;
-        text.LoadStringW(kTableFullText);
+        text.LoadStringW(texts::kTableFull);
         MessageBoxW(text, nullptr, 0);
         return;
     }

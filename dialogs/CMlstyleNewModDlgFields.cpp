@@ -2,16 +2,15 @@
 
 #include "CDataExchange.h"
 #include "KdDbMlineStyle.h"
-#include "ZeroRule.h"
+#include "controlNumbers.h"
+#include "fieldNumbers.h"
 #include "kddbObjects.h"
 #include "messageBeep.h"
-#include "modifyControls.h"
-#include "numberText.h"
-#include "realText.h"
 #include "styleRecord.h"
 
 #include <algorithm>
-#include <array>
+
+using namespace mledit;
 
 // Everything in the modify dialog but its elements: check boxes, fill, angles, and the checks of
 // its fields.
@@ -36,21 +35,9 @@ constexpr FlagBox kFlagBoxes[] = {
     {kEndOuterArcBox, kStyleEndRoundCap, &KdDbMlineStyle::endRoundCap},
 };
 
-// Degrees with two decimals.
 CStdStr<wchar_t> angleText(double radians) {
-    constexpr int kDecimalDegrees = 0;
     const ZeroRule keepZeros(0);
-    std::array<wchar_t, 512> text{};
-    kddbAngToS(radians, kDecimalDegrees, 2, text.data());
-    return text.data();
-}
-
-// What a field says, in radians; a text that is no angle leaves it at `before`.
-double angleOf(const CStdStr<wchar_t>& text, double before) {
-    constexpr int kDecimalDegrees = 0;
-    double radians = before;
-    kddbAngToF(text, kDecimalDegrees, &radians);
-    return radians;
+    return CStdStr<wchar_t>(degreesText(radians, 2));
 }
 
 } // namespace
@@ -139,8 +126,8 @@ bool CMlstyleNewModDlg::ValidateAng(CStdStr<wchar_t> text) {
 
 void CMlstyleNewModDlg::SetAnger(KdDbMlineStyle* style) {
     if (style != nullptr) {
-        style->setStartAngle(angleOf(m_startAngleText, style->startAngle()));
-        style->setEndAngle(angleOf(m_endAngleText, style->endAngle()));
+        style->setStartAngle(radiansOf(m_startAngleText, style->startAngle()));
+        style->setEndAngle(radiansOf(m_endAngleText, style->endAngle()));
     }
 }
 

@@ -1,11 +1,13 @@
 #include "CMlstyleNewModDlgView.h"
 
 #include "CMlstyleNewModDlg.h"
-#include "logicOf.h"
-#include "modifyControls.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
 #include "ui_CMlstyleNewModDlg.h"
 
 #include <QHeaderView>
+
+using namespace mledit;
 
 namespace VOUI {
 
@@ -59,8 +61,8 @@ void CMlstyleNewModDlg::registerWidgets(::CMlstyleNewModDlg& logic) {
         QWidget* widget;
     };
     const Item items[] = {
-        {1, ui.pBtnOK},
-        {2, ui.pBtnCancel},
+        {kAcceptButton, ui.pBtnOK},
+        {kCancelButton, ui.pBtnCancel},
         {kDescriptionField, ui.lEditDescription},
         {kStartLineBox, ui.chkBoxLineStart},
         {kEndLineBox, ui.chkBoxLineEnd},

@@ -2,18 +2,15 @@
 
 #include "CDataExchange.h"
 #include "CMlstyleRenameDlgView.h"
-#include "dialogIcon.h"
-#include "dialogPlace.h"
-#include "styleNameRules.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
 #include "styleNames.h"
+
+using namespace mledit;
 
 namespace {
 
 constexpr unsigned kResource = 109;
-constexpr int kAccept = 1;
-constexpr int kOldName = 1059;
-constexpr int kNameField = 1060;
-constexpr int kStyleCombo = 1065;
 constexpr int kWordLimit = 31;
 constexpr const wchar_t* kPlace = L"MlstyleRenamePos";
 
@@ -26,10 +23,10 @@ CMlstyleRenameDlg::CMlstyleRenameDlg(CWnd* parent) : CDialog(kResource, parent) 
 
 void CMlstyleRenameDlg::DoDataExchange(CDataExchange* exchange) {
     CDialog::DoDataExchange(exchange);
-    DDX_Control(exchange, kStyleCombo, m_styles);
-    DDX_Text(exchange, kOldName, m_oldName);
-    DDX_Text(exchange, kNameField, m_newName);
-    DDX_Control(exchange, kNameField, m_nameField);
+    DDX_Control(exchange, kRenameStyleCombo, m_styles);
+    DDX_Text(exchange, kRenameOldName, m_oldName);
+    DDX_Text(exchange, kRenameNameField, m_newName);
+    DDX_Control(exchange, kRenameNameField, m_nameField);
 }
 
 int CMlstyleRenameDlg::OnInitDialog() {
@@ -39,7 +36,7 @@ int CMlstyleRenameDlg::OnInitDialog() {
     }
     m_styles.SetCurSel(0);
     UpdateData(false);
-    restoreDialogPlace(*this, kPlace);
+    restorePosition(*this, kPlace);
     setDialogIcon(*this, 1);
     return 1;
 }
@@ -47,11 +44,11 @@ int CMlstyleRenameDlg::OnInitDialog() {
 void CMlstyleRenameDlg::OnEnterName() {
     UpdateData(true);
     const bool isNew = m_styles.FindStringExact(-1, m_newName) == -1;
-    GetDlgItem(kAccept)->EnableWindow(isNew && isNameForRenaming(m_newName.text()));
+    GetDlgItem(kAcceptButton)->EnableWindow(isNew && isNameForRenaming(m_newName.text()));
 }
 
 void CMlstyleRenameDlg::OnOK() {
     UpdateData(true);
-    storeDialogPlace(*this, kPlace);
+    storePosition(*this, kPlace);
     CDialog::OnOK();
 }

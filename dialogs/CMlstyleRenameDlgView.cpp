@@ -1,8 +1,11 @@
 #include "CMlstyleRenameDlgView.h"
 
 #include "CMlstyleRenameDlg.h"
-#include "logicOf.h"
+#include "controlNumbers.h"
+#include "dialogWindow.h"
 #include "ui_CMlstyleRenameDlg.h"
+
+using namespace mledit;
 
 namespace VOUI {
 
@@ -21,11 +24,11 @@ CMlstyleRenameDlg::CMlstyleRenameDlg(QWidget* parent, CWnd* logic)
     }
     dialog->SetHandle(this);
     dialog->SetAutoDelete(true, true);
-    dialog->SetDlgItem(1059, m_layout->labelOldStyleNameResult);
-    dialog->SetDlgItem(1060, m_layout->lineEditNewStyleName);
-    dialog->SetDlgItem(1065, m_layout->renameComBo);
-    dialog->SetDlgItem(1, m_layout->pBtnOK);
-    dialog->SetDlgItem(2, m_layout->pBtnCancel);
+    dialog->SetDlgItem(kRenameOldName, m_layout->labelOldStyleNameResult);
+    dialog->SetDlgItem(kRenameNameField, m_layout->lineEditNewStyleName);
+    dialog->SetDlgItem(kRenameStyleCombo, m_layout->renameComBo);
+    dialog->SetDlgItem(kAcceptButton, m_layout->pBtnOK);
+    dialog->SetDlgItem(kCancelButton, m_layout->pBtnCancel);
 }
 
 CMlstyleRenameDlg::~CMlstyleRenameDlg() = default;

@@ -9,6 +9,8 @@
 #include <cwchar>
 #include <string_view>
 
+using namespace mledit;
+
 namespace {
 
 constexpr std::size_t kLongest = 2048; // characters of a line

@@ -13,6 +13,8 @@
 #include <memory>
 #include <optional>
 
+using namespace mledit;
+
 namespace {
 
 resbuf readVariable(const wchar_t* name) {

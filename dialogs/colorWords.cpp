@@ -1,6 +1,12 @@
 #include "colorWords.h"
 
+#include "textNumbers.h"
 #include "wideNumbers.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace mledit {
 
 namespace {
 
@@ -9,11 +15,10 @@ constexpr int kByLayer = 256;
 constexpr const wchar_t* kByBlockWord = L"BYBLOCK";
 constexpr const wchar_t* kByLayerWord = L"BYLAYER";
 constexpr int kLastNamed = 7;
-constexpr unsigned kFirstText = 6; // of colour 1
 
 CStdStr<wchar_t> nameOf(int index) {
     CStdStr<wchar_t> name;
-    name.LoadStringW(kFirstText + static_cast<unsigned>(index - 1));
+    name.LoadStringW(texts::kRed + static_cast<unsigned>(index - 1));
     return name;
 }
 
@@ -45,3 +50,12 @@ int colorIndexOf(const CStdStr<wchar_t>& word) {
     }
     return _wtoi(word);
 }
+
+std::wstring bookKey(const KdCmColor& color) {
+    const int length = std::max(color.dictionaryKeyLength(), 0);
+    std::vector<wchar_t> key(static_cast<std::size_t>(length) + 1);
+    color.getDictionaryKey(key.data());
+    return key.data();
+}
+
+} // namespace mledit

@@ -1,14 +1,16 @@
-#include "dialogPlace.h"
+#include "dialogWindow.h"
 
 #include "CRect.h"
 #include "CStdStr.h"
 #include "CWinApp.h"
-#include "CWnd.h"
+#include "HICON.h"
+
+namespace mledit {
 
 namespace {
 
 constexpr const wchar_t* kSection = L"Settings";
-constexpr int kNotStored = -10000; // and no place at which a dialog can have been left
+constexpr int kNotStored = -10000; // no dialog can have been left there
 
 struct Side {
     const wchar_t* name;
@@ -29,23 +31,30 @@ CStdStr<wchar_t> keyOf(const wchar_t* prefix, const Side& side) {
 
 } // namespace
 
-void restoreDialogPlace(CWnd& dialog, const wchar_t* prefix) {
-    CRect place;
+void setDialogIcon(CWnd& dialog, int kind) {
+    constexpr unsigned kHostIcon = 128;
+    dialog.SetIcon(LoadIconW(GetModuleHandleW(L"ORVEXRes.dll"), kHostIcon), kind);
+}
+
+void restorePosition(CWnd& dialog, const wchar_t* prefix) {
+    CRect rectangle;
     for (const Side& side : kSides) {
         const int stored =
             AfxGetApp()->GetProfileInt(kSection, keyOf(prefix, side).c_str(), kNotStored);
         if (stored == kNotStored) {
             return;
         }
-        place.*side.value = stored;
+        rectangle.*side.value = stored;
     }
-    dialog.MoveWindow(place, true);
+    dialog.MoveWindow(rectangle, true);
 }
 
-void storeDialogPlace(const CWnd& dialog, const wchar_t* prefix) {
-    CRect place;
-    dialog.GetWindowRect(&place);
+void storePosition(const CWnd& dialog, const wchar_t* prefix) {
+    CRect rectangle;
+    dialog.GetWindowRect(&rectangle);
     for (const Side& side : kSides) {
-        AfxGetApp()->WriteProfileInt(kSection, keyOf(prefix, side).c_str(), place.*side.value);
+        AfxGetApp()->WriteProfileInt(kSection, keyOf(prefix, side).c_str(), rectangle.*side.value);
     }
 }
+
+} // namespace mledit

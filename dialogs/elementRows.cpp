@@ -3,14 +3,16 @@
 #include "CStdStr.h"
 #include "KdDbLinetypeTable.h"
 #include "KdDbMlineStyle.h"
-#include "ZeroRule.h"
-#include "bookKey.h"
+#include "colorWords.h"
+#include "fieldNumbers.h"
 #include "kddbObjects.h"
 #include "numberText.h"
 #include "styleRecord.h"
 #include "wideNumbers.h"
 
 #include <array>
+
+namespace mledit {
 
 namespace {
 
@@ -131,3 +133,5 @@ void setElementRows(KdDbMlineStyle& style, const std::vector<ElementRow>& rows,
     SetElemRgb(&style, values.data(), count);
     SetElemName(&style, pointersTo(keys).data(), count);
 }
+
+} // namespace mledit

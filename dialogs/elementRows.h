@@ -8,12 +8,17 @@
 class KdDbDatabase;
 class KdDbMlineStyle;
 
+namespace mledit {
+
 // A style's elements as the modify dialog lists them.
 struct ElementRow {
     std::wstring offset;   // drawing units at scale 1
     std::wstring linetype; // local name
     KdCmColor color;
 };
+
+// The offset field where no row is selected.
+inline constexpr const wchar_t* kNoOffset = L"0.000";
 
 // In the style's order, offsets with one decimal at most. The style is open.
 std::vector<ElementRow> elementRows(const KdDbMlineStyle& style);
@@ -32,3 +37,5 @@ std::wstring storedLinetype(const std::wstring& shown);
 // in no database; line types are those of `database`, null leaves them out.
 void setElementRows(KdDbMlineStyle& style, const std::vector<ElementRow>& rows,
                     KdDbDatabase* database);
+
+} // namespace mledit

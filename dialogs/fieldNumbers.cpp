@@ -1,17 +1,22 @@
-#include "realText.h"
+#include "fieldNumbers.h"
 
+#include "numberText.h"
+#include "promptStatus.h"
+#include "systemVariables.h"
 #include "wideNumbers.h"
 
 #include <algorithm>
+#include <array>
 #include <cwchar>
 #include <cwctype>
-#include <string>
 
 namespace {
 
 constexpr std::size_t kLongest = 511;
 constexpr double kSharpestAngle = 10.0;
 constexpr double kFlattestAngle = 170.0;
+constexpr int kDecimalDegrees = 0;
+constexpr const wchar_t* kZeroVariable = L"DIMZIN";
 
 bool isReal(const std::wstring& text, bool allowNegative) {
     int points = 0;
@@ -55,7 +60,36 @@ bool gx_strIsValidReal(const wchar_t* text, bool allowNegative, bool trim, doubl
     return true;
 }
 
+namespace mledit {
+
 bool isCapAngle(const wchar_t* text) {
     const double degrees = _wtof(text);
     return degrees >= kSharpestAngle && degrees <= kFlattestAngle;
 }
+
+std::wstring degreesText(double radians, int decimals) {
+    std::array<wchar_t, kLongest + 1> text{};
+    kddbAngToS(radians, kDecimalDegrees, decimals, text.data());
+    return text.data();
+}
+
+double radiansOf(const wchar_t* degrees, double before) {
+    double radians = before;
+    kddbAngToF(degrees, kDecimalDegrees, &radians);
+    return radians;
+}
+
+ZeroRule::ZeroRule(short rule) : m_wasRead(kdedGetVar(kZeroVariable, &m_before) == kPromptNormal) {
+    resbuf value;
+    value.restype = kResultShort;
+    value.resval.rint = rule;
+    kdedSetVar(kZeroVariable, &value);
+}
+
+ZeroRule::~ZeroRule() {
+    if (m_wasRead) {
+        kdedSetVar(kZeroVariable, &m_before);
+    }
+}
+
+} // namespace mledit

@@ -6,6 +6,8 @@
 
 namespace fs = std::filesystem;
 
+namespace mledit {
+
 fs::path libraryPath(const wchar_t* path) {
     return path != nullptr ? fs::path(orvex::narrow(path)) : fs::path();
 }
@@ -29,3 +31,5 @@ std::optional<std::string> readLibraryFile(const fs::path& path) {
     return file.gcount() == static_cast<std::streamsize>(size) ? std::optional(std::move(bytes))
                                                                : std::nullopt;
 }
+
+} // namespace mledit

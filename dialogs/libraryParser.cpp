@@ -1,10 +1,42 @@
-#include "StyleBlock.h"
+#include "libraryParser.h"
 
-#include "LibraryLines.h"
+#include "textCodec.h"
 #include "wideNumbers.h"
 
 #include <algorithm>
 #include <array>
+
+namespace mledit {
+
+void LibraryLines::takeLine() {
+    const std::size_t lineFeed = m_bytes.find('\n');
+    m_hasLineFeed = lineFeed != std::string_view::npos;
+    m_line = orvex::widen(m_bytes.substr(0, lineFeed));
+    m_bytes.remove_prefix(m_hasLineFeed ? lineFeed + 1 : m_bytes.size());
+    m_given = 0;
+}
+
+std::optional<std::wstring> LibraryLines::next() {
+    constexpr std::size_t kLongest = 2047;
+    if (m_isComplete) {
+        if (m_bytes.empty()) {
+            m_metEnd = true;
+            return std::nullopt;
+        }
+        takeLine();
+    }
+    std::wstring piece = m_line.substr(m_given, kLongest);
+    m_given += piece.size();
+    // A piece of full length stops before whatever comes next, be it the line feed alone or the
+    // end of the file.
+    const bool isFull = piece.size() == kLongest;
+    m_isComplete = !isFull || (m_given == m_line.size() && !m_hasLineFeed);
+    m_metEnd = !isFull && !m_hasLineFeed;
+    if (const std::size_t zero = piece.find(L'\0'); zero != std::wstring::npos) {
+        piece.resize(zero); // texts end there
+    }
+    return piece;
+}
 
 namespace {
 
@@ -15,7 +47,7 @@ bool isTag(const std::wstring& line, const wchar_t* tag) {
     return StrCmpI(line.c_str(), tag) == 0;
 }
 
-// A value stands behind one character, whatever it is; a "%" in it is plain text.
+// A value stands after one character, whatever it is; a "%" in it is plain text.
 Text valueOf(const std::wstring& line) {
     return Text(line.substr(std::min<std::size_t>(line.size(), 1)));
 }
@@ -77,7 +109,7 @@ bool BlockParser::find(const wchar_t* name) {
     return false;
 }
 
-// True when the style is to be closed behind it.
+// True when the style is to be closed after it.
 bool BlockParser::readBlock() {
     while (!m_lines.metEnd()) {
         if (!read()) {
@@ -203,3 +235,5 @@ bool parseStyleBlock(std::string_view library, const wchar_t* name,
                      const std::function<void(const LibraryStep&)>& take) {
     return BlockParser(library, take).run(name);
 }
+
+} // namespace mledit

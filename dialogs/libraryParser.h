@@ -4,9 +4,37 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
+
+namespace mledit {
+
+// The lines of a library as the readers see them: wide, without the line feed, and at most 2047
+// characters long; the rest of a longer one comes as a further line. A carriage return stays in
+// the line. What is no UTF-8 is replaced.
+class LibraryLines {
+public:
+    explicit LibraryLines(std::string_view bytes) : m_bytes(bytes) {} // has to outlive the lines
+
+    std::optional<std::wstring> next(); // nothing at the end
+
+    // Set by the read that met the end of the file: of a last line without a line feed already by
+    // the read that gave it.
+    [[nodiscard]] bool metEnd() const { return m_metEnd; }
+
+private:
+    void takeLine();
+
+    std::string_view m_bytes;   // after the line at hand
+    std::wstring m_line;        // the line at hand
+    std::size_t m_given = 0;    // how much of it has been given
+    bool m_isComplete = true;   // all of it has been given
+    bool m_hasLineFeed = false; // after it
+    bool m_metEnd = false;
+};
 
 // A style as a library's block tells it: the values in the order of their tags, since the parts of
 // the fill colour build on each other and a block may say a thing twice.
@@ -60,3 +88,5 @@ using LibraryStep =
 // elements beyond 256 are read and dropped.
 bool parseStyleBlock(std::string_view library, const wchar_t* name,
                      const std::function<void(const LibraryStep&)>& take);
+
+} // namespace mledit

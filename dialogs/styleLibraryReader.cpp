@@ -2,11 +2,12 @@
 
 #include "KdDbMlineStyle.h"
 #include "KdDocument.h"
-#include "LibraryLines.h"
-#include "StyleBlock.h"
 #include "libraryFile.h"
+#include "libraryParser.h"
 #include "numberText.h"
 #include "styleRecord.h"
+
+namespace mledit {
 
 namespace {
 
@@ -120,3 +121,5 @@ bool applyLibraryStyle(const wchar_t* path, const wchar_t* name, KdDbMlineStyle&
     return parseStyleBlock(*bytes, name,
                            [&writer](const LibraryStep& step) { std::visit(writer, step); });
 }
+
+} // namespace mledit

@@ -7,6 +7,8 @@
 
 class KdDbMlineStyle;
 
+namespace mledit {
+
 // Style libraries: text files in UTF-8, one block of lines for each style. Only regular files of
 // up to 64 MiB are opened.
 
@@ -19,3 +21,5 @@ std::optional<std::vector<CStdStr<wchar_t>>> listLibraryStyles(const wchar_t* pa
 // closed. Otherwise (no such file or block, or the file stops short) what was read so far stands
 // in the style, and it is to be left open.
 bool applyLibraryStyle(const wchar_t* path, const wchar_t* name, KdDbMlineStyle& style);
+
+} // namespace mledit

@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+namespace mledit {
+
 namespace {
 
 double angleBetween(const KdGePoint3d& from, const KdGePoint3d& to) {
@@ -70,3 +72,5 @@ StyleSample makeStyleSample(int width, const std::vector<double>& scaled,
     }
     return sample;
 }
+
+} // namespace mledit

@@ -6,6 +6,8 @@
 #include <array>
 #include <vector>
 
+namespace mledit {
+
 // A multiline of two straight pieces that shows a style: what a picture of a style would be drawn
 // from. Lengths in drawing units, angles in radians.
 
@@ -28,3 +30,5 @@ std::vector<double> scaledOffsets(const std::vector<double>& offsets, int height
 // From the origin to (width, 0), with the middle vertex at a whole number. Top justified.
 StyleSample makeStyleSample(int width, const std::vector<double>& scaled,
                             const StyleSampleEnds& ends);
+
+} // namespace mledit

@@ -1,16 +1,32 @@
-// What the host's loader looks up in the module file, by exact names, and the module's objects.
+// What the host's loader looks up in the module file by exact names.
+
+#include "entry.h"
 
 #include "KdRxDictionary.h"
 #include "KdRxDynamicLinker.h"
 #include "kdrxRegistry.h"
 #include "moduleEntry.h"
-#include "moduleObjects.h"
+#include "moduleResources.h"
 #include "registration.h"
 #include "resourceLibrary.h"
 
 [[gnu::visibility("default")]] HINSTANCE hAppModule = nullptr;
 [[gnu::visibility("default")]] HINSTANCE hResModule = nullptr;
 [[gnu::visibility("default")]] CKdExtensionModule theExtensionDLL;
+
+bool CKdExtensionModule::AttachInstance(HINSTANCE module) {
+    if (m_attached) {
+        return false;
+    }
+    m_attached = true;
+    m_defaultResourceHandle = AfxGetResourceHandle();
+    m_moduleResourceHandle = module;
+    return true;
+}
+
+void CKdExtensionModule::DetachInstance() {
+    m_attached = false;
+}
 
 namespace {
 
@@ -19,7 +35,7 @@ KdRxDynamicLinker* dynamicLinker() {
 }
 
 int load(void* application) {
-    hResModule = loadResourceDll(kResourceLibrary);
+    hResModule = loadResourceDll(mledit::kResourceLibrary);
     if (hResModule == nullptr) {
         return kLoadFailed;
     }

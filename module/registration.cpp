@@ -2,9 +2,10 @@
 
 #include "KdEdCommandStack.h"
 #include "KdRxDictionary.h"
-#include "LoadLocalCmdStr.h"
-#include "commandFunctions.h"
+#include "commands.h"
 #include "kdrxRegistry.h"
+#include "moduleResources.h"
+#include "textNumbers.h"
 
 #include <memory>
 
@@ -17,14 +18,14 @@ constexpr int kNoFunctionCode = -1;
 
 struct CommandRow {
     const wchar_t* globalName;
-    unsigned localName; // number of the text
+    unsigned localName; // a text
     void (*function)();
 };
 
 constexpr CommandRow kCommands[] = {
-    {L"MLSTYLE", 4013, cmd_vomlstyle},
-    {L"MLEDIT", 4014, cmd_vomledit},
-    {L"-MLEDIT", 4015, cmd_vomleditcli},
+    {L"MLSTYLE", mledit::texts::kStyleCommand, cmd_vomlstyle},
+    {L"MLEDIT", mledit::texts::kPaletteCommand, cmd_vomledit},
+    {L"-MLEDIT", mledit::texts::kKeywordCommand, cmd_vomleditcli},
 };
 
 KdEdCommandStack* commandStack() {

@@ -27,6 +27,7 @@ using orvex::testing::runDialog;
 using orvex::testing::StyleWorld;
 using orvex::testing::textsOf;
 using testing::ElementsAre;
+using namespace mledit;
 
 namespace {
 

@@ -4,7 +4,6 @@
 #include "KdDbDatabase.h"
 #include "KdDbMlineStyle.h"
 #include "KdDocument.h"
-#include "styleBlockLines.h"
 #include "styleLibraryReader.h"
 #include "styleLibraryWriter.h"
 #include "textCodec.h"
@@ -19,6 +18,7 @@
 #include <unistd.h>
 
 namespace fs = std::filesystem;
+using namespace mledit;
 
 namespace {
 

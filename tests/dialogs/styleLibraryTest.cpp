@@ -6,7 +6,6 @@
 #include "MlineStyleContent.h"
 #include "TestPaths.h"
 #include "promptStatus.h"
-#include "styleBlockLines.h"
 #include "styleLibraryReader.h"
 #include "styleLibraryWriter.h"
 #include "styleRecord.h"
@@ -23,6 +22,7 @@
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;
+using namespace mledit;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

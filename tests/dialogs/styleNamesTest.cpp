@@ -1,4 +1,4 @@
-#include "styleUse.h"
+#include "styleNames.h"
 #include "DatabaseCore.h"
 #include "DrawingFile.h"
 #include "KdDbMline.h"
@@ -8,6 +8,8 @@
 #include "kddbObjects.h"
 
 #include <gmock/gmock.h>
+
+using mledit::isStyleUsed;
 
 namespace {
 

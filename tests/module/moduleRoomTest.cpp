@@ -1,6 +1,6 @@
-#include "CKdExtensionModule.h"
+#include "entry.h"
+#include "moduleResources.h"
 #include "resourceLibrary.h"
-#include "resourceLibraryName.h"
 #include "toolTable.h"
 
 #include <gmock/gmock.h>
@@ -19,7 +19,7 @@ TEST(ResourceLibraryName, isMadeOfTheModulesStem) {
         {L"", L""},
     };
     for (const auto& [path, name] : cases) {
-        EXPECT_EQ(resourceLibraryName(path), name) << path;
+        EXPECT_EQ(mledit::resourceLibraryName(path), name) << path;
     }
     EXPECT_EQ(_loadResLib(nullptr), nullptr);
 }
@@ -44,10 +44,14 @@ TEST(ToolTable, numbersToolsByTheirKeywords) {
     int number = 0;
     for (const wchar_t* keyword :
          {L"CC", L"OC", L"MC", L"CT", L"OT", L"MT", L"CJ", L"AV", L"DV", L"CS", L"CA", L"wa"}) {
-        EXPECT_EQ(toolOfKeyword(keyword), ++number);
+        EXPECT_EQ(mledit::findTool(keyword), mledit::findTool(++number));
+        ASSERT_NE(mledit::findTool(number), nullptr);
     }
-    EXPECT_EQ(toolOfKeyword(L"WAX"), 0);
-    EXPECT_EQ(toolOfKeyword(L""), 0);
+    for (const wchar_t* keyword : {L"WAX", L""}) {
+        EXPECT_EQ(mledit::findTool(keyword), nullptr);
+    }
+    EXPECT_EQ(mledit::findTool(0), nullptr);
+    EXPECT_EQ(mledit::findTool(13), nullptr);
 }
 
 } // namespace
