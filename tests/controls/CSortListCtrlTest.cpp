@@ -1,8 +1,6 @@
 #include "CSortListCtrl.h"
 
 #include "CDialog.h"
-#include "CWinApp.h"
-#include "ProfileStore.h"
 
 #include <QDialog>
 #include <QTableWidget>
@@ -101,20 +99,6 @@ TEST_F(SortListCtrl, whatIsntThereIsRefused) {
     EXPECT_EQ(list.GetItemData(0), 0UL);
     EXPECT_TRUE(list.DeleteAllItems());
     EXPECT_EQ(list.GetItemCount(), 0);
-}
-
-TEST_F(SortListCtrl, whatAProfileSaysOfColumnsIsLeftAside) {
-    orvex::setProfileStore(nullptr);
-    list.SetHeadings(CStdStr<wchar_t>(L"A,50;B,60"));
-    const unsigned char odd[] = {0xFF, 0, 0xFF};
-    AfxGetApp()->WriteProfileBinary(L"ListCtrls", L"1046", odd, sizeof odd);
-    list.LoadColumnInfo();
-    EXPECT_EQ(list.GetColumnWidth(1), 60);
-    list.SaveColumnInfo();
-    unsigned char* stored = nullptr;
-    unsigned size = 0;
-    EXPECT_FALSE(AfxGetApp()->GetProfileBinary(L"ListCtrls", L"1046", &stored, &size));
-    orvex::setProfileStore(nullptr);
 }
 
 } // namespace

@@ -231,14 +231,17 @@ TEST_F(StyleManager, savesTheSelectedStyleIntoTheChosenLibrary) {
     EXPECT_THAT(text, testing::HasSubstr("\n0\nMLSTYLE\n2\n Pipe\n"));
 }
 
-TEST_F(StyleManager, remembersItsPlaceWhenItIsAcceptedByEnter) {
-    manage([&] { close(); });
-    EXPECT_EQ(setting(L"MlstylePosLeft"), -10000);
-    EXPECT_EQ(manage([&] {
-                  m_dialog->MoveWindow(CRect(40, 50, 560, 550));
-                  QTest::keyClick(&list(), Qt::Key_Return);
-              }),
-              1);
+TEST_F(StyleManager, remembersItsPositionWhenItIsAcceptedByEnter) {
+    const QRect position = storePosition(L"MlstylePos");
+    const auto moveAnd = [&](auto leave) {
+        return manage([&] {
+            EXPECT_EQ(m_dialog->GetSafeHwnd()->geometry().topLeft(), position.topLeft());
+            m_dialog->MoveWindow(CRect(40, 50, 560, 550));
+            leave();
+        });
+    };
+    moveAnd([&] { close(); });
+    EXPECT_EQ(moveAnd([&] { QTest::keyClick(&list(), Qt::Key_Return); }), 1);
     EXPECT_EQ(setting(L"MlstylePosLeft"), 40);
     EXPECT_EQ(setting(L"MlstylePosBottom"), 550);
 }

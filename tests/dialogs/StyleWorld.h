@@ -12,6 +12,8 @@
 #include "Session.h"
 #include "kddbObjects.h"
 
+#include <QRect>
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -80,6 +82,16 @@ protected:
 
     static int setting(const std::wstring& key) {
         return AfxGetApp()->GetProfileInt(L"Settings", key.c_str(), -10000);
+    }
+
+    // A position for a dialog to open at.
+    static QRect storePosition(const std::wstring& prefix) {
+        const std::pair<const wchar_t*, int> sides[] = {
+            {L"Left", 140}, {L"Top", 110}, {L"Right", 590}, {L"Bottom", 430}};
+        for (const auto& [side, value] : sides) {
+            AfxGetApp()->WriteProfileInt(L"Settings", (prefix + side).c_str(), value);
+        }
+        return {140, 110, 450, 320};
     }
 
     FileChooser m_chooser;

@@ -7,7 +7,6 @@
 #include <QLineEdit>
 
 using orvex::testing::child;
-using orvex::testing::press;
 using orvex::testing::runDialog;
 using orvex::testing::StyleWorld;
 
@@ -89,35 +88,30 @@ TEST_F(StyleNameDialogs, newGivesTheNameAsTypedAndTheStyleToStartWith) {
     EXPECT_TRUE(dialog.m_startWith == L"STANDARD");
 }
 
-// Opens a dialog, moves it and ends it by that button; where it was opened.
+// Opens a dialog and accepts it; where it was opened.
 template <class Dialog>
-QRect openAndEnd(KdDbObjectId dictionary, const QRect& place, const char* button) {
+QRect accept(KdDbObjectId dictionary) {
     Dialog dialog(nullptr);
     dialog.m_dictionaryId = dictionary;
     QRect opened;
     runDialog(dialog, [&] {
         opened = dialog.GetSafeHwnd()->geometry();
-        dialog.GetSafeHwnd()->setGeometry(place);
-        child<QLineEdit>(dialog, "lineEditNewStyleName").setText("Z");
-        press(*dialog.GetSafeHwnd(), button);
+        dialog.OnOK();
     });
     return opened;
 }
 
-TEST_F(StyleNameDialogs, keepTheirPlaceWhenAcceptedAndOnlyThen) {
-    const QRect place(150, 120, 420, 230);
-    openAndEnd<CMlstyleNewDlg>(dictionaryId(), place, "pBtnCancel");
-    EXPECT_EQ(setting(L"MlstyleNewPosLeft"), -10000);
-    openAndEnd<CMlstyleNewDlg>(dictionaryId(), place, "pBtnContinue");
-    EXPECT_EQ(setting(L"MlstyleNewPosLeft"), 150);
-    EXPECT_EQ(setting(L"MlstyleNewPosBottom"), 350);
-    EXPECT_EQ(openAndEnd<CMlstyleNewDlg>(dictionaryId(), place, "pBtnCancel"), place);
-
-    EXPECT_NE(openAndEnd<CMlstyleRenameDlg>(dictionaryId(), place, "pBtnOK"), place);
-    EXPECT_EQ(setting(L"MlstyleRenamePosRight"), 570);
-    // A single key that isn't stored leaves the default place.
-    AfxGetApp()->WriteProfileInt(L"Settings", L"MlstyleRenamePosTop", -10000);
-    EXPECT_NE(openAndEnd<CMlstyleRenameDlg>(dictionaryId(), place, "pBtnCancel"), place);
+TEST_F(StyleNameDialogs, openWhereTheyWereAccepted) {
+    for (const auto& [prefix, open] : {std::pair{L"MlstyleNewPos", &accept<CMlstyleNewDlg>},
+                                       {L"MlstyleRenamePos", &accept<CMlstyleRenameDlg>}}) {
+        const QRect byDefault = open(dictionaryId());
+        EXPECT_EQ(setting(std::wstring(prefix) + L"Right"), byDefault.x() + byDefault.width());
+        const QRect position = storePosition(prefix);
+        EXPECT_EQ(open(dictionaryId()), position);
+        // A single key that isn't stored leaves the default position.
+        AfxGetApp()->WriteProfileInt(L"Settings", (std::wstring(prefix) + L"Top").c_str(), -10000);
+        EXPECT_NE(open(dictionaryId()), position);
+    }
 }
 
 } // namespace

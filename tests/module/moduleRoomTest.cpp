@@ -1,7 +1,6 @@
 #include "entry.h"
 #include "moduleResources.h"
 #include "resourceLibrary.h"
-#include "toolTable.h"
 
 #include <gmock/gmock.h>
 
@@ -38,20 +37,6 @@ TEST(ExtensionModule, attachesOnceTillItIsDetached) {
     record.DetachInstance();
     EXPECT_TRUE(record.AttachInstance(nullptr));
     EXPECT_EQ(record.m_moduleResourceHandle, nullptr);
-}
-
-TEST(ToolTable, numbersToolsByTheirKeywords) {
-    int number = 0;
-    for (const wchar_t* keyword :
-         {L"CC", L"OC", L"MC", L"CT", L"OT", L"MT", L"CJ", L"AV", L"DV", L"CS", L"CA", L"wa"}) {
-        EXPECT_EQ(mledit::findTool(keyword), mledit::findTool(++number));
-        ASSERT_NE(mledit::findTool(number), nullptr);
-    }
-    for (const wchar_t* keyword : {L"WAX", L""}) {
-        EXPECT_EQ(mledit::findTool(keyword), nullptr);
-    }
-    EXPECT_EQ(mledit::findTool(0), nullptr);
-    EXPECT_EQ(mledit::findTool(13), nullptr);
 }
 
 } // namespace

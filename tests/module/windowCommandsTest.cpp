@@ -10,7 +10,6 @@
 #include "dialogRun.h"
 
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QProcess>
 
 #include <gmock/gmock.h>
@@ -26,7 +25,6 @@ using orvex::testing::child;
 using orvex::testing::clickText;
 using orvex::testing::inNextDialog;
 using orvex::testing::press;
-using orvex::testing::textsOf;
 
 // Plays a script and, where a dialog asks for a file, gives the one that it is told.
 class User final : public orvex::PromptSource {
@@ -134,7 +132,6 @@ TEST_F(WindowCommands, stylesAreLeftAsOthersReadThemAndOneUndoTakesThemBack) {
         const auto& styles = child<QListWidget>(manager, "listWidgetStyles");
         makeStyle(manager, "WALL", "brick");
         makeStyle(manager, "TEMP", ""); // starts with the one before
-        makeStyle(manager, "GONE", "");
 
         clickText(styles, "TEMP");
         inNextDialog([](const QWidget& naming) {
@@ -142,19 +139,6 @@ TEST_F(WindowCommands, stylesAreLeftAsOthersReadThemAndOneUndoTakesThemBack) {
             press(naming, "pBtnOK");
         });
         press(manager, "pBtnRename");
-
-        clickText(styles, "GONE");
-        inNextDialog([](QWidget& box) {
-            dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
-        });
-        press(manager, "pBtnDelete");
-
-        clickText(styles, "WALL");
-        inNextDialog([](const QWidget& changing) {
-            child<QLineEdit>(changing, "lEditDescription").setText("brick, 240 mm");
-            press(changing, "pBtnOK");
-        });
-        press(manager, "pBtnModify");
 
         inNextDialog([](const QWidget& loading) {
             clickText(child<QListWidget>(loading, "listWidget"), "RAILWAY");
@@ -166,7 +150,7 @@ TEST_F(WindowCommands, stylesAreLeftAsOthersReadThemAndOneUndoTakesThemBack) {
         press(manager, "pBtnSetCurrent");
         press(manager, "pBtnSave");
     });
-    EXPECT_EQ(report(), "current WALL\nSTANDARD, 2 elements, \nWALL, 3 elements, brick, 240 mm\n"
+    EXPECT_EQ(report(), "current WALL\nSTANDARD, 2 elements, \nWALL, 3 elements, brick\n"
                         "KERB, 4 elements, \nRAILWAY, 5 elements, Track of 1435 mm: rail heads of "
                         "70 mm and the centre line\n");
     std::string line;
@@ -176,25 +160,6 @@ TEST_F(WindowCommands, stylesAreLeftAsOthersReadThemAndOneUndoTakesThemBack) {
     play("MLINE\n0,0\n10,0\n\n");
     EXPECT_THAT(report(), testing::EndsWith("multiline of WALL\n"));
     play("U\nU\n");
-    EXPECT_EQ(drawing(), before);
-}
-
-// What is cancelled is as if it had never been begun.
-TEST_F(WindowCommands, changesNothingWhereEverythingIsCancelled) {
-    const std::string before = drawing();
-    manage([](const QWidget& manager) {
-        inNextDialog([](const QWidget& naming) {
-            child<QLineEdit>(naming, "lineEditNewStyleName").setText("WALL");
-            inNextDialog([](const QWidget& making) { press(making, "pBtnCancel"); });
-            press(naming, "pBtnContinue");
-        });
-        press(manager, "pBtnNew");
-        EXPECT_EQ(textsOf(child<QListWidget>(manager, "listWidgetStyles")).size(), 1U);
-        for (const char* const button : {"pBtnModify", "pBtnLoad"}) {
-            inNextDialog([](const QWidget& dialog) { press(dialog, "pBtnCancel"); });
-            press(manager, button);
-        }
-    });
     EXPECT_EQ(drawing(), before);
 }
 
