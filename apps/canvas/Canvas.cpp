@@ -74,7 +74,7 @@ void Canvas::refresh() {
 
 void Canvas::viewChanged() {
     State& s = *m_state;
-    if (s.session != nullptr && s.isShown && placeOf(s.view()) != s.shown) {
+    if (s.session != nullptr && s.isShown && stateOf(s.view()) != s.shown) {
         s.history.leave(s.shown);
         s.isAtExtents = false;
         s.showView();
@@ -105,10 +105,10 @@ void Canvas::startZoomWindow() {
 
 void Canvas::zoomPrevious() {
     State& s = *m_state;
-    ViewPlace place;
-    if (s.session != nullptr && s.isShown && s.history.back(place)) {
+    ViewState viewState;
+    if (s.session != nullptr && s.isShown && s.history.back(viewState)) {
         s.isAtExtents = false;
-        s.view().setView(place.center, place.height);
+        s.view().setView(viewState.center, viewState.height);
         s.showView();
     }
 }
@@ -156,7 +156,7 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
         (isLeft && (event->modifiers() & Qt::ShiftModifier) != 0)) {
         s.panFrom = event->pos();
         s.panButton = event->button();
-        s.history.leave(placeOf(s.view()));
+        s.history.leave(stateOf(s.view()));
         s.dropHighlight();
         s.updateCursorShape();
     } else if (event->button() == Qt::RightButton) {
@@ -190,9 +190,10 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     if (s.panFrom) {
-        const QPoint way = event->pos() - *s.panFrom;
+        const QPoint direction = event->pos() - *s.panFrom;
         s.panFrom = event->pos();
-        s.moveTo(panned(s.view(), {static_cast<double>(way.x()), static_cast<double>(way.y())}),
+        s.moveTo(panned(s.view(),
+                        {static_cast<double>(direction.x()), static_cast<double>(direction.y())}),
                  true);
     } else if (s.aim != CanvasAim::point) {
         s.isHighlightStale = true;

@@ -34,8 +34,8 @@ KdGeVector3d userAxis(KdDbDatabase& database, const char* name, const KdGeVector
 }
 
 // The distance of the view's middle, in heights of the view.
-double heightsFromOrigin(const ViewPlace& place) {
-    return std::max(std::abs(place.center.x), std::abs(place.center.y)) / place.height;
+double heightsFromOrigin(const ViewState& viewState) {
+    return std::max(std::abs(viewState.center.x), std::abs(viewState.center.y)) / viewState.height;
 }
 
 } // namespace
@@ -122,38 +122,38 @@ void Canvas::State::fitWidget() {
 
 // Whoever has moved it.
 void Canvas::State::showView() {
-    const ViewPlace place = placeOf(view());
-    if (place == shown) {
+    const ViewState viewState = stateOf(view());
+    if (viewState == shown) {
         return;
     }
     if (shown.height > 0.0) {
         isHighlightStale = true;
     }
-    shown = place;
+    shown = viewState;
     picture.setView(view(), canvas.devicePixelRatioF());
     canvas.update();
     startWork();
 }
 
-void Canvas::State::moveTo(const ViewPlace& place, bool sameMovement) {
+void Canvas::State::moveTo(const ViewState& viewState, bool sameMovement) {
     // From where only a command can lead, every step back is welcome.
-    const ViewPlace now = placeOf(view());
+    const ViewState now = stateOf(view());
     const double farthest = std::max(kFarthestPixel / view().height(), heightsFromOrigin(now));
     const double greatest = std::max(kGreatestHeight, now.height);
-    if (!(heightsFromOrigin(place) <= farthest) || !(place.height <= greatest)) {
+    if (!(heightsFromOrigin(viewState) <= farthest) || !(viewState.height <= greatest)) {
         return;
     }
-    history.leave(placeOf(view()), sameMovement);
+    history.leave(stateOf(view()), sameMovement);
     isAtExtents = false;
-    view().setView(place.center, place.height);
+    view().setView(viewState.center, viewState.height);
     showView();
 }
 
 void Canvas::State::zoomToExtents() {
     wantsExtents = false;
-    const ViewPlace before = placeOf(view());
+    const ViewState before = stateOf(view());
     view().zoomTo(session->scene().extents());
-    if (placeOf(view()) != before) {
+    if (stateOf(view()) != before) {
         history.leave(before, isAtExtents);
     }
     isAtExtents = true;
@@ -176,7 +176,7 @@ void Canvas::State::updateHighlight() {
         const int pickBox = PromptSession::current().pickBox;
         const double reach = pickBox * view().unitsPerPixel();
         const PlanBox square{{at.x - reach, at.y - reach}, {at.x + reach, at.y + reach}};
-        if (session->scene().placesIn(square).size() <= kMostUnderCursor) {
+        if (session->scene().entitiesIn(square).size() <= kMostUnderCursor) {
             found = session->scene().entityAt({at.x, at.y, 0.0}, pickBox);
         }
     }
@@ -221,7 +221,7 @@ void Canvas::State::paintMarks(QPainter& painter) const {
     paintAxes(painter, canvas.size(), userAxis(database, "UCSXDIR", {1.0, 0.0, 0.0}),
               userAxis(database, "UCSYDIR", {0.0, 1.0, 0.0}));
     if (highlight.entity != nullptr) {
-        paintHighlight(painter, view(), highlight.look);
+        paintHighlight(painter, view(), highlight.appearance);
     }
     if (!cursor || panFrom) {
         return;
@@ -248,9 +248,9 @@ void Canvas::State::paintAim(QPainter& painter) const {
     case CanvasAim::point:
         if (request && request->preview) {
             const PlanPoint at = planAtCursor();
-            Appearance look;
-            request->preview({at.x, at.y, 0.0}, look);
-            paintPreview(painter, view(), look);
+            Appearance appearance;
+            request->preview({at.x, at.y, 0.0}, appearance);
+            paintPreview(painter, view(), appearance);
         } else if (request && request->base) {
             paintRubberLine(painter, view(), {request->base->x, request->base->y}, *cursor);
         }

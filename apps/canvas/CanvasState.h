@@ -18,7 +18,7 @@ struct Canvas::State {
     enum class WindowStep : std::uint8_t { off, first, second };
     struct Highlight {
         KdDbStub* entity = nullptr;
-        Appearance look;
+        Appearance appearance;
     };
 
     Canvas& canvas;
@@ -26,7 +26,7 @@ struct Canvas::State {
     bool isShown = false;      // the session's view fits the widget and is painted
     bool wantsExtents = false; // once the scene is up to date
     bool isAtExtents = false;  // nobody has moved the view since
-    ViewPlace shown;           // what the picture is of
+    ViewState shown;           // what the picture is of
     PlanPicture picture;
     ViewHistory history;
     QTimer work; // ticks between all other events while there is something to be done
@@ -55,7 +55,7 @@ struct Canvas::State {
     bool startView();
     void showView();
     void fitWidget();
-    void moveTo(const ViewPlace& place, bool sameMovement);
+    void moveTo(const ViewState& state, bool sameMovement);
     void zoomToExtents();
     void updateHighlight();
     void dropHighlight();

@@ -68,19 +68,21 @@ void LinePainter::dashedChain(std::span<const PlanPoint> points, std::uint32_t r
 // start, whatever the clip is.
 void LinePainter::dashes(PlanPoint from, PlanPoint to, double before, std::uint32_t rgb,
                          const DashCycle& cycle, double period) {
-    const PlanPoint way{to.x - from.x, to.y - from.y};
-    const double length = std::hypot(way.x, way.y);
+    const PlanPoint direction{to.x - from.x, to.y - from.y};
+    const double length = std::hypot(direction.x, direction.y);
     if (!(length > 0.0)) {
         return;
     }
     // From where to where along the piece the clip can be met at all.
     const PlanPoint middle{(m_left + m_right) / 2.0, (m_top + m_bottom) / 2.0};
     const double reach = m_right - m_left + m_bottom - m_top + 2.0 * period + m_width;
-    const double nearest = ((middle.x - from.x) * way.x + (middle.y - from.y) * way.y) / length;
+    const double nearest =
+        ((middle.x - from.x) * direction.x + (middle.y - from.y) * direction.y) / length;
     const double first = std::clamp(nearest - reach, 0.0, length);
     const double last = std::clamp(nearest + reach, 0.0, length);
     const auto at = [&](double along) {
-        return PlanPoint{from.x + way.x * (along / length), from.y + way.y * (along / length)};
+        return PlanPoint{from.x + direction.x * (along / length),
+                         from.y + direction.y * (along / length)};
     };
     for (double turn = std::floor((before + first) / period); turn * period - before <= last;
          turn += 1.0) {

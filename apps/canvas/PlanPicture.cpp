@@ -133,9 +133,9 @@ void PlanPicture::dropFarTiles() {
         return;
     }
     const auto distance = [this](const Tile& tile) {
-        const QPoint way =
+        const QPoint direction =
             m_grid.tileOrigin(tile.key) - QPoint(m_size.width(), m_size.height()) / 2;
-        return std::max(std::abs(way.x()), std::abs(way.y()));
+        return std::max(std::abs(direction.x()), std::abs(direction.y()));
     };
     // Down to half, so that not every step of a pan has to look again.
     const auto nearest = m_tiles.begin() + static_cast<std::ptrdiff_t>(most / 2);

@@ -1,6 +1,6 @@
 #include "TilePainting.h"
 
-#include "lookStrokes.h"
+#include "drawStrokes.h"
 #include "paintAppearance.h"
 
 #include <QPainter>
@@ -13,18 +13,18 @@ namespace orvex {
 namespace {
 
 // Sides of boxes in pixels. What is no larger than a dot shows as one; what is no larger than a
-// sketch is drawn from its sketch, whose points are then right to a thousandth of a pixel.
+// compact appearance is drawn from it; its points are then right to a thousandth of a pixel.
 constexpr double kDotSide = 1.5;
-constexpr double kSketchSide = 64.0;
+constexpr double kCompactSide = 64.0;
 constexpr double kLeastLabel = 1.0; // pixels high; painters leave out smaller ones
-constexpr std::size_t kEntitiesBetweenLooksAtTheClock = 8;
+constexpr std::size_t kEntitiesBetweenClockReads = 8;
 
 } // namespace
 
 TilePainting::TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, QImage before,
                            const QRect& pixels)
     : m_scene(&scene), m_grid(grid), m_tile(tile), m_pixels(pixels), m_image(std::move(before)),
-      m_places(scene.placesIn(grid.planOf(tile, pixels))) {
+      m_entities(scene.entitiesIn(grid.planOf(tile, pixels))) {
     if (m_image.isNull()) {
         m_image = QImage(PixelGrid::kTileSide, PixelGrid::kTileSide, QImage::Format_RGB32);
     }
@@ -45,13 +45,12 @@ bool TilePainting::advance(Deadline deadline) {
 }
 
 bool TilePainting::isOver(Deadline deadline) const {
-    return m_next % kEntitiesBetweenLooksAtTheClock == 0 &&
-           std::chrono::steady_clock::now() >= deadline;
+    return m_next % kEntitiesBetweenClockReads == 0 && std::chrono::steady_clock::now() >= deadline;
 }
 
 // The longer side of an entity's box, in pixels of lines.
-double TilePainting::sideOf(std::uint32_t place) const {
-    const PlanBox& box = m_scene->boxAt(place);
+double TilePainting::sideOf(std::uint32_t entity) const {
+    const PlanBox& box = m_scene->boxAt(entity);
     return std::max(box.high.x - box.low.x, box.high.y - box.low.y) /
            (m_grid.unitsPerPixel() * m_grid.lineWidth());
 }
@@ -62,16 +61,16 @@ bool TilePainting::paintFills(Deadline deadline) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(m_pixels);
     LinePainter lines(m_image, m_pixels, m_grid.lineWidth());
-    for (; m_next < m_places.size(); ++m_next) {
+    for (; m_next < m_entities.size(); ++m_next) {
         if (isOver(deadline)) {
             return false;
         }
-        const std::uint32_t place = m_places[m_next];
-        const double side = sideOf(place);
-        if (side > kSketchSide) {
-            paintAppearance(painter, m_scene->lookAt(place), view, {}, PaintParts::fills);
+        const std::uint32_t entity = m_entities[m_next];
+        const double side = sideOf(entity);
+        if (side > kCompactSide) {
+            paintAppearance(painter, m_scene->appearanceAt(entity), view, {}, PaintParts::fills);
         } else if (side > kDotSide) {
-            paintAreas(m_scene->sketchAt(place), m_scene->boxAt(place), lines);
+            paintAreas(m_scene->compactAppearanceAt(entity), m_scene->boxAt(entity), lines);
         }
     }
     return true;
@@ -80,20 +79,20 @@ bool TilePainting::paintFills(Deadline deadline) {
 bool TilePainting::paintLines(Deadline deadline) {
     const PlanView view = m_grid.viewOf(m_tile);
     LinePainter lines(m_image, m_pixels, m_grid.lineWidth());
-    for (; m_next < m_places.size(); ++m_next) {
+    for (; m_next < m_entities.size(); ++m_next) {
         if (isOver(deadline)) {
             return false;
         }
-        const std::uint32_t place = m_places[m_next];
-        if (paintSmall(place, lines)) {
+        const std::uint32_t entity = m_entities[m_next];
+        if (paintSmall(entity, lines)) {
             continue;
         }
-        const Appearance& look = m_scene->lookAt(place);
-        drawStrokes(lines, look, 1.0 / m_grid.unitsPerPixel(), m_grid.lineWidth(),
+        const Appearance& appearance = m_scene->appearanceAt(entity);
+        drawStrokes(lines, appearance, 1.0 / m_grid.unitsPerPixel(), m_grid.lineWidth(),
                     [this](PlanPoint point) { return m_grid.toTilePixels(m_tile, point); });
-        if (!look.labels.empty()) {
+        if (!appearance.labels.empty()) {
             Appearance labels;
-            labels.labels = look.labels;
+            labels.labels = appearance.labels;
             QPainter painter(&m_image);
             painter.setRenderHint(QPainter::Antialiasing);
             painter.setClipRect(m_pixels);
@@ -103,34 +102,35 @@ bool TilePainting::paintLines(Deadline deadline) {
     return true;
 }
 
-// False when the entity needs its look.
-bool TilePainting::paintSmall(std::uint32_t place, LinePainter& lines) {
-    const double side = sideOf(place);
-    if (side > kSketchSide) {
+// False when the entity needs its full appearance.
+bool TilePainting::paintSmall(std::uint32_t entity, LinePainter& lines) {
+    const double side = sideOf(entity);
+    if (side > kCompactSide) {
         return false;
     }
-    const PlanBox& box = m_scene->boxAt(place);
-    const LookSketch sketch = m_scene->sketchAt(place);
+    const PlanBox& box = m_scene->boxAt(entity);
+    const CompactAppearance compactAppearance = m_scene->compactAppearanceAt(entity);
     if (side > kDotSide) {
-        return paintSketch(sketch, box, lines);
+        return paintCompact(compactAppearance, box, lines);
     }
     const PlanPoint middle{(box.low.x + box.high.x) / 2, (box.low.y + box.high.y) / 2};
-    lines.dot(m_grid.toTilePixels(m_tile, middle), sketch.rgb());
+    lines.dot(m_grid.toTilePixels(m_tile, middle), compactAppearance.rgb());
     return true;
 }
 
-bool TilePainting::paintSketch(LookSketch sketch, const PlanBox& box, LinePainter& lines) {
+bool TilePainting::paintCompact(CompactAppearance compactAppearance, const PlanBox& box,
+                                LinePainter& lines) {
     const double pixelsOfUnit = 1.0 / m_grid.unitsPerPixel();
-    if (sketch.labelHeight() * pixelsOfUnit >= kLeastLabel) {
+    if (compactAppearance.labelHeight() * pixelsOfUnit >= kLeastLabel) {
         return false;
     }
-    LookSketch::Line line;
-    for (LookSketch ahead = sketch; ahead.next(line);) {
+    CompactAppearance::Line line;
+    for (CompactAppearance ahead = compactAppearance; ahead.next(line);) {
         if (line.period * pixelsOfUnit >= kLeastDashPeriod) {
             return false;
         }
     }
-    while (sketch.next(line)) {
+    while (compactAppearance.next(line)) {
         if (!line.isFill) {
             lines.chain(inPixels(line, box), line.rgb);
         }
@@ -138,21 +138,22 @@ bool TilePainting::paintSketch(LookSketch sketch, const PlanBox& box, LinePainte
     return true;
 }
 
-void TilePainting::paintAreas(LookSketch sketch, const PlanBox& box, LinePainter& lines) {
-    if (!sketch.hasFills()) {
+void TilePainting::paintAreas(CompactAppearance compactAppearance, const PlanBox& box,
+                              LinePainter& lines) {
+    if (!compactAppearance.hasFills()) {
         return;
     }
-    LookSketch::Line line;
-    while (sketch.next(line) && line.isFill) {
+    CompactAppearance::Line line;
+    while (compactAppearance.next(line) && line.isFill) {
         lines.area(inPixels(line, box), line.rgb);
     }
 }
 
-const std::vector<PlanPoint>& TilePainting::inPixels(const LookSketch::Line& line,
+const std::vector<PlanPoint>& TilePainting::inPixels(const CompactAppearance::Line& line,
                                                      const PlanBox& box) {
     m_points.clear();
     for (const std::uint32_t point : line.points) {
-        m_points.push_back(m_grid.toTilePixels(m_tile, LookSketch::place(point, box)));
+        m_points.push_back(m_grid.toTilePixels(m_tile, CompactAppearance::decoded(point, box)));
     }
     return m_points;
 }

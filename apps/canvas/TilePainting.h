@@ -39,18 +39,18 @@ private:
     bool paintFills(Deadline deadline);
     bool paintLines(Deadline deadline);
     [[nodiscard]] bool isOver(Deadline deadline) const;
-    [[nodiscard]] double sideOf(std::uint32_t place) const;
-    bool paintSmall(std::uint32_t place, LinePainter& lines);
-    bool paintSketch(LookSketch sketch, const PlanBox& box, LinePainter& lines);
-    void paintAreas(LookSketch sketch, const PlanBox& box, LinePainter& lines);
-    const std::vector<PlanPoint>& inPixels(const LookSketch::Line& line, const PlanBox& box);
+    [[nodiscard]] double sideOf(std::uint32_t entity) const;
+    bool paintSmall(std::uint32_t entity, LinePainter& lines);
+    bool paintCompact(CompactAppearance compactAppearance, const PlanBox& box, LinePainter& lines);
+    void paintAreas(CompactAppearance compactAppearance, const PlanBox& box, LinePainter& lines);
+    const std::vector<PlanPoint>& inPixels(const CompactAppearance::Line& line, const PlanBox& box);
 
     Scene* m_scene;
     PixelGrid m_grid;
     TileKey m_tile;
     QRect m_pixels;
     QImage m_image;
-    std::vector<std::uint32_t> m_places;
+    std::vector<std::uint32_t> m_entities;
     std::size_t m_next = 0;
     Pass m_pass = Pass::fills;
     std::vector<PlanPoint> m_points; // kept, so that not every line needs memory of its own

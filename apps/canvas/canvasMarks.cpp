@@ -27,13 +27,13 @@ std::uint32_t brighter(std::uint32_t rgb) {
 
 void drawAxis(QPainter& painter, const QPointF& origin, const KdGeVector3d& axis,
               const QColor& color, const QString& name) {
-    const QPointF way(axis.x * kAxisLength, -axis.y * kAxisLength);
-    const double length = std::hypot(way.x(), way.y());
+    const QPointF direction(axis.x * kAxisLength, -axis.y * kAxisLength);
+    const double length = std::hypot(direction.x(), direction.y());
     if (!(length > 1.0)) {
         return; // it points to the viewer
     }
-    const QPointF tip = origin + way;
-    const QPointF along = way / length;
+    const QPointF tip = origin + direction;
+    const QPointF along = direction / length;
     const QPointF across(-along.y(), along.x());
     painter.setPen(QPen(color, 1.5));
     painter.drawLine(origin, tip);
@@ -68,11 +68,11 @@ void paintPickBox(QPainter& painter, const QPoint& cursor, int pickBox) {
 
 void paintRubberLine(QPainter& painter, const PlanView& view, PlanPoint base,
                      const QPoint& cursor) {
-    Appearance look;
+    Appearance appearance;
     const PlanPoint end = view.toPlan({cursor.x() + 0.5, cursor.y() + 0.5});
-    look.strokes.push_back({.points = {base, end}, .rgb = kRubberColor.rgb()});
+    appearance.strokes.push_back({.points = {base, end}, .rgb = kRubberColor.rgb()});
     painter.setRenderHint(QPainter::Antialiasing);
-    paintAppearance(painter, look, view, {});
+    paintAppearance(painter, appearance, view, {});
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
@@ -85,11 +85,11 @@ void paintRubberWindow(QPainter& painter, const QPoint& oneCorner, const QPoint&
     painter.setBrush(Qt::NoBrush);
 }
 
-void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& look) {
+void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& appearance) {
     Appearance bright;
-    bright.strokes = look.strokes;
-    bright.dashPatterns = look.dashPatterns;
-    bright.labels = look.labels;
+    bright.strokes = appearance.strokes;
+    bright.dashPatterns = appearance.dashPatterns;
+    bright.labels = appearance.labels;
     for (Stroke& stroke : bright.strokes) {
         stroke.rgb = brighter(stroke.rgb);
     }
@@ -102,9 +102,9 @@ void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& l
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void paintPreview(QPainter& painter, const PlanView& view, const Appearance& look) {
+void paintPreview(QPainter& painter, const PlanView& view, const Appearance& appearance) {
     painter.setRenderHint(QPainter::Antialiasing);
-    paintAppearance(painter, look, view, {});
+    paintAppearance(painter, appearance, view, {});
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 

@@ -19,9 +19,9 @@ void paintCrosshair(QPainter& painter, const QPoint& cursor, const QSize& view, 
 void paintPickBox(QPainter& painter, const QPoint& cursor, int pickBox);
 void paintRubberLine(QPainter& painter, const PlanView& view, PlanPoint base, const QPoint& cursor);
 void paintRubberWindow(QPainter& painter, const QPoint& oneCorner, const QPoint& otherCorner);
-// A look on top of the picture: thicker and brighter than it is there, or as it would be.
-void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& look);
-void paintPreview(QPainter& painter, const PlanView& view, const Appearance& look);
+// An appearance on top of the picture: thicker and brighter than it is there, or as it would be.
+void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& appearance);
+void paintPreview(QPainter& painter, const PlanView& view, const Appearance& appearance);
 // The axes of the user's coordinate system, in the lower left corner.
 void paintAxes(QPainter& painter, const QSize& view, const KdGeVector3d& xAxis,
                const KdGeVector3d& yAxis);

@@ -8,9 +8,9 @@
 #include "KdDbStub.h"
 #include "MlineContent.h"
 #include "TilePainting.h"
-#include "lookStrokes.h"
-#include "newChain.h"
+#include "drawStrokes.h"
 #include "mlinePainter.h"
+#include "newChain.h"
 #include "newMline.h"
 #include "paintAppearance.h"
 
@@ -66,11 +66,11 @@ double reachOfEnd(bool isRound, double angle, double height) {
 }
 
 // The style's multiline within so many pixels, y upwards.
-Appearance swatchLook(const KdDbMlineStyle& style, double width, double height) {
-    Appearance look;
+Appearance swatchAppearance(const KdDbMlineStyle& style, double width, double height) {
+    Appearance appearance;
     MlineSettings settings = settingsOf(style);
     if (settings.offsets.empty()) {
-        return look;
+        return appearance;
     }
     const auto [least, greatest] =
         std::minmax_element(settings.offsets.begin(), settings.offsets.end());
@@ -84,15 +84,15 @@ Appearance swatchLook(const KdDbMlineStyle& style, double width, double height) 
     const std::vector<KdGePoint3d> points{
         {left, middle, 0.0}, {(left + right) / 2, middle, 0.0}, {right, middle, 0.0}};
     if (!(right > left)) {
-        return look;
+        return appearance;
     }
     KdDbMline mline;
     fillChain(mline, makeNewChain(points, false, {0.0, 0.0, 1.0}, settings));
-    AppearanceInk ink(look);
-    Pencil pencil(ink);
+    AppearanceSink whole(appearance);
+    PlacedSink sink(whole);
     const auto content = std::static_pointer_cast<const MlineContent>(mline.content());
-    paintMline(*content, &style.values(), pensOf(style.values(), right - left), pencil);
-    return look;
+    paintMline(*content, &style.values(), pensOf(style.values(), right - left), sink);
+    return appearance;
 }
 
 } // namespace
@@ -104,16 +104,17 @@ QPixmap styleSwatch(const KdDbMlineStyle& style, const QSize& size, double devic
         return {};
     }
     image.fill(QColor::fromRgb(kGroundRgb));
-    const Appearance look = swatchLook(style, pixels.width(), pixels.height());
+    const Appearance appearance = swatchAppearance(style, pixels.width(), pixels.height());
     PlanView view(pixels.width(), pixels.height());
     view.setView({pixels.width() / 2.0, pixels.height() / 2.0}, pixels.height());
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintAppearance(painter, look, view, {}, PaintParts::fills);
+    paintAppearance(painter, appearance, view, {}, PaintParts::fills);
     painter.end();
     const int lineWidth = std::max(1, static_cast<int>(std::lround(devicePixelRatio)));
     LinePainter lines(image, image.rect(), lineWidth);
-    drawStrokes(lines, look, 1.0, lineWidth, [&](PlanPoint point) { return view.toPixels(point); });
+    drawStrokes(lines, appearance, 1.0, lineWidth,
+                [&](PlanPoint point) { return view.toPixels(point); });
     QPixmap pixmap = QPixmap::fromImage(image);
     pixmap.setDevicePixelRatio(devicePixelRatio);
     return pixmap;

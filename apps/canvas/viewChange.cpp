@@ -7,29 +7,29 @@ namespace orvex {
 
 namespace {
 
-constexpr std::size_t kMostPlaces = 100;
+constexpr std::size_t kMostStates = 100;
 
 } // namespace
 
-ViewPlace placeOf(const PlanView& view) {
+ViewState stateOf(const PlanView& view) {
     return {view.center(), view.viewHeight()};
 }
 
-ViewPlace zoomedAt(const PlanView& view, PlanPoint pixel, double factor) {
+ViewState zoomedAt(const PlanView& view, PlanPoint pixel, double factor) {
     const PlanPoint fixed = view.toPlan(pixel);
     const PlanPoint center = view.center();
     return {{fixed.x + (center.x - fixed.x) / factor, fixed.y + (center.y - fixed.y) / factor},
             view.viewHeight() / factor};
 }
 
-ViewPlace panned(const PlanView& view, PlanPoint pixels) {
+ViewState panned(const PlanView& view, PlanPoint pixels) {
     const PlanPoint center = view.center();
     return {
         {center.x - pixels.x * view.unitsPerPixel(), center.y + pixels.y * view.unitsPerPixel()},
         view.viewHeight()};
 }
 
-ViewPlace windowed(const PlanView& view, PlanPoint oneCorner, PlanPoint otherCorner) {
+ViewState windowed(const PlanView& view, PlanPoint oneCorner, PlanPoint otherCorner) {
     const PlanPoint middle{(oneCorner.x + otherCorner.x) / 2, (oneCorner.y + otherCorner.y) / 2};
     const double width = std::abs(otherCorner.x - oneCorner.x) / view.width();
     const double height = std::abs(otherCorner.y - oneCorner.y) / view.height();
@@ -37,22 +37,22 @@ ViewPlace windowed(const PlanView& view, PlanPoint oneCorner, PlanPoint otherCor
     return {view.toPlan(middle), view.viewHeight() * part};
 }
 
-void ViewHistory::leave(const ViewPlace& place, bool sameMovement) {
-    if (sameMovement || (!m_places.empty() && m_places.back() == place)) {
+void ViewHistory::leave(const ViewState& state, bool sameMovement) {
+    if (sameMovement || (!m_states.empty() && m_states.back() == state)) {
         return;
     }
-    if (m_places.size() == kMostPlaces) {
-        m_places.erase(m_places.begin());
+    if (m_states.size() == kMostStates) {
+        m_states.erase(m_states.begin());
     }
-    m_places.push_back(place);
+    m_states.push_back(state);
 }
 
-bool ViewHistory::back(ViewPlace& place) {
-    if (m_places.empty()) {
+bool ViewHistory::back(ViewState& state) {
+    if (m_states.empty()) {
         return false;
     }
-    place = m_places.back();
-    m_places.pop_back();
+    state = m_states.back();
+    m_states.pop_back();
     return true;
 }
 

@@ -95,10 +95,10 @@ void SvgPicture::addStroke(const Stroke& stroke, const Appearance& appearance) {
     if (stroke.points.empty()) {
         return;
     }
-    const std::string look = strokeLook(stroke, appearance);
-    if (look != m_pathLook || m_path.size() > kLongestPath) {
+    const std::string attributes = strokeAttributes(stroke, appearance);
+    if (attributes != m_pathAttributes || m_path.size() > kLongestPath) {
         endPath();
-        m_pathLook = look;
+        m_pathAttributes = attributes;
     }
     // Dashes begin anew with each line.
     const std::string start = decimals(m_view.toPixels(stroke.points.front()));
@@ -120,31 +120,31 @@ void SvgPicture::addStroke(const Stroke& stroke, const Appearance& appearance) {
     }
 }
 
-std::string SvgPicture::strokeLook(const Stroke& stroke, const Appearance& appearance) const {
-    std::string look = "stroke=\"" + color(paintedRgb(stroke.rgb, m_settings)) + '"';
+std::string SvgPicture::strokeAttributes(const Stroke& stroke, const Appearance& appearance) const {
+    std::string attributes = "stroke=\"" + color(paintedRgb(stroke.rgb, m_settings)) + '"';
     if (stroke.dashes == 0 || stroke.dashes > appearance.dashPatterns.size()) {
-        return look;
+        return attributes;
     }
     const DashCycle cycle =
         dashCycle(appearance.dashPatterns[stroke.dashes - 1], 1.0 / m_view.unitsPerPixel(),
                   m_settings.lineWidth, kLeastPeriod);
     if (cycle.lengths.empty()) {
-        return look;
+        return attributes;
     }
-    look += " stroke-linecap=\"butt\" stroke-dasharray=\"";
+    attributes += " stroke-linecap=\"butt\" stroke-dasharray=\"";
     for (std::size_t i = 0; i < cycle.lengths.size(); ++i) {
-        look += (i > 0 ? " " : "") + decimal(cycle.lengths[i]);
+        attributes += (i > 0 ? " " : "") + decimal(cycle.lengths[i]);
     }
-    look += '"';
+    attributes += '"';
     if (cycle.offset > 0.0) {
-        look += " stroke-dashoffset=\"" + decimal(cycle.offset) + '"';
+        attributes += " stroke-dashoffset=\"" + decimal(cycle.offset) + '"';
     }
-    return look;
+    return attributes;
 }
 
 void SvgPicture::endPath() {
     if (!m_path.empty()) {
-        m_lines += "<path " + m_pathLook + " d=\"" + m_path + "\"/>\n";
+        m_lines += "<path " + m_pathAttributes + " d=\"" + m_path + "\"/>\n";
     }
     m_path.clear();
     m_pathEnd.clear();

@@ -24,7 +24,8 @@ private:
     void addFill(const Fill& fill);
     void addStroke(const Stroke& stroke, const Appearance& appearance);
     void addLabel(const Label& label);
-    [[nodiscard]] std::string strokeLook(const Stroke& stroke, const Appearance& appearance) const;
+    [[nodiscard]] std::string strokeAttributes(const Stroke& stroke,
+                                               const Appearance& appearance) const;
     void endPath();
 
     const PlanView& m_view;
@@ -32,7 +33,7 @@ private:
     std::string m_fills;
     std::string m_lines;
     std::string m_labels;
-    std::string m_pathLook; // attributes of the path that is being written
+    std::string m_pathAttributes; // attributes of the path that is being written
     std::string m_path;
     std::string m_pathEnd; // where it has come to
 };

@@ -12,15 +12,15 @@ struct Inside {
     double enter = 0.0;
     double leave = 1.0;
 
-    void narrow(double from, double way, double low, double high) {
-        if (way == 0.0) {
+    void narrow(double from, double direction, double low, double high) {
+        if (direction == 0.0) {
             if (from < low || from > high) {
                 leave = -1.0;
             }
             return;
         }
-        const double one = (low - from) / way;
-        const double other = (high - from) / way;
+        const double one = (low - from) / direction;
+        const double other = (high - from) / direction;
         enter = std::max(enter, std::min(one, other));
         leave = std::min(leave, std::max(one, other));
     }
@@ -28,20 +28,21 @@ struct Inside {
 
 } // namespace
 
-std::vector<ChainRun> clipChain(std::span<const PlanPoint> chain, const PlanBox& frame) {
-    std::vector<ChainRun> runs;
+std::vector<ChainPart> clipChain(std::span<const PlanPoint> chain, const PlanBox& frame) {
+    std::vector<ChainPart> runs;
     double passed = 0.0;
     bool running = false;
     for (std::size_t i = 0; i + 1 < chain.size(); ++i) {
         const PlanPoint& from = chain[i];
-        const PlanPoint way{chain[i + 1].x - from.x, chain[i + 1].y - from.y};
-        const double length = std::hypot(way.x, way.y);
+        const PlanPoint direction{chain[i + 1].x - from.x, chain[i + 1].y - from.y};
+        const double length = std::hypot(direction.x, direction.y);
         Inside inside;
-        inside.narrow(from.x, way.x, frame.low.x, frame.high.x);
-        inside.narrow(from.y, way.y, frame.low.y, frame.high.y);
+        inside.narrow(from.x, direction.x, frame.low.x, frame.high.x);
+        inside.narrow(from.y, direction.y, frame.low.y, frame.high.y);
         const auto at = [&](double part) {
-            return part >= 1.0 ? chain[i + 1]
-                               : PlanPoint{from.x + way.x * part, from.y + way.y * part};
+            return part >= 1.0
+                       ? chain[i + 1]
+                       : PlanPoint{from.x + direction.x * part, from.y + direction.y * part};
         };
         if (inside.enter <= inside.leave) {
             if (!running || inside.enter > 0.0) {

@@ -74,7 +74,7 @@ public:
             pen.setCapStyle(Qt::FlatCap);
             pen.setDashPattern(inPenWidths(cycle));
         }
-        for (const ChainRun& run : clipChain(toPixels(stroke.points, m_view), m_frame)) {
+        for (const ChainPart& run : clipChain(toPixels(stroke.points, m_view), m_frame)) {
             if (!cycle.lengths.empty()) {
                 const double offset = std::fmod(run.before + cycle.offset, cycle.period());
                 pen.setDashOffset(offset / m_settings.lineWidth);

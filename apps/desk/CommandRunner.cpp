@@ -47,7 +47,7 @@ void CommandRunner::run(const QString& name, const QStringList& answers) {
     if (m_session == nullptr) {
         return;
     }
-    waitForFirstLook();
+    waitForPickIndex();
     if (m_task) {
         return; // something else was started meanwhile
     }
@@ -65,7 +65,7 @@ void CommandRunner::run(const QString& name, const QStringList& answers) {
 
 // A command needs the view, and so the extents of the drawing. In a large one they take a while, in
 // which the window lives on.
-void CommandRunner::waitForFirstLook() {
+void CommandRunner::waitForPickIndex() {
     constexpr std::chrono::milliseconds kSlice{8};
     while (!m_task && !m_session->isViewStarted() && !m_session->scene().prepareSome(kSlice)) {
         QCoreApplication::processEvents();

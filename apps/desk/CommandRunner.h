@@ -38,7 +38,7 @@ signals:
 private:
     void work();
     void run(const QString& name, const QStringList& answers);
-    void waitForFirstLook();
+    void waitForPickIndex();
 
     DeskPrompts& m_prompts;
     Session* m_session = nullptr;

@@ -157,8 +157,8 @@ double plainRepaint(Scene& scene, const PlanView& view, bool smooth) {
                             image.fill(Qt::black);
                             QPainter painter(&image);
                             painter.setRenderHint(QPainter::Antialiasing, smooth);
-                            scene.visitAll([&](KdDbStub&, const Appearance& look) {
-                                for (const Stroke& stroke : look.strokes) {
+                            scene.visitAll([&](KdDbStub&, const Appearance& appearance) {
+                                for (const Stroke& stroke : appearance.strokes) {
                                     painter.setPen(QPen(QColor::fromRgb(stroke.rgb), 1.0));
                                     for (std::size_t i = 0; i + 1 < stroke.points.size(); ++i) {
                                         const PlanPoint a = view.toPixels(stroke.points[i]);

@@ -8,7 +8,7 @@
 
 namespace orvex {
 
-// A place in the plan, drawing units.
+// A point of the plan, drawing units.
 struct PlanPoint {
     double x = 0.0;
     double y = 0.0;

@@ -10,10 +10,11 @@ struct KdDbStub;
 
 namespace orvex {
 
-// Looks that were asked for, up to a bounded amount of memory. Two generations: what is used goes
-// into the young one, and when that is full it becomes the old one, whose looks are dropped unless
-// they are used again. So a look found or kept just now always survives. Freeing thousands of looks
-// at once would hold up a window; what is dropped in bulk goes bit by bit as new looks come in.
+// Appearances that were asked for, in a bounded amount of memory. Two generations: what is used
+// goes into the young one; when that is full it becomes the old one, whose appearances are dropped
+// unless they are used again. So one found or kept just now always survives. Freeing thousands of
+// them at once would hold up a window; what is dropped in bulk is freed step by step as new ones
+// come in.
 class AppearanceCache {
 public:
     explicit AppearanceCache(std::size_t bytes) : m_youngLimit(bytes / 3) {}

@@ -17,47 +17,47 @@ constexpr std::size_t kMostPoints = 1'000'000;
 } // namespace
 
 bool EntityDrawer::draw(const EntityReading& entity) {
-    Pencil pencil(m_ink);
-    return draw(entity, {}, pencil);
+    PlacedSink sink(m_sink);
+    return draw(entity, {}, sink);
 }
 
-bool EntityDrawer::draw(const EntityReading& entity, const Context& context, Pencil& pencil) {
+bool EntityDrawer::draw(const EntityReading& entity, const Context& context, PlacedSink& sink) {
     const EntityTraits& traits = entity.traits();
     const bool inherits = context.insertLayer != nullptr && traits.layer == L"0";
-    const LayerLook& layer = inherits ? *context.insertLayer : m_table.layer(traits.layer);
+    const LayerTraits& layer = inherits ? *context.insertLayer : m_table.layer(traits.layer);
     if (!traits.visible || !layer.seen) {
         return false;
     }
     Means means{layer, {}, traits.linetypeScale};
-    if (m_ink.wantsPens()) {
+    if (m_sink.wantsPens()) {
         means.pen = m_table.pen(traits.color, traits.linetype, traits.linetypeScale, layer,
                                 context.byBlock);
     }
     if (const auto* mline = std::get_if<std::shared_ptr<const MlineContent>>(&entity.geometry)) {
         if (*mline != nullptr) {
-            drawMultiline(**mline, means, pencil);
+            drawMultiline(**mline, means, sink);
         }
         return true;
     }
     const auto drawOne = [&](const auto& shape) {
         using Shape = std::decay_t<decltype(shape)>;
         if constexpr (std::is_same_v<Shape, InsertShape>) {
-            drawInsert(shape, means, pencil);
+            drawInsert(shape, means, sink);
             for (const TextShape& attribute : shape.attributes) {
-                paintShape(attribute, means.pen, pencil);
+                paintShape(attribute, means.pen, sink);
             }
         } else if constexpr (!std::is_same_v<Shape, NoShape>) {
-            paintShape(shape, means.pen, pencil);
+            paintShape(shape, means.pen, sink);
         }
     };
     std::visit(drawOne, std::get<EntityShape>(entity.geometry));
     return true;
 }
 
-void EntityDrawer::drawMultiline(const MlineContent& mline, const Means& means, Pencil& pencil) {
+void EntityDrawer::drawMultiline(const MlineContent& mline, const Means& means, PlacedSink& sink) {
     const MlineStyleContent* style = m_table.style(mline.style);
     MlinePens pens;
-    if (m_ink.wantsPens()) {
+    if (m_sink.wantsPens()) {
         // By block means by the multiline: it is to its elements what an insert is to a block.
         const auto penOf = [&](const KdCmColor& color, const std::wstring& linetype) {
             return m_table.pen(color, linetype, means.linetypeScale, means.layer, means.pen);
@@ -70,10 +70,11 @@ void EntityDrawer::drawMultiline(const MlineContent& mline, const Means& means, 
             pens.fillRgb = penOf(style->fillColor, {}).rgb;
         }
     }
-    paintMline(mline, style, pens, pencil);
+    paintMline(mline, style, pens, sink);
 }
 
-void EntityDrawer::drawInsert(const InsertShape& insert, const Means& means, const Pencil& pencil) {
+void EntityDrawer::drawInsert(const InsertShape& insert, const Means& means,
+                              const PlacedSink& sink) {
     const BlockContent& block = m_blocks.block(insert.block);
     const bool inItself = std::find(m_open.begin(), m_open.end(), block.block) != m_open.end();
     if (block.entities.empty() || inItself || m_open.size() >= kDeepestInsert) {
@@ -91,31 +92,31 @@ void EntityDrawer::drawInsert(const InsertShape& insert, const Means& means, con
                 return;
             }
             own.origin = corner + insert.columnStep * column + insert.rowStep * row;
-            Pencil inside(m_ink, pencil.isPlaced() ? pencil.placement().around(own) : own);
+            PlacedSink inside(m_sink, sink.isPlaced() ? sink.placement().around(own) : own);
             drawBlock(block, context, inside);
         }
     }
     m_open.pop_back();
 }
 
-void EntityDrawer::drawBlock(const BlockContent& block, const Context& context, Pencil& pencil) {
+void EntityDrawer::drawBlock(const BlockContent& block, const Context& context, PlacedSink& sink) {
     for (const EntityReading& entity : block.entities) {
         if (isExhausted()) {
             return;
         }
         ++m_entitiesDrawn;
-        draw(entity, context, pencil);
+        draw(entity, context, sink);
     }
 }
 
 std::int64_t EntityDrawer::insertWork() const {
     constexpr std::int64_t kPointsOfEntity = 16;
-    const auto points = static_cast<std::int64_t>(m_ink.pointCount());
+    const auto points = static_cast<std::int64_t>(m_sink.pointCount());
     return m_entitiesDrawn > 0 ? m_entitiesDrawn * kPointsOfEntity + points : 0;
 }
 
 bool EntityDrawer::isExhausted() const {
-    return m_entitiesDrawn >= m_mostEntities || m_ink.pointCount() >= kMostPoints;
+    return m_entitiesDrawn >= m_mostEntities || m_sink.pointCount() >= kMostPoints;
 }
 
 } // namespace orvex

@@ -2,8 +2,8 @@
 
 #include "BlockContents.h"
 #include "EntityReader.h"
-#include "LookTable.h"
-#include "Pencil.h"
+#include "PlacedSink.h"
+#include "SharedTraits.h"
 
 #include <cstdint>
 #include <vector>
@@ -16,9 +16,9 @@ class EntityDrawer {
 public:
     static constexpr int kMostEntities = 50'000;
 
-    EntityDrawer(LookTable& table, BlockContents& blocks, Ink& ink,
+    EntityDrawer(SharedTraits& table, BlockContents& blocks, DrawSink& sink,
                  int mostEntities = kMostEntities)
-        : m_table(table), m_blocks(blocks), m_ink(ink), m_mostEntities(mostEntities) {}
+        : m_table(table), m_blocks(blocks), m_sink(sink), m_mostEntities(mostEntities) {}
 
     // False, with nothing drawn, when the entity isn't seen for its layer or by itself.
     bool draw(const EntityReading& entity);
@@ -29,25 +29,25 @@ public:
 private:
     // What its surroundings give an entity.
     struct Context {
-        const LayerLook* insertLayer = nullptr; // stands for layer 0 inside of a block
+        const LayerTraits* insertLayer = nullptr; // stands for layer 0 inside of a block
         Pen byBlock;
     };
     // What an entity is drawn with.
     struct Means {
-        const LayerLook& layer;
+        const LayerTraits& layer;
         Pen pen;
         double linetypeScale = 1.0;
     };
 
-    bool draw(const EntityReading& entity, const Context& context, Pencil& pencil);
-    void drawMultiline(const MlineContent& mline, const Means& means, Pencil& pencil);
-    void drawInsert(const InsertShape& insert, const Means& means, const Pencil& pencil);
-    void drawBlock(const BlockContent& block, const Context& context, Pencil& pencil);
+    bool draw(const EntityReading& entity, const Context& context, PlacedSink& sink);
+    void drawMultiline(const MlineContent& mline, const Means& means, PlacedSink& sink);
+    void drawInsert(const InsertShape& insert, const Means& means, const PlacedSink& sink);
+    void drawBlock(const BlockContent& block, const Context& context, PlacedSink& sink);
     [[nodiscard]] bool isExhausted() const;
 
-    LookTable& m_table;
+    SharedTraits& m_table;
     BlockContents& m_blocks;
-    Ink& m_ink;
+    DrawSink& m_sink;
     std::vector<const BlockEntities*> m_open; // blocks that are being drawn, outermost first
     int m_mostEntities;
     int m_entitiesDrawn = 0; // by inserts

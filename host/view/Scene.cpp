@@ -1,12 +1,12 @@
 #include "Scene.h"
 
 #include "AppearanceCache.h"
+#include "AppearanceMaker.h"
 #include "ChangeFeed.h"
+#include "CompactAppearance.h"
 #include "DatabaseCore.h"
 #include "IndexBuild.h"
 #include "KdDbDatabase.h"
-#include "LookMaker.h"
-#include "LookSketch.h"
 #include "PickIndex.h"
 #include "pickDistance.h"
 
@@ -20,7 +20,7 @@ namespace orvex {
 namespace {
 
 constexpr std::size_t kCacheBytes = std::size_t{48} << 20;
-constexpr std::uint32_t kNotPlaced = std::numeric_limits<std::uint32_t>::max();
+constexpr std::uint32_t kNoIndex = std::numeric_limits<std::uint32_t>::max();
 constexpr std::size_t kManyChanges = 1000;
 constexpr std::size_t kMostAreas = 1024; // with more of them, everything may as well be different
 
@@ -37,34 +37,34 @@ struct Scene::State {
 
     DatabaseCore& core;
     ChangeFeed feed;
-    LookMaker maker;
+    AppearanceMaker maker;
     AppearanceCache cache;
-    PickIndex index; // numbers are places in the drawing order of model space
+    PickIndex pickIndex; // numbers are indexes in the drawing order of model space
     bool isIndexed = false;
     IndexBuild build;                 // of the next index, while this one isn't right any more
     std::vector<KdDbStub*> unindexed; // changed since the index knew them; some may be there twice
-    std::vector<std::uint32_t> placeOf; // by a stub's ordinal
-    std::size_t placed = 0;             // entities of model space that have their place
-    LookSketches sketches;              // by place
+    std::vector<std::uint32_t> indexOf;    // by a stub's ordinal
+    std::size_t indexedCount = 0;          // entities of model space that have their index
+    CompactAppearances compactAppearances; // by index
     Difference difference;
     std::unordered_set<const KdDbStub*> hidden;
     std::vector<KdDbStub*> shownOrHidden; // since the last settlement
     std::function<double()> unitsPerPixel;
 
     [[nodiscard]] const std::vector<KdDbStub*>& entities() { return core.modelSpace().entities; }
-    [[nodiscard]] bool isSeen(const KdDbStub& entity, const Appearance& look) const {
-        return look.seen && !hidden.contains(&entity);
+    [[nodiscard]] bool isSeen(const KdDbStub& entity, const Appearance& appearance) const {
+        return appearance.seen && !hidden.contains(&entity);
     }
     PlanBox boxOf(const KdDbStub& entity) {
         return hidden.contains(&entity) ? PlanBox{} : maker.box(entity);
     }
 
-    const Appearance& look(const KdDbStub& entity);
+    const Appearance& appearance(const KdDbStub& entity);
     std::vector<KdDbStub*> takeChanges();
     void settle();
     void rebuild();
-    void placeNewEntities();
-    void reindex(std::uint32_t place);
+    void addNewEntities();
+    void updateBox(std::uint32_t index);
     bool updateIndex(Deadline deadline);
     bool buildIndex(Deadline deadline);
     bool prepare(Deadline deadline);
@@ -72,7 +72,7 @@ struct Scene::State {
     void noteDifference(const PlanBox& area);
 };
 
-const Appearance& Scene::State::look(const KdDbStub& entity) {
+const Appearance& Scene::State::appearance(const KdDbStub& entity) {
     if (const Appearance* known = cache.find(entity)) {
         return *known;
     }
@@ -91,8 +91,8 @@ void Scene::State::settle() {
     maker.startWalk();
     const std::vector<KdDbStub*> changed = takeChanges();
     const auto isShared = [this](const KdDbStub* stub) { return maker.isShared(*stub); };
-    // Entities never leave their list, or places would have to be given anew.
-    const bool isShorter = placed > entities().size();
+    // Entities never leave their list, or indexes would have to be given anew.
+    const bool isShorter = indexedCount > entities().size();
     if (isShorter || maker.isScaleStale() ||
         std::any_of(changed.begin(), changed.end(), isShared)) {
         // A layer, a style or a block: whatever uses it looks different now.
@@ -109,7 +109,7 @@ void Scene::State::settle() {
         }
     }
     unindexed.insert(unindexed.end(), changed.begin(), changed.end());
-    if (isIndexed && unindexed.size() > kManyChanges && unindexed.size() > placed / 3) {
+    if (isIndexed && unindexed.size() > kManyChanges && unindexed.size() > indexedCount / 3) {
         rebuild(); // sooner done than so many changes
     }
 }
@@ -118,16 +118,16 @@ void Scene::State::rebuild() {
     build.restart();
     unindexed.clear();
     isIndexed = false;
-    placed = 0;
-    placeOf.clear();
+    indexedCount = 0;
+    indexOf.clear();
 }
 
-void Scene::State::placeNewEntities() {
+void Scene::State::addNewEntities() {
     const auto& all = entities();
-    placeOf.resize(core.stubs().size(), kNotPlaced);
-    for (; placed < all.size(); ++placed) {
-        placeOf[all[placed]->ordinal] = static_cast<std::uint32_t>(placed);
-        unindexed.push_back(all[placed]);
+    indexOf.resize(core.stubs().size(), kNoIndex);
+    for (; indexedCount < all.size(); ++indexedCount) {
+        indexOf[all[indexedCount]->ordinal] = static_cast<std::uint32_t>(indexedCount);
+        unindexed.push_back(all[indexedCount]);
     }
 }
 
@@ -140,22 +140,22 @@ void Scene::State::noteDifference(const PlanBox& area) {
     }
 }
 
-void Scene::State::reindex(std::uint32_t place) {
-    const PlanBox box = boxOf(*entities()[place]);
-    noteDifference(index.box(place));
+void Scene::State::updateBox(std::uint32_t index) {
+    const PlanBox box = boxOf(*entities()[index]);
+    noteDifference(pickIndex.box(index));
     noteDifference(box);
-    index.set(place, box);
-    sketches.drop(place);
+    pickIndex.set(index, box);
+    compactAppearances.drop(index);
 }
 
 // True when all is done.
 bool Scene::State::updateIndex(Deadline deadline) {
-    placeNewEntities();
+    addNewEntities();
     while (!unindexed.empty()) {
-        const std::uint32_t place = placeOf[unindexed.back()->ordinal];
+        const std::uint32_t index = indexOf[unindexed.back()->ordinal];
         unindexed.pop_back();
-        if (place != kNotPlaced) {
-            reindex(place);
+        if (index != kNoIndex) {
+            updateBox(index);
             if (isOver(deadline)) {
                 return unindexed.empty();
             }
@@ -165,19 +165,19 @@ bool Scene::State::updateIndex(Deadline deadline) {
 }
 
 bool Scene::State::buildIndex(Deadline deadline) {
-    placeOf.resize(core.stubs().size(), kNotPlaced);
-    const auto boxAt = [this](std::size_t place) {
-        const KdDbStub& entity = *entities()[place];
-        placeOf[entity.ordinal] = static_cast<std::uint32_t>(place);
-        placed = place + 1;
+    indexOf.resize(core.stubs().size(), kNoIndex);
+    const auto boxAt = [this](std::size_t index) {
+        const KdDbStub& entity = *entities()[index];
+        indexOf[entity.ordinal] = static_cast<std::uint32_t>(index);
+        indexedCount = index + 1;
         return boxOf(entity);
     };
     if (!build.advance(entities().size(), boxAt, deadline)) {
         return false;
     }
     // What changed since its box was made is looked at again: it is still among the unindexed.
-    build.take(index);
-    sketches.clear();
+    build.take(pickIndex);
+    compactAppearances.clear();
     difference = {.everything = true, .areas = {}};
     isIndexed = true;
     maker.startWalk();
@@ -196,34 +196,34 @@ Scene::~Scene() = default;
 
 PlanBox Scene::extents() {
     m_state->prepare();
-    return m_state->index.bounds();
+    return m_state->pickIndex.bounds();
 }
 
 const Appearance& Scene::appearance(KdDbStub& entity) {
     m_state->settle();
-    return m_state->look(entity);
+    return m_state->appearance(entity);
 }
 
 void Scene::visit(const PlanBox& area,
                   const std::function<void(KdDbStub&, const Appearance&)>& visitor) {
     m_state->prepare();
-    for (const std::uint32_t place : m_state->index.query(area)) {
-        KdDbStub& entity = *m_state->entities()[place];
-        visitor(entity, m_state->look(entity));
+    for (const std::uint32_t index : m_state->pickIndex.query(area)) {
+        KdDbStub& entity = *m_state->entities()[index];
+        visitor(entity, m_state->appearance(entity));
     }
 }
 
 void Scene::visitAll(const std::function<void(KdDbStub&, const Appearance&)>& visitor) {
     m_state->settle();
     for (KdDbStub* entity : m_state->entities()) {
-        // Looks that are made for this walk alone aren't kept: the next one needs all of them
-        // again.
+        // Appearances that are made for this walk alone aren't kept: the next one needs all of
+        // them again.
         const Appearance* known = m_state->cache.find(*entity);
         const Appearance made =
             known != nullptr ? Appearance{} : m_state->maker.appearance(*entity);
-        const Appearance& look = known != nullptr ? *known : made;
-        if (m_state->isSeen(*entity, look)) {
-            visitor(*entity, look);
+        const Appearance& appearance = known != nullptr ? *known : made;
+        if (m_state->isSeen(*entity, appearance)) {
+            visitor(*entity, appearance);
         }
     }
 }
@@ -241,9 +241,9 @@ KdDbStub* Scene::pick(PlanPoint point, double reach) {
     };
     std::vector<Hit> hits; // in drawing order
     double nearest = std::numeric_limits<double>::infinity();
-    for (const std::uint32_t place : m_state->index.query(square)) {
-        KdDbStub& entity = *m_state->entities()[place];
-        if (const auto distance = pickDistance(m_state->look(entity), point, reach)) {
+    for (const std::uint32_t index : m_state->pickIndex.query(square)) {
+        KdDbStub& entity = *m_state->entities()[index];
+        if (const auto distance = pickDistance(m_state->appearance(entity), point, reach)) {
             hits.push_back({&entity, *distance});
             nearest = std::min(nearest, *distance);
         }
@@ -277,29 +277,30 @@ Scene::Difference Scene::takeDifference() {
     return std::exchange(m_state->difference, {});
 }
 
-std::vector<std::uint32_t> Scene::placesIn(const PlanBox& area) const {
-    return m_state->index.query(area);
+std::vector<std::uint32_t> Scene::entitiesIn(const PlanBox& area) const {
+    return m_state->pickIndex.query(area);
 }
 
-const PlanBox& Scene::boxAt(std::uint32_t place) const {
-    return m_state->index.box(place);
+const PlanBox& Scene::boxAt(std::uint32_t index) const {
+    return m_state->pickIndex.box(index);
 }
 
-const Appearance& Scene::lookAt(std::uint32_t place) {
-    return m_state->look(*m_state->entities()[place]);
+const Appearance& Scene::appearanceAt(std::uint32_t index) {
+    return m_state->appearance(*m_state->entities()[index]);
 }
 
-LookSketch Scene::sketchAt(std::uint32_t place) {
-    auto words = m_state->sketches.find(place);
+CompactAppearance Scene::compactAppearanceAt(std::uint32_t index) {
+    auto words = m_state->compactAppearances.find(index);
     if (words.empty()) {
-        // Not kept among the looks, or a walk over the whole drawing would empty them of what is
+        // Not kept in the cache, or a walk over the whole drawing would empty them of what is
         // seen all the time.
-        const KdDbStub& entity = *m_state->entities()[place];
+        const KdDbStub& entity = *m_state->entities()[index];
         const Appearance* known = m_state->cache.find(entity);
         const Appearance made = known != nullptr ? Appearance{} : m_state->maker.appearance(entity);
-        words = m_state->sketches.keep(place, known != nullptr ? *known : made, boxAt(place));
+        words =
+            m_state->compactAppearances.keep(index, known != nullptr ? *known : made, boxAt(index));
     }
-    return LookSketch(words);
+    return CompactAppearance(words);
 }
 
 void Scene::hide(KdDbStub& entity) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Appearance.h"
-#include "LookSketch.h"
+#include "CompactAppearance.h"
 #include "PromptSession.h"
 
 #include <chrono>
@@ -29,7 +29,7 @@ public:
     // Of all visible strokes of model space; empty where there is nothing.
     [[nodiscard]] PlanBox extents();
 
-    // The look of one entity as it is now. The reference stays valid till the next query.
+    // The appearance of one entity as it is now. The reference stays valid till the next query.
     [[nodiscard]] const Appearance& appearance(KdDbStub& entity);
 
     // What an entity that isn't part of the drawing would look like in its model space.
@@ -66,14 +66,14 @@ public:
     };
     [[nodiscard]] Difference takeDifference();
 
-    // For painting in steps: the seen entities whose boxes meet `area`, as places in the drawing
-    // order, without bringing the index up to date. They hold as long as prepareSome is true.
-    [[nodiscard]] std::vector<std::uint32_t> placesIn(const PlanBox& area) const;
-    [[nodiscard]] const PlanBox& boxAt(std::uint32_t place) const;
+    // For painting in steps: the seen entities whose boxes meet `area`, as indexes in the drawing
+    // order, without bringing the spatial index up to date. Valid as long as prepareSome is true.
+    [[nodiscard]] std::vector<std::uint32_t> entitiesIn(const PlanBox& area) const;
+    [[nodiscard]] const PlanBox& boxAt(std::uint32_t index) const;
     // The reference stays valid till the next question.
-    [[nodiscard]] const Appearance& lookAt(std::uint32_t place);
+    [[nodiscard]] const Appearance& appearanceAt(std::uint32_t index);
     // For entities that cover few pixels. Valid till the next question.
-    [[nodiscard]] LookSketch sketchAt(std::uint32_t place);
+    [[nodiscard]] CompactAppearance compactAppearanceAt(std::uint32_t index);
 
 private:
     struct State;

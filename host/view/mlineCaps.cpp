@@ -1,5 +1,5 @@
 #include "arcs.h"
-#include "mlinePieces.h"
+#include "mlineParts.h"
 
 #include <array>
 #include <cmath>
@@ -24,26 +24,27 @@ struct ChainEnd {
     }
     // Away from the multiline.
     [[nodiscard]] KdGeVector3d outward(const MlineChain& chain) const {
-        const KdGeVector3d way =
+        const KdGeVector3d direction =
             chain.vertex(segment + 1).position - chain.vertex(segment).position;
-        const KdGeVector3d along = way.isZeroLength() ? chain.vertex(segment).axis : way;
+        const KdGeVector3d along =
+            direction.isZeroLength() ? chain.vertex(segment).axis : direction;
         return atStart ? -along : along;
     }
 };
 
 void drawLineBetween(const MlineChain& chain, unsigned vertex, unsigned first, unsigned second,
-                     StrokeRole role, MlineParts& parts) {
+                     StrokeRole role, MlineSink& sink) {
     const KdGePoint3d from = chain.position(vertex, first);
     const KdGePoint3d to = chain.position(vertex, second);
     if (from != to) {
         const std::array<KdGePoint3d, 3> line{from, middleOf(from, to), to};
-        parts.crossing(line, role, first, second);
+        sink.crossing(line, role, first, second);
     }
 }
 
 // The half circle over the line between two elements that bulges away from the multiline.
 void drawHalfCircle(const MlineChain& chain, const ChainEnd& end, unsigned first, unsigned second,
-                    MlineParts& parts) {
+                    MlineSink& sink) {
     const KdGePoint3d from = chain.position(end.vertex, first);
     const KdGePoint3d to = chain.position(end.vertex, second);
     const KdGePoint3d center = middleOf(from, to);
@@ -60,7 +61,7 @@ void drawHalfCircle(const MlineChain& chain, const ChainEnd& end, unsigned first
     top = top * (size / topSize);
     std::vector<KdGePoint3d> arc;
     appendArc(arc, center, radius, top, 0.0, std::numbers::pi);
-    parts.crossing(arc, StrokeRole::cap, first, second);
+    sink.crossing(arc, StrokeRole::cap, first, second);
 }
 
 // Line, inner arcs and outer arc of one end; each flag as the style has it at that end.
@@ -71,7 +72,7 @@ struct CapKinds {
 };
 
 void drawEndCaps(const MlineChain& chain, const ChainEnd& end, const CapKinds& kinds,
-                 std::span<const unsigned> across, MlineParts& parts) {
+                 std::span<const unsigned> across, MlineSink& sink) {
     const auto bothReach = [&](unsigned first, unsigned second) {
         return end.isReached(chain, first) && end.isReached(chain, second);
     };
@@ -79,10 +80,10 @@ void drawEndCaps(const MlineChain& chain, const ChainEnd& end, const CapKinds& k
     const unsigned last = across.back();
     if ((kinds.line || kinds.outerArc) && bothReach(first, last)) {
         if (kinds.line) {
-            drawLineBetween(chain, end.vertex, first, last, StrokeRole::cap, parts);
+            drawLineBetween(chain, end.vertex, first, last, StrokeRole::cap, sink);
         }
         if (kinds.outerArc) {
-            drawHalfCircle(chain, end, first, last, parts);
+            drawHalfCircle(chain, end, first, last, sink);
         }
     }
     if (kinds.innerArcs) {
@@ -91,7 +92,7 @@ void drawEndCaps(const MlineChain& chain, const ChainEnd& end, const CapKinds& k
             const unsigned one = across[i];
             const unsigned other = across[across.size() - 1 - i];
             if (bothReach(one, other)) {
-                drawHalfCircle(chain, end, one, other, parts);
+                drawHalfCircle(chain, end, one, other, sink);
             }
         }
     }
@@ -100,20 +101,20 @@ void drawEndCaps(const MlineChain& chain, const ChainEnd& end, const CapKinds& k
 } // namespace
 
 void drawCaps(const MlineContent& mline, const MlineChain& chain, int styleFlags,
-              std::span<const unsigned> across, MlineParts& parts) {
+              std::span<const unsigned> across, MlineSink& sink) {
     const auto has = [styleFlags](int flag) { return (styleFlags & flag) != 0; };
     if (!mline.startCapsSuppressed) {
         const CapKinds kinds{has(kStyleStartLine), has(kStyleStartArcs), has(kStyleStartRound)};
-        drawEndCaps(chain, {0, 0, true}, kinds, across, parts);
+        drawEndCaps(chain, {0, 0, true}, kinds, across, sink);
     }
     if (!mline.endCapsSuppressed) {
         const CapKinds kinds{has(kStyleEndLine), has(kStyleEndArcs), has(kStyleEndRound)};
         const unsigned last = chain.vertexCount() - 1;
-        drawEndCaps(chain, {last, last - 1, false}, kinds, across, parts);
+        drawEndCaps(chain, {last, last - 1, false}, kinds, across, sink);
     }
 }
 
-void drawJoints(const MlineChain& chain, std::span<const unsigned> across, MlineParts& parts) {
+void drawJoints(const MlineChain& chain, std::span<const unsigned> across, MlineSink& sink) {
     const unsigned first = across.front();
     const unsigned last = across.back();
     const unsigned begin = chain.isClosed() ? 0 : 1;
@@ -125,7 +126,7 @@ void drawJoints(const MlineChain& chain, std::span<const unsigned> across, Mline
             return chain.reachesEnd(before, element) || chain.reachesStart(vertex, element);
         };
         if (meets(first) && meets(last)) {
-            drawLineBetween(chain, vertex, first, last, StrokeRole::joint, parts);
+            drawLineBetween(chain, vertex, first, last, StrokeRole::joint, sink);
         }
     }
 }

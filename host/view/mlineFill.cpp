@@ -1,4 +1,4 @@
-#include "mlinePieces.h"
+#include "mlineParts.h"
 
 #include <algorithm>
 #include <array>
@@ -27,7 +27,7 @@ std::vector<MlineStretch> stretchesOf(std::span<const double> list, double lengt
 
 // Between two neighbouring lists the stretches of the one belong to those of the other in order.
 void fillBetweenLists(const MlineChain& chain, unsigned segment, unsigned left, unsigned right,
-                      MlineParts& parts) {
+                      MlineSink& sink) {
     const MlineTrack a = chain.areaTrack(segment, left);
     const MlineTrack b = chain.areaTrack(segment, right);
     const auto ofA = stretchesOf(chain.area(segment, left), a.length);
@@ -35,7 +35,7 @@ void fillBetweenLists(const MlineChain& chain, unsigned segment, unsigned left, 
     for (std::size_t i = 0; i < std::min(ofA.size(), ofB.size()); ++i) {
         const std::array<KdGePoint3d, 4> cell{a.at(ofA[i].begin), stretchEnd(a, ofA[i]),
                                               stretchEnd(b, ofB[i]), b.at(ofB[i].begin)};
-        parts.fill(cell);
+        sink.fill(cell);
     }
 }
 
@@ -43,8 +43,8 @@ void fillBetweenLists(const MlineChain& chain, unsigned segment, unsigned left, 
 // between them.
 class UnbrokenFill {
 public:
-    UnbrokenFill(const MlineChain& chain, unsigned left, unsigned right, MlineParts& parts)
-        : m_chain(chain), m_left(left), m_right(right), m_parts(parts) {}
+    UnbrokenFill(const MlineChain& chain, unsigned left, unsigned right, MlineSink& sink)
+        : m_chain(chain), m_left(left), m_right(right), m_sink(sink) {}
 
     void addSegment(unsigned segment) {
         if (m_leftSide.empty()) {
@@ -55,7 +55,7 @@ public:
     void finish() {
         if (!m_leftSide.empty()) {
             m_leftSide.insert(m_leftSide.end(), m_rightSide.rbegin(), m_rightSide.rend());
-            m_parts.fill(m_leftSide);
+            m_sink.fill(m_leftSide);
         }
         m_leftSide.clear();
         m_rightSide.clear();
@@ -70,15 +70,15 @@ private:
     const MlineChain& m_chain;
     unsigned m_left;
     unsigned m_right;
-    MlineParts& m_parts;
+    MlineSink& m_sink;
     Outline m_leftSide;
     Outline m_rightSide;
 };
 
 } // namespace
 
-void drawFill(const MlineChain& chain, std::span<const unsigned> across, MlineParts& parts) {
-    UnbrokenFill unbroken(chain, across.front(), across.back(), parts);
+void drawFill(const MlineChain& chain, std::span<const unsigned> across, MlineSink& sink) {
+    UnbrokenFill unbroken(chain, across.front(), across.back(), sink);
     for (unsigned segment = 0; segment < chain.segmentCount(); ++segment) {
         const auto edges = edgesOfFill(chain, segment, across);
         if (edges.size() < 2) { // one list alone bounds nothing
@@ -87,7 +87,7 @@ void drawFill(const MlineChain& chain, std::span<const unsigned> across, MlinePa
         }
         unbroken.finish();
         for (std::size_t i = 1; i < edges.size(); ++i) {
-            fillBetweenLists(chain, segment, edges[i - 1], edges[i], parts);
+            fillBetweenLists(chain, segment, edges[i - 1], edges[i], sink);
         }
     }
     unbroken.finish();

@@ -1,6 +1,6 @@
 #include "mlinePainter.h"
 
-#include "mlineLook.h"
+#include "drawMline.h"
 
 #include <array>
 
@@ -8,39 +8,39 @@ namespace orvex {
 
 namespace {
 
-class PaintedParts final : public MlineParts {
+class PaintingSink final : public MlineSink {
 public:
-    PaintedParts(const MlinePens& pens, Pencil& pencil) : m_pens(pens), m_pencil(pencil) {}
+    PaintingSink(const MlinePens& pens, PlacedSink& sink) : m_pens(pens), m_sink(sink) {}
 
     void fill(std::span<const KdGePoint3d> outline) override {
-        m_pencil.fill(outline, m_pens.fillRgb);
+        m_sink.fill(outline, m_pens.fillRgb);
     }
-    void stretch(const KdGePoint3d& begin, const KdGePoint3d& end, unsigned element) override {
+    void elementLine(const KdGePoint3d& begin, const KdGePoint3d& end, unsigned element) override {
         const std::array<KdGePoint3d, 2> line{begin, end};
-        m_pencil.stroke(line, StrokeRole::line, m_pens.of(element));
+        m_sink.stroke(line, StrokeRole::line, m_pens.of(element));
     }
     void crossing(std::span<const KdGePoint3d> chain, StrokeRole role, unsigned first,
                   unsigned second) override {
         if (m_pens.of(first) == m_pens.of(second)) {
-            m_pencil.stroke(chain, role, m_pens.of(first));
+            m_sink.stroke(chain, role, m_pens.of(first));
             return;
         }
         const std::size_t middle = chain.size() / 2;
-        m_pencil.stroke(chain.first(middle + 1), role, m_pens.of(first));
-        m_pencil.stroke(chain.subspan(middle), role, m_pens.of(second));
+        m_sink.stroke(chain.first(middle + 1), role, m_pens.of(first));
+        m_sink.stroke(chain.subspan(middle), role, m_pens.of(second));
     }
 
 private:
     const MlinePens& m_pens;
-    Pencil& m_pencil;
+    PlacedSink& m_sink;
 };
 
 } // namespace
 
 void paintMline(const MlineContent& mline, const MlineStyleContent* style, const MlinePens& pens,
-                Pencil& pencil) {
-    PaintedParts parts(pens, pencil);
-    drawMline(mline, style, parts);
+                PlacedSink& sink) {
+    PaintingSink painting(pens, sink);
+    drawMline(mline, style, painting);
 }
 
 } // namespace orvex

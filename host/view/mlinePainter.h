@@ -2,7 +2,7 @@
 
 #include "MlineContent.h"
 #include "MlineStyleContent.h"
-#include "Pencil.h"
+#include "PlacedSink.h"
 
 #include <vector>
 
@@ -22,6 +22,6 @@ struct MlinePens {
 // Draws a multiline with its fill, element lines, caps and joints. Caps and joints have half of
 // each of the elements that they join. `style` may be null.
 void paintMline(const MlineContent& mline, const MlineStyleContent* style, const MlinePens& pens,
-                Pencil& pencil);
+                PlacedSink& sink);
 
 } // namespace orvex

@@ -26,22 +26,22 @@ double linesAboveAnchor(const TextShape& text) {
 
 } // namespace
 
-void paintShape(const LineShape& line, const Pen& pen, Pencil& pencil) {
+void paintShape(const LineShape& line, const Pen& pen, PlacedSink& sink) {
     const std::array<KdGePoint3d, 2> ends{line.start, line.end};
-    pencil.stroke(ends, StrokeRole::line, pen);
+    sink.stroke(ends, StrokeRole::line, pen);
 }
 
-void paintShape(const PolylineShape& polyline, const Pen& pen, Pencil& pencil) {
-    pencil.stroke(polylineChain(polyline), StrokeRole::line, pen);
+void paintShape(const PolylineShape& polyline, const Pen& pen, PlacedSink& sink) {
+    sink.stroke(polylineChain(polyline), StrokeRole::line, pen);
 }
 
-void paintShape(const ConicShape& conic, const Pen& pen, Pencil& pencil) {
-    pencil.stroke(conicChain(conic), StrokeRole::line, pen);
+void paintShape(const ConicShape& conic, const Pen& pen, PlacedSink& sink) {
+    sink.stroke(conicChain(conic), StrokeRole::line, pen);
 }
 
-void paintShape(const TextShape& text, const Pen& pen, Pencil& pencil) {
-    const PlanPoint along = pencil.directionInPlan(text.direction);
-    const PlanPoint up = pencil.directionInPlan(text.up * text.height);
+void paintShape(const TextShape& text, const Pen& pen, PlacedSink& sink) {
+    const PlanPoint along = sink.directionInPlan(text.direction);
+    const PlanPoint up = sink.directionInPlan(text.up * text.height);
     Label label;
     label.height = std::hypot(up.x, up.y);
     label.angle = std::atan2(along.y, along.x);
@@ -51,34 +51,34 @@ void paintShape(const TextShape& text, const Pen& pen, Pencil& pencil) {
     double above = linesAboveAnchor(text);
     for (const std::wstring& line : text.lines) {
         const double rise = above * kLineSpacing * text.height;
-        label.anchor = pencil.inPlan(text.position + text.up * rise);
+        label.anchor = sink.inPlan(text.position + text.up * rise);
         label.text = line;
-        pencil.label(label);
+        sink.label(label);
         above -= 1.0;
     }
 }
 
-void paintShape(const SolidShape& solid, const Pen& pen, Pencil& pencil) {
+void paintShape(const SolidShape& solid, const Pen& pen, PlacedSink& sink) {
     if (solid.corners.empty()) {
         return;
     }
-    pencil.fill(solid.corners, pen.rgb);
+    sink.fill(solid.corners, pen.rgb);
     std::vector<KdGePoint3d> outline = solid.corners;
     outline.push_back(outline.front());
-    pencil.stroke(outline, StrokeRole::line, pen);
+    sink.stroke(outline, StrokeRole::line, pen);
 }
 
-void paintShape(const OutlinesShape& outlines, const Pen& pen, Pencil& pencil) {
+void paintShape(const OutlinesShape& outlines, const Pen& pen, PlacedSink& sink) {
     for (const PolylineShape& path : outlines.paths) {
-        paintShape(path, pen, pencil);
+        paintShape(path, pen, sink);
     }
     for (const ConicShape& arc : outlines.arcs) {
-        paintShape(arc, pen, pencil);
+        paintShape(arc, pen, sink);
     }
 }
 
-void paintShape(const PointShape& point, const Pen& pen, Pencil& pencil) {
-    pencil.stroke({&point.position, 1}, StrokeRole::line, pen);
+void paintShape(const PointShape& point, const Pen& pen, PlacedSink& sink) {
+    sink.stroke({&point.position, 1}, StrokeRole::line, pen);
 }
 
 } // namespace orvex

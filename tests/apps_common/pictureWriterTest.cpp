@@ -1,6 +1,6 @@
 #include "pictureWriter.h"
 
-#include "MlineSketch.h"
+#include "MlineSample.h"
 #include "Scene.h"
 #include "TestDrawing.h"
 
@@ -22,12 +22,12 @@ class PictureWriter : public ::testing::Test {
 protected:
     // Two lines 10 long and 10 apart: a view of 11 units a side.
     PictureWriter() {
-        MlineContent wall = sketchEastward(0, 0, 10, {{10, 0, 4, 6}, {0, 0}});
+        MlineContent wall = sampleEastward(0, 0, 10, {{10, 0, 4, 6}, {0, 0}});
         wall.style = KdDbObjectId(&drawing.addStyle(filledStyle()));
         drawing.addMline(wall);
     }
     static MlineStyleContent filledStyle() {
-        MlineStyleContent style = sketchStyle(1, {10, 0});
+        MlineStyleContent style = sampleStyle(1, {10, 0});
         style.fillColor.setColorIndex(3);
         style.elements[1].color.setColorIndex(1);
         return style;

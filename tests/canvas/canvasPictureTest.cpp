@@ -170,8 +170,8 @@ TEST_F(EditedCanvas, highlightsWhatAPickWouldFind) {
     KdDbStub& mline = anyMline();
     for (const CanvasAim aim : {CanvasAim::none, CanvasAim::entity, CanvasAim::point}) {
         canvas.setAim(aim);
-        const Appearance look = session->scene().appearance(mline);
-        const Stroke& stroke = look.strokes.front();
+        const Appearance appearance = session->scene().appearance(mline);
+        const Stroke& stroke = appearance.strokes.front();
         const PlanPoint on{(stroke.points[0].x + stroke.points[1].x) / 2,
                            (stroke.points[0].y + stroke.points[1].y) / 2};
         const QImage plain = picture();
@@ -204,8 +204,8 @@ TEST_F(EditedCanvas, highlightsWhatAPickWouldFind) {
 
 TEST_F(EditedCanvas, theHighlightFollowsTheDrawingUnderTheCursor) {
     canvas.setAim(CanvasAim::entity);
-    const Appearance look = session->scene().appearance(anyMline());
-    const QPoint pixel = pixelAt(look.strokes.front().points.front());
+    const Appearance appearance = session->scene().appearance(anyMline());
+    const QPoint pixel = pixelAt(appearance.strokes.front().points.front());
     const auto grabbed = [&] { return canvas.grab().toImage(); };
     hover(pixel);
     const QImage before = grabbed();

@@ -17,14 +17,14 @@ QImage emptyImage() {
 }
 
 // What lines leave in the image, in pixels of full colour.
-double inkOf(const QImage& image) {
-    double ink = 0.0;
+double coverageOf(const QImage& image) {
+    double covered = 0.0;
     for (int y = 0; y < kSide; ++y) {
         for (int x = 0; x < kSide; ++x) {
-            ink += qGreen(image.pixel(x, y)) / 255.0;
+            covered += qGreen(image.pixel(x, y)) / 255.0;
         }
     }
-    return ink;
+    return covered;
 }
 
 TEST(LinePainter, linesAreAsWideInEveryDirection) {
@@ -40,8 +40,8 @@ TEST(LinePainter, linesAreAsWideInEveryDirection) {
             lines.chain(line, 0xFFFFFF);
             // Square ends reach over by half the width along the axis that is nearer: at 45
             // degrees a line is the square root of 2 times as long there.
-            EXPECT_GE(inkOf(image), kLength * width - 1) << degrees;
-            EXPECT_LE(inkOf(image), (kLength + 1.5 * width) * width + 1) << degrees;
+            EXPECT_GE(coverageOf(image), kLength * width - 1) << degrees;
+            EXPECT_LE(coverageOf(image), (kLength + 1.5 * width) * width + 1) << degrees;
         }
     }
 }
@@ -50,7 +50,7 @@ TEST(LinePainter, linesAlongTheAxesAreCrisp) {
     QImage image = emptyImage();
     LinePainter lines(image, image.rect(), 1);
     lines.chain(std::vector<PlanPoint>{{10.7, 5.3}, {20.2, 5.3}, {20.2, 30.9}}, 0xFFFFFF);
-    EXPECT_EQ(inkOf(image), 11 + 25); // columns 10 to 20, then rows 6 to 30
+    EXPECT_EQ(coverageOf(image), 11 + 25); // columns 10 to 20, then rows 6 to 30
     lines.dot({40.5, 40.5}, 0xFFFFFF);
     EXPECT_EQ(image.pixel(40, 40), 0xFFFFFFFFU);
 }
@@ -80,11 +80,11 @@ TEST(LinePainter, areasMeetWithoutGapsAndOverlaps) {
         LinePainter painter(part, part.rect(), 1);
         const std::vector<PlanPoint> triangle{corners[i], corners[(i + 1) % 4], {31.0, 29.5}};
         painter.area(triangle, 0xFFFFFF);
-        covered += inkOf(part);
+        covered += coverageOf(part);
     }
     lines.area(corners, 0xFFFFFF);
-    EXPECT_EQ(inkOf(image), covered);
-    EXPECT_NEAR(inkOf(image), 2161, 10); // the area by the corners' coordinates
+    EXPECT_EQ(coverageOf(image), covered);
+    EXPECT_NEAR(coverageOf(image), 2161, 10); // the area by the corners' coordinates
 }
 
 // What partial repaints rest on.
@@ -133,7 +133,7 @@ TEST(LinePainter, passesOverWhatHasNoPlace) {
         lines.dot({5, odd}, 0xFFFFFF);
         lines.area(std::vector<PlanPoint>{{odd, 1}, {5, 5}, {9, 60}}, 0xFFFFFF);
     }
-    EXPECT_EQ(inkOf(image), 0.0);
+    EXPECT_EQ(coverageOf(image), 0.0);
 }
 
 } // namespace

@@ -13,10 +13,10 @@ TEST(ViewChange, zoomingKeepsThePlanUnderThePixel) {
     const PlanPoint pixel{100.5, 33.5};
     const PlanPoint before = view.toPlan(pixel);
     for (const double factor : {1.2, 1 / 1.2, 40.0, 0.001}) {
-        const ViewPlace place = zoomedAt(view, pixel, factor);
-        EXPECT_DOUBLE_EQ(place.height, 77.0 / factor);
+        const ViewState state = zoomedAt(view, pixel, factor);
+        EXPECT_DOUBLE_EQ(state.height, 77.0 / factor);
         PlanView zoomed(640, 480);
-        zoomed.setView(place.center, place.height);
+        zoomed.setView(state.center, state.height);
         EXPECT_NEAR(zoomed.toPlan(pixel).x, before.x, 1e-7);
         EXPECT_NEAR(zoomed.toPlan(pixel).y, before.y, 1e-7);
     }
@@ -26,7 +26,7 @@ TEST(ViewChange, aWindowFitsWhicheverWayItIsDrawn) {
     PlanView view(600, 300); // 0.1 a pixel
     view.setView({0, 0}, 30.0);
     // Narrow and tall: its height counts. 60 pixels of 300.
-    const ViewPlace tall = windowed(view, {320, 180}, {300, 120});
+    const ViewState tall = windowed(view, {320, 180}, {300, 120});
     EXPECT_DOUBLE_EQ(tall.height, 6.0);
     EXPECT_NEAR(tall.center.x, 1.0, 1e-12);
     EXPECT_NEAR(tall.center.y, 0.0, 1e-12);
@@ -36,16 +36,16 @@ TEST(ViewChange, aWindowFitsWhicheverWayItIsDrawn) {
 
 TEST(ViewHistory, goesBackByMovements) {
     ViewHistory history;
-    ViewPlace place;
-    EXPECT_FALSE(history.back(place));
+    ViewState state;
+    EXPECT_FALSE(history.back(state));
     history.leave({{1, 0}, 10});
     history.leave({{2, 0}, 10}, true); // the same turn of the wheel
     history.leave({{3, 0}, 10});
-    ASSERT_TRUE(history.back(place));
-    EXPECT_EQ(place, (ViewPlace{{3, 0}, 10}));
-    ASSERT_TRUE(history.back(place));
-    EXPECT_EQ(place, (ViewPlace{{1, 0}, 10}));
-    EXPECT_FALSE(history.back(place));
+    ASSERT_TRUE(history.back(state));
+    EXPECT_EQ(state, (ViewState{{3, 0}, 10}));
+    ASSERT_TRUE(history.back(state));
+    EXPECT_EQ(state, (ViewState{{1, 0}, 10}));
+    EXPECT_FALSE(history.back(state));
 }
 
 TEST(PixelGrid, tilesCoverTheViewAndMeetWithoutGaps) {

@@ -15,25 +15,25 @@ public:
 
     PromptAnswer ask(const PromptRequest& request) override {
         const PromptAnswer answer = m_script.ask(request);
-        looks.emplace_back();
+        appearances.emplace_back();
         if (request.preview) {
             // The user's X is north and its Y west, moved to (100, 0).
-            request.preview({100.0 - answer.point.y, answer.point.x, 0.0}, looks.back());
+            request.preview({100.0 - answer.point.y, answer.point.x, 0.0}, appearances.back());
         }
         return answer;
     }
     void print(const std::wstring&) override {}
 
-    std::vector<Appearance> looks; // by question
+    std::vector<Appearance> appearances; // by question
 
 private:
     ScriptSource m_script;
 };
 
-std::vector<std::vector<PlanPoint>> linesOf(const Appearance& look) {
+std::vector<std::vector<PlanPoint>> linesOf(const Appearance& appearance) {
     std::vector<std::vector<PlanPoint>> lines;
-    lines.reserve(look.strokes.size());
-    for (const Stroke& stroke : look.strokes) {
+    lines.reserve(appearance.strokes.size());
+    for (const Stroke& stroke : appearance.strokes) {
         lines.push_back(stroke.points);
     }
     return lines;
@@ -46,14 +46,14 @@ TEST_F(SessionFixture, mlineShowsBeforeAPointWhatThePointMakes) {
     WatchfulSource source("0,0,1\n10,0\n10,10\n\n");
     m_session->setSource(&source);
     EXPECT_EQ(m_session->run(L"MLINE").outcome, Outcome::done);
-    ASSERT_EQ(source.looks.size(), 4U);
-    EXPECT_TRUE(source.looks[0].strokes.empty()) << "nothing to show before there is a start";
-    EXPECT_EQ(linesOf(source.looks[1]).size(), 2U);
+    ASSERT_EQ(source.appearances.size(), 4U);
+    EXPECT_TRUE(source.appearances[0].strokes.empty()) << "nothing to show before there is a start";
+    EXPECT_EQ(linesOf(source.appearances[1]).size(), 2U);
     ASSERT_EQ(mlines().size(), 1U);
     KdDbStub& stub = *core().modelSpace().entities.back();
     const auto lines = linesOf(m_session->scene().appearance(stub));
     EXPECT_EQ(lines.size(), 4U) << "two elements along two segments";
-    EXPECT_EQ(linesOf(source.looks[2]), lines);
+    EXPECT_EQ(linesOf(source.appearances[2]), lines);
 }
 
 TEST_F(SessionFixture, mlinesPreviewEndsWithTheCommand) {

@@ -31,9 +31,9 @@ TEST(PickDistance, findsWhatPassesThroughTheSquare) {
         {"both ends far off on the same side", {{-1e9, 21}, {1e9, 22}}, -1.0},
     };
     for (const PickCase& each : cases) {
-        Appearance look;
-        look.strokes.push_back({.points = each.points});
-        const auto found = pickDistance(look, {10, 20}, 1.0);
+        Appearance appearance;
+        appearance.strokes.push_back({.points = each.points});
+        const auto found = pickDistance(appearance, {10, 20}, 1.0);
         ASSERT_EQ(found.has_value(), each.distance >= 0) << each.what;
         if (found) {
             EXPECT_NEAR(*found, each.distance, 1e-12) << each.what;
@@ -43,10 +43,10 @@ TEST(PickDistance, findsWhatPassesThroughTheSquare) {
 
 TEST(PickDistance, capsAndJointsArentLines) {
     for (const StrokeRole role : {StrokeRole::cap, StrokeRole::joint}) {
-        Appearance look;
-        look.strokes.push_back({.points = {{0, 0}, {1, 0}}, .role = role});
-        look.fills.push_back({.outline = {{-1, -1}, {1, -1}, {1, 1}}});
-        EXPECT_FALSE(pickDistance(look, {0, 0}, 1.0));
+        Appearance appearance;
+        appearance.strokes.push_back({.points = {{0, 0}, {1, 0}}, .role = role});
+        appearance.fills.push_back({.outline = {{-1, -1}, {1, -1}, {1, 1}}});
+        EXPECT_FALSE(pickDistance(appearance, {0, 0}, 1.0));
     }
 }
 

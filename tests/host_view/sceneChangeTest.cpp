@@ -1,9 +1,9 @@
 #include "Scene.h"
 
 #include "AppearanceCache.h"
-#include "LookMaker.h"
-#include "LookSketch.h"
-#include "MlineSketch.h"
+#include "AppearanceMaker.h"
+#include "CompactAppearance.h"
+#include "MlineSample.h"
 #include "TestDrawing.h"
 #include "pickDistance.h"
 
@@ -21,8 +21,8 @@ namespace {
 TEST(SceneChange, followsLayersStylesAndBlocks) {
     TestDrawing drawing;
     KdDbLayerTableRecord& layer = drawing.addLayer(L"WALL", 1);
-    KdDbStub& style = drawing.addStyle(sketchStyle(0, {1, -1}));
-    MlineContent content = sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}});
+    KdDbStub& style = drawing.addStyle(sampleStyle(0, {1, -1}));
+    MlineContent content = sampleEastward(0, 0, 10, {{1, 0}, {-1, 0}});
     content.style = KdDbObjectId(&style);
     KdDbStub& wall = drawing.addMline(content, L"WALL");
     BlockEntities& block = drawing.core.addBlock(L"B");
@@ -52,13 +52,13 @@ TEST(AppearanceCache, staysWithinItsMemoryAndKeepsWhatIsUsed) {
     constexpr std::size_t kBytes = 64 << 10;
     AppearanceCache cache(kBytes);
     std::vector<KdDbStub> stubs(1000);
-    const auto look = [](double x) {
+    const auto appearance = [](double x) {
         Appearance made;
         made.strokes.push_back({.points = std::vector<PlanPoint>(10, {x, 0})});
         return made;
     };
     for (std::size_t i = 0; i < stubs.size(); ++i) {
-        const Appearance& kept = cache.keep(stubs[i], look(static_cast<double>(i)));
+        const Appearance& kept = cache.keep(stubs[i], appearance(static_cast<double>(i)));
         const Appearance* first = cache.find(stubs.front()); // used all the time
         ASSERT_NE(first, nullptr) << i;
         EXPECT_EQ(first->strokes[0].points[0].x, 0.0);
@@ -74,7 +74,7 @@ TEST(AppearanceCache, staysWithinItsMemoryAndKeepsWhatIsUsed) {
 class RandomDrawing {
 public:
     explicit RandomDrawing(unsigned seed) : m_random(seed) {
-        m_style = KdDbObjectId(&drawing.addStyle(sketchStyle(1 | 2 | 64 | 256, {1, -1})));
+        m_style = KdDbObjectId(&drawing.addStyle(sampleStyle(1 | 2 | 64 | 256, {1, -1})));
         drawing.addLayer(L"OFF", 1).setIsOff(true);
         for (int i = 0; i < 150; ++i) {
             add();
@@ -115,7 +115,7 @@ private:
         const double x = std::floor(number(0, 100) / grid) * grid;
         const double y = std::floor(number(0, 100) / grid) * grid;
         MlineContent made =
-            sketchEastward(x, y, number(0, 30), {{1, 0, number(0, 10), number(10, 20)}, {-1, 0}});
+            sampleEastward(x, y, number(0, 30), {{1, 0, number(0, 10), number(10, 20)}, {-1, 0}});
         made.style = m_style;
         return made;
     }
@@ -147,19 +147,19 @@ TEST(SceneProperty, theIndexFindsWhatALinearSearchFinds) {
                 scene.prepareSome({}); // stops wherever it is
             }
             const PlanPoint point{std::round(random.number(0, 110)), random.number(0, 101)};
-            LookMaker maker(random.drawing.core);
+            AppearanceMaker maker(random.drawing.core);
             KdDbStub* expected = nullptr;
             double nearest = 1e9;
             PlanBox extents;
             std::set<const KdDbStub*> shown;
             scene.visitAll([&](KdDbStub& stub, const Appearance&) { shown.insert(&stub); });
             for (KdDbStub* stub : random.all()) {
-                const Appearance look = maker.appearance(*stub);
-                if (!look.seen || !shown.contains(stub)) {
+                const Appearance appearance = maker.appearance(*stub);
+                if (!appearance.seen || !shown.contains(stub)) {
                     continue;
                 }
-                extents.include(look.box());
-                const auto distance = pickDistance(look, point, 1.5);
+                extents.include(appearance.box());
+                const auto distance = pickDistance(appearance, point, 1.5);
                 if (distance && *distance <= nearest + 1e-9) {
                     nearest = std::min(nearest, *distance);
                     expected = stub;
@@ -183,10 +183,10 @@ bool isTold(const Scene::Difference& difference, const PlanBox& box) {
            });
 }
 
-TEST(SceneSteps, tellWhatLooksDifferentBeforeAndAfter) {
+TEST(SceneSteps, reportWhatChangedBeforeAndAfter) {
     TestDrawing drawing;
-    KdDbStub& wall = drawing.addMline(sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}}));
-    drawing.addMline(sketchEastward(0, 500, 10, {{1, 0}}));
+    KdDbStub& wall = drawing.addMline(sampleEastward(0, 0, 10, {{1, 0}, {-1, 0}}));
+    drawing.addMline(sampleEastward(0, 500, 10, {{1, 0}}));
     Scene scene(drawing.database);
     ASSERT_TRUE(scene.prepareSome(std::chrono::hours(1)));
     EXPECT_TRUE(scene.takeDifference().everything) << "nothing was known before";
@@ -195,7 +195,7 @@ TEST(SceneSteps, tellWhatLooksDifferentBeforeAndAfter) {
 
     const PlanBox before = scene.appearance(wall).box();
     TestDrawing::mline(wall).setContent(
-        std::make_shared<MlineContent>(sketchEastward(0, 80, 10, {{1, 0}})));
+        std::make_shared<MlineContent>(sampleEastward(0, 80, 10, {{1, 0}})));
     const PlanBox after = scene.appearance(wall).box();
     scene.prepareSome(std::chrono::hours(1));
     Scene::Difference difference = scene.takeDifference();
@@ -222,7 +222,7 @@ TEST(SceneSteps, takeChangesInWhileTheIndexIsMade) {
     KdDbLayerTableRecord& layer = drawing.addLayer(L"WALL", 1);
     constexpr int kWalls = 5000;
     for (int i = 0; i < kWalls; ++i) {
-        drawing.addMline(sketchEastward(0, 10.0 * i, 5, {{1, 0}}), i % 2 == 0 ? L"WALL" : L"0");
+        drawing.addMline(sampleEastward(0, 10.0 * i, 5, {{1, 0}}), i % 2 == 0 ? L"WALL" : L"0");
     }
     Scene scene(drawing.database);
     int added = 0;
@@ -241,51 +241,52 @@ TEST(SceneSteps, takeChangesInWhileTheIndexIsMade) {
     while (!scene.prepareSome(std::chrono::milliseconds(1))) {
     }
     const std::size_t walls = layer.isOff() ? kWalls / 2 : kWalls;
-    EXPECT_EQ(scene.placesIn({{-1, -1}, {1e6, 1e6}}).size(), walls + static_cast<unsigned>(added));
-    EXPECT_EQ(scene.placesIn({{99, -1}, {106, 1e6}}).size(), static_cast<std::size_t>(added));
+    EXPECT_EQ(scene.entitiesIn({{-1, -1}, {1e6, 1e6}}).size(),
+              walls + static_cast<unsigned>(added));
+    EXPECT_EQ(scene.entitiesIn({{99, -1}, {106, 1e6}}).size(), static_cast<std::size_t>(added));
     EXPECT_GT(added, 5);
 }
 
-TEST(LookSketch, hasTheLinesOfTheLook) {
-    Appearance look;
+TEST(CompactAppearance, hasTheLinesOfTheAppearance) {
+    Appearance appearance;
     std::vector<PlanPoint> chain;
     chain.reserve(600);
     for (int i = 0; i < 600; ++i) {
         chain.push_back({1000.0 + i, 50.0 + std::sin(i * 0.1)});
     }
-    look.strokes.push_back({.points = chain, .rgb = 0x123456, .dashes = 1});
-    look.strokes.push_back({.points = {{1000, 60}}, .rgb = 0xFFFFFF}); // a dot
-    look.fills.push_back({.outline = {{1000, 50}, {1100, 50}, {1000, 51}}, .rgb = 0x00FF00});
-    look.dashPatterns = {{3.0, -1.5}};
-    look.labels.push_back({.anchor = {1001, 52}, .height = 2.5, .text = L"A"});
-    const PlanBox box = look.box();
-    LookSketches sketches;
-    LookSketch sketch(sketches.keep(7, look, box));
-    EXPECT_EQ(sketch.rgb(), 0x123456U);
-    EXPECT_TRUE(sketch.hasFills());
-    EXPECT_EQ(sketch.labelHeight(), 2.5F);
-    LookSketch::Line line;
-    ASSERT_TRUE(sketch.next(line));
+    appearance.strokes.push_back({.points = chain, .rgb = 0x123456, .dashes = 1});
+    appearance.strokes.push_back({.points = {{1000, 60}}, .rgb = 0xFFFFFF}); // a dot
+    appearance.fills.push_back({.outline = {{1000, 50}, {1100, 50}, {1000, 51}}, .rgb = 0x00FF00});
+    appearance.dashPatterns = {{3.0, -1.5}};
+    appearance.labels.push_back({.anchor = {1001, 52}, .height = 2.5, .text = L"A"});
+    const PlanBox box = appearance.box();
+    CompactAppearances compactAppearances;
+    CompactAppearance compactAppearance(compactAppearances.keep(7, appearance, box));
+    EXPECT_EQ(compactAppearance.rgb(), 0x123456U);
+    EXPECT_TRUE(compactAppearance.hasFills());
+    EXPECT_EQ(compactAppearance.labelHeight(), 2.5F);
+    CompactAppearance::Line line;
+    ASSERT_TRUE(compactAppearance.next(line));
     EXPECT_TRUE(line.isFill);
     EXPECT_EQ(line.rgb, 0x00FF00U);
     EXPECT_EQ(line.points.size(), 3U);
-    ASSERT_TRUE(sketch.next(line));
+    ASSERT_TRUE(compactAppearance.next(line));
     EXPECT_EQ(line.rgb, 0x123456U);
     EXPECT_EQ(line.period, 4.5F);
     ASSERT_EQ(line.points.size(), chain.size());
     for (std::size_t i = 0; i < chain.size(); ++i) {
-        const PlanPoint drawn = LookSketch::place(line.points[i], box);
+        const PlanPoint drawn = CompactAppearance::decoded(line.points[i], box);
         EXPECT_NEAR(drawn.x, chain[i].x, 600 / 65535.0);
         EXPECT_NEAR(drawn.y, chain[i].y, 12 / 65535.0);
     }
-    ASSERT_TRUE(sketch.next(line));
+    ASSERT_TRUE(compactAppearance.next(line));
     EXPECT_FALSE(line.isFill);
     EXPECT_EQ(line.points.size(), 1U);
-    EXPECT_FALSE(sketch.next(line));
-    EXPECT_FALSE(sketches.find(7).empty());
-    sketches.drop(7);
-    EXPECT_TRUE(sketches.find(7).empty());
-    EXPECT_TRUE(sketches.find(8).empty());
+    EXPECT_FALSE(compactAppearance.next(line));
+    EXPECT_FALSE(compactAppearances.find(7).empty());
+    compactAppearances.drop(7);
+    EXPECT_TRUE(compactAppearances.find(7).empty());
+    EXPECT_TRUE(compactAppearances.find(8).empty());
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "Scene.h"
 
-#include "MlineSketch.h"
+#include "MlineSample.h"
 #include "TestDrawing.h"
 
 #include <cmath>
@@ -47,27 +47,27 @@ TEST(ScenePick, passesOverWhatIsNotSeen) {
     EXPECT_EQ(scene.entityAt({std::nan(""), 0, 0}, 3), nullptr);
 }
 
-TEST(SceneLook, resolvesColorsByLayerAndByBlock) {
+TEST(SceneAppearance, resolvesColorsByLayerAndByBlock) {
     TestDrawing drawing;
     drawing.addLayer(L"RED", 1);
-    auto style = sketchStyle(0, {1, 0, -1});
+    auto style = sampleStyle(0, {1, 0, -1});
     style.elements[1].color.setColorIndex(0); // by block: as the multiline
     style.elements[2].color.setColorIndex(5);
     const KdDbObjectId id(&drawing.addStyle(style));
-    MlineContent wall = sketchEastward(0, 0, 10, {{1, 0}, {0, 0}, {-1, 0}, {-2, 0}});
+    MlineContent wall = sampleEastward(0, 0, 10, {{1, 0}, {0, 0}, {-1, 0}, {-2, 0}});
     wall.style = id;
     KdDbStub& stub = drawing.addMline(wall, L"RED");
     TestDrawing::mline(stub).setColorIndex(3);
     Scene scene(drawing.database);
-    const Appearance& look = scene.appearance(stub);
-    ASSERT_EQ(look.strokes.size(), 4U);
-    EXPECT_EQ(look.strokes[0].rgb, paletteRgb(1));
-    EXPECT_EQ(look.strokes[1].rgb, paletteRgb(3));
-    EXPECT_EQ(look.strokes[2].rgb, paletteRgb(5));
-    EXPECT_EQ(look.strokes[3].rgb, paletteRgb(3)) << "an element that the style doesn't have";
+    const Appearance& appearance = scene.appearance(stub);
+    ASSERT_EQ(appearance.strokes.size(), 4U);
+    EXPECT_EQ(appearance.strokes[0].rgb, paletteRgb(1));
+    EXPECT_EQ(appearance.strokes[1].rgb, paletteRgb(3));
+    EXPECT_EQ(appearance.strokes[2].rgb, paletteRgb(5));
+    EXPECT_EQ(appearance.strokes[3].rgb, paletteRgb(3)) << "an element that the style doesn't have";
 }
 
-TEST(SceneLook, anInsertPlacesItsBlockAndGivesItLayerAndColor) {
+TEST(SceneAppearance, anInsertPlacesItsBlockAndGivesItLayerAndColor) {
     TestDrawing drawing;
     drawing.addLayer(L"RED", 1);
     drawing.addLayer(L"GREEN", 3);
@@ -88,20 +88,20 @@ TEST(SceneLook, anInsertPlacesItsBlockAndGivesItLayerAndColor) {
     insert.attributes.push_back({{7, 8, 0}, {1, 0, 0}, {0, 1, 0}, 2, 0, 0, {L"room 3"}});
     KdDbStub& stub = drawing.addShape(insert, onLayer(L"RED", 6));
     Scene scene(drawing.database);
-    const Appearance& look = scene.appearance(stub);
-    ASSERT_EQ(look.strokes.size(), 8U);
-    EXPECT_THAT(look.strokes[0].points, ElementsAre(PlanPoint{100, 0}, PlanPoint{100, 4}));
-    EXPECT_THAT(look.strokes[4].points, ElementsAre(PlanPoint{110, 0}, PlanPoint{110, 4}));
-    EXPECT_EQ(look.strokes[0].rgb, paletteRgb(1)) << "by layer, and layer 0 is the insert's";
-    EXPECT_EQ(look.strokes[1].rgb, paletteRgb(3));
-    EXPECT_EQ(look.strokes[2].rgb, paletteRgb(6));
-    EXPECT_EQ(look.strokes[3].rgb, paletteRgb(4));
-    ASSERT_EQ(look.labels.size(), 1U); // where it stands, once for all columns
-    EXPECT_EQ(look.labels[0].anchor, (PlanPoint{7, 8}));
+    const Appearance& appearance = scene.appearance(stub);
+    ASSERT_EQ(appearance.strokes.size(), 8U);
+    EXPECT_THAT(appearance.strokes[0].points, ElementsAre(PlanPoint{100, 0}, PlanPoint{100, 4}));
+    EXPECT_THAT(appearance.strokes[4].points, ElementsAre(PlanPoint{110, 0}, PlanPoint{110, 4}));
+    EXPECT_EQ(appearance.strokes[0].rgb, paletteRgb(1)) << "by layer, and layer 0 is the insert's";
+    EXPECT_EQ(appearance.strokes[1].rgb, paletteRgb(3));
+    EXPECT_EQ(appearance.strokes[2].rgb, paletteRgb(6));
+    EXPECT_EQ(appearance.strokes[3].rgb, paletteRgb(4));
+    ASSERT_EQ(appearance.labels.size(), 1U); // where it stands, once for all columns
+    EXPECT_EQ(appearance.labels[0].anchor, (PlanPoint{7, 8}));
     EXPECT_EQ(scene.pick({100, 3}, 0.5), &stub);
 }
 
-TEST(SceneLook, blocksInBlocksEndSomewhere) {
+TEST(SceneAppearance, blocksInBlocksEndSomewhere) {
     TestDrawing drawing;
     // A block that holds itself beside a line, and a tower of blocks that doubles at each floor.
     BlockEntities& cycle = drawing.core.addBlock(L"CYCLE");
@@ -129,18 +129,18 @@ TEST(SceneLook, blocksInBlocksEndSomewhere) {
                 IsEmpty());
 }
 
-TEST(SceneLook, textBecomesLabelsLineByLine) {
+TEST(SceneAppearance, textBecomesLabelsLineByLine) {
     TestDrawing drawing;
     const TextShape text{{10, 20, 0}, {0, 1, 0}, {-1, 0, 0}, 3, 1, 3, {L"one", L"two"}};
     KdDbStub& stub = drawing.addShape(text);
     Scene scene(drawing.database);
-    const Appearance& look = scene.appearance(stub);
-    ASSERT_EQ(look.labels.size(), 2U);
-    EXPECT_EQ(look.labels[0].anchor, (PlanPoint{10, 20}));
-    EXPECT_NEAR(look.labels[1].anchor.x, 15, 1e-9) << "5/3 of the height further down";
-    EXPECT_EQ(look.labels[1].text, L"two");
-    EXPECT_DOUBLE_EQ(look.labels[0].angle, std::numbers::pi / 2);
-    EXPECT_DOUBLE_EQ(look.labels[0].height, 3);
+    const Appearance& appearance = scene.appearance(stub);
+    ASSERT_EQ(appearance.labels.size(), 2U);
+    EXPECT_EQ(appearance.labels[0].anchor, (PlanPoint{10, 20}));
+    EXPECT_NEAR(appearance.labels[1].anchor.x, 15, 1e-9) << "5/3 of the height further down";
+    EXPECT_EQ(appearance.labels[1].text, L"two");
+    EXPECT_DOUBLE_EQ(appearance.labels[0].angle, std::numbers::pi / 2);
+    EXPECT_DOUBLE_EQ(appearance.labels[0].height, 3);
 }
 
 } // namespace

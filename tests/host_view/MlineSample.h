@@ -11,7 +11,7 @@ namespace orvex::testing {
 // One element's values at one vertex.
 using ValueList = std::vector<double>;
 
-struct SketchVertex {
+struct SampleVertex {
     KdGePoint3d position;
     KdGeVector3d axis;
     KdGeVector3d miter;
@@ -19,7 +19,7 @@ struct SketchVertex {
     std::vector<ValueList> areas; // by element; none at all for an empty vector
 };
 
-inline MlineContent sketchMline(const std::vector<SketchVertex>& vertices, bool closed = false) {
+inline MlineContent sampleMline(const std::vector<SampleVertex>& vertices, bool closed = false) {
     MlineContent mline;
     mline.traits = std::make_shared<EntityTraits>();
     mline.closed = closed;
@@ -29,7 +29,7 @@ inline MlineContent sketchMline(const std::vector<SketchVertex>& vertices, bool 
         counts.push_back(static_cast<std::uint32_t>(list.size()));
         values.insert(values.end(), list.begin(), list.end());
     };
-    for (const SketchVertex& vertex : vertices) {
+    for (const SampleVertex& vertex : vertices) {
         mline.vertices.push_back({vertex.position, vertex.axis, vertex.miter});
         for (std::size_t element = 0; element < vertex.lines.size(); ++element) {
             add(vertex.lines[element]);
@@ -43,20 +43,20 @@ inline MlineContent sketchMline(const std::vector<SketchVertex>& vertices, bool 
 
 // Eastwards from (x, y), with the elements' lists at the first vertex; at the last vertex every
 // element has its position alone.
-inline MlineContent sketchEastward(double x, double y, double length,
+inline MlineContent sampleEastward(double x, double y, double length,
                                    const std::vector<ValueList>& lines) {
     std::vector<ValueList> last;
     last.reserve(lines.size());
     for (const ValueList& list : lines) {
         last.push_back({list.front(), 0.0});
     }
-    return sketchMline({{{x, y, 0}, {1, 0, 0}, {0, 1, 0}, lines, {}},
+    return sampleMline({{{x, y, 0}, {1, 0, 0}, {0, 1, 0}, lines, {}},
                         {{x + length, y, 0}, {1, 0, 0}, {0, 1, 0}, last, {}}});
 }
 
-inline MlineStyleContent sketchStyle(int flags, std::initializer_list<double> offsets) {
+inline MlineStyleContent sampleStyle(int flags, std::initializer_list<double> offsets) {
     MlineStyleContent style;
-    style.name = L"SKETCH";
+    style.name = L"SAMPLE";
     style.flags = flags;
     for (const double offset : offsets) {
         style.elements.emplace_back().offset = offset;

@@ -1,6 +1,6 @@
-#include "mlineLook.h"
+#include "drawMline.h"
 
-#include "MlineSketch.h"
+#include "MlineSample.h"
 #include "mlinePainter.h"
 
 #include <cmath>
@@ -24,7 +24,7 @@ void write(std::ostream& out, const KdGePoint3d& point) {
 
 // Writes down what is drawn: "0 (x y)(x y)" for a stretch of element 0; of a cap or a joint the
 // first point, the one in the middle and the last.
-class PartsInWords final : public MlineParts {
+class MlineInWords final : public MlineSink {
 public:
     void fill(std::span<const KdGePoint3d> outline) override {
         std::ostringstream text;
@@ -33,7 +33,7 @@ public:
         }
         fills.push_back(text.str());
     }
-    void stretch(const KdGePoint3d& begin, const KdGePoint3d& end, unsigned element) override {
+    void elementLine(const KdGePoint3d& begin, const KdGePoint3d& end, unsigned element) override {
         std::ostringstream text;
         text << element << ' ';
         write(text, begin);
@@ -55,9 +55,9 @@ public:
     Texts crossings;
 };
 
-PartsInWords partsOf(const MlineContent& mline, int flags = 0) {
-    const MlineStyleContent style = sketchStyle(flags, {});
-    PartsInWords parts;
+MlineInWords partsOf(const MlineContent& mline, int flags = 0) {
+    const MlineStyleContent style = sampleStyle(flags, {});
+    MlineInWords parts;
     drawMline(mline, flags == 0 ? nullptr : &style, parts);
     return parts;
 }
@@ -77,12 +77,12 @@ TEST(MlineStretches, lieOnTheElementsLineExactlyAsItsListSays) {
         {"nothing at all", {}, {}},
     };
     for (const auto& each : cases) {
-        auto mline = sketchMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {each.list}, {}},
+        auto mline = sampleMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {each.list}, {}},
                                   {{10, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{0.5, 0}}, {}}});
         EXPECT_THAT(partsOf(mline).stretches, ElementsAreArray(each.drawn)) << each.what;
     }
     // From (0, 3) to (4, 0): 5 long, so half way is at 2.5, whatever the axis says.
-    const auto slanting = sketchMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{3, 2.5}}, {}},
+    const auto slanting = sampleMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{3, 2.5}}, {}},
                                        {{4, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{0, 0}}, {}}});
     EXPECT_THAT(partsOf(slanting).stretches, ElementsAre("0 (2 1.5)(4 0)"));
 }
@@ -92,7 +92,7 @@ TEST(MlineStretches, theLastVertexLeadsBackInAClosedChainAndNowhereInAnOpenOne) 
     // the diagonals and have unit length, so the position is sqrt(2) along.
     const double h = std::sqrt(0.5);
     const ValueList list{std::sqrt(2.0), 0};
-    auto square = sketchMline({{{0, 0, 0}, {1, 0, 0}, {h, h, 0}, {list}, {}},
+    auto square = sampleMline({{{0, 0, 0}, {1, 0, 0}, {h, h, 0}, {list}, {}},
                                {{10, 0, 0}, {0, 1, 0}, {-h, h, 0}, {list}, {}},
                                {{10, 10, 0}, {-1, 0, 0}, {-h, -h, 0}, {list}, {}},
                                {{0, 10, 0}, {0, -1, 0}, {h, -h, 0}, {list}, {}}});
@@ -154,7 +154,7 @@ TEST(MlineCaps, standWhereTheirElementsReachTheEnd) {
         {"one element has none", kStartLine | kEndRound, {outer}, {}},
     };
     for (const auto& each : cases) {
-        const auto mline = sketchEastward(0, 0, 10, each.lists);
+        const auto mline = sampleEastward(0, 0, 10, each.lists);
         EXPECT_THAT(partsOf(mline, each.flags).crossings, ElementsAreArray(each.drawn))
             << each.what;
     }
@@ -162,7 +162,7 @@ TEST(MlineCaps, standWhereTheirElementsReachTheEnd) {
 
 TEST(MlineCaps, aSuppressedEndAndAClosedChainHaveNone) {
     constexpr int kBoth = kStartLine | kEndLine;
-    auto mline = sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}});
+    auto mline = sampleEastward(0, 0, 10, {{1, 0}, {-1, 0}});
     mline.startCapsSuppressed = true;
     EXPECT_THAT(partsOf(mline, kBoth).crossings, ElementsAre("cap 0-1 (10 1)(10 0)(10 -1)"));
     mline.endCapsSuppressed = true;
@@ -176,7 +176,7 @@ TEST(MlineCaps, followASlantingEnd) {
     // Miter at 45 degrees: the outer elements cross it at 2 and -2 across, 2 and -2 along.
     const double h = std::sqrt(0.5);
     const double r = 2 * std::sqrt(2.0);
-    const auto mline = sketchMline({{{0, 0, 0}, {1, 0, 0}, {h, h, 0}, {{r, 0}, {-r, 0}}, {}},
+    const auto mline = sampleMline({{{0, 0, 0}, {1, 0, 0}, {h, h, 0}, {{r, 0}, {-r, 0}}, {}},
                                     {{10, 0, 0}, {1, 0, 0}, {0, 1, 0}, {{2, 0}, {-2, 0}}, {}}});
     // The arc's top lies a radius away from the line's middle, square to it.
     EXPECT_THAT(partsOf(mline, kStartLine | kStartRound).crossings,
@@ -186,7 +186,7 @@ TEST(MlineCaps, followASlantingEnd) {
 MlineContent corner(const std::vector<ValueList>& first, const std::vector<ValueList>& second) {
     // East to (10, 0), then north; at the corner the miter points north-west.
     const double h = std::sqrt(0.5);
-    return sketchMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, first, {}},
+    return sampleMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, first, {}},
                         {{10, 0, 0}, {0, 1, 0}, {-h, h, 0}, second, {}},
                         {{10, 10, 0}, {0, 1, 0}, {-1, 0, 0}, {{1, 0}, {-1, 0}}, {}}});
 }
@@ -202,7 +202,7 @@ TEST(MlineJoints, standAtInnerVerticesOutsideOfGaps) {
 }
 
 TEST(MlineFill, liesBetweenTheOuterElementsWhateverTheirGaps) {
-    EXPECT_THAT(partsOf(sketchEastward(0, 0, 10, {{1, 0, 4, 6}, {0, 0}, {-2, 0}}), kFilled).fills,
+    EXPECT_THAT(partsOf(sampleEastward(0, 0, 10, {{1, 0, 4, 6}, {0, 0}, {-2, 0}}), kFilled).fills,
                 ElementsAre("(0 1)(10 1)(10 -2)(0 -2)"));
     const double m = std::sqrt(2.0);
     EXPECT_THAT(partsOf(corner({{1, 0}, {-1, 0}}, {{m, 0}, {-m, 0}}), kFilled).fills,
@@ -213,7 +213,7 @@ TEST(MlineFill, liesBetweenTheOuterElementsWhateverTheirGaps) {
 TEST(MlineFill, followsAreaListsWhereThereAreSome) {
     const std::vector<ValueList> whole{{1, 0}, {-1, 0}};
     auto mline =
-        sketchMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, whole, {{1, 0, 3, 5}, {-1, 0, 4, 6}}},
+        sampleMline({{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, whole, {{1, 0, 3, 5}, {-1, 0, 4, 6}}},
                      {{10, 0, 0}, {1, 0, 0}, {0, 1, 0}, whole, {{}, {}}},
                      {{20, 0, 0}, {1, 0, 0}, {0, 1, 0}, whole, {{}, {}}}});
     EXPECT_THAT(partsOf(mline, kFilled).fills,
@@ -222,37 +222,38 @@ TEST(MlineFill, followsAreaListsWhereThereAreSome) {
 }
 
 TEST(MlinePainter, capsAreHalfOfEachElementsColor) {
-    const auto mline = sketchEastward(0, 0, 10, {{1, 0}, {-1, 0}});
-    const auto style = sketchStyle(kStartLine, {});
+    const auto mline = sampleEastward(0, 0, 10, {{1, 0}, {-1, 0}});
+    const auto style = sampleStyle(kStartLine, {});
     MlinePens pens;
     pens.elements = {Pen{0xFF0000}, Pen{0x00FF00}};
-    Appearance look;
-    AppearanceInk ink(look);
-    Pencil pencil(ink);
-    paintMline(mline, &style, pens, pencil);
+    Appearance appearance;
+    AppearanceSink whole(appearance);
+    PlacedSink sink(whole);
+    paintMline(mline, &style, pens, sink);
 
-    ASSERT_EQ(look.strokes.size(), 4U);
-    EXPECT_EQ(look.strokes[0].rgb, 0xFF0000U);
-    EXPECT_EQ(look.strokes[1].rgb, 0x00FF00U);
-    EXPECT_EQ(look.strokes[2].rgb, 0xFF0000U);
-    EXPECT_THAT(look.strokes[3].points, ElementsAre(PlanPoint{0, 0}, PlanPoint{0, -1}));
-    EXPECT_EQ(look.strokes[3].rgb, 0x00FF00U);
-    EXPECT_EQ(look.strokes[3].role, StrokeRole::cap);
+    ASSERT_EQ(appearance.strokes.size(), 4U);
+    EXPECT_EQ(appearance.strokes[0].rgb, 0xFF0000U);
+    EXPECT_EQ(appearance.strokes[1].rgb, 0x00FF00U);
+    EXPECT_EQ(appearance.strokes[2].rgb, 0xFF0000U);
+    EXPECT_THAT(appearance.strokes[3].points, ElementsAre(PlanPoint{0, 0}, PlanPoint{0, -1}));
+    EXPECT_EQ(appearance.strokes[3].rgb, 0x00FF00U);
+    EXPECT_EQ(appearance.strokes[3].role, StrokeRole::cap);
 }
 
-TEST(Ink, passesOverWhatIsNoPlaceInAnyDrawing) {
+TEST(DrawSink, skipsWhatIsOutOfRange) {
     const double nan = std::nan("");
     for (const double bad : {nan, HUGE_VAL, -HUGE_VAL, 1e200}) {
-        const auto mline = sketchEastward(0, 0, 10, {{bad, 0}, {-1, 0}, {1, 0, bad}});
-        const auto style = sketchStyle(1 | 2 | kStartRound | kEndLine | kStartArcs, {});
-        Appearance look;
-        AppearanceInk ink(look);
-        Pencil pencil(ink);
-        paintMline(mline, &style, {}, pencil);
-        ASSERT_FALSE(look.strokes.empty());
-        EXPECT_THAT(look.strokes[0].points, ElementsAre(PlanPoint{0, -1}, PlanPoint{10, -1}));
-        EXPECT_TRUE(std::isfinite(look.box().low.x) && std::isfinite(look.box().high.y)) << bad;
-        EXPECT_LE(look.box().high.x, 11) << bad;
+        const auto mline = sampleEastward(0, 0, 10, {{bad, 0}, {-1, 0}, {1, 0, bad}});
+        const auto style = sampleStyle(1 | 2 | kStartRound | kEndLine | kStartArcs, {});
+        Appearance appearance;
+        AppearanceSink whole(appearance);
+        PlacedSink sink(whole);
+        paintMline(mline, &style, {}, sink);
+        ASSERT_FALSE(appearance.strokes.empty());
+        EXPECT_THAT(appearance.strokes[0].points, ElementsAre(PlanPoint{0, -1}, PlanPoint{10, -1}));
+        EXPECT_TRUE(std::isfinite(appearance.box().low.x) && std::isfinite(appearance.box().high.y))
+            << bad;
+        EXPECT_LE(appearance.box().high.x, 11) << bad;
     }
 }
 

@@ -1,4 +1,4 @@
-#include "LookTable.h"
+#include "SharedTraits.h"
 
 #include "DatabaseCore.h"
 #include "KdDbLayerTable.h"
@@ -23,24 +23,24 @@ const T* readObject(DatabaseCore& core, KdDbStub* stub) {
 
 } // namespace
 
-const LayerLook& LookTable::layer(const std::wstring& name) {
+const LayerTraits& SharedTraits::layer(const std::wstring& name) {
     if (const auto known = m_layers.find(name); known != m_layers.end()) {
         return known->second;
     }
-    LayerLook look;
+    LayerTraits appearance;
     KdDbStub* const stub = m_core.findLayer(name);
     if (const auto* record = readObject<KdDbLayerTableRecord>(m_core, stub)) {
-        look.pen.rgb = record->color().rgb();
-        look.seen = !record->isOff() && !record->isFrozen();
+        appearance.pen.rgb = record->color().rgb();
+        appearance.seen = !record->isOff() && !record->isFrozen();
         const Linetype& own = linetype(record->linetype());
-        look.pen.dashes = own.dashes.empty() ? nullptr : &own.dashes;
+        appearance.pen.dashes = own.dashes.empty() ? nullptr : &own.dashes;
     }
     m_missedOne = m_missedOne || stub == nullptr;
     m_covered.insert(stub);
-    return m_layers.emplace(name, look).first->second;
+    return m_layers.emplace(name, appearance).first->second;
 }
 
-const MlineStyleContent* LookTable::style(KdDbObjectId id) {
+const MlineStyleContent* SharedTraits::style(KdDbObjectId id) {
     if (id.isNull()) {
         return nullptr;
     }
@@ -49,7 +49,7 @@ const MlineStyleContent* LookTable::style(KdDbObjectId id) {
     return style != nullptr ? &style->values() : nullptr;
 }
 
-const LookTable::Linetype& LookTable::linetype(const std::wstring& name) {
+const SharedTraits::Linetype& SharedTraits::linetype(const std::wstring& name) {
     if (const auto known = m_linetypes.find(name); known != m_linetypes.end()) {
         return known->second;
     }
@@ -70,8 +70,8 @@ const LookTable::Linetype& LookTable::linetype(const std::wstring& name) {
     return m_linetypes.emplace(name, std::move(found)).first->second;
 }
 
-Pen LookTable::pen(const KdCmColor& color, const std::wstring& linetype, double scale,
-                   const LayerLook& layer, const Pen& byBlock) {
+Pen SharedTraits::pen(const KdCmColor& color, const std::wstring& linetype, double scale,
+                      const LayerTraits& layer, const Pen& byBlock) {
     Pen pen;
     switch (color.colorMethod()) {
     case KdCmColor::byLayer:
@@ -101,17 +101,17 @@ Pen LookTable::pen(const KdCmColor& color, const std::wstring& linetype, double 
     return pen;
 }
 
-std::wstring LookTable::linetypeName(const StyleElement& element) {
+std::wstring SharedTraits::linetypeName(const StyleElement& element) {
     const auto* record = readObject<KdDbLinetypeTableRecord>(m_core, element.linetype.stub());
     return record != nullptr ? record->name() : element.linetypeName;
 }
 
-double LookTable::drawingScale() const {
+double SharedTraits::drawingScale() const {
     const double scale = m_core.variables().real("LTSCALE");
     return scale > 0.0 ? scale : 1.0;
 }
 
-bool LookTable::covers(const KdDbStub& changed) const {
+bool SharedTraits::covers(const KdDbStub& changed) const {
     switch (changed.kind) {
     case ObjectKind::layer:
     case ObjectKind::linetype:
@@ -123,11 +123,11 @@ bool LookTable::covers(const KdDbStub& changed) const {
     }
 }
 
-bool LookTable::isScaleStale() const {
+bool SharedTraits::isScaleStale() const {
     return m_scale != 0.0 && m_scale != drawingScale();
 }
 
-void LookTable::forget() {
+void SharedTraits::forget() {
     m_layers.clear();
     m_linetypes.clear();
     m_covered.clear();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "MlineStyleContent.h"
-#include "mlineLook.h"
+#include "drawMline.h"
 #include "mlineTrack.h"
 
 namespace orvex {
@@ -20,8 +20,8 @@ enum MlineStyleFlag : int {
 
 // The parts that take more than one element. `across` has the elements by position.
 void drawCaps(const MlineContent& mline, const MlineChain& chain, int styleFlags,
-              std::span<const unsigned> across, MlineParts& parts);
-void drawJoints(const MlineChain& chain, std::span<const unsigned> across, MlineParts& parts);
-void drawFill(const MlineChain& chain, std::span<const unsigned> across, MlineParts& parts);
+              std::span<const unsigned> across, MlineSink& sink);
+void drawJoints(const MlineChain& chain, std::span<const unsigned> across, MlineSink& sink);
+void drawFill(const MlineChain& chain, std::span<const unsigned> across, MlineSink& sink);
 
 } // namespace orvex

@@ -1,4 +1,4 @@
-#include "LookSketch.h"
+#include "CompactAppearance.h"
 
 #include <algorithm>
 #include <bit>
@@ -23,18 +23,18 @@ std::uint32_t pointWord(PlanPoint point, const PlanBox& box) {
     return stepOf(point.x, box.low.x, box.high.x) | stepOf(point.y, box.low.y, box.high.y) << 16U;
 }
 
-std::uint32_t firstRgb(const Appearance& look) {
-    const std::uint32_t rgb = !look.strokes.empty()  ? look.strokes.front().rgb
-                              : !look.fills.empty()  ? look.fills.front().rgb
-                              : !look.labels.empty() ? look.labels.front().rgb
-                                                     : 0U;
+std::uint32_t firstRgb(const Appearance& appearance) {
+    const std::uint32_t rgb = !appearance.strokes.empty()  ? appearance.strokes.front().rgb
+                              : !appearance.fills.empty()  ? appearance.fills.front().rgb
+                              : !appearance.labels.empty() ? appearance.labels.front().rgb
+                                                           : 0U;
     return rgb & kColorBits;
 }
 
-float periodOf(const Stroke& stroke, const Appearance& look) {
+float periodOf(const Stroke& stroke, const Appearance& appearance) {
     double period = 0.0;
-    if (stroke.dashes > 0 && stroke.dashes <= look.dashPatterns.size()) {
-        for (const double dash : look.dashPatterns[stroke.dashes - 1]) {
+    if (stroke.dashes > 0 && stroke.dashes <= appearance.dashPatterns.size()) {
+        for (const double dash : appearance.dashPatterns[stroke.dashes - 1]) {
             period += std::abs(dash);
         }
     }
@@ -53,11 +53,11 @@ void addPoints(std::uint32_t head, float period, const std::vector<PlanPoint>& p
 
 } // namespace
 
-float LookSketch::labelHeight() const {
+float CompactAppearance::labelHeight() const {
     return std::bit_cast<float>(m_words[1]);
 }
 
-bool LookSketch::next(Line& line) {
+bool CompactAppearance::next(Line& line) {
     if (m_at >= m_words.size()) {
         return false;
     }
@@ -69,30 +69,30 @@ bool LookSketch::next(Line& line) {
     return true;
 }
 
-PlanPoint LookSketch::place(std::uint32_t point, const PlanBox& box) {
+PlanPoint CompactAppearance::decoded(std::uint32_t point, const PlanBox& box) {
     return {box.low.x + (box.high.x - box.low.x) * ((point & 0xFFFFU) / kSteps),
             box.low.y + (box.high.y - box.low.y) * ((point >> 16U) / kSteps)};
 }
 
-std::span<const std::uint32_t> LookSketches::find(std::uint32_t number) const {
-    return number < m_sketches.size() ? m_sketches[number] : std::span<const std::uint32_t>{};
+std::span<const std::uint32_t> CompactAppearances::find(std::uint32_t number) const {
+    return number < m_appearances.size() ? m_appearances[number] : std::span<const std::uint32_t>{};
 }
 
-std::span<const std::uint32_t> LookSketches::keep(std::uint32_t number, const Appearance& look,
-                                                  const PlanBox& box) {
+std::span<const std::uint32_t>
+CompactAppearances::keep(std::uint32_t number, const Appearance& appearance, const PlanBox& box) {
     std::vector<std::uint32_t>& words = m_latest;
     words.clear();
     double labelHeight = 0.0;
-    for (const Label& label : look.labels) {
+    for (const Label& label : appearance.labels) {
         labelHeight = std::max(labelHeight, label.height);
     }
-    words.push_back(firstRgb(look) | (look.fills.empty() ? 0U : kFillBit));
+    words.push_back(firstRgb(appearance) | (appearance.fills.empty() ? 0U : kFillBit));
     words.push_back(std::bit_cast<std::uint32_t>(static_cast<float>(labelHeight)));
-    for (const Fill& fill : look.fills) {
+    for (const Fill& fill : appearance.fills) {
         addPoints((fill.rgb & kColorBits) | kFillBit, 0.0F, fill.outline, box, words);
     }
-    for (const Stroke& stroke : look.strokes) {
-        addPoints(stroke.rgb & kColorBits, periodOf(stroke, look), stroke.points, box, words);
+    for (const Stroke& stroke : appearance.strokes) {
+        addPoints(stroke.rgb & kColorBits, periodOf(stroke, appearance), stroke.points, box, words);
     }
     if (m_kept + words.size() > kMostWords) {
         return words; // made again whenever it is asked for
@@ -106,18 +106,18 @@ std::span<const std::uint32_t> LookSketches::keep(std::uint32_t number, const Ap
     std::copy(words.begin(), words.end(), target);
     chunk.used += words.size();
     m_kept += words.size();
-    m_sketches.resize(std::max(m_sketches.size(), std::size_t{number} + 1));
-    m_sketches[number] = {target, words.size()};
-    return m_sketches[number];
+    m_appearances.resize(std::max(m_appearances.size(), std::size_t{number} + 1));
+    m_appearances[number] = {target, words.size()};
+    return m_appearances[number];
 }
 
-void LookSketches::drop(std::uint32_t number) {
-    if (number < m_sketches.size()) {
-        m_sketches[number] = {};
+void CompactAppearances::drop(std::uint32_t number) {
+    if (number < m_appearances.size()) {
+        m_appearances[number] = {};
     }
 }
 
-void LookSketches::clear() {
+void CompactAppearances::clear() {
     *this = {};
 }
 

@@ -1,12 +1,12 @@
-#include "mlineLook.h"
+#include "drawMline.h"
 
-#include "mlinePieces.h"
+#include "mlineParts.h"
 
 namespace orvex {
 
 namespace {
 
-void drawStretches(const MlineChain& chain, MlineParts& parts) {
+void drawElements(const MlineChain& chain, MlineSink& sink) {
     for (unsigned element = 0; element < chain.elementCount(); ++element) {
         for (unsigned segment = 0; segment < chain.segmentCount(); ++segment) {
             const auto list = chain.line(segment, element);
@@ -18,7 +18,7 @@ void drawStretches(const MlineChain& chain, MlineParts& parts) {
                 const KdGePoint3d begin = track.at(stretch.begin);
                 const KdGePoint3d end = stretchEnd(track, stretch);
                 if (begin != end) {
-                    parts.stretch(begin, end, element);
+                    sink.elementLine(begin, end, element);
                 }
             });
         }
@@ -27,23 +27,23 @@ void drawStretches(const MlineChain& chain, MlineParts& parts) {
 
 } // namespace
 
-void drawMline(const MlineContent& mline, const MlineStyleContent* style, MlineParts& parts) {
+void drawMline(const MlineContent& mline, const MlineStyleContent* style, MlineSink& sink) {
     const MlineChain chain(mline);
     const int flags = style != nullptr ? style->flags : 0;
     if (flags == 0 || chain.segmentCount() == 0 || chain.elementCount() < 2) {
-        drawStretches(chain, parts);
+        drawElements(chain, sink);
         return;
     }
     const auto across = chain.elementsAcross();
     if ((flags & kStyleFilled) != 0) {
-        drawFill(chain, across, parts);
+        drawFill(chain, across, sink);
     }
-    drawStretches(chain, parts);
+    drawElements(chain, sink);
     if (!chain.isClosed()) {
-        drawCaps(mline, chain, flags, across, parts);
+        drawCaps(mline, chain, flags, across, sink);
     }
     if ((flags & kStyleMiters) != 0) {
-        drawJoints(chain, across, parts);
+        drawJoints(chain, across, sink);
     }
 }
 

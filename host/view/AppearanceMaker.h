@@ -2,7 +2,7 @@
 
 #include "Appearance.h"
 #include "BlockContents.h"
-#include "LookTable.h"
+#include "SharedTraits.h"
 
 #include <cstdint>
 
@@ -10,10 +10,10 @@ struct KdDbStub;
 
 namespace orvex {
 
-// Makes the looks of entities as they are now. Remembers what entities share.
-class LookMaker {
+// Makes the appearances of entities as they are now. Remembers what entities share.
+class AppearanceMaker {
 public:
-    explicit LookMaker(DatabaseCore& core) : m_core(core), m_table(core), m_blocks(core) {}
+    explicit AppearanceMaker(DatabaseCore& core) : m_core(core), m_table(core), m_blocks(core) {}
 
     [[nodiscard]] Appearance appearance(const KdDbStub& entity);
     // Of an entity that may stand outside of any drawing; one without a model of its own shows
@@ -22,21 +22,21 @@ public:
     // The box alone, for far less; empty for an entity that isn't seen.
     [[nodiscard]] PlanBox box(const KdDbStub& entity);
 
-    // Before many looks or boxes are made: what their inserts may cost together begins anew.
+    // Before many appearances or boxes are made: what their inserts may cost together begins anew.
     void startWalk() { m_walkWork = 0; }
 
-    // True when the change of an object may change the looks of entities other than itself.
+    // True when the change of an object may change the appearance of entities other than itself.
     [[nodiscard]] bool isShared(const KdDbStub& changed) const;
     [[nodiscard]] bool isScaleStale() const { return m_table.isScaleStale(); }
     void forgetShared();
 
 private:
-    bool draw(const KdDbStub& entity, Ink& ink);
-    bool draw(const EntityReading& reading, Ink& ink);
+    bool draw(const KdDbStub& entity, DrawSink& sink);
+    bool draw(const EntityReading& reading, DrawSink& sink);
 
     DatabaseCore& m_core;
     std::int64_t m_walkWork = 0;
-    LookTable m_table;
+    SharedTraits m_table;
     BlockContents m_blocks;
 };
 

@@ -20,12 +20,12 @@ struct Pen {
 
 // Takes what entities draw, in the plan. What has a coordinate that isn't a number, or lies out
 // of the range of drawings, is passed over: it can't be seen, and it must not spoil the rest.
-class Ink {
+class DrawSink {
 public:
-    Ink() = default;
-    Ink(const Ink&) = delete;
-    Ink& operator=(const Ink&) = delete;
-    virtual ~Ink() = default;
+    DrawSink() = default;
+    DrawSink(const DrawSink&) = delete;
+    DrawSink& operator=(const DrawSink&) = delete;
+    virtual ~DrawSink() = default;
 
     void stroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen);
     void fill(std::span<const PlanPoint> outline, std::uint32_t rgb);
@@ -45,9 +45,9 @@ private:
 };
 
 // Keeps all of it.
-class AppearanceInk final : public Ink {
+class AppearanceSink final : public DrawSink {
 public:
-    explicit AppearanceInk(Appearance& appearance) : m_appearance(appearance) {}
+    explicit AppearanceSink(Appearance& appearance) : m_appearance(appearance) {}
 
     [[nodiscard]] bool wantsPens() const override { return true; }
 
@@ -62,7 +62,7 @@ private:
 
 // Keeps only what it covers, so that a whole drawing can be measured in no more memory than one
 // box.
-class BoxInk final : public Ink {
+class BoxSink final : public DrawSink {
 public:
     [[nodiscard]] const PlanBox& box() const { return m_box; }
     [[nodiscard]] bool wantsPens() const override { return false; }

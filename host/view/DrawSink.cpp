@@ -1,4 +1,4 @@
-#include "looksInk.h"
+#include "DrawSink.h"
 
 #include "labelBox.h"
 
@@ -33,21 +33,21 @@ bool isUsablePattern(const std::vector<double>& dashes, double scale) {
 
 } // namespace
 
-void Ink::stroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) {
+void DrawSink::stroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) {
     m_pointCount += points.size();
     if (!points.empty() && isDrawable(points)) {
         takeStroke(points, role, pen);
     }
 }
 
-void Ink::fill(std::span<const PlanPoint> outline, std::uint32_t rgb) {
+void DrawSink::fill(std::span<const PlanPoint> outline, std::uint32_t rgb) {
     m_pointCount += outline.size();
     if (outline.size() > 2 && isDrawable(outline)) {
         takeFill(outline, rgb);
     }
 }
 
-void Ink::label(const Label& label) {
+void DrawSink::label(const Label& label) {
     const PlanPoint anchor = label.anchor;
     const bool drawable = isDrawable({&anchor, 1}) && std::isfinite(label.angle) &&
                           label.height > 0.0 && isDrawable(label.height);
@@ -56,22 +56,23 @@ void Ink::label(const Label& label) {
     }
 }
 
-void AppearanceInk::takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) {
+void AppearanceSink::takeStroke(std::span<const PlanPoint> points, StrokeRole role,
+                                const Pen& pen) {
     m_appearance.strokes.push_back({.points = {points.begin(), points.end()},
                                     .rgb = pen.rgb,
                                     .role = role,
                                     .dashes = dashesOf(pen)});
 }
 
-void AppearanceInk::takeFill(std::span<const PlanPoint> outline, std::uint32_t rgb) {
+void AppearanceSink::takeFill(std::span<const PlanPoint> outline, std::uint32_t rgb) {
     m_appearance.fills.push_back({.outline = {outline.begin(), outline.end()}, .rgb = rgb});
 }
 
-void AppearanceInk::takeLabel(const Label& label) {
+void AppearanceSink::takeLabel(const Label& label) {
     m_appearance.labels.push_back(label);
 }
 
-std::uint32_t AppearanceInk::dashesOf(const Pen& pen) {
+std::uint32_t AppearanceSink::dashesOf(const Pen& pen) {
     if (pen.dashes == nullptr || !isUsablePattern(*pen.dashes, pen.dashScale)) {
         return 0;
     }
@@ -87,19 +88,19 @@ std::uint32_t AppearanceInk::dashesOf(const Pen& pen) {
     return static_cast<std::uint32_t>(found - known.begin() + 1);
 }
 
-void BoxInk::takeStroke(std::span<const PlanPoint> points, StrokeRole, const Pen&) {
+void BoxSink::takeStroke(std::span<const PlanPoint> points, StrokeRole, const Pen&) {
     for (const PlanPoint& point : points) {
         m_box.include(point);
     }
 }
 
-void BoxInk::takeFill(std::span<const PlanPoint> outline, std::uint32_t) {
+void BoxSink::takeFill(std::span<const PlanPoint> outline, std::uint32_t) {
     for (const PlanPoint& point : outline) {
         m_box.include(point);
     }
 }
 
-void BoxInk::takeLabel(const Label& label) {
+void BoxSink::takeLabel(const Label& label) {
     m_box.include(labelBox(label));
 }
 

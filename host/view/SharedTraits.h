@@ -1,9 +1,9 @@
 #pragma once
 
+#include "DrawSink.h"
 #include "KdCmColor.h"
 #include "KdDbObjectId.h"
 #include "MlineStyleContent.h"
-#include "looksInk.h"
 
 #include <string>
 #include <string_view>
@@ -16,25 +16,25 @@ namespace orvex {
 class DatabaseCore;
 
 // What a layer gives its entities.
-struct LayerLook {
+struct LayerTraits {
     Pen pen;
     bool seen = true; // neither frozen nor off
 };
 
 // Looks up what entities share: layers, line types, styles. What was looked up is kept until
 // `forget`; whoever owns the table asks `covers` whether a changed object was among it.
-class LookTable {
+class SharedTraits {
 public:
-    explicit LookTable(DatabaseCore& core) : m_core(core) {}
+    explicit SharedTraits(DatabaseCore& core) : m_core(core) {}
 
     // Layers that the drawing doesn't have are seen and white.
-    const LayerLook& layer(const std::wstring& name);
+    const LayerTraits& layer(const std::wstring& name);
     // Null for a null id and for a style that was erased.
     const MlineStyleContent* style(KdDbObjectId id);
     // A colour and a line type as they are meant on this layer and in this block. `scale` is the
     // entity's line type scale; the drawing's own comes on top.
     Pen pen(const KdCmColor& color, const std::wstring& linetype, double scale,
-            const LayerLook& layer, const Pen& byBlock);
+            const LayerTraits& layer, const Pen& byBlock);
     // The name of an element's line type.
     std::wstring linetypeName(const StyleElement& element);
 
@@ -52,7 +52,7 @@ private:
     [[nodiscard]] double drawingScale() const;
 
     DatabaseCore& m_core;
-    std::unordered_map<std::wstring, LayerLook> m_layers;
+    std::unordered_map<std::wstring, LayerTraits> m_layers;
     std::unordered_map<std::wstring, Linetype> m_linetypes;
     std::unordered_set<const KdDbStub*> m_covered;
     bool m_missedOne = false; // a name was asked for that a new object might now have

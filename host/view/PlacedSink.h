@@ -1,37 +1,37 @@
 #pragma once
 
+#include "DrawSink.h"
 #include "Placement.h"
-#include "looksInk.h"
 
 #include <span>
 #include <vector>
 
 namespace orvex {
 
-// Draws points of one space into an ink that takes them in the plan.
-class Pencil {
+// Takes points of one space and hands them to a sink that takes them in the plan.
+class PlacedSink {
 public:
     // For the world's own points.
-    explicit Pencil(Ink& ink) : m_ink(ink) {}
+    explicit PlacedSink(DrawSink& sink) : m_sink(sink) {}
     // For points of a block that is placed in the world.
-    Pencil(Ink& ink, const Placement& placement)
-        : m_ink(ink), m_placement(placement), m_placed(true) {}
+    PlacedSink(DrawSink& sink, const Placement& placement)
+        : m_sink(sink), m_placement(placement), m_placed(true) {}
 
     void stroke(std::span<const KdGePoint3d> chain, StrokeRole role, const Pen& pen);
     void fill(std::span<const KdGePoint3d> outline, std::uint32_t rgb);
-    void label(const Label& label) { m_ink.label(label); } // in the plan already
+    void label(const Label& label) { m_sink.label(label); } // in the plan already
 
     [[nodiscard]] PlanPoint inPlan(const KdGePoint3d& point) const;
     [[nodiscard]] PlanPoint directionInPlan(const KdGeVector3d& direction) const;
     [[nodiscard]] const Placement& placement() const { return m_placement; }
     [[nodiscard]] bool isPlaced() const { return m_placed; }
-    [[nodiscard]] bool wantsPens() const { return m_ink.wantsPens(); }
-    [[nodiscard]] Ink& ink() const { return m_ink; }
+    [[nodiscard]] bool wantsPens() const { return m_sink.wantsPens(); }
+    [[nodiscard]] DrawSink& sink() const { return m_sink; }
 
 private:
     void project(std::span<const KdGePoint3d> points);
 
-    Ink& m_ink;
+    DrawSink& m_sink;
     Placement m_placement;
     bool m_placed = false;
     std::vector<PlanPoint> m_plan; // kept, so that not every line needs memory of its own

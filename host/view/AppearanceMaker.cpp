@@ -1,0 +1,61 @@
+#include "AppearanceMaker.h"
+
+#include "DatabaseCore.h"
+#include "EntityDrawer.h"
+
+namespace orvex {
+
+namespace {
+
+// Of all inserts of a walk, about in points. A file can name a block that comes to millions of
+// entities any number of times; the later ones then show their beginnings only.
+constexpr std::int64_t kMostWalkWork = 1'000'000'000;
+constexpr int kFewEntities = 100;
+
+} // namespace
+
+bool AppearanceMaker::draw(const KdDbStub& entity, DrawSink& sink) {
+    const auto reading = readEntity(entity);
+    return reading && draw(*reading, sink);
+}
+
+bool AppearanceMaker::draw(const EntityReading& reading, DrawSink& sink) {
+    const bool isTired = m_walkWork > kMostWalkWork;
+    EntityDrawer drawer(m_table, m_blocks, sink,
+                        isTired ? kFewEntities : EntityDrawer::kMostEntities);
+    const bool seen = drawer.draw(reading);
+    m_walkWork += drawer.insertWork();
+    return seen;
+}
+
+Appearance AppearanceMaker::appearance(const KdDbStub& entity) {
+    Appearance appearance;
+    AppearanceSink sink(appearance);
+    appearance.seen = draw(entity, sink);
+    return appearance;
+}
+
+Appearance AppearanceMaker::appearance(const KdDbEntity& entity) {
+    Appearance appearance;
+    AppearanceSink sink(appearance);
+    appearance.seen = draw(readEntity(entity), sink);
+    return appearance;
+}
+
+PlanBox AppearanceMaker::box(const KdDbStub& entity) {
+    BoxSink sink;
+    draw(entity, sink);
+    return sink.box();
+}
+
+bool AppearanceMaker::isShared(const KdDbStub& changed) const {
+    const BlockEntities* block = m_core.blockOf(changed);
+    return m_table.covers(changed) || (block != nullptr && m_blocks.covers(*block));
+}
+
+void AppearanceMaker::forgetShared() {
+    m_table.forget();
+    m_blocks.forget();
+}
+
+} // namespace orvex
