@@ -17,7 +17,7 @@ inline constexpr unsigned RESIZE_LOCKBOTTOMRIGHT = 10;
 
 enum RESIZE_GAP_TYPEGAP : int { RESIZE_GAP_HORIZONTAL = 0, RESIZE_GAP_VERTICAL = 1 };
 
-// What is to become of a gap. It is kept and nothing looks at it.
+// What is to become of a gap. It is kept and not used.
 enum RESIZE_GAP_BEHAVIOR : int { RESIZE_GAP_KEEP = 0 };
 
 struct DLGITEMINFO {

@@ -24,9 +24,9 @@ struct ItemData {
 // Section of the application's profile in which the columns of a list would be kept.
 extern const wchar_t* const g_pszSection;
 
-// A list that can be sorted by the numbers in a column and has a word of its user's on each row.
-// It keeps copies of the rows' texts to sort by, so every change of a text goes through here, and
-// hangs them on the rows as the list's own item data.
+// A list that can be sorted by the numbers in a column and carries a value of its user's on each
+// row. It keeps copies of the rows' texts to sort by, so every change of a text goes through here,
+// and hangs them on the rows as the list's own item data.
 class CSortListCtrl : public CListCtrl {
 public:
     CSortListCtrl() = default;
@@ -54,7 +54,7 @@ public:
     void Sort(int column, bool ascending);
 
     bool SetItemText(int row, int column, const wchar_t* text);
-    // The user's word: false and 0 for a row that isn't there.
+    // The user's value: false and 0 for a row that isn't there.
     bool SetItemData(int row, unsigned long value);
     [[nodiscard]] unsigned long GetItemData(int row) const;
 

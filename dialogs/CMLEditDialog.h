@@ -26,7 +26,7 @@ public:
     void OnWeldAll();
     void OnClose(); // ends the dialog like a tool does
 
-    void OnPaint(); // nobody calls it: the view paints itself
+    void OnPaint(); // the view paints itself
 
     void DoDataExchange(CDataExchange* exchange) override;
     int OnInitDialog() override;

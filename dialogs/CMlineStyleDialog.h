@@ -12,15 +12,15 @@ class KdDbMlineStyle;
 // loads and saves them. Each of its functions acts on the drawing at once, so there is nothing to
 // accept; the list is kept in step by hand.
 //
-// What may be done with a style is told by its buttons alone: the functions behind them rely on
-// that.
+// What may be done with a style is checked by enabling its buttons alone: the functions that they
+// call rely on that.
 class CMlineStyleDialog : public CDialog {
 public:
     explicit CMlineStyleDialog(CWnd* parent);
 
     // Hands the selected style, open for reading, to PaintPreview.
     void DrawCurStylePreview();
-    // Told of each style that is to be seen. The preview stays blank.
+    // Called with each style that is to be seen. The preview stays blank.
     void PaintPreview(KdDbMlineStyle* style);
 
     void AddStylesToList();
@@ -44,7 +44,7 @@ public:
     void OnLoadStyle();
     void OnSaveStyle();
 
-    // Nobody calls these: layouts move the items and the view paints itself.
+    // Without a route from the view: layouts move the items and the view paints itself.
     void OnSize(unsigned type, int width, int height);
     void OnSizing(unsigned edge, tagRECT* rectangle);
     void OnPaint();

@@ -5,7 +5,7 @@
 #include "CMlstyleNewModDlgView.h"
 #include "KdDbDictionary.h"
 #include "KdDbMlineStyle.h"
-#include "colorWords.h"
+#include "colorTexts.h"
 #include "controlNumbers.h"
 #include "dialogWindow.h"
 #include "kddbObjects.h"
@@ -166,7 +166,7 @@ void CMlstyleNewModDlg::showInPreview() {
 }
 
 void CMlstyleNewModDlg::ColorToString(int color, CStdStr<wchar_t>& text) {
-    text = colorWord(color);
+    text = colorText(color);
 }
 
 void CMlstyleNewModDlg::StringToColor(CStdStr<wchar_t> text, int& color) {

@@ -84,7 +84,7 @@ public:
 private:
     CKdUiTrueColorComboBox m_fillColor;
     CKdUiTrueColorComboBox m_elementColor;
-    CSortListCtrl m_elements; // each row's word is its KdCmColor
+    CSortListCtrl m_elements; // each row's value is its KdCmColor
     CKdUiLineTypeComboBox m_linetype;
 
 public:

@@ -3,7 +3,7 @@
 class KdDbMlineStyle;
 
 // Builds a sample multiline in a database of its own for a picture of a style, and draws none: the
-// result is always null. Width and height in drawing units. Exported by name for others.
+// result is always null. Width and height in drawing units.
 //
 // It sets view and frame of the open drawing on the way (LTSCALE, EXTMIN, EXTMAX, VIEWCTR,
 // VIEWTWIST, VIEWMODE, VIEWDIR, UCSXDIR, UCSYDIR, UCSORG) and leaves them so: nothing to call on a

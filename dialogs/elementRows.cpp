@@ -3,7 +3,7 @@
 #include "CStdStr.h"
 #include "KdDbLinetypeTable.h"
 #include "KdDbMlineStyle.h"
-#include "colorWords.h"
+#include "colorTexts.h"
 #include "fieldNumbers.h"
 #include "kddbObjects.h"
 #include "numberText.h"

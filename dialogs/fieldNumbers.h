@@ -5,8 +5,8 @@
 #include <string>
 
 // A number as the fields of the style dialogs take it: digits with one point at most, and a minus
-// in front where it is allowed. Neither exponent nor plus sign nor blank, and "-", "." and "-."
-// will do, for they read as 0. Only the first 511 characters count. `trim` takes white space out
+// in front where it is allowed. No exponent, no plus sign, no blank; "-", "." and "-." are valid
+// and read as 0. Only the first 511 characters count. `trim` takes white space out
 // before; `value`, unless null, gets the number, 0 for a bad text; a null text leaves it.
 bool gx_strIsValidReal(const wchar_t* text, bool allowNegative, bool trim, double* value);
 

@@ -52,7 +52,7 @@ Text valueOf(const std::wstring& line) {
     return Text(line.substr(std::min<std::size_t>(line.size(), 1)));
 }
 
-// The number behind tag 420. Only the first digit has ever counted, and red and blue change places
+// The number after tag 420. Only the first digit has ever counted, and red and blue are exchanged
 // on the way; libraries in use look as they do because of it.
 unsigned packedColor(const Text& value) {
     const wchar_t first = value.c_str()[0];

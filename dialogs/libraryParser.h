@@ -14,7 +14,7 @@ namespace mledit {
 
 // The lines of a library as the readers see them: wide, without the line feed, and at most 2047
 // characters long; the rest of a longer one comes as a further line. A carriage return stays in
-// the line. What is no UTF-8 is replaced.
+// the line. Invalid UTF-8 is replaced.
 class LibraryLines {
 public:
     explicit LibraryLines(std::string_view bytes) : m_bytes(bytes) {} // has to outlive the lines
@@ -36,7 +36,7 @@ private:
     bool m_metEnd = false;
 };
 
-// A style as a library's block tells it: the values in the order of their tags, since the parts of
+// A style as a library's block has it: the values in the order of their tags, since the parts of
 // the fill colour build on each other and a block may say a thing twice.
 
 struct LibraryElement {

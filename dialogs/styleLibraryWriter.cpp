@@ -4,7 +4,7 @@
 #include "KdDbLinetypeTable.h"
 #include "KdDbMlineStyle.h"
 #include "KdString.h"
-#include "colorWords.h"
+#include "colorTexts.h"
 #include "fieldNumbers.h"
 #include "kddbObjects.h"
 #include "libraryFile.h"
@@ -127,7 +127,7 @@ struct Range {
 };
 
 // The lines of the block with that name; none at the end where there is no such block. A line that
-// was looked at isn't looked at as the beginning of another block.
+// was compared isn't compared again as the beginning of another block.
 Range findBlock(const Lines& lines, const std::wstring& name) {
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (!isLine(lines, i, L"MLSTYLE")) {

@@ -17,7 +17,7 @@ namespace mledit {
 namespace {
 
 // Answers for one style after the other whether it has the name. It runs for each multiline of a
-// drawing, so each style is looked at once.
+// drawing, so each style is opened once.
 class NameTest {
 public:
     explicit NameTest(const wchar_t* name) : m_name(name) {}

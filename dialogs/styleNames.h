@@ -19,8 +19,8 @@ KdDbObjectId styleUnder(KdDbObjectId dictionaryId, const CStdStr<wchar_t>& key);
 // ignoring case. Null is no style's name; without a drawing nothing is used.
 bool isStyleUsed(const wchar_t* name);
 
-// Which characters a name may have that the user types for a style. Both rules know the letters
-// and digits of ASCII alone. Neither limits the length or takes an empty name.
+// Which characters a name may have that the user types for a style: letters and digits of ASCII.
+// Neither limits the length or takes an empty name.
 
 // For a new style: "$", "-" and "_" as well.
 bool isNameForNewStyle(std::wstring_view name);

@@ -5,7 +5,7 @@
 
 Each tool is played on multilines of a few pixels' size. What it leaves alone is
 drawn dark, what it makes in colour, and what it takes away stays as a trace of
-dots. The results go to pictures/ beside this script and are kept there, so a
+dots. The results go to pictures/ next to this script and are kept there, so a
 build doesn't need it. FILE gets all of them at eight times their size.
 """
 

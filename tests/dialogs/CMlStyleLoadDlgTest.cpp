@@ -59,7 +59,7 @@ protected:
     }
 
     // Name, description and number of elements.
-    [[nodiscard]] std::wstring told(const wchar_t* name) {
+    [[nodiscard]] std::wstring summary(const wchar_t* name) {
         const KdDbMlineStyle& found = *style(name);
         return found.name() + (L" " + std::wstring(found.description())) + L' ' +
                std::to_wstring(found.numElements());
@@ -99,7 +99,7 @@ TEST_F(LoadDialog, makesANewStyleAndOverwritesOneThatIsThere) {
     EXPECT_NE(setting(L"MlstyleLoadDlgPosRight"), -10000);
     EXPECT_TRUE(m_dialog->m_chosenName == L"Curb");
     EXPECT_EQ(m_dialog->m_styleId, styleId(L"Curb"));
-    EXPECT_EQ(told(L"Curb"), L"Curb loaded 1");
+    EXPECT_EQ(summary(L"Curb"), L"Curb loaded 1");
 
     const KdDbObjectId wall = styleId(L"Wall");
     EXPECT_EQ(load([&] {
@@ -109,10 +109,10 @@ TEST_F(LoadDialog, makesANewStyleAndOverwritesOneThatIsThere) {
               }),
               1);
     EXPECT_EQ(styleId(L"WALL"), wall);
-    EXPECT_EQ(told(L"Wall"), L"Wall loaded 1");
+    EXPECT_EQ(summary(L"Wall"), L"Wall loaded 1");
 
     load([&] { loadRow(2); });
-    ASSERT_EQ(told(L"Ghost"), L"Ghost  2");
+    ASSERT_EQ(summary(L"Ghost"), L"Ghost  2");
     const auto& elements = style(L"Ghost")->values().elements;
     EXPECT_EQ(elements[0].offset, 0.5);
     EXPECT_EQ(elements[1].offset, -0.5);
@@ -127,8 +127,8 @@ TEST_F(LoadDialog, aStyleInUseIsLeftAlone) {
         EXPECT_TRUE(m_dialog->GetSafeHwnd()->isVisible());
         loadRow(0);
     });
-    EXPECT_EQ(told(L"Wall"), L"Wall mine 2");
-    EXPECT_EQ(told(L"Curb"), L"Curb loaded 1");
+    EXPECT_EQ(summary(L"Wall"), L"Wall mine 2");
+    EXPECT_EQ(summary(L"Curb"), L"Curb loaded 1");
 }
 
 TEST_F(LoadDialog, enterAndBlankCancelWhereverTheFocusIs) {

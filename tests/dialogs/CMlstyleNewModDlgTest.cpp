@@ -403,7 +403,7 @@ TEST_F(ModifyDialog, numbersOfColorsHaveNames) {
     }
 }
 
-TEST(RealText, isToldFromAnyOtherText) {
+TEST(RealText, isDigitsWithOnePointAndASign) {
     double value = 9.0;
     EXPECT_TRUE(gx_strIsValidReal(L" 1 2.5\t", true, true, &value));
     EXPECT_EQ(value, 12.5);

@@ -35,13 +35,13 @@ protected:
     KdDocument* m_before;
 };
 
-TEST_F(StyleUse, isToldWithoutReadingAMultiline) {
+TEST_F(StyleUse, isFoundWithoutReadingAMultiline) {
     for (const bool loaded : {false, true}) {
         for (const std::uint64_t handle : {0x41U, 0x51U, 0x52U}) {
             EXPECT_EQ(stub(handle).object != nullptr, loaded);
-            const KdDbObjectId told = KdDbMline::styleOf(KdDbObjectId(&stub(handle)));
+            const KdDbObjectId found = KdDbMline::styleOf(KdDbObjectId(&stub(handle)));
             EXPECT_EQ(stub(handle).object != nullptr, loaded);
-            EXPECT_EQ(told, mline(handle).style());
+            EXPECT_EQ(found, mline(handle).style());
         }
     }
 }

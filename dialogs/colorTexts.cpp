@@ -1,4 +1,4 @@
-#include "colorWords.h"
+#include "colorTexts.h"
 
 #include "textNumbers.h"
 #include "wideNumbers.h"
@@ -12,8 +12,8 @@ namespace {
 
 constexpr int kByBlock = 0;
 constexpr int kByLayer = 256;
-constexpr const wchar_t* kByBlockWord = L"BYBLOCK";
-constexpr const wchar_t* kByLayerWord = L"BYLAYER";
+constexpr const wchar_t* kByBlockText = L"BYBLOCK";
+constexpr const wchar_t* kByLayerText = L"BYLAYER";
 constexpr int kLastNamed = 7;
 
 CStdStr<wchar_t> nameOf(int index) {
@@ -24,9 +24,9 @@ CStdStr<wchar_t> nameOf(int index) {
 
 } // namespace
 
-CStdStr<wchar_t> colorWord(int index) {
+CStdStr<wchar_t> colorText(int index) {
     if (index == kByBlock || index == kByLayer) {
-        return index == kByBlock ? kByBlockWord : kByLayerWord;
+        return index == kByBlock ? kByBlockText : kByLayerText;
     }
     if (index > 0 && index <= kLastNamed) {
         return nameOf(index);
@@ -36,19 +36,19 @@ CStdStr<wchar_t> colorWord(int index) {
     return digits;
 }
 
-int colorIndexOf(const CStdStr<wchar_t>& word) {
-    if (StrCmpI(word, kByLayerWord) == 0) {
+int colorIndexOf(const CStdStr<wchar_t>& text) {
+    if (StrCmpI(text, kByLayerText) == 0) {
         return kByLayer;
     }
-    if (StrCmpI(word, kByBlockWord) == 0) {
+    if (StrCmpI(text, kByBlockText) == 0) {
         return kByBlock;
     }
     for (int index = 1; index <= kLastNamed; ++index) {
-        if (StrCmpI(word, nameOf(index)) == 0) {
+        if (StrCmpI(text, nameOf(index)) == 0) {
             return index;
         }
     }
-    return _wtoi(word);
+    return _wtoi(text);
 }
 
 std::wstring bookKey(const KdCmColor& color) {
