@@ -14,9 +14,9 @@
 #include "kddbObjects.h"
 #include "promptStatus.h"
 #include "resourceLibrary.h"
+#include "styleAccessors.h"
 #include "styleLibraryReader.h"
 #include "styleNames.h"
-#include "styleRecord.h"
 #include "textNumbers.h"
 
 #include <memory>

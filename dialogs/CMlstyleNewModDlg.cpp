@@ -9,8 +9,8 @@
 #include "controlNumbers.h"
 #include "dialogWindow.h"
 #include "kddbObjects.h"
+#include "styleAccessors.h"
 #include "styleNames.h"
-#include "styleRecord.h"
 #include "textNumbers.h"
 
 using namespace mledit;

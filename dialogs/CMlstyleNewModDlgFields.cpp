@@ -6,7 +6,7 @@
 #include "fieldNumbers.h"
 #include "kddbObjects.h"
 #include "messageBeep.h"
-#include "styleRecord.h"
+#include "styleAccessors.h"
 
 #include <algorithm>
 

@@ -7,7 +7,7 @@
 #include "fieldNumbers.h"
 #include "kddbObjects.h"
 #include "numberText.h"
-#include "styleRecord.h"
+#include "styleAccessors.h"
 #include "wideNumbers.h"
 
 #include <array>

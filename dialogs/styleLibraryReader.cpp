@@ -5,7 +5,7 @@
 #include "libraryFile.h"
 #include "libraryParser.h"
 #include "numberText.h"
-#include "styleRecord.h"
+#include "styleAccessors.h"
 
 namespace mledit {
 

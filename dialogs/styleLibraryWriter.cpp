@@ -8,7 +8,7 @@
 #include "fieldNumbers.h"
 #include "kddbObjects.h"
 #include "libraryFile.h"
-#include "styleRecord.h"
+#include "styleAccessors.h"
 #include "textCodec.h"
 
 #include <QSaveFile>

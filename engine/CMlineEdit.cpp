@@ -3,6 +3,8 @@
 #include "KdDbMline.h"
 #include "kddbObjects.h"
 
+using namespace mledit;
+
 CMlineEdit::CMlineEdit() {
     constexpr std::size_t kUsualBreaks = 128;
     m_breaks.reserve(kUsualBreaks);

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "Tool.h"
+
 class CMlineEdit;
 struct CMlineSegment;
+
+namespace mledit {
 
 // How a tool's own work ended, and with it the cycle.
 enum class StepOutcome {
@@ -12,12 +16,12 @@ enum class StepOutcome {
 
 // What one editing tool does differently from the others in the cycle that they share.
 struct EditTool {
-    // Which first pick goes on; any other repeats the prompt.
+    // Which first pick is accepted; any other repeats the prompt.
     enum class FirstPick { multiline, anyEntity };
     enum class SecondPick { none, multiline, sameEntity };
     enum class Closes { both, first, neither };
     using Initialise = void (CMlineEdit::*)(CMlineSegment*, long*, CMlineSegment*);
-    using Step = StepOutcome (CMlineEdit::*)();
+    using Step = StepOutcome (*)(CMlineEdit& run);
 
     struct Prompts {
         unsigned firstWithUndo = 0; // numbers of the texts
@@ -35,8 +39,11 @@ struct EditTool {
     bool hidesSecond = false;
     Closes closesAtExit = Closes::both;
     Initialise initialise = nullptr; // fills a record from a pick
-    Step step = nullptr;             // the tool's own work; none: the tool runs nothing
+    // The tool's own work; none: the tool runs nothing. Both entities are open for write (one
+    // entity picked twice is open once), their records filled, the undo copies made.
+    Step step = nullptr;
 };
 
-// The tool of that number, 1 to 12.
-const EditTool& editTool(int number);
+const EditTool& editTool(Tool tool);
+
+} // namespace mledit

@@ -4,6 +4,8 @@
 
 #include <cstddef>
 
+namespace mledit {
+
 namespace {
 
 constexpr double kSameBreak = 1e-10;
@@ -87,3 +89,5 @@ BreakList cutWhole(BreakList list) {
     }
     return list;
 }
+
+} // namespace mledit

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+namespace mledit {
+
 // Break lists: how one element is drawn along one segment. Entry 0 is the element's offset along
 // the miter and never changes; then come distances from the element's position at the segment's
 // start, ascending: at odd indices a drawn stretch begins, at even ones it ends, and a stretch
@@ -25,3 +27,5 @@ BreakList cutFromSegmentStart(BreakList list, double to, bool insertsEnd);
 
 // A segment in the middle of a longer gap: the offset alone.
 BreakList cutWhole(BreakList list);
+
+} // namespace mledit

@@ -1,14 +1,27 @@
-// The corner joint: two multilines are cut back or drawn out to the crossing of their picked
-// segments and keep the sides on which the picks lie. One multiline picked twice is joined with
-// itself, between its first and last segment: the loop is either cut out or closed.
+#include "cornerJoint.h"
 
 #include "CMlineEdit.h"
-#include "cornerPlan.h"
-#include "segments.h"
+#include "teeTools.h"
+#include "vectorMath.h"
 
+#include <algorithm>
 #include <cstdlib>
 
+namespace mledit {
+
 namespace {
+
+// An inner element of the multiline with at least as many elements.
+int partnerOfMore(int element, int otherCount, bool oppositeEnds, bool keepStart) {
+    if (otherCount > 2) {
+        return oppositeEnds ? (element >= otherCount - 1 ? otherCount - 2 : element)
+                            : std::max(otherCount - 1 - element, 1);
+    }
+    if (otherCount == 2) {
+        return keepStart ? 0 : 1;
+    }
+    return oppositeEnds ? 0 : std::min(element, otherCount - 1);
+}
 
 // Joining one multiline takes its first and last segment, whichever two were picked.
 void takeOuterSegments(CMlineSegment& first, CMlineSegment& second) {
@@ -26,143 +39,172 @@ void mapToMiddle(CMlineSegment& seg) {
     }
 }
 
-} // namespace
-
-StepOutcome CMlineEdit::stepCornerJoint() {
-    const bool isOne = isSameEntity(m_first.m_name, m_second.m_name);
-    if (isOne) {
-        if (std::abs(m_first.m_segment - m_second.m_segment) == 1) {
-            return StepOutcome::failedSilently;
-        }
-        takeOuterSegments(m_first, m_second);
-    }
-    const int s = m_first.m_segment;
-    const int t = m_second.m_segment;
-    if (!set_PTCrossing(&m_first, s, &m_second, t, &m_crossing, &m_crossingSize)) {
-        return StepOutcome::noCrossing;
-    }
-    double corner[3] = {0.0, 0.0, 0.0};
-    if (!getXPoint(m_first.m_mline, s, m_second.m_mline, t, corner)) {
-        return StepOutcome::noCrossing;
-    }
-    mappingToSpecifyMongline(&m_first, 0, nullptr);
-    mappingToSpecifyMongline(&m_second, 0, nullptr);
-    if (isOne) {
-        mapToMiddle(m_first);
-        mapToMiddle(m_second);
-    }
-    const bool firstKeepsStart = crossingLiesAhead(m_first);
-    const bool secondKeepsStart = crossingLiesAhead(m_second);
-    if (isOne) {
-        return joinWithItself(corner, firstKeepsStart, secondKeepsStart);
-    }
-    joinTwo(corner, firstKeepsStart, secondKeepsStart);
-    return StepOutcome::done;
-}
-
-void CMlineEdit::joinTwo(const double* corner, bool firstKeepsStart, bool secondKeepsStart) {
-    removeBeyondCorner(m_first, firstKeepsStart);
-    removeBeyondCorner(m_second, secondKeepsStart);
-    moveEnd(m_first, firstKeepsStart ? m_first.m_segment + 1 : 0, corner);
-    moveEnd(m_second, secondKeepsStart ? m_second.m_segment + 1 : 0, corner);
-
-    const bool oppositeEnds = firstKeepsStart != secondKeepsStart;
-    trimToCorner(m_first, m_second.m_numElements, oppositeEnds, firstKeepsStart, false);
-    trimToCorner(m_second, m_first.m_numElements, oppositeEnds, secondKeepsStart, true);
-}
-
 // Removal at the head leaves m_segment as it was: the segment in question is then segment 0.
-void CMlineEdit::removeBeyondCorner(CMlineSegment& seg, bool keepStart) {
+void removeBeyondCorner(CMlineEdit& run, CMlineSegment& seg, bool keepStart) {
     if (keepStart) {
         while (seg.m_numVertices > seg.m_segment + 2) {
-            delete_OneVertex(&seg, seg.m_segment + 2);
+            run.delete_OneVertex(&seg, seg.m_segment + 2);
         }
     } else {
         for (int i = 0; i < seg.m_segment; ++i) {
-            delete_OneVertex(&seg, 0);
+            run.delete_OneVertex(&seg, 0);
         }
     }
 }
 
-void CMlineEdit::moveEnd(CMlineSegment& seg, int vertex, const double* place) {
-    ptListInitialize(seg.m_mline, seg.m_numVertices, seg.m_numElements, &seg.m_ptList,
-                     &seg.m_ptListSize);
-    changePTPosition(seg.m_mline, vertex, place, seg.m_ptList);
+void moveEnd(CMlineEdit& run, CMlineSegment& seg, int vertex, const double* position) {
+    run.ptListInitialize(seg.m_mline, seg.m_numVertices, seg.m_numElements, &seg.m_ptList,
+                         &seg.m_ptListSize);
+    run.changePTPosition(seg.m_mline, vertex, position, seg.m_ptList);
 }
 
+// What a joint of two multilines needs to know besides the record at hand.
+struct CornerSide {
+    int otherElements;
+    bool oppositeEnds;
+    bool keepStart;
+    bool isSecond;
+};
+
 // Suppresses the cap at the joined end and stops each element at its corner.
-void CMlineEdit::trimToCorner(CMlineSegment& seg, int otherElements, bool oppositeEnds,
-                              bool keepStart, bool isSecond) {
-    change71GroupNumber(seg.m_mline, keepStart ? 1 : -1, keepStart ? -1 : 1, -1, 1);
+void trimToCorner(CMlineEdit& run, CMlineSegment& seg, const CornerSide& side) {
+    const auto [otherElements, oppositeEnds, keepStart, isSecond] = side;
+    run.change71GroupNumber(seg.m_mline, keepStart ? 1 : -1, keepStart ? -1 : 1, -1, 1);
     for (int element = 0; element < seg.m_numElements; ++element) {
         const int partner =
             cornerPartner(element, seg.m_numElements, otherElements, oppositeEnds, keepStart);
-        if (isSecond ? !isCrossingSolved(partner, element) : !isCrossingSolved(element, partner)) {
+        if (!run.m_solvedCrossings.isSolved(isSecond ? partner : element,
+                                            isSecond ? element : partner)) {
             continue;
         }
         double corner[3] = {0.0, 0.0, 0.0};
-        getCornerPoint(element, seg.m_numElements, otherElements, corner, oppositeEnds, keepStart,
-                       isSecond);
-        change41GroupNumber(&seg, element, keepStart ? seg.m_segment : 0, corner, keepStart);
+        run.getCornerPoint(element, seg.m_numElements, otherElements, corner, oppositeEnds,
+                           keepStart, isSecond);
+        run.change41GroupNumber(&seg, element, keepStart ? seg.m_segment : 0, corner, keepStart);
+    }
+}
+
+void joinTwo(CMlineEdit& run, const double* corner, bool firstKeepsStart, bool secondKeepsStart) {
+    CMlineSegment& first = run.m_first;
+    CMlineSegment& second = run.m_second;
+    removeBeyondCorner(run, first, firstKeepsStart);
+    removeBeyondCorner(run, second, secondKeepsStart);
+    moveEnd(run, first, firstKeepsStart ? first.m_segment + 1 : 0, corner);
+    moveEnd(run, second, secondKeepsStart ? second.m_segment + 1 : 0, corner);
+
+    const bool oppositeEnds = firstKeepsStart != secondKeepsStart;
+    trimToCorner(run, first, {second.m_numElements, oppositeEnds, firstKeepsStart, false});
+    trimToCorner(run, second, {first.m_numElements, oppositeEnds, secondKeepsStart, true});
+}
+
+void cutLoopOut(CMlineEdit& run, CMlineSegment& seg, int laterSegment, const double* corner) {
+    const int start = seg.m_segment;
+    for (int i = 0; i < laterSegment - start - 1; ++i) {
+        run.delete_OneVertex(&seg, start + 2);
+    }
+    moveEnd(run, seg, start + 1, corner);
+}
+
+// Both ends move to the corner, and each element stops at its crossing with itself.
+void closeLoop(CMlineEdit& run, CMlineSegment& seg, int earlierSegment, const double* corner) {
+    const int last = seg.m_segment;
+    const int verticesAfter = seg.m_numVertices - last - 2;
+    for (int i = 0; i < verticesAfter; ++i) {
+        run.delete_OneVertex(&seg, last + 2);
+    }
+    moveEnd(run, seg, last + 1, corner);
+    for (int i = 0; i < earlierSegment; ++i) {
+        run.delete_OneVertex(&seg, 0);
+    }
+    moveEnd(run, seg, 0, corner);
+    run.change71GroupNumber(seg.m_mline, 1, 1, -1, 1);
+    for (int k = 0; k < seg.m_numElements; ++k) {
+        if (run.m_solvedCrossings.isSolved(k, k)) {
+            run.change41GroupNumber(&seg, k, 0, run.m_crossing[k][k], false);
+            run.change41GroupNumber(&seg, k, seg.m_numVertices - 2, run.m_crossing[k][k], true);
+        }
     }
 }
 
 // The first record is on the earlier segment or the later one. The earlier one keeping its start
-// and the later one its end means that the loop between them goes; the other way round it is
+// and the later one its end means that the loop between them is removed; the other way round it is
 // closed at the corner.
-StepOutcome CMlineEdit::joinWithItself(const double* corner, bool firstKeepsStart,
-                                       bool secondKeepsStart) {
-    const bool inOrder = m_first.m_segment < m_second.m_segment;
-    if (firstKeepsStart == secondKeepsStart || m_first.m_segment == m_second.m_segment) {
+StepOutcome joinWithItself(CMlineEdit& run, const double* corner, bool firstKeepsStart,
+                           bool secondKeepsStart) {
+    CMlineSegment& first = run.m_first;
+    CMlineSegment& second = run.m_second;
+    if (firstKeepsStart == secondKeepsStart || first.m_segment == second.m_segment) {
         return StepOutcome::failedSilently;
     }
-    CMlineSegment& earlier = inOrder ? m_first : m_second;
-    CMlineSegment& later = inOrder ? m_second : m_first;
+    const bool inOrder = first.m_segment < second.m_segment;
+    CMlineSegment& earlier = inOrder ? first : second;
+    CMlineSegment& later = inOrder ? second : first;
     const bool earlierKeepsStart = inOrder ? firstKeepsStart : secondKeepsStart;
     if (earlierKeepsStart) {
-        cutLoopOut(earlier, later.m_segment, corner);
+        cutLoopOut(run, earlier, later.m_segment, corner);
     } else {
-        closeLoop(later, earlier.m_segment, corner);
+        closeLoop(run, later, earlier.m_segment, corner);
     }
     return StepOutcome::done;
 }
 
-void CMlineEdit::cutLoopOut(CMlineSegment& seg, int laterSegment, const double* corner) {
-    const int start = seg.m_segment;
-    for (int i = 0; i < laterSegment - start - 1; ++i) {
-        delete_OneVertex(&seg, start + 2);
+} // namespace
+
+StepOutcome stepCornerJoint(CMlineEdit& run) {
+    CMlineSegment& first = run.m_first;
+    CMlineSegment& second = run.m_second;
+    const bool isOne = isSameEntity(first.m_name, second.m_name);
+    if (isOne) {
+        if (std::abs(first.m_segment - second.m_segment) == 1) {
+            return StepOutcome::failedSilently;
+        }
+        takeOuterSegments(first, second);
     }
-    moveEnd(seg, start + 1, corner);
+    const int s = first.m_segment;
+    const int t = second.m_segment;
+    if (!run.set_PTCrossing(&first, s, &second, t, &run.m_crossing, &run.m_crossingSize)) {
+        return StepOutcome::noCrossing;
+    }
+    double corner[3] = {0.0, 0.0, 0.0};
+    if (!run.getXPoint(first.m_mline, s, second.m_mline, t, corner)) {
+        return StepOutcome::noCrossing;
+    }
+    run.mappingToSpecifyMongline(&first, 0, nullptr);
+    run.mappingToSpecifyMongline(&second, 0, nullptr);
+    if (isOne) {
+        mapToMiddle(first);
+        mapToMiddle(second);
+    }
+    const bool firstKeepsStart = crossingLiesAhead(run, first);
+    const bool secondKeepsStart = crossingLiesAhead(run, second);
+    if (isOne) {
+        return joinWithItself(run, corner, firstKeepsStart, secondKeepsStart);
+    }
+    joinTwo(run, corner, firstKeepsStart, secondKeepsStart);
+    return StepOutcome::done;
 }
 
-// Both ends move to the corner, and each element stops at its own image.
-void CMlineEdit::closeLoop(CMlineSegment& seg, int earlierSegment, const double* corner) {
-    const int last = seg.m_segment;
-    const int behind = seg.m_numVertices - last - 2;
-    for (int i = 0; i < behind; ++i) {
-        delete_OneVertex(&seg, last + 2);
+int cornerPartner(int element, int count, int otherCount, bool oppositeEnds, bool keepStart) {
+    if (element == 0) {
+        return oppositeEnds ? 0 : otherCount - 1;
     }
-    moveEnd(seg, last + 1, corner);
-    for (int i = 0; i < earlierSegment; ++i) {
-        delete_OneVertex(&seg, 0);
+    if (element == count - 1) {
+        return oppositeEnds ? otherCount - 1 : 0;
     }
-    moveEnd(seg, 0, corner);
-    change71GroupNumber(seg.m_mline, 1, 1, -1, 1);
-    for (int k = 0; k < seg.m_numElements; ++k) {
-        if (isCrossingSolved(k, k)) {
-            change41GroupNumber(&seg, k, 0, m_crossing[k][k], false);
-            change41GroupNumber(&seg, k, seg.m_numVertices - 2, m_crossing[k][k], true);
-        }
+    if (count >= otherCount) {
+        return partnerOfMore(element, otherCount, oppositeEnds, keepStart);
     }
+    return keepStart ? element : otherCount - 1 - element;
 }
+
+} // namespace mledit
 
 void CMlineEdit::getCornerPoint(int element, int count, int otherCount, double* point,
                                 bool oppositeEnds, bool keepStart, bool isSecond) {
-    const int partner = cornerPartner(element, count, otherCount, oppositeEnds, keepStart);
+    const int partner = mledit::cornerPartner(element, count, otherCount, oppositeEnds, keepStart);
     const int row = isSecond ? partner : element;
     const int column = isSecond ? element : partner;
-    if (m_crossing != nullptr && row >= 0 && row < m_crossingSize && column >= 0 &&
-        column < m_crossingColumns) {
-        copyPoint(m_crossing[row][column], point);
+    if (m_crossing != nullptr && m_solvedCrossings.contains(row, column)) {
+        mledit::copyPoint(m_crossing[row][column], point);
     }
 }

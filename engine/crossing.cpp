@@ -7,10 +7,11 @@
 #include "crossingSearch.h"
 #include "lineMath.h"
 #include "pickTests.h"
-#include "segments.h"
 #include "vectorMath.h"
 
 #include <vector>
+
+using namespace mledit;
 
 namespace {
 
@@ -102,8 +103,6 @@ private:
 
 } // namespace
 
-// Finds the segments that cross, wherever on the two multilines the picks lie, and makes them the
-// records' segments. False, with the outputs untouched, when there are none.
 bool CMlineEdit::getSegmentNumbers(CMlineSegment* first, CMlineSegment* second, int* firstSegment,
                                    int* secondSegment, double* point, bool crossMode) {
     const bool sameEntity = isSameEntity(first->m_name, second->m_name);
@@ -140,9 +139,7 @@ bool CMlineEdit::getSegmentNumbers(CMlineSegment* first, CMlineSegment* second, 
     return true;
 }
 
-// Fills the matrix of crossings of two segments. True when at least one pair of elements crosses.
-// Segments that run in the same direction are turned away and leave the matrix as it was; those
-// that run against each other are tried.
+// Only the same direction is refused: segments that run against each other are tried.
 bool CMlineEdit::set_PTCrossing(const CMlineSegment* first, int firstSegment,
                                 const CMlineSegment* second, int secondSegment,
                                 PointTable* crossing, int* crossingSize) {
@@ -163,10 +160,7 @@ bool CMlineEdit::set_PTCrossing(const CMlineSegment* first, int firstSegment,
     freePointTable(*crossing, *crossingSize);
     *crossing = newPointTable(first->m_numElements, second->m_numElements);
     *crossingSize = first->m_numElements;
-    m_crossingColumns = second->m_numElements;
-    m_crossingSolved.assign(static_cast<std::size_t>(*crossingSize) *
-                                static_cast<std::size_t>(m_crossingColumns),
-                            false);
+    m_solvedCrossings.reset(first->m_numElements, second->m_numElements);
 
     bool anySolved = false;
     for (int i = 0; i < first->m_numElements; ++i) {
@@ -175,23 +169,14 @@ bool CMlineEdit::set_PTCrossing(const CMlineSegment* first, int firstSegment,
                 first->m_ptList[i][firstSegment], first->m_ptList[i][firstSegment + 1],
                 second->m_ptList[j][secondSegment], second->m_ptList[j][next], (*crossing)[i][j]);
             anySolved = anySolved || result >= 0;
-            m_crossingSolved[crossingIndex(i, j)] = hasPoint(result);
+            if (hasPoint(result)) {
+                m_solvedCrossings.markSolved(i, j);
+            }
         }
     }
     return anySolved;
 }
 
-bool CMlineEdit::isCrossingSolved(int i, int j) const {
-    return i >= 0 && i < m_crossingSize && j >= 0 && j < m_crossingColumns &&
-           m_crossingSolved[crossingIndex(i, j)];
-}
-
-std::size_t CMlineEdit::crossingIndex(int i, int j) const {
-    return static_cast<std::size_t>(i) * static_cast<std::size_t>(m_crossingColumns) +
-           static_cast<std::size_t>(j);
-}
-
-// The crossing of two axes. Segments past a chain's end leave the point as it is.
 bool CMlineEdit::getXPoint(KdDbMline* first, int firstSegment, KdDbMline* second, int secondSegment,
                            double* point) {
     const auto hasSegment = [](const KdDbMline* mline, int segment) {

@@ -3,10 +3,12 @@
 #include "CMlineEdit.h"
 #include "comparisons.h"
 #include "lineMath.h"
-#include "pointTable.h"
+#include "vectorMath.h"
 
 #include <algorithm>
 #include <cmath>
+
+namespace mledit {
 
 namespace {
 
@@ -27,14 +29,10 @@ constexpr double kShortRelative = 1e-9;
 // Beyond this size products of coordinates may overflow.
 constexpr double kSafeCoordinate = 1e100;
 
-double cross(const double* a, const double* b) {
-    return a[0] * b[1] - a[1] * b[0];
-}
-
 // Signed distance of a point from a line, times the line's length.
 double side(const double* start, const double* direction, const double* point) {
     const double offset[2] = {point[0] - start[0], point[1] - start[1]};
-    return cross(direction, offset);
+    return planCross(direction, offset);
 }
 
 bool bothBeyond(double a, double b, double limit) {
@@ -96,7 +94,7 @@ bool CrossingSearch::mayMeet(int i, int j) const {
     if (std::min(a.length, b.length) <= m_short) {
         return true;
     }
-    const double turn = a.direction[0] * b.direction[1] - b.direction[0] * a.direction[1];
+    const double turn = planCross(a.direction, b.direction);
     if (std::abs(turn) <= kWellConditionedSine * a.length * b.length) {
         if (std::abs(turn) > kParallel) {
             return true;
@@ -206,3 +204,5 @@ bool CrossingSearch::next(SegmentPair& pair, bool& crossesOnBoth) {
     }
     return false;
 }
+
+} // namespace mledit

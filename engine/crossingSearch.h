@@ -7,6 +7,8 @@
 // The search for the pair of chain segments in which two multilines cross: pure geometry on two
 // vertex chains, world coordinates, seen in plan.
 
+namespace mledit {
+
 struct ChainPoint {
     double xyz[3];
 };
@@ -87,3 +89,5 @@ private:
     double m_point[3] = {0.0, 0.0, 0.0};
     long m_pointPosition = -1; // m_point is as it stands after this position
 };
+
+} // namespace mledit

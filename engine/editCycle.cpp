@@ -1,22 +1,23 @@
-// The cycle of picks and edits that all tools share; what differs stands in their rows.
+#include "editCycle.h"
 
 #include "CMlineEdit.h"
-
 #include "CMlineOpenObject.h"
+#include "EditTool.h"
 #include "KdDbMline.h"
 #include "commandLine.h"
 #include "displayRefresh.h"
 #include "kddbObjects.h"
-#include "mlineRecord.h"
+#include "mlineAccessors.h"
 #include "pickTests.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "resourceLibrary.h"
-#include "segments.h"
 #include "systemVariables.h"
 #include "textNumbers.h"
 
 #include <cwchar>
+
+namespace mledit {
 
 namespace {
 
@@ -50,84 +51,11 @@ void closeAndClear(KdDbMline*& mline) {
     }
 }
 
-} // namespace
+enum class Prompted { leave, again, picked };
 
-int CMlineEdit::runTool(const EditTool& tool, HINSTANCE resources) {
-    if (tool.step == nullptr) {
-        return m_status;
-    }
-    for (;;) {
-        Prompted prompted = askFirst(tool, resources);
-        if (prompted == Prompted::picked) {
-            (this->*tool.initialise)(&m_first, m_pickedName, nullptr);
-            if (tool.secondPick != EditTool::SecondPick::none) {
-                prompted = askSecond(tool, resources);
-            }
-        }
-        if (prompted == Prompted::leave) {
-            closeAtExit(tool);
-            return m_status;
-        }
-        if (prompted == Prompted::again) {
-            continue;
-        }
-        if (tool.secondPick != EditTool::SecondPick::none) {
-            (this->*tool.initialise)(&m_second, m_pickedName, &m_first);
-        }
-        workOnPicks(tool, resources);
-    }
-}
-
-CMlineEdit::Prompted CMlineEdit::askFirst(const EditTool& tool, HINSTANCE resources) {
-    if (m_undoFirst != nullptr) {
-        loadText(resources, mledit::texts::kUndoKeyword, m_buffer);
-        kdedInitGet(0, m_buffer);
-        loadText(resources, tool.prompts.firstWithUndo, m_buffer);
-    } else {
-        kdedInitGet(0, nullptr);
-        loadText(resources, tool.prompts.first, m_buffer);
-    }
-    m_status = kdedEntSel(m_buffer, m_pickedName, m_pickedPoint);
-    if (endsTool(m_status) || (m_status == kPromptError && isInputClosed())) {
-        return Prompted::leave;
-    }
-    if (m_status == kPromptKeyword) {
-        kdedGetInput(m_buffer);
-        if (wcscasecmp(m_buffer, L"UNDO") == 0) {
-            takeBackLastCycle(tool);
-        }
-    }
-    // The name alone decides, whatever the status: a keyword or a miss finds it empty.
-    const bool accepted = tool.firstPick == EditTool::FirstPick::anyEntity
-                              ? m_pickedName[0] != 0 || m_pickedName[1] != 0
-                              : needBreak(m_pickedName);
-    if (!accepted || (tool.refusesClosedFirst && isRefusedAsClosed(resources))) {
-        return Prompted::again;
-    }
-    return Prompted::picked;
-}
-
-// Repeats its prompt without a word till the pick is accepted. No keyword is armed: UNDO is for
-// the first pick alone.
-CMlineEdit::Prompted CMlineEdit::askSecond(const EditTool& tool, HINSTANCE resources) {
-    loadText(resources, tool.prompts.second, m_buffer);
-    bool accepted = false;
-    while (!accepted) {
-        m_status = kdedEntSel(m_buffer, m_pickedName, m_pickedPoint);
-        if (endsTool(m_status)) {
-            return Prompted::leave;
-        }
-        accepted = tool.secondPick == EditTool::SecondPick::sameEntity
-                       ? isSameEntity(m_pickedName, m_first.m_name)
-                       : needBreak(m_pickedName);
-    }
-    return tool.refusesClosedSecond && isRefusedAsClosed(resources) ? Prompted::again
-                                                                    : Prompted::picked;
-}
-
-bool CMlineEdit::isRefusedAsClosed(HINSTANCE resources) {
+bool isRefusedAsClosed(CMlineEdit& run, HINSTANCE resources) {
     KdDbObjectId id;
-    kddbGetObjectId(id, m_pickedName);
+    kddbGetObjectId(id, run.m_pickedName);
     KdDbMline* mline = nullptr;
     kddbOpenObject(mline, id, kForRead);
     if (mline == nullptr) {
@@ -137,78 +65,155 @@ bool CMlineEdit::isRefusedAsClosed(HINSTANCE resources) {
     GetFlag(mline, &flags);
     if ((flags & kFlagClosed) != 0) {
         // Stays open for read; the host closes it at the end of the command.
-        loadText(resources, mledit::texts::kClosedRefused, m_buffer);
-        kdutPrintf(L"%ls", m_buffer);
+        loadText(resources, texts::kClosedRefused, run.m_buffer);
+        kdutPrintf(L"%ls", run.m_buffer);
         return true;
     }
     mline->close();
     return false;
 }
 
-void CMlineEdit::takeBackLastCycle(const EditTool& tool) {
-    const auto takeBack = [this](CMlineSegment& record, KdDbMline*& copy, bool hides) {
+void takeBackLastCycle(CMlineEdit& run, const EditTool& tool) {
+    const auto takeBack = [&run](CMlineSegment& record, KdDbMline*& copy, bool hides) {
         if (hides) {
             kdedRedraw(record.m_name, kHide);
         }
-        MlineCopy(record.m_name, copy);
+        run.MlineCopy(record.m_name, copy);
         discard(copy);
         kdedRedraw(record.m_name, kShow);
     };
-    takeBack(m_first, m_undoFirst, tool.hidesFirst);
-    if (tool.undoCopies == 2 && !isSameEntity(m_first.m_name, m_second.m_name)) {
-        takeBack(m_second, m_undoSecond, tool.hidesSecond);
+    takeBack(run.m_first, run.m_undoFirst, tool.hidesFirst);
+    if (tool.undoCopies == 2 && !isSameEntity(run.m_first.m_name, run.m_second.m_name)) {
+        takeBack(run.m_second, run.m_undoSecond, tool.hidesSecond);
     }
 }
 
-void CMlineEdit::workOnPicks(const EditTool& tool, HINSTANCE resources) {
-    const CMlineOpenObject open(&m_first, &m_second);
-    renewUndoCopies(tool);
-    const StepOutcome outcome = runStep(tool);
-    if (outcome == StepOutcome::done) {
-        kdedRedraw(nullptr, kRefresh);
-        return;
+Prompted askFirst(CMlineEdit& run, const EditTool& tool, HINSTANCE resources) {
+    if (run.m_undoFirst != nullptr) {
+        loadText(resources, texts::kUndoKeyword, run.m_buffer);
+        kdedInitGet(0, run.m_buffer);
+        loadText(resources, tool.prompts.firstWithUndo, run.m_buffer);
+    } else {
+        kdedInitGet(0, nullptr);
+        loadText(resources, tool.prompts.first, run.m_buffer);
     }
-    if (outcome == StepOutcome::noCrossing) {
-        loadText(resources, mledit::texts::kNoCrossing, m_buffer);
-        kdutPrintf(L"%ls", m_buffer);
+    run.m_status = kdedEntSel(run.m_buffer, run.m_pickedName, run.m_pickedPoint);
+    if (endsTool(run.m_status) || (run.m_status == kPromptError && isInputClosed())) {
+        return Prompted::leave;
     }
-    discard(m_undoFirst);
-    if (tool.undoCopies == 2) {
-        discard(m_undoSecond);
+    if (run.m_status == kPromptKeyword) {
+        kdedGetInput(run.m_buffer);
+        if (wcscasecmp(run.m_buffer, L"UNDO") == 0) {
+            takeBackLastCycle(run, tool);
+        }
     }
+    // The name alone decides, whatever the status: a keyword or a miss finds it empty.
+    const bool accepted = tool.firstPick == EditTool::FirstPick::anyEntity
+                              ? run.m_pickedName[0] != 0 || run.m_pickedName[1] != 0
+                              : needBreak(run.m_pickedName);
+    if (!accepted || (tool.refusesClosedFirst && isRefusedAsClosed(run, resources))) {
+        return Prompted::again;
+    }
+    return Prompted::picked;
 }
 
-void CMlineEdit::renewUndoCopies(const EditTool& tool) {
-    const auto renew = [this](KdDbMline*& copy, KdDbMline* source) {
+// Repeats its prompt without a message until the pick is accepted. No keyword is armed: UNDO is for
+// the first pick alone.
+Prompted askSecond(CMlineEdit& run, const EditTool& tool, HINSTANCE resources) {
+    loadText(resources, tool.prompts.second, run.m_buffer);
+    bool accepted = false;
+    while (!accepted) {
+        run.m_status = kdedEntSel(run.m_buffer, run.m_pickedName, run.m_pickedPoint);
+        if (endsTool(run.m_status)) {
+            return Prompted::leave;
+        }
+        accepted = tool.secondPick == EditTool::SecondPick::sameEntity
+                       ? isSameEntity(run.m_pickedName, run.m_first.m_name)
+                       : needBreak(run.m_pickedName);
+    }
+    return tool.refusesClosedSecond && isRefusedAsClosed(run, resources) ? Prompted::again
+                                                                         : Prompted::picked;
+}
+
+void renewUndoCopies(CMlineEdit& run, const EditTool& tool) {
+    const auto renew = [&run](KdDbMline*& copy, KdDbMline* source) {
         discard(copy);
         copy = new KdDbMline;
-        MlineCopy(copy, source);
+        run.MlineCopy(copy, source);
     };
-    renew(m_undoFirst, m_first.m_mline);
-    if (tool.undoCopies == 2 && !isSameEntity(m_first.m_name, m_second.m_name)) {
-        renew(m_undoSecond, m_second.m_mline);
+    renew(run.m_undoFirst, run.m_first.m_mline);
+    if (tool.undoCopies == 2 && !isSameEntity(run.m_first.m_name, run.m_second.m_name)) {
+        renew(run.m_undoSecond, run.m_second.m_mline);
     }
 }
 
 // Only what can be worked on reaches the tool's step. Welding something that is no multiline
 // counts as done.
-StepOutcome CMlineEdit::runStep(const EditTool& tool) {
+StepOutcome runStep(CMlineEdit& run, const EditTool& tool) {
     const bool twoPicks = tool.secondPick != EditTool::SecondPick::none;
-    if (tool.firstPick == EditTool::FirstPick::anyEntity && m_first.m_mline == nullptr) {
+    if (tool.firstPick == EditTool::FirstPick::anyEntity && run.m_first.m_mline == nullptr) {
         return StepOutcome::done;
     }
-    if (!isUsable(m_first) || (twoPicks && !isUsable(m_second))) {
+    if (!isUsable(run.m_first) || (twoPicks && !isUsable(run.m_second))) {
         return StepOutcome::failedSilently;
     }
-    return (this->*tool.step)();
+    return tool.step(run);
 }
 
-void CMlineEdit::closeAtExit(const EditTool& tool) {
+void workOnPicks(CMlineEdit& run, const EditTool& tool, HINSTANCE resources) {
+    const CMlineOpenObject open(&run.m_first, &run.m_second);
+    renewUndoCopies(run, tool);
+    const StepOutcome outcome = runStep(run, tool);
+    if (outcome == StepOutcome::done) {
+        kdedRedraw(nullptr, kRefresh);
+        return;
+    }
+    if (outcome == StepOutcome::noCrossing) {
+        loadText(resources, texts::kNoCrossing, run.m_buffer);
+        kdutPrintf(L"%ls", run.m_buffer);
+    }
+    discard(run.m_undoFirst);
+    if (tool.undoCopies == 2) {
+        discard(run.m_undoSecond);
+    }
+}
+
+void closeAtExit(CMlineEdit& run, const EditTool& tool) {
     if (tool.closesAtExit == EditTool::Closes::neither) {
         return;
     }
-    closeAndClear(m_first.m_mline);
+    closeAndClear(run.m_first.m_mline);
     if (tool.closesAtExit == EditTool::Closes::both) {
-        closeAndClear(m_second.m_mline);
+        closeAndClear(run.m_second.m_mline);
     }
 }
+
+} // namespace
+
+int runTool(CMlineEdit& run, const EditTool& tool, HINSTANCE resources) {
+    if (tool.step == nullptr) {
+        return run.m_status;
+    }
+    for (;;) {
+        Prompted prompted = askFirst(run, tool, resources);
+        if (prompted == Prompted::picked) {
+            (run.*tool.initialise)(&run.m_first, run.m_pickedName, nullptr);
+            if (tool.secondPick != EditTool::SecondPick::none) {
+                prompted = askSecond(run, tool, resources);
+            }
+        }
+        if (prompted == Prompted::leave) {
+            closeAtExit(run, tool);
+            return run.m_status;
+        }
+        if (prompted == Prompted::again) {
+            continue;
+        }
+        if (tool.secondPick != EditTool::SecondPick::none) {
+            (run.*tool.initialise)(&run.m_second, run.m_pickedName, &run.m_first);
+        }
+        workOnPicks(run, tool, resources);
+    }
+}
+
+} // namespace mledit

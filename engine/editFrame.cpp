@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace mledit {
+
 namespace {
 
 void convert(const double* point, const resbuf& from, const resbuf& to, bool displacement,
@@ -88,3 +90,5 @@ EndAngles endAngles(const KdDbMlineStyle& style, const double* normal) {
     const double sign = normal[2] * up[2] > 0.0 ? 1.0 : -1.0;
     return {style.startAngle() * sign, style.endAngle() * sign};
 }
+
+} // namespace mledit

@@ -8,6 +8,8 @@ class KdDbMlineStyle;
 // The frames in which vertices are moved, added and removed, and what is read of a multiline and
 // its style for that. Points are x, y, z; angles in radians.
 
+namespace mledit {
+
 // Turns points and directions between the world and a frame given by the multiline's normal.
 class EditFrame {
 public:
@@ -51,3 +53,5 @@ struct EndAngles {
     double end;
 };
 EndAngles endAngles(const KdDbMlineStyle& style, const double* normal);
+
+} // namespace mledit

@@ -1,21 +1,20 @@
-// From the picked element to the others, and back to the segments after the vertices have changed.
+#include "mapping.h"
 
 #include "CMlineEdit.h"
-
 #include "KdDbMline.h"
 #include "VoMath.h"
-#include "acrossPick.h"
 #include "lineMath.h"
-#include "mlineRecord.h"
-#include "segments.h"
+#include "mlineAccessors.h"
 #include "vectorMath.h"
 
 #include <cmath>
 
+using namespace mledit;
+
 namespace {
 
-// The crossing held to the segment from a to b, by x unless the ends have one x.
-const double* heldToSegment(const double* crossing, const double* a, const double* b) {
+// The crossing clamped to the segment from a to b, by x unless the ends have one x.
+const double* clampToSegment(const double* crossing, const double* a, const double* b) {
     const int k = a[0] < b[0] || a[0] > b[0] ? 0 : 1;
     if (a[k] < b[k]) {
         return crossing[k] < a[k] ? a : crossing[k] > b[k] ? b : crossing;
@@ -31,7 +30,7 @@ double distanceFromLine(const double* point, const double* a, const double* b) {
 
 } // namespace
 
-bool acrossPick(const CMlineSegment& seg, int element, AcrossPick& place) {
+bool mledit::footOnElement(const CMlineSegment& seg, int element, PerpendicularFoot& foot) {
     const int start = seg.m_segment;
     const int end = segmentEnd(seg, start);
     if (seg.m_mline == nullptr || end < 0 || !hasElement(seg, seg.m_element) ||
@@ -41,23 +40,23 @@ bool acrossPick(const CMlineSegment& seg, int element, AcrossPick& place) {
     if (element == kChain) {
         const KdGePoint3d a = seg.m_mline->vertexAt(start);
         const KdGePoint3d b = seg.m_mline->vertexAt(end);
-        place = {{a.x, a.y, a.z}, {b.x, b.y, b.z}, {}};
+        foot = {{a.x, a.y, a.z}, {b.x, b.y, b.z}, {}};
     } else {
-        copyPoint(seg.m_ptList[element][start], place.start);
-        copyPoint(seg.m_ptList[element][end], place.end);
+        copyPoint(seg.m_ptList[element][start], foot.start);
+        copyPoint(seg.m_ptList[element][end], foot.end);
     }
-    // A line through the pick, square on the segment in plan; only its direction counts.
+    // A line through the pick, perpendicular to the segment in plan; only its direction counts.
     constexpr double kLength = 10.0;
     const double* const pick = seg.m_pickPoint;
     const double angle = tklengine_angle(pick, seg.m_ptList[seg.m_element][start]);
     const double across[3] = {pick[0] + std::sin(angle) * kLength,
                               pick[1] - std::cos(angle) * kLength, pick[2]};
-    copyPoint(pick, place.crossing);
-    gx_linexline(pick, across, place.start, place.end, place.crossing);
+    copyPoint(pick, foot.point);
+    gx_linexline(pick, across, foot.start, foot.end, foot.point);
     return true;
 }
 
-void mapToPick(CMlineSegment& seg, const double* point) {
+void mledit::mapToPick(CMlineSegment& seg, const double* point) {
     copyPoint(point, seg.m_mappedPoint);
     seg.m_mappedDistance = seg.m_pickDistance;
     seg.m_mappedSegment = seg.m_segment;
@@ -69,17 +68,17 @@ void CMlineEdit::mappingToSpecifyMongline(CMlineSegment* seg, int element, doubl
         mapToPick(*seg, seg->m_pickPoint);
         return;
     }
-    AcrossPick place{};
-    if (!acrossPick(*seg, element, place)) {
+    PerpendicularFoot foot{};
+    if (!footOnElement(*seg, element, foot)) {
         return;
     }
     if (element == kChain) {
-        copyPoint(place.crossing, out);
+        copyPoint(foot.point, out);
         return;
     }
-    copyPoint(heldToSegment(place.crossing, place.start, place.end), seg->m_mappedPoint);
+    copyPoint(clampToSegment(foot.point, foot.start, foot.end), seg->m_mappedPoint);
     seg->m_mappedElement = element;
-    seg->m_mappedDistance = tklengine_distance(seg->m_mappedPoint, place.start);
+    seg->m_mappedDistance = tklengine_distance(seg->m_mappedPoint, foot.start);
 }
 
 void CMlineEdit::correctMapping(CMlineSegment* seg) {

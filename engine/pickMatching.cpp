@@ -1,23 +1,23 @@
-// From a pick to the element and segment that it means.
+#include "pickMatching.h"
 
 #include "CMlineEdit.h"
-
 #include "KdDbMline.h"
 #include "RvexView.h"
-#include "acrossPick.h"
 #include "frames.h"
 #include "kddbObjects.h"
 #include "lineMath.h"
+#include "mapping.h"
 #include "measure.h"
-#include "mlineRecord.h"
+#include "mlineAccessors.h"
 #include "parameterLists.h"
-#include "pickSearch.h"
-#include "segments.h"
 #include "systemVariables.h"
+#include "vectorMath.h"
 #include "vertexSnapshot.h"
 
 #include <algorithm>
 #include <memory>
+
+using namespace mledit;
 
 namespace {
 
@@ -84,38 +84,38 @@ void takePick(CMlineSegment& seg, const double* pick, double radius) {
 
 } // namespace
 
-void CMlineEdit::mlineEditInitialize(CMlineSegment* seg, long* name, CMlineSegment* other) {
-    double pick[3];
-    copyPoint(m_pickedPoint, pick);
-    uc2wc(m_pickedPoint, pick, false);
-    openPicked(seg, name, other);
-    fillTable(seg);
-    takePick(*seg, pick, m_pickRadius);
-    mapToPick(*seg, seg->m_pickPoint);
-    name[0] = 0;
-    name[1] = 0;
-}
-
-void CMlineEdit::openPicked(CMlineSegment* seg, const long* name, const CMlineSegment* other) {
-    seg->m_name[0] = name[0];
-    seg->m_name[1] = name[1];
+void mledit::openPicked(CMlineSegment& seg, const long* name, const CMlineSegment* other) {
+    seg.m_name[0] = name[0];
+    seg.m_name[1] = name[1];
     if (other != nullptr && isSameEntity(name, other->m_name)) {
-        seg->m_mline = other->m_mline;
+        seg.m_mline = other->m_mline;
         return;
     }
     KdDbObjectId id;
     kddbGetObjectId(id, name);
-    kddbOpenObject(seg->m_mline, id, kForRead);
+    kddbOpenObject(seg.m_mline, id, kForRead);
 }
 
-void CMlineEdit::fillTable(CMlineSegment* seg) {
+void mledit::fillTable(CMlineEdit& run, CMlineSegment& seg) {
     // An entity that didn't open leaves an empty record.
-    seg->m_numVertices = seg->m_mline != nullptr ? seg->m_mline->numVertices() : 0;
-    seg->m_numElements = 0;
-    GetSegmentsSize(seg->m_mline, &seg->m_numElements);
-    ptListInitialize(seg->m_mline, seg->m_numVertices, seg->m_numElements, &seg->m_ptList,
-                     &seg->m_ptListSize);
-    set_SpaceBetween(&m_pickRadius);
+    seg.m_numVertices = seg.m_mline != nullptr ? seg.m_mline->numVertices() : 0;
+    seg.m_numElements = 0;
+    GetSegmentsSize(seg.m_mline, &seg.m_numElements);
+    run.ptListInitialize(seg.m_mline, seg.m_numVertices, seg.m_numElements, &seg.m_ptList,
+                         &seg.m_ptListSize);
+    run.set_SpaceBetween(&run.m_pickRadius);
+}
+
+void CMlineEdit::mlineEditInitialize(CMlineSegment* seg, long* name, CMlineSegment* other) {
+    double pick[3];
+    copyPoint(m_pickedPoint, pick);
+    uc2wc(m_pickedPoint, pick, false);
+    openPicked(*seg, name, other);
+    fillTable(*this, *seg);
+    takePick(*seg, pick, m_pickRadius);
+    mapToPick(*seg, seg->m_pickPoint);
+    name[0] = 0;
+    name[1] = 0;
 }
 
 void CMlineEdit::ptListInitialize(KdDbMline* mline, int numVertices, int numElements,

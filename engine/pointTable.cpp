@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace mledit {
+
 PointTable newPointTable(int rows, int columns) {
     const int height = std::max(rows, 0);
     const int width = std::max(columns, 0);
@@ -29,3 +31,5 @@ void freePointTable(PointTable& table, int& rows) {
     table = nullptr;
     rows = 0;
 }
+
+} // namespace mledit

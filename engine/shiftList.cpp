@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace mledit {
+
 namespace {
 
 constexpr double kEqualBreaks = 1e-10; // drawing units
@@ -98,3 +100,5 @@ BreakList withoutRuns(BreakList list) {
     list.resize(std::min<std::size_t>(list.size(), 1));
     return list;
 }
+
+} // namespace mledit

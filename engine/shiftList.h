@@ -2,6 +2,8 @@
 
 #include "breakList.h"
 
+namespace mledit {
+
 // What becomes of an element's break list when a vertex of the chain moves, comes or goes: values
 // in, value out. Distances are drawing units along the element, not negative.
 
@@ -32,3 +34,5 @@ BreakList beforeNewVertex(BreakList list, double distance);
 
 // Entry 0 alone: no run on a segment without length.
 BreakList withoutRuns(BreakList list);
+
+} // namespace mledit

@@ -2,10 +2,12 @@
 
 #include "CMlineEdit.h"
 #include "KdDbMline.h"
-#include "mlineRecord.h"
+#include "mlineAccessors.h"
 #include "parameterLists.h"
 #include "trimList.h"
 #include "vectorMath.h"
+
+using namespace mledit;
 
 // Rewrites one element's list so that it is drawn on one side of a point only. The record's table
 // of positions is made anew first, for the vertices may just have moved.

@@ -2,6 +2,8 @@
 
 #include "VoMath.h"
 
+namespace mledit {
+
 namespace {
 
 constexpr double kEqualBreaks = 1e-10; // drawing units
@@ -56,3 +58,5 @@ BreakList keepFrom(BreakList list, double distance, TrimPlace place) {
     }
     return list;
 }
+
+} // namespace mledit

@@ -2,6 +2,8 @@
 
 #include "breakList.h"
 
+namespace mledit {
+
 // Trimming an element at one point: values in, value out. Entry 0, the offset, never changes.
 // `distance` is that of the point from the element's position at the segment's start, drawing
 // units, not negative. The two forms aren't mirror images: only the first counts a break at the
@@ -17,3 +19,5 @@ enum class TrimPlace { behindStart, within, beyondEnd };
 // Keeps what lies behind the point. One beyond the end is appended as it is; one behind the start
 // becomes a negative break, so that the element reaches back to it.
 BreakList keepFrom(BreakList list, double distance, TrimPlace place);
+
+} // namespace mledit

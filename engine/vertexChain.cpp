@@ -2,7 +2,9 @@
 
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
-#include "mlineRecord.h"
+#include "mlineAccessors.h"
+
+namespace mledit {
 
 namespace {
 
@@ -35,12 +37,6 @@ void VertexChain::store(KdDbMline* mline) const {
     SetMilters(mline, rows(miters));
 }
 
-bool isClosedChain(const KdDbMline* mline) {
-    int flags = 0;
-    GetFlag(mline, &flags);
-    return (flags & kFlagClosed) != 0;
-}
-
 OpenStyle::OpenStyle(const KdDbMline* mline) {
     GetMlStyle(mline, &m_style);
 }
@@ -50,3 +46,5 @@ OpenStyle::~OpenStyle() {
         m_style->close();
     }
 }
+
+} // namespace mledit

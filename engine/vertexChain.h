@@ -6,6 +6,8 @@
 class KdDbMline;
 class KdDbMlineStyle;
 
+namespace mledit {
+
 // A multiline's chain as working copies, world coordinates. Nothing reaches the entity before
 // store.
 struct VertexChain {
@@ -20,8 +22,6 @@ struct VertexChain {
     void store(KdDbMline* mline) const;
 };
 
-bool isClosedChain(const KdDbMline* mline);
-
 // The style of a multiline, open for read as long as this lives; null when it has none.
 class OpenStyle {
 public:
@@ -35,3 +35,5 @@ public:
 private:
     KdDbMlineStyle* m_style = nullptr; // not owned
 };
+
+} // namespace mledit

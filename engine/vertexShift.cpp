@@ -10,15 +10,17 @@
 #include "editFrame.h"
 #include "lineMath.h"
 #include "measure.h"
-#include "mlineRecord.h"
+#include "mlineAccessors.h"
 #include "parameterLists.h"
 #include "shiftList.h"
-#include "styleRecord.h"
+#include "styleAccessors.h"
 #include "vectorMath.h"
 #include "vertexChain.h"
 
 #include <optional>
 #include <vector>
+
+using namespace mledit;
 
 namespace {
 
@@ -62,7 +64,7 @@ public:
     VertexShift(CMlineEdit& edit, KdDbMline* mline, int vertex, const double* newPosition,
                 PointTable ptList, KdDbMlineStyle* style, int numElements)
         : m_edit(edit), m_mline(mline), m_v(vertex), m_count(mline->numVertices()),
-          m_elements(numElements), m_closed(isClosedChain(mline)),
+          m_elements(numElements), m_closed(isClosed(mline)),
           m_around(neighboursOf(vertex, m_count, m_closed)), m_ptList(ptList),
           m_chain(VertexChain::of(mline)), m_offsets(elementOffsets(mline, style, numElements)),
           m_frame(frameOf(mline)), m_ends(anglesOf(mline, *style)) {
@@ -319,8 +321,7 @@ void CMlineEdit::changePTPosition(KdDbMline* mline, int vertex, const double* ne
     }
 }
 
-// With a reference the distance is positive to the left of the way from the origin to it. The
-// multiline's normal plays no part here.
+// The multiline's normal plays no part here.
 void CMlineEdit::Distance_PointToPoint(const double* point, const double* origin, double* result,
                                        const double* reference) {
     *result = tklengine_distance(point, origin);
@@ -335,8 +336,6 @@ void CMlineEdit::Distance_PointToPoint(const double* point, const double* origin
     }
 }
 
-// The distance is positive to the left of the line, or to the right when the normal points down.
-// Either output may be null; the normal is read for the distance alone.
 void CMlineEdit::Distance_PointToLine(const double* point, const double* lineStart,
                                       const double* lineEnd, const double* normal, double* distance,
                                       double* foot) {

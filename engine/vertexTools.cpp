@@ -1,5 +1,4 @@
-// Adding and removing vertices. Every other vertex keeps its place; every list of the entity is
-// written anew from a copy of how it was.
+#include "vertexTools.h"
 
 #include "CMlineEdit.h"
 #include "KdDbMline.h"
@@ -7,15 +6,16 @@
 #include "comparisons.h"
 #include "editFrame.h"
 #include "measure.h"
-#include "mlineRecord.h"
+#include "mlineAccessors.h"
 #include "parameterLists.h"
-#include "segments.h"
 #include "shiftList.h"
 #include "vectorMath.h"
 #include "vertexChain.h"
 
 #include <algorithm>
 #include <memory>
+
+using namespace mledit;
 
 namespace {
 
@@ -76,7 +76,7 @@ public:
     VertexRemoval(CMlineEdit& edit, CMlineSegment& seg, int vertex, const KdDbMline& copy,
                   const EndAngles& ends)
         : m_edit(edit), m_mline(seg.m_mline), m_ptList(seg.m_ptList), m_copy(copy), m_d(vertex),
-          m_count(seg.m_numVertices), m_elements(seg.m_numElements), m_closed(isClosedChain(&copy)),
+          m_count(seg.m_numVertices), m_elements(seg.m_numElements), m_closed(isClosed(&copy)),
           m_around(neighboursOf(vertex, m_count, m_closed)), m_frame(frameOf(&copy)), m_ends(ends),
           m_chain(VertexChain::of(&copy)) {
         GetNormal(&copy, m_normal);
@@ -228,15 +228,33 @@ private:
     double m_normal[3] = {0.0, 0.0, 0.0};
 };
 
+// The lists of the picked segment: its first half keeps what lies before the new vertex, the second
+// starts unbroken whatever stood there. Fill parameters stand at both.
+void splitLists(CMlineEdit& run, CMlineSegment* seg, const KdDbMline& copy, const double* from,
+                const double* to, const double* normal) {
+    const int split = seg->m_segment;
+    for (int k = 0; k < seg->m_numElements; ++k) {
+        run.mappingToSpecifyMongline(seg, k, nullptr);
+        storeLineList(seg->m_mline, split, k,
+                      beforeNewVertex(lineList(&copy, split, k), seg->m_mappedDistance));
+        double offset = 0.0;
+        run.Distance_PointToLine(seg->m_mappedPoint, from, to, normal, &offset, nullptr);
+        storeLineList(seg->m_mline, split + 1, k, {offset, 0.0});
+        const std::vector<double> area = areaList(&copy, split, k);
+        storeAreaList(seg->m_mline, split, k, area);
+        storeAreaList(seg->m_mline, split + 1, k, area);
+    }
+}
+
 } // namespace
 
-StepOutcome CMlineEdit::stepAddVertex() {
-    add_OneVertex(&m_first);
+StepOutcome mledit::stepAddVertex(CMlineEdit& run) {
+    run.add_OneVertex(&run.m_first);
     return StepOutcome::done;
 }
 
-StepOutcome CMlineEdit::stepDeleteVertex() {
-    delete_OneVertex(&m_first, getDeleteVertexNumver(&m_first));
+StepOutcome mledit::stepDeleteVertex(CMlineEdit& run) {
+    run.delete_OneVertex(&run.m_first, run.getDeleteVertexNumver(&run.m_first));
     return StepOutcome::done;
 }
 
@@ -298,25 +316,7 @@ void CMlineEdit::add_OneVertex(CMlineSegment* seg) {
                         seg->m_numElements);
         }
     }
-    splitLists(seg, *copy, from.data(), to.data(), normal);
-}
-
-// The lists of the picked segment: its first half keeps what lies before the new vertex, the second
-// starts unbroken whatever stood there. Fill parameters stand at both.
-void CMlineEdit::splitLists(CMlineSegment* seg, const KdDbMline& copy, const double* from,
-                            const double* to, const double* normal) {
-    const int split = seg->m_segment;
-    for (int k = 0; k < seg->m_numElements; ++k) {
-        mappingToSpecifyMongline(seg, k, nullptr);
-        storeLineList(seg->m_mline, split, k,
-                      beforeNewVertex(lineList(&copy, split, k), seg->m_mappedDistance));
-        double offset = 0.0;
-        Distance_PointToLine(seg->m_mappedPoint, from, to, normal, &offset, nullptr);
-        storeLineList(seg->m_mline, split + 1, k, {offset, 0.0});
-        const std::vector<double> area = areaList(&copy, split, k);
-        storeAreaList(seg->m_mline, split, k, area);
-        storeAreaList(seg->m_mline, split + 1, k, area);
-    }
+    splitLists(*this, seg, *copy, from.data(), to.data(), normal);
 }
 
 // Removes a vertex; an open chain keeps two, a closed one three. The record's count goes down in

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace mledit {
+
 namespace {
 
 constexpr double kEqualBreaks = 1e-10; // drawing units
@@ -97,3 +99,5 @@ BreakList weldWhole(BreakList list) {
     }
     return list;
 }
+
+} // namespace mledit

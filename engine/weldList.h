@@ -2,6 +2,8 @@
 
 #include "breakList.h"
 
+namespace mledit {
+
 // Taking breaks back out of break lists: values in, value out. Between the two places nothing is
 // matched up: every entry that lies between them goes.
 
@@ -28,3 +30,5 @@ BreakList weldFromSegmentStart(BreakList list, const WeldEnd& upper, double tole
 
 // A segment in the middle of a longer weld: unbroken.
 BreakList weldWhole(BreakList list);
+
+} // namespace mledit

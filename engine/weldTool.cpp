@@ -1,52 +1,50 @@
-// The weld tool: between two picks on one multiline every break of every element goes. Picks may
-// lie in gaps, so matching and mapping have forms of their own.
+#include "weldTool.h"
 
 #include "CMlineEdit.h"
-
 #include "KdDbMline.h"
 #include "VoMath.h"
-#include "acrossPick.h"
 #include "comparisons.h"
 #include "frames.h"
 #include "lineMath.h"
+#include "mapping.h"
 #include "measure.h"
 #include "parameterLists.h"
-#include "pickSearch.h"
-#include "segments.h"
+#include "pickMatching.h"
 #include "vectorMath.h"
 #include "weldList.h"
-#include "weldPick.h"
 
 #include <utility>
+
+using namespace mledit;
 
 namespace {
 
 constexpr double kSameLength = 1e-10; // drawing units
 
-// A place on the line of a segment, held to the segment's ends, and how far it is from the start.
-struct HeldPlace {
+// A point on the line of a segment, clamped to the segment's ends, and its distance from the start.
+struct ClampedPoint {
     double point[3];
     double distance;
 };
 
-// `isAtStart`: the place counts as the start. That comparison is relative to one of its points, and
+// `isAtStart`: the point counts as the start. That comparison is relative to one of its points, and
 // the callers' differ in which.
-HeldPlace heldToSegment(const double* place, bool isAtStart, const double* start,
-                        const double* end) {
-    HeldPlace held{};
-    const bool ahead = mlineAngleEqual(kdutAngle(start, place), kdutAngle(start, end), kHalfPi);
+ClampedPoint clampToSegment(const double* point, bool isAtStart, const double* start,
+                            const double* end) {
+    ClampedPoint clamped{};
+    const bool ahead = mlineAngleEqual(kdutAngle(start, point), kdutAngle(start, end), kHalfPi);
     if (!ahead || isAtStart) {
-        copyPoint(start, held.point);
-        return held;
+        copyPoint(start, clamped.point);
+        return clamped;
     }
-    copyPoint(place, held.point);
-    held.distance = tklengine_distance(place, start);
+    copyPoint(point, clamped.point);
+    clamped.distance = tklengine_distance(point, start);
     const double length = tklengine_distance(start, end);
-    if (VoMath::isEqual(held.distance, length, kSameLength) || length < held.distance) {
-        held.distance = length;
-        copyPoint(end, held.point);
+    if (VoMath::isEqual(clamped.distance, length, kSameLength) || length < clamped.distance) {
+        clamped.distance = length;
+        copyPoint(end, clamped.point);
     }
-    return held;
+    return clamped;
 }
 
 // Within the aperture of the element's line between its ends, gaps included.
@@ -70,22 +68,23 @@ void takeWeldPick(CMlineSegment& seg, const double* pick, double radius) {
         if (!matches(pick, start, end, radius, foot)) {
             return false;
         }
-        const HeldPlace held = heldToSegment(foot, gx_pt_equal(start, foot) != 0, start, end);
+        const ClampedPoint clamped =
+            clampToSegment(foot, gx_pt_equal(start, foot) != 0, start, end);
         seg.m_segment = segment;
         seg.m_element = element;
         copyPoint(foot, seg.m_pickPoint);
-        copyPoint(held.point, seg.m_weldPoint);
-        seg.m_pickDistance = held.distance;
+        copyPoint(clamped.point, seg.m_weldPoint);
+        seg.m_pickDistance = clamped.distance;
         return true;
     });
 }
 
-bool isBehind(const CMlineSegment& a, const CMlineSegment& b) {
+bool isAfter(const CMlineSegment& a, const CMlineSegment& b) {
     return a.m_mappedSegment > b.m_mappedSegment ||
            (a.m_mappedSegment == b.m_mappedSegment && a.m_mappedDistance > b.m_mappedDistance);
 }
 
-// Whether the mapped place is the mapped element's position at a vertex.
+// Whether the mapped point is the mapped element's position at a vertex.
 bool isAtVertex(const CMlineSegment& seg, int vertex) {
     return vertex >= 0 && vertex < seg.m_numVertices && hasElement(seg, seg.m_mappedElement) &&
            gx_pt_equal(seg.m_mappedPoint, seg.m_ptList[seg.m_mappedElement][vertex]) != 0;
@@ -108,11 +107,11 @@ void moveOffVertices(CMlineSegment& lower, CMlineSegment& upper) {
 
 } // namespace
 
-StepOutcome CMlineEdit::stepWeldAll() {
-    for (int element = 0; element < m_first.m_numElements; ++element) {
-        mappingToSpecifyMonglineForWeldAll(&m_first, element, nullptr);
-        mappingToSpecifyMonglineForWeldAll(&m_second, element, nullptr);
-        Weld_Mongline(&m_first, &m_second);
+StepOutcome mledit::stepWeldAll(CMlineEdit& run) {
+    for (int element = 0; element < run.m_first.m_numElements; ++element) {
+        run.mappingToSpecifyMonglineForWeldAll(&run.m_first, element, nullptr);
+        run.mappingToSpecifyMonglineForWeldAll(&run.m_second, element, nullptr);
+        run.Weld_Mongline(&run.m_first, &run.m_second);
     }
     return StepOutcome::done;
 }
@@ -125,11 +124,11 @@ void CMlineEdit::mlineEditInitializeForWeldAll(CMlineSegment* seg, long* name,
     double pick[3];
     copyPoint(m_pickedPoint, pick);
     uc2wc(m_pickedPoint, pick, false);
-    openPicked(seg, name, other);
+    openPicked(*seg, name, other);
     if (seg->m_mline == nullptr) {
         return; // the name stays: a second pick of the same entity goes on to do nothing
     }
-    fillTable(seg);
+    fillTable(*this, *seg);
     takeWeldPick(*seg, pick, m_pickRadius);
     mapToPick(*seg, seg->m_weldPoint);
     name[0] = 0;
@@ -144,19 +143,19 @@ void CMlineEdit::mappingToSpecifyMonglineForWeldAll(CMlineSegment* seg, int elem
         mapToPick(*seg, seg->m_weldPoint);
         return;
     }
-    AcrossPick place{};
-    if (!acrossPick(*seg, element, place)) {
+    PerpendicularFoot foot{};
+    if (!footOnElement(*seg, element, foot)) {
         return;
     }
     if (element == kChain) {
-        copyPoint(place.crossing, out);
+        copyPoint(foot.point, out);
         return;
     }
-    const bool isAtStart = gx_pt_equal(place.crossing, place.start) != 0;
-    const HeldPlace held = heldToSegment(place.crossing, isAtStart, place.start, place.end);
-    copyPoint(held.point, seg->m_mappedPoint);
+    const bool isAtStart = gx_pt_equal(foot.point, foot.start) != 0;
+    const ClampedPoint clamped = clampToSegment(foot.point, isAtStart, foot.start, foot.end);
+    copyPoint(clamped.point, seg->m_mappedPoint);
     seg->m_mappedElement = element;
-    seg->m_mappedDistance = held.distance;
+    seg->m_mappedDistance = clamped.distance;
 }
 
 bool IsPositionCutPt(const CMlineSegment* seg, bool lowerEnd, double tolerance) {
@@ -176,7 +175,7 @@ void CMlineEdit::Weld_Mongline(CMlineSegment* first, CMlineSegment* second) {
     // By number alone, on a closed multiline too: a weld never runs across the closing vertex.
     CMlineSegment* lower = first;
     CMlineSegment* upper = second;
-    if (isBehind(*lower, *upper)) {
+    if (isAfter(*lower, *upper)) {
         std::swap(lower, upper);
     }
     moveOffVertices(*lower, *upper);

@@ -12,11 +12,11 @@ constexpr double kPointTolerance = 1e-10;
 
 double normalisedAngle(double angle) {
     double turned = std::abs(angle);
-    if (turned >= kTwoPi) {
+    if (turned >= mledit::kTwoPi) {
         // trunc and not a conversion to int: no angle is too large.
-        turned -= kTwoPi * std::trunc(turned / kTwoPi);
+        turned -= mledit::kTwoPi * std::trunc(turned / mledit::kTwoPi);
     }
-    return angle < 0.0 ? kTwoPi - turned : turned;
+    return angle < 0.0 ? mledit::kTwoPi - turned : turned;
 }
 
 } // namespace

@@ -30,7 +30,7 @@ bool uc2wc(const double* point, double* out, bool displacement) {
     return convert(point, kUser, kWorld, displacement, out);
 }
 
-RvexView* activeView() {
+RvexView* mledit::activeView() {
     RvexDocContext* const context = GetRvexAppCtxActiveDocContext();
     RvexDocDataContext* const data = context != nullptr ? context->rvexDocDataContext() : nullptr;
     RvexGraphics* const graphics = data != nullptr ? data->graphics() : nullptr;
@@ -38,7 +38,7 @@ RvexView* activeView() {
 }
 
 int tkl_wcs2dcs(const double* point, double* out) {
-    const RvexView* const view = activeView();
+    const RvexView* const view = mledit::activeView();
     if (view == nullptr) {
         return -1;
     }

@@ -26,7 +26,7 @@ double tklengine_angle(const double* from, const double* to) {
         return 0.0;
     }
     const double angle = std::atan2(dy, dx);
-    return angle < 0.0 ? angle + kTwoPi : angle;
+    return angle < 0.0 ? angle + mledit::kTwoPi : angle;
 }
 
 void gx_crossproduct(const double* a, const double* b, double* out) {

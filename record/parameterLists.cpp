@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace mledit {
+
 namespace {
 
 using List = VoVector<double> KdMLSegment::*;
@@ -57,3 +59,5 @@ double elementOffset(const KdDbMline& mline, int vertex, int element) {
     const VoVector<double>& values = record.m_lineParams;
     return values.isEmpty() ? 0.0 : values.at(0);
 }
+
+} // namespace mledit

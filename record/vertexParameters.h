@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace mledit {
+
 // The host keeps the parameters of a vertex in one record for all its elements, and each access
 // moves the whole of it. So everything here is one fetch, or one fetch and one store.
 
@@ -55,3 +57,5 @@ int changeRecord(KdDbMline* mline, int vertex, int element, Change change) {
     storeVertexParameters(*mline, vertex, records);
     return 1;
 }
+
+} // namespace mledit

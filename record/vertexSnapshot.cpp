@@ -1,10 +1,12 @@
 #include "vertexSnapshot.h"
 
-#include "mlineRecord.h"
+#include "mlineAccessors.h"
 #include "vertexParameters.h"
 
 #include <algorithm>
 #include <memory>
+
+using namespace mledit;
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 class KdDbMline;
 
-// A copy of a multiline's whole vertex chain in plain arrays; nothing written to it reaches the
-// entity. Records own their arrays.
+// A copy of a multiline's whole vertex chain in plain arrays, fixed by the interface; nothing
+// written to it reaches the entity. Records own their arrays.
 
 // One element at one vertex.
 struct db_mlelemlink {
@@ -18,7 +18,7 @@ struct db_mlelemlink {
     ~db_mlelemlink();
 };
 
-// One vertex: its place, the directions of its segment and of its miter.
+// One vertex: its position, the directions of its segment and of its miter.
 struct db_mlvertlink {
     double pt[3] = {0.0, 0.0, 0.0};
     double axis[3] = {0.0, 0.0, 0.0};

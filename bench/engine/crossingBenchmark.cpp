@@ -8,6 +8,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace mledit;
+
 namespace {
 
 using Chain = std::vector<ChainPoint>;

@@ -12,6 +12,8 @@
 
 #include <array>
 
+using namespace mledit;
+
 namespace {
 
 constexpr std::array<double, 4> kOffsets = {1.5, 0.5, -0.5, -1.5};

@@ -7,7 +7,7 @@
 #include "fieldNumbers.h"
 #include "messageBeep.h"
 #include "resourceLibrary.h"
-#include "styleRecord.h"
+#include "styleAccessors.h"
 #include "systemVariables.h"
 
 #include <QCheckBox>
@@ -339,14 +339,14 @@ TEST_F(ModifyDialog, colorsAndLinetypesAreChosen) {
 
 TEST_F(ModifyDialog, eachBoxSetsAndShowsItsOwnFlag) {
     const std::pair<const char*, int> boxes[] = {
-        {"chkBoxOpen", kStyleFilled},
-        {"chkBoxDisplayJoints", kStyleShowMiters},
-        {"chkBoxLineStart", kStyleStartSquareCap},
-        {"chkBoxLineEnd", kStyleEndSquareCap},
-        {"chkBoxOuterArcStart", kStyleStartRoundCap},
-        {"chkBoxOuterArcEnd", kStyleEndRoundCap},
-        {"chkBoxInnerStart", kStyleStartInnerArcs},
-        {"chkBoxInnerEnd", kStyleEndInnerArcs},
+        {"chkBoxOpen", mledit::kStyleFilled},
+        {"chkBoxDisplayJoints", mledit::kStyleShowMiters},
+        {"chkBoxLineStart", mledit::kStyleStartSquareCap},
+        {"chkBoxLineEnd", mledit::kStyleEndSquareCap},
+        {"chkBoxOuterArcStart", mledit::kStyleStartRoundCap},
+        {"chkBoxOuterArcEnd", mledit::kStyleEndRoundCap},
+        {"chkBoxInnerStart", mledit::kStyleStartInnerArcs},
+        {"chkBoxInnerEnd", mledit::kStyleEndInnerArcs},
     };
     SetFlag(&open(L"Wall"), 0);
     const char* before = nullptr;

@@ -127,7 +127,7 @@ bool EngineWorld::isOpen(const KdDbObject* entity) {
 }
 
 std::vector<double> EngineWorld::breaks(const KdDbMline* mline, int vertex, int element) {
-    return lineList(mline, vertex, element);
+    return mledit::lineList(mline, vertex, element);
 }
 
 } // namespace orvex::testing

@@ -1,20 +1,23 @@
 #pragma once
 
 #include "CMlineEdit.h"
+#include "EditTool.h"
 #include "EngineWorld.h"
 #include "KdDbMlineStyle.h"
 #include "ObjectContent.h"
+#include "editCycle.h"
 #include "kddbObjects.h"
-#include "mlineRecord.h"
+#include "mlineAccessors.h"
 #include "parameterLists.h"
-#include "styleRecord.h"
+#include "styleAccessors.h"
+#include "vectorMath.h"
 
 #include <cmath>
 #include <sstream>
 
 namespace orvex::testing {
 
-inline constexpr double kDegree = 3.14159265358979323846 / 180.0;
+inline constexpr double kDegree = mledit::kPi / 180.0;
 
 // A drawing for whole tools, whose multilines read as texts. All of them have the drawing's style,
 // zero justification and scale 1.
@@ -40,10 +43,10 @@ protected:
     static void setBreaks(KdDbMline* mline, int vertex,
                           const std::vector<std::vector<double>>& breaks) {
         for (std::size_t k = 0; k < breaks.size(); ++k) {
-            std::vector<double> list = lineList(mline, vertex, static_cast<int>(k));
+            std::vector<double> list = mledit::lineList(mline, vertex, static_cast<int>(k));
             list.resize(1);
             list.insert(list.end(), breaks[k].begin(), breaks[k].end());
-            storeLineList(mline, vertex, static_cast<int>(k), list);
+            mledit::storeLineList(mline, vertex, static_cast<int>(k), list);
         }
     }
 
@@ -71,24 +74,12 @@ protected:
         return pick(mline, point(place).x, point(place).y);
     }
 
-    enum Tool {
-        closedCross = 1,
-        openCross,
-        mergedCross,
-        closedTee,
-        openTee,
-        mergedTee,
-        cornerJoint,
-        addVertex,
-        deleteVertex,
-        cutSingle,
-        cutAll,
-        weldAll
-    };
+    using enum mledit::Tool;
+    using Tool = mledit::Tool;
     int play(Tool tool, std::initializer_list<PromptAnswer> answers) {
         answer(answers);
         CMlineEdit run;
-        return run.runTool(editTool(tool), resources);
+        return mledit::runTool(run, mledit::editTool(tool), resources);
     }
 
     // Rounded so that what is 4 on paper reads as 4.
@@ -116,7 +107,7 @@ protected:
         std::string text;
         for (int k = 0; k < count; ++k) {
             text += k > 0 ? " |" : "";
-            const std::vector<double> list = lineList(mline, vertex, k);
+            const std::vector<double> list = mledit::lineList(mline, vertex, k);
             for (std::size_t i = from; i < list.size(); ++i) {
                 text += (text.empty() ? "" : " ") + number(list[i]);
             }
@@ -132,12 +123,13 @@ protected:
         std::string text;
         std::istringstream vertices(chain(mline));
         std::string vertex;
-        const int segments = mline->numVertices() - ((flags(mline) & kFlagClosed) != 0 ? 0 : 1);
+        const int segments =
+            mline->numVertices() - ((flags(mline) & mledit::kFlagClosed) != 0 ? 0 : 1);
         for (int v = 0; vertices >> vertex; ++v) {
             text += (v > 0 ? " " : "") + vertex;
             text += v < segments ? " (" + lists(mline, v) + ")" : "";
         }
-        const int caps = flags(mline) & (kFlagNoStartCaps | kFlagNoEndCaps);
+        const int caps = flags(mline) & (mledit::kFlagNoStartCaps | mledit::kFlagNoEndCaps);
         return caps == 0 ? text : text + " +" + std::to_string(caps);
     }
     // "1,0 / 0,1": axis and miter

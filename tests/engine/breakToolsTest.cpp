@@ -2,6 +2,8 @@
 
 #include "ToolWorld.h"
 
+using namespace mledit;
+
 namespace {
 
 class BreakTools : public orvex::testing::ToolWorld {
@@ -14,7 +16,8 @@ protected:
         while (in >> place) {
             user.answers.push_back(pickAt(mline, place));
         }
-        CMlineEdit().runTool(editTool(tool), resources);
+        CMlineEdit run;
+        runTool(run, editTool(tool), resources);
     }
 };
 

@@ -13,6 +13,8 @@
 #include <ostream>
 #include <random>
 
+using namespace mledit;
+
 namespace {
 
 struct Found {

@@ -1,8 +1,12 @@
-#include "CMlineEdit.h"
+#include "editCycle.h"
 
+#include "CMlineEdit.h"
+#include "EditTool.h"
 #include "EngineWorld.h"
 #include "ObjectContent.h"
 #include "parameterLists.h"
+
+using namespace mledit;
 
 namespace {
 
@@ -37,18 +41,18 @@ protected:
     KdDbMline* b = addMline({{0, 5, 0}, {10, 5, 0}}, {0});
     KdDbObject* line = addLine();
     TestRun run;
-    EditTool tool = withStep(1);
+    EditTool tool = withStep(Tool::closedCross);
 
     // The row of a tool with the test's step.
-    static EditTool withStep(int number) {
-        EditTool row = editTool(number);
+    static EditTool withStep(Tool tool) {
+        EditTool row = editTool(tool);
         row.initialise = &CMlineEdit::mlineEditInitialize;
-        row.step = static_cast<EditTool::Step>(&TestRun::step);
+        row.step = [](CMlineEdit& run) { return static_cast<TestRun&>(run).step(); };
         return row;
     }
     int play(std::initializer_list<orvex::PromptAnswer> answers) {
         answer(answers);
-        return run.runTool(tool, resources);
+        return runTool(run, tool, resources);
     }
     std::size_t marks(const KdDbMline* mline) const { return breaks(mline, 0, 0).size() - 2; }
 
@@ -65,7 +69,8 @@ TEST_F(EditCycle, endsWithTheStatusOfTheLastPrompt) {
     EXPECT_EQ(run.steps, 0);
     EXPECT_EQ(display.events, Events{});
     answer({onA});
-    EXPECT_EQ(TestRun().runTool(EditTool(), resources), 5100) << "without a step nothing runs";
+    TestRun fresh;
+    EXPECT_EQ(runTool(fresh, EditTool(), resources), 5100) << "without a step nothing runs";
     EXPECT_TRUE(user.prompts.empty());
 }
 
@@ -105,7 +110,7 @@ TEST_F(EditCycle, copiesTheSecondEntityForToolsThatChangeIt) {
     play({onA, onB, keyword(L"UNDO")});
     EXPECT_EQ(marks(a), 0U);
     EXPECT_EQ(marks(b), 1U) << "one copy, so the second stays changed";
-    tool = withStep(2);
+    tool = withStep(Tool::openCross);
     play({onA, onB, keyword(L"UNDO")});
     EXPECT_EQ(marks(b), 1U) << "as before this cycle";
     // One entity twice.
@@ -132,12 +137,12 @@ TEST_F(EditCycle, hidesWhatTheRowSaysBeforeWritingBack) {
 }
 
 TEST_F(EditCycle, aFailedCycleDropsTheCopiesOfEarlierOnes) {
-    tool = withStep(2);
+    tool = withStep(Tool::openCross);
     for (const StepOutcome failure : {StepOutcome::failedSilently, StepOutcome::noCrossing}) {
         TestRun fresh;
         fresh.outcomes = {StepOutcome::done, failure};
         answer({onA, onB, onA, onB, cancel()});
-        fresh.runTool(tool, resources);
+        runTool(fresh, tool, resources);
         EXPECT_EQ(user.prompts[2], L"#4003 [UNDO]");
         EXPECT_EQ(user.prompts[4], L"#4004");
         EXPECT_EQ(fresh.m_undoFirst, nullptr);
@@ -151,16 +156,17 @@ TEST_F(EditCycle, aFailedCycleDropsTheCopiesOfEarlierOnes) {
 TEST_F(EditCycle, refusesClosedMultilinesWhereTheToolDoes) {
     KdDbMline* const ring = addMline({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}}, {0}, true);
     const auto onRing = pick(ring, 5, 0);
-    tool = withStep(1);
+    tool = withStep(Tool::closedCross);
     play({onRing, onB, cancel()});
     EXPECT_EQ(run.steps, 1) << "crosses take them";
 
-    for (const int number : {4, 5, 6, 7}) {
+    for (const Tool refusing :
+         {Tool::closedTee, Tool::openTee, Tool::mergedTee, Tool::cornerJoint}) {
         TestRun fresh;
         answer({onRing, cancel()});
-        fresh.runTool(withStep(number), resources);
-        EXPECT_EQ(user.lines, Prompts{L"#4006"}) << number;
-        EXPECT_EQ(user.prompts, (Prompts{L"#4004", L"#4004"})) << number;
+        runTool(fresh, withStep(refusing), resources);
+        EXPECT_EQ(user.lines, Prompts{L"#4006"}) << static_cast<int>(refusing);
+        EXPECT_EQ(user.prompts, (Prompts{L"#4004", L"#4004"})) << static_cast<int>(refusing);
     }
     EXPECT_TRUE(isOpen(ring)) << "the refused one stays open for read";
 }
@@ -172,7 +178,7 @@ TEST_F(EditCycle, aRefusedSecondPickLeavesTheFirstRecordBehind) {
     const auto onRing = pick(ring, 5, 0);
     KdDbMline* const c = addMline({{0, 7, 0}, {10, 7, 0}, {20, 7, 0}}, {0});
     const auto original = a->content();
-    tool = withStep(7);
+    tool = withStep(Tool::cornerJoint);
     play({onA, onB, pick(c, 5, 7), onRing, keyword(L"UNDO"), cancel()});
     // The refused name is still there when the keyword comes, and is refused once more.
     EXPECT_EQ(user.lines, (Prompts{L"#4006", L"#4006"}));
@@ -182,7 +188,7 @@ TEST_F(EditCycle, aRefusedSecondPickLeavesTheFirstRecordBehind) {
 }
 
 TEST_F(EditCycle, singlePickToolsAskOnce) {
-    tool = withStep(8);
+    tool = withStep(Tool::addVertex);
     play({onA, keyword(L"UNDO"), onB, cancel()});
     EXPECT_EQ(user.prompts, (Prompts{L"#4009", L"#4008 [UNDO]", L"#4009", L"#4008 [UNDO]"}));
     EXPECT_EQ(display.events, (Events{"refresh", "hide A", "show A", "refresh"}));
@@ -190,7 +196,7 @@ TEST_F(EditCycle, singlePickToolsAskOnce) {
 }
 
 TEST_F(EditCycle, aRowThatTakesAnyEntityCountsALineAsDone) {
-    tool = withStep(12);
+    tool = withStep(Tool::weldAll);
     const auto onLine = pick(line, 1, 1);
     play({miss(), onLine, onA, onLine, keyword(L"UNDO"), cancel()});
     EXPECT_EQ(user.prompts,

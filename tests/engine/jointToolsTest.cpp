@@ -2,9 +2,11 @@
 // y = -1; the second runs up, element 0 to the left.
 
 #include "ToolWorld.h"
-#include "cornerPlan.h"
+#include "cornerJoint.h"
 
 #include <iterator>
+
+using namespace mledit;
 
 namespace {
 

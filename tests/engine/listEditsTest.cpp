@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace mledit;
+
 namespace {
 
 constexpr double e = 0.5; // the offset

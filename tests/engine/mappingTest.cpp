@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+using namespace mledit;
+
 namespace {
 
 // A right angle to the left: element 0, one unit to the left, runs inside it through (9, 1),

@@ -7,6 +7,8 @@
 
 #include <limits>
 
+using namespace mledit;
+
 namespace {
 
 const std::vector<KdGePoint3d> kStraight = {{0, 0, 0}, {10, 0, 0}, {20, 0, 0}};

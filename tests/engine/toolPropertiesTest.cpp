@@ -7,6 +7,8 @@
 #include <array>
 #include <random>
 
+using namespace mledit;
+
 namespace {
 
 using orvex::PromptAnswer;

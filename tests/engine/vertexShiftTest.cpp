@@ -1,6 +1,8 @@
 #include "DatabaseCore.h"
 #include "ToolWorld.h"
 
+using namespace mledit;
+
 namespace {
 
 class VertexShift : public orvex::testing::ToolWorld {

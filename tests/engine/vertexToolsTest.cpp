@@ -1,5 +1,7 @@
 #include "ToolWorld.h"
 
+using namespace mledit;
+
 namespace {
 
 class VertexTools : public orvex::testing::ToolWorld {

@@ -9,7 +9,7 @@
 #include "Session.h"
 #include "TestPaths.h"
 #include "kddbObjects.h"
-#include "styleRecord.h"
+#include "styleAccessors.h"
 #include "textCodec.h"
 
 #include <gmock/gmock.h>

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace mledit;
+
 namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace mledit;
+
 namespace {
 
 const double kOrigin[3] = {0.0, 0.0, 0.0};

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+using namespace mledit;
+
 namespace {
 
 using Snapshot = std::unique_ptr<db_mlvertlink[]>;

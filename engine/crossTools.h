@@ -1,8 +1,17 @@
 #pragma once
 
+#include "EditTool.h"
+
 #include <vector>
 
-// The three kinds of crossing, each told as which element is cut between which two crossings.
+// The cross tools: two multilines that cross are opened where they do. No vertex moves, only break
+// lists change. The first pick is cut through, the second stays on top.
+
+namespace mledit {
+
+StepOutcome stepClosedCross(CMlineEdit& run);
+StepOutcome stepOpenCross(CMlineEdit& run);
+StepOutcome stepMergedCross(CMlineEdit& run);
 
 enum class CrossKind {
     closed, // the first multiline goes under the second
@@ -29,3 +38,8 @@ struct CrossCut {
 
 // The cuts in their order, for multilines of so many elements.
 std::vector<CrossCut> crossCuts(CrossKind kind, int firstElements, int secondElements);
+
+// Cuts an element between two crossings on one segment; not at all where one of them doesn't exist.
+void cutBetween(CMlineEdit& run, const CrossCut& cut, int segment);
+
+} // namespace mledit

@@ -1,13 +1,22 @@
-// The twelve tools: a row each of what is particular about it, and the members that run it.
+// The twelve tools: a row of the table each, and the members that run it.
+
+#include "EditTool.h"
 
 #include "CMlineEdit.h"
+#include "cornerJoint.h"
+#include "crossTools.h"
+#include "cutTools.h"
+#include "editCycle.h"
+#include "teeTools.h"
 #include "textNumbers.h"
+#include "vertexTools.h"
+#include "weldTool.h"
 
 #include <array>
 
-namespace {
+using namespace mledit;
 
-namespace texts = mledit::texts;
+namespace {
 
 using FirstPick = EditTool::FirstPick;
 using SecondPick = EditTool::SecondPick;
@@ -22,38 +31,36 @@ constexpr EditTool::Prompts kBreakPrompts{.firstWithUndo = texts::kFirstPointOrU
                                           .first = texts::kFirstPoint,
                                           .second = texts::kSecondPoint};
 
-constexpr int kTools = 12;
-
-constexpr std::array<EditTool, kTools> kTable{{
-    // 1 closed cross, 2 open cross, 3 merged cross: crossTools.cpp
+constexpr std::array<EditTool, kToolCount> kTable{{
+    // Closed cross, open cross, merged cross: crossTools.cpp
     {.prompts = kCrossingPrompts,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepClosedCross},
+     .step = &stepClosedCross},
     {.prompts = kCrossingPrompts,
      .undoCopies = 2,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepOpenCross},
+     .step = &stepOpenCross},
     {.prompts = kCrossingPrompts,
      .undoCopies = 2,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepMergedCross},
-    // 4 closed tee, 5 open tee, 6 merged tee: teeTools.cpp
+     .step = &stepMergedCross},
+    // Closed tee, open tee, merged tee: teeTools.cpp
     {.prompts = kCrossingPrompts,
      .refusesClosedFirst = true,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepClosedTree},
+     .step = &stepClosedTee},
     {.prompts = kCrossingPrompts,
      .refusesClosedFirst = true,
      .undoCopies = 2,
      .hidesFirst = true,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepOpenTree},
+     .step = &stepOpenTee},
     {.prompts = kCrossingPrompts,
      .refusesClosedFirst = true,
      .undoCopies = 2,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepMergedTree},
-    // 7 corner joint: cornerJoint.cpp
+     .step = &stepMergedTee},
+    // Corner joint: cornerJoint.cpp
     {.prompts = kCrossingPrompts,
      .refusesClosedFirst = true,
      .refusesClosedSecond = true,
@@ -61,91 +68,91 @@ constexpr std::array<EditTool, kTools> kTable{{
      .hidesFirst = true,
      .hidesSecond = true,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepCornerJoint},
-    // 8 add vertex, 9 delete vertex: vertexTools.cpp
+     .step = &stepCornerJoint},
+    // Add vertex, delete vertex: vertexTools.cpp
     {.prompts = kVertexPrompts,
      .secondPick = SecondPick::none,
      .hidesFirst = true,
      .closesAtExit = Closes::first,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepAddVertex},
+     .step = &stepAddVertex},
     {.prompts = kVertexPrompts,
      .secondPick = SecondPick::none,
      .hidesFirst = true,
      .closesAtExit = Closes::first,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepDeleteVertex},
-    // 10 cut single, 11 cut all: cutTools.cpp
+     .step = &stepDeleteVertex},
+    // Cut single, cut all: cutTools.cpp
     {.prompts = kBreakPrompts,
      .secondPick = SecondPick::sameEntity,
      .hidesFirst = true,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepCutSingle},
+     .step = &stepCutSingle},
     {.prompts = kBreakPrompts,
      .secondPick = SecondPick::sameEntity,
      .hidesFirst = true,
      .initialise = &CMlineEdit::mlineEditInitialize,
-     .step = &CMlineEdit::stepCutAll},
-    // 12 weld all: weldTool.cpp
+     .step = &stepCutAll},
+    // Weld all: weldTool.cpp
     {.prompts = kBreakPrompts,
      .firstPick = FirstPick::anyEntity,
      .secondPick = SecondPick::sameEntity,
      .hidesFirst = true,
      .closesAtExit = Closes::neither,
      .initialise = &CMlineEdit::mlineEditInitializeForWeldAll,
-     .step = &CMlineEdit::stepWeldAll},
+     .step = &stepWeldAll},
 }};
 
 } // namespace
 
-const EditTool& editTool(int number) {
-    return kTable.at(static_cast<std::size_t>(number - 1));
+const EditTool& mledit::editTool(Tool tool) {
+    return kTable.at(static_cast<std::size_t>(tool) - 1);
 }
 
 int CMlineEdit::cmd_mledit_ClosedCross(HINSTANCE resources) {
-    return runTool(editTool(1), resources);
+    return runTool(*this, editTool(Tool::closedCross), resources);
 }
 
 int CMlineEdit::cmd_mledit_OpenCross(HINSTANCE resources) {
-    return runTool(editTool(2), resources);
+    return runTool(*this, editTool(Tool::openCross), resources);
 }
 
 int CMlineEdit::cmd_mledit_MergedCross(HINSTANCE resources) {
-    return runTool(editTool(3), resources);
+    return runTool(*this, editTool(Tool::mergedCross), resources);
 }
 
 int CMlineEdit::cmd_mledit_ClosedTree(HINSTANCE resources) {
-    return runTool(editTool(4), resources);
+    return runTool(*this, editTool(Tool::closedTee), resources);
 }
 
 int CMlineEdit::cmd_mledit_OpenTree(HINSTANCE resources) {
-    return runTool(editTool(5), resources);
+    return runTool(*this, editTool(Tool::openTee), resources);
 }
 
 int CMlineEdit::cmd_mledit_MergedTree(HINSTANCE resources) {
-    return runTool(editTool(6), resources);
+    return runTool(*this, editTool(Tool::mergedTee), resources);
 }
 
 int CMlineEdit::cmd_mledit_CornerJoint(HINSTANCE resources) {
-    return runTool(editTool(7), resources);
+    return runTool(*this, editTool(Tool::cornerJoint), resources);
 }
 
 int CMlineEdit::cmd_mledit_AddVertex(HINSTANCE resources) {
-    return runTool(editTool(8), resources);
+    return runTool(*this, editTool(Tool::addVertex), resources);
 }
 
 int CMlineEdit::cmd_mledit_DeleteVertex(HINSTANCE resources) {
-    return runTool(editTool(9), resources);
+    return runTool(*this, editTool(Tool::deleteVertex), resources);
 }
 
 int CMlineEdit::cmd_mledit_CutSingle(HINSTANCE resources) {
-    return runTool(editTool(10), resources);
+    return runTool(*this, editTool(Tool::cutSingle), resources);
 }
 
 int CMlineEdit::cmd_mledit_CutAll(HINSTANCE resources) {
-    return runTool(editTool(11), resources);
+    return runTool(*this, editTool(Tool::cutAll), resources);
 }
 
 int CMlineEdit::cmd_mledit_WeldAll(HINSTANCE resources) {
-    return runTool(editTool(12), resources);
+    return runTool(*this, editTool(Tool::weldAll), resources);
 }

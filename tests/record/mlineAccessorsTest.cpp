@@ -1,4 +1,4 @@
-#include "mlineRecord.h"
+#include "mlineAccessors.h"
 
 #include "KdDbDatabase.h"
 #include "KdDbMlineStyle.h"
@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <vector>
+
+using namespace mledit;
 
 namespace {
 

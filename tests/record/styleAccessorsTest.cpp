@@ -1,4 +1,4 @@
-#include "styleRecord.h"
+#include "styleAccessors.h"
 
 #include "KdDbDatabase.h"
 #include "KdDbLinetypeTable.h"

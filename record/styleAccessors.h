@@ -4,11 +4,15 @@ class KdDbDatabase;
 class KdDbMlineStyle;
 
 // A style's elements as parallel arrays, one attribute at a time; the others of each element stay.
+// Names and results are fixed by the interface.
+//
 // The style is open, for write in the Set forms. The result is 1 for done and 0 for a null style; a
 // null array changes nothing and counts as done. Offsets in drawing units at scale 1.
 //
 // Parts of a colour are set in the order SetElemColor, SetElemRgb, SetElemName: each starts from
 // what the one before has stored.
+
+namespace mledit {
 
 // Bits of the flag word.
 inline constexpr int kStyleFilled = 1;
@@ -20,13 +24,15 @@ inline constexpr int kStyleEndSquareCap = 256;
 inline constexpr int kStyleEndInnerArcs = 512;
 inline constexpr int kStyleEndRoundCap = 1024;
 
-// Elements go from the front of the list and come there, at 0.5; the caller sets all attributes
-// afterwards. A negative count is 0.
+} // namespace mledit
+
+// Elements are removed and added at the front of the list, added ones at 0.5; the caller sets all
+// attributes afterwards. A negative count is 0.
 int SetNumElements(KdDbMlineStyle* style, int count);
 
-// One name for each element of the style, whatever `count` says; null keeps the element's line
-// type. What the drawing lacks is loaded from the host's definitions, by the drawing's
-// MEASUREMENT; what they lack too becomes Continuous.
+// One name for each element of the style, whatever `count` is; null keeps the element's linetype.
+// What the drawing lacks is loaded from the host's definitions, by the drawing's MEASUREMENT; what
+// they lack too becomes Continuous.
 int SetElemLtype(KdDbMlineStyle* style, wchar_t** names, int count, KdDbDatabase* db);
 
 // Elements beyond the array get 0.0.
@@ -34,7 +40,7 @@ int SetElemOffset(KdDbMlineStyle* style, const double* offsets, int count);
 // Writes `count` offsets, 0.0 where the style has no such element.
 int GetElemOffset(const KdDbMlineStyle* style, double* offsets, int count);
 
-// Colour indices; what is outside 0 to 256 is by layer, and the caller's array is set right too.
+// Colour indices; what is outside 0 to 256 is by layer, and is corrected in the caller's array too.
 // Elements beyond the array are by layer.
 int SetElemColor(KdDbMlineStyle* style, int* colors, int count);
 
@@ -47,9 +53,11 @@ int SetElemName(KdDbMlineStyle* style, wchar_t** names, int count);
 
 int SetFlag(KdDbMlineStyle* style, int flags);
 
-// A book's name, one "$" and a colour's name; a name without any "$" will do.
+// A book's name, one "$" and a colour's name; a name without any "$" is valid too.
 bool IsColorBookNameValid(const wchar_t* name);
 
 // Exported from the module.
-[[gnu::visibility("default")]] extern const wchar_t* const str_colorbookNoName;
-[[gnu::visibility("default")]] extern const wchar_t* const str_quotequote; // empty
+#pragma GCC visibility push(default)
+extern const wchar_t* const str_colorbookNoName;
+extern const wchar_t* const str_quotequote; // empty
+#pragma GCC visibility pop

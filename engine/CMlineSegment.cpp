@@ -1,12 +1,11 @@
-#include "segments.h"
-
 #include "CMlineSegment.h"
-#include "mlineRecord.h"
+
+#include "mlineAccessors.h"
+
+namespace mledit {
 
 bool isClosed(const CMlineSegment& seg) {
-    int flags = 0;
-    GetFlag(seg.m_mline, &flags);
-    return (flags & kFlagClosed) != 0;
+    return isClosed(seg.m_mline);
 }
 
 int segmentEnd(const CMlineSegment& seg, int segment) {
@@ -27,3 +26,5 @@ bool isUsable(const CMlineSegment& seg) {
     return seg.m_mline != nullptr && hasElement(seg, seg.m_element) &&
            segmentEnd(seg, seg.m_segment) >= 0;
 }
+
+} // namespace mledit

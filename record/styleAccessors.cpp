@@ -1,4 +1,4 @@
-#include "styleRecord.h"
+#include "styleAccessors.h"
 
 #include "KdCmColor.h"
 #include "KdDbDatabase.h"
@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <cwchar>
 #include <vector>
+
+using namespace mledit;
 
 const wchar_t* const str_colorbookNoName = L"$$NoName$$";
 const wchar_t* const str_quotequote = L"";
