@@ -37,7 +37,7 @@ bool VoBitStream::canReadBits(std::uint64_t count) const {
     return false;
 }
 
-bool VoBitStream::canRead(std::uint64_t count) {
+bool VoBitStream::canRead(std::uint64_t count) const {
     // More bytes than any buffer has would overflow as bits.
     return canReadBits(std::min(count, ~std::uint64_t{0} / 8) * 8);
 }
@@ -162,11 +162,6 @@ void VoBitStream::readBit(std::uint8_t& bit) {
 
 void VoBitStream::writeBit(std::uint8_t value, std::uint8_t test) {
     if (m_buffer == nullptr) {
-        return;
-    }
-    // In the middle of a byte the byte is there, unless somebody cut the buffer meanwhile.
-    if (m_bitIndex != 0 && m_bytePos >= m_buffer->length()) {
-        orvex::reportBadAccess(orvex::kOutOfBuffer);
         return;
     }
     unsigned char* const byte = bytesWithin(m_bytePos + 1);

@@ -2,59 +2,57 @@
 
 #include "VoBufStream.h"
 
+#pragma GCC visibility push(default)
+
 // Values packed bit by bit as the drawing format has them: a value starts at any bit, the most
 // significant bit of a byte first, and frequent values take few bits. Positions and lengths are
 // bits, but for seekByte. Reading past the length and bad seeks are told to the crash recorder.
 //
 // Behind the last byte written the buffer always has one more, so that writing can go on at any
 // bit.
-class [[gnu::visibility("default")]] VoBitStream : public VoBufStream {
+class VoBitStream : public VoBufStream {
 public:
     // Of length 0, for writing.
-    explicit VoBitStream(VoStreamBuf * buffer) : VoBufStream(buffer) {}
+    explicit VoBitStream(VoStreamBuf* buffer) : VoBufStream(buffer) {}
     // For reading what the buffer holds: so many bits, at most all of its bytes.
-    VoBitStream(VoStreamBuf * buffer, std::uint64_t bitLength);
+    VoBitStream(VoStreamBuf* buffer, std::uint64_t bitLength);
 
-    [[nodiscard]] std::uint64_t tell() const override {
-        return m_bytePos * 8 + m_bitIndex;
-    }
+    [[nodiscard]] std::uint64_t tell() const override { return m_bytePos * 8 + m_bitIndex; }
     std::uint64_t seek(std::uint64_t offset, VoIO::SeekType type) override;
-    [[nodiscard]] std::uint64_t length() const override {
-        return m_bitLength;
-    }
-    [[nodiscard]] bool isEOS() const override {
-        return tell() >= m_bitLength;
-    }
+    [[nodiscard]] std::uint64_t length() const override { return m_bitLength; }
+    [[nodiscard]] bool isEOS() const override { return tell() >= m_bitLength; }
 
     // Goes to a byte of the buffer and keeps the bit within the byte. A bad place is reported as
     // Status::badByteSeek.
     virtual void seekByte(std::uint64_t offset, VoIO::SeekType type);
 
     void readBytes(void* target, unsigned count) override;
-    void readInt8(std::int8_t & value) override;
-    void readInt16(std::int16_t & value) override;
-    void readInt32(std::int32_t & value) override;
-    void readInt64(std::int64_t & value) override;
-    void readUInt8(std::uint8_t & value) override;
+    void readInt8(std::int8_t& value) override;
+    void readInt16(std::int16_t& value) override;
+    void readInt32(std::int32_t& value) override;
+    void readInt64(std::int64_t& value) override;
+    void readUInt8(std::uint8_t& value) override;
     // The coded forms: the value is 0 when the stream doesn't hold it or the code means nothing.
-    void readUInt16(std::uint16_t & value) override;
-    void readUInt32(std::uint32_t & value) override;
+    void readUInt16(std::uint16_t& value) override;
+    void readUInt32(std::uint32_t& value) override;
     // Terms are summed as signed 32-bit numbers, unlike they are written: only values below 2 to
     // the 31 come back as they went in.
-    void readUInt64(std::uint64_t & value) override;
-    void readWChar(wchar_t & value) override;
+    void readUInt64(std::uint64_t& value) override;
+    void readWChar(wchar_t& value) override;
     void readBool(bool& value) override;
     void readFloat(float& value) override;
     void readDouble(double& value) override;
     // Coordinates of points and vectors, not of scales, are brought within 1e100 of 0.
-    void readPoint2d(KdGePoint2d & value) override;
-    void readPoint3d(KdGePoint3d & value) override;
-    void readVector2d(KdGeVector2d & value) override;
-    void readVector3d(KdGeVector3d & value) override;
-    void readMatrix2d(KdGeMatrix2d & value) override;
-    void readMatrix3d(KdGeMatrix3d & value) override;
-    void readScale2d(KdGeScale2d & value) override;
-    void readScale3d(KdGeScale3d & value) override;
+    void readPoint2d(KdGePoint2d& value) override;
+    void readPoint3d(KdGePoint3d& value) override;
+    void readVector2d(KdGeVector2d& value) override;
+    void readVector3d(KdGeVector3d& value) override;
+    void readRawStr(char*& text) override;
+    void readRawStr(wchar_t*& text) override;
+    void readMatrix2d(KdGeMatrix2d& value) override;
+    void readMatrix3d(KdGeMatrix3d& value) override;
+    void readScale2d(KdGeScale2d& value) override;
+    void readScale3d(KdGeScale3d& value) override;
 
     void writeBytes(const void* source, unsigned count) override;
     void writeInt8(std::int8_t value) override;
@@ -80,32 +78,33 @@ public:
     void writeScale3d(const KdGeScale3d& value) override;
 
     // 0 or 1. Goes on past the length; where the buffer ends too, it reports and the bit is 0.
-    virtual void readBit(std::uint8_t & bit);
+    virtual void readBit(std::uint8_t& bit);
     // The bit is 1 when value and test have a bit in common.
     virtual void writeBit(std::uint8_t value, std::uint8_t test);
     // 1 to 7 bits, right-aligned; other counts do nothing.
-    virtual void readBits(std::uint8_t & value, unsigned count);
+    virtual void readBits(std::uint8_t& value, unsigned count);
     virtual void writeBits(std::uint8_t value, unsigned count);
     // Copies to - from bits, from here on, to the place `from` of another stream, which then goes
     // back to where it was; it stays at that place when this stream doesn't hold so many.
-    virtual void readBits(VoBitStream * target, std::uint64_t from, std::uint64_t to);
+    virtual void readBits(VoBitStream* target, std::uint64_t from, std::uint64_t to);
     // Numbers that are zero to the format (NaN, infinities, denormal ones) pass as 0 both ways.
     virtual void readRawDouble(double& value);
     virtual void writeRawDouble(double value);
-    virtual void readRawUInt64(std::uint64_t & value);
+    virtual void readRawUInt64(std::uint64_t& value);
     virtual void writeRawUInt64(std::uint64_t value);
 
     // Whole numbers without a code, lowest byte first. Of one that the stream holds in part only,
     // the missing bytes are 0.
-    void readRawUInt8(std::uint8_t & value);
-    void readRawUInt16(std::uint16_t & value);
-    void readRawUInt32(std::uint32_t & value);
+    void readRawUInt8(std::uint8_t& value);
+    void readRawUInt16(std::uint16_t& value);
+    void readRawUInt32(std::uint32_t& value);
     void writeRawUInt8(std::uint8_t value);
     void writeRawUInt16(std::uint16_t value);
     void writeRawUInt32(std::uint32_t value);
 
 protected:
-    bool canRead(std::uint64_t count) override; // bytes
+    // Whether the stream has that many bytes left; reports when it hasn't.
+    [[nodiscard]] bool canRead(std::uint64_t count) const;
 
 private:
     [[nodiscard]] bool hasBits(std::uint64_t count) const;
@@ -119,12 +118,14 @@ private:
     unsigned char* bytesWithin(std::uint64_t bufferLength);
     bool growTo(std::uint64_t bufferLength);
     template <class T>
-    void readRaw(T & value);
+    void readRaw(T& value);
     // The two bits in front of a coded value; false when there are none.
-    bool readCode(std::uint8_t & code);
+    bool readCode(std::uint8_t& code);
 
     std::uint64_t m_bitLength = 0; // the highest position ever written
     std::uint8_t m_mask = 128;     // the current bit within its byte
     std::uint8_t m_bitIndex = 0;   // its number, 0 for the most significant bit
     std::uint64_t m_bytePos = 0;
 };
+
+#pragma GCC visibility pop

@@ -2,6 +2,7 @@
 
 #include "VoMath.h"
 #include "crashRecorder.h"
+#include "rawText.h"
 #include "streamReports.h"
 
 #include <bit>
@@ -406,4 +407,14 @@ void VoBitStream::writeMatrix3d(const KdGeMatrix3d& value) {
     writeVector3d(xAxis);
     writeVector3d(yAxis);
     writeVector3d(zAxis);
+}
+
+// Texts, as in any stream; only what is left of the stream is counted in bits.
+
+void VoBitStream::readRawStr(char*& text) {
+    orvex::readRawText(*this, text, [this](std::uint64_t count) { return canRead(count); });
+}
+
+void VoBitStream::readRawStr(wchar_t*& text) {
+    orvex::readRawText(*this, text, [this](std::uint64_t count) { return canRead(count); });
 }

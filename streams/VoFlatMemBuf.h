@@ -4,31 +4,23 @@
 #include "VoVector.h"
 #include "VoVectorFlatMemBufGrowPolicy.h"
 
+#pragma GCC visibility push(default)
+
 // Bytes in one piece. Starts empty at position 0. A buffer holds at most kLargestLength bytes;
 // what would go beyond, or beyond the memory there is, is refused with a report. Room behind the
 // end reads as zero.
-class [[gnu::visibility("default")]] VoFlatMemBuf : public VoMemStreamBuf {
+class VoFlatMemBuf : public VoMemStreamBuf {
 public:
     static constexpr std::uint64_t kLargestLength = 0x7FFFFFFF;
 
-    [[nodiscard]] std::uint64_t tell() const override {
-        return m_position;
-    }
-    [[nodiscard]] std::uint64_t length() const override {
-        return m_data.length();
-    }
+    [[nodiscard]] std::uint64_t tell() const override { return m_position; }
+    [[nodiscard]] std::uint64_t length() const override { return m_data.length(); }
     // The position stays where it is, behind the end if need be.
     void setlength(std::uint64_t length) override;
     void truncate() override;
-    void rewind() override {
-        m_position = 0;
-    }
-    unsigned char* buffer() override {
-        return m_data.data();
-    }
-    [[nodiscard]] const unsigned char* buffer() const override {
-        return m_data.data();
-    }
+    void rewind() override { m_position = 0; }
+    unsigned char* buffer() override { return m_data.data(); }
+    [[nodiscard]] const unsigned char* buffer() const override { return m_data.data(); }
 
     // Gives 0 at the end.
     unsigned char readByte() override;
@@ -55,12 +47,8 @@ public:
     void setBytes(const void* source, unsigned count) override;
     void setBytes(std::uint64_t position, const void* source, unsigned count) override;
 
-    [[nodiscard]] std::uint64_t bufSize() const override {
-        return m_data.physicalLength();
-    }
-    void resize(unsigned count) override {
-        setlength(count);
-    }
+    [[nodiscard]] std::uint64_t bufSize() const override { return m_data.physicalLength(); }
+    void resize(unsigned count) override { setlength(count); }
     void reserve(unsigned count) override;
     // The end itself is a place to be at.
     void moveTo(std::uint64_t position) override;
@@ -78,3 +66,5 @@ private:
     VoVector<unsigned char, VoVectorFlatMemBufGrowPolicy> m_data;
     unsigned m_position = 0;
 };
+
+#pragma GCC visibility pop

@@ -3,5 +3,9 @@
 #include "VoIStream.h"
 #include "VoOStream.h"
 
+#pragma GCC visibility push(default)
+
 // A stream that is both read and written.
-class [[gnu::visibility("default")]] VoIOStream : public VoIStream, public VoOStream{};
+class VoIOStream : public VoIStream, public VoOStream {};
+
+#pragma GCC visibility pop

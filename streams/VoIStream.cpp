@@ -1,9 +1,8 @@
 #include "VoIStream.h"
 
 #include "crashRecorder.h"
+#include "rawText.h"
 #include "streamReports.h"
-
-#include <cstdlib>
 
 namespace {
 
@@ -12,23 +11,18 @@ void readImage(VoIStream& stream, T& value) {
     stream.readBytes(&value, sizeof value);
 }
 
-// Room for the characters and a terminator, all zero; null when there is no memory.
-template <class Char>
-Char* newText(std::int32_t count) {
-    return static_cast<Char*>(std::calloc(static_cast<std::size_t>(count) + 1, sizeof(Char)));
-}
-
-} // namespace
-
-bool VoIStream::canRead(std::uint64_t count) {
-    const std::uint64_t place = tell();
-    const std::uint64_t size = length();
-    if (place <= size && count <= size - place) {
+// Whether the stream has that many bytes left; reports when it hasn't.
+bool canRead(const VoIStream& stream, std::uint64_t count) {
+    const std::uint64_t position = stream.tell();
+    const std::uint64_t length = stream.length();
+    if (position <= length && count <= length - position) {
         return true;
     }
     orvex::reportBadAccess(orvex::kOutOfBuffer);
     return false;
 }
+
+} // namespace
 
 void VoIStream::readInt8(std::int8_t& value) {
     readImage(*this, value);
@@ -122,28 +116,9 @@ void VoIStream::readScale3d(KdGeScale3d& value) {
 }
 
 void VoIStream::readRawStr(char*& text) {
-    std::int32_t count = 0;
-    readInt32(count);
-    text = nullptr;
-    // The count comes from the stream, so it is believed only as far as the stream goes.
-    if (count <= 0 || !canRead(static_cast<std::uint64_t>(count))) {
-        return;
-    }
-    text = newText<char>(count);
-    if (text != nullptr) {
-        readBytes(text, static_cast<unsigned>(count));
-    }
+    orvex::readRawText(*this, text, [this](std::uint64_t count) { return canRead(*this, count); });
 }
 
 void VoIStream::readRawStr(wchar_t*& text) {
-    std::int32_t count = 0;
-    readInt32(count);
-    text = nullptr;
-    if (count <= 0 || !canRead(static_cast<std::uint64_t>(count) * 2)) {
-        return;
-    }
-    text = newText<wchar_t>(count);
-    if (text != nullptr) {
-        readBytes(text, static_cast<unsigned>(count) * 2);
-    }
+    orvex::readRawText(*this, text, [this](std::uint64_t count) { return canRead(*this, count); });
 }

@@ -2,8 +2,10 @@
 
 #include "VoStreamBuf.h"
 
+#pragma GCC visibility push(default)
+
 // A buffer in memory. By itself it has no room and no place to go to.
-class [[gnu::visibility("default")]] VoMemStreamBuf : public VoStreamBuf {
+class VoMemStreamBuf : public VoStreamBuf {
 public:
     // Built on moveTo; a type that isn't known moves nothing.
     std::uint64_t seek(std::uint64_t offset, VoIO::SeekType type) override;
@@ -13,3 +15,5 @@ public:
     virtual void reserve(unsigned count);
     virtual void moveTo(std::uint64_t position);
 };
+
+#pragma GCC visibility pop

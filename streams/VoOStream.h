@@ -9,8 +9,10 @@
 #include "KdGeVector3d.h"
 #include "VoStream.h"
 
+#pragma GCC visibility push(default)
+
 // Values written to a stream, each as its memory image.
-class [[gnu::visibility("default")]] VoOStream : public virtual VoStream {
+class VoOStream : public virtual VoStream {
 public:
     virtual void writeBytes(const void* source, unsigned count) = 0;
 
@@ -42,3 +44,5 @@ public:
     virtual void writeRawStr(const char* text);
     virtual void writeRawStr(const wchar_t* text);
 };
+
+#pragma GCC visibility pop

@@ -168,8 +168,10 @@ void VoStreamBuf::copyTo(VoStreamBuf* target, std::uint64_t from, std::uint64_t 
         return;
     }
     const std::uint64_t kept = tell();
+    // Without bounds the target's length less its position, both unsigned: a target that stands
+    // after its own end takes all there is.
     const std::uint64_t wanted =
-        from == 0 && to == 0 ? bytesLeft(*target) : seekRange(*target, from, to);
+        from == 0 && to == 0 ? target->length() - target->tell() : seekRange(*target, from, to);
     const std::uint64_t length = this->length();
     const std::uint64_t amount = std::min(wanted, kept < length ? length - kept : 0);
     if (amount == 0) {

@@ -4,11 +4,13 @@
 
 #include <cstdint>
 
+#pragma GCC visibility push(default)
+
 // A buffer of bytes with a position. Operations called read and write move the position; those
 // called get and set, and all that are given a position, are meant to leave it, with the
 // exceptions noted. A bad access is told to the crash recorder and changes nothing; what was to be
 // read stays as it was.
-class [[gnu::visibility("default")]] VoStreamBuf {
+class VoStreamBuf {
 public:
     virtual ~VoStreamBuf() = default;
 
@@ -48,10 +50,10 @@ public:
     // From another buffer to this one's position. With both bounds 0 all that the source has left;
     // else as many bytes as the bounds are apart, from the smaller one on, in either order. The
     // source gets its position back unless nothing was to be copied.
-    virtual void copyFrom(VoStreamBuf * source, std::uint64_t from, std::uint64_t to);
+    virtual void copyFrom(VoStreamBuf* source, std::uint64_t from, std::uint64_t to);
     // From this buffer's position to another one. The bounds name a place in the target, and its
     // length limits a copy without bounds. This buffer gets its position back.
-    virtual void copyTo(VoStreamBuf * target, std::uint64_t from, std::uint64_t to);
+    virtual void copyTo(VoStreamBuf* target, std::uint64_t from, std::uint64_t to);
 
 protected:
     VoStreamBuf() = default;
@@ -61,3 +63,5 @@ protected:
     // Whether the bytes lie before the end of something `size` long; reports when they don't.
     static bool holds(std::uint64_t size, std::uint64_t position, std::uint64_t count);
 };
+
+#pragma GCC visibility pop

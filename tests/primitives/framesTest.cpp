@@ -19,7 +19,7 @@ TEST(Frames, displayCoordinatesAreTheViewsAndFlat) {
         EXPECT_EQ(tkl_wcs2dcs(point, out), hasView ? 0 : -1) << links;
         EXPECT_EQ(out[0], hasView ? 101.0 : 9.0) << links;
         EXPECT_EQ(out[2], hasView ? 0.0 : 9.0) << links;
-        EXPECT_EQ(activeView() != nullptr, hasView) << links;
+        EXPECT_EQ(mledit::activeView() != nullptr, hasView) << links;
     }
 }
 

@@ -124,7 +124,12 @@ TEST_F(VoStreamBufTest, copyingEndsWhateverThePlacesAre) {
     EXPECT_THAT(reports(), ElementsAre(kBufferReport));
     EXPECT_EQ(target.length(), 0U);
 
+    setState(target, "12345678|");
+    target.setlength(3); // a target after its own end takes all there is
     setState(source, "ab|cdef");
+    source.copyTo(&target, 0, 0);
+    EXPECT_EQ(stateOf(target), "123.....cdef|");
+    EXPECT_EQ(stateOf(source), "ab|cdef");
     source.copyFrom(&source, 0, 0);
     EXPECT_EQ(source.tell(), 2U);
 }

@@ -81,6 +81,36 @@ TEST_F(TypedStreamTest, valuesAreTheirMemoryImages) {
     EXPECT_TRUE(value) << "any image but zero is true";
 }
 
+// The place of a virtual function in the table of its class: modules call by it.
+template <class Class, class Result, class... Arguments>
+auto slotOf(Result (Class::*function)(Arguments...)) {
+    static_assert(sizeof function == 2 * sizeof(std::ptrdiff_t));
+    std::ptrdiff_t words[2];
+    std::memcpy(words, &function, sizeof words);
+    return (words[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
+}
+
+TEST_F(TypedStreamTest, virtualFunctionsKeepTheirSlots) {
+    using In = VoIStream;
+    using Out = VoOStream;
+    const auto in = [first = slotOf(&In::readBytes)](auto read) { return slotOf(read) - first; };
+    const auto out = [first = slotOf(&Out::writeBytes)](auto write) {
+        return slotOf(write) - first;
+    };
+    EXPECT_THAT((std::vector{in(&In::readInt8), in(&In::readUInt64), in(&In::readChar),
+                             in(&In::readAddress), in(&In::readScale3d),
+                             in(static_cast<void (In::*)(char*&)>(&In::readRawStr)),
+                             in(static_cast<void (In::*)(wchar_t*&)>(&In::readRawStr))}),
+                ElementsAre(1, 8, 9, 14, 22, 23, 24));
+    EXPECT_THAT((std::vector{out(&Out::writeInt8), out(&Out::writeUInt64), out(&Out::writeChar),
+                             out(&Out::writeAddress), out(&Out::writeScale3d),
+                             out(static_cast<void (Out::*)(const char*)>(&Out::writeRawStr)),
+                             out(static_cast<void (Out::*)(const wchar_t*)>(&Out::writeRawStr))}),
+                ElementsAre(1, 8, 9, 14, 22, 23, 24));
+    // What a derived class adds follows at once; a slot of its own for writeBytes comes first.
+    EXPECT_EQ(in(static_cast<VoStreamBuf* (VoBufStream::*)()>(&VoBufStream::streamBuf)), 26);
+}
+
 TEST_F(TypedStreamTest, textsCarryTheirCount) {
     VoFlatMemBuf buffer;
     VoBufStream stream(&buffer);

@@ -1,32 +1,12 @@
-// One list at a time: what holds for every cut, and what shifts make of lists without runs.
-
 #include "breakList.h"
-#include "shiftList.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace mledit;
 
 namespace {
-
-constexpr double e = 0.5; // the offset
-
-struct Row {
-    BreakList before;
-    double at; // or by
-    BreakList after;
-};
-
-template <class Edit>
-void expectAll(std::initializer_list<Row> rows, Edit edit) {
-    for (const Row& row : rows) {
-        EXPECT_EQ(edit(row.before, row.at), row.after)
-            << testing::PrintToString(row.before) << " at " << row.at;
-    }
-}
 
 // Drawn length of a list between two places, as painting would see it.
 double drawnLength(const BreakList& list, double from, double to) {
@@ -50,7 +30,7 @@ TEST(BreakLists, anyGapRemovesExactlyWhatLiesInIt) {
                 list.push_back(i);
             }
         }
-        // Halves lie inside stretches and gaps, whole numbers on breaks.
+        // Halves lie inside drawn intervals and gaps, whole numbers on breaks.
         for (int half = 0; half < 2 * kLength; ++half) {
             const double a = 0.5 * half;
             for (int length = 1; a + length <= kLength; ++length) {
@@ -67,25 +47,6 @@ TEST(BreakLists, anyGapRemovesExactlyWhatLiesInIt) {
         }
     }
     EXPECT_EQ(gaps, 256 * (36 + 28));
-}
-
-TEST(ShiftList, aVertexMovesAlongTheSegment) {
-    expectAll({{{e, 0, 5, 7}, 3, {e, 0, 2, 4}},
-               {{e, 0, 5, 7}, 6, {e, 1}}, // in the gap
-               {{e, 0, 5, 7}, 8, {e, 0}}, // behind all breaks, on the last stretch
-               {{e, 0, 5, 7}, 5, {e, 2}}, // a break at the start goes with those before
-               {{e}, 3, {e}}},
-              shortenFromStart);
-    // What is gained stays undrawn, also of an unbroken element.
-    expectAll({{{e, 0, 5, 7}, 2, {e, 2, 7, 9}}, {{e, 0}, 2, {e, 2}}, {{}, 2, {}}}, lengthenAtStart);
-    expectAll({{{e, 0, 5, 7}, 9, {e, 0, 5, 7}},
-               {{e, 0, 5, 7}, 5, {e, 0}}, // a break at the end goes
-               {{e}, 0.1, {e}},           // the offset isn't compared
-               {{}, 1, {}}},
-              endAt);
-    // Along the axis the offset stays finite; sin 30 degrees is a half.
-    EXPECT_NEAR(alongMiter(0.5, std::acos(-1.0) / 6.0), 1.0, 1e-15);
-    EXPECT_EQ(alongMiter(0.5, 0.0), 0.5 / std::sin(0.005));
 }
 
 } // namespace
