@@ -122,17 +122,17 @@ TEST_F(EditCycle, copiesTheSecondEntityForToolsThatChangeIt) {
 
 TEST_F(EditCycle, hidesWhatTheRowSaysBeforeWritingBack) {
     struct {
-        int number;
+        Tool number;
         Events events;
     } const cases[] = {
-        {5, {"refresh", "hide A", "show A", "show B"}},
-        {6, {"refresh", "show A", "show B"}},
-        {7, {"refresh", "hide A", "show A", "hide B", "show B"}},
+        {Tool::openTee, {"refresh", "hide A", "show A", "show B"}},
+        {Tool::mergedTee, {"refresh", "show A", "show B"}},
+        {Tool::cornerJoint, {"refresh", "hide A", "show A", "hide B", "show B"}},
     };
     for (const auto& c : cases) {
         tool = withStep(c.number);
         play({onA, onB, keyword(L"UNDO")});
-        EXPECT_EQ(display.events, c.events) << c.number;
+        EXPECT_EQ(display.events, c.events) << static_cast<int>(c.number);
     }
 }
 
