@@ -21,6 +21,9 @@ struct PickedSide {
     const JoinWall& wall;
     const JoinSide& side;
     const ElementShape& shape; // of element 0
+    // Where element 0 meets the other wall's element 0, by which the tools tell the side that
+    // stays.
+    double meeting = 0.0;
 };
 
 // The nearest that another element comes to element 0 on a segment.
@@ -37,14 +40,14 @@ double elementGap(const JoinWall& wall, unsigned segment) {
     return gap;
 }
 
-// Where the part of an element lies that stays, along its track.
+// Where the part of element 0 lies that stays, along its track.
 DrawnSpan keptPart(const PickedSide& s) {
     const double length = s.wall.track(s.side.segment, 0).length;
     if (s.side.end == WallEnd::end) {
-        return {0.0, std::min(length, s.shape.from)};
+        return {0.0, std::min({length, s.shape.from, s.meeting})};
     }
     if (s.side.end == WallEnd::start) {
-        return {std::max(0.0, s.shape.to), length};
+        return {std::max({0.0, s.shape.to, s.meeting}), length};
     }
     if (s.shape.rule == ElementShape::Rule::any) {
         return {0.0, length};
@@ -55,29 +58,41 @@ DrawnSpan keptPart(const PickedSide& s) {
     return before.to - before.from >= after.to - after.from ? before : after;
 }
 
-// A distance on element 0, drawn for `radius` around it; in the middle of what stays, if that is
-// drawn, so that both the crossing and the segment's end are far from it.
-std::optional<double> pickDistance(const PickedSide& s, double radius) {
+// Whether a pick this far along an element finds it. The tools take the offset of an element for
+// the first of its stops, so that nothing nearer to the segment's start than that is found.
+bool isFoundAt(const PickedSide& s, unsigned element, double at, double radius) {
+    const double offset =
+        (s.wall.position(s.side.segment, element) - s.wall.vertex(s.side.segment)).length();
+    return at - radius > offset && at + radius < s.wall.track(s.side.segment, element).length &&
+           isDrawn(s.wall, s.side.segment, element, at - radius, at + radius, 0.0);
+}
+
+// A place on an element, drawn for `radius` around it; across the middle of what stays of element
+// 0, if that is drawn, so that both the crossing and the segment's end are far from it.
+std::optional<PlanVector> pickPlace(const PickedSide& s, unsigned element, double radius) {
     const DrawnSpan kept = keptPart(s);
+    const PlanLine first = s.wall.track(s.side.segment, 0);
+    const PlanLine line = s.wall.track(s.side.segment, element);
+    const auto placeAcross = [&](double at) -> std::optional<PlanVector> {
+        if (at - radius <= kept.from || at + radius >= kept.to) {
+            return std::nullopt;
+        }
+        const double distance = line.along(first.at(at));
+        return isFoundAt(s, element, distance, radius) ? std::optional(line.at(distance))
+                                                       : std::nullopt;
+    };
     constexpr std::array fractions{0.5, 0.375, 0.625, 0.25, 0.75, 0.125, 0.875, 0.05, 0.95};
     for (const double fraction : fractions) {
-        const double at = kept.from + (kept.to - kept.from) * fraction;
-        if (at - radius > kept.from && at + radius < kept.to &&
-            isDrawn(s.wall, s.side.segment, 0, at - radius, at + radius, 0.0)) {
-            return at;
+        if (const auto place = placeAcross(kept.from + (kept.to - kept.from) * fraction)) {
+            return place;
         }
     }
     // Lists with many gaps: the middle of the longest stretch.
     DrawnSpan longest;
-    for (const DrawnSpan& span : s.wall.drawn(s.side.segment, 0)) {
-        const DrawnSpan part{std::max(span.from, kept.from), std::min(span.to, kept.to)};
-        if (part.to - part.from > longest.to - longest.from) {
-            longest = part;
-        }
+    for (const DrawnSpan& span : s.wall.drawn(s.side.segment, element)) {
+        longest = span.to - span.from > longest.to - longest.from ? span : longest;
     }
-    return longest.to - longest.from > 4.0 * radius
-               ? std::optional((longest.from + longest.to) * 0.5)
-               : std::nullopt;
+    return placeAcross(first.along(line.at((longest.from + longest.to) * 0.5)));
 }
 
 KdGePoint3d inWorld(PlanVector point, const JoinPlace& place) {
@@ -85,12 +100,12 @@ KdGePoint3d inWorld(PlanVector point, const JoinPlace& place) {
 }
 
 std::optional<JoinPick> pickOf(const PickedSide& s, double radius) {
-    const auto at = pickDistance(s, radius);
-    if (!at) {
-        return std::nullopt;
+    for (unsigned e = 0; e < s.wall.elementCount(); ++e) {
+        if (const auto point = pickPlace(s, e, radius)) {
+            return JoinPick{s.side.wall, inWorld(*point, s.place), s.side.segment, e};
+        }
     }
-    const PlanVector point = s.wall.track(s.side.segment, 0).at(*at);
-    return JoinPick{s.side.wall, inWorld(point, s.place), s.side.segment, 0};
+    return std::nullopt;
 }
 
 std::string_view toolOf(const JoinPlace& place) {
@@ -149,8 +164,12 @@ std::optional<JoinSteps> joinSteps(const JoinPlace& place, const JoinWall& first
     const double gap =
         std::min(elementGap(first, place.first.segment), elementGap(second, place.second.segment));
     const double radius = 0.05 * gap;
-    const auto firstPick = pickOf({place, first, place.first, shape.first[0]}, radius);
-    const auto secondPick = pickOf({place, second, place.second, shape.second[0]}, radius);
+    const PlanLine line = first.track(place.first.segment, 0);
+    const PlanLine other = second.track(place.second.segment, 0);
+    const auto firstPick =
+        pickOf({place, first, place.first, shape.first[0], line.crossing(other)}, radius);
+    const auto secondPick =
+        pickOf({place, second, place.second, shape.second[0], other.crossing(line)}, radius);
     if (!firstPick || !secondPick) {
         return std::nullopt;
     }
