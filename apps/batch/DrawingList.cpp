@@ -8,6 +8,8 @@
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
+#include "geometry.h"
+#include "handleText.h"
 #include "kddbObjects.h"
 #include "textCodec.h"
 
@@ -18,17 +20,6 @@ namespace orvex {
 
 namespace {
 
-// As the file has it: hexadecimal, capitals.
-std::string handleText(std::uint64_t handle) {
-    std::array<char, 16> digits{};
-    char* const end = std::to_chars(digits.begin(), digits.end(), handle, 16).ptr;
-    std::string text(digits.begin(), end);
-    for (char& digit : text) {
-        digit = static_cast<char>(digit >= 'a' ? digit - 'a' + 'A' : digit);
-    }
-    return text;
-}
-
 std::string styleName(const MlineContent& content) {
     KdDbMlineStyle* style = nullptr;
     kddbOpenObject(style, content.style, kForRead);
@@ -38,11 +29,6 @@ std::string styleName(const MlineContent& content) {
     std::string name = narrow(style->name());
     style->close();
     return name;
-}
-
-int flagWord(const MlineContent& content) {
-    return (content.vertices.empty() ? 0 : 1) | (content.closed ? 2 : 0) |
-           (content.startCapsSuppressed ? 4 : 0) | (content.endCapsSuppressed ? 8 : 0);
 }
 
 std::string linetypeName(const StyleElement& element) {
@@ -57,9 +43,9 @@ std::string linetypeName(const StyleElement& element) {
 }
 
 // The shortest number of degrees that stands for these radians: what a file says, not what is left
-// of it after two conversions.
+// of it after two conversions. A saved style rounds to certain numbers of decimals instead; beyond
+// ten decimals the two differ, and each stays as scripts and files know it.
 double degrees(double radians) {
-    constexpr double kDegree = 3.141592653589793 / 180.0;
     constexpr int kAllDigits = 17;
     const double raw = radians / kDegree;
     std::array<char, 32> text{};
@@ -68,7 +54,7 @@ double degrees(double radians) {
             std::to_chars(text.begin(), text.end(), raw, std::chars_format::general, digits).ptr;
         double shorter = raw;
         std::from_chars(text.begin(), end, shorter);
-        if (shorter * kDegree == radians) {
+        if (fileRadians(shorter) == radians) {
             return shorter;
         }
     }
@@ -111,7 +97,7 @@ void forEachMline(KdDbDatabase& database, const std::function<void(const ListedM
         listed.block = block != nullptr ? narrow(block->name) : std::string();
         listed.layer = narrow(mline->layer());
         listed.style = styleName(content);
-        listed.flags = flagWord(content);
+        listed.flags = content.flags();
         listed.content = &content;
         visitor(listed);
         mline->close();

@@ -89,7 +89,7 @@ QRegion PlanPicture::paintSome(Deadline deadline) {
         const QPoint origin = m_grid.tileOrigin(m_painting->tile());
         changed += m_painting->pixels().translated(origin);
         finishPainting();
-        if (std::chrono::steady_clock::now() >= deadline) {
+        if (isOver(deadline)) {
             break;
         }
     }

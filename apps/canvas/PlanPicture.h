@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Deadline.h"
 #include "PixelGrid.h"
 #include "Scene.h"
 #include "TilePainting.h"
@@ -7,7 +8,6 @@
 #include <QImage>
 #include <QRegion>
 
-#include <chrono>
 #include <optional>
 #include <vector>
 
@@ -20,8 +20,6 @@ namespace orvex {
 // Rectangles are device pixels of the view.
 class PlanPicture {
 public:
-    using Deadline = std::chrono::steady_clock::time_point;
-
     // Null: nothing but the ground. Not owned.
     void setScene(Scene* scene);
     // What is seen from now on.

@@ -44,7 +44,7 @@ bool TilePainting::advance(Deadline deadline) {
     return m_pass == Pass::done;
 }
 
-bool TilePainting::isOver(Deadline deadline) const {
+bool TilePainting::mustPause(Deadline deadline) const {
     return m_next % kEntitiesBetweenClockReads == 0 && std::chrono::steady_clock::now() >= deadline;
 }
 
@@ -62,7 +62,7 @@ bool TilePainting::paintFills(Deadline deadline) {
     painter.setClipRect(m_pixels);
     LinePainter lines(m_image, m_pixels, m_grid.lineWidth());
     for (; m_next < m_entities.size(); ++m_next) {
-        if (isOver(deadline)) {
+        if (mustPause(deadline)) {
             return false;
         }
         const std::uint32_t entity = m_entities[m_next];
@@ -80,7 +80,7 @@ bool TilePainting::paintLines(Deadline deadline) {
     const PlanView view = m_grid.viewOf(m_tile);
     LinePainter lines(m_image, m_pixels, m_grid.lineWidth());
     for (; m_next < m_entities.size(); ++m_next) {
-        if (isOver(deadline)) {
+        if (mustPause(deadline)) {
             return false;
         }
         const std::uint32_t entity = m_entities[m_next];

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Deadline.h"
 #include "LinePainter.h"
 #include "PixelGrid.h"
 #include "Scene.h"
@@ -7,7 +8,6 @@
 #include <QImage>
 #include <QRect>
 
-#include <chrono>
 #include <cstdint>
 #include <vector>
 
@@ -20,8 +20,6 @@ inline constexpr std::uint32_t kGroundRgb = 0x1E2127;
 // a tile that is painted piece by piece is the same as one painted at once.
 class TilePainting {
 public:
-    using Deadline = std::chrono::steady_clock::time_point;
-
     // The scene has to stay as it is till the end. `before` is what the tile showed, of no size
     // when it is painted for the first time; only `pixels` of it change.
     TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, QImage before,
@@ -38,7 +36,7 @@ private:
     enum class Pass : std::uint8_t { fills, lines, done };
     bool paintFills(Deadline deadline);
     bool paintLines(Deadline deadline);
-    [[nodiscard]] bool isOver(Deadline deadline) const;
+    [[nodiscard]] bool mustPause(Deadline deadline) const;
     [[nodiscard]] double sideOf(std::uint32_t entity) const;
     bool paintSmall(std::uint32_t entity, LinePainter& lines);
     bool paintCompact(CompactAppearance compactAppearance, const PlanBox& box, LinePainter& lines);

@@ -1,13 +1,13 @@
 #include "SvgPicture.h"
 
 #include "dashCycle.h"
+#include "geometry.h"
 #include "labelBox.h"
 #include "textCodec.h"
 
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <numbers>
 
 namespace orvex {
 
@@ -160,7 +160,7 @@ void SvgPicture::addLabel(const Label& label) {
     if (label.horizontal != 0) {
         m_labels += label.horizontal == 1 ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
     }
-    const double degrees = -label.angle * 180.0 / std::numbers::pi;
+    const double degrees = toDegrees(-label.angle);
     if (decimal(degrees) != "0") {
         m_labels += " transform=\"rotate(" + decimal(degrees) + ' ' + decimals(place) + ")\"";
     }

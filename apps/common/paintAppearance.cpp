@@ -2,11 +2,11 @@
 
 #include "clipChain.h"
 #include "dashCycle.h"
+#include "geometry.h"
 #include "labelBox.h"
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -104,7 +104,7 @@ public:
         const double scale = height / kCapitalOfFontSize / kFontPixels;
         m_painter.save();
         m_painter.translate(anchor.x, anchor.y);
-        m_painter.rotate(-label.angle * 180.0 / std::numbers::pi);
+        m_painter.rotate(toDegrees(-label.angle));
         m_painter.translate(0.0, -baseLineRise(label) / m_view.unitsPerPixel());
         // What reached out of its box would be cut off where a part of a picture is painted anew.
         const double room = labelWidth(label) / m_view.unitsPerPixel();

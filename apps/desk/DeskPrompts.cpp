@@ -1,6 +1,7 @@
 #include "DeskPrompts.h"
 
 #include "answerFromText.h"
+#include "blanks.h"
 #include "clickedPoint.h"
 #include "fileQuestion.h"
 #include "qtWide.h"
@@ -66,12 +67,12 @@ std::optional<std::wstring> DeskPrompts::chooseFile(const std::wstring& title,
 std::optional<PromptAnswer> DeskPrompts::understand(const PromptRequest& request,
                                                     const QString& typed) {
     const std::wstring wide = toWide(typed);
-    const std::wstring text(trimmed(wide));
+    const std::wstring text(trimBlanks(wide));
     std::optional<PromptAnswer> answer = answerFromText(request, text);
     if (answer) {
         answer->echo = text;
     } else {
-        print(std::wstring(trimmed(request.text)) + L' ' + text);
+        print(std::wstring(trimBlanks(request.text)) + L' ' + text);
         print(complaintAbout(request, text));
     }
     return answer;

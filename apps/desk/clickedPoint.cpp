@@ -1,7 +1,7 @@
 #include "clickedPoint.h"
 
-#include "coordinateFrames.h"
 #include "textCodec.h"
+#include "userFrame.h"
 
 #include <algorithm>
 #include <array>
@@ -37,16 +37,9 @@ int worthwhileDecimals(double unitsPerPixel) {
 }
 
 KdGePoint3d clickedPoint(double worldX, double worldY, double unitsPerPixel) {
-    resbuf world;
-    world.restype = kResultShort;
-    world.resval.rint = 0;
-    resbuf user;
-    user.restype = kResultShort;
-    user.resval.rint = 1;
-    double place[3] = {worldX, worldY, 0.0};
-    kdedTrans(place, &world, &user, 0, place);
+    const KdGePoint3d place = worldToUser({worldX, worldY, 0.0});
     const int decimals = worthwhileDecimals(unitsPerPixel) + 1;
-    return {rounded(place[0], decimals), rounded(place[1], decimals), rounded(place[2], decimals)};
+    return {rounded(place.x, decimals), rounded(place.y, decimals), rounded(place.z, decimals)};
 }
 
 std::wstring pointText(const KdGePoint3d& point) {

@@ -5,7 +5,6 @@
 namespace {
 
 constexpr int kMethodShift = 24;
-constexpr std::uint32_t kColorBits = 0xFFFFFF;
 constexpr std::uint32_t kIndexBits = 0xFFFF;
 constexpr std::uint16_t kByLayerIndex = 256;
 constexpr std::uint16_t kByBlockIndex = 0;
@@ -74,7 +73,7 @@ void KdCmColor::setColor(std::uint32_t value) {
 
 std::uint16_t KdCmColor::colorIndex() const {
     if (colorMethod() == byColor && !isPaletteIndex(m_index)) {
-        return orvex::nearestPaletteIndex(m_shown & kColorBits);
+        return orvex::nearestPaletteIndex(m_shown & orvex::kRgbBits);
     }
     return m_index;
 }
@@ -90,7 +89,7 @@ void KdCmColor::setColorIndex(std::uint16_t index) {
 }
 
 std::uint32_t KdCmColor::rgb() const {
-    return colorMethod() == byColor ? m_shown & kColorBits : orvex::paletteRgb(m_index);
+    return colorMethod() == byColor ? m_shown & orvex::kRgbBits : orvex::paletteRgb(m_index);
 }
 
 std::wstring KdCmColor::colorNameForDisplay() const {

@@ -105,4 +105,8 @@ std::wstring foldCase(std::wstring_view text) {
     return folded;
 }
 
+bool equalWithoutCase(std::wstring_view a, std::wstring_view b) {
+    return foldCase(a) == foldCase(b);
+}
+
 } // namespace orvex

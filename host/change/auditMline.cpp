@@ -2,10 +2,10 @@
 
 #include "ChainFrame.h"
 #include "breakLists.h"
+#include "geometry.h"
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace orvex {
 
@@ -15,15 +15,11 @@ constexpr double kPlaceTolerance = 1e-9; // of the largest coordinate
 constexpr double kAngleTolerance = 1e-9; // radians, and what coordinates are rounded by
 constexpr double kLargestTurn = 1e-3;    // radians; more is no tolerance, however narrow it is
 
-double degrees(double radians) {
-    return radians * 180.0 / std::numbers::pi;
-}
-
 // From the axis counter-clockwise to the miter, whose sense doesn't matter: 0 up to 180.
 double angleOf(const KdGeVector3d& miter, const VertexFrame& frame) {
     const double angle = std::atan2(dot(frame.left, miter), dot(frame.axis, miter));
-    const double turned = angle < 0.0 ? angle + std::numbers::pi : angle;
-    return degrees(turned >= std::numbers::pi ? 0.0 : turned);
+    const double turned = angle < 0.0 ? angle + kPi : angle;
+    return toDegrees(turned >= kPi ? 0.0 : turned);
 }
 
 class Auditor {
@@ -62,7 +58,7 @@ private:
         const double turned = (vertex.axis - frame.axis).length();
         if (!isWithin(turned, frame)) {
             const double angle = std::acos(std::clamp(dot(vertex.axis, frame.axis), -1.0, 1.0));
-            m_findings.push_back({FindingCode::axis, v, {}, degrees(angle), 0.0});
+            m_findings.push_back({FindingCode::axis, v, {}, toDegrees(angle), 0.0});
         }
         if (!isWithin(miterDeviation(vertex.miter, frame), frame)) {
             m_findings.push_back({FindingCode::miter,

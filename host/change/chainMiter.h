@@ -2,6 +2,7 @@
 
 #include "KdGePoint3d.h"
 #include "KdGeVector3d.h"
+#include "geometry.h"
 
 #include <span>
 #include <vector>
@@ -14,13 +15,6 @@ struct Miter {
     KdGeVector3d direction; // unit
     double sine = 1.0;
 };
-
-[[nodiscard]] inline double dot(const KdGeVector3d& a, const KdGeVector3d& b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-[[nodiscard]] inline KdGeVector3d cross(const KdGeVector3d& a, const KdGeVector3d& b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
 
 // The side that positive offsets lie on; both arguments are units at a right angle.
 [[nodiscard]] inline KdGeVector3d leftOf(const KdGeVector3d& axis, const KdGeVector3d& normal) {

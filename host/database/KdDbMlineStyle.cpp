@@ -4,15 +4,6 @@
 
 namespace {
 
-constexpr int kFilled = 1;
-constexpr int kShowMiters = 2;
-constexpr int kStartSquareCap = 16;
-constexpr int kStartInnerArcs = 32;
-constexpr int kStartRoundCap = 64;
-constexpr int kEndSquareCap = 256;
-constexpr int kEndInnerArcs = 512;
-constexpr int kEndRoundCap = 1024;
-
 void setFlag(orvex::MlineStyleContent& content, int flag, bool on) {
     content.flags = on ? content.flags | flag : content.flags & ~flag;
 }
@@ -107,59 +98,59 @@ Status KdDbMlineStyle::setEndAngle(double radians) {
 }
 
 bool KdDbMlineStyle::filled() const {
-    return (m_content->flags & kFilled) != 0;
+    return (m_content->flags & orvex::kStyleFilled) != 0;
 }
 void KdDbMlineStyle::setFilled(bool on) {
-    setFlag(change(), kFilled, on);
+    setFlag(change(), orvex::kStyleFilled, on);
 }
 
 bool KdDbMlineStyle::showMiters() const {
-    return (m_content->flags & kShowMiters) != 0;
+    return (m_content->flags & orvex::kStyleMiters) != 0;
 }
 void KdDbMlineStyle::setShowMiters(bool on) {
-    setFlag(change(), kShowMiters, on);
+    setFlag(change(), orvex::kStyleMiters, on);
 }
 
 bool KdDbMlineStyle::startSquareCap() const {
-    return (m_content->flags & kStartSquareCap) != 0;
+    return (m_content->flags & orvex::kStyleStartLine) != 0;
 }
 void KdDbMlineStyle::setStartSquareCap(bool on) {
-    setFlag(change(), kStartSquareCap, on);
+    setFlag(change(), orvex::kStyleStartLine, on);
 }
 
 bool KdDbMlineStyle::startInnerArcs() const {
-    return (m_content->flags & kStartInnerArcs) != 0;
+    return (m_content->flags & orvex::kStyleStartArcs) != 0;
 }
 void KdDbMlineStyle::setStartInnerArcs(bool on) {
-    setFlag(change(), kStartInnerArcs, on);
+    setFlag(change(), orvex::kStyleStartArcs, on);
 }
 
 bool KdDbMlineStyle::startRoundCap() const {
-    return (m_content->flags & kStartRoundCap) != 0;
+    return (m_content->flags & orvex::kStyleStartRound) != 0;
 }
 void KdDbMlineStyle::setStartRoundCap(bool on) {
-    setFlag(change(), kStartRoundCap, on);
+    setFlag(change(), orvex::kStyleStartRound, on);
 }
 
 bool KdDbMlineStyle::endSquareCap() const {
-    return (m_content->flags & kEndSquareCap) != 0;
+    return (m_content->flags & orvex::kStyleEndLine) != 0;
 }
 void KdDbMlineStyle::setEndSquareCap(bool on) {
-    setFlag(change(), kEndSquareCap, on);
+    setFlag(change(), orvex::kStyleEndLine, on);
 }
 
 bool KdDbMlineStyle::endInnerArcs() const {
-    return (m_content->flags & kEndInnerArcs) != 0;
+    return (m_content->flags & orvex::kStyleEndArcs) != 0;
 }
 void KdDbMlineStyle::setEndInnerArcs(bool on) {
-    setFlag(change(), kEndInnerArcs, on);
+    setFlag(change(), orvex::kStyleEndArcs, on);
 }
 
 bool KdDbMlineStyle::endRoundCap() const {
-    return (m_content->flags & kEndRoundCap) != 0;
+    return (m_content->flags & orvex::kStyleEndRound) != 0;
 }
 void KdDbMlineStyle::setEndRoundCap(bool on) {
-    setFlag(change(), kEndRoundCap, on);
+    setFlag(change(), orvex::kStyleEndRound, on);
 }
 
 int KdDbMlineStyle::numElements() const {

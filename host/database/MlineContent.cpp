@@ -12,6 +12,12 @@ bool sameOptionalTraits(const EntityTraits* a, const EntityTraits* b) {
 
 } // namespace
 
+int MlineContent::flags() const {
+    return (vertices.empty() ? 0 : kMlineHasVertices) | (closed ? kMlineClosed : 0) |
+           (startCapsSuppressed ? kMlineNoStartCaps : 0) |
+           (endCapsSuppressed ? kMlineNoEndCaps : 0);
+}
+
 bool MlineContent::equals(const ObjectContent& other) const {
     if (this == &other) {
         return true;

@@ -73,6 +73,14 @@ private:
     mutable std::vector<std::shared_ptr<const Record>> m_nested;
 };
 
+// The bits of a multiline's flags in files and listings.
+enum MlineFlag : int {
+    kMlineHasVertices = 1,
+    kMlineClosed = 2,
+    kMlineNoStartCaps = 4,
+    kMlineNoEndCaps = 8,
+};
+
 // A multiline.
 struct MlineContent final : ObjectContent {
     std::shared_ptr<const EntityTraits> traits; // null: those that the entity has
@@ -90,6 +98,7 @@ struct MlineContent final : ObjectContent {
     [[nodiscard]] unsigned elementCount() const {
         return vertices.empty() ? 0 : lists.elementCount(0);
     }
+    [[nodiscard]] int flags() const; // of MlineFlag
     [[nodiscard]] bool equals(const ObjectContent& other) const override;
     [[nodiscard]] std::size_t memoryUse() const override;
 };

@@ -18,11 +18,22 @@ struct StyleElement {
     friend bool operator==(const StyleElement&, const StyleElement&) = default;
 };
 
+enum MlineStyleFlag : int {
+    kStyleFilled = 1,
+    kStyleMiters = 2,
+    kStyleStartLine = 16,
+    kStyleStartArcs = 32,
+    kStyleStartRound = 64,
+    kStyleEndLine = 256,
+    kStyleEndArcs = 512,
+    kStyleEndRound = 1024,
+};
+
 // A multiline style. Angles in radians.
 struct MlineStyleContent final : ObjectContent {
     std::wstring name;
     std::wstring description;
-    int flags = 0; // 1 filled, 2 miters, 16 32 64 start square, arcs, round, 256 512 1024 end
+    int flags = 0; // of MlineStyleFlag
     KdCmColor fillColor;
     double startAngle = 1.5707963267948966;
     double endAngle = 1.5707963267948966;

@@ -4,6 +4,8 @@
 #include "NumberText.h"
 #include "RecordEdit.h"
 #include "StyleRecord.h"
+#include "blanks.h"
+#include "handleText.h"
 
 #include <algorithm>
 
@@ -34,9 +36,7 @@ std::vector<PairTags> findPairs(const std::vector<Tag>& tags) {
         if (tags[i].code == kKeyCode) {
             key = i;
         } else if (isHandle(tags[i]) && key != 0) {
-            PairTags pair{key, i, i + 1, 0};
-            parseHandle(tags[i].value, pair.value);
-            pairs.push_back(pair);
+            pairs.push_back({key, i, i + 1, parseHandle(tags[i].value).value_or(0)});
             key = 0;
         }
     }

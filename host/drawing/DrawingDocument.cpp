@@ -11,6 +11,7 @@
 #include "StyleRecord.h"
 #include "TableRecords.h"
 #include "TraitsRecord.h"
+#include "blanks.h"
 
 #include <algorithm>
 

@@ -1,6 +1,8 @@
 #include "DrawingText.h"
 
 #include "NumberText.h"
+#include "blanks.h"
+#include "handleText.h"
 #include "textCodec.h"
 
 #include <QTextCodec>

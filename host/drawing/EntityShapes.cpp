@@ -1,6 +1,7 @@
 #include "EntityShapes.h"
 
 #include "NumberText.h"
+#include "geometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,8 +9,6 @@
 namespace orvex {
 
 namespace {
-
-constexpr double kPi = 3.141592653589793;
 
 std::vector<Tag> readTags(std::string_view bytes, const RecordSpan& span) {
     std::vector<Tag> tags;
@@ -93,28 +92,18 @@ KdGePoint3d ShapeTags::point(int code) const {
     return {real(code), real(code + 10), real(code + 20)};
 }
 
-KdGeVector3d crossProduct(const KdGeVector3d& a, const KdGeVector3d& b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-
-double degreesToRadians(double degrees) {
-    return degrees * (kPi / 180.0);
-}
-
 EntityPlane EntityPlane::of(const ShapeTags& tags) {
-    constexpr double kNearPole = 1.0 / 64.0;
     EntityPlane plane;
     KdGeVector3d normal{tags.real(210), tags.real(220), tags.real(230, 1.0)};
     normal.normalize();
     if (normal.isZeroLength()) {
         return plane;
     }
-    const bool nearPole = std::abs(normal.x) < kNearPole && std::abs(normal.y) < kNearPole;
-    const KdGeVector3d reference =
-        nearPole ? KdGeVector3d{0.0, 1.0, 0.0} : KdGeVector3d{0.0, 0.0, 1.0};
     plane.normal = normal;
-    plane.xAxis = crossProduct(reference, normal).normalize();
-    plane.yAxis = crossProduct(normal, plane.xAxis).normalize();
+    const PlaneAxes axes = arbitraryAxes(normal);
+    plane.xAxis = axes.x;
+    plane.yAxis = axes.y;
+    plane.yAxis.normalize(); // what is drawn depends on its last bit
     return plane;
 }
 

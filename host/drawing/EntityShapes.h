@@ -50,9 +50,6 @@ struct EntityPlane {
     [[nodiscard]] KdGeVector3d direction(double angle) const; // unit; radians from the x axis
 };
 
-[[nodiscard]] KdGeVector3d crossProduct(const KdGeVector3d& a, const KdGeVector3d& b);
-[[nodiscard]] double degreesToRadians(double degrees);
-
 // A record's followers, one each; `tags` starts with the record itself.
 [[nodiscard]] std::vector<ShapeTags> splitRecords(std::span<const Tag> tags);
 

@@ -2,6 +2,8 @@
 
 #include "NumberText.h"
 #include "RecordEdit.h"
+#include "blanks.h"
+#include "handleText.h"
 
 #include <algorithm>
 #include <array>
@@ -43,7 +45,6 @@ std::string_view variableName(const Tag& tag) {
 std::optional<HeaderValue> scalar(const Row& row, std::string_view value, const DrawingText& text) {
     double real = 0.0;
     int integer = 0;
-    HeaderHandle handle;
     switch (row.code) {
     case 40:
         return parseReal(value, real) ? std::optional<HeaderValue>(real) : std::nullopt;
@@ -51,7 +52,10 @@ std::optional<HeaderValue> scalar(const Row& row, std::string_view value, const 
     case 70:
         return parseInteger(value, integer) ? std::optional<HeaderValue>(integer) : std::nullopt;
     case 5:
-        return parseHandle(value, handle.value) ? std::optional<HeaderValue>(handle) : std::nullopt;
+        if (const auto handle = parseHandle(value)) {
+            return HeaderValue(HeaderHandle{*handle});
+        }
+        return std::nullopt;
     default:
         return HeaderValue(text.decode(trimBlanks(value)));
     }

@@ -1,6 +1,7 @@
 #include "MlineParser.h"
 
 #include "NumberText.h"
+#include "handleText.h"
 
 #include <array>
 
@@ -95,7 +96,9 @@ MlineRole MlineParser::feedField(const Tag& tag) {
         break;
     case 340:
         bit = kStyle;
-        if (!parseHandle(tag.value, style)) {
+        if (const auto handle = parseHandle(tag.value)) {
+            style = *handle;
+        } else {
             fail("its style's handle is no handle");
         }
         break;

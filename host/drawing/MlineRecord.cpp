@@ -6,14 +6,15 @@
 #include "NumberText.h"
 #include "RecordEdit.h"
 #include "TraitsRecord.h"
+#include "blanks.h"
+#include "handleText.h"
 
 namespace orvex {
 
 namespace {
 
-enum Flag : int { kHasVertices = 1, kClosed = 2, kNoStartCaps = 4, kNoEndCaps = 8 };
 constexpr std::size_t kElementCountField = 6; // in the order of mlineFields
-constexpr int kKnownFlags = kHasVertices | kClosed | kNoStartCaps | kNoEndCaps;
+constexpr int kKnownFlags = kMlineHasVertices | kMlineClosed | kMlineNoStartCaps | kMlineNoEndCaps;
 
 // By handle; by name in drawings whose multilines have none.
 KdDbStub* findStyle(const RecordContext& context, const MlineParser& parser,
@@ -29,12 +30,6 @@ void ensureHandle(const RecordContext& context, KdDbObjectId style) {
     if (!style.isNull() && style.stub()->kind == ObjectKind::mlineStyle) {
         context.core.ensureHandle(*style.stub());
     }
-}
-
-int flagsOf(const MlineContent& content) {
-    return (content.vertices.empty() ? 0 : kHasVertices) | (content.closed ? kClosed : 0) |
-           (content.startCapsSuppressed ? kNoStartCaps : 0) |
-           (content.endCapsSuppressed ? kNoEndCaps : 0);
 }
 
 std::wstring styleName(const RecordContext& context, const MlineContent& content) {
@@ -66,7 +61,7 @@ Fields mlineFields(const RecordContext& context, const MlineContent& content, in
         {340, style != nullptr ? std::optional(handleText(style->handle)) : std::nullopt});
     fields.push_back(realField(40, content.scale));
     fields.push_back({70, std::to_string(content.justification)});
-    fields.push_back({71, std::to_string(flagsOf(content) | (otherFlags & ~kKnownFlags))});
+    fields.push_back({71, std::to_string(content.flags() | (otherFlags & ~kKnownFlags))});
     fields.push_back({72, std::to_string(content.vertices.size())});
     fields.push_back({73, std::to_string(content.elementCount())});
     const KdGePoint3d start =
@@ -82,9 +77,9 @@ std::shared_ptr<MlineContent> contentOf(const RecordContext& context, const Mlin
     content->style = KdDbObjectId(findStyle(context, parser, content->styleName));
     content->scale = parser.scale;
     content->justification = parser.justification;
-    content->closed = (parser.flags & kClosed) != 0;
-    content->startCapsSuppressed = (parser.flags & kNoStartCaps) != 0;
-    content->endCapsSuppressed = (parser.flags & kNoEndCaps) != 0;
+    content->closed = (parser.flags & kMlineClosed) != 0;
+    content->startCapsSuppressed = (parser.flags & kMlineNoStartCaps) != 0;
+    content->endCapsSuppressed = (parser.flags & kMlineNoEndCaps) != 0;
     content->normal = parser.normal;
     content->vertices.assign(parser.vertices.begin(), parser.vertices.end());
     if (parser.elementCount > 0) {

@@ -1,5 +1,7 @@
 #include "NumberText.h"
 
+#include "blanks.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -33,16 +35,6 @@ std::errc parseAll(std::string_view text, Number& value, Format... format) {
 
 } // namespace
 
-std::string_view trimBlanks(std::string_view text) {
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
 bool parseReal(std::string_view text, double& value) {
     text = withoutPlus(trimBlanks(text));
     double number = 0.0;
@@ -69,15 +61,6 @@ bool parseInteger(std::string_view text, int& value) {
     return true;
 }
 
-bool parseHandle(std::string_view text, std::uint64_t& value) {
-    std::uint64_t number = 0;
-    if (parseAll(trimBlanks(text), number, 16) != std::errc()) {
-        return false;
-    }
-    value = number;
-    return true;
-}
-
 std::string realText(double value) {
     if (!std::isfinite(value)) {
         value = 0.0;
@@ -87,18 +70,6 @@ std::string realText(double value) {
     std::string text(buffer.data(), result.ptr);
     if (text.find_first_of(".e") == std::string::npos) {
         text += ".0";
-    }
-    return text;
-}
-
-std::string handleText(std::uint64_t value) {
-    std::array<char, 16> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, 16);
-    std::string text(buffer.data(), result.ptr);
-    for (char& digit : text) {
-        if (digit >= 'a') {
-            digit = static_cast<char>(digit - 'a' + 'A');
-        }
     }
     return text;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -11,13 +10,9 @@ namespace orvex {
 
 bool parseReal(std::string_view text, double& value); // finite ones only; too small ones are 0
 bool parseInteger(std::string_view text, int& value); // that fits 32 bits
-bool parseHandle(std::string_view text, std::uint64_t& value); // hexadecimal
 
 // The shortest text that reads back as the same double, always with a point or an exponent. A
 // value that is not finite has no form in the file and becomes 0.
 std::string realText(double value);
-std::string handleText(std::uint64_t value);
-
-[[nodiscard]] std::string_view trimBlanks(std::string_view text);
 
 } // namespace orvex

@@ -2,6 +2,8 @@
 
 #include "MlineParser.h"
 #include "NumberText.h"
+#include "blanks.h"
+#include "handleText.h"
 
 #include <algorithm>
 #include <limits>
@@ -97,7 +99,7 @@ void RecordCutter::take(const Tag& tag) {
     if (isHandle && !m_hasHandle && !m_result.records.m_records.empty()) {
         m_hasHandle = true;
         Record& record = m_result.records.m_records.back();
-        parseHandle(tag.value, record.handle);
+        record.handle = parseHandle(tag.value).value_or(record.handle);
         m_result.highestHandle = std::max(m_result.highestHandle, record.handle);
     } else if (tag.code == 67 && !m_result.records.m_records.empty()) {
         m_result.records.m_records.back().inPaperSpace = trimBlanks(tag.value) == "1";

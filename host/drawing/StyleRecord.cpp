@@ -5,6 +5,8 @@
 #include "NumberText.h"
 #include "RecordEdit.h"
 #include "TraitsRecord.h"
+#include "blanks.h"
+#include "geometry.h"
 #include "sameBits.h"
 
 #include <cmath>
@@ -13,20 +15,15 @@ namespace orvex {
 
 namespace {
 
-constexpr double kDegree = 3.141592653589793 / 180.0;
 constexpr int kOffsetCode = 49; // begins an element
-
-double toRadians(double degrees) {
-    return degrees * kDegree;
-}
 
 // Degrees that read back as these radians; of several the one with the fewest digits, for users
 // give round angles.
-double toDegrees(double radians) {
+double fileDegrees(double radians) {
     const double degrees = radians / kDegree;
     for (const double factor : {1.0, 1e2, 1e6, 1e10}) {
         const double rounded = std::round(degrees * factor) / factor;
-        if (sameBits(toRadians(rounded), radians)) {
+        if (sameBits(fileRadians(rounded), radians)) {
             return rounded;
         }
     }
@@ -168,8 +165,8 @@ Fields styleFields(const RecordContext& context, const MlineStyleContent& conten
     fields.push_back({70, std::to_string(content.flags)});
     fields.push_back({3, context.text.encode(content.description)});
     addColorFields(fields, content.fillColor, context.text, true);
-    fields.push_back({51, realText(toDegrees(content.startAngle))});
-    fields.push_back({52, realText(toDegrees(content.endAngle))});
+    fields.push_back({51, realText(fileDegrees(content.startAngle))});
+    fields.push_back({52, realText(fileDegrees(content.endAngle))});
     fields.push_back({71, std::to_string(content.elements.size())});
     return fields;
 }
@@ -253,8 +250,8 @@ std::shared_ptr<MlineStyleContent> readStyle(const RecordContext& context, const
     content->description = context.text.decode(parser.description);
     content->flags = parser.flags;
     content->fillColor = parser.fill;
-    content->startAngle = toRadians(parser.startAngle);
-    content->endAngle = toRadians(parser.endAngle);
+    content->startAngle = fileRadians(parser.startAngle);
+    content->endAngle = fileRadians(parser.endAngle);
     content->elements.reserve(parser.elements.size());
     for (const ElementFields& fields : parser.elements) {
         StyleElement& element = content->elements.emplace_back();

@@ -3,6 +3,7 @@
 #include "NumberText.h"
 #include "RecordEdit.h"
 #include "TraitsRecord.h"
+#include "blanks.h"
 
 #include <cmath>
 

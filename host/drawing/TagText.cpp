@@ -1,6 +1,7 @@
 #include "TagText.h"
 
 #include "NumberText.h"
+#include "handleText.h"
 
 namespace orvex {
 

@@ -2,6 +2,7 @@
 
 #include "CStdStr.h"
 #include "NumberText.h"
+#include "blanks.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -11,7 +12,6 @@ namespace orvex {
 namespace {
 
 constexpr std::uint32_t kTrueColor = static_cast<std::uint32_t>(KdCmColor::byColor) << 24U;
-constexpr std::uint32_t kRgbBits = 0xFFFFFF;
 
 // 100 AcDbEntity opens the common part; the next one ends it. Old drawings have neither, and what
 // stands there doesn't use the codes of the common part otherwise.

@@ -2,6 +2,7 @@
 
 #include "EntityShapes.h"
 #include "NumberText.h"
+#include "geometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -166,9 +167,9 @@ void HatchReader::addConic(const KdGePoint3d& center, const KdGePoint3d& major, 
     ConicShape conic;
     conic.center = m_plane.toWorld({center.x, center.y, m_elevation});
     conic.major = m_plane.xAxis * major.x + m_plane.yAxis * major.y;
-    conic.minor = crossProduct(m_plane.normal, conic.major) * ratio;
-    conic.start = degreesToRadians(start);
-    conic.end = degreesToRadians(end);
+    conic.minor = cross(m_plane.normal, conic.major) * ratio;
+    conic.start = fileRadians(start);
+    conic.end = fileRadians(end);
     if (conic.end <= conic.start) {
         conic.end += kFullTurn;
     }

@@ -1,6 +1,7 @@
 // Lines, points, solids, circles, arcs and ellipses.
 
 #include "EntityShapes.h"
+#include "geometry.h"
 
 namespace orvex {
 
@@ -34,8 +35,8 @@ EntityShape arcShape(const ShapeTags& tags, bool whole) {
     const double radius = tags.real(40);
     ConicShape shape{plane.toWorld(tags.point(10)), plane.xAxis * radius, plane.yAxis * radius};
     if (!whole) {
-        shape.start = degreesToRadians(tags.real(50));
-        shape.end = degreesToRadians(tags.real(51));
+        shape.start = fileRadians(tags.real(50));
+        shape.end = fileRadians(tags.real(51));
         if (shape.end <= shape.start) {
             shape.end += kFullTurn;
         }
@@ -48,7 +49,7 @@ EntityShape ellipseShape(const ShapeTags& tags) {
     ConicShape shape;
     shape.center = tags.point(10);
     shape.major = tags.point(11) - KdGePoint3d();
-    shape.minor = crossProduct(plane.normal, shape.major) * tags.real(40, 1.0);
+    shape.minor = cross(plane.normal, shape.major) * tags.real(40, 1.0);
     shape.start = tags.real(41, 0.0);
     shape.end = tags.real(42, kFullTurn);
     if (shape.end <= shape.start) {

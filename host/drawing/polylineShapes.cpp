@@ -2,6 +2,7 @@
 
 #include "EntityShapes.h"
 #include "NumberText.h"
+#include "blanks.h"
 
 #include <algorithm>
 #include <cstdlib>

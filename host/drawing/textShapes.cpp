@@ -2,6 +2,8 @@
 
 #include "EntityShapes.h"
 #include "NumberText.h"
+#include "blanks.h"
+#include "geometry.h"
 
 #include <algorithm>
 
@@ -145,7 +147,7 @@ TextShape textShape(const ShapeTags& tags, const DrawingText& text) {
 
     TextShape shape;
     shape.position = plane.toWorld(tags.point(anchored ? 11 : 10));
-    shape.direction = plane.direction(degreesToRadians(tags.real(50)));
+    shape.direction = plane.direction(fileRadians(tags.real(50)));
     if (spans && tags.has(11)) {
         const KdGeVector3d along = plane.toWorld(tags.point(11)) - shape.position;
         if (!along.isZeroLength()) {
@@ -153,7 +155,7 @@ TextShape textShape(const ShapeTags& tags, const DrawingText& text) {
             shape.direction.normalize();
         }
     }
-    shape.up = crossProduct(plane.normal, shape.direction);
+    shape.up = cross(plane.normal, shape.direction);
     shape.height = tags.real(40);
     if (anchored) {
         shape.horizontal = horizontal == kMiddle ? 1 : std::clamp(horizontal, 0, 2);
@@ -167,14 +169,14 @@ EntityShape mtextShape(const ShapeTags& tags, const DrawingText& text) {
     const EntityPlane plane = EntityPlane::of(tags);
     TextShape shape;
     shape.position = tags.point(10);
-    shape.direction = plane.direction(degreesToRadians(tags.real(50)));
+    shape.direction = plane.direction(fileRadians(tags.real(50)));
     if (tags.has(11)) {
         KdGeVector3d along = tags.point(11) - KdGePoint3d();
         if (!along.isZeroLength()) {
             shape.direction = along.normalize();
         }
     }
-    shape.up = crossProduct(plane.normal, shape.direction);
+    shape.up = cross(plane.normal, shape.direction);
     shape.height = tags.real(40);
     // Nine places, three by three from the top left one.
     const int attachment = std::clamp(tags.integer(71, 1), 1, 9) - 1;
@@ -194,9 +196,9 @@ EntityShape insertShape(const std::vector<ShapeTags>& records, const DrawingText
     constexpr int kMostCells = 100000; // more is a damaged count, not a drawing
     const ShapeTags& tags = records.front();
     const EntityPlane plane = EntityPlane::of(tags);
-    const double angle = degreesToRadians(tags.real(50));
+    const double angle = fileRadians(tags.real(50));
     const KdGeVector3d along = plane.direction(angle);
-    const KdGeVector3d across = crossProduct(plane.normal, along);
+    const KdGeVector3d across = cross(plane.normal, along);
 
     InsertShape shape;
     shape.block = text.decode(trimBlanks(tags.text(2)));

@@ -1,6 +1,7 @@
 #include "ScriptSource.h"
 
 #include "answerFromText.h"
+#include "blanks.h"
 #include "textCodec.h"
 #include "typedAnswer.h"
 
@@ -53,7 +54,7 @@ ScriptSource::ScriptSource(std::string_view utf8, Printer printer) : m_printer(s
             line.remove_suffix(1);
         }
         const std::wstring wide = widen(line);
-        const std::wstring_view text = trimmed(wide);
+        const std::wstring_view text = trimBlanks(wide);
         if (!text.starts_with(L';')) {
             m_lines.push_back({number, std::wstring(text)});
         }

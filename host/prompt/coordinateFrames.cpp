@@ -2,12 +2,16 @@
 
 #include "KdGePoint3d.h"
 #include "PromptSession.h"
+#include "geometry.h"
 #include "promptStatus.h"
 #include "systemVariables.h"
 
 #include <algorithm>
 #include <cmath>
 #include <optional>
+
+using orvex::cross;
+using orvex::dot;
 
 namespace {
 
@@ -21,14 +25,6 @@ struct Frame {
 
     friend bool operator==(const Frame&, const Frame&) = default;
 };
-
-double dot(const KdGeVector3d& a, const KdGeVector3d& b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-
-KdGeVector3d cross(const KdGeVector3d& a, const KdGeVector3d& b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
 
 bool isFinite(const KdGeVector3d& v) {
     return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
@@ -61,20 +57,16 @@ Frame userFrame() {
     return frame;
 }
 
-// The drawing format's arbitrary-axis rule: close to the world's Z the X axis is taken from the
-// world's Y, elsewhere from its Z.
 std::optional<Frame> planeFrame(const double* direction) {
-    constexpr double kNear = 1.0 / 64.0;
     Frame frame;
     frame.zAxis = {direction[0], direction[1], direction[2]};
     if (!isFinite(frame.zAxis) || frame.zAxis.isZeroLength()) {
         return std::nullopt;
     }
     frame.zAxis.normalize();
-    const bool near = std::abs(frame.zAxis.x) < kNear && std::abs(frame.zAxis.y) < kNear;
-    const KdGeVector3d helper = near ? KdGeVector3d{0.0, 1.0, 0.0} : KdGeVector3d{0.0, 0.0, 1.0};
-    frame.xAxis = cross(helper, frame.zAxis).normalize();
-    frame.yAxis = cross(frame.zAxis, frame.xAxis);
+    const orvex::PlaneAxes axes = orvex::arbitraryAxes(frame.zAxis);
+    frame.xAxis = axes.x;
+    frame.yAxis = axes.y;
     return frame;
 }
 

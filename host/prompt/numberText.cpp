@@ -2,6 +2,7 @@
 
 #include "PromptSession.h"
 #include "boundedCopy.h"
+#include "geometry.h"
 #include "promptStatus.h"
 #include "systemVariables.h"
 #include "typedAnswer.h"
@@ -17,7 +18,6 @@ namespace {
 constexpr int kTextSize = 512;
 constexpr int kDecimalDegrees = 0;
 constexpr int kDecimalLength = 2;
-constexpr double kPi = 3.141592653589793;
 
 // Bits of DIMZIN for decimal numbers.
 constexpr int kDropLeadingZero = 4;
@@ -93,7 +93,7 @@ Status kddbAngToS(double radians, int unit, int precision, wchar_t* text) {
         return Status::invalidInput;
     }
     *text = L'\0';
-    const double degrees = radians * 180.0 / kPi;
+    const double degrees = orvex::toDegrees(radians);
     if (unit != kDecimalDegrees || !std::isfinite(degrees)) {
         return Status::invalidInput;
     }
@@ -108,7 +108,7 @@ Status kddbAngToF(const wchar_t* text, int unit, double* radians) {
     if (!degrees) {
         return Status::invalidInput;
     }
-    *radians = *degrees * kPi / 180.0;
+    *radians = orvex::toRadians(*degrees);
     return Status::done;
 }
 

@@ -11,6 +11,7 @@
 #include "keywords.h"
 #include "promptExchange.h"
 #include "promptStatus.h"
+#include "userFrame.h"
 
 #include <utility>
 
@@ -64,19 +65,6 @@ void putText(wchar_t* buffer, const std::wstring& text) {
     wcscpy_s(buffer, kPromptTextSize, text.c_str());
 }
 
-KdGePoint3d userToWorld(const KdGePoint3d& point) {
-    resbuf user;
-    user.restype = kResultShort;
-    user.resval.rint = 1;
-    resbuf world;
-    world.restype = kResultShort;
-    world.resval.rint = 0;
-    const double in[3] = {point.x, point.y, point.z};
-    double out[3] = {point.x, point.y, point.z};
-    kdedTrans(in, &user, &world, 0, out);
-    return {out[0], out[1], out[2]};
-}
-
 // An entity named by its handle is found wherever it is, seen or not.
 KdDbStub* entityOfHandle(std::uint64_t handle) {
     KdDocument* const document = curDoc();
@@ -97,7 +85,7 @@ KdDbStub* pickedEntity(const PromptAnswer& answer) {
     const PromptSession& session = PromptSession::current();
     return session.finder == nullptr
                ? nullptr
-               : session.finder->entityAt(userToWorld(answer.point), session.pickBox);
+               : session.finder->entityAt(orvex::userToWorld(answer.point), session.pickBox);
 }
 
 void putPoint(double* target, const KdGePoint3d& point) {
@@ -161,7 +149,7 @@ int kdedEntSel(const wchar_t* prompt, long* name, double* point) {
 int kdedGetPoint(const double* base, const wchar_t* prompt, double* point) {
     std::optional<KdGePoint3d> start;
     if (base != nullptr) {
-        start = userToWorld({base[0], base[1], base[2]});
+        start = orvex::userToWorld({base[0], base[1], base[2]});
     }
     const PromptAnswer answer = orvex::askUser(PromptKind::point, prompt, start);
     if (answer.kind != PromptAnswer::Kind::point || point == nullptr) {

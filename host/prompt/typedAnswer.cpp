@@ -1,5 +1,8 @@
 #include "typedAnswer.h"
 
+#include "blanks.h"
+#include "handleText.h"
+
 #include <charconv>
 #include <cmath>
 #include <string>
@@ -22,31 +25,20 @@ std::optional<std::string> ascii(std::wstring_view text) {
     return result;
 }
 
-std::optional<std::uint64_t> parseHandle(std::wstring_view text) {
+// A number that is too large is a handle that nothing has.
+std::optional<std::uint64_t> typedHandle(std::wstring_view text) {
     const std::optional<std::string> digits = ascii(text);
     if (!digits || digits->empty() ||
         digits->find_first_not_of("0123456789abcdefABCDEF") != std::string::npos) {
         return std::nullopt;
     }
-    std::uint64_t handle = 0;
-    const auto result =
-        std::from_chars(digits->data(), digits->data() + digits->size(), handle, 16);
-    return result.ec == std::errc() ? handle : 0;
+    return parseHandle(*digits).value_or(0);
 }
 
 } // namespace
 
-std::wstring_view trimmed(std::wstring_view text) {
-    constexpr std::wstring_view kBlanks = L" \t";
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::wstring_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 std::optional<double> parseReal(std::wstring_view text) {
-    std::optional<std::string> digits = ascii(trimmed(text));
+    std::optional<std::string> digits = ascii(trimBlanks(text));
     if (!digits || digits->empty()) {
         return std::nullopt;
     }
@@ -85,7 +77,7 @@ std::optional<TypedPick> parsePick(std::wstring_view text) {
     const std::size_t mark = text.find(L'#');
     TypedPick pick;
     if (mark != std::wstring_view::npos) {
-        pick.handle = parseHandle(trimmed(text.substr(mark + 1)));
+        pick.handle = typedHandle(trimBlanks(text.substr(mark + 1)));
         if (!pick.handle) {
             return std::nullopt;
         }

@@ -23,7 +23,4 @@ struct TypedPick {
 // A point, with "#" and a hexadecimal handle behind it or without.
 std::optional<TypedPick> parsePick(std::wstring_view text);
 
-// Without the blanks and tabs at both ends.
-std::wstring_view trimmed(std::wstring_view text);
-
 } // namespace orvex

@@ -10,10 +10,6 @@ std::wstring orEmpty(const wchar_t* text) {
     return text != nullptr ? text : L"";
 }
 
-bool sameName(const std::wstring& a, const std::wstring& b) {
-    return orvex::foldCase(a) == orvex::foldCase(b);
-}
-
 } // namespace
 
 KdRxClass* KdEdCommandStack::desc() {
@@ -40,7 +36,8 @@ Status KdEdCommandStack::addCommand(const wchar_t* group, const wchar_t* globalN
     }
     KdEdCommand command{orEmpty(group), name, orEmpty(localName), flags, function};
     const auto same = std::find_if(m_commands.begin(), m_commands.end(), [&](const auto& each) {
-        return sameName(each.group, command.group) && sameName(each.globalName, name);
+        return orvex::equalWithoutCase(each.group, command.group) &&
+               orvex::equalWithoutCase(each.globalName, name);
     });
     const auto place = same != m_commands.end() ? same : m_commands.insert(same, KdEdCommand());
     *place = std::move(command);
@@ -51,8 +48,9 @@ Status KdEdCommandStack::addCommand(const wchar_t* group, const wchar_t* globalN
 }
 
 Status KdEdCommandStack::removeGroup(const wchar_t* group) {
-    const auto removed = std::erase_if(
-        m_commands, [&](const KdEdCommand& each) { return sameName(each.group, orEmpty(group)); });
+    const auto removed = std::erase_if(m_commands, [&](const KdEdCommand& each) {
+        return orvex::equalWithoutCase(each.group, orEmpty(group));
+    });
     return removed > 0 ? Status::done : Status::notFound;
 }
 
@@ -64,7 +62,7 @@ const KdEdCommand* KdEdCommandStack::lookUp(const wchar_t* name) const {
     // A translated name must not hide a command's own name.
     for (const auto member : {&KdEdCommand::globalName, &KdEdCommand::localName}) {
         for (const KdEdCommand& each : m_commands) {
-            if (sameName(each.*member, wanted)) {
+            if (orvex::equalWithoutCase(each.*member, wanted)) {
                 return &each;
             }
         }

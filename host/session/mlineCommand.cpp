@@ -6,11 +6,11 @@
 #include "PromptSession.h"
 #include "Session.h"
 #include "commandLine.h"
-#include "coordinateFrames.h"
 #include "newMline.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "systemVariables.h"
+#include "userFrame.h"
 #include "variableText.h"
 
 #include <optional>
@@ -94,27 +94,6 @@ bool askStart(Chain& chain) {
     }
 }
 
-// Between the user's system (1) and the world's (0).
-KdGePoint3d converted(const KdGePoint3d& point, int from, int to, int displacement = 0) {
-    resbuf fromFrame;
-    fromFrame.restype = kResultShort;
-    fromFrame.resval.rint = static_cast<short>(from);
-    resbuf toFrame;
-    toFrame.restype = kResultShort;
-    toFrame.resval.rint = static_cast<short>(to);
-    double place[3] = {point.x, point.y, point.z};
-    kdedTrans(place, &fromFrame, &toFrame, displacement, place);
-    return pointOf(place);
-}
-
-KdGePoint3d userToWorld(const KdGePoint3d& point, int displacement = 0) {
-    return converted(point, 1, 0, displacement);
-}
-
-KdGePoint3d worldToUser(const KdGePoint3d& point) {
-    return converted(point, 0, 1);
-}
-
 // In the current style and settings; null when there is nothing to draw.
 std::unique_ptr<KdDbMline> makeMline(Session& session, const Chain& chain) {
     std::vector<KdGePoint3d> points;
@@ -122,8 +101,8 @@ std::unique_ptr<KdDbMline> makeMline(Session& session, const Chain& chain) {
     for (const KdGePoint3d& point : chain.points) {
         points.push_back(userToWorld(point));
     }
-    const KdGePoint3d up = userToWorld({0.0, 0.0, 1.0}, 1);
-    return newMline(session.database(), points, chain.closed, {up.x, up.y, up.z});
+    return newMline(session.database(), points, chain.closed,
+                    userDirectionToWorld({0.0, 0.0, 1.0}));
 }
 
 // A multiline is flat: it stays on the level of its start.

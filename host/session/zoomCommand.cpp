@@ -1,8 +1,8 @@
 #include "HostCommand.h"
 #include "Session.h"
-#include "coordinateFrames.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
+#include "userFrame.h"
 
 #include <cmath>
 #include <string_view>
@@ -22,14 +22,8 @@ void zoomToCenter(Session& session) {
         rejectAnswer(L"the height of a view has to be above 0");
         return;
     }
-    resbuf user;
-    user.restype = kResultShort;
-    user.resval.rint = 1;
-    resbuf world;
-    world.restype = kResultShort;
-    world.resval.rint = 0;
-    kdedTrans(center, &user, &world, 0, center);
-    session.view().setView({center[0], center[1]}, height);
+    const KdGePoint3d world = userToWorld({center[0], center[1], center[2]});
+    session.view().setView({world.x, world.y}, height);
 }
 
 } // namespace

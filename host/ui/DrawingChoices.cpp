@@ -45,8 +45,7 @@ std::optional<KdCmColor> DrawingChoices::askColor(const KdCmColor& before) const
     if (!chosen.isValid()) {
         return std::nullopt;
     }
-    constexpr std::uint32_t kColorBits = 0xFFFFFF;
-    return fromRgb(chosen.rgb() & kColorBits);
+    return fromRgb(chosen.rgb() & kRgbBits);
 }
 
 DrawingChoices* setDrawingChoices(DrawingChoices* choices) {

@@ -1,5 +1,7 @@
 #include "CompactAppearance.h"
 
+#include "KdCmColor.h"
+
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -10,7 +12,6 @@ namespace {
 
 constexpr double kSteps = 65535.0; // of a side of the box
 constexpr std::size_t kChunkWords = std::size_t{1} << 18;
-constexpr std::uint32_t kColorBits = 0xFFFFFF;
 constexpr std::uint32_t kFillBit = 1U << 24U;
 
 std::uint32_t stepOf(double value, double low, double high) {
@@ -28,7 +29,7 @@ std::uint32_t firstRgb(const Appearance& appearance) {
                               : !appearance.fills.empty()  ? appearance.fills.front().rgb
                               : !appearance.labels.empty() ? appearance.labels.front().rgb
                                                            : 0U;
-    return rgb & kColorBits;
+    return rgb & kRgbBits;
 }
 
 float periodOf(const Stroke& stroke, const Appearance& appearance) {
@@ -63,7 +64,7 @@ bool CompactAppearance::next(Line& line) {
     }
     const std::uint32_t head = m_words[m_at];
     const std::size_t count = m_words[m_at + 2];
-    line = {(head & kFillBit) != 0, head & kColorBits, std::bit_cast<float>(m_words[m_at + 1]),
+    line = {(head & kFillBit) != 0, head & kRgbBits, std::bit_cast<float>(m_words[m_at + 1]),
             m_words.subspan(m_at + 3, count)};
     m_at += 3 + count;
     return true;
@@ -89,10 +90,10 @@ CompactAppearances::keep(std::uint32_t number, const Appearance& appearance, con
     words.push_back(firstRgb(appearance) | (appearance.fills.empty() ? 0U : kFillBit));
     words.push_back(std::bit_cast<std::uint32_t>(static_cast<float>(labelHeight)));
     for (const Fill& fill : appearance.fills) {
-        addPoints((fill.rgb & kColorBits) | kFillBit, 0.0F, fill.outline, box, words);
+        addPoints((fill.rgb & kRgbBits) | kFillBit, 0.0F, fill.outline, box, words);
     }
     for (const Stroke& stroke : appearance.strokes) {
-        addPoints(stroke.rgb & kColorBits, periodOf(stroke, appearance), stroke.points, box, words);
+        addPoints(stroke.rgb & kRgbBits, periodOf(stroke, appearance), stroke.points, box, words);
     }
     if (m_kept + words.size() > kMostWords) {
         return words; // made again whenever it is asked for

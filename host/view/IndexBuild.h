@@ -1,20 +1,14 @@
 #pragma once
 
+#include "Deadline.h"
 #include "PickIndex.h"
 
-#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <future>
 #include <vector>
 
 namespace orvex {
-
-using Deadline = std::chrono::steady_clock::time_point; // max() is never
-
-inline bool isOver(Deadline deadline) {
-    return deadline != Deadline::max() && std::chrono::steady_clock::now() >= deadline;
-}
 
 // Makes an index in steps, so that a program with a window can answer between them: boxes one by
 // one, then the packing of the tree, which can't be interrupted, beside the program.

@@ -1,14 +1,15 @@
 #include "arcs.h"
 
+#include "geometry.h"
+
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace orvex {
 
 namespace {
 
-constexpr double kTurn = 2.0 * std::numbers::pi;
+constexpr double kTurn = 2.0 * kPi;
 constexpr int kPiecesPerTurn = 144;
 
 // Bulges outside of this range are straight: below, the arc leaves its chord by less than rounding
@@ -27,10 +28,10 @@ void appendBulge(std::vector<KdGePoint3d>& chain, const KdGePoint3d& from, const
     }
     const KdGeVector3d chord = to - from;
     const double aside = (1.0 - bulge * bulge) / (4.0 * bulge);
-    const KdGePoint3d center = from + chord * 0.5 + crossOf(normal, chord) * aside;
+    const KdGePoint3d center = from + chord * 0.5 + cross(normal, chord) * aside;
     const KdGeVector3d radius = from - center;
     chain.pop_back();
-    appendArc(chain, center, radius, crossOf(normal, radius), 0.0, 4.0 * std::atan(bulge));
+    appendArc(chain, center, radius, cross(normal, radius), 0.0, 4.0 * std::atan(bulge));
     chain.back() = to;
 }
 

@@ -22,9 +22,4 @@ std::vector<KdGePoint3d> conicChain(const ConicShape& conic);
 // A polyline with its bulges rounded out, back to its first vertex when it is closed.
 std::vector<KdGePoint3d> polylineChain(const PolylineShape& polyline);
 
-// The cross product of two vectors.
-inline KdGeVector3d crossOf(const KdGeVector3d& a, const KdGeVector3d& b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-
 } // namespace orvex

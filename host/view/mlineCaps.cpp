@@ -1,9 +1,9 @@
 #include "arcs.h"
+#include "geometry.h"
 #include "mlineParts.h"
 
 #include <array>
 #include <cmath>
-#include <numbers>
 
 namespace orvex {
 
@@ -51,16 +51,16 @@ void drawHalfCircle(const MlineChain& chain, const ChainEnd& end, unsigned first
     const KdGeVector3d radius = from - center;
     const double size = radius.length();
     const KdGeVector3d outward = end.outward(chain);
-    const double dot = outward.x * radius.x + outward.y * radius.y + outward.z * radius.z;
+    const double along = dot(outward, radius);
     // Only what is square to the radius, for the miter may be slanting.
-    KdGeVector3d top = outward - radius * (size > 0.0 ? dot / (size * size) : 0.0);
+    KdGeVector3d top = outward - radius * (size > 0.0 ? along / (size * size) : 0.0);
     const double topSize = top.length();
     if (!(size > 0.0 && topSize > 0.0)) {
         return;
     }
     top = top * (size / topSize);
     std::vector<KdGePoint3d> arc;
-    appendArc(arc, center, radius, top, 0.0, std::numbers::pi);
+    appendArc(arc, center, radius, top, 0.0, kPi);
     sink.crossing(arc, StrokeRole::cap, first, second);
 }
 

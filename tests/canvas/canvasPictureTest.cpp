@@ -145,7 +145,7 @@ TEST_F(EditedCanvas, anEditPaintsNoMoreThanItsPlace) {
     PlanPicture whole;
     whole.setScene(&session->scene());
     whole.setView(session->view(), 1.0);
-    const auto never = PlanPicture::Deadline::max();
+    const auto never = Deadline::max();
     (void)session->scene().takeDifference();
     whole.paintSome(never);
     ASSERT_TRUE(whole.isComplete());

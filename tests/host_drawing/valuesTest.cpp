@@ -46,12 +46,6 @@ TEST(NumberText, readsWhatProgramsWriteAndNothingElse) {
     for (const char* const text : {"", "3.0", "2147483648", "F"}) {
         EXPECT_FALSE(parseInteger(text, integer)) << text;
     }
-    std::uint64_t handle = 0;
-    EXPECT_TRUE(parseHandle("fFfFfFfFfFfFfFfF", handle));
-    EXPECT_EQ(handle, std::numeric_limits<std::uint64_t>::max());
-    for (const char* const text : {"", "G", "-1", "10000000000000000", "0x1"}) {
-        EXPECT_FALSE(parseHandle(text, handle)) << text;
-    }
 }
 
 TEST(NumberText, writesWhatReadsBackTheSame) {
@@ -61,8 +55,6 @@ TEST(NumberText, writesWhatReadsBackTheSame) {
     EXPECT_EQ(realText(1e21), "1e+21");
     EXPECT_EQ(realText(1.0 / 3.0), "0.3333333333333333");
     EXPECT_EQ(realText(std::numeric_limits<double>::infinity()), "0.0");
-    EXPECT_EQ(handleText(0xABC12), "ABC12");
-    EXPECT_EQ(handleText(0), "0");
 }
 
 TEST(DrawingText, readsAndWritesInTheFilesCodePage) {

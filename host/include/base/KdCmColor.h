@@ -51,6 +51,8 @@ private:
 namespace orvex {
 
 // 0xRRGGBB of a colour index from 1 to 255 on a dark ground (7 is white).
+constexpr std::uint32_t kRgbBits = 0xFFFFFF; // of a colour that has more beside them
+
 std::uint32_t paletteRgb(std::uint16_t index);
 
 // The index from 1 to 255 whose colour lies nearest.

@@ -11,5 +11,6 @@ std::string narrow(std::wstring_view text);
 
 // Upper case by simple folding, locale-free; names of symbols compare equal when their folds do.
 std::wstring foldCase(std::wstring_view text);
+bool equalWithoutCase(std::wstring_view a, std::wstring_view b);
 
 } // namespace orvex
