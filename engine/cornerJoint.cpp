@@ -23,6 +23,24 @@ int partnerOfMore(int element, int otherCount, bool oppositeEnds, bool keepStart
     return oppositeEnds ? 0 : std::min(element, otherCount - 1);
 }
 
+// Which element of the other multiline an element joins.
+//
+// `count` elements in the multiline at hand, `otherCount` in the other. `oppositeEnds` says that
+// one of the two keeps its start side and the other its end side, `keepStart` which side the one
+// at hand keeps. The outer elements always join outer ones.
+int cornerPartner(int element, int count, int otherCount, bool oppositeEnds, bool keepStart) {
+    if (element == 0) {
+        return oppositeEnds ? 0 : otherCount - 1;
+    }
+    if (element == count - 1) {
+        return oppositeEnds ? otherCount - 1 : 0;
+    }
+    if (count >= otherCount) {
+        return partnerOfMore(element, otherCount, oppositeEnds, keepStart);
+    }
+    return keepStart ? element : otherCount - 1 - element;
+}
+
 // Joining one multiline takes its first and last segment, whichever two were picked.
 void takeOuterSegments(CMlineSegment& first, CMlineSegment& second) {
     const bool inOrder = first.m_segment <= second.m_segment;
@@ -182,19 +200,6 @@ StepOutcome stepCornerJoint(CMlineEdit& run) {
     }
     joinTwo(run, corner, firstKeepsStart, secondKeepsStart);
     return StepOutcome::done;
-}
-
-int cornerPartner(int element, int count, int otherCount, bool oppositeEnds, bool keepStart) {
-    if (element == 0) {
-        return oppositeEnds ? 0 : otherCount - 1;
-    }
-    if (element == count - 1) {
-        return oppositeEnds ? otherCount - 1 : 0;
-    }
-    if (count >= otherCount) {
-        return partnerOfMore(element, otherCount, oppositeEnds, keepStart);
-    }
-    return keepStart ? element : otherCount - 1 - element;
 }
 
 } // namespace mledit

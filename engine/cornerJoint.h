@@ -10,11 +10,4 @@ namespace mledit {
 
 StepOutcome stepCornerJoint(CMlineEdit& run);
 
-// Which element of the other multiline an element joins.
-//
-// `count` elements in the multiline at hand, `otherCount` in the other. `oppositeEnds` says that
-// one of the two keeps its start side and the other its end side, `keepStart` which side the one
-// at hand keeps. The outer elements always join outer ones.
-int cornerPartner(int element, int count, int otherCount, bool oppositeEnds, bool keepStart);
-
 } // namespace mledit

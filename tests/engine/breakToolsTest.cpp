@@ -79,16 +79,6 @@ TEST_F(BreakTools, cutStopsAtWhatDoesntExist) {
     EXPECT_EQ(lists(seg.m_mline, 0), "1 0 | -1 0");
 }
 
-TEST_F(BreakTools, aSecondPickElsewhereRepeatsThePrompt) {
-    KdDbMline* const mline = add("0,0 10,0 : 1 -1");
-    KdDbMline* const other = add("0,5 10,5 : 0");
-    play(cutSingle, {pickAt(mline, "3,-1"), pickAt(other, "3,5"), miss(), pickAt(mline, "5,-1")});
-    EXPECT_EQ(lists(mline, 0), "1 0 | -1 0 3 5");
-    EXPECT_EQ(user.prompts,
-              (std::vector<std::wstring>{L"#4011", L"#4012", L"#4012", L"#4012", L"#4010 [UNDO]"}));
-    EXPECT_TRUE(user.lines.empty());
-}
-
 // Segment 1 of the longer multiline doesn't exist on the shorter one.
 TEST_F(BreakTools, anOldPickBeyondTheNewMultilineEndsTheCycle) {
     KdDbMline* const corner = add("0,0 10,0 10,10 : 1 -1");
@@ -123,27 +113,6 @@ TEST_F(BreakTools, weldTakesEveryBreakBetweenThePicks) {
     }
     playAll(weldAll, mline, "24,1 3,1");
     EXPECT_EQ(drawn(mline), "0,0 (1 0 | -1 2) 10,0 (1 0 | -1 0) 20,0 (1 5 | -1 0 6) 30,0");
-}
-
-// A lower pick on a vertex goes over to the segment behind in the lower half of the chain alone;
-// where it stays, it takes the break near the end of its segment along. The element mapped next
-// still finds the new segment, with the distance in the old one: its ends change places, so what
-// lies outside them goes.
-TEST_F(BreakTools, weldGivesAVertexToTheSegmentBehindInTheLowerHalf) {
-    const struct {
-        int vertex;
-        std::string picks, before, behind;
-    } cases[] = {{1, "10,1 14,1", "1 0 9.8 | -1", "1 5 | -1 0 3"},
-                 {3, "30,1 34,1", "1 0 | -1 0", "1 5 | -1 5"}};
-    for (const auto& c : cases) {
-        KdDbMline* const mline = add("0,0 10,0 20,0 30,0 40,0 50,0 : 1 -1"); // half of six is 3
-        setBreaks(mline, c.vertex - 1, {{0, 9.8}, {0, 9.8}});
-        setBreaks(mline, c.vertex, {{0, 3, 5}, {0, 3, 5}});
-        playAll(weldAll, mline, c.picks);
-        EXPECT_EQ(lists(mline, c.vertex - 1), c.before);
-        EXPECT_EQ(lists(mline, c.vertex), c.behind);
-        mline->erase();
-    }
 }
 
 } // namespace

@@ -98,13 +98,6 @@ TEST_F(EditCycle, takesBackTheLastCycleAlone) {
     EXPECT_EQ(display.events, (Events{"refresh", "refresh", "show A"}));
 }
 
-TEST_F(EditCycle, offersUndoOnlyAtTheFirstPrompt) {
-    orvex::PromptSession::current().armedKeywords = L"STALE";
-    play({onA, onB, onA, keyword(L"UNDO")});
-    EXPECT_EQ(user.prompts, (Prompts{L"#4004", L"#4005", L"#4003 [UNDO]", L"#4005"}));
-    EXPECT_EQ(marks(a), 1U);
-}
-
 TEST_F(EditCycle, copiesTheSecondEntityForToolsThatChangeIt) {
     run.marksSecond = true;
     play({onA, onB, keyword(L"UNDO")});

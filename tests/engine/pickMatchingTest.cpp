@@ -75,14 +75,6 @@ TEST_F(PickMatching, onlyWhatIsDrawnIsPicked) {
     EXPECT_TRUE(missed(pickAt(mline, 2.0, 0.0)));
 }
 
-// The offset at the front of the list takes part in the search for the stretch.
-TEST_F(PickMatching, nearTheStartAnElementWithALargerOffsetIsRefused) {
-    KdDbMline* const mline = addMline({{0, 0, 0}, {10, 0, 0}}, {2.0, -2.0});
-    EXPECT_TRUE(missed(pickAt(mline, 1.5, 2.0)));
-    EXPECT_FALSE(missed(pickAt(mline, 2.0, 2.0)));
-    EXPECT_EQ(pickAt(mline, 1.5, -2.0).m_element, 1) << "a negative offset never is";
-}
-
 TEST_F(PickMatching, withoutAViewNothingIsWithinTheAperture) {
     view.links = 2;
     KdDbMline* const mline = addMline(kStraight, {0.0});

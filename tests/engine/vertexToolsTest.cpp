@@ -36,18 +36,6 @@ TEST_F(VertexTools, addEndsEveryRunAtTheNewVertex) {
     EXPECT_EQ(directions(square, 4), "0,-1 / 1,0");
 }
 
-TEST_F(VertexTools, addIsRefusedWhereAnElementPassesAVertex) {
-    KdDbMline* const onChain = add("0,0 10,0 : 0");
-    addAt(onChain, 0, 0);
-    EXPECT_EQ(chain(onChain), "0,0 10,0");
-    EXPECT_TRUE(isUndoOffered());
-    // Without an element on the chain a second vertex lands on the first.
-    KdDbMline* const beside = add("0,5 10,5 : 1 -1");
-    addAt(beside, 0, 4);
-    EXPECT_EQ(chain(beside), "0,5 0,5 10,5");
-    EXPECT_EQ(lists(beside, 0), "1 | -1") << "no run on a segment without length";
-}
-
 // Straight, so that all offsets stay 1 and -1 but for the miters: the style's ends stand at 30 and
 // 150 degrees, whose sines are a half.
 TEST_F(VertexTools, deleteTurnsTheNeighboursAsItsRulesSay) {
@@ -84,15 +72,6 @@ TEST_F(VertexTools, deleteTurnsTheNeighboursAsItsRulesSay) {
     }
 }
 
-// Offsets are always measured at the old vertex 0 against the new first segment: both elements
-// pass it 4 above.
-TEST_F(VertexTools, deleteOfABentBeginningMeasuresOffsetsThere) {
-    setStyle({1, -1});
-    KdDbMline* const mline = add("0,4 0,0 10,0 : 1 -1");
-    deleteAt(mline, 1, 3);
-    EXPECT_EQ(drawn(mline), "0,0 (4 0 | 4 0) 10,0");
-}
-
 TEST_F(VertexTools, deleteLeavesTheLeastThatAMultilineNeeds) {
     KdDbMline* const two = add("0,0 10,0 : 1 -1");
     KdDbMline* const triangle = add("20,0 30,0 30,10 : 1 -1 closed");
@@ -101,28 +80,6 @@ TEST_F(VertexTools, deleteLeavesTheLeastThatAMultilineNeeds) {
         deleteAt(mline, mline == two ? 2 : 25, 1);
         EXPECT_TRUE(mline->content()->equals(*before));
         EXPECT_TRUE(isUndoOffered());
-    }
-}
-
-TEST_F(VertexTools, deleteAroundTheClosingVertex) {
-    // The corner that goes, by a pick near it, and the triangle that stays: a diagonal and two
-    // sides. The square corner opposite keeps its miter.
-    const struct {
-        double x, y;
-        std::string chain;
-        int opposite;
-        std::string directions;
-    } cases[] = {
-        {1, 2, "10,0 10,10 0,10", 1, "-1,0 / -0.707106781,-0.707106781"}, // 0, by the closing one
-        {8, 1, "0,0 10,10 0,10", 2, "0,-1 / 0.707106781,-0.707106781"},   // 1
-        {2, 9, "0,0 10,0 10,10", 1, "0,1 / -0.707106781,0.707106781"},    // 3
-    };
-    for (const auto& c : cases) {
-        KdDbMline* const mline = add("0,0 10,0 10,10 0,10 : 1 -1 closed");
-        deleteAt(mline, c.x, c.y);
-        EXPECT_EQ(chain(mline), c.chain);
-        EXPECT_EQ(directions(mline, c.opposite), c.directions);
-        mline->erase();
     }
 }
 

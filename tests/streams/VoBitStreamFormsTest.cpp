@@ -161,17 +161,6 @@ TEST_F(VoBitStreamFormsTest, numbersWithoutAFormAreRefused) {
     EXPECT_EQ(reports().size(), 2U);
 }
 
-TEST_F(VoBitStreamFormsTest, aFloatIsReadWithoutTouchingItsNeighbour) {
-    VoFlatMemBuf buffer;
-    VoBitStream stream(&buffer);
-    stream.writeDouble(2.5);
-    stream.seek(0, VoIO::fromStart);
-    float pair[2] = {0.0F, 7.0F};
-    stream.readFloat(pair[0]);
-    EXPECT_EQ(pair[0], 2.5F);
-    EXPECT_EQ(pair[1], 7.0F);
-}
-
 TEST_F(VoBitStreamFormsTest, aValueThatIsCutOffGivesZerosForWhatIsMissing) {
     VoFlatMemBuf buffer;
     fill(buffer, {0x00, 0xC0});

@@ -71,14 +71,6 @@ TEST_F(VoBitStreamTest, writesAndReadsAreThoseOfARowOfBits) {
     }
 }
 
-TEST_F(VoBitStreamTest, oneBitInCommonWithTheTestIsEnough) {
-    VoFlatMemBuf buffer;
-    VoBitStream stream(&buffer);
-    stream.writeBit(2, 3);
-    stream.writeBit(2, 4);
-    EXPECT_EQ(bitsFrom(stream, 0), "10");
-}
-
 TEST_F(VoBitStreamTest, otherNumbersOfBitsAndNoBufferDoNothing) {
     VoFlatMemBuf buffer;
     fill(buffer, {0xFF, 0xFF});

@@ -193,30 +193,4 @@ TEST_F(VoDwgStreamTest, aCountBeyondTheStreamGivesAnEmptyText) {
     EXPECT_THAT(reports(), ElementsAre(kBitsReport));
 }
 
-TEST_F(VoDwgStreamTest, theCountOfALongTextIsCutAndItsCharactersAreNot) {
-    const struct {
-        std::size_t length;
-        std::uint64_t narrowBits, wideBits;
-        int read;
-    } cases[] = {{32767, 18 + 32767 * 8, 18 + 32767 * 16, 32767},
-                 {40000, 18 + 40000 * 8, 18 + 40000 * 16, 0},
-                 {65536, 2 + 65536 * 8, 2, 0}, // in 16 bits the count is 0
-                 {65537, 10 + 65537 * 8, 10 + 65537 * 16, 1}};
-    for (const auto& each : cases) {
-        const std::wstring text(each.length, L'x');
-        VoFlatMemBuf buffer;
-        VoDwgStream narrow(&buffer);
-        narrow.writeString(text.c_str());
-        EXPECT_EQ(narrow.length(), each.narrowBits);
-        VoFlatMemBuf other;
-        VoDwgR21Stream wide(&other);
-        wide.writeString(text.c_str());
-        EXPECT_EQ(wide.length(), each.wideBits);
-        Text got(L"old");
-        narrow.seek(0, VoIO::fromStart);
-        narrow.readString(got);
-        EXPECT_EQ(got.GetLength(), each.read);
-    }
-}
-
 } // namespace
