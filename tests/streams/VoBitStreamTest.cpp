@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <random>
+#include <sstream>
 
 namespace {
 
@@ -136,48 +137,64 @@ TEST_F(VoBitStreamTest, singleBitsAreReadUpToTheBuffersEnd) {
     EXPECT_THAT(reports(), ElementsAre(kBitsReport));
 }
 
-struct Seek {
-    std::uint64_t offset;
-    int type;
-    std::uint64_t place;
-    bool refused = false;
+// Where each type of seek leads to, written "offset>position"; "x" where it is refused.
+struct Seeks {
+    VoIO::SeekType type;
+    const char* offsets;
 };
 
+template <class Seek>
+void checkSeeks(const std::vector<Seeks>& table, Seek&& seek) {
+    for (const Seeks& row : table) {
+        std::istringstream in(row.offsets);
+        std::string word;
+        while (in >> word) {
+            const std::size_t mark = word.find('>');
+            const std::string offset = word.substr(0, mark);
+            EXPECT_EQ(seek(offset == "far" ? kFar : std::stoull(offset), row.type),
+                      word.substr(mark + 1))
+                << word << " of type " << row.type;
+        }
+    }
+}
+
+constexpr auto kNoSeek = static_cast<VoIO::SeekType>(4);
+
 TEST_F(VoBitStreamTest, seeksBitsWithinTheLength) {
-    const Seek fromTenOfTwenty[] = {
-        {0, 0, 0},  {13, 0, 13}, {20, 0, 20}, {21, 0, 10, true}, {kFar - 5, 1, 10, true},
-        {0, 1, 10}, {10, 1, 20}, {5, 4, 10},  {11, 1, 10, true}, {kFar, 1, 10, true},
-        {3, 2, 7},  {10, 2, 0},  {5, -1, 10}, {11, 2, 10, true}, {kFar, 2, 10, true},
-        {0, 3, 20}, {20, 3, 0},  {0, 2, 10},  {21, 3, 10, true},
-    };
     VoFlatMemBuf buffer;
     fill(buffer, {0x12, 0x34, 0x56});
-    for (const Seek& each : fromTenOfTwenty) {
-        VoBitStream stream(&buffer, 20);
-        stream.seek(10, VoIO::fromStart);
-        EXPECT_EQ(stream.seek(each.offset, static_cast<VoIO::SeekType>(each.type)), each.place)
-            << each.offset << ' ' << each.type;
-        EXPECT_EQ(reports(), Reports(each.refused ? 1 : 0, kBufferReport));
-        EXPECT_EQ(bitsFrom(stream, each.place).size(), 20 - each.place);
-    }
+    checkSeeks({{VoIO::fromStart, "0>0 13>13 20>20 21>x"},
+                {VoIO::forward, "0>10 10>20 11>x far>x"},
+                {VoIO::backward, "0>10 3>7 10>0 11>x far>x"},
+                {VoIO::fromEnd, "0>20 20>0 21>x"},
+                {kNoSeek, "5>10"}},
+               [&](std::uint64_t offset, VoIO::SeekType type) {
+                   VoBitStream stream(&buffer, 20); // of 24 bits
+                   stream.seek(10, VoIO::fromStart);
+                   const std::uint64_t position = stream.seek(offset, type);
+                   const bool refused = reports() == Reports{kBufferReport};
+                   EXPECT_EQ(bitsFrom(stream, position).size(), 20 - position);
+                   return refused && position == 10 ? "x" : std::to_string(position);
+               });
     EXPECT_EQ(VoBitStream(nullptr).seek(1, VoIO::fromStart), 0U);
 }
 
 TEST_F(VoBitStreamTest, seeksBytesWithinTheBufferAndKeepsTheBit) {
-    const Seek fromTwoOfFive[] = {
-        {0, 0, 0},          {4, 0, 4},          {5, 0, 2, true}, {2, 1, 4},       {3, 1, 2, true},
-        {kFar, 1, 2, true}, {1, 2, 1},          {0, 3, 5},       {2, 2, 2, true}, {4, 3, 1},
-        {5, 3, 2, true},    {kFar, 2, 2, true}, {1, 4, 2},
-    };
     VoFlatMemBuf buffer;
     fill(buffer, {1, 2, 3, 4, 5});
-    for (const Seek& each : fromTwoOfFive) {
-        VoBitStream stream(&buffer, 40);
-        stream.seek(2 * 8 + 3, VoIO::fromStart);
-        stream.seekByte(each.offset, static_cast<VoIO::SeekType>(each.type));
-        EXPECT_EQ(stream.tell(), each.place * 8 + 3) << each.offset << ' ' << each.type;
-        EXPECT_EQ(reports(), Reports(each.refused ? 1 : 0, L"Error status 3"));
-    }
+    checkSeeks({{VoIO::fromStart, "0>0 4>4 5>x"},
+                {VoIO::forward, "2>4 3>x far>x"},
+                {VoIO::backward, "1>1 2>x far>x"},
+                {VoIO::fromEnd, "0>5 4>1 5>x"},
+                {kNoSeek, "1>2"}},
+               [&](std::uint64_t offset, VoIO::SeekType type) {
+                   VoBitStream stream(&buffer, 40);
+                   stream.seek(2 * 8 + 3, VoIO::fromStart);
+                   stream.seekByte(offset, type);
+                   EXPECT_EQ(stream.tell() % 8, 3U);
+                   const bool refused = reports() == Reports{L"Error status 3"};
+                   return refused && stream.tell() == 19 ? "x" : std::to_string(stream.tell() / 8);
+               });
     VoBitStream(nullptr).seekByte(1, VoIO::fromStart);
 }
 

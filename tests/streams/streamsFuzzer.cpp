@@ -42,14 +42,6 @@ void readForm(VoDwgStream& stream) {
     require(again == value);
 }
 
-// The same for what doesn't come back as it was.
-template <class T, auto read, auto write>
-void pass(VoDwgStream& stream) {
-    T value{};
-    (stream.*read)(value);
-    (stream.*write)(value);
-}
-
 template <class Character>
 void readRawText(VoDwgStream& stream) {
     Character* text = nullptr;
@@ -63,57 +55,37 @@ void readUnicodeText(VoDwgStream& stream) {
     kdutDelString(text);
 }
 
-template <auto read>
-void readId(VoDwgStream& stream) {
-    KdDbObjectId id;
-    (stream.*read)(id);
-    require(id.isNull());
-}
-
-void readAnyId(VoDwgStream& stream) {
+void readIds(VoDwgStream& stream) {
     KdDbObjectId id;
     std::uint8_t type = 0;
+    stream.readHardOwnershipId(id);
     stream.readObjectId(id, &type);
     require(type < 4 && id.isNull());
 }
 
-void readCharAndAddress(VoDwgStream& stream) {
-    char value = 0;
-    stream.readChar(value);
-    void* address = nullptr;
-    stream.readAddress(address);
+void readHandle(VoDwgStream& stream) {
+    KdDbHandle handle;
+    stream.readHandle(handle);
+    stream.writeHandle(handle);
 }
 
-constexpr auto passText =
-    pass<CStdStr<wchar_t>, &VoDwgStream::readString, &VoDwgStream::writeString>;
-constexpr Step kTexts[] = {readRawText<char>, readRawText<wchar_t>, readUnicodeText, passText,
-                           passText};
+void readText(VoDwgStream& stream) {
+    CStdStr<wchar_t> text;
+    stream.readString(text);
+    stream.writeString(text);
+}
 
-constexpr Step kReferences[] = {
-    pass<KdDbHandle, &VoDwgStream::readHandle, &VoDwgStream::writeHandle>,
-    readId<&VoDwgStream::readHardOwnershipId>,
-    readId<&VoDwgStream::readSoftPointerId>,
-    readAnyId,
-};
-
+constexpr Step kTexts[] = {readRawText<char>, readRawText<wchar_t>, readUnicodeText, readText};
+constexpr Step kReferences[] = {readHandle, readIds};
 constexpr Step kValues[] = {
     readForm<std::uint8_t, &S::readUInt8, &S::writeUInt8>,
     readForm<std::uint16_t, &S::readUInt16, &S::writeUInt16>,
     readForm<std::int32_t, &S::readInt32, &S::writeInt32>,
     readForm<std::uint64_t, &S::readRawUInt64, &S::writeRawUInt64>,
-    readForm<wchar_t, &S::readWChar, &S::writeWChar>,
     readForm<bool, &S::readBool, &S::writeBool>,
     readForm<double, &S::readDouble, &S::writeDouble>,
-    readForm<double, &S::readRawDouble, &S::writeRawDouble>,
-    readForm<KdGePoint2d, &S::readPoint2d, &S::writePoint2d>,
-    readForm<KdGePoint3d, &S::readPoint3d, &S::writePoint3d>,
-    readForm<KdGeVector3d, &S::readVector3d, &S::writeVector3d>,
-    readForm<KdGeScale2d, &S::readScale2d, &S::writeScale2d>,
     readForm<KdGeMatrix2d, &S::readMatrix2d, &S::writeMatrix2d>,
     readForm<KdGeMatrix3d, &S::readMatrix3d, &S::writeMatrix3d>,
-    pass<std::int64_t, &S::readInt64, &S::writeInt64>,
-    pass<float, &S::readFloat, &S::writeFloat>,
-    readCharAndAddress,
 };
 
 void play(std::span<const Step> steps, unsigned kind, VoDwgStream& stream) {
