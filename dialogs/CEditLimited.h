@@ -8,7 +8,6 @@ class CEditLimited : public CEdit {
 public:
     // 0 and less leave the limit.
     void SetMaxWords(int limit) { m_maxWords = limit > 0 ? limit : m_maxWords; }
-    [[nodiscard]] int maxWords() const { return m_maxWords; }
 
     // Takes no notification while the field notifies, which it always does.
     bool OnChildNotify(unsigned message, unsigned long wParam, long lParam, long* result) override {

@@ -76,6 +76,16 @@ std::vector<wchar_t*> pointersTo(std::vector<std::wstring>& names) {
     return pointers;
 }
 
+std::wstring storedLinetype(const std::wstring& shown) {
+    if (isSame(shown, local(kByLayer))) {
+        return L"ByLayer";
+    }
+    if (isSame(shown, local(kByBlock))) {
+        return L"ByBlock";
+    }
+    return isSame(shown, local(kContinuous)) ? shown : L"Continuous";
+}
+
 } // namespace
 
 std::wstring localByLayer() {
@@ -99,16 +109,6 @@ std::vector<ElementRow> elementRows(const KdDbMlineStyle& style) {
         rows.push_back(std::move(row));
     }
     return rows;
-}
-
-std::wstring storedLinetype(const std::wstring& shown) {
-    if (isSame(shown, local(kByLayer))) {
-        return L"ByLayer";
-    }
-    if (isSame(shown, local(kByBlock))) {
-        return L"ByBlock";
-    }
-    return isSame(shown, local(kContinuous)) ? shown : L"Continuous";
 }
 
 void setElementRows(KdDbMlineStyle& style, const std::vector<ElementRow>& rows,

@@ -28,11 +28,8 @@ std::wstring shownColor(const KdCmColor& color);
 
 std::wstring localByLayer();
 
-// What is written for a line type in a row. The dialog keeps by layer, by block and Continuous
-// alone; any other name is Continuous.
-std::wstring storedLinetype(const std::wstring& shown);
-
-// Makes the rows the style's elements, in their order. Of a colour the index is kept and a name
+// Makes the rows the style's elements, in their order. Of the line types by layer, by block and
+// Continuous are kept; any other becomes Continuous. Of a colour the index is kept and a name
 // from a colour book, as SetElemName does it; true colours aren't. The style is open for write, or
 // in no database; line types are those of `database`, null leaves them out.
 void setElementRows(KdDbMlineStyle& style, const std::vector<ElementRow>& rows,

@@ -38,11 +38,8 @@ TEST_F(ItemResizer, theEdgeThatIsDraggedStopsAtTheSizeOfTheFirstItemsMoment) {
     resizer.Add(&logic, 1, RESIZE_LOCKALL); // 300 by 200 it is
     view.setGeometry(100, 50, 400, 300);
     resizer.Add(&logic, 1, RESIZE_LOCKTOPLEFT);
-    struct Case {
-        CRect dragged;
-        CRect held;
-    };
-    const Case cases[] = {
+    const std::pair<CRect, CRect> cases[] = {
+        // dragged to, held at
         {{100, 50, 150, 350}, {100, 50, 400, 350}},   // the right edge inward
         {{450, 50, 500, 350}, {200, 50, 500, 350}},   // the left one
         {{100, 50, 500, 60}, {100, 50, 500, 250}},    // the lower one
@@ -50,8 +47,8 @@ TEST_F(ItemResizer, theEdgeThatIsDraggedStopsAtTheSizeOfTheFirstItemsMoment) {
         {{100, 50, 400, 250}, {100, 50, 400, 250}},   // as small as may be
         {{90, 40, 520, 360}, {90, 40, 520, 360}},
     };
-    for (const Case& each : cases) {
-        EXPECT_EQ(sized(&logic, each.dragged), each.held) << each.dragged.left;
+    for (const auto& [dragged, held] : cases) {
+        EXPECT_EQ(sized(&logic, dragged), held) << dragged.left;
     }
     EXPECT_EQ(sized(nullptr, tiny), tiny);
     EXPECT_EQ(sized(logic.GetDlgItem(99), tiny), tiny);

@@ -78,7 +78,7 @@ protected:
     std::unique_ptr<CMlineStyleDialog> m_dialog;
 };
 
-TEST_F(StyleManager, tellsByItsButtonsWhatMayBeDone) {
+TEST_F(StyleManager, enablesTheButtonsOfWhatMayBeDone) {
     const struct {
         const char* style;
         const char* current;
@@ -266,7 +266,7 @@ TEST(StyleSample, spreadsTheElementsOverTheHeight) {
     EXPECT_THAT(makeStyleSample(0, {1.0, 2.0}, {0.0, 0.0}).distances[0], ElementsAre(0.0, 0.0));
 }
 
-TEST_F(StyleManager, buildsASampleThatLeavesTheDrawingsViewBehind) {
+TEST_F(StyleManager, buildsASampleAndChangesTheDrawingsView) {
     const auto scaleAfter = [](const KdDbMlineStyle* style) {
         EXPECT_EQ(TKL_MlstyleBitmap(100, 50, const_cast<KdDbMlineStyle*>(style)), nullptr);
         resbuf scale;

@@ -13,12 +13,11 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QScrollBar>
 #include <QTableWidget>
 
 #include <gmock/gmock.h>
 
-#include <cmath>
+#include <array>
 #include <functional>
 
 using orvex::testing::child;
@@ -30,14 +29,6 @@ namespace {
 
 constexpr double kDegree = 3.141592653589793 / 180.0;
 
-KdCmColor color(std::uint32_t value) { // with the method in the top byte
-    KdCmColor made;
-    made.setColor(value);
-    return made;
-}
-constexpr std::uint32_t kTrue = 0xC2000000U;
-constexpr std::uint32_t kIndex = 0xC3000000U;
-
 class ModifyDialog : public StyleWorld {
 protected:
     ModifyDialog() : m_beeperBefore(orvex::setBeeper([this] { ++m_beeps; })) {
@@ -45,12 +36,14 @@ protected:
         addStyle(L"Wall", L"brick");
         KdDbMlineStyle& wall = open(L"Wall");
         wall.setFilled(true);
-        wall.setFillColor(color(kTrue | 0xFF8000U));
+        KdCmColor fill;
+        fill.setColor(0xC2FF8000U);
+        wall.setFillColor(fill);
         wall.setStartAngle(45.678 * kDegree);
-        SetNumElements(&wall, 0);
-        add(wall, -0.25, color(kTrue | 0x0080FFU));
-        add(wall, 0.25, color(kIndex | 1U));
-        add(wall, 0.0, color(kIndex | 30U));
+        SetNumElements(&wall, 3);
+        SetElemOffset(&wall, std::array{-0.25, 0.25, 0.0}.data(), 3);
+        SetElemColor(&wall, std::array{0, 1, 30}.data(), 3);
+        SetElemRgb(&wall, std::array{0x0080FFU, ~0U, ~0U}.data(), 3);
         std::wstring names[] = {L"DASHED", L"ByBlock", L"Continuous"};
         wchar_t* linetypes[] = {names[0].data(), names[1].data(), names[2].data()};
         SetElemLtype(&wall, linetypes, 3, curDoc()->database());
@@ -66,13 +59,6 @@ protected:
         KdDbMlineStyle* found = nullptr;
         kddbOpenObject(found, styleId(name), kForWrite);
         return *found;
-    }
-
-    // An element of the line type that the standard's have.
-    void add(KdDbMlineStyle& to, double offset, const KdCmColor& color) const {
-        int index = to.numElements();
-        to.addElement(index, offset, color, style(L"STANDARD")->values().elements[0].linetype,
-                      true);
     }
 
     // "offset colour line type" of each element.

@@ -134,7 +134,7 @@ TEST_F(StyleLibrary, readsBackWhatTheFormatKeeps) {
     EXPECT_TRUE(style.values().equals(kept));
 }
 
-TEST_F(StyleLibrary, tellsColorBooksAndOnlyTheLinetypesThatExist) {
+TEST_F(StyleLibrary, writesColorBooksAndOnlyTheLinetypesThatExist) {
     KdDbMlineStyle style = wall();
     KdCmColor fill;
     fill.setNamesFromDictionaryKey(L"BOOK$sand");
@@ -324,7 +324,7 @@ TEST_F(StyleLibrary, thatIsShippedLoadsWhole) {
 }
 
 // Four bytes at a time make a character, so no line of a library is "2".
-TEST_F(StyleLibrary, isNothingToTheSearchByBytes) {
+TEST_F(StyleLibrary, isntFoundByTheSearchByBytes) {
     std::wstring path = write(kWall);
     std::wstring name = L"WALL";
     EXPECT_FALSE(FindStyleName(path.data(), name.data()));

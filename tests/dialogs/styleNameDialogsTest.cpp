@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include <tuple>
+
 using orvex::testing::child;
 using orvex::testing::runDialog;
 using orvex::testing::StyleWorld;
@@ -27,12 +29,8 @@ bool takes(CDialog& dialog, const char* button, const std::wstring& name) {
 }
 
 TEST_F(StyleNameDialogs, letAnAllowedNamePass) {
-    struct Name {
-        std::wstring typed;
-        bool forNew;
-        bool forRenaming;
-    };
-    std::vector<Name> names{
+    std::vector<std::tuple<std::wstring, bool, bool>> names{
+        // typed, for new, for renaming
         {L"A", true, true},
         {L"", false, false},
         {L"Storey2", true, true},
@@ -47,7 +45,7 @@ TEST_F(StyleNameDialogs, letAnAllowedNamePass) {
         {std::wstring(3000, L'x'), true, true}, // nobody enforces a length
     };
     for (const wchar_t refused : std::wstring(LR"(~`!@#%^&*()=+[]\{}|:;'"<>?/,. )")) {
-        names.push_back({std::wstring(L"A") + refused + L"B", false, false});
+        names.emplace_back(std::wstring(L"A") + refused + L"B", false, false);
     }
     CMlstyleNewDlg fresh(nullptr);
     CMlstyleRenameDlg renamed(nullptr);
@@ -55,15 +53,15 @@ TEST_F(StyleNameDialogs, letAnAllowedNamePass) {
     renamed.m_oldName = L"Wall-2";
     runDialog(fresh, [&] {
         EXPECT_FALSE(child<QPushButton>(fresh, "pBtnContinue").isEnabled());
-        for (const Name& name : names) {
-            EXPECT_EQ(takes(fresh, "pBtnContinue", name.typed), name.forNew) << name.typed;
+        for (const auto& [name, forNew, forRenaming] : names) {
+            EXPECT_EQ(takes(fresh, "pBtnContinue", name), forNew) << name;
         }
         fresh.OnCancel();
     });
     runDialog(renamed, [&] {
         EXPECT_FALSE(child<QPushButton>(renamed, "pBtnOK").isEnabled());
-        for (const Name& name : names) {
-            EXPECT_EQ(takes(renamed, "pBtnOK", name.typed), name.forRenaming) << name.typed;
+        for (const auto& [name, forNew, forRenaming] : names) {
+            EXPECT_EQ(takes(renamed, "pBtnOK", name), forRenaming) << name;
         }
         renamed.OnCancel();
     });

@@ -35,7 +35,7 @@ int releaseAll(HINSTANCE library) {
     return count;
 }
 
-TEST(Loading, registersServiceAndCommandsTillTheUnloadMessage) {
+TEST(Loading, registersServiceAndCommandsUntilTheUnloadMessage) {
     // A service that exists is kept, and commands are replaced.
     KdRxObject* const service = kdrxRegisterService(L"VoMLStyleApps");
     {

@@ -26,7 +26,7 @@ using orvex::testing::clickText;
 using orvex::testing::inNextDialog;
 using orvex::testing::press;
 
-// Plays a script and, where a dialog asks for a file, gives the one that it is told.
+// Plays a script and gives a dialog that asks for a file the one that is set.
 class User final : public orvex::PromptSource {
 public:
     orvex::PromptAnswer ask(const orvex::PromptRequest& request) override {
@@ -81,7 +81,7 @@ protected:
     std::string report() {
         const fs::path file = fs::temp_directory_path() / "styles.dxf";
         EXPECT_FALSE(m_session->drawing().save(file.string()));
-        const fs::path script = orvex::testing::sourceDir() / "tests/module/tellStyles.py";
+        const fs::path script = orvex::testing::sourceDir() / "tests/module/listStyles.py";
         QProcess python;
         python.start(ORVEX_PYTHON, {script.c_str(), file.c_str()});
         EXPECT_TRUE(python.waitForFinished());

@@ -23,7 +23,7 @@ def main(path):
         if style.dxf.owner != dictionary.dxf.handle:
             print(f"fault: {key} is owned by {style.dxf.owner}")
         if style.reactors is None or dictionary.dxf.handle not in style.reactors.get():
-            print(f"fault: {key} doesn't tell its dictionary")
+            print(f"fault: {key} doesn't name its dictionary")
         for element in style.elements:
             if element.linetype.upper() not in ("BYLAYER", "BYBLOCK") and element.linetype not in doc.linetypes:
                 print(f"fault: {key} has the unknown line type {element.linetype}")
