@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pictureWriter.h"
+
 #include <optional>
 #include <string>
 #include <variant>
@@ -18,8 +20,7 @@ struct RunCall {
 struct ShowCall {
     std::string drawing;
     std::string output;
-    int width = 1600; // pixels
-    int height = 1200;
+    PictureSize size;
 };
 
 struct ListCall {

@@ -2,18 +2,25 @@
 
 namespace orvex {
 
-ExitStatus exitStatus(const BatchFailure& failure) {
-    switch (failure.cause) {
-    case BatchFailure::Cause::call:
+ExitStatus exitStatus(FailureCause cause) {
+    switch (cause) {
+    case FailureCause::wrongCall:
         return ExitStatus::wrongCall;
-    case BatchFailure::Cause::reading:
+    case FailureCause::unreadableInput:
         return ExitStatus::unreadable;
-    case BatchFailure::Cause::writing:
+    case FailureCause::unwritableOutput:
         return ExitStatus::unwritable;
-    case BatchFailure::Cause::playing:
+    case FailureCause::unplayableScript:
+    case FailureCause::unloadableModule:
+        return ExitStatus::unplayable;
+    case FailureCause::missedPick:
+        return ExitStatus::missedPick;
+    case FailureCause::interrupted:
+        return ExitStatus::interrupted;
+    case FailureCause::programFault:
         break;
     }
-    return ExitStatus::unplayable;
+    return ExitStatus::programFault;
 }
 
 } // namespace orvex

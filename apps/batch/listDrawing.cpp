@@ -1,8 +1,8 @@
 // The verb list: every multiline and style, for people.
 
 #include "DrawingList.h"
+#include "batchFiles.h"
 #include "listJson.h"
-#include "openDrawing.h"
 #include "verbs.h"
 
 #include "KdDbDatabase.h"
@@ -71,12 +71,12 @@ void printStyle(const ListedStyle& style) {
 
 } // namespace
 
-std::optional<BatchFailure> listDrawing(const ListCall& call) {
-    auto opened = openDrawing(call.drawing);
-    if (const auto* const failure = std::get_if<BatchFailure>(&opened)) {
-        return *failure;
+std::optional<Failure> listDrawing(const ListCall& call) {
+    const auto drawing = openDrawing(call.drawing);
+    if (!drawing) {
+        return drawing.failure();
     }
-    KdDbDatabase& database = std::get<std::unique_ptr<DrawingFile>>(opened)->database();
+    KdDbDatabase& database = (*drawing)->database();
     if (call.asJson) {
         printListAsJson(database);
         return std::nullopt;

@@ -1,8 +1,8 @@
 // orvex-batch: the host without a window.
 
 #include "BatchCall.h"
+#include "batchFiles.h"
 #include "exitStatus.h"
-#include "openDrawing.h"
 #include "verbs.h"
 
 #include <cstdio>
@@ -12,7 +12,15 @@ namespace orvex {
 
 namespace {
 
-std::optional<BatchFailure> carryOut(const BatchCall& call) {
+std::optional<Failure> answer(const AnsweredCall& call) {
+    if (call.isWrong) {
+        return Failure{FailureCause::wrongCall, {}, 0, call.text + " (see orvex-batch --help)"};
+    }
+    std::fputs(call.text.c_str(), stdout);
+    return std::nullopt;
+}
+
+std::optional<Failure> carryOut(const BatchCall& call) {
     if (const auto* const run = std::get_if<RunCall>(&call)) {
         return runScript(*run);
     }
@@ -22,24 +30,31 @@ std::optional<BatchFailure> carryOut(const BatchCall& call) {
     if (const auto* const list = std::get_if<ListCall>(&call)) {
         return listDrawing(*list);
     }
-    const auto& answered = std::get<AnsweredCall>(call);
-    if (answered.isWrong) {
-        return BatchFailure{BatchFailure::Cause::call, answered.text + " (see orvex-batch --help)"};
-    }
-    std::fputs(answered.text.c_str(), stdout);
-    return std::nullopt;
+    return answer(std::get<AnsweredCall>(call));
 }
 
-ExitStatus runProgram(int argc, char** argv) {
-    std::optional<BatchFailure> failure = carryOut(parseBatchCall(argc, argv));
-    if (!failure) {
-        failure = flushOutput();
+// No exception is part of a plan that reaches the program's end.
+std::optional<Failure> carryOutGuarded(int argc, char** argv) {
+    try {
+        auto failure = carryOut(parseBatchCall(argc, argv));
+        return failure ? failure : flushOutput();
+    } catch (const std::exception& error) {
+        return Failure{FailureCause::programFault, {}, 0, error.what()};
+    } catch (...) {
+        return Failure{FailureCause::programFault, {}, 0, "an unknown exception"};
     }
+}
+
+ExitStatus report(const std::optional<Failure>& failure) {
     if (!failure) {
         return ExitStatus::done;
     }
-    complain(failure->text);
-    return exitStatus(*failure);
+    complain(messageOf(*failure));
+    if (failure->cause == FailureCause::programFault) {
+        complain("this is a fault of the program; please report it with the call, the drawing, the "
+                 "script and the version " ORVEX_VERSION);
+    }
+    return exitStatus(failure->cause);
 }
 
 } // namespace
@@ -47,10 +62,5 @@ ExitStatus runProgram(int argc, char** argv) {
 } // namespace orvex
 
 int main(int argc, char** argv) {
-    try {
-        return static_cast<int>(orvex::runProgram(argc, argv));
-    } catch (const std::exception& error) {
-        orvex::complain(error.what());
-        return static_cast<int>(orvex::ExitStatus::unreadable);
-    }
+    return static_cast<int>(orvex::report(orvex::carryOutGuarded(argc, argv)));
 }

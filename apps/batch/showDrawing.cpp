@@ -1,8 +1,7 @@
 // The verb show: a drawing as a picture.
 
 #include "Scene.h"
-#include "atLine.h"
-#include "openDrawing.h"
+#include "batchFiles.h"
 #include "pictureWriter.h"
 #include "verbs.h"
 
@@ -14,8 +13,8 @@ namespace orvex {
 
 namespace {
 
-// Qt tells of missing folders of the desktop and the like, which are no matter of a picture.
-void passOverNotes(QtMsgType kind, const QMessageLogContext& /*context*/, const QString& text) {
+// Qt warns of missing folders of the desktop and the like, which don't matter to a picture.
+void ignoreWarnings(QtMsgType kind, const QMessageLogContext& /*context*/, const QString& text) {
     if (kind == QtCriticalMsg || kind == QtFatalMsg) {
         complain(text.toStdString());
     }
@@ -23,12 +22,15 @@ void passOverNotes(QtMsgType kind, const QMessageLogContext& /*context*/, const 
 
 } // namespace
 
-std::optional<BatchFailure> showDrawing(const ShowCall& call) {
-    auto opened = openDrawing(call.drawing);
-    if (const auto* const failure = std::get_if<BatchFailure>(&opened)) {
-        return *failure;
+std::optional<Failure> showDrawing(const ShowCall& call) {
+    if (auto failure = checkPicture(call.output, call.size)) {
+        return failure;
     }
-    qInstallMessageHandler(passOverNotes);
+    const auto drawing = openDrawing(call.drawing);
+    if (!drawing) {
+        return drawing.failure();
+    }
+    qInstallMessageHandler(ignoreWarnings);
     // Fonts need an application, which needs no screen here.
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     int argc = 1;
@@ -36,12 +38,10 @@ std::optional<BatchFailure> showDrawing(const ShowCall& call) {
     char* argv[] = {name, nullptr};
     const QGuiApplication application(argc, argv);
 
-    const auto& drawing = std::get<std::unique_ptr<DrawingFile>>(opened);
-    Scene scene(drawing->database());
-    if (const auto error = writePicture(scene, call.output, call.width, call.height)) {
-        return BatchFailure{BatchFailure::Cause::writing, atLine(call.output, 0, *error)};
-    }
-    return std::nullopt;
+    return withMemory(FailureCause::unwritableOutput, call.output, [&] {
+        Scene scene((*drawing)->database());
+        return writePicture(scene, call.output, call.size);
+    });
 }
 
 } // namespace orvex

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "BatchCall.h"
-#include "exitStatus.h"
+#include "Failure.h"
 
 #include <optional>
 
 namespace orvex {
 
-// What the program does. Each returns why it couldn't, or nothing.
+// What the program does.
 
-std::optional<BatchFailure> runScript(const RunCall& call);
-std::optional<BatchFailure> showDrawing(const ShowCall& call);
-std::optional<BatchFailure> listDrawing(const ListCall& call);
+std::optional<Failure> runScript(const RunCall& call);
+std::optional<Failure> showDrawing(const ShowCall& call);
+std::optional<Failure> listDrawing(const ListCall& call);
 
 } // namespace orvex

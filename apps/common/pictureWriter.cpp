@@ -1,5 +1,6 @@
 #include "pictureWriter.h"
 
+#include "AtomicFile.h"
 #include "PlanView.h"
 #include "Scene.h"
 #include "SvgPicture.h"
@@ -16,7 +17,6 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 namespace orvex {
 
@@ -28,10 +28,14 @@ constexpr double kLinesToSide = 1000.0;           // line widths to the shorter 
 constexpr int kPixelsPerInch = 96;
 constexpr double kPointsPerPixel = 72.0 / kPixelsPerInch;
 
-struct Picture {
-    QByteArray bytes;
-    std::string error; // empty when there are bytes
-};
+using Maker = Result<QByteArray> (*)(Scene&, const PlanView&);
+
+// By the ending of the file's name; null for any other.
+Maker makerFor(const std::string& path);
+
+Failure unwritable(std::string text) {
+    return {FailureCause::unwritableOutput, {}, 0, std::move(text)};
+}
 
 PaintSettings settingsFor(const PlanView& view) {
     PaintSettings settings;
@@ -40,7 +44,7 @@ PaintSettings settingsFor(const PlanView& view) {
     return settings;
 }
 
-// Fonts need an application of this kind.
+// Fonts need one.
 bool haveGuiApplication() {
     return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
 }
@@ -56,19 +60,16 @@ void paintScene(QPainter& painter, Scene& scene, const PlanView& view) {
     }
 }
 
-Picture svgPicture(Scene& scene, const PlanView& view) {
+Result<QByteArray> svgPicture(Scene& scene, const PlanView& view) {
     SvgPicture svg(view, settingsFor(view));
     scene.visitAll([&](KdDbStub&, const Appearance& appearance) { svg.add(appearance); });
-    return {QByteArray::fromStdString(svg.text()), {}};
+    return QByteArray::fromStdString(svg.text());
 }
 
-Picture pngPicture(Scene& scene, const PlanView& view) {
-    if (std::int64_t{view.width()} * view.height() > kMostPixels) {
-        return {{}, "a picture of that many pixels is too large; 100 million is the most"};
-    }
+Result<QByteArray> pngPicture(Scene& scene, const PlanView& view) {
     QImage image(view.width(), view.height(), QImage::Format_RGB32);
     if (image.isNull() || !haveGuiApplication()) {
-        return {{}, "there is no memory or no application for the picture"};
+        return unwritable("there is no memory or no application for the picture");
     }
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -77,14 +78,14 @@ Picture pngPicture(Scene& scene, const PlanView& view) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     if (!image.save(&buffer, "PNG")) {
-        return {{}, "the picture can't be packed"};
+        return unwritable("the picture can't be packed");
     }
-    return {buffer.data(), {}};
+    return buffer.data();
 }
 
-Picture pdfPicture(Scene& scene, const PlanView& view) {
+Result<QByteArray> pdfPicture(Scene& scene, const PlanView& view) {
     if (!haveGuiApplication()) {
-        return {{}, "there is no application for the picture"};
+        return unwritable("there is no application for the picture");
     }
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -96,48 +97,56 @@ Picture pdfPicture(Scene& scene, const PlanView& view) {
     writer.setResolution(kPixelsPerInch);
     QPainter painter;
     if (!painter.begin(&writer)) {
-        return {{}, "the page can't be begun"};
+        return unwritable("the page can't be begun");
     }
     paintScene(painter, scene, view);
     painter.end();
-    return {buffer.data(), {}};
+    return buffer.data();
 }
 
-std::optional<std::string> writeFile(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    if (!written) {
-        return file.errorString().toStdString();
-    }
-    return std::nullopt;
+Maker makerFor(const std::string& path) {
+    const QString ending = QFileInfo(QString::fromStdString(path)).suffix().toLower();
+    return ending == QLatin1String("svg")   ? svgPicture
+           : ending == QLatin1String("png") ? pngPicture
+           : ending == QLatin1String("pdf") ? pdfPicture
+                                            : nullptr;
 }
 
 } // namespace
 
-std::optional<std::string> writePicture(Scene& scene, const std::string& path, int width,
-                                        int height) {
-    using Maker = Picture (*)(Scene&, const PlanView&);
-    const QString name = QString::fromStdString(path);
-    const QString ending = QFileInfo(name).suffix().toLower();
-    const Maker make = ending == QLatin1String("svg")   ? svgPicture
-                       : ending == QLatin1String("png") ? pngPicture
-                       : ending == QLatin1String("pdf") ? pdfPicture
-                                                        : nullptr;
+std::optional<Failure> checkPicture(const std::string& path, const PictureSize& size) {
+    const auto wrong = [&](std::string text) {
+        return Failure{FailureCause::wrongCall, path, 0, std::move(text)};
+    };
+    const Maker make = makerFor(path);
     if (make == nullptr) {
-        return "a picture's name has to end in .svg, .png or .pdf";
+        return wrong("the name of a picture has to end in .svg, .png or .pdf");
     }
+    const auto [width, height] = size;
     if (width < 1 || height < 1 || width > kGreatestSide || height > kGreatestSide) {
-        return "a picture's sides have to be from 1 to " + std::to_string(kGreatestSide) +
-               " pixels";
+        return wrong("each side of a picture has to be from 1 to " + std::to_string(kGreatestSide) +
+                     " pixels");
     }
-    PlanView view(width, height);
+    if (make == pngPicture && std::int64_t{width} * height > kMostPixels) {
+        return wrong("a .png picture can't have more than 100 million pixels");
+    }
+    return std::nullopt;
+}
+
+std::optional<Failure> writePicture(Scene& scene, const std::string& path,
+                                    const PictureSize& size) {
+    if (auto failure = checkPicture(path, size)) {
+        return failure;
+    }
+    PlanView view(size.width, size.height);
     view.zoomTo(scene.extents());
-    const Picture picture = make(scene, view);
-    if (!picture.error.empty()) {
-        return picture.error;
+    const auto picture = makerFor(path)(scene, view);
+    if (!picture) {
+        Failure failure = picture.failure();
+        failure.file = path;
+        return failure;
     }
-    return writeFile(name, picture.bytes);
+    return saveFile(path, {picture->constData(), static_cast<std::size_t>(picture->size())});
 }
 
 } // namespace orvex

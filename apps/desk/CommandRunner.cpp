@@ -3,6 +3,7 @@
 #include "DeskPrompts.h"
 #include "Session.h"
 #include "qtWide.h"
+#include "textCodec.h"
 
 #include <QCoreApplication>
 
@@ -53,12 +54,12 @@ void CommandRunner::run(const QString& name, const QStringList& answers) {
     }
     emit commandStarted(name);
     m_prompts.answerAhead(answers);
-    const Session::Result result = m_session->run(toWide(name));
+    const auto failure = m_session->run(toWide(name));
     m_prompts.answerAhead({});
-    if (result.outcome == Session::Outcome::done) {
+    if (!failure) {
         m_last = name;
     } else {
-        m_prompts.print(result.message);
+        m_prompts.print(widen(messageOf(*failure)));
     }
     emit commandEnded();
 }

@@ -45,15 +45,15 @@ bool DeskDrawing::isChanged() const {
     return m_session != nullptr && m_session->drawing().contentMark() != m_savedMark;
 }
 
-std::unique_ptr<DrawingError> DeskDrawing::save(const QString& path) {
+std::optional<Failure> DeskDrawing::save(const QString& path) {
     DrawingFile& drawing = m_session->drawing();
-    auto error = drawing.save(path.toStdString());
-    if (error == nullptr) {
+    auto failure = drawing.save(path.toStdString());
+    if (!failure) {
         m_path = QFileInfo(path).absoluteFilePath();
         m_file = fileState();
         m_savedMark = drawing.contentMark();
     }
-    return error;
+    return failure;
 }
 
 QString DeskDrawing::currentStyle() const {

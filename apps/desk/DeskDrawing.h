@@ -10,6 +10,7 @@
 #include <cstddef>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,8 +37,7 @@ public:
 
     // True when somebody else wrote its file since it was opened or saved here.
     [[nodiscard]] bool wasWrittenElsewhere() const;
-    // Nothing when it went well.
-    std::unique_ptr<DrawingError> save(const QString& path);
+    std::optional<Failure> save(const QString& path);
 
     [[nodiscard]] QString currentStyle() const;
 

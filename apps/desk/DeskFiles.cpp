@@ -1,6 +1,5 @@
 #include "DeskFiles.h"
 
-#include "atLine.h"
 #include "pictureWriter.h"
 
 #include <QApplication>
@@ -50,18 +49,18 @@ void DeskFiles::askAndOpen() {
 }
 
 void DeskFiles::open(const QString& path) {
-    DrawingFile::Opened result = m_opener.open(path);
-    if (const auto* const error = std::get_if<DrawingError>(&result)) {
-        if (error->cancelled) {
+    auto opened = m_opener.open(path);
+    if (!opened) {
+        if (opened.failure().cause == FailureCause::interrupted) {
             emit printed(tr("The opening of %1 was cancelled.").arg(path));
         } else {
             emit missing(path);
             tell(tr("The drawing can't be opened."),
-                 QString::fromStdString(atLine(path.toStdString(), error->line, error->text)));
+                 QString::fromStdString(messageOf(opened.failure())));
         }
         return;
     }
-    auto file = std::move(std::get<std::unique_ptr<DrawingFile>>(result));
+    std::unique_ptr<DrawingFile> file = std::move(*opened);
     m_settings.setText(DeskSettings::kDrawingFolder, QFileInfo(path).absolutePath());
     emit printed(tr("Opened %1").arg(path));
     tellWarnings(*file, path);
@@ -72,7 +71,7 @@ void DeskFiles::open(const QString& path) {
 void DeskFiles::tellWarnings(const DrawingFile& file, const QString& path) {
     for (const DrawingWarning& warning : file.warnings()) {
         emit printed(QString::fromStdString(
-            atLine(path.toStdString(), warning.line, "warning: " + warning.text)));
+            locatedText(path.toStdString(), warning.line, "warning: " + warning.text)));
     }
 }
 
@@ -115,11 +114,11 @@ bool DeskFiles::saveInto(const QString& path) {
         return false;
     }
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto error = m_drawing.save(path);
+    const auto failure = m_drawing.save(path);
     QApplication::restoreOverrideCursor();
-    if (error != nullptr) {
+    if (failure) {
         tell(tr("The drawing can't be saved. What was in the file before is still there."),
-             QString::fromStdString(atLine(path.toStdString(), error->line, error->text)));
+             QString::fromStdString(messageOf(*failure)));
         return false;
     }
     emit printed(tr("Saved into %1").arg(path));
@@ -141,12 +140,11 @@ void DeskFiles::exportPicture() {
     path = withSuffix(path, suffixOf(filter));
     m_settings.setText(DeskSettings::kPictureFolder, QFileInfo(path).absolutePath());
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto error = writePicture(m_drawing.session()->scene(), path.toStdString(), kPictureWidth,
-                                    kPictureHeight);
+    const auto failure = writePicture(m_drawing.session()->scene(), path.toStdString(),
+                                      {kPictureWidth, kPictureHeight});
     QApplication::restoreOverrideCursor();
-    if (error) {
-        tell(tr("The picture can't be written."),
-             QString::fromStdString(atLine(path.toStdString(), 0, *error)));
+    if (failure) {
+        tell(tr("The picture can't be written."), QString::fromStdString(messageOf(*failure)));
     } else {
         emit printed(tr("Drawn into %1").arg(path));
     }

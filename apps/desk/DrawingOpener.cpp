@@ -49,11 +49,12 @@ private:
 
 } // namespace
 
-DrawingFile::Opened DrawingOpener::open(const QString& path) {
+Result<std::unique_ptr<DrawingFile>> DrawingOpener::open(const QString& path) {
     const FlagScope opening(m_isOpening);
     m_isCancelled = false;
+    const std::string file = path.toStdString();
     std::unique_ptr<QProgressDialog> dialog;
-    DrawingProgress progress;
+    Progress progress;
     QElapsedTimer sincePump;
     sincePump.start();
     if (QFileInfo(path).size() >= kLargeFile) {
@@ -68,15 +69,15 @@ DrawingFile::Opened DrawingOpener::open(const QString& path) {
         };
     }
     try {
-        DrawingFile::Opened opened = DrawingFile::open(path.toStdString(), progress);
+        auto opened = DrawingFile::open(file, progress);
         if (dialog) {
             QCoreApplication::processEvents(); // the swap of the drawings takes its time, too
         }
         return opened;
     } catch (const std::bad_alloc&) {
-        return DrawingError{0, "there is not enough memory for it", false};
+        return Failure{FailureCause::unreadableInput, file, 0, "not enough memory"};
     } catch (const std::exception& error) {
-        return DrawingError{0, error.what(), false};
+        return Failure{FailureCause::programFault, file, 0, error.what()};
     }
 }
 

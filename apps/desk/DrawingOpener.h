@@ -13,7 +13,7 @@ class DrawingOpener {
 public:
     explicit DrawingOpener(QWidget& window) : m_window(window) {}
 
-    DrawingFile::Opened open(const QString& path);
+    Result<std::unique_ptr<DrawingFile>> open(const QString& path);
 
     [[nodiscard]] bool isOpening() const { return m_isOpening; }
     // The opening ends as cancelled, soon.

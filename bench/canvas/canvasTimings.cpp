@@ -251,12 +251,12 @@ int main(int argc, char** argv) {
         return 2;
     }
     auto opened = DrawingFile::open(argv[1]);
-    if (std::holds_alternative<DrawingError>(opened)) {
+    if (!opened) {
         std::fprintf(stderr, "canvas_timings: %s can't be opened\n", argv[1]);
         return 1;
     }
     SessionSetup setup;
-    setup.drawing = std::move(std::get<std::unique_ptr<DrawingFile>>(opened));
+    setup.drawing = std::move(*opened);
     ModuleLoader modules;
     Session session(std::move(setup), modules);
     Canvas canvas;

@@ -72,7 +72,7 @@ class OpenDrawing {
 public:
     explicit OpenDrawing(const benchmark::State& state)
         : m_file(
-              std::get<0>(orvex::DrawingFile::openBytes(drawing(state.range(0), state.range(1))))),
+              std::move(*orvex::DrawingFile::openBytes(drawing(state.range(0), state.range(1))))),
           m_document(&m_file->database()), m_before(orvex::setCurrentDocument(&m_document)) {}
     ~OpenDrawing() { orvex::setCurrentDocument(m_before); }
     OpenDrawing(const OpenDrawing&) = delete;

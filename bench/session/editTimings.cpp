@@ -50,7 +50,7 @@ void play(orvex::Session& session, const std::string& path) {
     session.setSource(&script);
     while (!script.atEnd()) {
         const std::wstring command = session.askCommand();
-        if (!command.empty() && session.run(command).outcome != orvex::Session::Outcome::done) {
+        if (!command.empty() && session.run(command)) {
             giveUp("can't play " + path);
         }
     }
@@ -84,13 +84,12 @@ int main(int argc, char** argv) {
     }
     const std::string output = argv[5];
     auto opened = orvex::DrawingFile::open(argv[1]);
-    auto* const drawing = std::get_if<std::unique_ptr<orvex::DrawingFile>>(&opened);
-    if (drawing == nullptr) {
+    if (!opened) {
         giveUp("can't open the drawing");
     }
     orvex::ModuleLoader modules;
     orvex::SessionSetup setup;
-    setup.drawing = std::move(*drawing);
+    setup.drawing = std::move(*opened);
     setup.moduleFiles = {
         (std::filesystem::read_symlink("/proc/self/exe").parent_path() / "../bin/libOmxMLStyle.omx")
             .string()};
@@ -99,7 +98,7 @@ int main(int argc, char** argv) {
     const double first = secondsOf([&] { play(session, argv[2]); });
     const double more = secondsOf([&] { play(session, argv[3]); });
     const double save = secondsOf([&] {
-        if (session.drawing().save(output) != nullptr) {
+        if (session.drawing().save(output)) {
             giveUp("can't save to " + output);
         }
     });

@@ -7,74 +7,11 @@
 #include "DrawingWriter.h"
 #include "NewDrawing.h"
 
-#include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <functional>
 
 namespace orvex {
 
 namespace {
-
-// A file opened for reading.
-class InputFile {
-public:
-    explicit InputFile(const std::string& path)
-        : m_descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
-    ~InputFile() {
-        if (m_descriptor >= 0) {
-            close(m_descriptor);
-        }
-    }
-    InputFile(const InputFile&) = delete;
-    InputFile& operator=(const InputFile&) = delete;
-
-    enum class Outcome { done, failed, givenUp };
-    // All its bytes; when it failed, `errno` tells why.
-    Outcome readAll(std::string& bytes, const DrawingProgress& progress) const {
-        struct stat status {};
-        if (m_descriptor < 0 || fstat(m_descriptor, &status) != 0) {
-            return Outcome::failed;
-        }
-        constexpr std::size_t kPiece = std::size_t{1} << 20U;
-        // A pipe has no size.
-        const std::size_t size =
-            S_ISREG(status.st_mode) ? static_cast<std::size_t>(status.st_size) : 0;
-        bytes.reserve(size + kPiece); // with room to see its end
-        for (std::size_t filled = 0;;) {
-            // Memory that is used for the first time takes as long as reading.
-            bytes.resize(filled + kPiece);
-            const ssize_t got = readPiece(bytes.data() + filled, kPiece);
-            if (got < 0) {
-                return Outcome::failed;
-            }
-            filled += static_cast<std::size_t>(got);
-            bytes.resize(filled);
-            if (got == 0) {
-                return Outcome::done;
-            }
-            const double part =
-                size == 0 ? 0.0
-                          : std::min(1.0, static_cast<double>(filled) / static_cast<double>(size));
-            if (progress && !progress(part)) {
-                return Outcome::givenUp;
-            }
-        }
-    }
-
-private:
-    ssize_t readPiece(char* target, std::size_t size) const {
-        ssize_t got = 0;
-        do {
-            got = ::read(m_descriptor, target, size);
-        } while (got < 0 && errno == EINTR);
-        return got;
-    }
-
-    int m_descriptor;
-};
 
 // Enough to see what is wrong with a file in which everything is.
 void limitWarnings(std::vector<DrawingWarning>& warnings) {
@@ -92,59 +29,58 @@ DrawingFile::DrawingFile() : m_database(std::make_unique<KdDbDatabase>(false, tr
 
 DrawingFile::~DrawingFile() = default;
 
-DrawingFile::Opened DrawingFile::open(const std::string& path, const DrawingProgress& progress) {
+Result<std::unique_ptr<DrawingFile>> DrawingFile::open(const std::string& path,
+                                                       const Progress& progress) {
     constexpr double kPartOfReading = 0.2;
-    DrawingProgress ofReading;
-    DrawingProgress ofTheRest;
+    Progress ofReading;
+    Progress ofTheRest;
     if (progress) {
         ofReading = [&](double done) { return progress(done * kPartOfReading); };
         ofTheRest = [&](double done) {
             return progress(kPartOfReading + done * (1.0 - kPartOfReading));
         };
     }
-    std::string bytes;
-    switch (InputFile(path).readAll(bytes, ofReading)) {
-    case InputFile::Outcome::failed:
-        return DrawingError{0, std::strerror(errno), false};
-    case InputFile::Outcome::givenUp:
-        return DrawingError{0, "given up", true};
-    case InputFile::Outcome::done:
-        break;
+    auto bytes = readRegularFile(path, ofReading);
+    if (!bytes) {
+        return bytes.failure();
     }
-    return openBytes(std::move(bytes), ofTheRest);
+    auto opened = openBytes(std::move(*bytes), ofTheRest);
+    if (!opened) {
+        Failure failure = opened.failure();
+        failure.file = path;
+        return failure;
+    }
+    return opened;
 }
 
-DrawingFile::Opened DrawingFile::openBytes(std::string bytes, const DrawingProgress& progress) {
+Result<std::unique_ptr<DrawingFile>> DrawingFile::openBytes(std::string bytes,
+                                                            const Progress& progress) {
     std::unique_ptr<DrawingFile> file(new DrawingFile);
     file->m_document = std::make_shared<DrawingDocument>(std::move(bytes));
     DatabaseCore& core = file->m_database->core();
     core.setSource(file->m_document);
-    if (auto error = readDrawing(*file->m_document, core, progress, file->m_warnings)) {
-        return std::move(*error);
+    if (auto failure = readDrawing(*file->m_document, core, progress, file->m_warnings)) {
+        return std::move(*failure);
     }
     limitWarnings(file->m_warnings);
     return file;
 }
 
 std::unique_ptr<DrawingFile> DrawingFile::create() {
-    auto opened = openBytes(newDrawingText());
-    return std::move(std::get<std::unique_ptr<DrawingFile>>(opened));
+    return std::move(*openBytes(newDrawingText()));
 }
 
-std::unique_ptr<DrawingError> DrawingFile::save(const std::string& path) {
+std::optional<Failure> DrawingFile::save(const std::string& path) {
     const std::vector<FileEdit> edits = collectEdits(*m_document, m_database->core());
     AtomicFile target(path);
-    std::string error = target.open();
-    if (error.empty()) {
+    std::optional<Failure> failure = target.open();
+    if (!failure) {
         writeEdited(m_document->bytes, edits, [&](std::string_view piece) {
-            error = target.write(piece);
-            return error.empty();
+            failure = target.write(piece);
+            return !failure;
         });
     }
-    if (error.empty()) {
-        error = target.commit();
-    }
-    return error.empty() ? nullptr : std::make_unique<DrawingError>(DrawingError{0, error, false});
+    return failure ? failure : target.commit();
 }
 
 std::string DrawingFile::bytes() {

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "Failure.h"
 #include "KdDbDatabase.h"
+#include "readFile.h"
 
 #include <cstddef>
-#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
 namespace orvex {
@@ -19,16 +20,6 @@ struct DrawingWarning {
     std::string text;     // UTF-8
 };
 
-// Why a drawing can't be opened or written.
-struct DrawingError {
-    std::size_t line = 0; // from 1; 0 when no line is to blame
-    std::string text;     // UTF-8, without the file's name
-    bool cancelled = false;
-};
-
-// Told now and then while a large drawing is read, with the part done from 0 to 1; false gives up.
-using DrawingProgress = std::function<bool(double)>;
-
 // An open drawing: the file's bytes as they came, and the objects made of them. What isn't changed
 // is written back byte for byte.
 class DrawingFile {
@@ -37,12 +28,13 @@ public:
     DrawingFile(const DrawingFile&) = delete;
     DrawingFile& operator=(const DrawingFile&) = delete;
 
-    using Opened = std::variant<std::unique_ptr<DrawingFile>, DrawingError>;
-
-    // Reads the whole file; it may change or vanish afterwards.
-    static Opened open(const std::string& path, const DrawingProgress& progress = {});
+    // Reads the whole of a regular file; it may change or vanish afterwards. When `progress` gives
+    // up, the failure's cause is `interrupted`.
+    static Result<std::unique_ptr<DrawingFile>> open(const std::string& path,
+                                                     const Progress& progress = {});
     // The same from bytes in memory.
-    static Opened openBytes(std::string bytes, const DrawingProgress& progress = {});
+    static Result<std::unique_ptr<DrawingFile>> openBytes(std::string bytes,
+                                                          const Progress& progress = {});
     // An empty drawing that every reader takes.
     static std::unique_ptr<DrawingFile> create();
 
@@ -50,9 +42,9 @@ public:
     [[nodiscard]] const std::vector<DrawingWarning>& warnings() const { return m_warnings; }
 
     // Writes the drawing whole or not at all: an older file at `path` stays until the new one is
-    // complete on disk. Nothing when it went well. The objects stay as they are. A later save
-    // starts from the bytes that were opened again, so that edits taken back leave no trace in it.
-    [[nodiscard]] std::unique_ptr<DrawingError> save(const std::string& path);
+    // complete on disk. The objects stay as they are. A later save starts from the bytes that were
+    // opened again, so that edits taken back leave no trace in it.
+    [[nodiscard]] std::optional<Failure> save(const std::string& path);
     // The bytes that save would write.
     [[nodiscard]] std::string bytes();
     // Tells contents apart: while it is the same, save would write the same bytes. Costs nothing

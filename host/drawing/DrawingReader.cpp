@@ -27,15 +27,15 @@ bool isBinary(std::string_view bytes) {
 
 class DrawingReader {
 public:
-    DrawingReader(DrawingDocument& document, DatabaseCore& core, const DrawingProgress& progress,
+    DrawingReader(DrawingDocument& document, DatabaseCore& core, const Progress& progress,
                   std::vector<DrawingWarning>& warnings)
         : m_document(document), m_records(document.cut.records), m_core(core), m_progress(progress),
           m_warnings(warnings) {}
 
-    std::optional<DrawingError> run();
+    std::optional<Failure> run();
 
 private:
-    std::optional<DrawingError> cut(std::size_t start);
+    std::optional<Failure> cut(std::size_t start);
     void readSections();
     [[nodiscard]] bool goesOn(std::uint32_t record);
     void warnOfForm(std::size_t start);
@@ -74,7 +74,7 @@ private:
     DrawingDocument& m_document;
     RecordTable& m_records;
     DatabaseCore& m_core;
-    const DrawingProgress& m_progress;
+    const Progress& m_progress;
     bool m_isGivenUp = false;
     std::vector<DrawingWarning>& m_warnings;
     std::unordered_map<std::wstring, KdDbStub*> m_blockRecords; // by name in one case
@@ -82,10 +82,10 @@ private:
     std::size_t m_linesCounted = 0;
 };
 
-std::optional<DrawingError> DrawingReader::run() {
+std::optional<Failure> DrawingReader::run() {
     const std::string_view bytes = m_document.bytes;
     if (isBinary(bytes)) {
-        return DrawingError{1, "a binary drawing, which isn't read", false};
+        return Failure{FailureCause::unreadableInput, {}, 1, "a binary drawing, which isn't read"};
     }
     const std::size_t start = bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
     if (auto error = cut(start)) {
@@ -99,7 +99,7 @@ std::optional<DrawingError> DrawingReader::run() {
     m_core.noteHighestHandle(m_document.cut.highestHandle);
     readSections();
     if (m_isGivenUp) {
-        return DrawingError{0, "given up", true};
+        return Failure{FailureCause::interrupted, {}, 0, "interrupted"};
     }
     warnOfStyles();
     completeDefaults();
@@ -107,8 +107,8 @@ std::optional<DrawingError> DrawingReader::run() {
 }
 
 // The first part of the work; making the objects is the rest.
-std::optional<DrawingError> DrawingReader::cut(std::size_t start) {
-    DrawingProgress progress;
+std::optional<Failure> DrawingReader::cut(std::size_t start) {
+    Progress progress;
     if (m_progress) {
         progress = [this](double done) { return m_progress(done * kPartOfCutting); };
     }
@@ -477,9 +477,9 @@ void DrawingReader::completeDefaults() {
 
 } // namespace
 
-std::optional<DrawingError> readDrawing(DrawingDocument& document, DatabaseCore& core,
-                                        const DrawingProgress& progress,
-                                        std::vector<DrawingWarning>& warnings) {
+std::optional<Failure> readDrawing(DrawingDocument& document, DatabaseCore& core,
+                                   const Progress& progress,
+                                   std::vector<DrawingWarning>& warnings) {
     return DrawingReader(document, core, progress, warnings).run();
 }
 

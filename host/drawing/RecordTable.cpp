@@ -23,7 +23,7 @@ public:
     RecordCutter(std::string_view bytes, std::size_t start, CutDrawing& result)
         : m_size(bytes.size()), m_reader(bytes, start, bytes.size()), m_result(result) {}
 
-    std::optional<DrawingError> run(const DrawingProgress& progress);
+    std::optional<Failure> run(const Progress& progress);
 
 private:
     [[nodiscard]] std::size_t line() const { return 2 * m_reader.tagCount() + 1; }
@@ -43,7 +43,7 @@ private:
     std::uint32_t m_lastPlace = 0; // of the style that the multiline before names
 };
 
-std::optional<DrawingError> RecordCutter::run(const DrawingProgress& progress) {
+std::optional<Failure> RecordCutter::run(const Progress& progress) {
     constexpr std::size_t kStep = std::size_t{4} << 20U; // bytes between two calls of `progress`
     std::size_t nextCall = kStep;
     Tag tag;
@@ -62,7 +62,7 @@ std::optional<DrawingError> RecordCutter::run(const DrawingProgress& progress) {
             nextCall = tag.begin + kStep;
             if (progress &&
                 !progress(static_cast<double>(tag.begin) / static_cast<double>(m_size))) {
-                return DrawingError{line(), "given up", true};
+                return Failure{FailureCause::interrupted, {}, line(), "interrupted"};
             }
         }
     }
@@ -72,10 +72,10 @@ std::optional<DrawingError> RecordCutter::run(const DrawingProgress& progress) {
     m_result.lineCount = 2 * m_reader.tagCount();
     m_result.lineEnds = {m_result.lineCount, m_reader.carriageReturns()};
     if (read == TagReader::Result::badCode) {
-        return DrawingError{line(), "a group code is no integer", false};
+        return Failure{FailureCause::unreadableInput, {}, line(), "a group code is no integer"};
     }
     if (read == TagReader::Result::noValue) {
-        return DrawingError{line(), "a group code has no value", false};
+        return Failure{FailureCause::unreadableInput, {}, line(), "a group code has no value"};
     }
     return std::nullopt;
 }
@@ -136,8 +136,8 @@ void RecordCutter::noteStyle(Record& record) {
     record.namedStyle = m_lastPlace;
 }
 
-std::optional<DrawingError> cutDrawing(std::string_view bytes, std::size_t start,
-                                       const DrawingProgress& progress, CutDrawing& result) {
+std::optional<Failure> cutDrawing(std::string_view bytes, std::size_t start,
+                                  const Progress& progress, CutDrawing& result) {
     return RecordCutter(bytes, start, result).run(progress);
 }
 

@@ -71,8 +71,7 @@ struct CutDrawing {
 };
 
 // Cuts `bytes` from `start` on into records and checks the multilines on the way. Stops at EOF.
-[[nodiscard]] std::optional<DrawingError> cutDrawing(std::string_view bytes, std::size_t start,
-                                                     const DrawingProgress& progress,
-                                                     CutDrawing& result);
+[[nodiscard]] std::optional<Failure> cutDrawing(std::string_view bytes, std::size_t start,
+                                                const Progress& progress, CutDrawing& result);
 
 } // namespace orvex

@@ -122,10 +122,10 @@ KdDbStub* ScratchSession::entityAt(const KdGePoint3d& worldPoint, int pickBoxPix
     return m_scene->entityAt(worldPoint, pickBoxPixels);
 }
 
-std::wstring ScratchSession::run(const std::wstring& command, PromptSource& source) {
-    const Session::ModuleCommand found = m_session.findModuleCommand(command);
-    if (found.function == nullptr) {
-        return found.refusal.message;
+std::optional<Failure> ScratchSession::run(const std::wstring& command, PromptSource& source) {
+    const auto function = m_session.findModuleCommand(command);
+    if (!function) {
+        return function.failure();
     }
     const CommandStateGuard guard;
     PromptSession& prompts = PromptSession::current();
@@ -133,12 +133,15 @@ std::wstring ScratchSession::run(const std::wstring& command, PromptSource& sour
     prompts.source = &source;
     setCurrentDocument(&m_document);
     setActiveDocContext(&m_view);
-    std::wstring failure;
+    std::optional<Failure> failure;
     try {
         const ScratchBracket bracket(core(), m_session.modules());
-        found.function();
+        (*function)();
     } catch (const std::exception& error) {
-        failure = L"the command '" + command + L"' failed: " + widen(error.what());
+        failure = Failure{FailureCause::programFault,
+                          {},
+                          0,
+                          "the command '" + narrow(command) + "' failed: " + error.what()};
     }
     m_prompts.pickBox = prompts.pickBox;
     return failure;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Failure.h"
 #include "KdDbDatabase.h"
 #include "KdDocument.h"
 #include "PromptSession.h"
@@ -38,9 +39,8 @@ public:
     [[nodiscard]] PlanView& view() { return m_view.plan(); }
     void setPickBox(int pixels) { m_prompts.pickBox = pixels; }
 
-    // Runs a command of a module as one step of undo; answers come from the source. Nothing when
-    // it ran to its end, else why not.
-    [[nodiscard]] std::wstring run(const std::wstring& command, PromptSource& source);
+    // Runs a command of a module as one step of undo; answers come from the source.
+    [[nodiscard]] std::optional<Failure> run(const std::wstring& command, PromptSource& source);
     // Takes the last command back that changed something; false when there is none.
     bool undo();
 

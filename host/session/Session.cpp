@@ -17,15 +17,27 @@
 #include <array>
 #include <exception>
 #include <filesystem>
+#include <new>
+#include <string_view>
 
 namespace orvex {
 
 namespace {
 
-// The module's commands that work by a dialog.
-bool worksByDialog(const std::wstring& name) {
-    static constexpr std::array<std::wstring_view, 2> kNames{L"MLEDIT", L"MLSTYLE"};
-    return std::find(kNames.begin(), kNames.end(), foldCase(name)) != kNames.end();
+// Commands of modules that work by a dialog. How a command is registered is fixed and has no place
+// for this, so that the host has to know their names.
+constexpr std::array<std::wstring_view, 2> kWindowCommands{L"MLEDIT", L"MLSTYLE"};
+
+bool needsWindow(const std::wstring& name) {
+    return std::ranges::find(kWindowCommands, foldCase(name)) != kWindowCommands.end();
+}
+
+Failure unplayable(const std::wstring& text) {
+    return {FailureCause::unplayableScript, {}, 0, narrow(text)};
+}
+
+Failure unloadable(const std::string& text) {
+    return {FailureCause::unloadableModule, {}, 0, text};
 }
 
 const KdEdCommand* findRegistered(const std::wstring& name) {
@@ -74,81 +86,83 @@ std::wstring Session::askCommand() {
     return answer.kind == PromptAnswer::Kind::text ? answer.text : std::wstring();
 }
 
-Session::Result Session::run(const std::wstring& name) {
+std::optional<Failure> Session::run(const std::wstring& name) {
     if (m_running) {
-        return {Outcome::busy, L"a command is running already"};
+        return unplayable(L"a command is running already");
     }
     if (foldCase(name) == L"U") {
-        return undo();
+        undo();
+        return std::nullopt;
     }
     if (const HostCommand* const command = findHostCommand(name)) {
         return runInBracket(name, [this, command] { command->run(*this); });
     }
-    const ModuleCommand command = findModuleCommand(name);
-    return command.function != nullptr ? runInBracket(name, command.function) : command.refusal;
+    const auto command = findModuleCommand(name);
+    return command ? runInBracket(name, *command) : command.failure();
 }
 
-Session::ModuleCommand Session::findModuleCommand(const std::wstring& name) {
-    const Result needsWindow{Outcome::needsWindow, L"the command '" + name + L"' needs a window"};
-    if (worksByDialog(name) && !m_setup.hasWindow) {
-        return {nullptr, needsWindow};
+Result<Session::CommandFunction> Session::findModuleCommand(const std::wstring& name) {
+    const Failure withoutWindow = unplayable(L"the command '" + name + L"' needs a window");
+    if (needsWindow(name) && !m_setup.hasWindow) {
+        return withoutWindow;
     }
     const KdEdCommand* command = findRegistered(name);
     if (command == nullptr) {
         if (const auto failure = loadModule()) {
-            return {nullptr, {Outcome::moduleFailed, *failure}};
+            return *failure;
         }
         command = findRegistered(name);
     }
     if (command == nullptr) {
-        return {nullptr, {Outcome::unknown, L"there is no command '" + name + L"'"}};
+        return unplayable(L"there is no command '" + name + L"'");
     }
-    // A translated name is looked at once it is known whose it is.
-    if (worksByDialog(command->globalName) && !m_setup.hasWindow) {
-        return {nullptr, needsWindow};
+    // A translated name is checked once it is known which command it names.
+    if (needsWindow(command->globalName) && !m_setup.hasWindow) {
+        return withoutWindow;
     }
-    return {command->function, {}};
+    return command->function;
 }
 
-Session::Result Session::runInBracket(const std::wstring& name,
-                                      const std::function<void()>& command) {
+std::optional<Failure> Session::runInBracket(const std::wstring& name,
+                                             const std::function<void()>& command) {
     // The view starts with what was there before the first command.
     (void)view();
     m_running = true;
-    Result result;
+    std::optional<Failure> failure;
+    const std::string what = "the command '" + narrow(name) + "' failed";
     try {
         const CommandBracket bracket(database().core(), m_display, m_modules);
         command();
-    } catch (const std::exception& failure) {
-        result = {Outcome::failed, L"the command '" + name + L"' failed: " + widen(failure.what())};
+    } catch (const std::bad_alloc&) {
+        failure = Failure{FailureCause::unplayableScript, {}, 0, what + ": not enough memory"};
+    } catch (const std::exception& error) {
+        failure = Failure{FailureCause::programFault, {}, 0, what + ": " + error.what()};
     } catch (...) {
-        result = {Outcome::failed, L"the command '" + name + L"' failed"};
+        failure = Failure{FailureCause::programFault, {}, 0, what};
     }
     m_running = false;
-    return result;
+    return failure;
 }
 
-// Stands outside of the bracket, since it is no step of its own.
-Session::Result Session::undo() {
+// Outside of the bracket, since it is no undo step of its own.
+void Session::undo() {
     if (!database().core().undo()) {
         kdutPrintf(L"There is nothing to undo.");
     }
-    return {};
 }
 
-// Nothing when it went well, else why not.
-std::optional<std::wstring> Session::loadModule() {
+std::optional<Failure> Session::loadModule() {
     for (const std::string& file : m_setup.moduleFiles) {
         std::error_code error;
         if (std::filesystem::exists(file, error)) {
-            const auto failure = m_modules.load(file);
-            return failure ? std::optional(widen(*failure)) : std::nullopt;
+            const auto reason = m_modules.load(file);
+            return reason ? std::optional(unloadable(*reason)) : std::nullopt;
         }
     }
     if (m_setup.moduleFiles.empty()) {
         return std::nullopt;
     }
-    return L"the module " + widen(m_setup.moduleFiles.front()) + L" can't be found";
+    return unloadable("the module " + m_setup.moduleFiles.front() + " can't be found");
 }
 
 } // namespace orvex

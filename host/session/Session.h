@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DrawingFile.h"
+#include "Failure.h"
 #include "KdDocument.h"
 #include "PlanView.h"
 #include "Scene.h"
@@ -53,35 +54,24 @@ public:
     // Asks the source for a command's name; empty for an empty line or a cancel.
     [[nodiscard]] std::wstring askCommand();
 
-    enum class Outcome {
-        done,
-        unknown,      // no such command, also after the module was loaded
-        needsWindow,  // the command works by a dialog
-        moduleFailed, // the module or its texts can't be loaded
-        busy,         // another command runs
-        failed,       // the command ended by an exception
-    };
-    struct Result {
-        Outcome outcome = Outcome::done;
-        std::wstring message; // why, where it isn't done
-    };
-    // Runs a command to its end within the bracket that all commands share.
-    Result run(const std::wstring& name);
+    // Runs a command to its end within the bracket that all commands share. Causes of a failure:
+    // unplayableScript (no such command, also after the module was loaded; the command needs a
+    // window; another command runs; no memory), unloadableModule, programFault (the command ended
+    // by an exception).
+    std::optional<Failure> run(const std::wstring& name);
 
-    // A command of a module; the module is loaded where it has to be.
-    struct ModuleCommand {
-        void (*function)() = nullptr; // null where there is none, and `refusal` says why
-        Result refusal;
-    };
-    ModuleCommand findModuleCommand(const std::wstring& name);
+    using CommandFunction = void (*)();
+    // A command of a module, which is loaded where it has to be.
+    Result<CommandFunction> findModuleCommand(const std::wstring& name);
     [[nodiscard]] ModuleLoader& modules() { return m_modules; }
 
     [[nodiscard]] bool isRunning() const { return m_running; }
 
 private:
-    Result runInBracket(const std::wstring& name, const std::function<void()>& command);
-    Result undo();
-    std::optional<std::wstring> loadModule();
+    std::optional<Failure> runInBracket(const std::wstring& name,
+                                        const std::function<void()>& command);
+    void undo();
+    std::optional<Failure> loadModule();
 
     SessionSetup m_setup;
     ModuleLoader& m_modules;

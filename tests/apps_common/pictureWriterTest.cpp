@@ -47,7 +47,7 @@ protected:
 TEST_F(PictureWriter, writesSvgThatReads) {
     drawing.addShape(TextShape{{5, 5, 0}, {1, 0, 0}, {0, 1, 0}, 1, 1, 2, {L"1 < 2 & \u00FC"}});
     Scene scene(drawing.database);
-    EXPECT_EQ(writePicture(scene, file("a.SVG"), 110, 110), std::nullopt);
+    EXPECT_FALSE(writePicture(scene, file("a.SVG"), {110, 110}));
     // 10 pixels a unit, from 5 to 105; white is black on paper.
     const std::string text = bytesOf(file("a.SVG"));
     EXPECT_THAT(text, HasSubstr("<path fill=\"#00ff00\" d=\"M5 5L105 5L105 105L5 105Z\"/>"));
@@ -58,7 +58,7 @@ TEST_F(PictureWriter, writesSvgThatReads) {
 
 TEST_F(PictureWriter, paintsPngAndPdf) {
     Scene scene(drawing.database);
-    EXPECT_EQ(writePicture(scene, file("a.png"), 110, 110), std::nullopt);
+    EXPECT_FALSE(writePicture(scene, file("a.png"), {110, 110}));
     const QImage image(QString::fromStdString(file("a.png")));
     ASSERT_EQ(image.size(), QSize(110, 110));
     EXPECT_EQ(image.pixel(1, 1), qRgb(255, 255, 255));
@@ -66,7 +66,7 @@ TEST_F(PictureWriter, paintsPngAndPdf) {
     EXPECT_LT(qGreen(image.pixel(25, 4)), 200) << "the upper line, black";
     EXPECT_GT(qGreen(image.pixel(55, 4)), 250) << "its gap";
 
-    EXPECT_EQ(writePicture(scene, file("a.pdf"), 110, 110), std::nullopt);
+    EXPECT_FALSE(writePicture(scene, file("a.pdf"), {110, 110}));
     const std::string pdf = bytesOf(file("a.pdf"));
     EXPECT_THAT(pdf, StartsWith("%PDF-"));
     EXPECT_THAT(pdf, HasSubstr("%%EOF"));
@@ -75,7 +75,7 @@ TEST_F(PictureWriter, paintsPngAndPdf) {
 TEST_F(PictureWriter, drawsAnEmptyDrawingAndOddOnes) {
     const TestDrawing empty;
     Scene nothing(empty.core.database());
-    EXPECT_EQ(writePicture(nothing, file("empty.svg"), 100, 50), std::nullopt);
+    EXPECT_FALSE(writePicture(nothing, file("empty.svg"), {100, 50}));
     EXPECT_THAT(bytesOf(file("empty.svg")), Not(HasSubstr("<path")));
 
     TestDrawing odd;
@@ -84,25 +84,41 @@ TEST_F(PictureWriter, drawsAnEmptyDrawingAndOddOnes) {
     odd.addShape(TextShape{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, 1e98, 1, 2, {L"large\x1"}});
     Scene scene(odd.database);
     for (const char* name : {"odd.svg", "odd.png", "odd.pdf"}) {
-        EXPECT_EQ(writePicture(scene, file(name), 64, 48), std::nullopt) << name;
+        EXPECT_FALSE(writePicture(scene, file(name), {64, 48})) << name;
     }
 }
 
 TEST_F(PictureWriter, refusesWhatItCantWriteAndLeavesNothingBehind) {
     Scene scene(drawing.database);
-    struct Case {
-        const char* name;
-        int width;
-        int height;
+    const struct {
+        std::string path;
+        PictureSize size;
+        FailureCause cause;
+    } cases[] = {
+        {file("a.jpg"), {10, 10}, FailureCause::wrongCall},
+        {file("a"), {10, 10}, FailureCause::wrongCall},
+        {file("a.svg"), {0, 10}, FailureCause::wrongCall},
+        {file("a.pdf"), {10, -1}, FailureCause::wrongCall},
+        {file("a.png"), {16'385, 10}, FailureCause::wrongCall},
+        {file("a.png"), {16'000, 16'000}, FailureCause::wrongCall},
+        {file("none/a.svg"), {10, 10}, FailureCause::unwritableOutput},
     };
-    for (const Case& each :
-         {Case{"a.jpg", 10, 10}, Case{"a", 10, 10}, Case{"a.svg", 0, 10}, Case{"a.pdf", 10, -1},
-          Case{"a.png", 20'000, 10}, Case{"a.png", 16'000, 16'000}, Case{"none/a.svg", 10, 10}}) {
-        const auto error = writePicture(scene, file(each.name), each.width, each.height);
-        ASSERT_TRUE(error.has_value()) << each.name;
-        EXPECT_FALSE(error->empty());
-        EXPECT_FALSE(QFile::exists(QString::fromStdString(file(each.name)))) << each.name;
+    for (const auto& each : cases) {
+        const auto failure = writePicture(scene, each.path, each.size);
+        ASSERT_TRUE(failure) << each.path;
+        EXPECT_EQ(failure->cause, each.cause) << each.path;
+        EXPECT_EQ(failure->file, each.path);
+        EXPECT_FALSE(QFile::exists(QString::fromStdString(each.path)));
     }
+}
+
+TEST_F(PictureWriter, writesIntoWhatIsNoRegularFile) {
+    Scene scene(drawing.database);
+    ASSERT_TRUE(QFile::link("/dev/full", QString::fromStdString(file("full.png"))));
+    const auto failure = writePicture(scene, file("full.png"), {64, 48});
+    ASSERT_TRUE(failure);
+    EXPECT_THAT(failure->text, HasSubstr("No space left"));
+    EXPECT_EQ(QFile::symLinkTarget(QString::fromStdString(file("full.png"))), "/dev/full");
 }
 
 } // namespace

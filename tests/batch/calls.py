@@ -5,6 +5,7 @@ Whatever goes wrong, complaints begin with the program's name, name file and
 line, and an older result stays as it is.
 """
 
+import os
 import pathlib
 import sys
 import tempfile
@@ -26,6 +27,8 @@ WRONG_CALLS = [
     (["show", "{d}", "--output", "{t}/a.png", "--size", "big"], "1600x1200"),
     (["show", "{d}", "--output", "{t}/a.png", "--size", "0x5"], "1600x1200"),
     (["show", "{d}", "--output", "{t}/a.png", "--size", "10x10x10"], "1600x1200"),
+    (["show", "{d}", "--output", "{t}/a.png", "--size", "16385x10"], "16384"),
+    (["show", "{d}", "--output", "{t}/a.png", "--size", "16000x16000"], "million"),
     (["list"], "DRAWING"),
     (["list", "{d}", "{d}"], ""),
 ]
@@ -33,6 +36,8 @@ WRONG_CALLS = [
 UNREADABLE = [
     (["list", "{t}/nowhere.dxf"], "{t}/nowhere.dxf"),
     (["list", "{t}"], "{t}"),
+    (["list", "{t}/pipe.dxf"], "{t}/pipe.dxf: Not a regular file"),
+    (["run", "/dev/zero", "--script", "-"], "/dev/zero: Not a regular file"),
     (["show", "{t}/nowhere.dxf", "--output", "{t}/a.png"], "{t}/nowhere.dxf"),
     (["list", "{t}/binary.dxf"], "binary"),
     (["list", "{t}/code.dxf"], "{t}/code.dxf:3:"),
@@ -47,6 +52,7 @@ UNWRITABLE = [
     (["run", "{d}", "--script", "-", "--output", "{t}"], "{t}"),
     (["show", "{d}", "--output", "{t}/nowhere/out.svg"], "{t}/nowhere/out.svg"),
     (["show", "{d}", "--output", "{t}/nowhere/out.png"], "{t}/nowhere/out.png"),
+    (["show", "{d}", "--output", "{t}/full.png"], "{t}/full.png: No space left on device"),
 ]
 
 # Scripts that can't be played on, the line to blame, and what is said.
@@ -75,6 +81,8 @@ def fill_scratch(folder):
     drawing = make_drawing(folder / "walls.dxf", [(0, 0), (100, 0)])
     (folder / "binary.dxf").write_bytes(b"a drawing's binary\r\n\x1a\x00" + bytes(40))
     (folder / "code.dxf").write_text("0\nSECTION\ntwo\nHEADER\n0\nENDSEC\n0\nEOF\n")
+    os.mkfifo(folder / "pipe.dxf")
+    (folder / "full.png").symlink_to("/dev/full")
     (folder / "latin1.scr").write_bytes(b"; fine\n; W\xe4nde\n")
     return drawing
 
@@ -111,7 +119,7 @@ def main():
             report.check(out.read_bytes() == OLD, f"{script!r}: the older result is gone")
         report.check(drawing.read_bytes() == before, "a drawing was written over")
         leftovers = {path.name for path in folder.iterdir()}
-        report.check(leftovers == {"walls.dxf", "binary.dxf", "code.dxf", "latin1.scr", "script.scr", "out.dxf"},
+        report.check(leftovers == {"walls.dxf", "pipe.dxf", "full.png", "binary.dxf", "code.dxf", "latin1.scr", "script.scr", "out.dxf"},
                      f"left behind: {leftovers}")
 
         for arguments in (["--help"], ["run", "--help"], ["--version"]):

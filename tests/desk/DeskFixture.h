@@ -153,8 +153,8 @@ protected:
         window.reset();
         ScriptSource source(script, [](const std::wstring&) {});
         SessionSetup setup;
-        setup.drawing = std::get<std::unique_ptr<DrawingFile>>(
-            DrawingFile::openBytes(readFile(sourceDir() / "samples/floorplan.dxf")));
+        setup.drawing =
+            std::move(*DrawingFile::openBytes(readFile(sourceDir() / "samples/floorplan.dxf")));
         setup.source = &source;
         setup.viewWidth = width;
         setup.viewHeight = height;
@@ -162,7 +162,7 @@ protected:
         while (!source.atEnd()) {
             const std::wstring command = session.askCommand();
             if (!command.empty()) {
-                EXPECT_EQ(session.run(command).outcome, Session::Outcome::done) << narrow(command);
+                EXPECT_FALSE(session.run(command)) << narrow(command);
             }
         }
         EXPECT_FALSE(source.failure()) << narrow(source.failure()->text);

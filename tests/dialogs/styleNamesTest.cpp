@@ -29,7 +29,7 @@ protected:
         return *static_cast<KdDbMlineStyle*>(core().load(stub(handle)));
     }
 
-    std::unique_ptr<orvex::DrawingFile> m_file = std::get<0>(orvex::DrawingFile::open(
+    std::unique_ptr<orvex::DrawingFile> m_file = std::move(*orvex::DrawingFile::open(
         (orvex::testing::sourceDir() / "tests/host_drawing/corpus/sample.dxf").string()));
     KdDocument m_document{&m_file->database()};
     KdDocument* m_before;

@@ -26,8 +26,7 @@ void require(bool holds, const char* what) {
 
 std::unique_ptr<DrawingFile> open(std::string bytes) {
     auto opened = DrawingFile::openBytes(std::move(bytes));
-    auto* const file = std::get_if<std::unique_ptr<DrawingFile>>(&opened);
-    return file != nullptr ? std::move(*file) : nullptr;
+    return opened ? std::move(*opened) : nullptr;
 }
 
 void lookAtAll(DatabaseCore& core) {

@@ -8,8 +8,10 @@
 #include "MlineStyleContent.h"
 #include "sampleDrawing.h"
 
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -33,13 +35,25 @@ TEST(Opening, isRefusedWithTheLine) {
         {"\xFF\xFE\x30", 1, "no integer"},
     };
     for (const auto& file : files) {
-        const DrawingError error = openFailing(file.bytes);
-        EXPECT_EQ(error.line, file.line) << file.bytes;
-        EXPECT_THAT(error.text, HasSubstr(file.text));
-        EXPECT_FALSE(error.cancelled);
+        const Failure failure = openFailing(file.bytes);
+        EXPECT_EQ(failure.cause, FailureCause::unreadableInput);
+        EXPECT_EQ(failure.line, file.line) << file.bytes;
+        EXPECT_THAT(failure.text, HasSubstr(file.text));
     }
-    EXPECT_TRUE(std::holds_alternative<DrawingError>(DrawingFile::open("/nowhere/at/all.dxf")));
-    EXPECT_TRUE(std::holds_alternative<DrawingError>(DrawingFile::open("/")));
+}
+
+// A pipe without a writer must not hang, a device without an end not fill the memory.
+TEST(Opening, takesRegularFilesOnly) {
+    const std::string pipe = (std::filesystem::temp_directory_path() / "pipe.dxf").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    for (const std::string& path : {std::string("/nowhere/at/all.dxf"), std::string("/"), pipe,
+                                    std::string("/dev/zero"), std::string("/dev/null")}) {
+        const auto opened = DrawingFile::open(path);
+        ASSERT_FALSE(opened) << path;
+        EXPECT_EQ(opened.failure().cause, FailureCause::unreadableInput);
+        EXPECT_EQ(opened.failure().file, path);
+        EXPECT_NE(opened.failure().text, "");
+    }
 }
 
 TEST(Opening, tellsOfWhatIsOdd) {

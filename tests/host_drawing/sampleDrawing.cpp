@@ -46,17 +46,17 @@ std::string replaced(std::string text, std::string_view from, std::string_view t
 
 std::unique_ptr<DrawingFile> openDrawing(const std::string& bytes) {
     auto opened = DrawingFile::openBytes(bytes);
-    if (auto* const error = std::get_if<DrawingError>(&opened)) {
-        ADD_FAILURE() << "line " << error->line << ": " << error->text;
+    if (!opened) {
+        ADD_FAILURE() << messageOf(opened.failure());
         return DrawingFile::create();
     }
-    return std::move(std::get<std::unique_ptr<DrawingFile>>(opened));
+    return std::move(*opened);
 }
 
-DrawingError openFailing(const std::string& bytes) {
-    auto opened = DrawingFile::openBytes(bytes);
-    if (auto* const error = std::get_if<DrawingError>(&opened)) {
-        return *error;
+Failure openFailing(const std::string& bytes) {
+    const auto opened = DrawingFile::openBytes(bytes);
+    if (!opened) {
+        return opened.failure();
     }
     ADD_FAILURE() << "it opens";
     return {};

@@ -25,7 +25,7 @@ std::string withReturns(const std::string& bytes);
 std::string replaced(std::string text, std::string_view from, std::string_view to);
 
 std::unique_ptr<DrawingFile> openDrawing(const std::string& bytes);
-DrawingError openFailing(const std::string& bytes);
+Failure openFailing(const std::string& bytes);
 // The texts of the warnings, one a line.
 std::string warningsOf(const std::string& bytes);
 

@@ -54,11 +54,11 @@ using ::testing::ElementsAre;
 
 TEST_F(Saving, writesTheBytesAndKeepsTheOldFilesMode) {
     const fs::path path = folder / "plan.dxf";
-    EXPECT_EQ(file->save(path.string()), nullptr);
+    EXPECT_FALSE(file->save(path.string()));
     EXPECT_TRUE(sameText(read(path), sampleDrawing()));
     write(path, "old");
     chmod(path.c_str(), 0640);
-    EXPECT_EQ(file->save(path.string()), nullptr);
+    EXPECT_FALSE(file->save(path.string()));
     EXPECT_TRUE(sameText(read(path), sampleDrawing()));
     struct stat status {};
     stat(path.c_str(), &status);
@@ -70,21 +70,22 @@ TEST_F(Saving, writesOverItsOwnInputAgainAndAgain) {
     const fs::path path = folder / "plan.dxf";
     write(path, sampleDrawing());
     auto opened = DrawingFile::open(path.string());
-    auto& drawing = *std::get<std::unique_ptr<DrawingFile>>(opened);
+    ASSERT_TRUE(opened);
+    DrawingFile& drawing = **opened;
     DatabaseCore& core = drawing.database().core();
     core.beginCommand();
     core.setVariable("CMLSCALE", 3.0);
     core.endCommand();
-    EXPECT_EQ(drawing.save(path.string()), nullptr);
+    EXPECT_FALSE(drawing.save(path.string()));
     EXPECT_TRUE(sameText(read(path), replaced(sampleDrawing(), "20.00", "3.0")));
     core.beginCommand();
     core.setVariable("CMLJUST", 2);
     core.endCommand();
-    EXPECT_EQ(drawing.save(path.string()), nullptr);
+    EXPECT_FALSE(drawing.save(path.string()));
     EXPECT_THAT(read(path), ::testing::HasSubstr("$CMLJUST"));
     core.undo();
     core.undo();
-    EXPECT_EQ(drawing.save(path.string()), nullptr);
+    EXPECT_FALSE(drawing.save(path.string()));
     EXPECT_TRUE(sameText(read(path), sampleDrawing()));
 }
 
@@ -92,27 +93,32 @@ TEST_F(Saving, followsLinks) {
     write(folder / "plan.dxf", "old");
     fs::create_symlink("plan.dxf", folder / "link.dxf");
     fs::create_symlink("new.dxf", folder / "dangling.dxf");
-    EXPECT_EQ(file->save((folder / "link.dxf").string()), nullptr);
-    EXPECT_EQ(file->save((folder / "dangling.dxf").string()), nullptr);
+    EXPECT_FALSE(file->save((folder / "link.dxf").string()));
+    EXPECT_FALSE(file->save((folder / "dangling.dxf").string()));
     EXPECT_TRUE(fs::is_symlink(folder / "link.dxf"));
     EXPECT_TRUE(sameText(read(folder / "plan.dxf"), sampleDrawing()));
     EXPECT_TRUE(sameText(read(folder / "new.dxf"), sampleDrawing()));
     fs::create_symlink("ring.dxf", folder / "ring.dxf");
-    EXPECT_NE(file->save((folder / "ring.dxf").string()), nullptr);
+    EXPECT_TRUE(file->save((folder / "ring.dxf").string()));
 }
 
 TEST_F(Saving, failsWithoutATraceWhereNothingCanBeWritten) {
-    EXPECT_NE(file->save((folder / "missing" / "plan.dxf").string()), nullptr);
-    EXPECT_NE(file->save(folder.string()), nullptr);
-    EXPECT_NE(file->save(""), nullptr);
-    const auto error = file->save("/dev/full");
-    ASSERT_NE(error, nullptr);
-    EXPECT_FALSE(error->text.empty());
-    EXPECT_EQ(file->save("/dev/null"), nullptr);
+    EXPECT_TRUE(file->save((folder / "missing" / "plan.dxf").string()));
+    EXPECT_TRUE(file->save(folder.string()));
+    EXPECT_TRUE(file->save(""));
+    fs::create_symlink("/dev/full", folder / "full.dxf");
+    for (const std::string& full : {std::string("/dev/full"), (folder / "full.dxf").string()}) {
+        const auto failure = file->save(full);
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(failure->cause, FailureCause::unwritableOutput);
+        EXPECT_EQ(messageOf(*failure), full + ": No space left on device");
+    }
+    fs::remove(folder / "full.dxf");
+    EXPECT_FALSE(file->save("/dev/null"));
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
     if (geteuid() != 0) { // nothing is forbidden to root
         fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec);
-        EXPECT_NE(file->save((folder / "plan.dxf").string()), nullptr);
+        EXPECT_TRUE(file->save((folder / "plan.dxf").string()));
     }
     EXPECT_TRUE(names().empty());
 }
@@ -125,9 +131,9 @@ TEST_F(Saving, leavesTheOldFileWhenTheDiskIsFull) {
     rlimit small = before;
     small.rlim_cur = 1000;
     setrlimit(RLIMIT_FSIZE, &small);
-    const auto error = file->save(path.string());
+    const auto failure = file->save(path.string());
     setrlimit(RLIMIT_FSIZE, &before);
-    ASSERT_NE(error, nullptr);
+    ASSERT_TRUE(failure);
     EXPECT_EQ(read(path), "old");
     EXPECT_THAT(names(), ElementsAre("plan.dxf"));
 }

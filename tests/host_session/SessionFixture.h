@@ -18,8 +18,6 @@
 // A session over a new drawing, answered by scripts.
 class SessionFixture : public testing::Test {
 protected:
-    using Outcome = orvex::Session::Outcome;
-
     SessionFixture() { open(orvex::DrawingFile::create()); }
 
     void open(std::unique_ptr<orvex::DrawingFile> drawing, bool hasWindow = false) {
@@ -32,19 +30,19 @@ protected:
         m_session = std::make_unique<orvex::Session>(std::move(setup), m_modules);
     }
 
-    // Plays all commands of a script; the last command's outcome.
-    Outcome play(const std::string& script) {
+    // Plays all commands of a script; the last command's failure.
+    std::optional<orvex::Failure> play(const std::string& script) {
         m_script = std::make_unique<orvex::ScriptSource>(
             script, [this](const std::wstring& line) { m_printed.push_back(line); });
         m_session->setSource(m_script.get());
-        Outcome outcome = Outcome::done;
+        std::optional<orvex::Failure> failure;
         while (!m_script->atEnd()) {
             const std::wstring name = m_session->askCommand();
             if (!name.empty()) {
-                outcome = m_session->run(name).outcome;
+                failure = m_session->run(name);
             }
         }
-        return outcome;
+        return failure;
     }
 
     [[nodiscard]] orvex::DatabaseCore& core() { return m_session->database().core(); }

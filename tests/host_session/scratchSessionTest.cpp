@@ -45,9 +45,10 @@ protected:
     }
 
     // Cuts the bar away under a wall.
-    static std::wstring crossInside(ScratchSession& scratch, const std::string& picks) {
+    static std::string crossInside(ScratchSession& scratch, const std::string& picks) {
         orvex::ScriptSource answers("CC\n" + picks + "\n", [](const std::wstring&) {});
-        return scratch.run(L"-MLEDIT", answers);
+        const auto failure = scratch.run(L"-MLEDIT", answers);
+        return failure ? messageOf(*failure) : "";
     }
     [[nodiscard]] std::string barPick() const { return "10,5 #" + handle(0) + "\n"; }
     [[nodiscard]] std::string handle(std::size_t index) const {
@@ -66,7 +67,7 @@ protected:
 };
 
 TEST_F(Scratch, playsACommandWhileAnotherWaitsAtAPromptOfTheDrawing) {
-    std::wstring failure = L"not played";
+    std::string failure = "not played";
     std::size_t stopsInside = 0;
     const auto playInside = [&] {
         PromptSession& prompts = PromptSession::current();
@@ -96,8 +97,8 @@ TEST_F(Scratch, playsACommandWhileAnotherWaitsAtAPromptOfTheDrawing) {
     };
     Interrupted outer("CC\n" + barPick() + "70,40 #" + handle(2) + "\n\n", playInside);
     m_session->setSource(&outer);
-    EXPECT_EQ(m_session->run(L"-MLEDIT").outcome, Outcome::done);
-    EXPECT_EQ(failure, L"");
+    EXPECT_FALSE(m_session->run(L"-MLEDIT"));
+    EXPECT_EQ(failure, "");
     EXPECT_EQ(stopsInside, 4U);
 
     // The one that waited has done its own work and no other, and it is one step.
@@ -113,7 +114,7 @@ TEST_F(Scratch, givesBackWhatItsCopiesCameToAsIfThePlayHadBeenOnTheDrawing) {
     }
     scratch.view().setView({50, 0}, 110);
     // The second pick names no handle: it is found by where it lies.
-    EXPECT_EQ(crossInside(scratch, barPick() + "35,40\n"), L"");
+    EXPECT_EQ(crossInside(scratch, barPick() + "35,40\n"), "");
     core().beginCommand();
     for (KdDbStub* const stub : m_stubs) {
         scratch.giveBack(*stub);

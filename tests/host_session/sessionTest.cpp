@@ -14,11 +14,12 @@
 
 namespace {
 
+using orvex::FailureCause;
 using orvex::PromptSession;
 
 // The session that the commands of the tests work on: a command is a plain function.
 orvex::Session* theSession = nullptr;
-orvex::Session::Outcome insideOutcome;
+std::optional<orvex::Failure> insideFailure;
 
 void leaveThingsOpen() {
     KdDbStub& stub = *theSession->database().core().modelSpace().entities.front();
@@ -39,7 +40,7 @@ void leaveThingsOpenAndThrow() {
 }
 
 void runAnotherInside() {
-    insideOutcome = theSession->run(L"ZOOM").outcome;
+    insideFailure = theSession->run(L"ZOOM");
 }
 
 void throwNothingKnown() {
@@ -61,6 +62,11 @@ protected:
     static KdEdCommandStack& stack() {
         return *KdEdCommandStack::cast(kdrxSysRegistry()->at(L"RVEX_REGISTERED_COMMANDS"));
     }
+    FailureCause causeOf(const wchar_t* name) {
+        const auto failure = m_session->run(name);
+        EXPECT_TRUE(failure);
+        return failure ? failure->cause : FailureCause{};
+    }
     static void add(const wchar_t* name, void (*function)()) {
         stack().addCommand(L"TEST", name, L"", 2, function, nullptr, -1, nullptr, nullptr);
     }
@@ -80,31 +86,36 @@ TEST_F(Dispatcher, putsBackWhatACommandLeaves) {
         EXPECT_FALSE(m_session->isRunning());
 
         EXPECT_EQ(mlines().front()->scale(), 77.0);
-        EXPECT_EQ(play("U"), Outcome::done); // one step for all
+        EXPECT_FALSE(play("U")); // one step for all
         EXPECT_EQ(mlines().front()->scale(), 1.0);
     }
 }
 
-TEST_F(Dispatcher, tellsOfExceptionsAndGoesOn) {
-    const auto result = m_session->run(L"LEAVETHROW");
-    EXPECT_EQ(result.outcome, Outcome::failed);
-    EXPECT_THAT(result.message, testing::HasSubstr(L"out of luck"));
-    EXPECT_EQ(m_session->run(L"THROW").outcome, Outcome::failed);
-    EXPECT_EQ(m_session->run(L"INSIDE").outcome, Outcome::done);
-    EXPECT_EQ(insideOutcome, Outcome::busy); // no command runs inside of another
-    EXPECT_EQ(play("ZOOM\nE\n"), Outcome::done);
+TEST_F(Dispatcher, reportsExceptionsAndGoesOn) {
+    const auto failure = m_session->run(L"LEAVETHROW");
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->cause, FailureCause::programFault);
+    EXPECT_THAT(failure->text, testing::HasSubstr("out of luck"));
+    EXPECT_EQ(causeOf(L"THROW"), FailureCause::programFault);
+    EXPECT_FALSE(m_session->run(L"INSIDE"));
+    ASSERT_TRUE(insideFailure); // no command runs inside of another
+    EXPECT_EQ(insideFailure->cause, FailureCause::unplayableScript);
+    EXPECT_FALSE(play("ZOOM\nE\n"));
 }
 
 TEST_F(SessionFixture, loadsTheModuleForANameThatIsUnknown) {
-    EXPECT_EQ(play("-mledit\nCC\n"), Outcome::done);
-    EXPECT_EQ(play("NOSUCHCOMMAND\n"), Outcome::unknown);
+    EXPECT_FALSE(play("-mledit\nCC\n"));
+    const auto failure = play("NOSUCHCOMMAND\n");
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->cause, FailureCause::unplayableScript);
 }
 
 TEST_F(SessionFixture, refusesCommandsWithDialogsWithoutAWindow) {
     for (const wchar_t* name : {L"MLSTYLE", L"mledit"}) {
-        const auto result = m_session->run(name);
-        EXPECT_EQ(result.outcome, Outcome::needsWindow);
-        EXPECT_THAT(result.message, testing::HasSubstr(L"window"));
+        const auto failure = m_session->run(name);
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(failure->cause, FailureCause::unplayableScript);
+        EXPECT_THAT(failure->text, testing::HasSubstr("window"));
     }
 }
 
@@ -131,7 +142,7 @@ TEST_F(SessionFixture, undoTakesBackCommandsOneByOneAndSaysWhenThereAreNone) {
     play("U\n");
     EXPECT_EQ(mlines().size(), 0U);
     m_printed.clear();
-    EXPECT_EQ(play("U\n"), Outcome::done);
+    EXPECT_FALSE(play("U\n"));
     EXPECT_EQ(m_printed.back(), L"There is nothing to undo.");
 }
 

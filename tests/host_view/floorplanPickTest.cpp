@@ -17,9 +17,8 @@ struct PlanPick {
 // The walls are told in samples/README.md, lengths in millimetres.
 TEST(FloorplanPick, findsTheWallsAsTheyAreDrawn) {
     auto opened = DrawingFile::open((sourceDir() / "samples" / "floorplan.dxf").string());
-    auto* file = std::get_if<std::unique_ptr<DrawingFile>>(&opened);
-    ASSERT_NE(file, nullptr);
-    KdDbDatabase& database = (*file)->database();
+    ASSERT_TRUE(opened);
+    KdDbDatabase& database = (*opened)->database();
     Scene scene(database);
     const PlanPick picks[] = {
         {"spine, on a locked layer, left face", {2000, 5320}, 0x7B},

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "DrawingFile.h"
+
+#include <memory>
+#include <new>
+#include <optional>
+#include <string>
+
+namespace orvex {
+
+// Opens a drawing and prints its warnings to standard error.
+Result<std::unique_ptr<DrawingFile>> openDrawing(const std::string& path);
+
+// Nothing while all that was printed could be written.
+std::optional<Failure> flushOutput();
+
+// Prints a line to standard error: "orvex-batch: " and the text.
+void complain(const std::string& text);
+
+// Runs `work`, an action; lack of memory is a failure with that cause. `file` is the one at hand.
+template <class Work>
+std::optional<Failure> withMemory(FailureCause cause, const std::string& file, Work&& work) {
+    try {
+        return work();
+    } catch (const std::bad_alloc&) {
+        return Failure{cause, file, 0, "not enough memory"};
+    }
+}
+
+} // namespace orvex

@@ -1,0 +1,99 @@
+#include "readFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace orvex {
+
+namespace {
+
+class InputFile {
+public:
+    // Not blocking: else the opening of a pipe waits for its writer.
+    explicit InputFile(const std::string& path)
+        : m_path(path),
+          m_descriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)) {}
+    ~InputFile() {
+        if (m_descriptor >= 0) {
+            close(m_descriptor);
+        }
+    }
+    InputFile(const InputFile&) = delete;
+    InputFile& operator=(const InputFile&) = delete;
+
+    Result<std::string> read(const Progress& progress, std::uint64_t largest) const {
+        struct stat status {};
+        if (m_descriptor < 0 || fstat(m_descriptor, &status) != 0) {
+            return failure(std::strerror(errno));
+        }
+        if (S_ISDIR(status.st_mode)) {
+            return failure(std::strerror(EISDIR));
+        }
+        if (!S_ISREG(status.st_mode)) {
+            return failure("Not a regular file");
+        }
+        return readAll(static_cast<std::size_t>(status.st_size), progress, largest);
+    }
+
+private:
+    // `size` is what it should be: some files of the system have none and hold bytes.
+    [[nodiscard]] Result<std::string> readAll(std::size_t size, const Progress& progress,
+                                              std::uint64_t largest) const {
+        constexpr std::size_t kPiece = std::size_t{1} << 20U;
+        if (size > largest) {
+            return failure(std::strerror(EFBIG));
+        }
+        std::string bytes;
+        bytes.reserve(size + kPiece); // with room to see its end
+        for (std::size_t filled = 0;;) {
+            // Memory that is used for the first time takes as long as reading.
+            bytes.resize(filled + kPiece);
+            const ssize_t got = readPiece(bytes.data() + filled, kPiece);
+            if (got < 0) {
+                return failure(std::strerror(errno));
+            }
+            filled += static_cast<std::size_t>(got);
+            bytes.resize(filled);
+            if (filled > largest) {
+                return failure(std::strerror(EFBIG));
+            }
+            if (got == 0) {
+                return bytes;
+            }
+            const double part =
+                size == 0 ? 0.0
+                          : std::min(1.0, static_cast<double>(filled) / static_cast<double>(size));
+            if (progress && !progress(part)) {
+                return Failure{FailureCause::interrupted, m_path, 0, "interrupted"};
+            }
+        }
+    }
+
+    ssize_t readPiece(char* target, std::size_t size) const {
+        ssize_t got = 0;
+        do {
+            got = ::read(m_descriptor, target, size);
+        } while (got < 0 && errno == EINTR);
+        return got;
+    }
+
+    [[nodiscard]] Failure failure(std::string text) const {
+        return {FailureCause::unreadableInput, m_path, 0, std::move(text)};
+    }
+
+    const std::string& m_path;
+    int m_descriptor;
+};
+
+} // namespace
+
+Result<std::string> readRegularFile(const std::string& path, const Progress& progress,
+                                    std::uint64_t largest) {
+    return InputFile(path).read(progress, largest);
+}
+
+} // namespace orvex
