@@ -12,6 +12,7 @@ ExitStatus exitStatus(FailureCause cause) {
         return ExitStatus::unwritable;
     case FailureCause::unplayableScript:
     case FailureCause::unloadableModule:
+    case FailureCause::impossibleEdit:
         return ExitStatus::unplayable;
     case FailureCause::missedPick:
         return ExitStatus::missedPick;

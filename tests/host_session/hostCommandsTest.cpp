@@ -14,7 +14,7 @@ TEST_F(SessionFixture, viewStartsAtTheExtentsBeforeTheFirstCommand) {
     // Opened again: 200 wide, 1 below the chain; three quarters of the width count as height.
     const std::string bytes = m_session->drawing().bytes();
     auto opened = orvex::DrawingFile::openBytes(bytes);
-    open(std::move(std::get<std::unique_ptr<orvex::DrawingFile>>(opened)));
+    open(std::move(*opened));
     EXPECT_DOUBLE_EQ(m_session->view().viewHeight(), 1.1 * 0.75 * 200);
     EXPECT_EQ(m_session->view().center(), (PlanPoint{100, -0.5}));
 }
