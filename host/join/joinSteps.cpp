@@ -26,16 +26,19 @@ struct PickedSide {
     double meeting = 0.0;
 };
 
-// The nearest that another element comes to element 0 on a segment.
+// The least distance between two elements of a segment that don't coincide.
 double elementGap(const JoinWall& wall, unsigned segment) {
     const PlanLine line = wall.axis(segment);
-    double gap = 2.0 * wall.halfWidth(segment);
-    for (unsigned e = 1; e < wall.elementCount(); ++e) {
-        const double apart =
-            std::abs(cross(line.direction, wall.position(segment, e) - wall.position(segment, 0)));
-        if (apart > 1e-6 * gap) {
-            gap = std::min(gap, apart);
-        }
+    std::vector<double> sides;
+    for (unsigned e = 0; e < wall.elementCount(); ++e) {
+        sides.push_back(line.aside(wall.position(segment, e)));
+    }
+    std::sort(sides.begin(), sides.end());
+    const double width = sides.back() - sides.front();
+    double gap = width;
+    for (std::size_t i = 1; i < sides.size(); ++i) {
+        const double apart = sides[i] - sides[i - 1];
+        gap = apart > 1e-6 * width ? std::min(gap, apart) : gap;
     }
     return gap;
 }
