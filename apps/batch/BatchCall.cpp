@@ -3,6 +3,8 @@
 #include <CLI/CLI.hpp>
 
 #include <charconv>
+#include <cmath>
+#include <map>
 
 namespace orvex {
 
@@ -31,11 +33,42 @@ std::string checkSize(const std::string& text) {
     return parseSize(text) ? std::string() : "the size is two numbers of pixels, as in 1600x1200";
 }
 
+std::optional<double> parseTolerance(const std::string& text) {
+    double value = 0.0;
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, value);
+    const bool isNumber = result.ec == std::errc() && result.ptr == end && std::isfinite(value);
+    return isNumber && value >= 0.0 ? std::optional(value) : std::nullopt;
+}
+
+std::string checkTolerance(const std::string& text) {
+    return parseTolerance(text) ? std::string()
+                                : "the tolerance is a number of drawing units, 0 or more";
+}
+
+const std::map<std::string, JoinKind> kJoinKinds{{"closed", JoinKind::closed},
+                                                 {"open", JoinKind::open},
+                                                 {"merged", JoinKind::merged},
+                                                 {"none", JoinKind::none}};
+
+std::string joinFooter() {
+    std::string text = "Codes of reasons:";
+    for (const JoinReason reason : joinReasons()) {
+        text += ' ' + std::string(joinReasonCode(reason));
+    }
+    return text;
+}
+
 // What CLI11 fills while it reads the command line.
 struct Options {
     RunCall run;
     ShowCall show;
     ListCall list;
+    JoinCall join;
+    std::string tolerance;
+    std::string cross = "open";
+    std::string tee = "open";
+    std::string corners = "yes";
     std::string size = "1600x1200";
 };
 
@@ -68,6 +101,43 @@ CLI::App* addList(CLI::App& app, ListCall& call) {
     return verb;
 }
 
+CLI::App* addJoin(CLI::App& app, Options& options) {
+    JoinCall& call = options.join;
+    CLI::App* const verb =
+        app.add_subcommand("join", "Join the multilines of a plan where they meet");
+    verb->add_option("DRAWING", call.drawing, "The drawing to open")->required();
+    verb->add_option("--output", call.output, "Where to save the result");
+    verb->add_option("--tolerance", options.tolerance,
+                     "How far an end may be short or over, drawing units; without, half the width "
+                     "of the narrower multiline of a pair")
+        ->check(checkTolerance);
+    for (const auto& [name, kind] :
+         {std::pair("--cross", &options.cross), {"--tee", &options.tee}}) {
+        verb->add_option(name, *kind, "closed, open, merged or none")
+            ->capture_default_str()
+            ->check(CLI::IsMember(&kJoinKinds));
+    }
+    verb->add_option("--corners", options.corners, "yes or no")
+        ->capture_default_str()
+        ->check(CLI::IsMember({"yes", "no"}));
+    verb->add_option("--layer", call.layers, "Join what is on this layer; may be given again")
+        ->allow_extra_args(false);
+    verb->add_option("--save-script", call.saveScript, "Where to save the joints as a script");
+    verb->add_flag("--json", call.asJson, "Print JSON, for programs");
+    verb->add_option("--module", call.module, "The module file to load");
+    verb->footer(joinFooter());
+    return verb;
+}
+
+JoinCall joinCall(const Options& options) {
+    JoinCall call = options.join;
+    call.options.tolerance = parseTolerance(options.tolerance);
+    call.options.cross = kJoinKinds.at(options.cross);
+    call.options.tee = kJoinKinds.at(options.tee);
+    call.options.corners = options.corners == "yes";
+    return call;
+}
+
 } // namespace
 
 BatchCall parseBatchCall(int argc, const char* const* argv) {
@@ -79,6 +149,7 @@ BatchCall parseBatchCall(int argc, const char* const* argv) {
     const CLI::App* const run = addRun(app, options.run);
     const CLI::App* const show = addShow(app, options.show, options.size);
     addList(app, options.list);
+    const CLI::App* const join = addJoin(app, options);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForVersion& request) {
@@ -88,10 +159,13 @@ BatchCall parseBatchCall(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& error) {
         const bool hasVerb = !app.get_subcommands().empty();
         return AnsweredCall{true, hasVerb ? error.what()
-                                          : "the first argument has to be run, show or list"};
+                                          : "the first argument has to be run, show, list or join"};
     }
     if (run->parsed()) {
         return options.run;
+    }
+    if (join->parsed()) {
+        return joinCall(options);
     }
     if (show->parsed()) {
         options.show.size = *parseSize(options.size);

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "JoinPlace.h"
 #include "pictureWriter.h"
 
 #include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace orvex {
 
@@ -28,13 +30,23 @@ struct ListCall {
     bool asJson = false;
 };
 
+struct JoinCall {
+    std::string drawing;
+    std::optional<std::string> output;     // nothing is saved without
+    std::optional<std::string> saveScript; // the joints as a script
+    std::optional<std::string> module;     // else beside the program or in the library folder
+    std::vector<std::string> layers;       // all without
+    JoinOptions options;
+    bool asJson = false;
+};
+
 // A call that is answered at once, by help, the version, or a complaint.
 struct AnsweredCall {
     bool isWrong = false;
     std::string text;
 };
 
-using BatchCall = std::variant<RunCall, ShowCall, ListCall, AnsweredCall>;
+using BatchCall = std::variant<RunCall, ShowCall, ListCall, JoinCall, AnsweredCall>;
 
 BatchCall parseBatchCall(int argc, const char* const* argv);
 

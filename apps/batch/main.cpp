@@ -30,6 +30,9 @@ std::optional<Failure> carryOut(const BatchCall& call) {
     if (const auto* const list = std::get_if<ListCall>(&call)) {
         return listDrawing(*list);
     }
+    if (const auto* const join = std::get_if<JoinCall>(&call)) {
+        return joinDrawing(*join);
+    }
     return answer(std::get<AnsweredCall>(call));
 }
 

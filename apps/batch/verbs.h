@@ -12,5 +12,6 @@ namespace orvex {
 std::optional<Failure> runScript(const RunCall& call);
 std::optional<Failure> showDrawing(const ShowCall& call);
 std::optional<Failure> listDrawing(const ListCall& call);
+std::optional<Failure> joinDrawing(const JoinCall& call);
 
 } // namespace orvex

@@ -1,0 +1,125 @@
+#include "JoinScript.h"
+
+#include "coordinateFrames.h"
+#include "handleText.h"
+#include "resbuf.h"
+
+#include <array>
+#include <charconv>
+
+namespace orvex {
+
+namespace {
+
+std::string numberText(double value) {
+    std::array<char, 32> digits{};
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+    return {digits.data(), result.ptr};
+}
+
+resbuf frame(short number) {
+    resbuf buffer;
+    buffer.restype = kResultShort;
+    buffer.resval.rint = number;
+    return buffer;
+}
+
+std::string pointText(const KdGePoint3d& world) {
+    const resbuf from = frame(0);
+    const resbuf to = frame(1);
+    const double in[3] = {world.x, world.y, world.z};
+    double out[3] = {world.x, world.y, world.z};
+    kdedTrans(in, &from, &to, 0, out);
+    const std::string plan = numberText(out[0]) + ',' + numberText(out[1]);
+    return out[2] == 0.0 ? plan : plan + ',' + numberText(out[2]);
+}
+
+// As picks name an entity.
+std::string entityText(std::uint64_t handle) {
+    return '#' + handleText(handle);
+}
+
+} // namespace
+
+void JoinScript::line(const std::string& text) {
+    m_text += text;
+    m_text += '\n';
+}
+
+void JoinScript::pick(const KdGePoint3d& point, std::uint64_t handle) {
+    line(pointText(point) + ' ' + entityText(handle));
+}
+
+void JoinScript::point(const KdGePoint3d& point) {
+    line(pointText(point));
+}
+
+void JoinScript::number(double value) {
+    line(numberText(value));
+}
+
+void JoinScript::handle(std::uint64_t handle) {
+    line(entityText(handle));
+}
+
+void JoinScript::view(const KdGePoint3d& center, double height) {
+    line("ZOOM");
+    line("C");
+    point(center);
+    number(height);
+}
+
+void JoinScript::pickBox(int pixels) {
+    line("SETVAR");
+    line("PICKBOX");
+    line(std::to_string(pixels));
+}
+
+void JoinScript::moveEnd(const KdGePoint3d& at, std::uint64_t entity, const KdGePoint3d& to) {
+    line("MLEND");
+    pick(at, entity);
+    point(to);
+}
+
+void JoinScript::tool(std::string_view keyword, const KdGePoint3d& first, std::uint64_t firstHandle,
+                      const KdGePoint3d& second, std::uint64_t secondHandle) {
+    line("-MLEDIT");
+    line(std::string(keyword));
+    pick(first, firstHandle);
+    pick(second, secondHandle);
+    endCommand();
+}
+
+void JoinScript::layRight(std::uint64_t entity) {
+    line("MLLAY");
+    handle(entity);
+    endCommand();
+}
+
+void JoinScript::stops(std::uint64_t entity, unsigned segment, unsigned element,
+                       std::span<const double> distances) {
+    line("MLSTOPS");
+    handle(entity);
+    line(std::to_string(segment));
+    line(std::to_string(element));
+    for (const double distance : distances) {
+        number(distance);
+    }
+    endCommand();
+}
+
+std::string joinPlaceText(const JoinPlace& place, std::span<const JoinWall> walls) {
+    std::string text(placeKindWord(place.kind));
+    text += " at " + numberText(place.at.x) + ',' + numberText(place.at.y) + " of";
+    for (const unsigned wall : place.walls) {
+        text += ' ' + entityText(walls[wall].handle());
+    }
+    text += ": ";
+    text += placeResultWord(place.result);
+    if (place.result == PlaceResult::left) {
+        text += ", " + joinReasonText(place, walls);
+    }
+    return text;
+}
+
+} // namespace orvex
