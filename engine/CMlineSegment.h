@@ -27,7 +27,7 @@ struct CMlineSegment {
     double m_mappedDistance = 0.0;
     int m_mappedSegment = 0;
     int m_mappedElement = 0;
-    double m_weldPoint[3] = {0.0, 0.0, 0.0}; // the pick pulled back to its segment's ends
+    double m_weldPoint[3] = {0.0, 0.0, 0.0}; // the pick clamped to its segment's ends
 };
 
 namespace mledit {

@@ -14,7 +14,7 @@ bool areEqual(double a, double b) {
     return VoMath::isEqual(a, b, kSameBreak);
 }
 
-// The first entry behind the offset that is not before `from`; all of them when `from` is the
+// The first entry after the offset that is not before `from`; all of them when `from` is the
 // segment's start. The size when there is none.
 std::size_t firstReached(const BreakList& list, double from) {
     std::size_t k = 1;
@@ -43,7 +43,7 @@ BreakList cutWithin(BreakList list, double from, double to, bool insertsEnds) {
     while (high > 0 && !isBeforeOrAt(list[high], to)) {
         --high;
     }
-    // An end of the gap inside a drawn stretch becomes a break of its own.
+    // An end of the gap inside a drawn interval becomes a break of its own.
     if (insertsEnds && high % 2 == 1) {
         list.insert(at(list, high + 1), to);
     }
@@ -72,11 +72,11 @@ BreakList cutFromSegmentStart(BreakList list, double to, bool insertsEnd) {
     if (list.empty()) {
         return list;
     }
-    std::size_t behind = list.size();
-    while (behind > 1 && !isBeforeOrAt(list[behind - 1], to)) {
-        --behind;
+    std::size_t stop = list.size();
+    while (stop > 1 && !isBeforeOrAt(list[stop - 1], to)) {
+        --stop;
     }
-    list.erase(at(list, 1), at(list, behind));
+    list.erase(at(list, 1), at(list, stop));
     if (insertsEnd) {
         list.insert(at(list, 1), to);
     }

@@ -6,8 +6,9 @@ namespace mledit {
 
 // Break lists: how one element is drawn along one segment. Entry 0 is the element's offset along
 // the miter and never changes; then come distances from the element's position at the segment's
-// start, ascending: at odd indices a drawn stretch begins, at even ones it ends, and a stretch
-// without an end runs to the segment's end. {offset, 0} is a whole line, {offset} draws nothing.
+// start, ascending: at odd indices a drawn interval begins, at even ones it ends, and an
+// interval without an end extends to the segment's end. {offset, 0} is a whole line, {offset} draws
+// nothing.
 //
 // These functions make a gap from the distances of its ends: values in, value out. Nothing is
 // merged afterwards; a break equal to an end of the gap, within 1e-10, counts as reached.
@@ -17,7 +18,7 @@ using BreakList = std::vector<double>;
 BreakList cutWithin(BreakList list, double from, double to, bool insertsEnds);
 
 // The first segment of a longer gap: nothing from `from` on. `insertsStart` is false when the gap
-// starts at the segment's start. The parity of the list isn't looked at: a start in an existing
+// starts at the segment's start. The parity of the list isn't checked: a start in an existing
 // gap turns the rest of the segment on.
 BreakList cutToSegmentEnd(BreakList list, double from, bool insertsStart);
 

@@ -48,7 +48,7 @@ void takeOuterSegments(CMlineSegment& first, CMlineSegment& second) {
     second.m_segment = inOrder ? second.m_numVertices - 2 : 0;
 }
 
-// Where the picks lie doesn't count then: the middle of the segment stands for each.
+// The picks don't count then: each is replaced by the middle of its segment.
 void mapToMiddle(CMlineSegment& seg) {
     const double* const start = seg.m_ptList[0][seg.m_segment];
     const double* const end = seg.m_ptList[0][seg.m_segment + 1];

@@ -14,7 +14,7 @@ StepOutcome stepOpenCross(CMlineEdit& run);
 StepOutcome stepMergedCross(CMlineEdit& run);
 
 enum class CrossKind {
-    closed, // the first multiline goes under the second
+    closed, // the first multiline passes under the second
     open,   // and the second's outer lines open too
     merged, // both open as nested corners, middle lines run through
 };

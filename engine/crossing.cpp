@@ -66,7 +66,7 @@ public:
                          chains.second[chains.endOfSecond(pair.second)], m_pickedSecond);
     }
 
-    // Otherwise the one nearest to the places on both chains across from the picks; of two equally
+    // Otherwise the one nearest to the points of both chains opposite the picks; of two equally
     // near ones the earlier.
     void consider(const SegmentPair& pair) {
         if (!m_feetKnown) {

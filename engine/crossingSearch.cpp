@@ -83,11 +83,11 @@ CrossingSearch::CrossingSearch(const ChainPair& chains, CrossRule rule)
     m_short = kShort + kShortRelative * greatest;
     m_height = chains.first[0].xyz[2];
     const auto atHeight = [this](const ChainPoint& point) { return point.xyz[2] == m_height; };
-    m_canPassOver = greatest < kSafeCoordinate && std::ranges::all_of(chains.first, atHeight) &&
-                    std::ranges::all_of(chains.second, atHeight);
+    m_canSkip = greatest < kSafeCoordinate && std::ranges::all_of(chains.first, atHeight) &&
+                std::ranges::all_of(chains.second, atHeight);
 }
 
-// False only for a pair that can't come into question.
+// False only for a pair that can't be a candidate.
 bool CrossingSearch::mayMeet(int i, int j) const {
     const Line& a = m_firstLines[static_cast<std::size_t>(i)];
     const Line& b = m_secondLines[static_cast<std::size_t>(j)];
@@ -131,14 +131,14 @@ int CrossingSearch::solve(int i, int j, double* point) const {
                         point);
 }
 
-// Makes m_point what it is after all pairs up to and with `position`, of which those behind
-// m_pointPosition were passed over.
+// Makes m_point what it is after all pairs up to and with `position`, of which those after
+// m_pointPosition were skipped.
 void CrossingSearch::bringPointUpTo(long position) {
     const int columns = m_chains.secondSegments();
     for (long at = position; at > m_pointPosition; --at) {
         const int i = static_cast<int>(at / columns);
         const int j = static_cast<int>(at % columns);
-        if (isPassedOver(i, j)) {
+        if (isSkipped(i, j)) {
             continue;
         }
         // Its height on entry is the one that every crossing has.
@@ -159,7 +159,7 @@ bool CrossingSearch::step() {
     return m_i < m_chains.firstSegments() && m_chains.secondSegments() > 0;
 }
 
-bool CrossingSearch::comesIntoQuestion(int i, int j, int result) const {
+bool CrossingSearch::isCandidate(int i, int j, int result) const {
     const auto first = static_cast<std::size_t>(i);
     const auto second = static_cast<std::size_t>(j);
     const auto code = CMlineEdit::PositionConnection;
@@ -178,10 +178,10 @@ bool CrossingSearch::comesIntoQuestion(int i, int j, int result) const {
 
 bool CrossingSearch::next(SegmentPair& pair, bool& crossesOnBoth) {
     while (step()) {
-        if (isPassedOver(m_i, m_j)) {
+        if (isSkipped(m_i, m_j)) {
             continue;
         }
-        const bool knowsPoint = !m_canPassOver || m_firstSolved < 0;
+        const bool knowsPoint = !m_canSkip || m_firstSolved < 0;
         if (!knowsPoint && !mayMeet(m_i, m_j)) {
             continue;
         }
@@ -194,7 +194,7 @@ bool CrossingSearch::next(SegmentPair& pair, bool& crossesOnBoth) {
         if (result != -1 && m_firstSolved < 0) {
             m_firstSolved = position;
         }
-        if (comesIntoQuestion(m_i, m_j, result)) {
+        if (isCandidate(m_i, m_j, result)) {
             pair.first = m_i;
             pair.second = m_j;
             copyPoint(m_point, pair.point);

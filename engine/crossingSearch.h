@@ -13,9 +13,9 @@ struct ChainPoint {
     double xyz[3];
 };
 
-// How a pair has to cross to come into question.
+// How a pair has to cross to be a candidate.
 enum class CrossRule {
-    cross, // on one of its segments at least, the other may have to be produced
+    cross, // on one of its segments at least, the other may have to be extended
     tee,   // on the second's segment; the first may stop short of it or end on it
 };
 
@@ -45,17 +45,17 @@ struct ChainPair {
     }
 };
 
-// Walks the pairs that come into question, in the order of the first chain, then the second. The
-// point of a pair whose axes have no single crossing is that of the pair solved last: it comes
-// into question when it happens to lie inside both segments, and that is relied upon.
+// Walks the candidate pairs, in the order of the first chain, then the second. The
+// point of a pair whose axes have no single crossing is that of the pair solved last: it is
+// a candidate when it happens to lie inside both segments, and that is relied upon.
 //
-// A pair whose segments lie clear of each other's lines can't come into question, so it is passed
-// over unsolved; what its point would have been is worked out when a later pair asks for it.
+// A pair whose segments lie clear of each other's lines can't be a candidate, so it is skipped
+// unsolved; what its point would have been is computed when a later pair asks for it.
 class CrossingSearch {
 public:
     CrossingSearch(const ChainPair& chains, CrossRule rule);
 
-    // The next pair that comes into question; false at the end. `crossesOnBoth` tells that the
+    // The next candidate pair; false at the end. `crossesOnBoth` says that the
     // crossing lies on both segments.
     bool next(SegmentPair& pair, bool& crossesOnBoth);
 
@@ -72,22 +72,22 @@ private:
     bool step();
     int solve(int i, int j, double* point) const;
     void bringPointUpTo(long position);
-    [[nodiscard]] bool comesIntoQuestion(int i, int j, int result) const;
-    [[nodiscard]] bool isPassedOver(int i, int j) const { return m_chains.sameEntity && i == j; }
+    [[nodiscard]] bool isCandidate(int i, int j, int result) const;
+    [[nodiscard]] bool isSkipped(int i, int j) const { return m_chains.sameEntity && i == j; }
 
     ChainPair m_chains;
     CrossRule m_rule;
     std::vector<Line> m_firstLines;
     std::vector<Line> m_secondLines;
-    double m_margin = 0.0;      // how far a computed crossing may stray, drawing units
-    double m_short = 0.0;       // segments up to this length are always solved
-    bool m_canPassOver = false; // heights are all alike, so no pair hangs on the one before
-    double m_height = 0.0;      // then the z of every solved crossing
-    long m_firstSolved = -1;    // position of the first pair that has a crossing
+    double m_margin = 0.0;   // how far a computed crossing may stray, drawing units
+    double m_short = 0.0;    // segments up to this length are always solved
+    bool m_canSkip = false;  // heights are all alike, so no pair depends on the one before
+    double m_height = 0.0;   // then the z of every solved crossing
+    long m_firstSolved = -1; // position of the first pair that has a crossing
     int m_i = 0;
     int m_j = -1;
     double m_point[3] = {0.0, 0.0, 0.0};
-    long m_pointPosition = -1; // m_point is as it stands after this position
+    long m_pointPosition = -1; // m_point is as it was after this position
 };
 
 } // namespace mledit

@@ -23,7 +23,7 @@ public:
     // Where the host refuses the conversion, the values stay as they are.
     void toFrame(const double* world, double* out) const;
     void directionToFrame(const double* world, double* out) const;
-    // The direction that stands at an angle to the frame's X axis, in the world.
+    // The direction at an angle to the frame's X axis, in the world.
     void direction(double angle, double* world) const;
 
 private:
@@ -33,11 +33,11 @@ private:
     resbuf m_frame;
 };
 
-// Half-way between the directions a and b from a vertex to its neighbours: the miter. Not
+// Halfway between the directions a and b from a vertex to its neighbours: the miter. Not
 // normalised.
 double bisect(double a, double b);
 
-// Vertices around one; on an open chain they simply run off its ends.
+// Vertices around one; on an open chain they simply lie outside its range.
 struct Neighbours {
     int next;
     int afterNext;
@@ -47,7 +47,7 @@ struct Neighbours {
 Neighbours neighboursOf(int vertex, int numVertices, bool closed);
 
 // The angles that a style gives to the ends of a multiline, in the sense of the multiline's normal
-// and the user coordinate system: they turn the other way when both look to the same side.
+// and the user coordinate system: their sign is reversed when both point to the same side.
 struct EndAngles {
     double start;
     double end;

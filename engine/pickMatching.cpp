@@ -27,7 +27,7 @@ bool isInSpan(const double* foot, const double* start, const double* end) {
            (foot[1] >= start[1] && foot[1] < end[1]) || (foot[1] > end[1] && foot[1] <= start[1]);
 }
 
-// Whether a drawn stretch passes that distance. The offset at index 0 takes part in the search, so
+// Whether the element is drawn at that distance. The offset at index 0 takes part in the search, so
 // an element with an offset above the distance counts as not drawn there.
 bool isDrawnAt(const std::vector<double>& list, double distance) {
     const auto next = std::find_if(list.begin(), list.end(),
@@ -44,7 +44,7 @@ public:
     }
 
     // Whether the pick lies on an element in the segment from vertex `from` to vertex `to`. `foot`
-    // is the place on its line.
+    // is the point on its line.
     [[nodiscard]] bool matches(int element, int from, int to, double* foot) const {
         const double* const start = m_seg.m_ptList[element][from];
         const double* const end = m_seg.m_ptList[element][to];

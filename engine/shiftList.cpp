@@ -10,15 +10,15 @@ namespace mledit {
 namespace {
 
 constexpr double kEqualBreaks = 1e-10; // drawing units
-constexpr double kLeastTurn = 0.005;   // radians, in place of none
+constexpr double kLeastTurn = 0.005;   // radians, instead of 0
 
-void addBehindOffset(BreakList& list, double distance) {
+void addAfterOffset(BreakList& list, double distance) {
     for (std::size_t index = 1; index < list.size(); ++index) {
         list[index] += distance;
     }
 }
 
-// The first break above 0 behind the offset, the end when there is none.
+// The first break above 0 after the offset, the end when there is none.
 BreakList::iterator firstAhead(BreakList& list) {
     return std::find_if(std::min(list.begin() + 1, list.end()), list.end(),
                         [](double x) { return x > 0.0; });
@@ -38,18 +38,18 @@ BreakList shortenFromStart(BreakList list, double distance) {
     if (list.empty()) {
         return list;
     }
-    addBehindOffset(list, -distance);
+    addAfterOffset(list, -distance);
     const auto found = firstAhead(list);
     const auto erased = found - (list.begin() + 1);
     list.erase(list.begin() + 1, found);
     if (erased % 2 != 0) {
-        list.insert(list.begin() + 1, 0.0); // the new start lies inside a run
+        list.insert(list.begin() + 1, 0.0); // the new start lies inside an interval
     }
     return list;
 }
 
 BreakList lengthenAtStart(BreakList list, double distance) {
-    addBehindOffset(list, distance);
+    addAfterOffset(list, distance);
     return list;
 }
 
@@ -64,7 +64,7 @@ BreakList growAtStart(BreakList list, double distance, double offset) {
     if (list.empty()) {
         return list;
     }
-    addBehindOffset(list, distance);
+    addAfterOffset(list, distance);
     if (list.size() > 1 && VoMath::isEqual(list[1], distance, kEqualBreaks)) {
         list[1] = 0.0;
     }
@@ -76,7 +76,7 @@ BreakList shrinkAtStart(BreakList list, double distance, double offset) {
     if (list.empty()) {
         return list;
     }
-    addBehindOffset(list, -distance);
+    addAfterOffset(list, -distance);
     const auto found = firstAhead(list);
     const auto erased = found - list.begin();
     list.erase(list.begin(), found);
@@ -96,7 +96,7 @@ BreakList beforeNewVertex(BreakList list, double distance) {
     return list;
 }
 
-BreakList withoutRuns(BreakList list) {
+BreakList withoutIntervals(BreakList list) {
     list.resize(std::min<std::size_t>(list.size(), 1));
     return list;
 }

@@ -10,7 +10,7 @@
 using namespace mledit;
 
 // Rewrites one element's list so that it is drawn on one side of a point only. The record's table
-// of positions is made anew first, for the vertices may just have moved.
+// of positions is rebuilt first, for the vertices may just have moved.
 void CMlineEdit::change41GroupNumber(CMlineSegment* seg, int element, int vertex,
                                      const double* point, bool keepStart) {
     ptListInitialize(seg->m_mline, seg->m_numVertices, seg->m_numElements, &seg->m_ptList,
@@ -30,9 +30,9 @@ void CMlineEdit::change41GroupNumber(CMlineSegment* seg, int element, int vertex
     } else {
         const bool beyond = PositionConnection(end, point) != PositionConnection(end, start);
         list = keepFrom(std::move(list), distance,
-                        beyond  ? TrimPlace::beyondEnd
-                        : ahead ? TrimPlace::within
-                                : TrimPlace::behindStart);
+                        beyond  ? TrimPosition::beyondEnd
+                        : ahead ? TrimPosition::within
+                                : TrimPosition::beforeStart);
     }
     storeLineList(seg->m_mline, vertex, element, list);
 }

@@ -29,25 +29,25 @@ BreakList keepUpTo(BreakList list, double distance, bool ahead) {
     }
     const std::size_t erased = list.size() - 1 - stop;
     list.resize(stop + 1);
-    // After an odd number the point lay on a stretch, which now runs open to the segment's end.
+    // After an odd number the point lay in an interval, which now extends to the segment's end.
     if (erased % 2 == 0 && !VoMath::isEqual(list.back(), distance, kEqualBreaks)) {
         list.push_back(distance);
     }
     return list;
 }
 
-BreakList keepFrom(BreakList list, double distance, TrimPlace place) {
+BreakList keepFrom(BreakList list, double distance, TrimPosition place) {
     if (list.empty()) {
         return list;
     }
-    if (place == TrimPlace::beyondEnd) {
+    if (place == TrimPosition::beyondEnd) {
         list.push_back(distance);
         return list;
     }
     if (list.size() == 1) {
         return list;
     }
-    const double start = place == TrimPlace::behindStart ? -distance : distance;
+    const double start = place == TrimPosition::beforeStart ? -distance : distance;
     std::size_t stop = list.size() - 1;
     while (stop > 1 && !(list[stop] < start)) {
         --stop;

@@ -14,10 +14,10 @@ namespace mledit {
 BreakList keepUpTo(BreakList list, double distance, bool ahead);
 
 // Where a point lies that a segment is to be drawn from.
-enum class TrimPlace { behindStart, within, beyondEnd };
+enum class TrimPosition { beforeStart, within, beyondEnd };
 
-// Keeps what lies behind the point. One beyond the end is appended as it is; one behind the start
+// Keeps what lies after the point. One beyond the end is appended as it is; one before the start
 // becomes a negative break, so that the element reaches back to it.
-BreakList keepFrom(BreakList list, double distance, TrimPlace place);
+BreakList keepFrom(BreakList list, double distance, TrimPosition place);
 
 } // namespace mledit

@@ -26,18 +26,18 @@ namespace {
 
 constexpr double kSameDirection = 1e-10; // radians
 
-// Where a vertex goes, seen along the segment to a neighbour.
+// Where a vertex is moved to, relative to the segment to a neighbour.
 enum class Move { forward, backward, sideways };
 
 // No wrap-around at 2 pi: directions just either side of 0 count as different.
 Move classify(const double* origin, const double* target, const double* newPosition) {
-    const double way = kdutAngle(origin, newPosition);
+    const double moved = kdutAngle(origin, newPosition);
     const double ahead = kdutAngle(origin, target);
-    if (VoMath::isEqual(way, ahead, kSameDirection)) {
+    if (VoMath::isEqual(moved, ahead, kSameDirection)) {
         return Move::forward;
     }
-    const double behind = ahead > kPi ? ahead - kPi : ahead + kPi;
-    return VoMath::isEqual(way, behind, kSameDirection) ? Move::backward : Move::sideways;
+    const double back = ahead > kPi ? ahead - kPi : ahead + kPi;
+    return VoMath::isEqual(moved, back, kSameDirection) ? Move::backward : Move::sideways;
 }
 
 // Offsets of the elements from the chain. With zero justification the table is centred on half its
@@ -58,7 +58,7 @@ std::vector<double> elementOffsets(const KdDbMline* mline, KdDbMlineStyle* style
     return offsets;
 }
 
-// One move of one vertex: V, with N and NN behind it, P and PP before it.
+// One move of one vertex: V, with N and NN after it, P and PP before it.
 class VertexShift {
 public:
     VertexShift(CMlineEdit& edit, KdDbMline* mline, int vertex, const double* newPosition,
@@ -99,7 +99,7 @@ private:
     [[nodiscard]] bool isOpenFirst(int vertex) const { return !m_closed && vertex == 0; }
     [[nodiscard]] bool isOpenLast(int vertex) const { return !m_closed && vertex == m_count - 1; }
 
-    // Direction between two places, measured in the multiline's plane.
+    // Direction between two points, measured in the multiline's plane.
     [[nodiscard]] double angle(const double* from, const double* to) const {
         double a[3];
         double b[3];
@@ -123,11 +123,11 @@ private:
             storeLineList(m_mline, vertex, k, changed(lineList(m_mline, vertex, k), k));
         }
     }
-    void dropRuns(int vertex) {
-        change(vertex, [](BreakList list, int) { return withoutRuns(std::move(list)); });
+    void dropIntervals(int vertex) {
+        change(vertex, [](BreakList list, int) { return withoutIntervals(std::move(list)); });
     }
 
-    // How far along element k, from its place at one vertex towards that at another, the new
+    // How far along element k, from its position at one vertex towards that at another, the new
     // position lies.
     double distanceAlong(int k, int from, int towards) {
         double foot[3] = {0.0, 0.0, 0.0};
@@ -169,7 +169,7 @@ private:
         }
         const int next = m_around.next;
         if (gx_pt_equal(vertexAt(m_v), vertexAt(next)) != 0) {
-            dropRuns(m_v);
+            dropIntervals(m_v);
             return true;
         }
         switch (classify(vertexAt(m_v), vertexAt(next), m_new)) {
@@ -191,7 +191,7 @@ private:
     }
 
     // Axis, miter and lists of the vertex before. False when nothing is to be stored; what became
-    // of the moved vertex's lists stands.
+    // of the moved vertex's lists is kept.
     bool turnPrevious() {
         if (isOpenFirst(m_v)) {
             return true;
@@ -208,7 +208,7 @@ private:
         if (gx_pt_equal(vertexAt(previous), m_new) != 0) {
             // By number, not by neighbourhood: before vertex 0 of a closed chain there is no such
             // vertex, and its segment keeps its runs.
-            dropRuns(m_v - 1);
+            dropIntervals(m_v - 1);
             return true;
         }
         if (gx_pt_equal(vertexAt(previous), vertexAt(m_v)) != 0) {
@@ -229,7 +229,7 @@ private:
         return true;
     }
 
-    // Miter and lists of the vertex behind.
+    // Miter and lists of the vertex after.
     void turnNext() {
         if (isOpenLast(m_v)) {
             return;
@@ -250,7 +250,7 @@ private:
         slideStarts();
     }
 
-    // The elements' starts slide to the new miter of the vertex behind.
+    // The elements' starts slide to the new miter of the vertex after.
     void slideStarts() {
         const int next = m_around.next;
         const int afterNext = m_around.afterNext;
@@ -328,10 +328,10 @@ void CMlineEdit::Distance_PointToPoint(const double* point, const double* origin
     if (reference == nullptr) {
         return;
     }
-    const C3Point way(point[0] - origin[0], point[1] - origin[1], point[2] - origin[2]);
+    const C3Point toPoint(point[0] - origin[0], point[1] - origin[1], point[2] - origin[2]);
     const C3Point ahead(reference[0] - origin[0], reference[1] - origin[1],
                         reference[2] - origin[2]);
-    if (Determinant(way, ahead, nullptr) > 0.0) {
+    if (Determinant(toPoint, ahead, nullptr) > 0.0) {
         *result = -*result;
     }
 }
@@ -342,9 +342,9 @@ void CMlineEdit::Distance_PointToLine(const double* point, const double* lineSta
     double onLine[3] = {0.0, 0.0, 0.0};
     gx_ptlndist(point, lineStart, lineEnd, distance, onLine);
     if (distance != nullptr) {
-        const C3Point way(point[0] - onLine[0], point[1] - onLine[1], point[2] - onLine[2]);
+        const C3Point toPoint(point[0] - onLine[0], point[1] - onLine[1], point[2] - onLine[2]);
         const C3Point ahead(lineEnd[0] - onLine[0], lineEnd[1] - onLine[1], lineEnd[2] - onLine[2]);
-        if (Determinant(way, ahead, nullptr) > 0.0) {
+        if (Determinant(toPoint, ahead, nullptr) > 0.0) {
             *distance = -*distance;
         }
         if (normal[2] < 0.0) {

@@ -49,7 +49,7 @@ void carryVertex(const KdDbMline* from, int oldVertex, KdDbMline* to, int newVer
     }
 }
 
-// Direction in plan between two places, seen in the frame.
+// Direction in plan between two points, in the frame.
 double angleIn(const EditFrame& frame, const double* from, const double* to) {
     double a[3];
     double b[3];
@@ -58,10 +58,10 @@ double angleIn(const EditFrame& frame, const double* from, const double* to) {
     return tklengine_angle(a, b);
 }
 
-bool isElementPosition(const CMlineSegment& seg, const double* place) {
+bool isElementPosition(const CMlineSegment& seg, const double* position) {
     for (int k = 0; k < seg.m_numElements; ++k) {
         for (int v = 0; v < seg.m_numVertices; ++v) {
-            if (gx_pt_equal(place, seg.m_ptList[k][v]) != 0) {
+            if (gx_pt_equal(position, seg.m_ptList[k][v]) != 0) {
                 return true;
             }
         }
@@ -70,7 +70,7 @@ bool isElementPosition(const CMlineSegment& seg, const double* place) {
 }
 
 // The removal of vertex D of an entity that had `m_count` vertices: the lists and the two vertices
-// beside the gap. Indices name old vertices; slots are where they stand afterwards.
+// next to the gap. Indices are those of the old vertices, slots their indices afterwards.
 class VertexRemoval {
 public:
     VertexRemoval(CMlineEdit& edit, CMlineSegment& seg, int vertex, const KdDbMline& copy,
@@ -118,7 +118,7 @@ private:
             return;
         }
         const double axis = exists(next) ? angle(previous, next) : angle(beforePrevious, previous);
-        // A free first vertex beside the gap takes the style's end angle. A new last vertex takes
+        // A free first vertex next to the gap takes the style's end angle. A new last vertex takes
         // none: its two directions are opposite, which makes a square end.
         const double miter = exists(beforePrevious) ? bisect(axis, angle(previous, beforePrevious))
                                                     : axis + m_ends.end;
@@ -158,7 +158,7 @@ private:
         return tklengine_angle(origin, inFrame);
     }
 
-    // How far element k runs beside the chain, always measured at vertex 0 and the new first
+    // The offset of element k from the chain, always measured at vertex 0 and the new first
     // segment, whichever vertex went.
     double offsetOf(int k) {
         double distance = 0.0;
@@ -176,7 +176,7 @@ private:
         }
     }
 
-    // The segment behind the gap keeps its breaks, moved with its start.
+    // The segment after the gap keeps its breaks, moved with its start.
     void rewriteNext(int old, int slot) {
         const double turn = slotAngle(m_chain.axes, slot) + kPi - slotAngle(m_chain.miters, slot);
         for (int k = 0; k < m_elements; ++k) {
@@ -229,7 +229,7 @@ private:
 };
 
 // The lists of the picked segment: its first half keeps what lies before the new vertex, the second
-// starts unbroken whatever stood there. Fill parameters stand at both.
+// starts unbroken whatever was there. Both get the fill parameters.
 void splitLists(CMlineEdit& run, CMlineSegment* seg, const KdDbMline& copy, const double* from,
                 const double* to, const double* normal) {
     const int split = seg->m_segment;
@@ -286,9 +286,10 @@ void CMlineEdit::add_OneVertex(CMlineSegment* seg) {
     VertexChain chain = VertexChain::of(copy.get());
     const Xyz from = chain.vertices[static_cast<std::size_t>(start)];
     const Xyz to = chain.vertices[static_cast<std::size_t>(end)];
-    Xyz place{};
-    Distance_PointToLine(seg->m_pickPoint, from.data(), to.data(), normal, nullptr, place.data());
-    if (isElementPosition(*seg, place.data())) {
+    Xyz position{};
+    Distance_PointToLine(seg->m_pickPoint, from.data(), to.data(), normal, nullptr,
+                         position.data());
+    if (isElementPosition(*seg, position.data())) {
         return;
     }
 
@@ -298,14 +299,15 @@ void CMlineEdit::add_OneVertex(CMlineSegment* seg) {
     SetSegmentsSize(mline, elements);
 
     const EditFrame frame = frameOf(copy.get());
-    const double axis = angleIn(frame, place.data(), to.data());
+    const double axis = angleIn(frame, position.data(), to.data());
     Xyz axisDirection{};
     Xyz miterDirection{};
     frame.direction(axis, axisDirection.data());
-    frame.direction(bisect(axis, angleIn(frame, place.data(), from.data())), miterDirection.data());
-    // Behind the last vertex when the closing segment was picked.
+    frame.direction(bisect(axis, angleIn(frame, position.data(), from.data())),
+                    miterDirection.data());
+    // After the last vertex when the closing segment was picked.
     const auto at = static_cast<std::ptrdiff_t>(start) + 1;
-    chain.vertices.insert(chain.vertices.begin() + at, place);
+    chain.vertices.insert(chain.vertices.begin() + at, position);
     chain.axes.insert(chain.axes.begin() + at, axisDirection);
     chain.miters.insert(chain.miters.begin() + at, miterDirection);
     chain.store(mline);
@@ -319,8 +321,8 @@ void CMlineEdit::add_OneVertex(CMlineSegment* seg) {
     splitLists(*this, seg, *copy, from.data(), to.data(), normal);
 }
 
-// Removes a vertex; an open chain keeps two, a closed one three. The record's count goes down in
-// any case where the vertex exists.
+// Removes a vertex; an open chain keeps two, a closed one three. The record's count decreases
+// whenever the vertex exists.
 void CMlineEdit::delete_OneVertex(CMlineSegment* seg, int vertex) {
     ptListInitialize(seg->m_mline, seg->m_numVertices, seg->m_numElements, &seg->m_ptList,
                      &seg->m_ptListSize);

@@ -17,8 +17,8 @@ BreakList::iterator at(BreakList& list, Index index) {
     return list.begin() + static_cast<BreakList::difference_type>(index);
 }
 
-// The first break that lies at or behind the lower end; the size when there is none.
-Index firstBehind(const BreakList& list, const WeldEnd& lower, double tolerance) {
+// The first break at or after the lower end; the size when there is none.
+Index firstFromLower(const BreakList& list, const WeldEnd& lower, double tolerance) {
     Index index = 1;
     while (index < list.size()) {
         const double x = list[index];
@@ -31,28 +31,28 @@ Index firstBehind(const BreakList& list, const WeldEnd& lower, double tolerance)
     return list.size();
 }
 
-// Behind the last entry before the upper end. The offset takes part in the comparison like a
-// break; 0 when no entry lies before the end.
-Index behindLastBefore(const BreakList& list, const WeldEnd& upper, double tolerance) {
-    Index behind = list.size();
-    while (behind > 0) {
-        const double x = list[behind - 1];
+// The index after the last entry before the upper end. The offset takes part in the comparison like
+// a break; 0 when no entry lies before the end.
+Index stopAtUpper(const BreakList& list, const WeldEnd& upper, double tolerance) {
+    Index stop = list.size();
+    while (stop > 0) {
+        const double x = list[stop - 1];
         if (x < upper.distance ||
             (upper.takesBreakAtIt && mlineRealEqual(x, upper.distance, tolerance))) {
-            return behind;
+            return stop;
         }
-        --behind;
+        --stop;
     }
     return 0;
 }
 
-// Entries `from` up to but not `behind`; a range that runs backward is empty. Returns how many.
-Index eraseRange(BreakList& list, Index from, Index behind) {
-    if (from >= behind) {
+// Erases the entries from `from` up to but not `stop`; a reversed range is empty. Returns how many.
+Index eraseRange(BreakList& list, Index from, Index stop) {
+    if (from >= stop) {
         return 0;
     }
-    list.erase(at(list, from), at(list, behind));
-    return behind - from;
+    list.erase(at(list, from), at(list, stop));
+    return stop - from;
 }
 
 void makeWholeIfBare(BreakList& list) {
@@ -63,7 +63,7 @@ void makeWholeIfBare(BreakList& list) {
 
 } // namespace
 
-bool standsInGap(const BreakList& list, double distance, double tolerance) {
+bool liesInGap(const BreakList& list, double distance, double tolerance) {
     Index index = 1;
     while (index < list.size() &&
            (list[index] <= distance || mlineRealEqual(list[index], distance, tolerance))) {
@@ -73,19 +73,19 @@ bool standsInGap(const BreakList& list, double distance, double tolerance) {
 }
 
 BreakList weldWithin(BreakList list, const WeldEnd& lower, const WeldEnd& upper, double tolerance) {
-    eraseRange(list, firstBehind(list, lower, tolerance), behindLastBefore(list, upper, tolerance));
+    eraseRange(list, firstFromLower(list, lower, tolerance), stopAtUpper(list, upper, tolerance));
     makeWholeIfBare(list);
     return list;
 }
 
 BreakList weldToSegmentEnd(BreakList list, const WeldEnd& lower, double tolerance) {
-    eraseRange(list, firstBehind(list, lower, tolerance), list.size());
+    eraseRange(list, firstFromLower(list, lower, tolerance), list.size());
     makeWholeIfBare(list);
     return list;
 }
 
 BreakList weldFromSegmentStart(BreakList list, const WeldEnd& upper, double tolerance) {
-    const Index erased = eraseRange(list, 1, behindLastBefore(list, upper, tolerance));
+    const Index erased = eraseRange(list, 1, stopAtUpper(list, upper, tolerance));
     if (erased % 2 == 1) {
         list.insert(at(list, 1), 0.0);
     }

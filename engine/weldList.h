@@ -4,8 +4,8 @@
 
 namespace mledit {
 
-// Taking breaks back out of break lists: values in, value out. Between the two places nothing is
-// matched up: every entry that lies between them goes.
+// Removing breaks from break lists: values in, value out. Between the two ends nothing is matched
+// up: every entry that lies between them is removed.
 
 // One end of a weld on one element.
 struct WeldEnd {
@@ -13,10 +13,10 @@ struct WeldEnd {
     bool takesBreakAtIt; // a break at the end, within the aperture, lies between the ends too
 };
 
-// Whether the lower end of a weld may take in a break at it: it stands in a gap or at the end of a
-// drawn stretch. The upper end may when this is false. A break a little above the distance, within
+// Whether the lower end of a weld may take in a break at it: it lies in a gap or at the end of a
+// drawn interval. The upper end may when this is false. A break a little above the distance, within
 // the tolerance, counts as passed.
-bool standsInGap(const BreakList& list, double distance, double tolerance);
+bool liesInGap(const BreakList& list, double distance, double tolerance);
 
 // Both ends on one segment. An element that is left without breaks is whole again.
 BreakList weldWithin(BreakList list, const WeldEnd& lower, const WeldEnd& upper, double tolerance);
@@ -24,7 +24,7 @@ BreakList weldWithin(BreakList list, const WeldEnd& lower, const WeldEnd& upper,
 // The first segment of a longer weld: no break from the end on.
 BreakList weldToSegmentEnd(BreakList list, const WeldEnd& lower, double tolerance);
 
-// The last segment of a longer weld: no break up to the end. A stretch on which the end lies
+// The last segment of a longer weld: no break up to the end. An interval in which the end lies
 // reaches back to the segment's start.
 BreakList weldFromSegmentStart(BreakList list, const WeldEnd& upper, double tolerance);
 

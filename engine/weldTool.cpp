@@ -126,7 +126,7 @@ void CMlineEdit::mlineEditInitializeForWeldAll(CMlineSegment* seg, long* name,
     uc2wc(m_pickedPoint, pick, false);
     openPicked(*seg, name, other);
     if (seg->m_mline == nullptr) {
-        return; // the name stays: a second pick of the same entity goes on to do nothing
+        return; // the name stays: a second pick of the same entity is accepted and does nothing
     }
     fillTable(*this, *seg);
     takeWeldPick(*seg, pick, m_pickRadius);
@@ -162,8 +162,8 @@ bool IsPositionCutPt(const CMlineSegment* seg, bool lowerEnd, double tolerance) 
     if (seg == nullptr || seg->m_mline == nullptr) {
         return false;
     }
-    return standsInGap(lineList(seg->m_mline, seg->m_mappedSegment, seg->m_mappedElement),
-                       seg->m_mappedDistance, tolerance) == lowerEnd;
+    return liesInGap(lineList(seg->m_mline, seg->m_mappedSegment, seg->m_mappedElement),
+                     seg->m_mappedDistance, tolerance) == lowerEnd;
 }
 
 void CMlineEdit::Weld_Mongline(CMlineSegment* first, CMlineSegment* second) {

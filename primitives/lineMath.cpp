@@ -14,10 +14,10 @@ namespace {
 constexpr double kLineTolerance = 1e-11;
 constexpr double kOnSegment = 1e-7;
 
-// The greater plan extent decides by which coordinate a place on a line is told.
-double heightAt(const double* p, const double* q, const double* place) {
+// The greater plan extent decides which coordinate measures a point on a line.
+double heightAt(const double* p, const double* q, const double* point) {
     const int k = std::abs(q[0] - p[0]) < std::abs(q[1] - p[1]) ? 1 : 0;
-    return p[2] + (q[2] - p[2]) * (place[k] - p[k]) / (q[k] - p[k]);
+    return p[2] + (q[2] - p[2]) * (point[k] - p[k]) / (q[k] - p[k]);
 }
 
 double inverseSlope(double dx, double dy) {
@@ -28,16 +28,16 @@ double inverseSlope(double dx, double dy) {
     return dx / dy;
 }
 
-bool isOnSegment(const double* place, const double* p, const double* q) {
+bool isOnSegment(const double* point, const double* p, const double* q) {
     const int k = std::abs(q[0] - p[0]) > std::abs(q[1] - p[1]) ? 0 : 1;
-    return !((place[k] - p[k]) * (place[k] - q[k]) > kOnSegment) ||
-           IMvelaPointEqual(place, p, kLineTolerance) || IMvelaPointEqual(place, q, kLineTolerance);
+    return !((point[k] - p[k]) * (point[k] - q[k]) > kOnSegment) ||
+           IMvelaPointEqual(point, p, kLineTolerance) || IMvelaPointEqual(point, q, kLineTolerance);
 }
 
 } // namespace
 
 short gx_ptlndist(const double* p, const double* a, const double* b, double* dist, double* foot) {
-    double place[3] = {0.0, 0.0, 0.0};
+    double point[3] = {0.0, 0.0, 0.0};
     double distance = 0.0;
     short result = -2;
     if (p != nullptr && a != nullptr && b != nullptr) {
@@ -46,7 +46,7 @@ short gx_ptlndist(const double* p, const double* a, const double* b, double* dis
         const double length = std::sqrt(dot(d, d));
         if (IMvelaRealEqual(length, 0.0, kLineTolerance)) {
             result = -1;
-            copyPoint(a, place);
+            copyPoint(a, point);
         } else {
             d[0] /= length;
             d[1] /= length;
@@ -55,17 +55,17 @@ short gx_ptlndist(const double* p, const double* a, const double* b, double* dis
             int k = std::abs(d[1]) > std::abs(d[0]) ? 1 : 0;
             k = std::abs(d[2]) > std::abs(d[k]) ? 2 : k;
             for (int i = 0; i < 3; ++i) {
-                place[i] = a[i] + d[i] * t;
+                point[i] = a[i] + d[i] * t;
             }
-            result = (place[k] - a[k]) * (place[k] - b[k]) <= 0.0 ? 1 : 0;
+            result = (point[k] - a[k]) * (point[k] - b[k]) <= 0.0 ? 1 : 0;
         }
-        distance = IMgx_dist3d(p, place);
+        distance = IMgx_dist3d(p, point);
     }
     if (dist != nullptr) {
         *dist = distance;
     }
     if (foot != nullptr) {
-        copyPoint(place, foot);
+        copyPoint(point, foot);
     }
     return result;
 }
@@ -128,7 +128,7 @@ struct Line {
     [[nodiscard]] double low() const { return std::min(start[2], end[2]); }
     [[nodiscard]] double high() const { return std::max(start[2], end[2]); }
 
-    // z of the line at a place in plan, told by the greater plan extent.
+    // z of the line at a point in plan, measured along the greater plan extent.
     [[nodiscard]] double heightAt(double x, double y) const {
         if (std::abs(dx) < std::abs(dy)) {
             return start[2] + dz * (y - start[1]) / dy;
@@ -203,7 +203,7 @@ int parallelInPlan(const Line& a, const Line& b, double* out) {
     return kGap;
 }
 
-// Whether the line goes through height z at that place, as the plan crossing is on both.
+// Whether the line goes through height z at that point, as the plan crossing is on both.
 bool passes(const Line& line, double x, double y, double z) {
     if (isZero(line.dz)) {
         return areEqual(z, line.start[2]);
@@ -234,36 +234,36 @@ int crossingInPlan(const Line& a, const Line& b, double det, double* out) {
     return (a.isPast(x, y) ? 0 : 1) + (b.isPast(x, y) ? 0 : 2);
 }
 
-// Whether a vertical line at that place meets the other line in plan.
-bool liesOnInPlan(const double* place, const Line& line) {
+// Whether a vertical line at that point meets the other line in plan.
+bool liesOnInPlan(const double* point, const Line& line) {
     const double* const p = line.start;
-    return (isZero(line.dx) && areEqual(p[0], place[0])) ||
-           (isZero(line.dy) && areEqual(p[1], place[1])) || areEqualInPlan(place, p) ||
-           areEqualInPlan(place, line.end) ||
-           areEqual((place[1] - p[1]) * line.dx, line.dy * (place[0] - p[0]));
+    return (isZero(line.dx) && areEqual(p[0], point[0])) ||
+           (isZero(line.dy) && areEqual(p[1], point[1])) || areEqualInPlan(point, p) ||
+           areEqualInPlan(point, line.end) ||
+           areEqual((point[1] - p[1]) * line.dx, line.dy * (point[0] - p[0]));
 }
 
 int secondVertical(const Line& a, const Line& b, double* out) {
-    const double* const place = b.start;
-    if (!liesOnInPlan(place, a)) {
+    const double* const point = b.start;
+    if (!liesOnInPlan(point, a)) {
         return kMiss;
     }
-    const double z = a.heightAt(place[0], place[1]);
-    write(out, place[0], place[1], z);
+    const double z = a.heightAt(point[0], point[1]);
+    write(out, point[0], point[1], z);
     const bool onSecond = z >= b.low() && z <= b.high();
-    return (a.isPast(place[0], place[1]) ? 0 : 1) + (onSecond ? 2 : 0);
+    return (a.isPast(point[0], point[1]) ? 0 : 1) + (onSecond ? 2 : 0);
 }
 
 // No mirror of secondVertical: the first line always counts as met, and what fails on it is told
 // of the second.
 int firstVertical(const Line& a, const Line& b, double* out) {
-    const double* const place = a.start;
-    if (!liesOnInPlan(place, b)) {
+    const double* const point = a.start;
+    if (!liesOnInPlan(point, b)) {
         return kMiss;
     }
-    const double z = b.heightAt(place[0], place[1]);
-    write(out, place[0], place[1], z);
-    const bool onSecond = z >= a.low() && z <= a.high() && !b.isPast(place[0], place[1]);
+    const double z = b.heightAt(point[0], point[1]);
+    write(out, point[0], point[1], z);
+    const bool onSecond = z >= a.low() && z <= a.high() && !b.isPast(point[0], point[1]);
     return 1 + (onSecond ? 2 : 0);
 }
 

@@ -19,7 +19,7 @@ short gx_linexline(const double* a1, const double* a2, const double* b1, const d
 
 // Crossing in space.
 //   0 to 3 as gx_linexline
-//  -1 parallel lines apart, or verticals at two places: `out` isn't written
+//  -1 parallel lines apart, or verticals at two positions: `out` isn't written
 //  -2 overlapping on one line: `out` is a point of the overlap
 //  -3 on one line with a gap between: `out` isn't written
 //  -4 the lines miss each other: `out` isn't written

@@ -57,8 +57,8 @@ int getValues(const KdDbMline* mline, double* out, int size, int vertex, int ele
         return 0;
     }
     const VoVector<double> values = clampedRecord(*mline, vertex, element).*list;
-    const std::size_t room = sizeof(double) * static_cast<std::size_t>(std::max(size, 0));
-    memcpy_s(out, room, values.data(), sizeof(double) * values.size());
+    const std::size_t capacity = sizeof(double) * static_cast<std::size_t>(std::max(size, 0));
+    memcpy_s(out, capacity, values.data(), sizeof(double) * values.size());
     return 1;
 }
 

@@ -25,8 +25,8 @@ VoBitStream::VoBitStream(VoStreamBuf* buffer, std::uint64_t bitLength)
       m_bitLength(buffer != nullptr ? std::min(bitLength, buffer->length() * 8) : 0) {}
 
 bool VoBitStream::hasBits(std::uint64_t count) const {
-    const std::uint64_t place = VoBitStream::tell();
-    return place <= m_bitLength && count <= m_bitLength - place;
+    const std::uint64_t position = VoBitStream::tell();
+    return position <= m_bitLength && count <= m_bitLength - position;
 }
 
 bool VoBitStream::canReadBits(std::uint64_t count) const {
@@ -84,9 +84,9 @@ unsigned char* VoBitStream::bytesWithin(std::uint64_t bufferLength) {
 }
 
 std::uint64_t VoBitStream::seek(std::uint64_t offset, VoIO::SeekType type) {
-    const std::uint64_t place = tell();
+    const std::uint64_t position = tell();
     if (m_buffer == nullptr) {
-        return place;
+        return position;
     }
     std::uint64_t target = 0;
     bool valid = true;
@@ -97,18 +97,18 @@ std::uint64_t VoBitStream::seek(std::uint64_t offset, VoIO::SeekType type) {
         break;
     case VoIO::forward:
         valid = hasBits(offset);
-        target = place + offset;
+        target = position + offset;
         break;
     case VoIO::backward:
-        valid = offset <= place;
-        target = place - offset;
+        valid = offset <= position;
+        target = position - offset;
         break;
     case VoIO::fromEnd:
         valid = offset <= m_bitLength;
         target = m_bitLength - offset;
         break;
     default:
-        return place;
+        return position;
     }
     if (valid) {
         moveTo(target);
@@ -247,12 +247,12 @@ void VoBitStream::readBytes(void* target, unsigned count) {
         // Straight from the buffer, which saves a copy.
         orvex::copyShiftedLeft(bytes, from + m_bytePos, count, m_bitIndex);
     } else {
-        unsigned char behind = 0;
+        unsigned char after = 0;
         m_buffer->getBytes(m_bytePos, bytes, count);
-        m_buffer->getBytes(m_bytePos + count, &behind, 1);
+        m_buffer->getBytes(m_bytePos + count, &after, 1);
         orvex::copyShiftedLeft(bytes, bytes, count - 1, m_bitIndex);
         bytes[count - 1] =
-            static_cast<unsigned char>(bytes[count - 1] << m_bitIndex | behind >> (8 - m_bitIndex));
+            static_cast<unsigned char>(bytes[count - 1] << m_bitIndex | after >> (8 - m_bitIndex));
     }
     m_bytePos += count;
 }
@@ -274,7 +274,7 @@ void VoBitStream::writeBytes(const void* source, unsigned count) {
         const unsigned kept = *to & (0xFFU << rest);
         *to = static_cast<unsigned char>(kept | from.bytes()[0] >> m_bitIndex);
         orvex::copyShiftedLeft(to + 1, from.bytes(), count - 1, rest);
-        // The rest of the byte behind the run is cleared.
+        // The rest of the byte after the bytes is cleared.
         to[count] = static_cast<unsigned char>(from.bytes()[count - 1] << rest);
     }
     m_bytePos += count;
@@ -309,7 +309,7 @@ void VoBitStream::writeRawUInt8(std::uint8_t value) {
         if (bytes == nullptr) {
             return;
         }
-        // Unlike a run of bytes, one byte leaves the bits behind it as they are.
+        // Unlike a run of bytes, one byte leaves the bits after it as they are.
         const unsigned rest = 8U - m_bitIndex;
         bytes[0] = static_cast<unsigned char>((bytes[0] & (0xFFU << rest)) | value >> m_bitIndex);
         bytes[1] = static_cast<unsigned char>((bytes[1] & (0xFFU >> m_bitIndex)) | value << rest);

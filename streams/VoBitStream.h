@@ -6,9 +6,9 @@
 
 // Values packed bit by bit as the drawing format has them: a value starts at any bit, the most
 // significant bit of a byte first, and frequent values take few bits. Positions and lengths are
-// bits, but for seekByte. Reading past the length and bad seeks are told to the crash recorder.
+// bits, but for seekByte. Reading past the length and bad seeks are reported to the crash recorder.
 //
-// Behind the last byte written the buffer always has one more, so that writing can go on at any
+// After the last byte written the buffer always has one more, so that writing can go on at any
 // bit.
 class VoBitStream : public VoBufStream {
 public:
@@ -22,7 +22,7 @@ public:
     [[nodiscard]] std::uint64_t length() const override { return m_bitLength; }
     [[nodiscard]] bool isEOS() const override { return tell() >= m_bitLength; }
 
-    // Goes to a byte of the buffer and keeps the bit within the byte. A bad place is reported as
+    // Goes to a byte of the buffer and keeps the bit within the byte. A bad position is reported as
     // Status::badByteSeek.
     virtual void seekByte(std::uint64_t offset, VoIO::SeekType type);
 
@@ -77,15 +77,15 @@ public:
     void writeScale2d(const KdGeScale2d& value) override;
     void writeScale3d(const KdGeScale3d& value) override;
 
-    // 0 or 1. Goes on past the length; where the buffer ends too, it reports and the bit is 0.
+    // 0 or 1. Continues past the length; where the buffer ends too, it reports and the bit is 0.
     virtual void readBit(std::uint8_t& bit);
     // The bit is 1 when value and test have a bit in common.
     virtual void writeBit(std::uint8_t value, std::uint8_t test);
     // 1 to 7 bits, right-aligned; other counts do nothing.
     virtual void readBits(std::uint8_t& value, unsigned count);
     virtual void writeBits(std::uint8_t value, unsigned count);
-    // Copies to - from bits, from here on, to the place `from` of another stream, which then goes
-    // back to where it was; it stays at that place when this stream doesn't hold so many.
+    // Copies to - from bits, from here on, to the position `from` of another stream, which then
+    // returns to where it was; it stays at that position when this stream doesn't hold so many.
     virtual void readBits(VoBitStream* target, std::uint64_t from, std::uint64_t to);
     // Numbers that are zero to the format (NaN, infinities, denormal ones) pass as 0 both ways.
     virtual void readRawDouble(double& value);
@@ -119,7 +119,7 @@ private:
     bool growTo(std::uint64_t bufferLength);
     template <class T>
     void readRaw(T& value);
-    // The two bits in front of a coded value; false when there are none.
+    // The two bits before a coded value; false when there are none.
     bool readCode(std::uint8_t& code);
 
     std::uint64_t m_bitLength = 0; // the highest position ever written

@@ -9,8 +9,7 @@
 
 // The coded forms of values, all made of the bits and bytes of VoBitStream.cpp.
 
-static_assert(std::endian::native == std::endian::little,
-              "numbers stand in the stream as they lie in memory");
+static_assert(std::endian::native == std::endian::little, "numbers are in the stream as in memory");
 
 namespace {
 

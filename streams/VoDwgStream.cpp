@@ -126,7 +126,7 @@ void VoDwgStream::readUnicodeString(wchar_t*& text) {
         return;
     }
     const unsigned bytes = static_cast<unsigned>(count) * 2;
-    // Room for whole characters and a terminator behind them.
+    // Room for whole characters and a terminator after them.
     const std::size_t characters = bytes / sizeof(wchar_t) + 2;
     kdutNewBuffer(text, characters * sizeof(wchar_t));
     readBytes(text, bytes);

@@ -29,7 +29,7 @@ public:
     virtual void writeHandle(const KdDbHandle& handle);
 
     // Ids move within a process only: the type and the address of the stub are written. Reading
-    // goes past both and leaves the id as it is; an address out of a stream is never followed.
+    // skips both and leaves the id as it is; an address out of a stream is never followed.
     virtual void readObjectId(KdDbObjectId& id, std::uint8_t* type); // the type may be null
     virtual void writeObjectId(const KdDbObjectId& id, std::uint8_t type);
     virtual void readHardOwnershipId(KdDbObjectId& id);
@@ -54,7 +54,7 @@ public:
 
     // One byte, whose low half counts the bytes that follow, and the value, highest byte first.
     // More than 8 bytes are reported as Status::badHandleCount and leave the value. The code read
-    // is the whole byte; of the code written the low half goes out.
+    // is the whole byte; of the code the low half is written.
     void readHandleParts(std::uint8_t& code, std::uint64_t& value);
     void writeHandleParts(std::uint8_t code, std::uint64_t value);
 

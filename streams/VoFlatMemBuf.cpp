@@ -13,7 +13,7 @@ bool VoFlatMemBuf::changeLength(std::uint64_t length) {
             m_data.setLogicalLength(static_cast<unsigned>(length));
             return true;
         } catch (const std::bad_alloc&) {
-            // Told below, like any length that can't be.
+            // Reported below, like any impossible length.
         }
     }
     orvex::reportBadAccess(orvex::kOutOfBuffer);
@@ -92,7 +92,7 @@ void VoFlatMemBuf::writeByte(std::uint64_t position, unsigned char byte) {
     } else if (position > length() && !changeLength(position)) {
         return;
     }
-    // Right behind the end there may be no room yet.
+    // Right after the end there may be no capacity yet.
     if (makeRoom(position + 1)) {
         m_data.data()[position] = byte;
         m_position = static_cast<unsigned>(position);

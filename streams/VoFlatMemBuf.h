@@ -7,7 +7,7 @@
 #pragma GCC visibility push(default)
 
 // Bytes in one piece. Starts empty at position 0. A buffer holds at most kLargestLength bytes;
-// what would go beyond, or beyond the memory there is, is refused with a report. Room behind the
+// what would go beyond, or beyond the memory there is, is refused with a report. Capacity after the
 // end reads as zero.
 class VoFlatMemBuf : public VoMemStreamBuf {
 public:
@@ -15,7 +15,7 @@ public:
 
     [[nodiscard]] std::uint64_t tell() const override { return m_position; }
     [[nodiscard]] std::uint64_t length() const override { return m_data.length(); }
-    // The position stays where it is, behind the end if need be.
+    // The position stays where it is, after the end if need be.
     void setlength(std::uint64_t length) override;
     void truncate() override;
     void rewind() override { m_position = 0; }
@@ -25,10 +25,10 @@ public:
     // Gives 0 at the end.
     unsigned char readByte() override;
     unsigned char readByte(std::uint64_t position) override;
-    // Ends the buffer behind the byte, also in its middle.
+    // Ends the buffer after the byte, also in its middle.
     void writeByte(unsigned char byte) override;
-    // Goes to the byte, not past it. At or behind the end the buffer becomes as long as the
-    // position says, and the byte stands in the room right behind that.
+    // Moves to the byte, not past it. At or after the end the buffer becomes as long as the
+    // position, and the byte lies in the capacity right after that.
     void writeByte(std::uint64_t position, unsigned char byte) override;
     unsigned char getByte() override; // moves on, unlike all others of the name
     unsigned char getByte(std::uint64_t position) override;
@@ -37,12 +37,12 @@ public:
 
     void readBytes(void* target, unsigned count) override;
     void readBytes(std::uint64_t position, void* target, unsigned count) override;
-    // Ends the buffer behind the bytes, also in its middle.
+    // Ends the buffer after the bytes, also in its middle.
     void writeBytes(const void* source, unsigned count) override;
-    // Goes to the first of the bytes; the buffer may grow.
+    // Moves to the first of the bytes; the buffer may grow.
     void writeBytes(std::uint64_t position, const void* source, unsigned count) override;
     void getBytes(void* target, unsigned count) override;
-    // May read all the room, not only up to the end.
+    // May read all the capacity, not only up to the end.
     void getBytes(std::uint64_t position, void* target, unsigned count) override;
     void setBytes(const void* source, unsigned count) override;
     void setBytes(std::uint64_t position, const void* source, unsigned count) override;
@@ -50,10 +50,10 @@ public:
     [[nodiscard]] std::uint64_t bufSize() const override { return m_data.physicalLength(); }
     void resize(unsigned count) override { setlength(count); }
     void reserve(unsigned count) override;
-    // The end itself is a place to be at.
+    // The end itself is a valid position.
     void moveTo(std::uint64_t position) override;
 
-    // Takes a copy of the bytes, makes room for `position` more behind them, and goes there.
+    // Takes a copy of the bytes, leaves `position` more after them, and moves there.
     virtual void open(const void* data, unsigned count, std::uint64_t position);
     virtual void close(); // gives the memory back
 

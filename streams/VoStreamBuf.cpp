@@ -11,9 +11,9 @@ namespace {
 constexpr std::uint64_t kChunk = 4096;
 
 std::uint64_t bytesLeft(const VoStreamBuf& buffer) {
-    const std::uint64_t place = buffer.tell();
+    const std::uint64_t position = buffer.tell();
     const std::uint64_t length = buffer.length();
-    return place < length ? length - place : 0;
+    return position < length ? length - position : 0;
 }
 
 // Brings a buffer to the start of a range, whose bounds come in either order, and gives its size.
@@ -168,7 +168,7 @@ void VoStreamBuf::copyTo(VoStreamBuf* target, std::uint64_t from, std::uint64_t 
         return;
     }
     const std::uint64_t kept = tell();
-    // Without bounds the target's length less its position, both unsigned: a target that stands
+    // Without bounds the target's length less its position, both unsigned: a target positioned
     // after its own end takes all there is.
     const std::uint64_t wanted =
         from == 0 && to == 0 ? target->length() - target->tell() : seekRange(*target, from, to);

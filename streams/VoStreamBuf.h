@@ -8,8 +8,8 @@
 
 // A buffer of bytes with a position. Operations called read and write move the position; those
 // called get and set, and all that are given a position, are meant to leave it, with the
-// exceptions noted. A bad access is told to the crash recorder and changes nothing; what was to be
-// read stays as it was.
+// exceptions noted. A bad access is reported to the crash recorder and changes nothing; what was to
+// be read stays as it was.
 class VoStreamBuf {
 public:
     virtual ~VoStreamBuf() = default;
@@ -51,7 +51,7 @@ public:
     // else as many bytes as the bounds are apart, from the smaller one on, in either order. The
     // source gets its position back unless nothing was to be copied.
     virtual void copyFrom(VoStreamBuf* source, std::uint64_t from, std::uint64_t to);
-    // From this buffer's position to another one. The bounds name a place in the target, and its
+    // From this buffer's position to another one. The bounds are positions in the target, and its
     // length limits a copy without bounds. This buffer gets its position back.
     virtual void copyTo(VoStreamBuf* target, std::uint64_t from, std::uint64_t to);
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <limits>
 
-// Room of a flat buffer: doubled up to 64 KiB, from there on 64 KiB more each time, or what is
+// Capacity of a flat buffer: doubled up to 64 KiB, from there on 64 KiB more each time, or what is
 // needed if that is more. All numbers are bytes.
 class VoVectorFlatMemBufGrowPolicy {
 public:

@@ -4,7 +4,7 @@
 
 namespace orvex {
 
-// What streams tell the crash recorder. A report stops nothing: the operation that makes it
+// What streams report to the crash recorder. A report stops nothing: the operation that makes it
 // returns and has changed nothing.
 constexpr const wchar_t* kOutOfBuffer = L"Out of stream buffer!";
 constexpr const wchar_t* kEndOfBuffer = L"End of stream buffer!";
