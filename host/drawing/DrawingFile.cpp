@@ -5,7 +5,7 @@
 #include "DrawingDocument.h"
 #include "DrawingReader.h"
 #include "DrawingWriter.h"
-#include "NewDrawing.h"
+#include "newDrawingText.h"
 
 #include <functional>
 

@@ -5,7 +5,7 @@
 #include "blanks.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <cstdint>
 
 namespace orvex {
 
@@ -17,6 +17,12 @@ constexpr std::uint32_t kTrueColor = static_cast<std::uint32_t>(KdCmColor::byCol
 // stands there doesn't use the codes of the common part otherwise.
 bool endsCommonPart(const Tag& tag) {
     return tag.code >= 1000 || (tag.code == 100 && trimBlanks(tag.value) != "AcDbEntity");
+}
+
+// Negative for what is switched off. The least integer has no counterpart of its own sign.
+std::uint16_t colorIndex(int number) {
+    const auto bits = static_cast<std::uint32_t>(number);
+    return static_cast<std::uint16_t>(number < 0 ? 0U - bits : bits);
 }
 
 void readTrait(const Tag& tag, const DrawingText& text, EntityTraits& traits) {
@@ -94,12 +100,12 @@ bool readColor(const Tag& tag, const DrawingText& text, KdCmColor& color) {
             return false;
         }
         if (color.colorMethod() == KdCmColor::byColor) {
-            // The true colour came first; it stays, with the index beside it.
+            // The true colour came first; it stays, with the index as well.
             const std::uint32_t shown = color.color();
-            color.setColorIndex(static_cast<std::uint16_t>(std::abs(number)));
+            color.setColorIndex(colorIndex(number));
             color.setColor(shown);
         } else {
-            color.setColorIndex(static_cast<std::uint16_t>(std::abs(number)));
+            color.setColorIndex(colorIndex(number));
         }
         return true;
     case 420:

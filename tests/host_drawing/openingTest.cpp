@@ -42,6 +42,22 @@ TEST(Opening, isRefusedWithTheLine) {
     }
 }
 
+// The least integer has no absolute value: an index that means nothing, and no undefined result.
+TEST(Opening, takesAnyNumberForAColor) {
+    const struct {
+        const char* number;
+        int index;
+    } colors[] = {{"7", 7}, {"-7", 7}, {"-2147483648", 0}};
+    for (const auto& [number, index] : colors) {
+        const auto file = openDrawing(
+            replaced(sampleDrawing(), " 62\n2\n", " 62\n" + std::string(number) + "\n"));
+        auto* const style =
+            dynamic_cast<KdDbMlineStyle*>(file->database().core().load(stubOf(*file, 0x2F)));
+        ASSERT_NE(style, nullptr);
+        EXPECT_EQ(style->fillColor().colorIndex(), index) << number;
+    }
+}
+
 // A pipe without a writer must not hang, a device without an end not fill the memory.
 TEST(Opening, takesRegularFilesOnly) {
     const std::string pipe = (std::filesystem::temp_directory_path() / "pipe.dxf").string();
