@@ -1,7 +1,7 @@
 #include "FindStyleName.h"
 
 #include "CStdStr.h"
-#include "libraryFile.h"
+#include "styleLibraryReader.h"
 
 #include <algorithm>
 #include <array>
@@ -34,7 +34,7 @@ bool takeLine(std::string_view& bytes, Line& line) {
 } // namespace
 
 bool FindStyleName(wchar_t* path, wchar_t* name) {
-    const auto file = readLibraryFile(libraryPath(path));
+    const auto file = readLibrary(path);
     if (!file || name == nullptr) {
         return false;
     }

@@ -8,5 +8,6 @@ class KdDbMlineStyle;
 // It sets view and frame of the open drawing on the way (LTSCALE, EXTMIN, EXTMAX, VIEWCTR,
 // VIEWTWIST, VIEWMODE, VIEWDIR, UCSXDIR, UCSYDIR, UCSORG) and leaves them so: nothing to call on a
 // drawing that matters.
-[[gnu::visibility("default")]] void* TKL_MlstyleBitmap(int width, int height,
-                                                       KdDbMlineStyle* style);
+#pragma GCC visibility push(default)
+void* TKL_MlstyleBitmap(int width, int height, KdDbMlineStyle* style);
+#pragma GCC visibility pop

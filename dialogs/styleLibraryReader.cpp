@@ -2,10 +2,11 @@
 
 #include "KdDbMlineStyle.h"
 #include "KdDocument.h"
-#include "libraryFile.h"
 #include "libraryParser.h"
 #include "numberText.h"
 #include "styleAccessors.h"
+#include "textCodec.h"
+#include "wholeFile.h"
 
 namespace mledit {
 
@@ -94,8 +95,13 @@ std::wstring cutAtReturn(std::wstring line) {
 
 } // namespace
 
+std::optional<std::string> readLibrary(const wchar_t* path) {
+    constexpr std::uint64_t kLargest = 64U << 20U;
+    return path != nullptr ? orvex::readWholeFile(orvex::narrow(path), kLargest) : std::nullopt;
+}
+
 std::optional<std::vector<Text>> listLibraryStyles(const wchar_t* path) {
-    const std::optional<std::string> bytes = readLibraryFile(libraryPath(path));
+    const std::optional<std::string> bytes = readLibrary(path);
     if (!bytes) {
         return std::nullopt;
     }
@@ -113,7 +119,7 @@ std::optional<std::vector<Text>> listLibraryStyles(const wchar_t* path) {
 }
 
 bool applyLibraryStyle(const wchar_t* path, const wchar_t* name, KdDbMlineStyle& style) {
-    const std::optional<std::string> bytes = readLibraryFile(libraryPath(path));
+    const std::optional<std::string> bytes = readLibrary(path);
     if (!bytes || name == nullptr) {
         return false;
     }

@@ -3,6 +3,7 @@
 #include "CStdStr.h"
 
 #include <optional>
+#include <string>
 #include <vector>
 
 class KdDbMlineStyle;
@@ -10,7 +11,10 @@ class KdDbMlineStyle;
 namespace mledit {
 
 // Style libraries: text files in UTF-8, one block of lines for each style. Only regular files of
-// up to 64 MiB are opened.
+// up to 64 MiB are opened: a pipe may have no writer, a device no end.
+
+// The bytes of a library; nothing when it can't be opened.
+std::optional<std::string> readLibrary(const wchar_t* path);
 
 // The names in a library, in its order: whatever stands below a line "2". Nothing when the file
 // can't be opened.

@@ -7,14 +7,15 @@
 #include "colorTexts.h"
 #include "fieldNumbers.h"
 #include "kddbObjects.h"
-#include "libraryFile.h"
 #include "styleAccessors.h"
+#include "styleLibraryReader.h"
 #include "textCodec.h"
-
-#include <QSaveFile>
+#include "wholeFile.h"
 
 #include <algorithm>
-#include <fstream>
+#include <filesystem>
+
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -153,16 +154,6 @@ void append(std::string& text, const std::vector<Line>& lines, std::size_t from,
     }
 }
 
-bool replaceFile(const fs::path& path, const std::string& bytes) {
-    QSaveFile file(QString::fromStdString(path.string()));
-    // Where the folder admits no second file, the library itself may still be written to.
-    file.setDirectWriteFallback(true);
-    return file.open(QIODevice::WriteOnly) &&
-           file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
-               static_cast<qint64>(bytes.size()) &&
-           file.commit();
-}
-
 } // namespace
 
 std::vector<std::string> styleBlockLines(const KdDbMlineStyle& style) {
@@ -201,20 +192,21 @@ std::string withStyleBlock(std::string_view library, std::wstring_view name,
 
 bool saveLibraryStyle(const wchar_t* path, const wchar_t* name, const KdDbMlineStyle* style) {
     constexpr std::size_t kLongestPath = 1024;
-    const fs::path file = libraryPath(path);
+    const std::string file = path != nullptr ? orvex::narrow(path) : std::string();
     std::error_code error;
-    if (file.empty() || file.string().size() > kLongestPath || name == nullptr ||
+    if (file.empty() || file.size() > kLongestPath || name == nullptr ||
         (fs::exists(file, error) && !fs::is_regular_file(file, error))) {
         return false;
     }
     if (style == nullptr) {
-        return replaceFile(file, {});
+        return orvex::saveWholeFile(file, {});
     }
-    const std::optional<std::string> old = readLibraryFile(file);
-    if (!old && std::ifstream(file).is_open()) {
+    const std::optional<std::string> old = readLibrary(path);
+    if (!old && access(file.c_str(), R_OK) == 0) {
         return false; // what can be opened is never lost for not being read whole
     }
-    return replaceFile(file, withStyleBlock(old.value_or(""), name, styleBlockLines(*style)));
+    return orvex::saveWholeFile(file,
+                                withStyleBlock(old.value_or(""), name, styleBlockLines(*style)));
 }
 
 } // namespace mledit

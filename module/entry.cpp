@@ -10,9 +10,9 @@
 #include "registration.h"
 #include "resourceLibrary.h"
 
-[[gnu::visibility("default")]] HINSTANCE hAppModule = nullptr;
-[[gnu::visibility("default")]] HINSTANCE hResModule = nullptr;
-[[gnu::visibility("default")]] CKdExtensionModule theExtensionDLL;
+HINSTANCE hAppModule = nullptr;
+HINSTANCE hResModule = nullptr;
+CKdExtensionModule theExtensionDLL;
 
 bool CKdExtensionModule::AttachInstance(HINSTANCE module) {
     if (m_attached) {
@@ -51,9 +51,10 @@ int load(void* application) {
 
 } // namespace
 
+#pragma GCC visibility push(default)
 extern "C" {
 
-[[gnu::visibility("default")]] int DllMain(HINSTANCE module, int reason, void* /*reserved*/) {
+int DllMain(HINSTANCE module, int reason, void* /*reserved*/) {
     if (reason == kReasonAttach) {
         hAppModule = module;
         theExtensionDLL.AttachInstance(module);
@@ -63,7 +64,7 @@ extern "C" {
     return 1;
 }
 
-[[gnu::visibility("default")]] int kdrxEntryPoint(int message, void* application) {
+int kdrxEntryPoint(int message, void* application) {
     switch (message) {
     case kMessageLoad:
         return load(application);
@@ -75,7 +76,8 @@ extern "C" {
     }
 }
 
-[[gnu::visibility("default")]] int kdrxGetApiVersion(int /*unused*/) {
+int kdrxGetApiVersion(int /*unused*/) {
     return kApiVersion;
 }
 }
+#pragma GCC visibility pop

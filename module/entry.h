@@ -16,8 +16,10 @@ public:
 
 // The module's exported objects; they live from load to the end of the process.
 
+#pragma GCC visibility push(default)
 extern HINSTANCE hAppModule; // this module, set at attach
 // The resource library opened at load, null until then and never released: command names stay
 // readable to the end.
 extern HINSTANCE hResModule;
 extern CKdExtensionModule theExtensionDLL;
+#pragma GCC visibility pop

@@ -200,8 +200,8 @@ TEST_F(StyleLibrary, savesIntoRegularFilesAlone) {
     EXPECT_EQ(readFile(m_path), "");
     fs::remove(m_path);
     ASSERT_EQ(mkfifo(m_path.c_str(), 0600), 0);
-    const std::wstring nones[] = {L"", path, L"/", L"/nowhere/x.mln",
-                                  L"/tmp/" + std::wstring(1100, L'.')};
+    const std::wstring nones[] = {
+        L"", path, L"/", L"/dev/zero", L"/nowhere/x.mln", L"/tmp/" + std::wstring(1100, L'.')};
     for (const std::wstring& none : nones) {
         EXPECT_FALSE(saveLibraryStyle(none.c_str(), L"WALL", &style));
         EXPECT_EQ(listLibraryStyles(none.c_str()), std::nullopt);
