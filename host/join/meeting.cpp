@@ -34,20 +34,27 @@ Interval stripOn(const PlanSegment& a, const PlanSegment& b) {
 
 enum class EndRelation { before, at, after, bend }; // the segment's end against the strip
 
-EndRelation endAgainst(double position, WallEnd end, const Interval& strip, double tolerance) {
-    const double margin = end == WallEnd::none ? 0.0 : tolerance;
-    if (position < strip.low - margin) {
+// How far an open end may be short of the strip, or over it, and still be at it.
+struct Margins {
+    double shortBy = 0.0;
+    double over = 0.0;
+};
+
+EndRelation endAgainst(double position, WallEnd end, const Interval& strip, double below,
+                       double above) {
+    const bool open = end != WallEnd::none;
+    if (position < strip.low - (open ? below : 0.0)) {
         return EndRelation::before;
     }
-    if (position > strip.high + margin) {
+    if (position > strip.high + (open ? above : 0.0)) {
         return EndRelation::after;
     }
-    return end == WallEnd::none ? EndRelation::bend : EndRelation::at;
+    return open ? EndRelation::at : EndRelation::bend;
 }
 
-Relation relate(const PlanSegment& a, const Interval& strip, double tolerance) {
-    const EndRelation from = endAgainst(a.from, a.atFrom, strip, tolerance);
-    const EndRelation to = endAgainst(a.to, a.atTo, strip, tolerance);
+Relation relate(const PlanSegment& a, const Interval& strip, const Margins& margins) {
+    const EndRelation from = endAgainst(a.from, a.atFrom, strip, margins.over, margins.shortBy);
+    const EndRelation to = endAgainst(a.to, a.atTo, strip, margins.shortBy, margins.over);
     if (from == EndRelation::after || to == EndRelation::before) {
         return Relation::away;
     }
@@ -183,10 +190,20 @@ std::optional<Meeting> meeting(const PlanSegment& a, const PlanSegment& b, doubl
     const double within = tolerance + rounding / sine;
     const Interval onA = stripOn(a, b);
     const Interval onB = stripOn(b, a);
-    const Relation atA = relate(a, onA, within);
-    const Relation atB = relate(b, onB, within);
+    Relation atA = relate(a, onA, {within, within});
+    Relation atB = relate(b, onB, {within, within});
     if (atA == Relation::away || atB == Relation::away) {
-        return std::nullopt;
+        if (!stripsOverlap(a, b, rounding)) {
+            return std::nullopt;
+        }
+        // The middle of a slanting end is short by more than the tolerance, but a corner of it lies
+        // in the other's strip.
+        const double slant = std::abs(dot(a.middle.direction, b.middle.direction)) / sine;
+        atA = relate(a, onA, {std::max(within, a.half * slant), within});
+        atB = relate(b, onB, {std::max(within, b.half * slant), within});
+        if (atA == Relation::away || atB == Relation::away) {
+            return std::nullopt;
+        }
     }
     Meeting meeting;
     meeting.a = sideOf(a, atA);
