@@ -1,0 +1,137 @@
+"""Compares what a joined plan draws with the union of the strips that its walls should cover.
+
+The union is made by an independent polygon library on integers about the plan's middle.
+"""
+
+import math
+
+import pyclipper
+
+UNITS = 1e5  # integers to a drawing unit
+EPSILON = 2e-3  # drawing units
+
+
+def scaled(points, centre):
+    return [(round((p.real - centre.real) * UNITS), round((p.imag - centre.imag) * UNITS)) for p in points]
+
+
+def union(outlines, centre):
+    """Edges of the union as pairs of complex points about the centre, in drawing units."""
+    clipper = pyclipper.Pyclipper()
+    for loops in outlines:
+        paths = [scaled(loop, centre) for loop in loops]
+        paths.sort(key=lambda path: -abs(pyclipper.Area(path)))
+        if len(paths) == 2:
+            ring = pyclipper.Pyclipper()
+            ring.AddPath(paths[0], pyclipper.PT_SUBJECT, True)
+            ring.AddPath(paths[1], pyclipper.PT_CLIP, True)
+            paths = ring.Execute(pyclipper.CT_DIFFERENCE, pyclipper.PFT_NONZERO, pyclipper.PFT_NONZERO)
+        else:
+            paths = [path if pyclipper.Orientation(path) else path[::-1] for path in paths]
+        clipper.AddPaths(paths, pyclipper.PT_SUBJECT, True)
+    paths = clipper.Execute(pyclipper.CT_UNION, pyclipper.PFT_NONZERO, pyclipper.PFT_NONZERO)
+    edges = []
+    for path in paths:
+        points = [complex(x, y) / UNITS for x, y in path]
+        edges += [(a, b) for a, b in zip(points, points[1:] + points[:1]) if a != b]
+    return edges, paths
+
+
+def drawn(multiline, offsets, centre, elements):
+    """The drawn stretches of some elements, as pairs of complex points about the centre."""
+    vertices = multiline["vertices"]
+    closed = bool(multiline["flags"] & 2)
+    places = [[complex(*v["position"][:2]) - centre + complex(*v["miter"][:2]) * e["line"][0] if e["line"] else None
+               for e in v["elements"]] for v in vertices]
+    stretches = []
+    for i, vertex in enumerate(vertices[:len(vertices) if closed else len(vertices) - 1]):
+        for j in elements:
+            line = vertex["elements"][j]["line"]
+            start, stop = places[i][j], places[(i + 1) % len(vertices)][j]
+            if not line or start is None or stop is None or start == stop:
+                continue
+            direction = (stop - start) / abs(stop - start)
+            stops = line[1:]
+            if len(stops) % 2:
+                stops = stops + [abs(stop - start)]
+            for low, high in zip(stops[::2], stops[1::2]):
+                if high - low > EPSILON:
+                    stretches.append((start + direction * low, start + direction * high))
+    return stretches
+
+
+def uncovered(edge, others):
+    """Intervals of an edge that no collinear one of the others covers, longer than the tolerance."""
+    start, stop = edge
+    length = abs(stop - start)
+    direction = (stop - start) / length
+    covered = []
+    for a, b in others:
+        u, v = ((p - start) * direction.conjugate() for p in (a, b))
+        low, high = sorted((u.real, v.real))
+        if high < 0 or low > length:
+            continue
+        # Distance at the places that lie beside the edge.
+        if high - low < EPSILON:
+            continue
+        slope = (v.imag - u.imag) / (v.real - u.real)
+        ends = [u.imag + slope * (min(max(x, 0.0), length) - u.real) for x in (low, high)]
+        if max(map(abs, ends)) < EPSILON:
+            covered.append((low, high))
+    covered.sort()
+    gaps, reached = [], 0.0
+    for low, high in covered + [(length, length)]:
+        if low - reached > 2 * EPSILON:
+            gaps.append((start + direction * reached, start + direction * min(low, length)))
+        reached = max(reached, high)
+    return gaps
+
+
+def near(place, forgiven):
+    return any(abs(place - centre) < radius for centre, radius in forgiven)
+
+
+def differences(plan, listing, forgiven=(), upper=()):
+    """What a joined plan draws wrongly: lines of text. `forgiven`: (place, radius) of places that were left apart;
+    `upper`: polygons within which more may be drawn than the outline."""
+    centre = plan.centre
+    from plans import free_ends, outline
+    edges, paths = union([outline(wall) for wall in plan.walls], centre)
+    caps = [(a - centre, b - centre) for wall in plan.walls for a, b in free_ends(wall)]
+    styles = {style["name"]: [e["offset"] for e in style["elements"]] for style in listing["styles"]}
+    outer, inner = [], []
+    for multiline in listing["multilines"]:
+        offsets = styles[multiline["style"]]
+        ends = {offsets.index(max(offsets)), offsets.index(min(offsets))}
+        outer += drawn(multiline, offsets, centre, ends)
+        inner += drawn(multiline, offsets, centre, set(range(len(offsets))) - ends)
+    forgiven = [(place - centre, radius) for place, radius in forgiven]
+    wrong = []
+    for what, some, others in (("drawn, but no outline", outer, edges), ("outline, but not drawn", edges, outer + caps)):
+        for piece in some:
+            for a, b in uncovered(piece, others):
+                middle = (a + b) / 2
+                if near(middle, forgiven) or any(inside(middle, polygon, centre) for polygon in upper):
+                    continue
+                wrong.append(f"{what}: {abs(b - a):.4f} at {middle + centre:.3f}")
+    for a, b in inner:
+        for place in (a + (b - a) * 1e-6, (a + b) / 2, b + (a - b) * 1e-6):
+            if not near(place, forgiven) and not covers(paths, place):
+                wrong.append(f"an inner line outside at {place + centre:.3f}")
+                break
+    return wrong
+
+
+def covers(paths, place):
+    count = 0
+    point = (round(place.real * UNITS), round(place.imag * UNITS))
+    for path in paths:
+        where = pyclipper.PointInPolygon(point, path)
+        if where == -1:
+            return True
+        count += where
+    return count % 2 == 1
+
+
+def inside(place, polygon, centre):
+    return pyclipper.PointInPolygon((round(place.real * UNITS), round(place.imag * UNITS)), scaled(polygon, centre)) != 0

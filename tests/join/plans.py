@@ -1,0 +1,437 @@
+"""Random floor plans whose right answer is known before anything is joined.
+
+A plan is laid out cleanly: every wall knows where its ends belong (free, on another wall, in a corner with another end).
+From the clean layout come the polygons that the walls should cover once they are joined. What is written as a drawing
+is the careless version: ends too short or too long by less than the tolerance, walls reversed, entities shuffled, the
+whole turned and moved away from the origin.
+
+Points are complex numbers. A strip's sides are offsets to the left of the direction of travel.
+"""
+
+import cmath
+import math
+import random
+from dataclasses import dataclass, field
+
+import ezdxf
+
+TOP, ZERO, BOTTOM = 0, 1, 2
+
+
+@dataclass
+class Style:
+    name: str
+    offsets: list  # greatest first
+
+
+@dataclass
+class End:
+    kind: str = "free"  # free, tee, corner
+    other: "Wall" = None
+    segment: int = 0  # of the bar
+    other_end: int = 0  # of the corner's partner: 0 or -1
+
+
+@dataclass
+class Wall:
+    points: list  # the chain
+    style: Style
+    scale: float
+    justification: int
+    closed: bool = False
+    ends: list = field(default_factory=lambda: [End(), End()])
+
+    def sides(self):
+        """Offsets of the two outer lines, left first."""
+        high, low = max(self.style.offsets), min(self.style.offsets)
+        base = {TOP: high, ZERO: 0.0, BOTTOM: low}[self.justification]
+        return (high - base) * self.scale, (low - base) * self.scale
+
+    def half(self):
+        left, right = self.sides()
+        return (left - right) / 2
+
+    def middle(self):
+        return sum(self.sides()) / 2
+
+    def segments(self):
+        count = len(self.points)
+        return [(self.points[i], self.points[(i + 1) % count]) for i in range(count if self.closed else count - 1)]
+
+    def line(self, segment, offset):
+        """A point and the direction of a parallel of a segment."""
+        start, stop = self.segments()[segment]
+        direction = (stop - start) / abs(stop - start)
+        return start + 1j * direction * offset, direction
+
+
+def crossing(first, second):
+    (p, u), (q, v) = first, second
+    det = (u.conjugate() * v).imag
+    return p + u * (((q - p).conjugate() * v).imag / det)
+
+
+def sine(first, second):
+    return abs((first.conjugate() * second).imag)
+
+
+def outline(wall):
+    """The polygons of a wall in the clean plan: one, or outer and inner loop of a ring."""
+    loops = []
+    for offset in wall.sides():
+        loops.append(side_points(wall, offset))
+    if wall.closed:
+        return loops
+    return [loops[0] + loops[1][::-1]]
+
+
+def side_points(wall, offset):
+    count = len(wall.segments())
+    points = []
+    for vertex in range(len(wall.points)):
+        before, after = vertex - 1, vertex
+        if wall.closed or 0 < vertex < len(wall.points) - 1:
+            first, second = wall.line(before % count, offset), wall.line(after % count, offset)
+            straight = sine(first[1], second[1]) < 1e-9
+            points.append(second[0] if straight else crossing(first, second))
+        else:
+            points.append(end_point(wall, 0 if vertex == 0 else -1, offset))
+    return points
+
+
+def end_point(wall, end, offset):
+    """Where a side of a strip ends in the clean plan."""
+    target = wall.ends[end]
+    own = wall.line(0 if end == 0 else len(wall.segments()) - 1, offset)
+    if target.kind == "tee":
+        return crossing(own, target.other.line(target.segment, target.other.middle()))
+    if target.kind == "corner":
+        other = target.other
+        sides = list(other.sides())
+        index = wall.sides().index(offset)
+        # Travelling through the corner, left goes on as left; ends that face each other swap sides.
+        if (end == 0) == (target.other_end == 0):
+            index = 1 - index
+        partner = other.line(0 if target.other_end == 0 else len(other.segments()) - 1, sides[index])
+        return crossing(own, partner)
+    return wall.points[end] + 1j * own[1] * offset
+
+
+def free_ends(wall):
+    """The caps of a wall's free ends: pairs of points."""
+    if wall.closed:
+        return []
+    left, right = wall.sides()
+    return [(end_point(wall, end, left), end_point(wall, end, right))
+            for end in (0, -1) if wall.ends[end].kind == "free"]
+
+
+# ---- laying out ---------------------------------------------------------------------------------
+
+class Maker:
+    def __init__(self, seed):
+        self.random = random.Random(seed)
+        self.walls = []
+        self.crosses = 0
+        self.joints = 0
+        self.styles = [self.make_style(i) for i in range(self.random.randint(1, 4))]
+
+    def make_style(self, number):
+        pick = self.random
+        count = pick.choice([2, 2, 2, 3, 4, 5, 8, 16])
+        width = pick.choice([100, 150, 200, 240, 300, 365])
+        low = -width / 2 if pick.random() < 0.5 else -pick.uniform(0.05, 0.95) * width
+        inner = sorted((low + width * pick.uniform(0.1, 0.9) for _ in range(count - 2)), reverse=True)
+        return Style(f"WALL{number}", [low + width, *inner, low])
+
+    def wall(self, points, closed=False):
+        pick = self.random
+        wall = Wall(list(points), pick.choice(self.styles), pick.choice([1, 1, 1, 0.5, 1.25]),
+                    pick.choice([TOP, ZERO, ZERO, BOTTOM]), closed)
+        self.walls.append(wall)
+        return wall
+
+    def tee(self, wall, end, bar, segment):
+        wall.ends[end] = End("tee", bar, segment)
+
+    def corner(self, a, end_a, b, end_b):
+        a.ends[end_a] = End("corner", b, 0, end_b)
+        b.ends[end_b] = End("corner", a, 0, end_a)
+
+    def frame(self):
+        """The outer walls, counter-clockwise; gives (wall, segment) of bottom, right, top, left."""
+        pick = self.random
+        width, height = pick.uniform(12000, 24000), pick.uniform(12000, 24000)
+        loose = 0.08 * min(width, height)
+        corners = [complex(x + pick.uniform(-loose, loose), y + pick.uniform(-loose, loose))
+                   for x, y in ((0, 0), (width, 0), (width, height), (0, height))]
+        kind = pick.choice(["ring", "four", "chain"])
+        if kind == "ring":
+            ring = self.wall(corners, closed=True)
+            return corners, [(ring, i) for i in range(4)]
+        if kind == "four":
+            sides = [self.wall([corners[i], corners[(i + 1) % 4]]) for i in range(4)]
+            for i in range(4):
+                self.corner(sides[i], -1, sides[(i + 1) % 4], 0)
+            return corners, [(side, 0) for side in sides]
+        chain = self.wall(corners)
+        last = self.wall([corners[3], corners[0]])
+        self.corner(chain, -1, last, 0)
+        self.corner(last, -1, chain, 0)
+        return corners, [(chain, 0), (chain, 1), (chain, 2), (last, 0)]
+
+    def inner(self, corners, sides):
+        pick = self.random
+
+        def at(side, fraction):
+            return corners[side] + (corners[(side + 1) % 4] - corners[side]) * fraction
+
+        columns, rows = pick.randint(0, 3), pick.randint(0, 3)
+        levels = [(i + 1) / (rows + 1) + pick.uniform(-0.03, 0.03) for i in range(rows)]
+        uprights = []
+        for i in range(columns):
+            x = (i + 1) / (columns + 1) + pick.uniform(-0.04, 0.04)
+            slant = pick.uniform(-0.1, 0.1) if columns < 3 else pick.uniform(-0.03, 0.03)
+            points = [at(0, x), at(2, 1 - x - slant)]
+            if pick.random() < 0.3 and levels:
+                middle = (points[0] + points[1]) / 2
+                points.insert(1, middle + pick.uniform(-0.05, 0.05) * abs(corners[1] - corners[0]))
+            wall = self.wall(points)
+            self.tee(wall, 0, *sides[0])
+            if pick.random() < 0.25 and len(points) == 2:
+                wall.points[-1] = points[0] + (points[1] - points[0]) * pick.uniform(0.35, 0.8)
+            else:
+                self.tee(wall, -1, *sides[2])
+            uprights.append(wall)
+        for y in levels:
+            start, stop = at(3, 1 - y), at(1, y + pick.uniform(-0.03, 0.03))
+            wall = self.wall([start, stop])
+            self.tee(wall, 0, *sides[3])
+            target = pick.choice(uprights) if uprights and pick.random() < 0.4 else None
+            segment = target and segment_met(target, start, stop)
+            if segment is None or target is None:
+                self.tee(wall, -1, *sides[1])
+            else:
+                self.tee(wall, -1, target, segment)
+                wall.points[-1] = crossing(wall.line(0, 0), target.line(segment, 0))
+
+    def stubs(self, corners, sides):
+        pick = self.random
+        for side in range(4):
+            for _ in range(pick.choice([0, 0, 1, 2])):
+                along = corners[(side + 1) % 4] - corners[side]
+                foot = corners[side] + along * pick.uniform(0.12, 0.88)
+                turn = math.radians(pick.choice([90, 90, pick.uniform(20, 160), pick.uniform(40, 140)]))
+                out = along / abs(along) * cmath.exp(-1j * turn)
+                wall = self.wall([foot + out * pick.uniform(2500, 4000), foot])
+                self.tee(wall, -1, *sides[side])
+
+    def settle(self):
+        """Puts the chain's ends where the clean plan has them, for what measures from them."""
+        for wall in self.walls:
+            for end in (0, -1):
+                if wall.closed or wall.ends[end].kind == "free":
+                    continue
+                index = 0 if end == 0 else len(wall.segments()) - 1
+                own = wall.line(index, wall.middle())
+                target = wall.ends[end]
+                if target.kind == "tee":
+                    place = crossing(own, target.other.line(target.segment, target.other.middle()))
+                else:
+                    other = target.other
+                    place = crossing(own, other.line(0 if target.other_end == 0 else len(other.segments()) - 1,
+                                                     other.middle()))
+                wall.points[end] = place - 1j * own[1] * wall.middle()
+
+
+def segment_met(wall, start, stop):
+    for index, (a, b) in enumerate(wall.segments()):
+        direction = stop - start
+        det = (direction.conjugate() * (b - a)).imag
+        if abs(det) < 1e-9:
+            continue
+        along = ((a - start).conjugate() * (b - a)).imag / det
+        across = -((start - a).conjugate() * direction).imag / -det if det else 0
+        across = ((direction.conjugate() * (start - a)).imag) / det
+        if 0.2 < along <= 1 and 0.05 < across < 0.95:
+            return index
+    return None
+
+
+# ---- which plans are fair ------------------------------------------------------------------------
+
+def claims(walls):
+    """For each wall and segment what its meetings occupy: (from, to); None where a meeting is no clean one."""
+    taken = {}
+    crosses = 0
+    tees = {(id(w), id(w.ends[e].other)) for w in walls for e in (0, -1) if w.ends[e].kind == "tee"}
+    partners = {(id(w), id(w.ends[e].other)) for w in walls for e in (0, -1) if w.ends[e].kind == "corner"}
+
+    def claim(wall, segment, other, other_segment):
+        own, line = wall.line(segment, wall.middle()), other.line(other_segment, other.middle())
+        s = sine(own[1], line[1])
+        if s < math.sin(math.radians(15)):
+            return False
+        c = math.sqrt(max(0.0, 1 - s * s))
+        place = crossing(own, line)
+        at = ((place - own[0]) * own[1].conjugate()).real
+        reach = (other.half() + wall.half() * c) / s
+        taken.setdefault((id(wall), segment), []).append((at - reach, at + reach, wall, segment))
+        return True
+
+    for wall in walls:
+        for end in (0, -1):
+            target = wall.ends[end]
+            own_segment = 0 if end == 0 else len(wall.segments()) - 1
+            if target.kind == "tee":
+                if not claim(wall, own_segment, target.other, target.segment):
+                    return None
+                if not claim(target.other, target.segment, wall, own_segment):
+                    return None
+            elif target.kind == "corner":
+                other_segment = 0 if target.other_end == 0 else len(target.other.segments()) - 1
+                if not claim(wall, own_segment, target.other, other_segment):
+                    return None
+    for i, first in enumerate(walls):
+        for second in walls[i + 1:]:
+            known = (id(first), id(second))
+            joined = known in tees or known[::-1] in tees or known in partners
+            for a in range(len(first.segments())):
+                for b in range(len(second.segments())):
+                    meeting = strips_meet(first, a, second, b)
+                    if meeting == "no":
+                        continue
+                    if meeting == "cross" and not joined:
+                        if not claim(first, a, second, b) or not claim(second, b, first, a):
+                            return None
+                        crosses += 1
+                    elif not joined:
+                        return None
+    return taken, crosses
+
+
+def strips_meet(first, a, second, b):
+    """no, cross (both go on well past the other), or near (anything between)."""
+    p, q = first.line(a, first.middle()), second.line(b, second.middle())
+    length_p, length_q = (abs(s[1] - s[0]) for s in (first.segments()[a], second.segments()[b]))
+    s = sine(p[1], q[1])
+    margin = 3 * (first.half() + second.half())
+    if s < 0.05:
+        gap = abs(((q[0] - p[0]) * p[1].conjugate()).imag)
+        return "near" if gap < margin else "no"
+    place = crossing(p, q)
+    at_p, at_q = (((place - line[0]) * line[1].conjugate()).real for line in (p, q))
+    reach = margin / s
+    inside_p = reach < at_p < length_p - reach
+    inside_q = reach < at_q < length_q - reach
+    if inside_p and inside_q:
+        return "cross"
+    outside_p = at_p < -reach or at_p > length_p + reach
+    outside_q = at_q < -reach or at_q > length_q + reach
+    return "no" if outside_p or outside_q else "near"
+
+
+def fair(walls):
+    found = claims(walls)
+    if found is None:
+        return None
+    taken, crosses = found
+    for wanted in taken.values():
+        wanted.sort(key=lambda c: c[:2])
+        _, _, wall, segment = wanted[0]
+        length = abs(wall.segments()[segment][1] - wall.segments()[segment][0])
+        spare = 2.5 * wall.half() + 400
+        for one, two in zip(wanted, wanted[1:]):
+            if one[1] + spare > two[0]:
+                return None
+        # A meeting in the middle of a segment keeps clear of its ends; one at the end lies there.
+        for low, high, _, _ in wanted:
+            middle = (low + high) / 2
+            at_end = middle < 1 + wall.half() * 2 or middle > length - 1 - wall.half() * 2
+            if not at_end and (low < spare or high > length - spare):
+                return None
+    return crosses
+
+
+# ---- the careless version --------------------------------------------------------------------------
+
+def spoil(maker):
+    """Moves the ends along their own direction, within what the default tolerance still takes."""
+    pick = maker.random
+    shifts = []
+    for wall in maker.walls:
+        for end in (0, -1):
+            target = wall.ends[end]
+            if wall.closed or target.kind == "free":
+                continue
+            own_segment = 0 if end == 0 else len(wall.segments()) - 1
+            other = target.other
+            other_segment = target.segment if target.kind == "tee" else \
+                0 if target.other_end == 0 else len(other.segments()) - 1
+            own, line = wall.line(own_segment, wall.middle()), other.line(other_segment, other.middle())
+            s = sine(own[1], line[1])
+            tolerance = min(wall.half(), other.half())
+            limit = other.half() / s + 0.95 * tolerance
+            shift = pick.choice([0.0, pick.uniform(-limit, limit), pick.uniform(-limit, limit)])
+            shifts.append((wall, end, (own[1] if end == -1 else -own[1]) * shift))
+    for wall, end, shift in shifts:
+        wall.points[end] += shift
+
+
+@dataclass
+class Plan:
+    walls: list  # clean, turned and moved
+    careless: list  # (points, wall) in drawing order
+    joints: int
+    centre: complex
+
+
+def make_plan(seed):
+    """A fair plan of some 5 to 25 walls; the same for the same seed."""
+    for attempt in range(2000):
+        maker = Maker(seed * 10007 + attempt)
+        corners, sides = maker.frame()
+        maker.inner(corners, sides)
+        maker.stubs(corners, sides)
+        maker.settle()
+        crosses = fair(maker.walls)
+        if crosses is None:
+            continue
+        tees = sum(w.ends[e].kind == "tee" for w in maker.walls for e in (0, -1))
+        corner_ends = sum(w.ends[e].kind == "corner" for w in maker.walls for e in (0, -1))
+        pick = maker.random
+        turn = cmath.exp(1j * math.radians(pick.choice([0, 0.18, 30, 90, pick.uniform(0, 360)])))
+        move = pick.choice([0, complex(1e5, -2e5), complex(1e6, 1e6), complex(-1e6, 3e5)])
+        clean = [list(w.points) for w in maker.walls]
+        spoil(maker)
+        careless = []
+        for wall, points in zip(maker.walls, clean):
+            careless.append(([p * turn + move for p in wall.points], wall))
+            wall.points = [p * turn + move for p in points]
+        order = list(range(len(careless)))
+        pick.shuffle(order)
+        return Plan(maker.walls, [reversed_or_not(pick, *careless[i]) for i in order],
+                    crosses + tees + corner_ends // 2, sum(corners) / 4 * turn + move)
+    raise RuntimeError(f"no fair plan for seed {seed}")
+
+
+def reversed_or_not(pick, points, wall):
+    """Half of the walls are drawn the other way round, with the style mirrored by justification where that works."""
+    symmetric = all(math.isclose(a, -b) for a, b in zip(wall.style.offsets, reversed(wall.style.offsets)))
+    if pick.random() < 0.5 and symmetric:
+        other = {TOP: BOTTOM, ZERO: ZERO, BOTTOM: TOP}[wall.justification]
+        return points[::-1], wall, other
+    return points, wall, wall.justification
+
+
+def write(plan, path):
+    document = ezdxf.new("R2000")
+    for style in {wall.style.name: wall.style for wall in plan.walls}.values():
+        made = document.mline_styles.new(style.name)
+        for offset in style.offsets:
+            made.elements.append(offset)
+    for points, wall, justification in plan.careless:
+        document.modelspace().add_mline(
+            [(p.real, p.imag) for p in points], close=wall.closed,
+            dxfattribs={"style_name": wall.style.name, "scale_factor": wall.scale, "justification": justification})
+    document.saveas(path)
