@@ -201,8 +201,7 @@ def readme_text(handles):
     return README_HEAD + "\n".join(rows) + """
 
 Besides, a multiline stands in the block `PLANTER` (inserted twice, once turned and enlarged), one in the active
-paper space and one on the sheet `Detail`. Layer `GRID` is frozen, `WALL-DEMOLISH` and `ROOF` are off,
-`WALL-BEARING` is locked.
+paper space and one on the sheet `Detail`. Layer `GRID` is frozen, `WALL-DEMOLISH` and `ROOF` are off.
 """
 
 

@@ -12,7 +12,7 @@ from mline_geometry import BOTTOM, TOP, ZERO, Element, Style
 LAYERS = {
     "WALL-EXT": (7, "Continuous", "on"),
     "WALL-INT": (32, "Continuous", "on"),
-    "WALL-BEARING": (252, "Continuous", "locked"),
+    "WALL-BEARING": (252, "Continuous", "on"),
     "WALL-DEMOLISH": (1, "DASHED", "off"),
     "GARAGE": (42, "Continuous", "on"),
     "ROAD": (8, "Continuous", "on"),
@@ -114,7 +114,7 @@ HOUSE = [
          "closed, 4 elements, chain on the outer face; bar of tees; door and window openings", 1.0, BOTTOM, True),
     Wall("spine", "WALL-BEARING", "BEARING240", [(365, 5200), (13635, 5200)],
          "filled; ends on the inner faces of outer (tees 2 to 4); crossed square by partition (2x2), "
-         "store (2x5) and slanting by dressing (2x3); locked layer"),
+         "store (2x5) and slanting by dressing (2x3)"),
     Wall("partition", "WALL-INT", "Standard", [(4600, 365), (4600, 9635)],
          "crosses spine square (2x2); bar of kitchen and bedroom", 115.0),
     Wall("study", "WALL-INT", "PART125", [(8200, 365), (8200, 5080)],

@@ -130,6 +130,9 @@ class Session:
         self.answer(f"{place} #{self.handles[name]}")
         self.reshaped.add(name)
 
+    def lay_right(self, name):
+        self.answer("MLLAY", f"#{self.handles[name]}", "")
+
     def edit(self, *picks):
         """The picks of a tool that reshapes walls, each a wall, segment, place on the chain and, if not 0, element."""
         for name, segment, along, *element in picks:

@@ -131,6 +131,8 @@ def vertex_script(session):
     session.note("Closed wall")
     session.delete_vertex("pond", 3, 2, 700)
     session.end_tool()
+    session.note("A bend that is deleted leaves the lines beside it a hair off: lay them right.")
+    session.lay_right("gas")
     return session
 
 
@@ -200,6 +202,7 @@ def tour_script(session, cut_openings):
     session.tool("DV")
     session.delete_vertex("gas", 2, 2, 500)
     session.end_tool()
+    session.lay_right("gas")
     session.note("9. What runs below: nothing of it shows under what lies above.")
     run_tool(
         session, "CC",

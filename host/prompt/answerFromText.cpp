@@ -12,6 +12,8 @@ std::wstring wanted(PromptKind kind) {
         return L"a keyword";
     case PromptKind::entity:
         return L"a pick";
+    case PromptKind::selection:
+        return L"a pick or #HANDLE";
     case PromptKind::point:
         return L"a point";
     case PromptKind::real:
@@ -49,8 +51,15 @@ std::optional<PromptAnswer> answerFromText(const PromptRequest& request, const s
             return answer;
         }
     } else if (request.kind != PromptKind::keyword) {
+        const bool isPick = request.kind != PromptKind::point;
+        const auto handle = parseHandlePick(text);
+        if (handle && request.kind == PromptKind::selection) {
+            answer.kind = Kind::handle;
+            answer.handle = handle;
+            return answer;
+        }
         const auto pick = parsePick(text);
-        if (pick && (request.kind == PromptKind::entity || !pick->handle)) {
+        if (pick && (isPick || !pick->handle)) {
             answer.kind = Kind::point;
             answer.point = pick->point;
             answer.handle = pick->handle;

@@ -9,6 +9,7 @@
 #include "coordinateFrames.h"
 #include "kddbObjects.h"
 #include "keywords.h"
+#include "lockedLayers.h"
 #include "promptExchange.h"
 #include "promptStatus.h"
 #include "userFrame.h"
@@ -78,14 +79,10 @@ KdDbStub* entityOfHandle(std::uint64_t handle) {
     return isEntity ? stub : nullptr;
 }
 
+// What a command may change: no further entity is looked for where the one found is locked.
 KdDbStub* pickedEntity(const PromptAnswer& answer) {
-    if (answer.handle) {
-        return entityOfHandle(*answer.handle);
-    }
-    const PromptSession& session = PromptSession::current();
-    return session.finder == nullptr
-               ? nullptr
-               : session.finder->entityAt(orvex::userToWorld(answer.point), session.pickBox);
+    KdDbStub* const found = orvex::entityOf(answer);
+    return found != nullptr && orvex::isOnLockedLayer(*found) ? nullptr : found;
 }
 
 void putPoint(double* target, const KdGePoint3d& point) {
@@ -108,6 +105,16 @@ int statusWithoutValue(const PromptAnswer& answer) {
 }
 
 } // namespace
+
+KdDbStub* orvex::entityOf(const PromptAnswer& answer) {
+    if (answer.handle) {
+        return entityOfHandle(*answer.handle);
+    }
+    const PromptSession& session = PromptSession::current();
+    return session.finder == nullptr
+               ? nullptr
+               : session.finder->entityAt(userToWorld(answer.point), session.pickBox);
+}
 
 int kdedInitGet(int /*flags*/, const wchar_t* keywords) {
     PromptSession::current().armedKeywords = keywords != nullptr ? keywords : L"";

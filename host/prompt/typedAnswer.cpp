@@ -73,6 +73,10 @@ std::optional<KdGePoint3d> parsePoint(std::wstring_view text) {
                        coordinates.size() == 3 ? coordinates[2] : 0.0};
 }
 
+std::optional<std::uint64_t> parseHandlePick(std::wstring_view text) {
+    return text.starts_with(L'#') ? typedHandle(trimBlanks(text.substr(1))) : std::nullopt;
+}
+
 std::optional<TypedPick> parsePick(std::wstring_view text) {
     const std::size_t mark = text.find(L'#');
     TypedPick pick;

@@ -20,6 +20,9 @@ struct TypedPick {
     KdGePoint3d point;
     std::optional<std::uint64_t> handle; // 0 for a number that no handle can be
 };
+// "#" and a hexadecimal handle; 0 for a number that no handle can be.
+std::optional<std::uint64_t> parseHandlePick(std::wstring_view text);
+
 // A point, with "#" and a hexadecimal handle behind it or without.
 std::optional<TypedPick> parsePick(std::wstring_view text);
 

@@ -25,6 +25,15 @@ void zoomCommand(Session& session);
 void setVariableCommand(Session& session);
 // A new multiline in the current style.
 void mlineCommand(Session& session);
+// A selection, all when it is empty; then Look or Repair: tells multilines that contradict their
+// style or themselves.
+void auditCommand(Session& session);
+// A selection: lays the elements of multilines where their style wants them.
+void layRightCommand(Session& session);
+// A pick near an open end, then a point: moves the end along its segment.
+void moveEndCommand(Session& session);
+// A multiline, a segment, an element, then distances: the element's breaks.
+void elementBreaksCommand(Session& session);
 
 // Tells the current source that its last answer can't be taken.
 void rejectAnswer(const std::wstring& reason);

@@ -5,6 +5,7 @@
 #include "KdDocument.h"
 #include "PlanView.h"
 #include "Scene.h"
+#include "SelectionMemory.h"
 #include "SessionContexts.h"
 #include "SessionDisplay.h"
 
@@ -49,6 +50,9 @@ public:
     [[nodiscard]] bool isViewStarted() const { return m_viewStarted; }
     [[nodiscard]] SessionDisplay& display() { return m_display; }
 
+    // What was selected, for the commands that ask for a selection.
+    [[nodiscard]] SelectionMemory& selectionMemory() { return m_selectionMemory; }
+
     void setSource(PromptSource* source);
 
     // Asks the source for a command's name; empty for an empty line or a cancel.
@@ -79,6 +83,7 @@ private:
     PlanView m_view;
     bool m_viewStarted = false;
     Scene m_scene;
+    SelectionMemory m_selectionMemory;
     SessionContexts m_contexts;
     SessionDisplay m_display;
     bool m_running = false;

@@ -10,7 +10,11 @@ namespace orvex {
 namespace {
 
 constexpr std::array kCommands = {
+    HostCommand{L"MLAUDIT", auditCommand},
+    HostCommand{L"MLEND", moveEndCommand},
     HostCommand{L"MLINE", mlineCommand},
+    HostCommand{L"MLLAY", layRightCommand},
+    HostCommand{L"MLSTOPS", elementBreaksCommand},
     HostCommand{L"SETVAR", setVariableCommand},
     HostCommand{L"ZOOM", zoomCommand},
 };

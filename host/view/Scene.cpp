@@ -8,6 +8,7 @@
 #include "IndexBuild.h"
 #include "KdDbDatabase.h"
 #include "PickIndex.h"
+#include "boxSelection.h"
 #include "pickDistance.h"
 
 #include <algorithm>
@@ -253,6 +254,40 @@ KdDbStub* Scene::pick(PlanPoint point, double reach) {
     const auto last = std::find_if(hits.rbegin(), hits.rend(),
                                    [&](const Hit& hit) { return hit.distance <= nearest + tie; });
     return last != hits.rend() ? last->entity : nullptr;
+}
+
+std::vector<KdDbStub*> Scene::entitiesWithin(const PlanBox& box) {
+    m_state->prepare();
+    std::vector<KdDbStub*> found;
+    for (const std::uint32_t index : m_state->pickIndex.query(box)) {
+        if (contains(box, m_state->pickIndex.box(index))) { // which is the box of what is drawn
+            found.push_back(m_state->entities()[index]);
+        }
+    }
+    return found;
+}
+
+std::vector<KdDbStub*> Scene::entitiesTouching(const PlanBox& box) {
+    m_state->prepare();
+    std::vector<KdDbStub*> found;
+    for (const std::uint32_t index : m_state->pickIndex.query(box)) {
+        KdDbStub& entity = *m_state->entities()[index];
+        // Most lie in the box as a whole, and their appearances needn't be made.
+        if (contains(box, m_state->pickIndex.box(index)) ||
+            touches(m_state->appearance(entity), box)) {
+            found.push_back(&entity);
+        }
+    }
+    return found;
+}
+
+std::vector<KdDbStub*> Scene::allSeen() {
+    m_state->prepare();
+    std::vector<KdDbStub*> found;
+    for (const std::uint32_t index : m_state->pickIndex.query(m_state->pickIndex.bounds())) {
+        found.push_back(m_state->entities()[index]);
+    }
+    return found;
 }
 
 KdDbStub* Scene::entityAt(const KdGePoint3d& worldPoint, int pickBoxPixels) {

@@ -45,6 +45,13 @@ public:
     // units to each side of the point: the nearest, and of equally near ones the one drawn later.
     // Null when there is none.
     [[nodiscard]] KdDbStub* pick(PlanPoint point, double reach);
+    // What a box selects, in drawing order: seen entities all of whose lines, fills and texts lie
+    // within it, or any of them touches it. Edges count.
+    [[nodiscard]] std::vector<KdDbStub*> entitiesWithin(const PlanBox& box);
+    [[nodiscard]] std::vector<KdDbStub*> entitiesTouching(const PlanBox& box);
+    // Every seen entity, in drawing order.
+    [[nodiscard]] std::vector<KdDbStub*> allSeen();
+
     KdDbStub* entityAt(const KdGePoint3d& worldPoint, int pickBoxPixels) override;
 
     // Drawing units a pixel, which turns pick boxes into reaches.

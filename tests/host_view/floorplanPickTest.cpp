@@ -21,7 +21,7 @@ TEST(FloorplanPick, findsTheWallsAsTheyAreDrawn) {
     KdDbDatabase& database = (*opened)->database();
     Scene scene(database);
     const PlanPick picks[] = {
-        {"spine, on a locked layer, left face", {2000, 5320}, 0x7B},
+        {"spine, left face", {2000, 5320}, 0x7B},
         {"spine, between its faces", {2000, 5200}, 0},
         {"partition, right face", {4657.5, 1500}, 0x7C},
         {"utility before its gap", {11700, 2957.5}, 0x87},

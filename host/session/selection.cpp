@@ -1,0 +1,258 @@
+#include "selection.h"
+
+#include "DatabaseCore.h"
+#include "EntityReader.h"
+#include "HostCommand.h"
+#include "KdDbDatabase.h"
+#include "KdDbMline.h"
+#include "PromptSession.h"
+#include "Session.h"
+#include "commandLine.h"
+#include "lockedLayers.h"
+#include "promptExchange.h"
+#include "promptLibrary.h"
+#include "promptStatus.h"
+#include "textCodec.h"
+#include "userFrame.h"
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+
+namespace orvex {
+
+namespace {
+
+using Entities = std::vector<KdDbStub*>;
+
+constexpr const wchar_t* kKeywords = L"ALL Window Crossing STYLE LAYER Previous Remove Add";
+
+PlanBox boxOf(const KdGePoint3d& corner, const KdGePoint3d& other) {
+    PlanBox box;
+    for (const KdGePoint3d& point : {userToWorld(corner), userToWorld(other)}) {
+        box.include(PlanPoint{point.x, point.y});
+    }
+    return box;
+}
+
+Entities inBox(Session& session, const PlanBox& box, bool isCrossing) {
+    return isCrossing ? session.scene().entitiesTouching(box) : session.scene().entitiesWithin(box);
+}
+
+// Two more questions; nothing when one isn't answered by a point.
+std::optional<Entities> askBox(Session& session, bool isCrossing) {
+    double first[3] = {0.0, 0.0, 0.0};
+    double second[3] = {0.0, 0.0, 0.0};
+    if (kdedGetPoint(nullptr, L"First corner: ", first) != kPromptNormal ||
+        kdedGetPoint(first, L"Opposite corner: ", second) != kPromptNormal) {
+        return std::nullopt;
+    }
+    return inBox(session, boxOf({first[0], first[1], first[2]}, {second[0], second[1], second[2]}),
+                 isCrossing);
+}
+
+template <class Test>
+Entities seenWith(Session& session, Test&& test) {
+    Entities found = session.scene().allSeen();
+    std::erase_if(found, [&](KdDbStub* entity) { return !test(*entity); });
+    return found;
+}
+
+std::optional<Entities> askStyle(Session& session) {
+    wchar_t name[kPromptTextSize] = L"";
+    if (kdedGetString(L"Style name: ", name) != kPromptNormal) {
+        return std::nullopt;
+    }
+    KdDbStub* const style = session.database().core().findStyle(name);
+    if (style == nullptr) {
+        rejectAnswer(L"there is no style '" + std::wstring(name) + L"'");
+        return std::nullopt;
+    }
+    const KdDbObjectId id(style);
+    return seenWith(session, [id](KdDbStub& entity) {
+        return entity.kind == ObjectKind::mline && KdDbMline::styleOf(KdDbObjectId(&entity)) == id;
+    });
+}
+
+std::wstring layerOf(const KdDbStub& entity) {
+    const auto reading = readEntity(entity);
+    return reading ? reading->traits().layer : std::wstring();
+}
+
+std::optional<Entities> askLayer(Session& session) {
+    wchar_t name[kPromptTextSize] = L"";
+    if (kdedGetString(L"Layer name: ", name) != kPromptNormal) {
+        return std::nullopt;
+    }
+    const std::wstring folded = foldCase(name);
+    if (session.database().core().findLayer(name) == nullptr) {
+        rejectAnswer(L"there is no layer '" + std::wstring(name) + L"'");
+        return std::nullopt;
+    }
+    return seenWith(
+        session, [&folded](const KdDbStub& entity) { return foldCase(layerOf(entity)) == folded; });
+}
+
+// A selection while it is made.
+class SelectionInProgress {
+public:
+    explicit SelectionInProgress(Session& session) : m_session(session) {}
+
+    // False for a cancel.
+    bool ask(SelectionKind kind) {
+        const wchar_t* const what = kind == SelectionKind::mlines ? L"multilines" : L"entities";
+        for (;;) {
+            kdedInitGet(0, kKeywords);
+            const std::wstring prompt =
+                (m_removes ? L"Remove " : L"Select ") + std::wstring(what) +
+                L" or [ALL/Window/Crossing/STYLE/LAYER/Previous/Remove/Add]: ";
+            const PromptAnswer answer = askUser(PromptKind::selection, prompt.c_str());
+            switch (answer.kind) {
+            case PromptAnswer::Kind::empty:
+                return true;
+            case PromptAnswer::Kind::keyword:
+                if (!takeKeyword(answer.keyword)) {
+                    return false;
+                }
+                break;
+            case PromptAnswer::Kind::point:
+            case PromptAnswer::Kind::handle:
+                takePick(answer);
+                break;
+            case PromptAnswer::Kind::box:
+                take(inBox(m_session, boxOf(answer.point, answer.corner), answer.isCrossing),
+                     answer.takesAway);
+                break;
+            default:
+                return false;
+            }
+        }
+    }
+
+    void take(const Entities& entities, bool takesAway) {
+        m_isUntouched = false;
+        for (KdDbStub* const entity : entities) {
+            if (m_removes || takesAway) {
+                m_selected.erase(entity);
+            } else if (!entity->erased) {
+                m_selected.insert(entity);
+            }
+        }
+    }
+
+    [[nodiscard]] bool isUntouched() const { return m_isUntouched; }
+    [[nodiscard]] Entities entities() const {
+        Entities all(m_selected.begin(), m_selected.end());
+        std::sort(all.begin(), all.end(),
+                  [](const KdDbStub* a, const KdDbStub* b) { return a->ordinal < b->ordinal; });
+        return all;
+    }
+
+private:
+    bool takeKeyword(std::wstring_view keyword) {
+        std::optional<Entities> found;
+        if (keyword == L"Remove" || keyword == L"Add") {
+            m_removes = keyword == L"Remove";
+            return true;
+        }
+        if (keyword == L"ALL") {
+            found = m_session.scene().allSeen();
+        } else if (keyword == L"Previous") {
+            found = m_session.selectionMemory().previous;
+        } else if (keyword == L"STYLE") {
+            found = askStyle(m_session);
+        } else if (keyword == L"LAYER") {
+            found = askLayer(m_session);
+        } else {
+            found = askBox(m_session, keyword == L"Crossing");
+        }
+        if (found) {
+            take(*found, false);
+        }
+        return found.has_value();
+    }
+
+    void takePick(const PromptAnswer& answer) {
+        KdDbStub* const found = entityOf(answer);
+        if (found == nullptr) {
+            m_isUntouched = false;
+            kdutPrintf(L"Nothing found there.");
+            return;
+        }
+        take({found}, answer.takesAway);
+    }
+
+    Session& m_session;
+    std::unordered_set<KdDbStub*> m_selected;
+    bool m_removes = false;
+    bool m_isUntouched = true;
+};
+
+// Takes out what a command must not change, or what it can't, and says so.
+class Sieve {
+public:
+    explicit Sieve(DatabaseCore& core) : m_core(core) {}
+
+    Entities operator()(Entities entities, SelectionKind kind, bool tellsOthers) {
+        const std::size_t all = entities.size();
+        if (kind == SelectionKind::mlines) {
+            std::erase_if(entities,
+                          [](const KdDbStub* entity) { return entity->kind != ObjectKind::mline; });
+        }
+        const std::size_t usable = entities.size();
+        std::erase_if(entities, [this](const KdDbStub* entity) { return isLocked(*entity); });
+        if (tellsOthers) {
+            tell(all - usable, L" other than multilines left out.");
+        }
+        tell(usable - entities.size(), L" on locked layers left out.");
+        return entities;
+    }
+
+private:
+    static void tell(std::size_t count, const wchar_t* what) {
+        if (count > 0) {
+            kdutPrintf(L"%ls", (std::to_wstring(count) + what).c_str());
+        }
+    }
+    bool isLocked(const KdDbStub& entity) {
+        const std::wstring layer = layerOf(entity);
+        const auto known = m_locked.find(layer);
+        return known != m_locked.end()
+                   ? known->second
+                   : m_locked.emplace(layer, isLayerLocked(m_core, layer)).first->second;
+    }
+
+    DatabaseCore& m_core;
+    std::unordered_map<std::wstring, bool> m_locked; // by layer
+};
+
+} // namespace
+
+std::optional<Selection> askSelection(Session& session, SelectionKind kind, bool emptyMeansAll) {
+    SelectionInProgress progress(session);
+    SelectionMemory& memory = session.selectionMemory();
+    if (!memory.chosen.empty()) {
+        progress.take(std::exchange(memory.chosen, {}), false);
+    } else if (!progress.ask(kind)) {
+        return std::nullopt;
+    }
+    Selection selection;
+    selection.isEmptyAnswer = progress.isUntouched();
+    selection.entities = Sieve(session.database().core())(progress.entities(), kind, true);
+    if (!selection.entities.empty()) {
+        memory.previous = selection.entities;
+    } else if (!emptyMeansAll || !selection.isEmptyAnswer) {
+        kdutPrintf(L"Nothing selected.");
+    }
+    return selection;
+}
+
+Selection selectAll(Session& session, SelectionKind kind) {
+    Selection selection;
+    selection.entities = Sieve(session.database().core())(session.scene().allSeen(), kind, false);
+    return selection;
+}
+
+} // namespace orvex
