@@ -343,7 +343,7 @@ void DrawingReader::startBlock(std::uint32_t record) {
                              : tag.code == 30 ? &base.z
                                               : nullptr;
         if (part != nullptr) {
-            parseReal(tag.value, *part);
+            *part = parseReal(tag.value).value_or(*part);
         }
     }
 }

@@ -70,17 +70,13 @@ const Tag* ShapeTags::find(int code) const {
 }
 
 double ShapeTags::real(int code, double otherwise) const {
-    if (const Tag* const tag = find(code)) {
-        parseReal(tag->value, otherwise);
-    }
-    return otherwise;
+    const Tag* const tag = find(code);
+    return tag != nullptr ? parseReal(tag->value).value_or(otherwise) : otherwise;
 }
 
 int ShapeTags::integer(int code, int otherwise) const {
-    if (const Tag* const tag = find(code)) {
-        parseInteger(tag->value, otherwise);
-    }
-    return otherwise;
+    const Tag* const tag = find(code);
+    return tag != nullptr ? parseInteger(tag->value).value_or(otherwise) : otherwise;
 }
 
 std::string_view ShapeTags::text(int code) const {

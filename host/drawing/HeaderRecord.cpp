@@ -43,14 +43,12 @@ std::string_view variableName(const Tag& tag) {
 }
 
 std::optional<HeaderValue> scalar(const Row& row, std::string_view value, const DrawingText& text) {
-    double real = 0.0;
-    int integer = 0;
     switch (row.code) {
     case 40:
-        return parseReal(value, real) ? std::optional<HeaderValue>(real) : std::nullopt;
+        return parseReal(value);
     case 62:
     case 70:
-        return parseInteger(value, integer) ? std::optional<HeaderValue>(integer) : std::nullopt;
+        return parseInteger(value);
     case 5:
         if (const auto handle = parseHandle(value)) {
             return HeaderValue(HeaderHandle{*handle});
@@ -79,9 +77,11 @@ std::optional<HeaderValue> readValue(const Row& row, const std::vector<Tag>& tag
                              : tag.code == 30 ? &point.z
                                               : nullptr;
         if (part != nullptr) {
-            if (!parseReal(tag.value, *part)) {
+            const auto coordinate = parseReal(tag.value);
+            if (!coordinate) {
                 return std::nullopt;
             }
+            *part = *coordinate;
             found = true;
         }
     }

@@ -115,7 +115,9 @@ MlineRole MlineParser::feedField(const Tag& tag) {
         break;
     case 71:
         bit = kFlags;
-        if (!parseInteger(tag.value, flags)) {
+        if (const auto number = parseInteger(tag.value)) {
+            flags = *number;
+        } else {
             fail("its flags are no number");
         }
         break;
@@ -251,15 +253,18 @@ MlineRole MlineParser::feedValue(const Tag& tag, bool areas) {
 }
 
 void MlineParser::readReal(const Tag& tag, double& value) {
-    if (!parseReal(tag.value, value)) {
+    if (const auto number = parseReal(tag.value)) {
+        value = *number;
+    } else {
         fail("a value is no finite number");
     }
 }
 
 void MlineParser::readCount(const Tag& tag, int& value) {
-    if (!parseInteger(tag.value, value) || value < 0) {
+    value = parseInteger(tag.value).value_or(-1);
+    if (value < 0) {
         value = 0;
-        fail("a count is no count");
+        fail("a count is invalid");
     }
 }
 

@@ -35,30 +35,20 @@ std::errc parseAll(std::string_view text, Number& value, Format... format) {
 
 } // namespace
 
-bool parseReal(std::string_view text, double& value) {
+std::optional<double> parseReal(std::string_view text) {
     text = withoutPlus(trimBlanks(text));
     double number = 0.0;
     const std::errc error = parseAll(text, number);
     if (error == std::errc::result_out_of_range) {
-        if (!isTiny(text)) {
-            return false;
-        }
-        number = 0.0;
-    } else if (error != std::errc() || !std::isfinite(number)) {
-        return false;
+        return isTiny(text) ? std::optional(0.0) : std::nullopt;
     }
-    value = number;
-    return true;
+    return error == std::errc() && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
-bool parseInteger(std::string_view text, int& value) {
-    text = withoutPlus(trimBlanks(text));
+std::optional<int> parseInteger(std::string_view text) {
     int number = 0;
-    if (parseAll(text, number, 10) != std::errc()) {
-        return false;
-    }
-    value = number;
-    return true;
+    const bool isInteger = parseAll(withoutPlus(trimBlanks(text)), number, 10) == std::errc();
+    return isInteger ? std::optional(number) : std::nullopt;
 }
 
 std::string realText(double value) {

@@ -1,15 +1,16 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace orvex {
 
 // Numbers as drawing files write them, whatever the user's language. Blanks around a number don't
-// matter. Each reader gives false, and leaves the result alone, when the text is anything else.
+// matter; any other text is nothing.
 
-bool parseReal(std::string_view text, double& value); // finite ones only; too small ones are 0
-bool parseInteger(std::string_view text, int& value); // that fits 32 bits
+std::optional<double> parseReal(std::string_view text); // finite ones only; too small ones are 0
+std::optional<int> parseInteger(std::string_view text); // that fits 32 bits
 
 // The shortest text that reads back as the same double, always with a point or an exponent. A
 // value that is not finite has no form in the file and becomes 0.

@@ -60,12 +60,16 @@ private:
         }
     }
     void real(const Tag& tag, double& value) {
-        if (!parseReal(tag.value, value)) {
+        if (const auto number = parseReal(tag.value)) {
+            value = *number;
+        } else {
             fail("a value is no finite number");
         }
     }
     void integer(const Tag& tag, int& value) {
-        if (!parseInteger(tag.value, value)) {
+        if (const auto number = parseInteger(tag.value)) {
+            value = *number;
+        } else {
             fail("a value is no number");
         }
     }

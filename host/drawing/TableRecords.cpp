@@ -15,7 +15,6 @@ enum LayerFlag : int { kFrozen = 1, kLocked = 4 };
 
 void readLayerTag(const Tag& tag, const DrawingText& text, KdDbLayerTableRecord& layer,
                   KdCmColor& color) {
-    int number = 0;
     switch (tag.code) {
     case 2:
         layer.setName(text.decode(trimBlanks(tag.value)).c_str());
@@ -24,14 +23,14 @@ void readLayerTag(const Tag& tag, const DrawingText& text, KdDbLayerTableRecord&
         layer.setLinetype(text.decode(trimBlanks(tag.value)).c_str());
         break;
     case 70:
-        if (parseInteger(tag.value, number)) {
-            layer.setIsFrozen((number & kFrozen) != 0);
-            layer.setIsLocked((number & kLocked) != 0);
+        if (const auto flags = parseInteger(tag.value)) {
+            layer.setIsFrozen((*flags & kFrozen) != 0);
+            layer.setIsLocked((*flags & kLocked) != 0);
         }
         break;
     default:
-        if (tag.code == 62 && parseInteger(tag.value, number)) {
-            layer.setIsOff(number < 0); // the index keeps its amount
+        if (const auto index = tag.code == 62 ? parseInteger(tag.value) : std::nullopt) {
+            layer.setIsOff(*index < 0); // the index keeps its amount
         }
         readColor(tag, text, color);
         break;
@@ -85,13 +84,12 @@ std::unique_ptr<KdDbLinetypeTableRecord> readLinetype(const RecordContext& conte
     auto linetype = std::make_unique<KdDbLinetypeTableRecord>();
     std::vector<double> dashes;
     forOwnTags(context.bytes, span, [&](const Tag& tag) {
-        double dash = 0.0;
         if (tag.code == 2) {
             linetype->setName(context.text.decode(trimBlanks(tag.value)).c_str());
         } else if (tag.code == 3) {
             linetype->setComments(context.text.decode(tag.value).c_str());
-        } else if (tag.code == 49 && parseReal(tag.value, dash)) {
-            dashes.push_back(dash);
+        } else if (const auto dash = tag.code == 49 ? parseReal(tag.value) : std::nullopt) {
+            dashes.push_back(*dash);
         }
     });
     linetype->setDashes(std::move(dashes));
@@ -167,8 +165,7 @@ std::optional<std::string> editTableCount(std::string_view bytes, const RecordSp
     RecordEdit edit(bytes, span.begin, span.end);
     const std::vector<Tag>& tags = edit.tags();
     for (std::size_t i = 1; i < tags.size(); i = skipGroup(tags, i)) {
-        int count = 0;
-        if (tags[i].code == 70 && parseInteger(tags[i].value, count) && count == present) {
+        if (tags[i].code == 70 && parseInteger(tags[i].value) == present) {
             edit.replace(i, std::to_string(present + added));
             return edit.text();
         }

@@ -26,8 +26,6 @@ std::uint16_t colorIndex(int number) {
 }
 
 void readTrait(const Tag& tag, const DrawingText& text, EntityTraits& traits) {
-    double real = 0.0;
-    int integer = 0;
     switch (tag.code) {
     case 8:
         traits.layer = text.decode(trimBlanks(tag.value));
@@ -36,15 +34,13 @@ void readTrait(const Tag& tag, const DrawingText& text, EntityTraits& traits) {
         traits.linetype = text.decode(trimBlanks(tag.value));
         break;
     case 48:
-        if (parseReal(tag.value, real)) {
-            traits.linetypeScale = real;
-        }
+        traits.linetypeScale = parseReal(tag.value).value_or(traits.linetypeScale);
         break;
     case 60:
-        traits.visible = !(parseInteger(tag.value, integer) && integer == 1);
+        traits.visible = parseInteger(tag.value) != 1;
         break;
     case 67:
-        traits.inPaperSpace = parseInteger(tag.value, integer) && integer == 1;
+        traits.inPaperSpace = parseInteger(tag.value) == 1;
         break;
     default:
         readColor(tag, text, traits.color);
@@ -93,27 +89,30 @@ Fields traitsFields(const EntityTraits& traits, const DrawingText& text) {
 }
 
 bool readColor(const Tag& tag, const DrawingText& text, KdCmColor& color) {
-    int number = 0;
     switch (tag.code) {
-    case 62:
-        if (!parseInteger(tag.value, number)) {
+    case 62: {
+        const auto number = parseInteger(tag.value);
+        if (!number) {
             return false;
         }
         if (color.colorMethod() == KdCmColor::byColor) {
             // The true colour came first; it stays, with the index as well.
             const std::uint32_t shown = color.color();
-            color.setColorIndex(colorIndex(number));
+            color.setColorIndex(colorIndex(*number));
             color.setColor(shown);
         } else {
-            color.setColorIndex(colorIndex(number));
+            color.setColorIndex(colorIndex(*number));
         }
         return true;
-    case 420:
-        if (!parseInteger(tag.value, number)) {
+    }
+    case 420: {
+        const auto number = parseInteger(tag.value);
+        if (!number) {
             return false;
         }
-        color.setColor(kTrueColor | (static_cast<std::uint32_t>(number) & kRgbBits));
+        color.setColor(kTrueColor | (static_cast<std::uint32_t>(*number) & kRgbBits));
         return true;
+    }
     case 430:
         color.setNamesFromDictionaryKey(text.decode(trimBlanks(tag.value)).c_str());
         return true;

@@ -46,21 +46,19 @@ private:
 };
 
 bool HatchReader::takeReal(int code, double& value) {
-    if (m_at >= m_tags.size() || m_tags[m_at].code != code ||
-        !parseReal(m_tags[m_at].value, value)) {
-        return false;
-    }
-    ++m_at;
-    return true;
+    const bool isThere = m_at < m_tags.size() && m_tags[m_at].code == code;
+    const auto number = isThere ? parseReal(m_tags[m_at].value) : std::nullopt;
+    value = number.value_or(value);
+    m_at += number ? 1 : 0;
+    return number.has_value();
 }
 
 bool HatchReader::takeInteger(int code, int& value) {
-    if (m_at >= m_tags.size() || m_tags[m_at].code != code ||
-        !parseInteger(m_tags[m_at].value, value)) {
-        return false;
-    }
-    ++m_at;
-    return true;
+    const bool isThere = m_at < m_tags.size() && m_tags[m_at].code == code;
+    const auto number = isThere ? parseInteger(m_tags[m_at].value) : std::nullopt;
+    value = number.value_or(value);
+    m_at += number ? 1 : 0;
+    return number.has_value();
 }
 
 bool HatchReader::takePoint(int code, KdGePoint3d& point) {

@@ -88,14 +88,18 @@ EntityShape lwPolylineShape(const ShapeTags& tags) {
     shape.normal = plane.normal;
     std::vector<KdGePoint3d> flat;
     for (const Tag& tag : tags.all()) {
-        double value = 0.0;
-        if (tag.code == 10 && parseReal(tag.value, value)) {
-            flat.push_back({value, 0.0, elevation});
+        const bool isUsed = tag.code == 10 || tag.code == 20 || tag.code == 42;
+        const auto value = isUsed ? parseReal(tag.value) : std::nullopt;
+        if (!value) {
+            continue;
+        }
+        if (tag.code == 10) {
+            flat.push_back({*value, 0.0, elevation});
             shape.vertices.emplace_back();
-        } else if (tag.code == 20 && !flat.empty() && parseReal(tag.value, value)) {
-            flat.back().y = value;
-        } else if (tag.code == 42 && !flat.empty() && parseReal(tag.value, value)) {
-            shape.vertices.back().bulge = value;
+        } else if (tag.code == 20 && !flat.empty()) {
+            flat.back().y = *value;
+        } else if (tag.code == 42 && !flat.empty()) {
+            shape.vertices.back().bulge = *value;
         }
     }
     for (std::size_t i = 0; i < flat.size(); ++i) {
