@@ -6,8 +6,8 @@
 #include "colorTexts.h"
 #include "fieldNumbers.h"
 #include "kddbObjects.h"
-#include "numberText.h"
 #include "styleAccessors.h"
+#include "unitText.h"
 #include "wideNumbers.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 #include "fieldNumbers.h"
 
-#include "numberText.h"
 #include "promptStatus.h"
 #include "systemVariables.h"
+#include "unitText.h"
 #include "wideNumbers.h"
 
 #include <algorithm>

@@ -3,9 +3,9 @@
 #include "KdDbMlineStyle.h"
 #include "KdDocument.h"
 #include "libraryParser.h"
-#include "numberText.h"
 #include "styleAccessors.h"
 #include "textCodec.h"
+#include "unitText.h"
 #include "wholeFile.h"
 
 namespace mledit {

@@ -4,7 +4,7 @@
 #include "CMlineOpenObject.h"
 #include "EditTool.h"
 #include "KdDbMline.h"
-#include "commandLine.h"
+#include "commandOutput.h"
 #include "displayRefresh.h"
 #include "kddbObjects.h"
 #include "mlineAccessors.h"

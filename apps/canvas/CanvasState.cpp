@@ -2,6 +2,7 @@
 
 #include "DatabaseCore.h"
 #include "KdDbDatabase.h"
+#include "KdDbEntity.h"
 #include "canvasMarks.h"
 
 #include <QPainter>
@@ -248,9 +249,9 @@ void Canvas::State::paintAim(QPainter& painter) const {
     case CanvasAim::point:
         if (request && request->preview) {
             const PlanPoint at = planAtCursor();
-            Appearance appearance;
-            request->preview({at.x, at.y, 0.0}, appearance);
-            paintPreview(painter, view(), appearance);
+            if (const auto entity = request->preview({at.x, at.y, 0.0})) {
+                paintPreview(painter, view(), session->scene().appearanceOf(*entity));
+            }
         } else if (request && request->base) {
             paintRubberLine(painter, view(), {request->base->x, request->base->y}, *cursor);
         }

@@ -125,7 +125,7 @@ void MainWindow::loadModule(const std::vector<std::string>& files) {
         std::error_code ignored;
         if (std::filesystem::exists(file, ignored)) {
             if (const auto failure = m_modules.load(file)) {
-                m_commandLine->print(QString::fromStdString(*failure));
+                m_commandLine->print(QString::fromStdString(messageOf(*failure)));
             }
             return;
         }

@@ -4,19 +4,21 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-namespace orvex {
+class KdDbEntity;
 
-struct Appearance; // what things look like; of the view
+namespace orvex {
 
 // A selection is asked for again and again until an empty answer: it takes points, handles and
 // boxes.
 enum class PromptKind { command, keyword, entity, selection, point, real, text };
 
-using PromptPreview = std::function<void(const KdGePoint3d& cursor, Appearance& look)>;
+// The entity that a point at the cursor (world) would make, not in any drawing; null for nothing.
+using PromptPreview = std::function<std::unique_ptr<KdDbEntity>(const KdGePoint3d& cursor)>;
 
 // A question to the user.
 struct PromptRequest {
@@ -24,8 +26,8 @@ struct PromptRequest {
     std::wstring text;
     std::vector<std::wstring> keywords; // armed for this prompt, as the list spells them
     std::optional<KdGePoint3d> base;    // world; a window draws a line from it
-    // Adds to `look` what a point at the cursor (world) would make. A window draws that instead of
-    // the line. Null where the command shows nothing; it lives no longer than the question.
+    // A window draws its entity instead of the line. Null where the command shows nothing; it lives
+    // no longer than the question.
     PromptPreview preview;
 };
 

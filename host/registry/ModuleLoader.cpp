@@ -5,6 +5,7 @@
 #include "LoadedModules.h"
 #include "kdrxRegistry.h"
 #include "moduleEntry.h"
+#include "moduleFile.h"
 
 #include <dlfcn.h>
 
@@ -34,9 +35,18 @@ Function entry(void* library, const char* name) {
     return reinterpret_cast<Function>(dlsym(library, name));
 }
 
-std::string lastLinkerError() {
-    const char* const text = dlerror();
-    return text != nullptr ? text : "it can't be opened";
+Failure unloadable(const std::string& path, std::string text) {
+    return {FailureCause::unloadableModule, path, 0, std::move(text)};
+}
+
+// The system's text begins with the file to blame, which may be a library that the module needs.
+std::string lastLinkerError(const std::string& path) {
+    const char* const told = dlerror();
+    std::string text = told != nullptr ? told : "it can't be opened";
+    if (text.starts_with(path + ": ")) {
+        text.erase(0, path.size() + 2);
+    }
+    return text;
 }
 
 // A module names the host's libraries without a folder, and needn't lie beside them: it finds those
@@ -87,33 +97,36 @@ bool ModuleLoader::isLoaded(const std::string& path) const {
     return find(path) != nullptr;
 }
 
-std::optional<std::string> ModuleLoader::load(const std::string& path) {
+std::optional<Failure> ModuleLoader::load(const std::string& path) {
     if (isLoaded(path)) {
         return std::nullopt;
     }
     openWindowLibraries();
     auto module = std::make_unique<Module>();
     module->path = absolutePath(path);
+    if (auto fault = findFaultOfModuleFile(module->path)) {
+        return unloadable(module->path, std::move(*fault));
+    }
     module->library.reset(dlopen(module->path.c_str(), RTLD_NOW | RTLD_LOCAL));
     if (!module->library) {
-        return lastLinkerError();
+        return unloadable(module->path, lastLinkerError(module->path));
     }
     void* const library = module->library.get();
     module->dllMain = entry<DllMainFunction>(library, "DllMain");
     module->entryPoint = entry<EntryPointFunction>(library, "kdrxEntryPoint");
     const auto apiVersion = entry<ApiVersionFunction>(library, "kdrxGetApiVersion");
     if (module->dllMain == nullptr || module->entryPoint == nullptr || apiVersion == nullptr) {
-        return module->path + ": it isn't a module";
+        return unloadable(module->path, "it isn't a module");
     }
     if (apiVersion(0) != kApiVersion) {
-        return module->path + ": the module is for another version of the host";
+        return unloadable(module->path, "the module is for another version of the host");
     }
     module->handle = addModuleHandle(module->path);
     module->dllMain(module->handle, kReasonAttach, nullptr);
     if (module->entryPoint(kMessageLoad, module.get()) == kLoadFailed) {
         module->dllMain(module->handle, kReasonDetach, nullptr);
         dropModuleHandle(module->handle);
-        return module->path + ": the module or its texts can't be loaded";
+        return unloadable(module->path, "the module or its texts can't be loaded");
     }
     m_modules.push_back(std::move(module));
     return std::nullopt;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Failure.h"
 #include "HINSTANCE.h"
 
 #include <memory>
@@ -18,9 +19,8 @@ public:
     ModuleLoader(const ModuleLoader&) = delete;
     ModuleLoader& operator=(const ModuleLoader&) = delete;
 
-    // Loads the file (UTF-8); one that is loaded already is fine. Nothing when it went well, else
-    // why not.
-    [[nodiscard]] std::optional<std::string> load(const std::string& path);
+    // Loads the file (UTF-8); one that is loaded already is fine.
+    [[nodiscard]] std::optional<Failure> load(const std::string& path);
     [[nodiscard]] bool isLoaded(const std::string& path) const;
 
     // Unloads everything. False, and nothing is done, while a command runs.

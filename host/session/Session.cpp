@@ -6,7 +6,7 @@
 #include "KdEdCommandStack.h"
 #include "KdRxDictionary.h"
 #include "ModuleLoader.h"
-#include "commandLine.h"
+#include "commandOutput.h"
 #include "hostFolders.h"
 #include "kdrxRegistry.h"
 #include "promptExchange.h"
@@ -155,8 +155,9 @@ std::optional<Failure> Session::loadModule() {
     for (const std::string& file : m_setup.moduleFiles) {
         std::error_code error;
         if (std::filesystem::exists(file, error)) {
-            const auto reason = m_modules.load(file);
-            return reason ? std::optional(unloadable(*reason)) : std::nullopt;
+            // The script stands as the place of the failure; the text names the file.
+            const auto failure = m_modules.load(file);
+            return failure ? std::optional(unloadable(messageOf(*failure))) : std::nullopt;
         }
     }
     if (m_setup.moduleFiles.empty()) {

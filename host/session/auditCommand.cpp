@@ -2,7 +2,7 @@
 
 #include "HostCommand.h"
 #include "KdDbStub.h"
-#include "commandLine.h"
+#include "commandOutput.h"
 #include "drawingAudit.h"
 #include "handleText.h"
 #include "mlineEdits.h"

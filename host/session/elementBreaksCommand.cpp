@@ -1,7 +1,7 @@
 // MLSTOPS: sets the breaks of one element on one segment.
 
 #include "HostCommand.h"
-#include "commandLine.h"
+#include "commandOutput.h"
 #include "elementBreaks.h"
 #include "lockedLayers.h"
 #include "mlineEdits.h"

@@ -2,7 +2,7 @@
 
 #include "HostCommand.h"
 #include "KdDbStub.h"
-#include "commandLine.h"
+#include "commandOutput.h"
 #include "handleText.h"
 #include "layRight.h"
 #include "mlineEdits.h"

@@ -5,7 +5,7 @@
 #include "KdDbMline.h"
 #include "PromptSession.h"
 #include "Session.h"
-#include "commandLine.h"
+#include "commandOutput.h"
 #include "newMline.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -113,12 +113,10 @@ void appendPoint(Chain& chain, KdGePoint3d point) {
 
 // Shows the multiline with the cursor as its next point. The chain has to outlive it.
 PromptPreview previewOf(Session& session, const Chain& chain) {
-    return [&session, &chain](const KdGePoint3d& cursor, Appearance& look) {
+    return [&session, &chain](const KdGePoint3d& cursor) {
         Chain ahead = chain;
         appendPoint(ahead, worldToUser(cursor));
-        if (const auto mline = makeMline(session, ahead)) {
-            look = session.scene().appearanceOf(*mline);
-        }
+        return makeMline(session, ahead);
     };
 }
 

@@ -1,7 +1,7 @@
 // MLEND: moves an open end of a multiline along its own segment.
 
 #include "HostCommand.h"
-#include "commandLine.h"
+#include "commandOutput.h"
 #include "kddbObjects.h"
 #include "mlineEdits.h"
 #include "moveEnd.h"

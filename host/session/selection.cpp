@@ -7,7 +7,7 @@
 #include "KdDbMline.h"
 #include "PromptSession.h"
 #include "Session.h"
-#include "commandLine.h"
+#include "commandOutput.h"
 #include "lockedLayers.h"
 #include "promptExchange.h"
 #include "promptLibrary.h"

@@ -4,7 +4,7 @@
 #include "KdDbMline.h"
 #include "KdDbStub.h"
 #include "PromptFixture.h"
-#include "commandLine.h"
+#include "commandOutput.h"
 #include "kddbObjects.h"
 #include "promptStatus.h"
 

@@ -5,7 +5,7 @@
 #include "TestPaths.h"
 #include "kdrxRegistry.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -47,8 +47,8 @@ protected:
 TEST_F(Loader, callsTheEntriesInOrderAndClosesTheFileAtItsEnd) {
     {
         ModuleLoader loader;
-        EXPECT_EQ(loader.load(m_module), std::nullopt);
-        EXPECT_EQ(loader.load(m_module), std::nullopt);
+        EXPECT_FALSE(loader.load(m_module));
+        EXPECT_FALSE(loader.load(m_module));
         ASSERT_NE(commands().lookUp(L"tell"), nullptr);
         commands().lookUp(L"tell")->function();
         EXPECT_EQ(loader.send(m_module, 14), 0);
@@ -61,7 +61,10 @@ TEST_F(Loader, owesNoUnloadMessageToAModuleThatFailsToLoad) {
     setenv("ORVEX_TEST_FAIL", "1", 1);
     {
         ModuleLoader loader;
-        EXPECT_THAT(loader.load(m_module).value_or(""), testing::HasSubstr("tellingModule.omx"));
+        const auto failure = loader.load(m_module);
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(failure->cause, orvex::FailureCause::unloadableModule);
+        EXPECT_EQ(failure->file, m_module);
         EXPECT_FALSE(loader.isLoaded(m_module));
         EXPECT_EQ(loader.send(m_module, 2), std::nullopt);
     }
@@ -71,7 +74,7 @@ TEST_F(Loader, owesNoUnloadMessageToAModuleThatFailsToLoad) {
 
 TEST_F(Loader, unloadsNothingWhileACommandRuns) {
     ModuleLoader loader;
-    ASSERT_EQ(loader.load(m_module), std::nullopt);
+    ASSERT_FALSE(loader.load(m_module));
     {
         const ModuleLoader::Use use(loader);
         EXPECT_FALSE(loader.unloadAll());
@@ -83,8 +86,23 @@ TEST_F(Loader, unloadsNothingWhileACommandRuns) {
 
 TEST_F(Loader, refusesWhatIsNoModule) {
     ModuleLoader loader;
-    EXPECT_TRUE(loader.load(file("noModule.omx")).has_value());
-    EXPECT_TRUE(loader.load(file("nowhere.omx")).has_value());
+    EXPECT_TRUE(loader.load(file("noModule.omx")));
+    EXPECT_TRUE(loader.load(file("nowhere.omx")));
+    EXPECT_TRUE(loader.load(fs::temp_directory_path().string()));
+    EXPECT_EQ(told(), "");
+}
+
+TEST_F(Loader, refusesAModuleThatIsCutShortAnywhere) {
+    const fs::path part = fs::temp_directory_path() / "part.omx";
+    const auto whole = fs::file_size(m_module);
+    for (unsigned eighths = 0; eighths < 8; ++eighths) {
+        fs::copy_file(m_module, part, fs::copy_options::overwrite_existing);
+        fs::resize_file(part, whole * eighths / 8);
+        EXPECT_TRUE(ModuleLoader().load(part.string())) << eighths << " eighths";
+    }
+    fs::copy_file(m_module, part, fs::copy_options::overwrite_existing);
+    fs::resize_file(part, whole - 1);
+    EXPECT_TRUE(ModuleLoader().load(part.string())) << "all but a byte";
     EXPECT_EQ(told(), "");
 }
 

@@ -1,3 +1,4 @@
+#include "KdDbEntity.h"
 #include "SessionFixture.h"
 
 #include "Appearance.h"
@@ -10,15 +11,16 @@ using namespace orvex;
 // Answers with a script; notes what the previews show at the points that it is about to answer.
 class WatchfulSource final : public PromptSource {
 public:
-    explicit WatchfulSource(const std::string& script)
-        : m_script(script, [](const std::wstring&) {}) {}
+    WatchfulSource(Session& session, const std::string& script)
+        : m_session(session), m_script(script, [](const std::wstring&) {}) {}
 
     PromptAnswer ask(const PromptRequest& request) override {
         const PromptAnswer answer = m_script.ask(request);
         appearances.emplace_back();
         if (request.preview) {
             // The user's X is north and its Y west, moved to (100, 0).
-            request.preview({100.0 - answer.point.y, answer.point.x, 0.0}, appearances.back());
+            const auto mline = request.preview({100.0 - answer.point.y, answer.point.x, 0.0});
+            appearances.back() = m_session.scene().appearanceOf(*mline);
         }
         return answer;
     }
@@ -27,6 +29,7 @@ public:
     std::vector<Appearance> appearances; // by question
 
 private:
+    Session& m_session;
     ScriptSource m_script;
 };
 
@@ -43,7 +46,7 @@ TEST_F(SessionFixture, mlineShowsBeforeAPointWhatThePointMakes) {
     core().setVariable("UCSORG", KdGePoint3d{100, 0, 7});
     core().setVariable("UCSXDIR", KdGePoint3d{0, 1, 0});
     core().setVariable("UCSYDIR", KdGePoint3d{-1, 0, 0});
-    WatchfulSource source("0,0,1\n10,0\n10,10\n\n");
+    WatchfulSource source(*m_session, "0,0,1\n10,0\n10,10\n\n");
     m_session->setSource(&source);
     EXPECT_FALSE(m_session->run(L"MLINE"));
     ASSERT_EQ(source.appearances.size(), 4U);
@@ -58,7 +61,7 @@ TEST_F(SessionFixture, mlineShowsBeforeAPointWhatThePointMakes) {
 
 TEST_F(SessionFixture, mlinesPreviewEndsWithTheCommand) {
     for (const char* script : {"0,0\n10,0\n\n", "0,0\n10,0\n*CANCEL*\n", "0,0\n10,0\nnonsense\n"}) {
-        WatchfulSource source(script);
+        WatchfulSource source(*m_session, script);
         m_session->setSource(&source);
         m_session->run(L"MLINE");
         EXPECT_FALSE(PromptSession::current().preview) << script;

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that a room can reach the headers of those rooms and subjects only that lie below it.
+"""Checks that a room can reach the headers of those rooms and subjects only that lie below it, and that headers and
+tests are named as CONTRIBUTING.md says.
 
 usage: checkIncludes.py SOURCE_TREE COMPILE_COMMANDS
 
@@ -157,19 +158,40 @@ def check_spelling(tree, files):
     return complaints
 
 
-def check_names(headers):
-    """Includes are flat, so a name may stand for one header only."""
+def sources(tree, *suffixes):
+    """All files with these suffixes that belong to the tree and aren't made by a build."""
+    for path in sorted(tree.rglob("*")):
+        top = path.relative_to(tree).parts[0]
+        if path.suffix in suffixes and top not in ("build", "out") and not top.startswith("."):
+            yield path
+
+
+def check_names(tree):
+    """Includes are flat, so a name stands for one header only, also where upper and lower case are the same."""
     owners = collections.defaultdict(list)
-    for folder, names in headers.items():
-        for name in names:
-            owners[name].append(folder)
-    return [f"{name} is in {' and in '.join(folders)}" for name, folders in sorted(owners.items()) if len(folders) > 1]
+    for path in sources(tree, ".h"):
+        owners[path.name.lower()].append(str(path.relative_to(tree)))
+    return [f"one name for {' and '.join(paths)}" for _, paths in sorted(owners.items()) if len(paths) > 1]
+
+
+def check_tests(tree):
+    """Tests are statements in camel case, in sources called after what they test."""
+    pattern = re.compile(r"^TEST(?:_F|_P)?\((\w+),\s*(\w+)\)", re.MULTILINE)
+    complaints = []
+    for path in sources(tree / "tests", ".cpp"):
+        found = pattern.findall(path.read_text(encoding="utf-8"))
+        name = path.relative_to(tree)
+        if found and not path.stem.endswith("Test"):
+            complaints.append(f"{name}: a source with tests is called xTest.cpp")
+        complaints += [f"{name}: {suite}.{test} isn't in camel case" for suite, test in found
+                       if not re.fullmatch(r"[a-z][A-Za-z0-9]*", test)]
+    return complaints
 
 
 def main():
     tree = pathlib.Path(sys.argv[1]).resolve()
     headers, files = collect(tree)
-    complaints = check_spelling(tree, files) + check_names(headers)
+    complaints = check_spelling(tree, files) + check_names(tree) + check_tests(tree)
     tried = 0
     with concurrent.futures.ThreadPoolExecutor(2) as pool:
         tasks = []

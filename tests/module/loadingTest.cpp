@@ -40,7 +40,7 @@ TEST(Loading, registersServiceAndCommandsUntilTheUnloadMessage) {
     KdRxObject* const service = kdrxRegisterService(L"VoMLStyleApps");
     {
         ModuleLoader loader;
-        ASSERT_EQ(loader.load(moduleFile()), std::nullopt);
+        ASSERT_FALSE(loader.load(moduleFile()));
         for (const int message : {static_cast<int>(kMessageLoad), 0, 3, 14, 99, -1}) {
             EXPECT_EQ(loader.send(moduleFile(), message), 0);
         }
@@ -58,7 +58,7 @@ TEST(Loading, registersServiceAndCommandsUntilTheUnloadMessage) {
     EXPECT_FALSE(kdrxServiceIsRegistered(L"VoMLStyleApps"));
     EXPECT_TRUE(commands().commands().empty());
     ModuleLoader again;
-    ASSERT_EQ(again.load(moduleFile()), std::nullopt);
+    ASSERT_FALSE(again.load(moduleFile()));
     EXPECT_TRUE(kdrxServiceIsRegistered(L"VoMLStyleApps"));
 }
 
@@ -66,7 +66,7 @@ class EditCommand : public testing::Test {
 protected:
     EditCommand() {
         orvex::PromptSession::current().source = &m_script;
-        EXPECT_EQ(m_loader.load(moduleFile()), std::nullopt);
+        EXPECT_FALSE(m_loader.load(moduleFile()));
         m_texts = loadResourceDll(L"OmxMLStyleRes.dll");
         releaseAll(m_texts); // known by its handle, not held
     }

@@ -1,4 +1,4 @@
-#include "commandLine.h"
+#include "commandOutput.h"
 
 #include "PromptSession.h"
 #include "promptExchange.h"

@@ -1,4 +1,4 @@
-#include "numberText.h"
+#include "unitText.h"
 
 #include "PromptFixture.h"
 #include "measure.h"

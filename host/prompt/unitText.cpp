@@ -1,4 +1,4 @@
-#include "numberText.h"
+#include "unitText.h"
 
 #include "PromptSession.h"
 #include "boundedCopy.h"
