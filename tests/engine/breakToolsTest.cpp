@@ -97,8 +97,8 @@ TEST_F(BreakTools, weldTakesEveryBreakBetweenThePicks) {
     } cases[] = {
         {"5,1 3,1", "0 | 0"},           {"3.3,1 4.8,1", "0 | 0"}, // near the gap's ends
         {"4,1 4.5,1", "0 3 5 | 0 3 5"}, // picks in the gap match like any others
-        {"4,1 6,1", "0 3 | 0 3"},       // the stretch behind is given up
-        {"-0.3,1 10.3,1", "0 | 0"},     // pulled back to the segment's ends
+        {"4,1 6,1", "0 3 | 0 3"},       // the interval after is given up
+        {"-0.3,1 10.3,1", "0 | 0"},     // clamped to the segment's ends
     };
     for (const auto& c : cases) {
         KdDbMline* const mline = add("0,0 10,0 : 1 -1");

@@ -10,7 +10,6 @@
 
 #include <array>
 #include <cmath>
-#include <ostream>
 #include <random>
 
 using namespace mledit;
@@ -24,10 +23,6 @@ struct Found {
     bool onBoth;
 
     friend bool operator==(const Found&, const Found&) = default;
-    friend std::ostream& operator<<(std::ostream& out, const Found& found) {
-        return out << found.first << '/' << found.second << " at " << found.point[0] << ' '
-                   << found.point[1] << ' ' << found.point[2] << (found.onBoth ? " on both" : "");
-    }
 };
 
 std::vector<Found> search(const ChainPair& chains, CrossRule rule) {

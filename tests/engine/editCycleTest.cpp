@@ -74,7 +74,7 @@ TEST_F(EditCycle, endsWithTheStatusOfTheLastPrompt) {
     EXPECT_TRUE(user.prompts.empty());
 }
 
-TEST_F(EditCycle, repeatsItsPromptsTillAMultilineIsPicked) {
+TEST_F(EditCycle, repeatsItsPromptsUntilAMultilineIsPicked) {
     play({pick(line, 1, 1), miss(), onA, pick(line, 1, 1), miss(), onB, cancel()});
     EXPECT_EQ(user.prompts, (Prompts{L"#4004", L"#4004", L"#4004", L"#4005", L"#4005", L"#4005",
                                      L"#4003 [UNDO]"}));
@@ -166,7 +166,7 @@ TEST_F(EditCycle, refusesClosedMultilinesWhereTheToolDoes) {
 
 // The corner joint refuses at the second pick too and starts over, with the first record on the
 // new pick and the copies of the cycle before. UNDO then writes them to that pick.
-TEST_F(EditCycle, aRefusedSecondPickLeavesTheFirstRecordBehind) {
+TEST_F(EditCycle, aRefusedSecondPickKeepsTheFirstRecordOfTheNewPick) {
     KdDbMline* const ring = addMline({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}}, {0}, true);
     const auto onRing = pick(ring, 5, 0);
     KdDbMline* const c = addMline({{0, 7, 0}, {10, 7, 0}, {20, 7, 0}}, {0});

@@ -36,22 +36,6 @@ protected:
     static constexpr int kOldElement = 88;
 };
 
-TEST_F(PickMatching, fillsTheWholeRecord) {
-    KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
-    const CMlineSegment& seg = pickAt(mline, 13.0, -0.4);
-    EXPECT_EQ(seg.m_mline, mline);
-    EXPECT_TRUE(isOpen(mline));
-    EXPECT_EQ(seg.m_numVertices, 3);
-    EXPECT_EQ(seg.m_numElements, 2);
-    EXPECT_EQ(seg.m_segment, 1);
-    EXPECT_EQ(seg.m_element, 1);
-    EXPECT_DOUBLE_EQ(seg.m_pickPoint[0], 13.0);
-    EXPECT_DOUBLE_EQ(seg.m_pickPoint[1], -0.5);
-    EXPECT_DOUBLE_EQ(seg.m_pickDistance, 3.0);
-    EXPECT_EQ(seg.m_mappedSegment, 1);
-    EXPECT_EQ(run.m_pickedName[0], 0);
-}
-
 TEST_F(PickMatching, theApertureIsStrictAndTheLowerElementWinsOverTheNearer) {
     KdDbMline* const mline = addMline(kStraight, {0.5, -0.5});
     const double radius = 3 * 0.1 * 1.4142135623730951;

@@ -16,7 +16,7 @@ protected:
     }
 };
 
-TEST_F(VertexTools, addEndsEveryRunAtTheNewVertex) {
+TEST_F(VertexTools, addEndsEveryIntervalAtTheNewVertex) {
     KdDbMline* const mline = add("0,0 10,0 : 1 -1");
     setBreaks(mline, 0, {{0, 5, 7}, {0, 5, 7}});
     storeAreaList(mline, 0, 1, {3, 4});
@@ -25,7 +25,7 @@ TEST_F(VertexTools, addEndsEveryRunAtTheNewVertex) {
     EXPECT_EQ(directions(mline, 1), "1,0 / 0,1");
     EXPECT_EQ(areaList(mline, 0, 1), (std::vector<double>{3, 4}));
     EXPECT_EQ(areaList(mline, 1, 1), (std::vector<double>{3, 4})) << "stands twice";
-    // The runs behind the vertex are dropped.
+    // The runs after the vertex are dropped.
     addAt(mline, 3, 1);
     EXPECT_EQ(drawn(mline), "0,0 (1 0 | -1 0) 3,0 (1 0 | -1 0) 8,0 (1 0 | -1 0) 10,0");
 
@@ -50,7 +50,7 @@ TEST_F(VertexTools, deleteTurnsTheNeighboursAsItsRulesSay) {
         {"a free first vertex takes the end angle", 5, "0,0 7,0 10,0", 0,
          "1,0 / -" + root3half + ",0.5", "2 0 | -2 0"},
         // Its start moves by -1 to the square miter; the offset's own run at 0 doesn't move.
-        {"behind the gap breaks move with the start", 5, "0,0 7,0 10,0", 1, "1,0 / 0,1",
+        {"after the gap breaks move with the start", 5, "0,0 7,0 10,0", 1, "1,0 / 0,1",
          "1 0 1 1.5 | -1 0 1"},
         {"a new last vertex is square", 9.8, "0,0 4,0 7,0", 2, "1,0 / 0,1", "1 0 | -1 0"},
         {"the last takes the start angle", 6.8, "0,0 4,0 10,0", 2, "1,0 / " + root3half + ",0.5",
@@ -81,22 +81,6 @@ TEST_F(VertexTools, deleteLeavesTheLeastThatAMultilineNeeds) {
         EXPECT_TRUE(mline->content()->equals(*before));
         EXPECT_TRUE(isUndoOffered());
     }
-}
-
-// Adding and removing measure in the world even then, but offsets by the normal.
-TEST_F(VertexTools, aNormalThatPointsDownTurnsOffsetsAround) {
-    setStyle({1, -1}, 30, 150);
-    KdDbMline* const mline = add("0,0 5,0 10,0 : -1 1");
-    mline->setNormal({0, 0, -1});
-    const auto before = mline->content();
-    addAt(mline, 7, 1);
-    EXPECT_EQ(directions(mline, 2), "1,0 / 0,1");
-    EXPECT_EQ(lists(mline, 2), "1 0 | -1 0");
-    mline->setContent(before);
-    deleteAt(mline, 4.5, -1);
-    // The end angle the other way round: -150 degrees.
-    EXPECT_EQ(directions(mline, 0), "1,0 / -" + root3half + ",-0.5");
-    EXPECT_EQ(lists(mline, 0), "-2 0 | 2 0");
 }
 
 } // namespace

@@ -18,7 +18,7 @@ using orvex::testing::buildMline;
 using Values = std::vector<double>;
 
 // Three vertices around a right angle, two elements.
-class MlineRecord : public ::testing::Test {
+class MlineAccessors : public ::testing::Test {
 protected:
     KdDbMline mline;
 
@@ -40,7 +40,7 @@ protected:
     }
 };
 
-TEST_F(MlineRecord, onlyItsOwnFlagsAreSetAndAChainOfTwoKeepsItsClosedBit) {
+TEST_F(MlineAccessors, onlyItsOwnFlagsAreSetAndAChainOfTwoKeepsItsClosedBit) {
     const auto after = [this](int flags) {
         EXPECT_EQ(SetFlag(&mline, flags), 1);
         EXPECT_EQ(GetFlag(&mline, &flags), 1);
@@ -58,7 +58,7 @@ TEST_F(MlineRecord, onlyItsOwnFlagsAreSetAndAChainOfTwoKeepsItsClosedBit) {
     EXPECT_EQ(after(0), kFlagHasVertex | kFlagClosed);
 }
 
-TEST_F(MlineRecord, theNumberOfElementsChangesAtEveryVertex) {
+TEST_F(MlineAccessors, theNumberOfElementsChangesAtEveryVertex) {
     EXPECT_EQ(SetSegmentsSize(&mline, 0), 0);
     EXPECT_EQ(SetSegmentsSize(&mline, 3), 1);
     for (int vertex = 0; vertex < 3; ++vertex) {
@@ -67,7 +67,7 @@ TEST_F(MlineRecord, theNumberOfElementsChangesAtEveryVertex) {
     }
 }
 
-TEST_F(MlineRecord, readsClampTheirIndicesAndWritesRefuseThem) {
+TEST_F(MlineAccessors, readsClampTheirIndicesAndWritesRefuseThem) {
     setLines(0, 0, {1, 10});
     setLines(2, 1, {2, 20, 21});
     EXPECT_EQ(lines(-5, -5), (Values{1, 10}));
@@ -91,7 +91,7 @@ TEST_F(MlineRecord, readsClampTheirIndicesAndWritesRefuseThem) {
     EXPECT_EQ(out[0], 9.0);
 }
 
-TEST_F(MlineRecord, areasAreKeptBesideLinesAndTheirReadSaysRefused) {
+TEST_F(MlineAccessors, areasAreKeptApartFromLinesAndTheirReadReturnsRefused) {
     const double areas[] = {4, 5};
     EXPECT_EQ(SetNumArea(&mline, 2, 1, 0), 1);
     EXPECT_EQ(SetAreaArray(&mline, areas, 1, 0), 1);
@@ -104,7 +104,7 @@ TEST_F(MlineRecord, areasAreKeptBesideLinesAndTheirReadSaysRefused) {
     EXPECT_EQ(out[1], 5.0);
 }
 
-TEST_F(MlineRecord, positionsAxesAndMitersReplaceWhatIsThere) {
+TEST_F(MlineAccessors, positionsAxesAndMitersReplaceWhatIsThere) {
     const double in[3][3][3] = {{{1, 2, 3}, {4, 5, 6}, {7, 8, 9}},
                                 {{11, 2, 3}, {4, 5, 6}, {7, 8, 19}},
                                 {{21, 2, 3}, {4, 5, 6}, {7, 8, 29}}};
@@ -120,7 +120,7 @@ TEST_F(MlineRecord, positionsAxesAndMitersReplaceWhatIsThere) {
     EXPECT_EQ(lines(2, 1).size(), 2U);
 }
 
-TEST_F(MlineRecord, aNullOrEmptyMultilineIsNoFault) {
+TEST_F(MlineAccessors, nullAndEmptyMultilinesAreAccepted) {
     const KdDbMline empty;
     int number = 7;
     EXPECT_EQ(GetNumLine(&empty, &number, 0, 0), 1);
@@ -134,7 +134,7 @@ TEST_F(MlineRecord, aNullOrEmptyMultilineIsNoFault) {
     EXPECT_EQ(point[0], 7.0);
 }
 
-TEST_F(MlineRecord, theStyleIsOpenedWhenThereIsOne) {
+TEST_F(MlineAccessors, theStyleIsOpenedWhenThereIsOne) {
     KdDbMlineStyle* style = nullptr;
     EXPECT_EQ(GetMlStyle(&mline, &style), 1);
     EXPECT_EQ(style, nullptr) << "no style, and yet done";
@@ -145,7 +145,7 @@ TEST_F(MlineRecord, theStyleIsOpenedWhenThereIsOne) {
     style->close();
 }
 
-TEST_F(MlineRecord, wholeListsComeBackAsStored) {
+TEST_F(MlineAccessors, wholeListsComeBackAsStored) {
     storeLineList(&mline, 1, 0, {0.5, 0, 3, 5});
     storeAreaList(&mline, 1, 0, {7, 8});
     EXPECT_EQ(lineList(&mline, 1, 0), (Values{0.5, 0, 3, 5}));

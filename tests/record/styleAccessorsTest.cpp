@@ -15,20 +15,20 @@
 
 namespace {
 
-class StyleRecord : public testing::Test {
+class StyleAccessors : public testing::Test {
 protected:
     KdDbDatabase database;
     KdDocument document{&database};
     KdDocument* before = orvex::setCurrentDocument(&document);
     KdDbMlineStyle style;
 
-    StyleRecord() {
+    StyleAccessors() {
         style.initMlineStyle();
         SetNumElements(&style, 3);
         const double offsets[] = {1, 2, 3};
         SetElemOffset(&style, offsets, 3);
     }
-    ~StyleRecord() override {
+    ~StyleAccessors() override {
         orvex::setSupportFileFinder(nullptr);
         orvex::setCurrentDocument(before);
     }
@@ -54,7 +54,7 @@ protected:
 
 using Offsets = std::vector<double>;
 
-TEST_F(StyleRecord, elementsComeAndGoAtTheFront) {
+TEST_F(StyleAccessors, elementsAreAddedAndRemovedAtTheFront) {
     EXPECT_EQ(SetNumElements(&style, 2), 1);
     EXPECT_EQ(offsets(2), (Offsets{2, 3}));
     SetNumElements(&style, 4);
@@ -67,7 +67,7 @@ TEST_F(StyleRecord, elementsComeAndGoAtTheFront) {
     EXPECT_EQ(style.numElements(), 0);
 }
 
-TEST_F(StyleRecord, colorIndicesAreClampedInTheCallersArrayToo) {
+TEST_F(StyleAccessors, colorIndicesAreClampedInTheCallersArrayToo) {
     int indices[] = {300, -1};
     SetElemColor(&style, indices, 2);
     EXPECT_EQ(indices[0], 256);
@@ -80,7 +80,7 @@ TEST_F(StyleRecord, colorIndicesAreClampedInTheCallersArrayToo) {
     EXPECT_EQ(offsets(3), (Offsets{1, 2, 3})) << "the other attributes stay";
 }
 
-TEST_F(StyleRecord, trueColorsAndNamesStartFromWhatIsStored) {
+TEST_F(StyleAccessors, trueColorsAndNamesStartFromTheStoredColor) {
     int indices[] = {5, 6, 7};
     SetElemColor(&style, indices, 3);
     const unsigned rgb[] = {0x102030, 0x1000000, 0xFFFFFF};
@@ -106,7 +106,7 @@ TEST_F(StyleRecord, trueColorsAndNamesStartFromWhatIsStored) {
     EXPECT_FALSE(color(1).hasColorName()) << "a null entry clears";
 }
 
-TEST_F(StyleRecord, linetypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
+TEST_F(StyleAccessors, linetypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
     static std::vector<std::wstring> asked;
     asked.clear();
     orvex::setSupportFileFinder([](const std::wstring& file) {
@@ -126,7 +126,7 @@ TEST_F(StyleRecord, linetypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
     EXPECT_EQ(offsets(3), (Offsets{1, 2, 3}));
 }
 
-TEST_F(StyleRecord, writesEachFlagForItself) {
+TEST_F(StyleAccessors, writesEachFlagForItself) {
     using Style = KdDbMlineStyle;
     const std::pair<int, bool (Style::*)() const> flags[] = {
         {1, &Style::filled},          {2, &Style::showMiters},     {16, &Style::startSquareCap},
@@ -141,7 +141,7 @@ TEST_F(StyleRecord, writesEachFlagForItself) {
     }
 }
 
-TEST_F(StyleRecord, nullsChangeNothing) {
+TEST_F(StyleAccessors, nullsChangeNothing) {
     EXPECT_EQ(SetNumElements(nullptr, 2) + SetElemColor(nullptr, nullptr, 1) + SetFlag(nullptr, 1),
               0);
     EXPECT_EQ(SetElemOffset(&style, nullptr, 1) + GetElemOffset(&style, nullptr, 1) +

@@ -99,7 +99,7 @@ TEST_F(VoBitStreamFormsTest, wholeNumbersTakeFewBits) {
                          {{0x123456789ABCDEF0, raw(0x123456789ABCDEF0, 8)}});
 }
 
-TEST_F(VoBitStreamFormsTest, numbersThatAreNoneToTheFormatPassAsZero) {
+TEST_F(VoBitStreamFormsTest, numbersInvalidInTheFormatPassAsZero) {
     const std::string zeros = raw(0, 8);
     check<double>(&S::writeDouble, &S::readDouble,
                   {{0.0, "10"},
@@ -114,7 +114,7 @@ TEST_F(VoBitStreamFormsTest, numbersThatAreNoneToTheFormatPassAsZero) {
     check<float>(&S::writeFloat, &S::readFloat, {{0.125F, "00" + raw(0.125)}, {1.0F, "01"}});
 }
 
-TEST_F(VoBitStreamFormsTest, pointsAndVectorsAreHeldWithinTheFormatsReach) {
+TEST_F(VoBitStreamFormsTest, pointsAndVectorsAreClampedToTheFormatsRange) {
     check<KdGePoint2d>(&S::writePoint2d, &S::readPoint2d, {{{0, 1}, raw(0.0) + raw(1.0)}});
     check<KdGeVector2d>(&S::writeVector2d, &S::readVector2d,
                         {{{-2e100, 1e100}, raw(-2e100) + raw(1e100), {{-1e100, 1e100}}}});

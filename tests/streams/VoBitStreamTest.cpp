@@ -20,7 +20,7 @@ std::string bitText(unsigned value, unsigned count) {
     return text;
 }
 
-TEST_F(VoBitStreamTest, writesAndReadsAreThoseOfARowOfBits) {
+TEST_F(VoBitStreamTest, writesAndReadsMatchAModelOfBits) {
     std::mt19937 random(2);
     const auto below = [&](std::size_t count) { return static_cast<unsigned>(random() % count); };
     for (int round = 0; round < 300; ++round) {
@@ -49,7 +49,7 @@ TEST_F(VoBitStreamTest, writesAndReadsAreThoseOfARowOfBits) {
             }
             model.replace(place, bits.size(), bits);
             const std::size_t end = place + bits.size();
-            // A run clears what stands behind it in its last byte.
+            // A run clears what stands after it in its last byte.
             for (std::size_t at = end; kind == 2 && at % 8 != 0 && at < model.size(); ++at) {
                 model[at] = '0';
             }
@@ -133,7 +133,7 @@ TEST_F(VoBitStreamTest, singleBitsAreReadUpToTheBuffersEnd) {
     EXPECT_EQ(bit, 0);
     EXPECT_EQ(stream.tell(), 9U);
     EXPECT_THAT(reports(), ElementsAre(kBufferReport));
-    stream.readUInt8(bit); // behind the length nothing is left
+    stream.readUInt8(bit); // after the length nothing is left
     EXPECT_THAT(reports(), ElementsAre(kBitsReport));
 }
 
@@ -198,7 +198,7 @@ TEST_F(VoBitStreamTest, seeksBytesWithinTheBufferAndKeepsTheBit) {
     VoBitStream(nullptr).seekByte(1, VoIO::fromStart);
 }
 
-TEST_F(VoBitStreamTest, copiesARunOfBitsToAPlaceInAnotherStream) {
+TEST_F(VoBitStreamTest, copiesBitsToAPositionInAnotherStream) {
     std::mt19937 random(3);
     std::vector<unsigned char> bytes(9000);
     std::ranges::generate(bytes, [&] { return static_cast<unsigned char>(random()); });
@@ -222,7 +222,7 @@ TEST_F(VoBitStreamTest, copiesARunOfBitsToAPlaceInAnotherStream) {
     }
 }
 
-TEST_F(VoBitStreamTest, aRunThatIsNotThereLeavesTheTargetAtItsPlace) {
+TEST_F(VoBitStreamTest, bitsThatAreMissingLeaveTheTargetAtThePosition) {
     VoFlatMemBuf sourceBuffer;
     fill(sourceBuffer, {1, 2});
     VoBitStream source(&sourceBuffer, 16);
@@ -278,20 +278,6 @@ TEST_F(VoBitStreamTest, everyWriterGrowsTheBufferFromTheMiddleOfAByte) {
     stream.writeUInt8(0xFF);
     EXPECT_EQ(stream.tell(), 12U);
     EXPECT_EQ(bytesOf(buffer), (Bytes{0x1F, 0xF0}));
-}
-
-TEST_F(VoBitStreamTest, bytesOfTheBufferItselfCanBeWritten) {
-    VoFlatMemBuf buffer;
-    VoBitStream stream(&buffer);
-    stream.writeBytes("01234567", 8);
-    for (int i = 0; i < 4; ++i) {
-        stream.writeBytes(buffer.buffer(), 8);
-        stream.writeBit(0, 1);
-    }
-    stream.seek(8 * 8 + 3 * 65, VoIO::fromStart);
-    std::array<char, 9> text{};
-    stream.readBytes(text.data(), 8);
-    EXPECT_STREQ(text.data(), "01234567");
 }
 
 } // namespace

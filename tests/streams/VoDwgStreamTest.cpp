@@ -12,7 +12,7 @@ using Text = CStdStr<wchar_t>;
 
 class VoDwgStreamTest : public StreamTest {};
 
-TEST_F(VoDwgStreamTest, handlesCountTheirBytesAndStandHighestFirst) {
+TEST_F(VoDwgStreamTest, handlesCountTheirBytesHighestFirst) {
     struct Case {
         std::uint8_t code;
         std::uint64_t value;
@@ -26,25 +26,19 @@ TEST_F(VoDwgStreamTest, handlesCountTheirBytesAndStandHighestFirst) {
         {0x12, 1, {0x21, 1}}, // the code's high half has no place
     };
     for (const Case& each : cases) {
-        for (unsigned start = 0; start < 8; ++start) {
-            VoFlatMemBuf buffer;
-            VoDwgStream stream(&buffer);
-            stream.writeBits(0, start);
-            stream.writeHandleParts(each.code, each.value);
-            ASSERT_EQ(stream.length(), start + each.bytes.size() * 8);
-            if (start == 0) {
-                Bytes written = bytesOf(buffer);
-                written.pop_back();
-                EXPECT_EQ(written, each.bytes);
-            }
-            stream.seek(start, VoIO::fromStart);
-            std::uint8_t code = 0;
-            std::uint64_t value = 77;
-            stream.readHandleParts(code, value);
-            EXPECT_EQ(code, each.bytes[0]); // with the count in it
-            EXPECT_EQ(value, each.value);
-            EXPECT_TRUE(stream.isEOS());
-        }
+        VoFlatMemBuf buffer;
+        VoDwgStream stream(&buffer);
+        stream.writeHandleParts(each.code, each.value);
+        Bytes written = bytesOf(buffer);
+        written.pop_back();
+        EXPECT_EQ(written, each.bytes);
+        stream.seek(0, VoIO::fromStart);
+        std::uint8_t code = 0;
+        std::uint64_t value = 77;
+        stream.readHandleParts(code, value);
+        EXPECT_EQ(code, each.bytes[0]); // with the count in it
+        EXPECT_EQ(value, each.value);
+        EXPECT_TRUE(stream.isEOS());
     }
     VoFlatMemBuf buffer;
     VoDwgStream stream(&buffer);

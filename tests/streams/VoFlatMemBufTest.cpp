@@ -65,7 +65,7 @@ TEST_F(VoFlatMemBufTest, readsWithinItsBytes) {
     expect([](Buf& b) { return read(b, 1, 4); }, "bcde of ab|cde");
     expect([](Buf& b) { return read(b, 2, 4); }, "____ of ab|cde out");
     expect([](Buf& b) { return read(b, kFar - 1, 4); }, "____ of ab|cde out");
-    // The room behind the bytes can be seen, and no more.
+    // The room after the bytes can be seen, and no more.
     expect([](Buf& b) { return get(b, 4, 1); }, "e___ of ab|cde");
     expect([](Buf& b) { return get(b, 5, 3).substr(3); }, "_ of ab|cde");
     expect([](Buf& b) { return get(b, 5, 4); }, "____ of ab|cde out");
@@ -98,7 +98,7 @@ TEST_F(VoFlatMemBufTest, writingCutsOrOverwrites) {
     expect([](Buf& b) { b.open(b.buffer() + 1, 3, 1); }, "b|cd.");
 }
 
-TEST_F(VoFlatMemBufTest, lengthsAndPlacesStayWithinWhatCanBe) {
+TEST_F(VoFlatMemBufTest, lengthsAndPositionsStayWithinTheLimits) {
     expect([](Buf& b) { b.truncate(); }, "ab|");
     expect([](Buf& b) { b.setlength(1); }, "a |");
     expect([](Buf& b) { b.resize(7); }, "ab|cde..");
@@ -130,7 +130,7 @@ TEST_F(VoFlatMemBufTest, byteByByteReadingStopsAtTheEnd) {
     EXPECT_EQ(buffer.tell(), 2U);
 }
 
-TEST_F(VoFlatMemBufTest, aByteAtTheEndStandsBehindIt) {
+TEST_F(VoFlatMemBufTest, aByteAtTheEndIsStoredAfterIt) {
     for (const unsigned length : {0U, 1U, 8U, 16U, 4096U}) {
         Buf buffer;
         buffer.setlength(length);
@@ -142,7 +142,7 @@ TEST_F(VoFlatMemBufTest, aByteAtTheEndStandsBehindIt) {
     }
 }
 
-TEST_F(VoFlatMemBufTest, roomThatWasUsedOnceReadsAsZero) {
+TEST_F(VoFlatMemBufTest, capacityUsedBeforeReadsAsZero) {
     Buf buffer;
     setState(buffer, "|abcdef");
     buffer.setlength(2);

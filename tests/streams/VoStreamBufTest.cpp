@@ -110,11 +110,11 @@ TEST_F(VoStreamBufTest, copiesTheRangeOrWhatIsLeft) {
     }
 }
 
-TEST_F(VoStreamBufTest, copyingEndsWhateverThePlacesAre) {
+TEST_F(VoStreamBufTest, copyingEndsWhateverThePositionsAre) {
     VoFlatMemBuf source;
     VoFlatMemBuf target;
     setState(source, "abcd|ef");
-    source.setlength(3); // its position is behind its end now
+    source.setlength(3); // its position is after its end now
     target.copyFrom(&source, 0, 0);
     source.copyTo(&target, 0, 0);
     target.copyFrom(nullptr, 0, 0);
