@@ -6,24 +6,16 @@ namespace orvex {
 
 namespace {
 
-// The distance along the middle line at which the outer lines of a joined end stop.
-double drawnEnd(const JoinWall& wall, const PlanSegment& segment, WallEnd end, double otherwise) {
-    if (!wall.capSuppressed(end)) {
-        return otherwise;
+// How far along an outer line its strip ends: at a joined end where it stops, else at the vertex.
+double outerEnd(const JoinWall& wall, unsigned segment, unsigned element, const PlanLine& line,
+                bool atStart, WallEnd end) {
+    const double vertex = atStart ? 0.0 : line.length;
+    const auto list = wall.stops(segment, element);
+    if (!wall.capSuppressed(end) || list.empty() || (!atStart && list.size() % 2 == 1)) {
+        return vertex;
     }
-    double sum = 0.0;
-    for (const unsigned element : {0U, wall.lastElement()}) {
-        const auto list = wall.stops(segment.segment, element);
-        if (list.empty()) {
-            return otherwise;
-        }
-        const PlanLine& line = segment.outer[element == 0 ? 0 : 1];
-        const double stop = end == WallEnd::start  ? list.front()
-                            : list.size() % 2 == 1 ? line.length
-                                                   : list.back();
-        sum += segment.middle.along(line.at(stop));
-    }
-    return std::isfinite(sum) ? sum / 2.0 : otherwise;
+    const double stop = atStart ? list.front() : list.back();
+    return std::isfinite(stop) ? stop : vertex;
 }
 
 PlanSegment planSegment(const JoinWall& wall, unsigned index, unsigned s) {
@@ -36,8 +28,17 @@ PlanSegment planSegment(const JoinWall& wall, unsigned index, unsigned s) {
     segment.half = wall.halfWidth(s);
     segment.atFrom = wall.endAtStart(s);
     segment.atTo = wall.endAtEnd(s);
-    segment.from = drawnEnd(wall, segment, segment.atFrom, 0.0);
-    segment.to = drawnEnd(wall, segment, segment.atTo, segment.middle.length);
+    const std::array<unsigned, 2> elements{0U, wall.lastElement()};
+    std::array<PlanVector, 2> starts;
+    std::array<PlanVector, 2> ends;
+    for (std::size_t i = 0; i < 2; ++i) {
+        const PlanLine& line = segment.outer[i];
+        starts[i] = line.at(outerEnd(wall, s, elements[i], line, true, segment.atFrom));
+        ends[i] = line.at(outerEnd(wall, s, elements[i], line, false, segment.atTo));
+    }
+    segment.corners = {starts[0], ends[0], ends[1], starts[1]};
+    segment.from = (segment.middle.along(starts[0]) + segment.middle.along(starts[1])) * 0.5;
+    segment.to = (segment.middle.along(ends[0]) + segment.middle.along(ends[1])) * 0.5;
     return segment;
 }
 
@@ -47,10 +48,32 @@ struct Shadow {
 };
 
 Shadow shadow(const PlanSegment& segment, PlanVector origin, PlanVector direction) {
-    const double a = dot(segment.middle.at(segment.from) - origin, direction);
-    const double b = dot(segment.middle.at(segment.to) - origin, direction);
-    const double side = segment.half * std::abs(cross(segment.middle.direction, direction));
-    return {std::min(a, b) - side, std::max(a, b) + side};
+    Shadow shadow{dot(segment.corners[0] - origin, direction),
+                  dot(segment.corners[0] - origin, direction)};
+    for (const PlanVector corner : segment.corners) {
+        const double at = dot(corner - origin, direction);
+        shadow.low = std::min(shadow.low, at);
+        shadow.high = std::max(shadow.high, at);
+    }
+    return shadow;
+}
+
+bool areApart(const PlanSegment& a, const PlanSegment& b, PlanVector across, double slack) {
+    const Shadow first = shadow(a, a.corners[0], across);
+    const Shadow second = shadow(b, a.corners[0], across);
+    return std::min(first.high, second.high) - std::max(first.low, second.low) <= slack;
+}
+
+// Whether a line along a side of `a` keeps the two apart.
+bool sideParts(const PlanSegment& a, const PlanSegment& b, double slack) {
+    for (std::size_t i = 0; i < a.corners.size(); ++i) {
+        const PlanVector side = a.corners[(i + 1) % a.corners.size()] - a.corners[i];
+        const double length = side.length();
+        if (length > 0.0 && areApart(a, b, side.left() * (1.0 / length), slack)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -70,16 +93,9 @@ std::vector<PlanSegment> planSegments(std::span<const JoinWall> walls) {
 }
 
 bool stripsOverlap(const PlanSegment& a, const PlanSegment& b, double slack) {
-    const std::array directions{a.middle.direction, a.middle.direction.left(), b.middle.direction,
-                                b.middle.direction.left()};
-    for (const PlanVector direction : directions) {
-        const Shadow first = shadow(a, a.middle.start, direction);
-        const Shadow second = shadow(b, a.middle.start, direction);
-        if (std::min(first.high, second.high) - std::max(first.low, second.low) <= slack) {
-            return false;
-        }
-    }
-    return true;
+    // A short segment between sharp bends has lines that cross; its sides don't tell all.
+    return !areApart(a, b, {1.0, 0.0}, slack) && !areApart(a, b, {0.0, 1.0}, slack) &&
+           !sideParts(a, b, slack) && !sideParts(b, a, slack);
 }
 
 } // namespace orvex

@@ -20,12 +20,14 @@ struct PlanSegment {
     double to = 0.0;
     WallEnd atFrom = WallEnd::none; // the open end there, none at a bend
     WallEnd atTo = WallEnd::none;
+    // Of the strip, around it: the ends of both outer lines.
+    std::array<PlanVector, 4> corners;
 };
 
 // The segments that have a length, wall by wall.
 [[nodiscard]] std::vector<PlanSegment> planSegments(std::span<const JoinWall> walls);
 
-// Whether two strips overlap by more than `slack` in every direction.
+// Whether two strips overlap by more than `slack` in every direction, miters included.
 [[nodiscard]] bool stripsOverlap(const PlanSegment& a, const PlanSegment& b, double slack);
 
 } // namespace orvex

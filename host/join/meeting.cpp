@@ -161,6 +161,46 @@ std::optional<Meeting> parallelMeeting(const PlanSegment& a, const PlanSegment& 
     return meeting;
 }
 
+// The end of a segment's middle line that lies nearer to the other's.
+struct NearEnd {
+    double distance = 0.0;
+    WallEnd end = WallEnd::none; // none at a bend
+    unsigned vertex = 0;
+};
+
+NearEnd nearEnd(const PlanSegment& a, const PlanSegment& b) {
+    const auto distance = [&](double at) {
+        const PlanVector point = a.middle.at(at);
+        const double along = std::clamp(b.middle.along(point), b.from, b.to);
+        return (b.middle.at(along) - point).length();
+    };
+    const double from = distance(a.from);
+    const double to = distance(a.to);
+    return from < to ? NearEnd{from, a.atFrom, a.segment} : NearEnd{to, a.atTo, a.endVertex};
+}
+
+// Strips that overlap but meet in no way that can be joined. With a bend nearby it is that.
+Meeting overlapping(Meeting meeting, const PlanSegment& a, const PlanSegment& b) {
+    const NearEnd endOfA = nearEnd(a, b);
+    const NearEnd endOfB = nearEnd(b, a);
+    meeting.a = {a.wall, a.segment, WallEnd::none};
+    meeting.b = {b.wall, b.segment, WallEnd::none};
+    meeting.kind = PlaceKind::overlap;
+    meeting.reason = JoinReason::alongside;
+    const bool aBends = endOfA.end == WallEnd::none;
+    const bool bBends = endOfB.end == WallEnd::none;
+    if (aBends || bBends) {
+        const bool ofA = aBends && (!bBends || endOfA.distance < endOfB.distance);
+        meeting.kind = PlaceKind::cross;
+        meeting.reason = JoinReason::bend;
+        meeting.bendWall = ofA ? a.wall : b.wall;
+        meeting.bendVertex = ofA ? endOfA.vertex : endOfB.vertex;
+        meeting.at = ofA ? a.middle.at(endOfA.vertex == a.segment ? a.from : a.to)
+                         : b.middle.at(endOfB.vertex == b.segment ? b.from : b.to);
+    }
+    return meeting;
+}
+
 std::optional<Meeting> overlapOnly(Meeting meeting, const PlanSegment& a, const PlanSegment& b,
                                    JoinReason reason, double rounding) {
     if (!stripsOverlap(a, b, rounding)) {
@@ -201,14 +241,14 @@ std::optional<Meeting> meeting(const PlanSegment& a, const PlanSegment& b, doubl
         const double slant = std::abs(dot(a.middle.direction, b.middle.direction)) / sine;
         atA = relate(a, onA, {std::max(within, a.half * slant), within});
         atB = relate(b, onB, {std::max(within, b.half * slant), within});
-        if (atA == Relation::away || atB == Relation::away) {
-            return std::nullopt;
-        }
     }
     Meeting meeting;
+    meeting.at = a.middle.at(a.middle.crossing(b.middle));
+    if (atA == Relation::away || atB == Relation::away) {
+        return overlapping(meeting, a, b);
+    }
     meeting.a = sideOf(a, atA);
     meeting.b = sideOf(b, atB);
-    meeting.at = a.middle.at(a.middle.crossing(b.middle));
     const bool ends = isEnd(atA) || isEnd(atB);
     meeting.kind = isEnd(atA) && isEnd(atB) ? PlaceKind::corner
                    : ends                   ? PlaceKind::tee
@@ -225,6 +265,10 @@ std::optional<Meeting> meeting(const PlanSegment& a, const PlanSegment& b, doubl
         return overlapOnly(meeting, a, b, JoinReason::bothEnds, rounding);
     }
     if (meeting.kind == PlaceKind::tee) {
+        // At a small angle the bar may end before it comes near the stem.
+        if (!stripsOverlap(a, b, -within)) {
+            return std::nullopt;
+        }
         const bool stemIsA = isEnd(atA);
         meeting.shortBy = stemIsA ? shortOf(a, atA, onA) : shortOf(b, atB, onB);
         meeting.nearLine = stemIsA ? nearLineOf(atA, onA) : nearLineOf(atB, onB);

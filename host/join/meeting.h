@@ -15,7 +15,8 @@ namespace orvex {
 //   both pass: cross; one has an end there, the other passes: tee; both have an end there: corner.
 // In corners that are nearly in one line the ends themselves have to be near each other, since
 // their strips, produced, overlap far off. Parallels are an overlap where they really overlap, or
-// where ends face each other within the tolerance.
+// where ends face each other within the tolerance. Strips that overlap always meet, if only to be
+// left.
 struct Meeting {
     PlaceKind kind = PlaceKind::cross;
     JoinReason reason = JoinReason::none; // set: the place is left

@@ -56,6 +56,13 @@ void addPieces(const PlanSegment& segment, unsigned index, std::optional<double>
                                  (edge == pieces && segment.atTo != WallEnd::none);
             extent.add(at, segment.half + rounding(at) + (openEnd ? reach : 0.0));
         }
+        // Miters may reach farther.
+        for (std::size_t corner = 0; corner < segment.corners.size(); ++corner) {
+            const bool ofStart = corner == 0 || corner == 3;
+            if (ofStart ? i == 0 : i + 1 == pieces) {
+                extent.add(segment.corners[corner], rounding(segment.corners[corner]));
+            }
+        }
         entries.emplace_back(extent.box(), index);
     }
 }
