@@ -65,6 +65,7 @@ struct Options {
     ShowCall show;
     ListCall list;
     JoinCall join;
+    AuditCall audit;
     std::string tolerance;
     std::string cross = "open";
     std::string tee = "open";
@@ -97,6 +98,15 @@ CLI::App* addList(CLI::App& app, ListCall& call) {
     CLI::App* const verb =
         app.add_subcommand("list", "List every multiline and multiline style in a drawing");
     verb->add_option("DRAWING", call.drawing, "The drawing to open")->required();
+    verb->add_flag("--json", call.asJson, "Print JSON, for programs");
+    return verb;
+}
+
+CLI::App* addAudit(CLI::App& app, AuditCall& call) {
+    CLI::App* const verb =
+        app.add_subcommand("audit", "List multilines that contradict their style or themselves");
+    verb->add_option("DRAWING", call.drawing, "The drawing to open")->required();
+    verb->add_option("--output", call.output, "Lay right what can be, and save the result here");
     verb->add_flag("--json", call.asJson, "Print JSON, for programs");
     return verb;
 }
@@ -150,6 +160,7 @@ BatchCall parseBatchCall(int argc, const char* const* argv) {
     const CLI::App* const show = addShow(app, options.show, options.size);
     addList(app, options.list);
     const CLI::App* const join = addJoin(app, options);
+    const CLI::App* const audit = addAudit(app, options.audit);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForVersion& request) {
@@ -158,14 +169,18 @@ BatchCall parseBatchCall(int argc, const char* const* argv) {
         return AnsweredCall{false, app.help()}; // of the verb that was asked
     } catch (const CLI::ParseError& error) {
         const bool hasVerb = !app.get_subcommands().empty();
-        return AnsweredCall{true, hasVerb ? error.what()
-                                          : "the first argument has to be run, show, list or join"};
+        return AnsweredCall{
+            true,
+            hasVerb ? error.what() : "the first argument has to be run, show, list, join or audit"};
     }
     if (run->parsed()) {
         return options.run;
     }
     if (join->parsed()) {
         return joinCall(options);
+    }
+    if (audit->parsed()) {
+        return options.audit;
     }
     if (show->parsed()) {
         options.show.size = *parseSize(options.size);

@@ -40,13 +40,19 @@ struct JoinCall {
     bool asJson = false;
 };
 
+struct AuditCall {
+    std::string drawing;
+    std::optional<std::string> output; // nothing is repaired without
+    bool asJson = false;
+};
+
 // A call that is answered at once, by help, the version, or a complaint.
 struct AnsweredCall {
     bool isWrong = false;
     std::string text;
 };
 
-using BatchCall = std::variant<RunCall, ShowCall, ListCall, JoinCall, AnsweredCall>;
+using BatchCall = std::variant<RunCall, ShowCall, ListCall, JoinCall, AuditCall, AnsweredCall>;
 
 BatchCall parseBatchCall(int argc, const char* const* argv);
 

@@ -33,6 +33,9 @@ std::optional<Failure> carryOut(const BatchCall& call) {
     if (const auto* const join = std::get_if<JoinCall>(&call)) {
         return joinDrawing(*join);
     }
+    if (const auto* const audit = std::get_if<AuditCall>(&call)) {
+        return auditDrawing(*audit);
+    }
     return answer(std::get<AnsweredCall>(call));
 }
 

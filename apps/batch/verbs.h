@@ -13,5 +13,6 @@ std::optional<Failure> runScript(const RunCall& call);
 std::optional<Failure> showDrawing(const ShowCall& call);
 std::optional<Failure> listDrawing(const ListCall& call);
 std::optional<Failure> joinDrawing(const JoinCall& call);
+std::optional<Failure> auditDrawing(const AuditCall& call);
 
 } // namespace orvex

@@ -1,6 +1,7 @@
 #include "drawingAudit.h"
 
 #include "KdDbStub.h"
+#include "handleText.h"
 #include "layRight.h"
 #include "lockedLayers.h"
 #include "mlineEdits.h"
@@ -70,6 +71,24 @@ std::vector<AuditedMline> auditMlines(const std::vector<KdDbStub*>& mlines, bool
                                         : withResult(findings, FindingResult::found)});
     }
     return audited;
+}
+
+std::vector<std::string> linesOf(const AuditedMline& audited) {
+    std::vector<std::string> lines;
+    for (const AuditedFinding& each : audited.findings) {
+        lines.push_back("multiline " + handleText(audited.mline->handle) + ", " +
+                        textOf(each.finding) + " (" + nameOf(each.result) + ")");
+    }
+    return lines;
+}
+
+std::string summaryOf(const std::vector<AuditedMline>& audited, std::size_t mlines) {
+    std::size_t count = 0;
+    for (const AuditedMline& each : audited) {
+        count += each.findings.size();
+    }
+    return std::to_string(count) + " findings in " + std::to_string(audited.size()) + " of " +
+           std::to_string(mlines) + " multilines.";
 }
 
 } // namespace orvex

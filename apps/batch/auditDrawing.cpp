@@ -1,0 +1,96 @@
+// The verb audit: what contradicts a style or itself, and laying it right.
+
+#include "DatabaseCore.h"
+#include "batchFiles.h"
+#include "drawingAudit.h"
+#include "handleText.h"
+#include "verbs.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+
+namespace orvex {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+// Null where there is no such number.
+template <class Number>
+Json numberJson(const std::optional<Number>& number) {
+    return number ? Json(*number) : Json();
+}
+
+Json findingJson(const KdDbStub& mline, const AuditedFinding& audited) {
+    const Finding& finding = audited.finding;
+    Json json;
+    json["handle"] = handleText(mline.handle);
+    json["vertex"] = finding.vertex;
+    json["element"] = numberJson(finding.element);
+    json["code"] = nameOf(finding.code);
+    json["was"] = numberJson(finding.was);
+    json["should"] = numberJson(finding.should);
+    json["result"] = nameOf(audited.result);
+    return json;
+}
+
+void printJson(const std::vector<AuditedMline>& audited) {
+    Json findings = Json::array();
+    for (const AuditedMline& mline : audited) {
+        for (const AuditedFinding& each : mline.findings) {
+            findings.push_back(findingJson(*mline.mline, each));
+        }
+    }
+    Json all;
+    all["findings"] = std::move(findings);
+    std::printf("%s\n", all.dump(1).c_str());
+}
+
+void printText(const std::vector<AuditedMline>& audited, std::size_t mlines) {
+    for (const AuditedMline& each : audited) {
+        for (const std::string& line : linesOf(each)) {
+            std::printf("%s\n", line.c_str());
+        }
+    }
+    std::printf("%s\n", summaryOf(audited, mlines).c_str());
+}
+
+// Of all blocks, in drawing order.
+std::vector<KdDbStub*> mlinesOf(DatabaseCore& core) {
+    std::vector<KdDbStub*> mlines;
+    for (KdDbStub& stub : core.stubs()) {
+        if (stub.kind == ObjectKind::mline && !stub.erased) {
+            mlines.push_back(&stub);
+        }
+    }
+    return mlines;
+}
+
+} // namespace
+
+std::optional<Failure> auditDrawing(const AuditCall& call) {
+    auto drawing = openDrawing(call.drawing);
+    if (!drawing) {
+        return drawing.failure();
+    }
+    DatabaseCore& core = (*drawing)->database().core();
+    const std::vector<KdDbStub*> mlines = mlinesOf(core);
+    const std::vector<AuditedMline> audited = auditMlines(mlines, call.output.has_value());
+    if (call.asJson) {
+        printJson(audited);
+    } else {
+        printText(audited, mlines.size());
+    }
+    if (!call.output) {
+        return std::nullopt;
+    }
+    // Before the save: a call that can't print what it did leaves nothing behind.
+    if (auto failure = flushOutput()) {
+        return failure;
+    }
+    return withMemory(FailureCause::unwritableOutput, *call.output,
+                      [&] { return (*drawing)->save(*call.output); });
+}
+
+} // namespace orvex

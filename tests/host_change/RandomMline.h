@@ -1,0 +1,96 @@
+#pragma once
+
+#include "newChain.h"
+
+#include <cmath>
+#include <random>
+
+namespace orvex::testing {
+
+// Random multilines that lie right: open and closed, bent by 20 degrees and more, with gaps, any
+// justification, style angles and normals, near and far from the origin.
+class RandomMline {
+public:
+    explicit RandomMline(unsigned seed) : m_random(seed) {}
+
+    double between(double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(m_random);
+    }
+    unsigned upTo(unsigned most) {
+        return std::uniform_int_distribution<unsigned>(0, most)(m_random);
+    }
+
+    StyleLayout style() {
+        StyleLayout layout;
+        for (unsigned i = 0; i <= 1 + upTo(4); ++i) {
+            layout.offsets.push_back(between(-1.0, 1.0));
+        }
+        layout.startAngle = between(0.8, 2.3);
+        layout.endAngle = between(0.8, 2.3);
+        return layout;
+    }
+
+    MlineContent mline(const StyleLayout& style) {
+        MlineSettings settings;
+        static_cast<StyleLayout&>(settings) = style;
+        settings.scale = between(-3.0, 3.0);
+        settings.justification = static_cast<int>(upTo(2));
+        MlineContent content;
+        content.scale = settings.scale;
+        content.justification = settings.justification;
+        content.closed = upTo(2) == 0;
+        content.normal = {0.0, 0.0, upTo(1) == 0 ? 1.0 : -1.0};
+        const NewChain chain =
+            makeNewChain(points(content.closed), content.closed, content.normal, settings);
+        content.vertices = chain.vertices;
+        for (unsigned v = 0; v < chain.vertices.size(); ++v) {
+            VoVector<KdMLSegment> record;
+            for (const double position : chain.elementPositions[v]) {
+                record.append(segment(position));
+            }
+            content.lists.appendVertex();
+            content.lists.setNested(v, record);
+        }
+        return content;
+    }
+
+private:
+    std::vector<KdGePoint3d> points(bool closed) {
+        const double far = upTo(1) == 0 ? 0.0 : 1e5;
+        const unsigned count = 3 + upTo(3);
+        if (closed) { // around a middle, so that no corner is too acute
+            std::vector<KdGePoint3d> ring;
+            for (unsigned i = 0; i < count; ++i) {
+                const double angle = 6.283185307179586 * (i + between(0.0, 0.3)) / count;
+                ring.push_back({far + 100 * std::cos(angle), 100 * std::sin(angle), 5.0});
+            }
+            return ring;
+        }
+        std::vector<KdGePoint3d> way{{far, -far / 3, 5.0}};
+        double angle = between(0.0, 6.0);
+        for (unsigned i = 1; i < count; ++i) {
+            const double length = between(60.0, 150.0);
+            way.push_back(way.back() +
+                          KdGeVector3d{length * std::cos(angle), length * std::sin(angle), 0.0});
+            angle += between(-2.0, 2.0);
+        }
+        return way;
+    }
+
+    KdMLSegment segment(double position) {
+        KdMLSegment element;
+        std::vector<double> list{position, 0.0};
+        if (upTo(1) == 0) {
+            list.insert(list.end(), {between(15.0, 20.0), between(22.0, 30.0)});
+        }
+        for (const double value : list) {
+            element.m_lineParams.append(value);
+            element.m_areaParams.append(value);
+        }
+        return element;
+    }
+
+    std::mt19937 m_random;
+};
+
+} // namespace orvex::testing
