@@ -21,9 +21,11 @@ struct PickedSide {
     const JoinWall& wall;
     const JoinSide& side;
     const ElementShape& shape; // of element 0
-    // Where element 0 meets the other wall's element 0, by which the tools tell the side that
-    // stays.
+    // Along element 0: where it meets the other wall's element 0, by which the tools tell the side
+    // that stays, and where it lies across from the crossing of the chains.
     double meeting = 0.0;
+    double node = 0.0;
+    bool isNear = true; // picks close to the joint are tried first
 };
 
 // The least distance between two elements of a segment that don't coincide.
@@ -43,7 +45,8 @@ double elementGap(const JoinWall& wall, unsigned segment) {
     return gap;
 }
 
-// Where the part of element 0 lies that stays, along its track.
+// Where the part of element 0 lies that may be picked, along its track: what stays of a wall that
+// ends here, all of one that goes on.
 DrawnSpan keptPart(const PickedSide& s) {
     const double length = s.wall.track(s.side.segment, 0).length;
     if (s.side.end == WallEnd::end) {
@@ -52,41 +55,79 @@ DrawnSpan keptPart(const PickedSide& s) {
     if (s.side.end == WallEnd::start) {
         return {std::max({0.0, s.shape.to, s.meeting}), length};
     }
-    if (s.shape.rule == ElementShape::Rule::any) {
-        return {0.0, length};
+    return {0.0, length};
+}
+
+// Distances along element 0, the best first. Of several crossings of two walls the tools take the
+// one with the least way to both picks, so close to the joint none comes in between; the middle of
+// what stays is farthest from all that rounding might turn.
+std::vector<double> placesToPick(const PickedSide& s) {
+    const DrawnSpan kept = keptPart(s);
+    const double length = kept.to - kept.from;
+    std::vector<double> places;
+    if (!s.isNear) {
+        for (const double part : {0.5, 0.375, 0.625, 0.25, 0.75, 0.125, 0.875, 0.05, 0.95}) {
+            places.push_back(kept.from + length * part);
+        }
+    } else if (s.side.end == WallEnd::none) {
+        const double width = 2.0 * s.wall.halfWidth(s.side.segment);
+        places.push_back(s.node);
+        for (const double widths : {0.125, 0.375, 0.75, 1.5, 3.0, 6.0, 12.0, 24.0}) {
+            places.push_back(s.node + widths * width);
+            places.push_back(s.node - widths * width);
+        }
+    } else {
+        for (const double part : {0.125, 0.0625, 0.25, 0.375, 0.5, 0.625, 0.75, 0.875, 0.95}) {
+            places.push_back(s.side.end == WallEnd::end ? kept.to - length * part
+                                                        : kept.from + length * part);
+        }
     }
-    // The longer of the two parts beside the joint.
-    const DrawnSpan before{0.0, s.shape.from};
-    const DrawnSpan after{s.shape.to, length};
-    return before.to - before.from >= after.to - after.from ? before : after;
+    return places;
 }
 
-// Whether a pick this far along an element finds it. The tools take the offset of an element for
-// the first of its stops, so that nothing nearer to the segment's start than that is found.
+// Whether a pick finds no other segment of the wall: the tools take the first one in their circle.
+bool isClear(const PickedSide& s, PlanVector point, double radius) {
+    for (unsigned segment = 0; segment < s.wall.segmentCount(); ++segment) {
+        for (unsigned e = 0; segment != s.side.segment && e < s.wall.elementCount(); ++e) {
+            const PlanLine line = s.wall.track(segment, e);
+            const double along = std::clamp(line.along(point), 0.0, line.length);
+            if ((line.at(along) - point).length() <= radius) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+// Whether a pick this far along an element finds it.
 bool isFoundAt(const PickedSide& s, unsigned element, double at, double radius) {
-    const double offset =
-        (s.wall.position(s.side.segment, element) - s.wall.vertex(s.side.segment)).length();
-    return at - radius > offset && at + radius < s.wall.track(s.side.segment, element).length &&
-           isDrawn(s.wall, s.side.segment, element, at - radius, at + radius, 0.0);
+    const PlanLine line = s.wall.track(s.side.segment, element);
+    return at > radius && at + radius < line.length &&
+           isDrawn(s.wall, s.side.segment, element, at - radius, at + radius, 0.0) &&
+           isClear(s, line.at(at), radius);
 }
 
-// A place on an element, drawn for `radius` around it; across the middle of what stays of element
-// 0, if that is drawn, so that both the crossing and the segment's end are far from it.
-std::optional<PlanVector> pickPlace(const PickedSide& s, unsigned element, double radius) {
+// The tools take the offset of an element for the first of its stops, so that they may find nothing
+// nearer to the segment's start than that.
+double offsetOf(const PickedSide& s, unsigned element) {
+    return (s.wall.position(s.side.segment, element) - s.wall.vertex(s.side.segment)).length();
+}
+
+// A place on an element, across from where element 0 may be picked.
+std::optional<PlanVector> pickPlace(const PickedSide& s, unsigned element, double radius,
+                                    bool passesOffset) {
     const DrawnSpan kept = keptPart(s);
     const PlanLine first = s.wall.track(s.side.segment, 0);
     const PlanLine line = s.wall.track(s.side.segment, element);
+    const double least = passesOffset ? offsetOf(s, element) + radius : 0.0;
     const auto placeAcross = [&](double at) -> std::optional<PlanVector> {
-        if (at - radius <= kept.from || at + radius >= kept.to) {
-            return std::nullopt;
-        }
         const double distance = line.along(first.at(at));
-        return isFoundAt(s, element, distance, radius) ? std::optional(line.at(distance))
-                                                       : std::nullopt;
+        const bool isFound = at - radius > kept.from && at + radius < kept.to && distance > least &&
+                             isFoundAt(s, element, distance, radius);
+        return isFound ? std::optional(line.at(distance)) : std::nullopt;
     };
-    constexpr std::array fractions{0.5, 0.375, 0.625, 0.25, 0.75, 0.125, 0.875, 0.05, 0.95};
-    for (const double fraction : fractions) {
-        if (const auto place = placeAcross(kept.from + (kept.to - kept.from) * fraction)) {
+    for (const double at : placesToPick(s)) {
+        if (const auto place = placeAcross(at)) {
             return place;
         }
     }
@@ -103,9 +144,11 @@ KdGePoint3d inWorld(PlanVector point, const JoinPlace& place) {
 }
 
 std::optional<JoinPick> pickOf(const PickedSide& s, double radius) {
-    for (unsigned e = 0; e < s.wall.elementCount(); ++e) {
-        if (const auto point = pickPlace(s, e, radius)) {
-            return JoinPick{s.side.wall, inWorld(*point, s.place), s.side.segment, e};
+    for (const bool passesOffset : {true, false}) {
+        for (unsigned e = 0; e < s.wall.elementCount(); ++e) {
+            if (const auto point = pickPlace(s, e, radius, passesOffset)) {
+                return JoinPick{s.side.wall, inWorld(*point, s.place), s.side.segment, e};
+            }
         }
     }
     return std::nullopt;
@@ -128,7 +171,8 @@ std::string_view toolOf(const JoinPlace& place) {
 
 // A stem whose end is a hair beside the bar's axis is refused by the tools: they take it neither
 // for short nor for running through.
-std::optional<PlanVector> endClearOfAxis(const JoinPlace& place, const JoinPair& walls) {
+std::optional<PlanVector> endClearOfAxis(const JoinPlace& place, const JoinPair& walls,
+                                         bool always) {
     const JoinSide& stem = place.first;
     const PlanLine line = walls.first.axis(stem.segment);
     const PlanLine bar = walls.second.axis(place.second.segment);
@@ -137,7 +181,7 @@ std::optional<PlanVector> endClearOfAxis(const JoinPlace& place, const JoinPair&
     const double width = 2.0 * walls.second.halfWidth(place.second.segment);
     const double rounding =
         kCrossings * std::max(walls.first.largestCoordinate(), walls.second.largestCoordinate());
-    if (std::abs(end - axis) > std::max(kDoubtful * width, rounding)) {
+    if (!always && std::abs(end - axis) > std::max(kDoubtful * width, rounding)) {
         return std::nullopt;
     }
     const double back = std::max(kShortOfAxis * width, 4.0 * rounding);
@@ -162,17 +206,22 @@ JoinEndMove moveOf(const JoinPlace& place, const JoinWall& stem, PlanVector to, 
 } // namespace
 
 std::optional<JoinSteps> joinSteps(const JoinPlace& place, const JoinWall& first,
-                                   const JoinWall& second) {
+                                   const JoinWall& second, unsigned attempt) {
     const JointShape shape = jointShape(place, place.style, {first, second});
     const double gap =
         std::min(elementGap(first, place.first.segment), elementGap(second, place.second.segment));
     const double radius = 0.05 * gap;
     const PlanLine line = first.track(place.first.segment, 0);
     const PlanLine other = second.track(place.second.segment, 0);
-    const auto firstPick =
-        pickOf({place, first, place.first, shape.first[0], line.crossing(other)}, radius);
-    const auto secondPick =
-        pickOf({place, second, place.second, shape.second[0], other.crossing(line)}, radius);
+    const PlanLine axis = first.axis(place.first.segment);
+    const PlanVector node = axis.at(axis.crossing(second.axis(place.second.segment)));
+    const bool isNear = attempt != 1;
+    const auto firstPick = pickOf(
+        {place, first, place.first, shape.first[0], line.crossing(other), line.along(node), isNear},
+        radius);
+    const auto secondPick = pickOf({place, second, place.second, shape.second[0],
+                                    other.crossing(line), other.along(node), isNear},
+                                   radius);
     if (!firstPick || !secondPick) {
         return std::nullopt;
     }
@@ -182,7 +231,7 @@ std::optional<JoinSteps> joinSteps(const JoinPlace& place, const JoinWall& first
     steps.second = *secondPick;
     steps.aperture = radius;
     if (place.kind == PlaceKind::tee) {
-        if (const auto clear = endClearOfAxis(place, {first, second})) {
+        if (const auto clear = endClearOfAxis(place, {first, second}, attempt > 1)) {
             steps.moves.push_back(moveOf(place, first, *clear, *firstPick));
         }
     }

@@ -179,24 +179,22 @@ bool JoinRun::playSteps(const JoinPlace& place, const JoinSteps& steps, JoinScri
            settle(place, {first, second}, script) && isJoined(place, pairOf(place));
 }
 
-// False where nothing more can be played.
-bool JoinRun::playPlace(unsigned index, JoinScript& script) {
+// Tries a place once; nothing is changed where it doesn't come out right, and the reason is set.
+bool JoinRun::tryPlace(unsigned index, unsigned attempt, JoinScript& script) {
     JoinPlace& place = m_plan.places[index];
     const unsigned first = place.first.wall;
     const unsigned second = place.second.wall;
-    const auto steps = joinSteps(place, m_walls[first], m_walls[second]);
+    const auto steps = joinSteps(place, m_walls[first], m_walls[second], attempt);
     if (!steps) {
-        place.result = PlaceResult::left;
         place.reason = JoinReason::gap;
-        return true;
+        return false;
     }
     const Content firstBefore = contentOf(first);
     const Content secondBefore = contentOf(second);
     const double viewBefore = m_viewHeight;
     JoinScript lines;
-    lines.comment(joinPlaceText(place, m_walls));
+    lines.comment(joinPlaceTitle(place, m_walls));
     if (playSteps(place, *steps, lines)) {
-        place.result = PlaceResult::joined;
         script.append(lines);
         return true;
     }
@@ -205,8 +203,21 @@ bool JoinRun::playPlace(unsigned index, JoinScript& script) {
     restore(first, firstBefore);
     restore(second, secondBefore);
     setView(viewBefore);
-    place.result = PlaceResult::left;
     place.reason = untouched ? JoinReason::refused : JoinReason::notRight;
+    return false;
+}
+
+// False where nothing more can be played.
+bool JoinRun::playPlace(unsigned index, JoinScript& script) {
+    JoinPlace& place = m_plan.places[index];
+    for (unsigned attempt = 0; attempt < kJoinAttempts && !m_failure; ++attempt) {
+        if (tryPlace(index, attempt, script)) {
+            place.result = PlaceResult::joined;
+            place.reason = JoinReason::none;
+            return true;
+        }
+    }
+    place.result = PlaceResult::left;
     return !m_failure;
 }
 

@@ -49,6 +49,7 @@ private:
     void restore(unsigned wall, const Content& content);
 
     std::optional<Failure> playOnce();
+    bool tryPlace(unsigned index, unsigned attempt, JoinScript& script);
     bool playPlace(unsigned index, JoinScript& script);
     bool playSteps(const JoinPlace& place, const JoinSteps& steps, JoinScript& script);
     bool moveEnds(const JoinSteps& steps, JoinScript& script);

@@ -108,13 +108,17 @@ void JoinScript::stops(std::uint64_t entity, unsigned segment, unsigned element,
     endCommand();
 }
 
-std::string joinPlaceText(const JoinPlace& place, std::span<const JoinWall> walls) {
+std::string joinPlaceTitle(const JoinPlace& place, std::span<const JoinWall> walls) {
     std::string text(placeKindWord(place.kind));
     text += " at " + numberText(place.at.x) + ',' + numberText(place.at.y) + " of";
     for (const unsigned wall : place.walls) {
         text += ' ' + entityText(walls[wall].handle());
     }
-    text += ": ";
+    return text;
+}
+
+std::string joinPlaceText(const JoinPlace& place, std::span<const JoinWall> walls) {
+    std::string text = joinPlaceTitle(place, walls) + ": ";
     text += placeResultWord(place.result);
     if (place.result == PlaceResult::left) {
         text += ", " + joinReasonText(place, walls);

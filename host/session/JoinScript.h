@@ -40,7 +40,9 @@ private:
     std::string m_text;
 };
 
-// "tee at 10,20: #2A on #31", and for a place that was left the reason.
+// "tee at 10,20 of #2A #31".
+std::string joinPlaceTitle(const JoinPlace& place, std::span<const JoinWall> walls);
+// With what became of it, and why it was left.
 std::string joinPlaceText(const JoinPlace& place, std::span<const JoinWall> walls);
 
 } // namespace orvex
