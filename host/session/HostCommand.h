@@ -34,6 +34,8 @@ void layRightCommand(Session& session);
 void moveEndCommand(Session& session);
 // A multiline, a segment, an element, then distances: the element's breaks.
 void elementBreaksCommand(Session& session);
+// A selection, all when it is empty, and options: joins multilines where they meet.
+void joinCommand(Session& session);
 
 // Tells the current source that its last answer can't be taken.
 void rejectAnswer(const std::wstring& reason);

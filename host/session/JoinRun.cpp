@@ -2,12 +2,11 @@
 
 #include "DatabaseCore.h"
 #include "KdDbMline.h"
-#include "KdDbMlineStyle.h"
-#include "MlineStyleContent.h"
 #include "ScriptSource.h"
 #include "Session.h"
 #include "elementBreaks.h"
 #include "layRight.h"
+#include "mlineEdits.h"
 #include "moveEnd.h"
 
 #include <algorithm>
@@ -22,10 +21,6 @@ namespace {
 constexpr int kPickBox = 3; // pixels
 constexpr int kViewPixels = 1200;
 
-std::shared_ptr<const MlineContent> mlineContent(const KdDbMline& mline) {
-    return std::static_pointer_cast<const MlineContent>(mline.content());
-}
-
 // The end that a pick means.
 MlineEnd nearerEnd(const MlineContent& mline, const KdGePoint3d& pick) {
     const auto distanceTo = [&pick](const ChainVertex& vertex) {
@@ -39,10 +34,9 @@ std::vector<JoinWall> wallsOf(const std::vector<KdDbStub*>& mlines) {
     std::vector<JoinWall> walls;
     walls.reserve(mlines.size());
     for (KdDbStub* const stub : mlines) {
-        const auto* const mline = dynamic_cast<const KdDbMline*>(stub->database->load(*stub));
-        static const MlineContent kNothing;
+        const auto content = orvex::contentOf(*stub);
         walls.emplace_back(stub->handle, static_cast<unsigned>(walls.size()),
-                           mline != nullptr ? *mlineContent(*mline) : kNothing);
+                           content != nullptr ? *content : MlineContent());
     }
     return walls;
 }
@@ -63,7 +57,7 @@ KdDbMline& JoinRun::copyOf(unsigned wall) {
 }
 
 JoinRun::Content JoinRun::contentOf(unsigned wall) {
-    Content content = mlineContent(copyOf(wall));
+    Content content = orvex::contentOf(*copyOf(wall).objectId().stub());
     if (m_originals[wall] == nullptr) {
         m_originals[wall] = content;
     }
@@ -138,12 +132,11 @@ bool JoinRun::layRight(unsigned wall, const JoinWall& before, JoinScript& script
         return true;
     }
     const Content content = contentOf(wall);
-    const auto* const style = dynamic_cast<const KdDbMlineStyle*>(
-        content->style.isValid() ? m_scratch.core().load(*content->style.stub()) : nullptr);
-    if (style == nullptr) {
+    const std::optional<StyleLayout> style = styleLayoutOf(*content);
+    if (!style) {
         return false;
     }
-    Result<MlineContent> laid = orvex::layRight(*content, layoutOf(style->values()));
+    Result<MlineContent> laid = orvex::layRight(*content, *style);
     if (!laid) {
         return false;
     }

@@ -2,6 +2,7 @@
 
 #include "DrawingFile.h"
 #include "Failure.h"
+#include "JoinReport.h"
 #include "KdDocument.h"
 #include "PlanView.h"
 #include "Scene.h"
@@ -69,6 +70,10 @@ public:
     Result<CommandFunction> findModuleCommand(const std::wstring& name);
     [[nodiscard]] ModuleLoader& modules() { return m_modules; }
 
+    // Told of the places of a plan by whatever joins it; a window shows them. Null for none.
+    void setJoinWatcher(JoinWatcher watcher) { m_joinWatcher = std::move(watcher); }
+    [[nodiscard]] const JoinWatcher& joinWatcher() const { return m_joinWatcher; }
+
     [[nodiscard]] bool isRunning() const { return m_running; }
 
 private:
@@ -87,6 +92,7 @@ private:
     SessionContexts m_contexts;
     SessionDisplay m_display;
     bool m_running = false;
+    JoinWatcher m_joinWatcher;
     KdDocument* m_documentBefore;
     RvexDocContext* m_contextBefore;
 };

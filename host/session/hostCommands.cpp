@@ -10,13 +10,10 @@ namespace orvex {
 namespace {
 
 constexpr std::array kCommands = {
-    HostCommand{L"MLAUDIT", auditCommand},
-    HostCommand{L"MLEND", moveEndCommand},
-    HostCommand{L"MLINE", mlineCommand},
-    HostCommand{L"MLLAY", layRightCommand},
-    HostCommand{L"MLSTOPS", elementBreaksCommand},
-    HostCommand{L"SETVAR", setVariableCommand},
-    HostCommand{L"ZOOM", zoomCommand},
+    HostCommand{L"MLAUDIT", auditCommand},      HostCommand{L"MLEND", moveEndCommand},
+    HostCommand{L"MLINE", mlineCommand},        HostCommand{L"MLJOIN", joinCommand},
+    HostCommand{L"MLLAY", layRightCommand},     HostCommand{L"MLSTOPS", elementBreaksCommand},
+    HostCommand{L"SETVAR", setVariableCommand}, HostCommand{L"ZOOM", zoomCommand},
 };
 
 } // namespace

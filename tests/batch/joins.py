@@ -1,0 +1,276 @@
+#!/usr/bin/python3
+"""Whole plans joined by orvex-batch join: joins.py PROGRAM
+
+A hand-made case a row, all cases of one way of drawing in one plan: what is
+counted has to stay the same when the lines are drawn the other way round and
+far from the origin. What was joined is joined for a second run, and its own
+script makes the same bytes.
+"""
+
+import json
+import math
+import pathlib
+import sys
+import tempfile
+
+import ezdxf
+
+from program import Report, call, play
+
+W = 200.0  # width of a wall where a case says nothing else; the tolerance is half of it
+STEP = 40000.0  # from case to case
+
+
+class Wall:
+    def __init__(self, *points, width=W, just=1, closed=False):
+        self.points, self.width, self.just, self.closed = points, width, just, closed
+
+
+def at_angle(degrees, length, x=0.0, y=0.0):
+    angle = math.radians(degrees)
+    return x + length * math.cos(angle), y + length * math.sin(angle)
+
+
+def crossing(degrees):
+    return [Wall((-6000, 0), (6000, 0)), Wall(at_angle(degrees + 180, 6000), at_angle(degrees, 6000))]
+
+
+BAR = Wall((-5000, 0), (5000, 0))
+RING = Wall((-3000, -3000), (3000, -3000), (3000, 3000), (-3000, 3000), closed=True)
+
+
+def stem(end, x=0, side=1, **more):
+    """A stem from far off whose end lies `end` from the bar's axis."""
+    return Wall((x, side * 5000), (x, side * end), **more)
+
+
+def grid():
+    return [Wall((x, -4000), (x, 4000)) for x in (-3000, -1000, 1000, 3000)] + [
+        Wall((-4000, y), (4000, y)) for y in (-3000, -1000, 1000, 3000)
+    ]
+
+
+def frame(past=0.0):
+    a = 3000 + past
+    return [
+        Wall((-a, -3000), (a, -3000)),
+        Wall((-a, 3000), (a, 3000)),
+        Wall((-3000, -a), (-3000, a)),
+        Wall((3000, -a), (3000, a)),
+    ]
+
+
+def inner():
+    return [Wall((x, -3000), (x, 3000)) for x in (-1000, 1000)] + [Wall((-3000, y), (3000, y)) for y in (-1000, 1000)]
+
+
+def corner(degrees, leg, width=W, other=W):
+    return [Wall((0, 0), (leg, 0), width=width), Wall((0, 0), at_angle(degrees, leg), width=other)]
+
+
+# Name, walls, crosses, tees, corners, left.
+CASES = [
+    *[(f"cross at {a}", crossing(a), 1, 0, 0, 0) for a in (90, 60, 30, 15)],
+    ("four by four", grid(), 16, 0, 0, 0),
+    ("frame with inner walls", frame() + inner(), 4, 8, 4, 0),
+    ("ring with inner walls", [RING] + inner(), 4, 8, 0, 0),
+    ("frame 99 short", frame(-199), 0, 0, 4, 0),
+    ("frame 101 short", frame(-201), 0, 0, 0, 0),
+    ("frame 99 past", frame(199), 0, 0, 4, 0),
+    ("frame 101 past", frame(201), 4, 0, 0, 0),
+    *[(f"stem at {e}", [BAR, stem(e)], 0, 1, 0, 0) for e in (-100, 0, 100, 199, -199)],
+    ("stem 101 short", [BAR, stem(201)], 0, 0, 0, 0),
+    ("stem 101 through", [BAR, stem(-201)], 1, 0, 0, 0),
+    *[
+        (f"stem at {e}, lopsided bar", [Wall((-5000, 0), (5000, 0), just=0), stem(e)], 0, 1, 0, 0)
+        for e in (0, 1e-9, -1e-9, 1e-6, -1e-6)
+    ],
+    ("stems face to face", [BAR, stem(0), stem(0, side=-1)], 0, 2, 0, 0),
+    ("stems nearly face to face", [BAR, stem(0), stem(0, x=100, side=-1)], 0, 2, 0, 0),
+    ("stems 201 apart", [BAR, stem(0), stem(0, x=201)], 0, 2, 0, 0),
+    (
+        "stems leaning apart",
+        [BAR, Wall(at_angle(135, 5000, x=-500), (-500, 0)), Wall(at_angle(45, 5000, x=500), (500, 0))],
+        0,
+        2,
+        0,
+        0,
+    ),
+    ("three ends", [Wall((0, 0), at_angle(a, 4000)) for a in (90, 210, 330)], 0, 0, 0, 1),
+    ("four ends", [Wall((0, 0), at_angle(a, 4000)) for a in (0, 90, 180, 270)], 0, 0, 0, 1),
+    (
+        "triangle",
+        [
+            Wall((0, 0), (4000, 0)),
+            Wall((4000, 0), at_angle(60, 4000)),
+            Wall(at_angle(60, 4000), (0, 0)),
+        ],
+        0,
+        0,
+        3,
+        0,
+    ),
+    (
+        "pinwheel",
+        [
+            Wall((-3000, -1000), (1000, -1000)),
+            Wall((1000, -3000), (1000, 1000)),
+            Wall((3000, 1000), (-1000, 1000)),
+            Wall((-1000, 3000), (-1000, -1000)),
+        ],
+        0,
+        4,
+        0,
+        0,
+    ),
+    (
+        "partition short at both ends",
+        [BAR, Wall((-5000, 3000), (5000, 3000)), Wall((0, 160), (0, 2840))],
+        0,
+        2,
+        0,
+        0,
+    ),
+    (
+        "ten stems",
+        [BAR] + [stem(0, x=-4500 + 1000 * i, side=1 if i % 2 else -1) for i in range(10)],
+        0,
+        10,
+        0,
+        0,
+    ),
+    ("corner at 15, long legs", corner(15, 9 * W), 0, 0, 1, 0),
+    ("corner at 15, short legs", corner(15, 700), 0, 0, 0, 1),
+    *[(f"corner at {a}", corner(a, 4000), 0, 0, 1, 0) for a in (160, 175)],
+    ("corner at 175, unequal", corner(175, 4000, other=400), 0, 0, 0, 1),
+    ("in one line, a gap", [Wall((-4000, 0), (-25, 0)), Wall((25, 0), (4000, 0))], 0, 0, 0, 1),
+    ("in one line, touching", [Wall((-4000, 0), (0, 0)), Wall((0, 0), (4000, 0))], 0, 0, 0, 1),
+    ("in one line, overlapping", [Wall((-4000, 0), (25, 0)), Wall((-25, 0), (4000, 0))], 0, 0, 0, 1),
+    ("twice", [BAR, BAR], 0, 0, 0, 1),
+    ("wholly inside", [BAR, Wall((-1000, 0), (1000, 0))], 0, 0, 0, 1),
+    ("parallel and overlapping", [BAR, Wall((-5000, 190), (5000, 190))], 0, 0, 0, 1),
+    ("parallel and apart", [BAR, Wall((-5000, 200.001), (5000, 200.001))], 0, 0, 0, 0),
+    (
+        "tee at 15",
+        [Wall((-2500, 0), (2500, 0)), Wall(at_angle(15, 6000), (0, 0))],
+        0,
+        1,
+        0,
+        0,
+    ),
+    ("tee well inside a bend", [Wall((0, 4000), (0, 0), (5000, 0)), stem(0, x=900)], 0, 1, 0, 0),
+    ("a six", [Wall((0, 4000), (0, -2000), (2000, -2000), (2000, 0), (-50, 0))], 0, 1, 0, 0),
+    ("an eight", [Wall((-2000, -2000), (2000, 2000), (2000, -2000), (-2000, 2000))], 1, 0, 0, 0),
+    (
+        "open square",
+        [Wall((-50, 0), (3000, 0), (3000, 3000), (0, 3000), (0, -50))],
+        0,
+        0,
+        1,
+        0,
+    ),
+    ("hairpin, legs apart", [Wall((0, 0), (4000, 0), (4000, 400), (0, 400))], 0, 0, 0, 0),
+    ("ring's last side as bar", [RING, Wall((-6000, 500), (-3000, 500))], 0, 1, 0, 0),
+    (
+        "two rings",
+        [RING, Wall((0, -1000), (6000, -1000), (6000, 1000), (0, 1000), closed=True)],
+        2,
+        0,
+        0,
+        0,
+    ),
+    *[
+        (
+            f"widths {a} and {b}",
+            [Wall((-5000, 0), (5000, 0), width=a), Wall((0, 5000), (0, -5000), width=b)],
+            1,
+            0,
+            0,
+            0,
+        )
+        for a, b in ((50, 100), (400, 50), (100, 400))
+    ],
+    *[
+        (
+            f"tee of {a} on {b}",
+            [Wall((-5000, 0), (5000, 0), width=b), stem(0, width=a)],
+            0,
+            1,
+            0,
+            0,
+        )
+        for a, b in ((50, 400), (400, 50))
+    ],
+    ("corner of 50 and 400", corner(70, 4000, width=50, other=400), 0, 0, 1, 0),
+    *[
+        (
+            f"justified {a} and {b}",
+            [Wall((-5000, 0), (5000, 0), just=a), stem(60, just=b)],
+            0,
+            1,
+            0,
+            0,
+        )
+        for a in (0, 2)
+        for b in (0, 2)
+    ],
+]
+
+# Ways to draw the same plan: lines as told or reversed, and how far off.
+WAYS = [(False, 0.0, 0.0), (True, 0.0, 0.0), (False, 1e6, -2e6), (True, -1e6, 1e6 / 3)]
+
+
+def draw(path, walls_with_shifts):
+    document = ezdxf.new("R2000")
+    space = document.modelspace()
+    for wall, dx, dy, reverse in walls_with_shifts:
+        points = [(x + dx, y + dy) for x, y in wall.points]
+        if reverse:
+            points.reverse()
+        mline = space.add_mline(points, close=wall.closed, dxfattribs={"justification": wall.just, "scale_factor": wall.width})
+        mline.set_justification(wall.just)
+        mline.update_geometry()
+    document.saveas(path)
+
+
+def joined(program, drawing, *options):
+    run = call(program, "join", drawing, "--json", *options)
+    assert run.returncode == 0, run.stderr
+    return json.loads(run.stdout)
+
+
+def count_of_case(joints, kinds, result):
+    return sum(j["result"] == result and (kinds is None or j["kind"] in kinds) for j in joints)
+
+
+def check_cases(report, program, folder, way):
+    reverse, dx, dy = way
+    plan, out, script, again = (folder / name for name in ("plan.dxf", "out.dxf", "join.scr", "again.dxf"))
+    draw(plan, [(w, dx + i * STEP, dy, reverse) for i, case in enumerate(CASES) for w in case[1]])
+    joints = joined(program, plan, "--output", out, "--save-script", script)["joints"]
+    for i, (name, _, *wanted) in enumerate(CASES):
+        here = [j for j in joints if abs(j["at"][0] - dx - i * STEP) < STEP / 2]
+        got = [count_of_case(here, [kind], "joined") for kind in ("cross", "tee", "corner")]
+        got.append(count_of_case(here, None, "left"))
+        reasons = [j["reason"]["code"] for j in here if j["result"] == "left"]
+        report.check(got == wanted, f"{name}, {way}: {got} {reasons} for {wanted}")
+    replay = call(program, "run", plan, "--script", script, "--output", again)
+    report.check(replay.returncode == 0, f"{way}: the script can't be played: {replay.stderr}")
+    report.check(replay.returncode == 0 and again.read_bytes() == out.read_bytes(), f"{way}: the script makes other bytes")
+    second = joined(program, out, "--output", again)
+    report.check(second["counts"]["joined"] == 0, f"{way}: joined twice: {[j for j in second['joints'] if j['result'] == 'joined']}")
+    report.check(again.read_bytes() == out.read_bytes(), f"{way}: a second run changes bytes")
+
+
+def main():
+    program = pathlib.Path(sys.argv[1])
+    report = Report()
+    with tempfile.TemporaryDirectory() as scratch:
+        folder = pathlib.Path(scratch)
+        for way in WAYS:
+            check_cases(report, program, folder, way)
+    report.finish()
+
+
+if __name__ == "__main__":
+    main()
