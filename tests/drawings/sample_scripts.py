@@ -85,6 +85,8 @@ def complaints(program, name, make, before, known, promote):
             elif not alike(entity, expected.get(handle, before[handle]), 1e-9):
                 yield f"multiline {handle} differs from {golden.name if handle in expected else 'the plan'}"
         yield from (text for text in faults(output) if text not in known)
+        audit = subprocess.run([program, "audit", str(output), "--json"], capture_output=True, text=True, check=True)
+        yield from (f"audit: {finding}" for finding in json.loads(audit.stdout)["findings"])
 
 
 def main():
