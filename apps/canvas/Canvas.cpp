@@ -46,24 +46,22 @@ void Canvas::setSession(Session* session) {
     s.panFrom.reset();
     s.waitingClick.reset();
     s.windowStep = State::WindowStep::off;
-    s.aim = CanvasAim::none;
-    s.request.reset();
+    s.aim = {};
     s.picture.setScene(session != nullptr ? &session->scene() : nullptr);
     s.updateCursorShape();
     s.startWork();
     update();
 }
 
-void Canvas::setAim(CanvasAim aim, const PromptRequest* request) {
-    m_state->aim = aim;
+void Canvas::setAim(Aim aim) {
+    m_state->aim = std::move(aim);
     m_state->waitingClick.reset();
-    m_state->request = request != nullptr ? std::optional(*request) : std::nullopt;
     m_state->isHighlightStale = true;
     m_state->startWork();
     update();
 }
 
-CanvasAim Canvas::aim() const {
+const Aim& Canvas::aim() const {
     return m_state->aim;
 }
 
@@ -170,9 +168,9 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
         s.windowCorner = event->pos();
     } else if (isLeft && s.windowStep == State::WindowStep::second) {
         s.endWindow(event->pos());
-    } else if (isLeft && s.aim != CanvasAim::none) {
+    } else if (isLeft && s.aim.kind != AimKind::none) {
         const PlanPoint at = s.planAtCursor();
-        if (s.aim == CanvasAim::entity && !s.session->scene().prepareSome({})) {
+        if (s.aim.kind == AimKind::entity && !s.session->scene().prepareSome({})) {
             s.waitingClick = at; // a pick would take as long as the rest of the index
             s.startWork();
             return;
@@ -195,7 +193,7 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
         s.moveTo(panned(s.view(),
                         {static_cast<double>(direction.x()), static_cast<double>(direction.y())}),
                  true);
-    } else if (s.aim != CanvasAim::point) {
+    } else if (s.aim.kind != AimKind::point) {
         s.isHighlightStale = true;
         s.startWork();
     }

@@ -1,21 +1,14 @@
 #pragma once
 
-#include "PromptSource.h"
-#include "Session.h"
+#include "Aim.h"
 
 #include <QWidget>
 
 #include <memory>
-#include <optional>
 
 namespace orvex {
 
-// What a click on the canvas is taken for.
-enum class CanvasAim {
-    none,   // nothing asks: crosshair, the entity under it is highlighted
-    entity, // a prompt asks for a pick: the cursor is the pick box
-    point,  // a prompt asks for a point: crosshair
-};
+class Session;
 
 // Shows the drawing of a session and takes clicks on it; knows no command and no prompt.
 //
@@ -32,11 +25,9 @@ public:
     // The session's view follows the widget's size from now on. Null: an empty canvas. Not owned.
     void setSession(Session* session);
 
-    // What the next click is for, and what moves with the cursor meanwhile: a line from `base`
-    // (world), or what the prompt's preview draws. The request is copied; its preview is called
-    // till the next setAim, which has to come before the question ends.
-    void setAim(CanvasAim aim, const PromptRequest* request = nullptr);
-    [[nodiscard]] CanvasAim aim() const;
+    // The aim's preview is called until the next setAim; what it refers to has to live as long.
+    void setAim(Aim aim = {});
+    [[nodiscard]] const Aim& aim() const;
 
     // Something in the drawing changed or was hidden: paints what is different, soon.
     void refresh();

@@ -172,13 +172,12 @@ void Canvas::State::dropHighlight() {
 void Canvas::State::updateHighlight() {
     isHighlightStale = false;
     KdDbStub* found = nullptr;
-    if (aim != CanvasAim::point && cursor && !panFrom && windowStep == WindowStep::off) {
+    if (aim.kind != AimKind::point && cursor && !panFrom && windowStep == WindowStep::off) {
         const PlanPoint at = planAtCursor();
-        const int pickBox = PromptSession::current().pickBox;
-        const double reach = pickBox * view().unitsPerPixel();
+        const double reach = aim.pickBox * view().unitsPerPixel();
         const PlanBox square{{at.x - reach, at.y - reach}, {at.x + reach, at.y + reach}};
         if (session->scene().entitiesIn(square).size() <= kMostUnderCursor) {
-            found = session->scene().entityAt({at.x, at.y, 0.0}, pickBox);
+            found = session->scene().entityAt({at.x, at.y, 0.0}, aim.pickBox);
         }
     }
     if (found == nullptr) {
@@ -238,22 +237,18 @@ void Canvas::State::paintMarks(QPainter& painter) const {
 }
 
 void Canvas::State::paintAim(QPainter& painter) const {
-    const int pickBox = PromptSession::current().pickBox;
-    switch (aim) {
-    case CanvasAim::entity:
-        paintPickBox(painter, *cursor, pickBox);
+    switch (aim.kind) {
+    case AimKind::entity:
+        paintPickBox(painter, *cursor, aim.pickBox);
         break;
-    case CanvasAim::none:
-        paintCrosshair(painter, *cursor, canvas.size(), pickBox);
+    case AimKind::none:
+        paintCrosshair(painter, *cursor, canvas.size(), aim.pickBox);
         break;
-    case CanvasAim::point:
-        if (request && request->preview) {
-            const PlanPoint at = planAtCursor();
-            if (const auto entity = request->preview({at.x, at.y, 0.0})) {
-                paintPreview(painter, view(), session->scene().appearanceOf(*entity));
-            }
-        } else if (request && request->base) {
-            paintRubberLine(painter, view(), {request->base->x, request->base->y}, *cursor);
+    case AimKind::point:
+        if (aim.preview) {
+            paintPreview(painter, view(), aim.preview(planAtCursor()));
+        } else if (aim.base) {
+            paintRubberLine(painter, view(), *aim.base, *cursor);
         }
         paintCrosshair(painter, *cursor, canvas.size(), -1);
         break;

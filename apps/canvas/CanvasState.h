@@ -2,6 +2,7 @@
 
 #include "Canvas.h"
 #include "PlanPicture.h"
+#include "Session.h"
 #include "viewChange.h"
 
 #include <QElapsedTimer>
@@ -31,8 +32,7 @@ struct Canvas::State {
     ViewHistory history;
     QTimer work; // ticks between all other events while there is something to be done
 
-    CanvasAim aim = CanvasAim::none;
-    std::optional<PromptRequest> request;
+    Aim aim;
     std::optional<QPoint> cursor;
     Highlight highlight;
     bool isHighlightStale = false;

@@ -1,6 +1,7 @@
 #include "DeskMenus.h"
 
-#include "deskIcons.h"
+#include "editTools.h"
+#include "strokeIcon.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -14,11 +15,12 @@ namespace orvex {
 
 namespace {
 
+constexpr const char* kToolBarTitle = QT_TRANSLATE_NOOP("deskActions", "Tools");
+
 QString shown(const char* text) {
     return QCoreApplication::translate("deskActions", text);
 }
 
-// The menus of the bar; the one of the tools stands inside another.
 std::map<DeskMenu, QMenu*> makeMenus(QMenuBar& bar) {
     constexpr std::pair<DeskMenu, const char*> kTitles[] = {
         {DeskMenu::file, QT_TRANSLATE_NOOP("deskActions", "&File")},
@@ -35,49 +37,69 @@ std::map<DeskMenu, QMenu*> makeMenus(QMenuBar& bar) {
     return menus;
 }
 
-QAction* makeAction(QMainWindow& window, const DeskActionRow& row) {
-    auto* const action = new QAction(shown(row.text), &window);
-    action->setObjectName(QLatin1String(row.name));
-    action->setStatusTip(shown(row.hint));
-    action->setIcon(deskIcon(action->objectName(), window.palette()));
-    QList<QKeySequence> keys;
-    if (*row.shortcut != '\0') {
-        keys << QKeySequence(QLatin1String(row.shortcut));
+QAction* addAction(QMainWindow& window, QMenu& menu, const QString& name, const QString& text,
+                   const QString& help) {
+    auto* const action = new QAction(text, &window);
+    action->setObjectName(name);
+    action->setStatusTip(help);
+    action->setToolTip(help);
+    menu.addAction(action);
+    return action;
+}
+
+void onTriggered(QMainWindow& window, QAction& action, const DeskMenus::Starter& start,
+                 const DeskAct& act) {
+    QObject::connect(&action, &QAction::triggered, &window, [act, start] { start(act); });
+}
+
+QMenu* makeToolMenu(QMainWindow& window, const DeskMenus::Starter& start) {
+    auto* const menu = new QMenu(&window);
+    for (const EditTool& tool : editTools()) {
+        if (tool.startsGroup) {
+            menu->addSeparator();
+        }
+        const QString name = QStringLiteral("tool") + QLatin1String(tool.keyword);
+        QAction* const action =
+            addAction(window, *menu, name, QCoreApplication::translate("editTools", tool.text),
+                      QCoreApplication::translate("editTools", tool.help));
+        onTriggered(window, *action, start, TypedCommand{"-MLEDIT", tool.keyword});
     }
-    if (action->objectName() == QLatin1String("zoomIn")) {
-        keys << QKeySequence(QStringLiteral("Ctrl+=")); // the same key without Shift
+    return menu;
+}
+
+QAction* makeAction(QMainWindow& window, QMenu& menu, const DeskAction& row) {
+    QAction* const action =
+        addAction(window, menu, QLatin1String(row.name), shown(row.text), shown(row.help));
+    if (*row.picture != '\0') {
+        action->setIcon(strokeIcon(row.picture, window.palette()));
     }
-    action->setShortcuts(keys);
+    action->setShortcuts(QKeySequence::listFromString(QLatin1String(row.shortcuts)));
     const QString key = action->shortcut().toString(QKeySequence::NativeText);
-    action->setToolTip(shown(row.hint) + (key.isEmpty() ? QString() : " (" + key + ')'));
+    if (!key.isEmpty()) {
+        action->setToolTip(shown(row.help) + " (" + key + ')');
+    }
     return action;
 }
 
 } // namespace
 
-DeskMenus::DeskMenus(QMainWindow& window, const Starter& start) {
+DeskMenus::DeskMenus(QMainWindow& window, const Starter& start)
+    : recent(new QMenu(&window)), tools(window.addToolBar(shown(kToolBarTitle))) {
     std::map<DeskMenu, QMenu*> menus = makeMenus(*window.menuBar());
     view = menus[DeskMenu::view];
-    tools = window.addToolBar(shown(QT_TRANSLATE_NOOP("deskActions", "Tools")));
     tools->setObjectName(QStringLiteral("toolBar"));
     tools->setIconSize({24, 24});
-    const DeskActionRow* last = nullptr;
-    for (const DeskActionRow& row : deskActions()) {
+    const DeskAction* last = nullptr; // in the tool bar
+    for (const DeskAction& row : deskActions()) {
         QMenu& menu = *menus[row.menu];
-        if (row.text == nullptr) {
+        if (row.startsGroup) {
             menu.addSeparator();
-            continue;
         }
-        QAction* const action = makeAction(window, row);
-        menu.addAction(action);
-        if (row.name == std::string_view("recent")) {
-            recent = new QMenu(&window);
-            action->setMenu(recent);
-        } else if (row.name == std::string_view("tools")) {
-            menus[DeskMenu::tools] = new QMenu(&window);
-            action->setMenu(menus[DeskMenu::tools]);
+        QAction* const action = makeAction(window, menu, row);
+        if (const auto* const submenu = std::get_if<Submenu>(&row.act)) {
+            action->setMenu(*submenu == Submenu::recent ? recent : makeToolMenu(window, start));
         } else {
-            QObject::connect(action, &QAction::triggered, &window, [&row, start] { start(row); });
+            onTriggered(window, *action, start, row.act);
         }
         if (row.isInToolBar) {
             if (last != nullptr && last->menu != row.menu) {

@@ -12,10 +12,10 @@ class QToolBar;
 
 namespace orvex {
 
-// The menu bar and the tool bar of a window, made of the table of actions.
+// The menu bar and the tool bar of a window, made of the tables of actions and tools.
 struct DeskMenus {
-    // Called with an action's row when the user wants it.
-    using Starter = std::function<void(const DeskActionRow&)>;
+    // Called when the user chooses an entry.
+    using Starter = std::function<void(const DeskAct&)>;
     DeskMenus(QMainWindow& window, const Starter& start);
 
     QMenu* recent = nullptr;

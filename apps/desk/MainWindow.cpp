@@ -2,7 +2,9 @@
 
 #include "Canvas.h"
 #include "CommandLine.h"
+#include "KdDbEntity.h"
 #include "commandNames.h"
+#include "partlyDrawnText.h"
 #include "qtWide.h"
 
 #include <QCloseEvent>
@@ -27,6 +29,27 @@ constexpr QSize kFirstSize(1200, 800);
 constexpr double kMostOfScreen = 0.9;    // the rest is left to the window's frame
 constexpr int kFirstCommandHeight = 170; // pixels
 
+// What a click on the canvas means to a question. Valid as long as the question is.
+Aim aimOf(const PromptRequest& request, Scene& scene) {
+    Aim aim;
+    aim.pickBox = PromptSession::current().pickBox;
+    if (request.kind == PromptKind::entity) {
+        aim.kind = AimKind::entity;
+    } else if (request.kind == PromptKind::point) {
+        aim.kind = AimKind::point;
+    }
+    if (request.base) {
+        aim.base = PlanPoint{request.base->x, request.base->y};
+    }
+    if (request.preview) {
+        aim.preview = [preview = request.preview, &scene](PlanPoint cursor) {
+            const auto entity = preview({cursor.x, cursor.y, 0.0});
+            return entity != nullptr ? scene.appearanceOf(*entity) : Appearance();
+        };
+    }
+    return aim;
+}
+
 } // namespace
 
 MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& moduleFiles)
@@ -37,9 +60,8 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
                   takeDrawing(std::move(file), path);
               }),
       m_canvas(new Canvas(this)), m_commandLine(new CommandLine(this)),
-      m_menus(*this, [this](const DeskActionRow& row) { act(row); }),
-      m_style(new StyleButton(this)), m_status(*statusBar()),
-      m_recent(*m_menus.recent, m_settings) {
+      m_menus(*this, [this](const DeskAct& act) { perform(act); }), m_style(new StyleButton(this)),
+      m_status(*statusBar()), m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
     setAcceptDrops(true);
     addStyleButton();
@@ -110,6 +132,7 @@ void MainWindow::connectCanvas() {
         m_status.showCursor(x, y, session()->view().unitsPerPixel());
     });
     connect(m_canvas, &Canvas::cursorLeft, &m_status, &StatusLine::clearCursor);
+    connect(m_canvas, &Canvas::settled, this, &MainWindow::reportPartlyDrawn);
 }
 
 void MainWindow::connectFiles() {
@@ -161,46 +184,61 @@ void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& p
     session()->display().setRepaint([this] { m_canvas->refresh(); });
     m_runner.setSession(session());
     m_canvas->setSession(session());
+    m_isPartlyDrawnReported = false;
     showChange();
 }
 
-void MainWindow::act(const DeskActionRow& row) {
-    struct Act {
-        std::string_view name;
-        void (*run)(MainWindow&);
-    };
-    // What has to do with files waits till no command runs.
-    static constexpr Act kFileActs[] = {
-        {"new", [](MainWindow& w) { w.m_files.newDrawing(); }},
-        {"open", [](MainWindow& w) { w.m_files.askAndOpen(); }},
-        {"save", [](MainWindow& w) { w.m_files.save(); }},
-        {"saveAs", [](MainWindow& w) { w.m_files.saveAs(); }},
-        {"export", [](MainWindow& w) { w.m_files.exportPicture(); }},
-    };
-    // These don't disturb a command.
-    static constexpr Act kOtherActs[] = {
-        {"exit", [](MainWindow& w) { w.close(); }},
-        {"zoomExtents", [](MainWindow& w) { w.m_canvas->zoomExtents(); }},
-        {"zoomWindow", [](MainWindow& w) { w.m_canvas->startZoomWindow(); }},
-        {"zoomPrevious", [](MainWindow& w) { w.m_canvas->zoomPrevious(); }},
-        {"zoomIn", [](MainWindow& w) { w.m_canvas->zoomBy(1.5); }},
-        {"zoomOut", [](MainWindow& w) { w.m_canvas->zoomBy(1.0 / 1.5); }},
-        {"about", [](MainWindow& w) { w.about(); }},
-    };
-    if (row.command != nullptr) {
-        start(QString::fromLatin1(row.command),
-              row.answer != nullptr ? QStringList{QString::fromLatin1(row.answer)} : QStringList());
+// Once for each drawing.
+void MainWindow::reportPartlyDrawn() {
+    if (m_isPartlyDrawnReported || session() == nullptr) {
         return;
     }
-    for (const Act& each : kFileActs) {
-        if (each.name == row.name) {
-            post([this, run = each.run] { run(*this); });
-        }
+    const std::vector<std::uint64_t> handles = session()->scene().partlyDrawn();
+    if (!handles.empty()) {
+        m_isPartlyDrawnReported = true;
+        m_commandLine->print(QString::fromStdString("warning: " + partlyDrawnText(handles)));
     }
-    for (const Act& each : kOtherActs) {
-        if (each.name == row.name) {
-            each.run(*this);
-        }
+}
+
+void MainWindow::perform(const DeskAct& act) {
+    if (const auto* const typed = std::get_if<TypedCommand>(&act)) {
+        start(QString::fromLatin1(typed->command),
+              typed->answer != nullptr ? QStringList{QString::fromLatin1(typed->answer)}
+                                       : QStringList());
+    } else if (const auto* const own = std::get_if<WindowAct>(&act)) {
+        perform(*own);
+    }
+}
+
+// What has to do with files waits until no command runs; the rest doesn't disturb a command.
+void MainWindow::perform(WindowAct act) {
+    constexpr double kZoomStep = 1.5;
+    switch (act) {
+    case WindowAct::newDrawing:
+        return post([this] { m_files.newDrawing(); });
+    case WindowAct::open:
+        return post([this] { m_files.askAndOpen(); });
+    case WindowAct::save:
+        return post([this] { m_files.save(); });
+    case WindowAct::saveAs:
+        return post([this] { m_files.saveAs(); });
+    case WindowAct::exportPicture:
+        return post([this] { m_files.exportPicture(); });
+    case WindowAct::exit:
+        close();
+        return;
+    case WindowAct::zoomExtents:
+        return m_canvas->zoomExtents();
+    case WindowAct::zoomWindow:
+        return m_canvas->startZoomWindow();
+    case WindowAct::zoomPrevious:
+        return m_canvas->zoomPrevious();
+    case WindowAct::zoomIn:
+        return m_canvas->zoomBy(kZoomStep);
+    case WindowAct::zoomOut:
+        return m_canvas->zoomBy(1.0 / kZoomStep);
+    case WindowAct::about:
+        return about();
     }
 }
 
@@ -236,14 +274,11 @@ void MainWindow::showQuestion() {
                      : isPick ? BlankKey::entersUnlessXy
                               : BlankKey::enters;
     m_commandLine->setQuestion(question);
-    m_canvas->setAim(isPick                              ? CanvasAim::entity
-                     : request.kind == PromptKind::point ? CanvasAim::point
-                                                         : CanvasAim::none,
-                     &request);
+    m_canvas->setAim(aimOf(request, session()->scene()));
 }
 
 void MainWindow::showIdle() {
-    m_canvas->setAim(CanvasAim::none);
+    m_canvas->setAim({.pickBox = PromptSession::current().pickBox});
     CommandLine::Question question;
     if (!m_runner.isBusy() || m_prompts.request() == nullptr) {
         question.text = tr("Command:");

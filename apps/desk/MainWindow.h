@@ -59,7 +59,8 @@ private:
     void restorePlace();
     void storePlace();
 
-    void act(const DeskActionRow& row);
+    void perform(const DeskAct& act);
+    void perform(WindowAct act);
     void post(std::function<void()> task);
     void takeDrawing(std::unique_ptr<DrawingFile> file, const QString& path);
     void enterLine(const QString& line);
@@ -67,6 +68,7 @@ private:
     void showQuestion();
     void showIdle();
     void showChange(); // after a command, an opening or a save
+    void reportPartlyDrawn();
     void about();
 
     DeskSettings m_settings;
@@ -84,6 +86,7 @@ private:
     StatusLine m_status;
     RecentFiles m_recent;
     bool m_mayClose = false;
+    bool m_isPartlyDrawnReported = false;
 };
 
 } // namespace orvex

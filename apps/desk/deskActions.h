@@ -1,25 +1,55 @@
 #pragma once
 
+#include <cstdint>
 #include <span>
+#include <variant>
 
 namespace orvex {
 
-// Where an action stands in the menu bar.
-enum class DeskMenu { file, edit, view, draw, modify, tools, help };
+// The menus of the bar, in its order.
+enum class DeskMenu : std::uint8_t { file, edit, view, draw, modify, help };
+
+// What the window does by itself.
+enum class WindowAct : std::uint8_t {
+    newDrawing,
+    open,
+    save,
+    saveAs,
+    exportPicture,
+    exit,
+    zoomExtents,
+    zoomWindow,
+    zoomPrevious,
+    zoomIn,
+    zoomOut,
+    about,
+};
+
+// What is typed for the user.
+struct TypedCommand {
+    const char* command = "";
+    const char* answer = nullptr; // at the command's first prompt; null for none
+};
+
+// Menus that are filled from elsewhere: recent drawings, the editing tools.
+enum class Submenu : std::uint8_t { recent, tools };
+
+using DeskAct = std::variant<WindowAct, TypedCommand, Submenu>;
 
 // One entry of a menu. Texts are shown through Qt's translation, "&" marks the access key.
-struct DeskActionRow {
+struct DeskAction {
     DeskMenu menu = DeskMenu::file;
-    const char* name = "";      // of the object, and of its icon
-    const char* text = nullptr; // null: a line between groups
-    const char* hint = "";      // for the status bar and the tool bar
-    const char* shortcut = "";
-    const char* command = nullptr; // typed for the user; null where the window acts itself
-    const char* answer = nullptr;  // typed at the command's first prompt
+    const char* name = ""; // of the QAction
+    const char* text = "";
+    const char* help = "";      // for the status bar and the tool bar
+    const char* shortcuts = ""; // separated by "; "
+    const char* picture = "";   // strokes, see strokeIcon; empty for none
+    DeskAct act;
+    bool startsGroup = false; // a separator comes before it
     bool isInToolBar = false;
 };
 
 // In the order of the menus.
-std::span<const DeskActionRow> deskActions();
+std::span<const DeskAction> deskActions();
 
 } // namespace orvex

@@ -13,6 +13,7 @@
 #include "MlineContent.h"
 #include "ModuleLoader.h"
 #include "PlanPicture.h"
+#include "Session.h"
 
 #include <QApplication>
 #include <QMouseEvent>

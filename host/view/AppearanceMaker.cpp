@@ -10,21 +10,28 @@ namespace {
 // Of all inserts of a walk, about in points. A file can name a block that comes to millions of
 // entities any number of times; the later ones then show their beginnings only.
 constexpr std::int64_t kMostWalkWork = 1'000'000'000;
-constexpr int kFewEntities = 100;
 
 } // namespace
 
 bool AppearanceMaker::draw(const KdDbStub& entity, DrawSink& sink) {
     const auto reading = readEntity(entity);
-    return reading && draw(*reading, sink);
+    bool isPartial = false;
+    const bool seen = reading && draw(*reading, sink, isPartial);
+    if (isPartial) {
+        m_partlyDrawn.insert(entity.handle);
+    } else if (!m_partlyDrawn.empty()) {
+        m_partlyDrawn.erase(entity.handle);
+    }
+    return seen;
 }
 
-bool AppearanceMaker::draw(const EntityReading& reading, DrawSink& sink) {
+bool AppearanceMaker::draw(const EntityReading& reading, DrawSink& sink, bool& isPartial) {
     const bool isTired = m_walkWork > kMostWalkWork;
     EntityDrawer drawer(m_table, m_blocks, sink,
-                        isTired ? kFewEntities : EntityDrawer::kMostEntities);
+                        isTired ? DrawLimit::beginnings : DrawLimit::repetitions);
     const bool seen = drawer.draw(reading);
     m_walkWork += drawer.insertWork();
+    isPartial = drawer.isPartial();
     return seen;
 }
 
@@ -38,7 +45,8 @@ Appearance AppearanceMaker::appearance(const KdDbStub& entity) {
 Appearance AppearanceMaker::appearance(const KdDbEntity& entity) {
     Appearance appearance;
     AppearanceSink sink(appearance);
-    appearance.seen = draw(readEntity(entity), sink);
+    bool isPartial = false;
+    appearance.seen = draw(readEntity(entity), sink, isPartial);
     return appearance;
 }
 

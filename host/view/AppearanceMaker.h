@@ -5,6 +5,7 @@
 #include "SharedTraits.h"
 
 #include <cstdint>
+#include <set>
 
 struct KdDbStub;
 
@@ -27,17 +28,21 @@ public:
 
     // True when the change of an object may change the appearance of entities other than itself.
     [[nodiscard]] bool isShared(const KdDbStub& changed) const;
+    // Entities whose last drawing left something out, because their blocks repeat each other
+    // beyond what is drawn. By handle.
+    [[nodiscard]] const std::set<std::uint64_t>& partlyDrawn() const { return m_partlyDrawn; }
     [[nodiscard]] bool isScaleStale() const { return m_table.isScaleStale(); }
     void forgetShared();
 
 private:
     bool draw(const KdDbStub& entity, DrawSink& sink);
-    bool draw(const EntityReading& reading, DrawSink& sink);
+    bool draw(const EntityReading& reading, DrawSink& sink, bool& isPartial);
 
     DatabaseCore& m_core;
     std::int64_t m_walkWork = 0;
     SharedTraits m_table;
     BlockContents m_blocks;
+    std::set<std::uint64_t> m_partlyDrawn;
 };
 
 } // namespace orvex

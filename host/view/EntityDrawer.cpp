@@ -12,7 +12,9 @@ namespace {
 
 // What one insert, with all that is in it, may come to.
 constexpr std::size_t kDeepestInsert = 32;
-constexpr std::size_t kMostPoints = 1'000'000;
+constexpr std::int64_t kMostRepeated = 50'000;
+constexpr std::size_t kMostPointsRepeated = 1'000'000;
+constexpr std::int64_t kFewEntities = 100;
 
 } // namespace
 
@@ -77,7 +79,11 @@ void EntityDrawer::drawInsert(const InsertShape& insert, const Means& means,
                               const PlacedSink& sink) {
     const BlockContent& block = m_blocks.block(insert.block);
     const bool inItself = std::find(m_open.begin(), m_open.end(), block.block) != m_open.end();
-    if (block.entities.empty() || inItself || m_open.size() >= kDeepestInsert) {
+    if (block.entities.empty() || inItself) {
+        return;
+    }
+    if (m_open.size() >= kDeepestInsert) {
+        m_isPartial = true;
         return;
     }
     m_open.push_back(block.block);
@@ -87,7 +93,8 @@ void EntityDrawer::drawInsert(const InsertShape& insert, const Means& means,
     const KdGePoint3d corner = own.place({-base.x, -base.y, -base.z});
     for (int row = 0; row < std::max(insert.rows, 1); ++row) {
         for (int column = 0; column < std::max(insert.columns, 1); ++column) {
-            if (isExhausted()) {
+            if (isExhausted(m_drawnOnce.contains(block.block))) {
+                m_isPartial = true;
                 m_open.pop_back();
                 return;
             }
@@ -100,12 +107,26 @@ void EntityDrawer::drawInsert(const InsertShape& insert, const Means& means,
 }
 
 void EntityDrawer::drawBlock(const BlockContent& block, const Context& context, PlacedSink& sink) {
+    const bool isRepeated = !m_drawnOnce.insert(block.block).second;
     for (const EntityReading& entity : block.entities) {
-        if (isExhausted()) {
+        if (isExhausted(isRepeated)) {
+            m_isPartial = true;
             return;
         }
-        ++m_entitiesDrawn;
-        draw(entity, context, sink);
+        drawRepeatable(entity, context, sink, isRepeated);
+    }
+}
+
+void EntityDrawer::drawRepeatable(const EntityReading& entity, const Context& context,
+                                  PlacedSink& sink, bool isRepeated) {
+    const std::size_t before = m_sink.pointCount();
+    ++m_entitiesDrawn;
+    draw(entity, context, sink);
+    if (isRepeated) {
+        ++m_entitiesRepeated;
+        const auto* const shape = std::get_if<EntityShape>(&entity.geometry);
+        const bool isInsert = shape != nullptr && std::holds_alternative<InsertShape>(*shape);
+        m_pointsRepeated += isInsert ? 0 : m_sink.pointCount() - before; // counted inside of it
     }
 }
 
@@ -115,8 +136,12 @@ std::int64_t EntityDrawer::insertWork() const {
     return m_entitiesDrawn > 0 ? m_entitiesDrawn * kPointsOfEntity + points : 0;
 }
 
-bool EntityDrawer::isExhausted() const {
-    return m_entitiesDrawn >= m_mostEntities || m_sink.pointCount() >= kMostPoints;
+bool EntityDrawer::isExhausted(bool isRepeated) const {
+    if (m_limit == DrawLimit::beginnings && m_entitiesDrawn >= kFewEntities) {
+        return true;
+    }
+    return isRepeated &&
+           (m_entitiesRepeated >= kMostRepeated || m_pointsRepeated >= kMostPointsRepeated);
 }
 
 } // namespace orvex

@@ -5,26 +5,35 @@
 #include "PlacedSink.h"
 #include "SharedTraits.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <unordered_set>
 #include <vector>
 
 namespace orvex {
 
-// Draws one entity of model space, with all that it inserts. Cycles of blocks, and blocks that
-// multiply without end, stop at limits that no real drawing comes near.
+// How much one insert may draw.
+enum class DrawLimit : std::uint8_t {
+    repetitions, // each block once, however large; repetitions of them up to a limit
+    beginnings,  // the first few entities
+};
+
+// Draws one entity of model space, with all that it inserts. A block that is inserted once costs
+// what the file holds of it. Blocks that insert each other many times could come to any number of
+// entities: repetitions stop at a limit, and cycles at once.
 class EntityDrawer {
 public:
-    static constexpr int kMostEntities = 50'000;
-
     EntityDrawer(SharedTraits& table, BlockContents& blocks, DrawSink& sink,
-                 int mostEntities = kMostEntities)
-        : m_table(table), m_blocks(blocks), m_sink(sink), m_mostEntities(mostEntities) {}
+                 DrawLimit limit = DrawLimit::repetitions)
+        : m_table(table), m_blocks(blocks), m_sink(sink), m_limit(limit) {}
 
     // False, with nothing drawn, when the entity isn't seen for its layer or by itself.
     bool draw(const EntityReading& entity);
 
     // What inserts have cost so far, about in points.
     [[nodiscard]] std::int64_t insertWork() const;
+    // True when a limit left something out.
+    [[nodiscard]] bool isPartial() const { return m_isPartial; }
 
 private:
     // What its surroundings give an entity.
@@ -43,14 +52,20 @@ private:
     void drawMultiline(const MlineContent& mline, const Means& means, PlacedSink& sink);
     void drawInsert(const InsertShape& insert, const Means& means, const PlacedSink& sink);
     void drawBlock(const BlockContent& block, const Context& context, PlacedSink& sink);
-    [[nodiscard]] bool isExhausted() const;
+    void drawRepeatable(const EntityReading& entity, const Context& context, PlacedSink& sink,
+                        bool isRepeated);
+    [[nodiscard]] bool isExhausted(bool isRepeated) const;
 
     SharedTraits& m_table;
     BlockContents& m_blocks;
     DrawSink& m_sink;
     std::vector<const BlockEntities*> m_open; // blocks that are being drawn, outermost first
-    int m_mostEntities;
-    int m_entitiesDrawn = 0; // by inserts
+    std::unordered_set<const BlockEntities*> m_drawnOnce;
+    DrawLimit m_limit;
+    bool m_isPartial = false;
+    std::int64_t m_entitiesDrawn = 0; // by inserts
+    std::int64_t m_entitiesRepeated = 0;
+    std::size_t m_pointsRepeated = 0;
 };
 
 } // namespace orvex

@@ -338,6 +338,11 @@ CompactAppearance Scene::compactAppearanceAt(std::uint32_t index) {
     return CompactAppearance(words);
 }
 
+std::vector<std::uint64_t> Scene::partlyDrawn() const {
+    const auto& handles = m_state->maker.partlyDrawn();
+    return {handles.begin(), handles.end()};
+}
+
 void Scene::hide(KdDbStub& entity) {
     if (m_state->hidden.insert(&entity).second) {
         m_state->shownOrHidden.push_back(&entity);

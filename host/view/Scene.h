@@ -57,6 +57,10 @@ public:
     // Drawing units a pixel, which turns pick boxes into reaches.
     void setUnitsPerPixel(std::function<double()> unitsPerPixel);
 
+    // Handles of the entities that are drawn in part, in ascending order, as far as boxes or
+    // appearances were made: their blocks insert each other too often for all of it.
+    [[nodiscard]] std::vector<std::uint64_t> partlyDrawn() const;
+
     // Hidden entities are neither drawn nor found.
     void hide(KdDbStub& entity);
     void show(KdDbStub& entity);

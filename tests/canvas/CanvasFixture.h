@@ -4,7 +4,9 @@
 #include "DatabaseCore.h"
 #include "KdDbDatabase.h"
 #include "ModuleLoader.h"
+#include "PromptSession.h"
 #include "ScriptSource.h"
+#include "Session.h"
 #include "TestPaths.h"
 
 #include <QCoreApplication>

@@ -168,8 +168,8 @@ TEST_F(EditedCanvas, anEditPaintsNoMoreThanItsPlace) {
 
 TEST_F(EditedCanvas, highlightsWhatAPickWouldFind) {
     KdDbStub& mline = anyMline();
-    for (const CanvasAim aim : {CanvasAim::none, CanvasAim::entity, CanvasAim::point}) {
-        canvas.setAim(aim);
+    for (const AimKind aim : {AimKind::none, AimKind::entity, AimKind::point}) {
+        canvas.setAim({.kind = aim});
         const Appearance appearance = session->scene().appearance(mline);
         const Stroke& stroke = appearance.strokes.front();
         const PlanPoint on{(stroke.points[0].x + stroke.points[1].x) / 2,
@@ -193,7 +193,7 @@ TEST_F(EditedCanvas, highlightsWhatAPickWouldFind) {
             }
         }
         hover({2, 2});
-        if (aim == CanvasAim::point) {
+        if (aim == AimKind::point) {
             EXPECT_EQ(thicker, 0);
         } else {
             EXPECT_GT(thicker, 20);
@@ -203,7 +203,7 @@ TEST_F(EditedCanvas, highlightsWhatAPickWouldFind) {
 }
 
 TEST_F(EditedCanvas, theHighlightFollowsTheDrawingUnderTheCursor) {
-    canvas.setAim(CanvasAim::entity);
+    canvas.setAim({.kind = AimKind::entity});
     const Appearance appearance = session->scene().appearance(anyMline());
     const QPoint pixel = pixelAt(appearance.strokes.front().points.front());
     const auto grabbed = [&] { return canvas.grab().toImage(); };

@@ -57,7 +57,7 @@ TEST_F(CanvasFixture, pansWithTheMiddleButtonAndWithShift) {
     EXPECT_NEAR(planAt({260, 170}).x, place.x, 1e-9);
     EXPECT_NEAR(planAt({260, 170}).y, place.y, 1e-9);
     QSignalSpy clicks(&canvas, &Canvas::clicked);
-    canvas.setAim(CanvasAim::point);
+    canvas.setAim({.kind = AimKind::point});
     drag({260, 170}, {200, 200}, Qt::LeftButton, Qt::ShiftModifier);
     EXPECT_NEAR(planAt({200, 200}).x, place.x, 1e-9);
     EXPECT_EQ(clicks.count(), 0);
@@ -71,7 +71,7 @@ TEST_F(CanvasFixture, zoomsToAWindowOfTwoClicksOrADrag) {
     const PlanPoint middle = planAt({150, 125});
     const double scale = session->view().unitsPerPixel();
     QSignalSpy clicks(&canvas, &Canvas::clicked);
-    canvas.setAim(CanvasAim::point);
+    canvas.setAim({.kind = AimKind::point});
     for (const bool isDrag : {false, true}) {
         canvas.startZoomWindow();
         if (isDrag) {
@@ -99,8 +99,8 @@ TEST_F(CanvasFixture, clicksTellThePlanOnlyWhenSomethingAsks) {
     QSignalSpy keys(&canvas, &Canvas::keyTyped);
     QTest::mouseClick(&canvas, Qt::LeftButton, {}, {80, 75});
     EXPECT_EQ(clicks.count(), 0);
-    for (const CanvasAim aim : {CanvasAim::entity, CanvasAim::point}) {
-        canvas.setAim(aim);
+    for (const AimKind aim : {AimKind::entity, AimKind::point}) {
+        canvas.setAim({.kind = aim});
         QTest::mouseClick(&canvas, Qt::LeftButton, {}, {80, 75});
         ASSERT_EQ(clicks.count(), 1);
         const auto click = clicks.takeFirst();

@@ -1,8 +1,12 @@
 #include "DeskFixture.h"
 
+#include "editTools.h"
+#include "resourceLibrary.h"
+
 #include <QDialog>
 #include <QPushButton>
 
+#include <algorithm>
 #include <map>
 
 namespace orvex::testing {
@@ -47,13 +51,22 @@ TEST_F(DeskFixture, typedClickedAndPickedEditsSaveWhatTheirScriptSaves) {
                                        .toStdString()));
 }
 
-// A step for each line of a script: points by the mouse, tools by the palette.
+TEST_F(DeskFixture, theToolsAreThoseOfTheModuleInItsOrder) {
+    wchar_t keywords[100];
+    LoadStringW(loadResourceDll(L"OmxMLStyleRes.dll"), 4000, keywords, 100);
+    QString shown;
+    for (const EditTool& tool : editTools()) {
+        shown += (shown.isEmpty() ? "" : " ") + QString(tool.keyword);
+    }
+    EXPECT_EQ(shown, QString::fromWCharArray(keywords));
+}
+
+// A step for each line of a script: points by the mouse, tools by their captions in the palette.
 TEST_F(DeskFixture, allTwelveToolsFromThePaletteSaveWhatTheirScriptSaves) {
-    const std::map<std::string, const char*> buttons = {
-        {"CC", "closedCrossBtn"}, {"OC", "openCrossBtn"}, {"MC", "mergedCrossBtn"},
-        {"CT", "closedTeeBtn"},   {"OT", "openTeeBtn"},   {"MT", "mergedTeeBtn"},
-        {"CJ", "cornerJointBtn"}, {"AV", "addVertexBtn"}, {"DV", "deleteVertexBtn"},
-        {"CS", "cutSingleBtn"},   {"CA", "cutAllBtn"},    {"WA", "weldAllBtn"}};
+    std::map<std::string, QString> captions;
+    for (const EditTool& tool : editTools()) {
+        captions[tool.keyword] = QString(tool.text).remove('&');
+    }
     std::deque<Step> all{openPlan()};
     std::map<std::string, int> runs;
     std::ifstream tour(sourceDir() / "samples/tour.scr");
@@ -64,10 +77,16 @@ TEST_F(DeskFixture, allTwelveToolsFromThePaletteSaveWhatTheirScriptSaves) {
         }
         if (line == "-MLEDIT") {
             all.push_back(type("MLEDIT"));
-        } else if (const auto button = buttons.find(line); button != buttons.end()) {
+        } else if (const auto caption = captions.find(line); caption != captions.end()) {
             ++runs[line];
-            all.push_back(inDialog<QDialog>([name = button->second](QDialog& palette) {
-                palette.findChild<QPushButton*>(name)->click();
+            all.push_back(inDialog<QDialog>([shown = caption->second](QDialog& palette) {
+                const auto buttons = palette.findChildren<QPushButton*>();
+                const auto found =
+                    std::find_if(buttons.begin(), buttons.end(), [&](const QPushButton* button) {
+                        return button->accessibleName() == shown;
+                    });
+                ASSERT_NE(found, buttons.end()) << shown.toStdString();
+                (*found)->click();
             }));
         } else if (point.size() == 2 && line.find('#') == std::string::npos && !runs.empty()) {
             all.push_back(pick(point[0].toDouble(), point[1].toDouble()));
@@ -77,7 +96,7 @@ TEST_F(DeskFixture, allTwelveToolsFromThePaletteSaveWhatTheirScriptSaves) {
     }
     all.push_back(trigger("save"));
     play(std::move(all));
-    EXPECT_EQ(runs.size(), buttons.size());
+    EXPECT_EQ(runs.size(), captions.size());
 
     // The palette leaves no word on the command line.
     std::string byKeyword;
@@ -85,7 +104,7 @@ TEST_F(DeskFixture, allTwelveToolsFromThePaletteSaveWhatTheirScriptSaves) {
     tour.clear();
     tour.seekg(0);
     for (std::string line; std::getline(tour, line);) {
-        if (buttons.contains(line)) {
+        if (captions.contains(line)) {
             tools.push_back(line);
         }
     }
@@ -131,19 +150,19 @@ TEST_F(DeskFixture, aCommandStartedMeanwhileCancelsTheOneThatRuns) {
     play({
         openPlan(),
         trigger("toolCA"),
-        [this] { EXPECT_EQ(canvas()->aim(), CanvasAim::entity); },
+        [this] { EXPECT_EQ(canvas()->aim().kind, AimKind::entity); },
         pick(2200, 0),
         trigger("mline"),
         [this] {
             EXPECT_TRUE(history().contains("*Cancel*\nCommand: MLINE"));
-            EXPECT_EQ(canvas()->aim(), CanvasAim::point);
+            EXPECT_EQ(canvas()->aim().kind, AimKind::point);
         },
         trigger("zoomIn"), // looks closer while the command goes on
-        [this] { EXPECT_EQ(canvas()->aim(), CanvasAim::point); },
+        [this] { EXPECT_EQ(canvas()->aim().kind, AimKind::point); },
         trigger("save"),
         [this] {
             EXPECT_EQ(prompt(), "Command:");
-            EXPECT_EQ(canvas()->aim(), CanvasAim::none);
+            EXPECT_EQ(canvas()->aim().kind, AimKind::none);
         },
     });
     EXPECT_EQ(readFile(plan), original);

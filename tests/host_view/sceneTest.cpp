@@ -125,8 +125,27 @@ TEST(SceneAppearance, blocksInBlocksEndSomewhere) {
     Scene scene(drawing.database);
     EXPECT_EQ(scene.appearance(round).strokes.size(), 1U);
     EXPECT_LE(scene.appearance(bomb).strokes.size(), 50'000U);
+    EXPECT_THAT(scene.partlyDrawn(), ElementsAre(bomb.handle));
     EXPECT_THAT(scene.appearance(drawing.addShape(insertAt({}, L"*Model_Space"))).strokes,
                 IsEmpty());
+}
+
+TEST(SceneAppearance, aBlockInsertedOnceIsDrawnWhole) {
+    constexpr int kLines = 100'000;
+    TestDrawing drawing;
+    BlockEntities& large = drawing.core.addBlock(L"LARGE");
+    for (int i = 0; i < kLines; ++i) {
+        drawing.addShape(LineShape{{0, 1.0 * i, 0}, {1, 1.0 * i, 0}}, {}, &large);
+    }
+    KdDbStub& once = drawing.addShape(insertAt({}, L"LARGE"));
+    InsertShape pair = insertAt({5, 0, 0}, L"LARGE");
+    pair.columns = 2;
+    KdDbStub& twice = drawing.addShape(pair);
+    Scene scene(drawing.database);
+    EXPECT_EQ(scene.appearance(once).strokes.size(), std::size_t{kLines});
+    EXPECT_THAT(scene.partlyDrawn(), IsEmpty());
+    EXPECT_EQ(scene.appearance(twice).strokes.size(), std::size_t{kLines} + 50'000U);
+    EXPECT_THAT(scene.partlyDrawn(), ElementsAre(twice.handle));
 }
 
 TEST(SceneAppearance, textBecomesLabelsLineByLine) {

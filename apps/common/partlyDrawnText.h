@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace orvex {
+
+// What a user is told of entities that are drawn in part, given by handle; at least one. UTF-8.
+std::string partlyDrawnText(const std::vector<std::uint64_t>& handles);
+
+} // namespace orvex
