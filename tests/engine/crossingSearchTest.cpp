@@ -122,7 +122,7 @@ private:
             at[0] += small * between(-1.0, 1.0);
             at[1] += small * between(-1.0, 1.0);
             break;
-        default: { // long ones that lean a little beside short ones that lean as far
+        default: { // long ones that lean a little next to short ones that lean as far
             const double length = upTo(1) == 0 ? between(-4000.0, 4000.0) : between(-0.01, 0.01);
             at[0] += small;
             at[1] += length;

@@ -159,6 +159,7 @@ TEST(SpaceCrossing, ofParallels) {
                            {"touching at the end", "0,0,0 4,0,0", "6,0,0 4,0,0", 3, "4,0,0"},
                            {"touching at the start", "0,0,0 4,0,0", "0,0,0 -3,0,0", 3, "0,0,0"},
                            {"start on the other end", "0,0,0 4,0,0", "-3,0,0 0,0,0", 3, "0,0,0"},
+                           {"touching at a height", "0,1,5 4,1,5", "6,1,5 4,1,5", 3, "4,1,5"},
                            {"b1 inside", "0,0,0 4,0,0", "3,0,0 9,0,0", -2, "3,0,0"},
                            {"b2 inside", "0,0,0 4,0,0", "9,0,0 3,0,0", -2, "3,0,0"},
                            // Neither end of a longer second lies inside, and that reads as a gap.
