@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <array>
+#include <random>
 
 namespace orvex::testing {
 
@@ -210,11 +211,57 @@ std::vector<Case> fortyCases() {
          "2/0/0/0"},
         {"33 too short", {bar(), wall({{0, -20}, {0, 70}})}, "0/0/0/1"},
         {"33 no length", {bar(), wall({{0, 0}, {0, 0}}), wall({{5, 5}}), wall({})}, "0/0/0/0"},
+        {"28 two closing segments",
+         {ring({{0, 0}, {4000, 0}, {4000, 4000}, {0, 4000}}),
+          ring({{1000, 1000}, {1000, 3000}, {-2000, 3000}, {-2000, 1000}})},
+         "1/0/0/1"},
+        {"29 wide and thin",
+         {bar(400), through(60, 50), stem(30, 1500, 50), wall({{-3000, 0}, {-3000, 3000}}, 100)},
+         "1/2/1/0"},
+        {"31 lopsided",
+         {{{{-3000, 0}, {3000, 0}}, {10, -190}}, {{{0, 3000}, {0, 70}}, {150, 0}}},
+         "0/1/0/0"},
+        {"32 before the axis", {{{{-3000, 0}, {3000, 0}}, {200, 0}}, stem(150)}, "0/1/0/0"},
         {"36 heights", {bar(), {{{0, -3000}, {0, 3000}}, {100, -100}, false, 5.0}}, "0/0/0/1"},
         {"36 normal", {bar(), {{{0, -3000}, {0, 3000}}, {100, -100}, false, 0.0, -1.0}}, "0/0/0/1"},
         {"37 two bars", {bar(), wall({{-3000, -300}, {3000, -300}}), stem(-110)}, "0/1/0/0"},
     };
     return cases;
+}
+
+// An end on the axis of a lopsided bar, or next to it, far out and at a small angle.
+TEST(PlanJoins, anEndNearTheAxisIsAnEndAtTheBar) {
+    const PlanVector far{1e6, -1e6};
+    for (const double beside : {0.0, 1e-9, -1e-9, 1e-6, -1e-6, 1e-3, -1e-3}) {
+        const PlanVector way = polar(15.0, 1.0);
+        const std::vector<WallSketch> plan{
+            {{far + PlanVector{-3000, 0}, far + PlanVector{3000, 0}}, {150, -50}},
+            wall({far + way * 4000.0, far + way * beside})};
+        EXPECT_EQ(countsOf(planJoins(wallsOf(plan), {})), "0/1/0/0") << beside;
+    }
+}
+
+// A flat, and the same flat drawn carelessly: ends short and over, a little skewed, half reversed.
+TEST(PlanJoins, aCarelessPlanHasTheMeetingsOfItsCleanTwin) {
+    const Plan clean = framed(false);
+    const std::string counts = countsOf(planJoins(wallsOf(clean), {}));
+    std::mt19937 random(40);
+    std::uniform_real_distribution<double> along(-80.0, 80.0);
+    std::uniform_real_distribution<double> beside(-15.0, 15.0);
+    for (int i = 0; i < 50; ++i) {
+        Plan plan = clean;
+        for (WallSketch& sketch : plan) {
+            const PlanVector way = sketch.points[1] - sketch.points[0];
+            const PlanVector unit = way * (1.0 / way.length());
+            for (PlanVector& point : sketch.points) {
+                point = point + unit * along(random) + unit.left() * beside(random);
+            }
+            if (random() % 2 == 0) {
+                std::swap(sketch.points[0], sketch.points[1]);
+            }
+        }
+        EXPECT_EQ(countsOf(planJoins(wallsOf(plan), {})), counts);
+    }
 }
 
 struct Change {
