@@ -89,6 +89,7 @@ void DeskPrompts::answerText(const QString& typed) {
 
 void DeskPrompts::answerClick(double worldX, double worldY, double unitsPerPixel) {
     const bool wantsPoint = m_loop != nullptr && (m_request->kind == PromptKind::entity ||
+                                                  m_request->kind == PromptKind::selection ||
                                                   m_request->kind == PromptKind::point);
     if (!wantsPoint) {
         return;

@@ -269,7 +269,7 @@ void MainWindow::showQuestion() {
     question.keywords = toQt(request.keywords);
     question.completions = question.keywords;
     const bool isText = request.kind == PromptKind::text;
-    const bool isPick = request.kind == PromptKind::entity;
+    const bool isPick = request.kind == PromptKind::entity || request.kind == PromptKind::selection;
     question.blank = isText   ? BlankKey::types
                      : isPick ? BlankKey::entersUnlessXy
                               : BlankKey::enters;

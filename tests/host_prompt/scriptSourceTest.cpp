@@ -88,6 +88,7 @@ TEST(Script, failsAtAnAnswerThatFitsNoPromptAndCancelsFromThenOn) {
     const std::vector<MisfitCase> cases{
         {PromptKind::entity, "1"},     {PromptKind::entity, "1,2,3,4"},
         {PromptKind::entity, "1,"},    {PromptKind::entity, "1,inf"},
+        {PromptKind::selection, "#"},  {PromptKind::selection, "2A"},
         {PromptKind::entity, "1,2 #"}, {PromptKind::entity, "1,2 #XY"},
         {PromptKind::entity, "#2A"},   {PromptKind::point, "1,2 #2A"},
         {PromptKind::point, "0x10,2"}, {PromptKind::keyword, "1,2"},
