@@ -14,7 +14,8 @@ namespace {
 // the bar.
 constexpr double kDoubtful = 0.125;
 constexpr double kShortOfAxis = 0.25;
-constexpr double kCrossings = 1e-9; // of the largest coordinate, around the axis
+constexpr unsigned kFirstMoving = 2; // the attempt from which ends are moved in any case
+constexpr double kCrossings = 1e-9;  // of the largest coordinate, around the axis
 
 struct PickedSide {
     const JoinPlace& place;
@@ -169,33 +170,41 @@ std::string_view toolOf(const JoinPlace& place) {
     }
 }
 
+// How far short of the joint an end is moved at an attempt, in widths of the other wall. Far from
+// the origin the tools' sense of the side that stays hangs on the last bit of a crossing, which
+// another length of the wall turns.
+double widthsShort(unsigned attempt) {
+    constexpr double kStep = 0.0703125;
+    return kShortOfAxis + (attempt > kFirstMoving ? kStep * (attempt - kFirstMoving) : 0.0);
+}
+
 // A stem whose end is a hair beside the bar's axis is refused by the tools: they take it neither
-// for short nor for running through.
-std::optional<PlanVector> endClearOfAxis(const JoinPlace& place, const JoinPair& walls,
-                                         bool always) {
-    const JoinSide& stem = place.first;
-    const PlanLine line = walls.first.axis(stem.segment);
-    const PlanLine bar = walls.second.axis(place.second.segment);
-    const double axis = line.crossing(bar);
-    const double end = stem.end == WallEnd::end ? line.length : 0.0;
-    const double width = 2.0 * walls.second.halfWidth(place.second.segment);
+// for short nor for running through. Where an end is moved to, clear of that.
+std::optional<PlanVector> endClearOfAxis(const JoinWall& wall, const JoinSide& side,
+                                         const JoinWall& otherWall, const JoinSide& other,
+                                         unsigned attempt) {
+    const PlanLine line = wall.axis(side.segment);
+    const double axis = line.crossing(otherWall.axis(other.segment));
+    const double end = side.end == WallEnd::end ? line.length : 0.0;
+    const double width = 2.0 * otherWall.halfWidth(other.segment);
     const double rounding =
-        kCrossings * std::max(walls.first.largestCoordinate(), walls.second.largestCoordinate());
-    if (!always && std::abs(end - axis) > std::max(kDoubtful * width, rounding)) {
+        kCrossings * std::max(wall.largestCoordinate(), otherWall.largestCoordinate());
+    if (attempt < kFirstMoving && std::abs(end - axis) > std::max(kDoubtful * width, rounding)) {
         return std::nullopt;
     }
-    const double back = std::max(kShortOfAxis * width, 4.0 * rounding);
-    return line.at(stem.end == WallEnd::end ? axis - back : axis + back);
+    const double back = std::max(widthsShort(attempt) * width, 4.0 * rounding);
+    const double to = side.end == WallEnd::end ? axis - back : axis + back;
+    return to > 0.0 && to < std::max(line.length, axis) ? std::optional(line.at(to)) : std::nullopt;
 }
 
 // Nearer to the end than to the middle of the segment.
-JoinEndMove moveOf(const JoinPlace& place, const JoinWall& stem, PlanVector to, JoinPick pick) {
-    const PlanLine track = stem.track(place.first.segment, 0);
+JoinEndMove moveOf(const JoinPlace& place, const JoinWall& wall, const JoinSide& side,
+                   PlanVector to, JoinPick pick) {
+    const PlanLine track = wall.track(side.segment, 0);
     for (const double fraction : {0.75, 0.7, 0.8, 0.65, 0.85, 0.6, 0.9}) {
-        const double at =
-            track.length * (place.first.end == WallEnd::end ? fraction : 1.0 - fraction);
+        const double at = track.length * (side.end == WallEnd::end ? fraction : 1.0 - fraction);
         const double around = 0.01 * track.length;
-        if (isDrawn(stem, place.first.segment, 0, at - around, at + around, 0.0)) {
+        if (isDrawn(wall, side.segment, 0, at - around, at + around, 0.0)) {
             pick.point = inWorld(track.at(at), place);
             break;
         }
@@ -215,7 +224,7 @@ std::optional<JoinSteps> joinSteps(const JoinPlace& place, const JoinWall& first
     const PlanLine other = second.track(place.second.segment, 0);
     const PlanLine axis = first.axis(place.first.segment);
     const PlanVector node = axis.at(axis.crossing(second.axis(place.second.segment)));
-    const bool isNear = attempt != 1;
+    const bool isNear = attempt % 2 == 0;
     const auto firstPick = pickOf(
         {place, first, place.first, shape.first[0], line.crossing(other), line.along(node), isNear},
         radius);
@@ -230,10 +239,18 @@ std::optional<JoinSteps> joinSteps(const JoinPlace& place, const JoinWall& first
     steps.first = *firstPick;
     steps.second = *secondPick;
     steps.aperture = radius;
-    if (place.kind == PlaceKind::tee) {
-        if (const auto clear = endClearOfAxis(place, {first, second}, attempt > 1)) {
-            steps.moves.push_back(moveOf(place, first, *clear, *firstPick));
+    const auto moveClear = [&](const JoinWall& wall, const JoinSide& side, const JoinWall& bar,
+                               const JoinSide& barSide, const JoinPick& pick) {
+        if (const auto clear = endClearOfAxis(wall, side, bar, barSide, attempt)) {
+            steps.moves.push_back(moveOf(place, wall, side, *clear, pick));
         }
+    };
+    if (place.kind == PlaceKind::tee ||
+        (place.kind == PlaceKind::corner && attempt >= kFirstMoving)) {
+        moveClear(first, place.first, second, place.second, *firstPick);
+    }
+    if (place.kind == PlaceKind::corner && attempt >= kFirstMoving) {
+        moveClear(second, place.second, first, place.first, *secondPick);
     }
     return steps;
 }

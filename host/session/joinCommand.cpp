@@ -124,7 +124,7 @@ void joinCommand(Session& session) {
     }
     JoinRun join(session, mlines, options);
     if (const auto failure = join.play()) {
-        print(failure->text);
+        rejectAnswer(widen(failure->text));
         return;
     }
     join.giveBack();
