@@ -116,14 +116,29 @@ struct SideChange {
     const std::vector<ElementShape>* shape = nullptr;
 };
 
+// A long bar has many stops, and a joint changes few of its lines.
+bool isUntouched(const JoinWall& before, const JoinWall& now, unsigned segment, unsigned element) {
+    const unsigned next = now.nextVertex(segment);
+    return before.position(segment, element) == now.position(segment, element) &&
+           before.position(next, element) == now.position(next, element) &&
+           std::ranges::equal(before.stops(segment, element), now.stops(segment, element));
+}
+
 void renewWall(const JoinWall& before, const JoinWall& now, unsigned wall, double slack,
                std::span<const SideChange> changes, std::vector<RenewedStops>& renewed) {
     for (unsigned s = 0; s < now.segmentCount(); ++s) {
         for (unsigned e = 0; e < now.elementCount(); ++e) {
+            const auto changesLine = [s, e](const SideChange& change) {
+                return change.side->segment == s &&
+                       (*change.shape)[e].rule == ElementShape::Rule::open;
+            };
+            if (std::ranges::none_of(changes, changesLine) && isUntouched(before, now, s, e)) {
+                continue;
+            }
             TargetSpans target(before, now, s, e, slack);
             for (const SideChange& change : changes) {
                 const ElementShape& shape = (*change.shape)[e];
-                if (change.side->segment == s && shape.rule == ElementShape::Rule::open) {
+                if (changesLine(change)) {
                     target.produce(change.side->end);
                     target.open(shape.from, shape.to);
                 }

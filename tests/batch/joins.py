@@ -262,6 +262,74 @@ def check_cases(report, program, folder, way):
     report.check(again.read_bytes() == out.read_bytes(), f"{way}: a second run changes bytes")
 
 
+def check_kinds(report, program, folder):
+    """Every kind of cross and tee, by call and by command, and taken back."""
+    plan, out, played = (folder / name for name in ("plan.dxf", "out.dxf", "played.dxf"))
+    walls = grid() + [Wall((-8000, -6000), (8000, -6000)), Wall((-6000, 4000), (-6000, -6050), width=300)]
+    draw(plan, [(wall, 0, 0, i % 2) for i, wall in enumerate(walls)])
+    for kind in ("closed", "open", "merged", "none"):
+        got = joined(program, plan, "--cross", kind, "--tee", kind, "--corners", "no", "--output", out)
+        wanted = "unasked" if kind == "none" else "joined"
+        report.check(got["counts"][wanted] == 17 == len(got["joints"]), f"{kind}: {got['counts']}")
+        # Whatever the kind was, it is joined for any other.
+        again = joined(program, out)["counts"]
+        report.check(again["already" if kind != "none" else "joined"] == 17, f"{kind}, again: {again}")
+        script = f"MLJOIN\n\nCross\n{kind}\nT\n90\nTee\n{kind}\nCO\nno\n\n"
+        play(program, plan, script, played)
+        report.check(played.read_bytes() == out.read_bytes(), f"{kind}: MLJOIN makes other bytes than join")
+        play(program, plan, script + "U\n", played)
+        report.check(played.read_bytes() == plan.read_bytes(), f"{kind}: U doesn't take MLJOIN back")
+    handles = joined(program, plan)["joints"][0]["handles"]
+    run = play(program, plan, "MLJOIN\n#" + "\n#".join(handles) + "\n\n\n", played)
+    report.check("1 joined, 0 left." in run.stdout, f"two walls selected: {run.stdout[-80:]}")
+
+
+def check_layers(report, program, folder):
+    plan = folder / "plan.dxf"
+    document = ezdxf.new("R2000")
+    for name in ("walls", "frozen", "locked", "off"):
+        layer = document.layers.add(name)
+        if name != "walls":
+            {"frozen": layer.freeze, "locked": layer.lock, "off": layer.off}[name]()
+        for points in (((-50, 0), (50, 0)), ((0, -50), (0, 50))):
+            document.modelspace().add_mline(points, dxfattribs={"layer": name})
+    document.saveas(plan)
+    for options in ([], ["--layer", "WALLS"], ["--layer", "walls", "--layer", "frozen", "--layer", "frozen"]):
+        run = call(program, "join", plan, "--json", *options)
+        report.check(json.loads(run.stdout)["counts"]["joined"] == 1, f"{options}: {run.stdout}")
+        told = run.stderr.count("'frozen'")
+        report.check(told == len(options) // 5, f"{options}: a withheld layer is told {told} times")
+    report.check(joined(program, plan, "--layer", "locked")["joints"] == [], "a locked layer is joined")
+
+
+def check_odd_input(report, program, folder):
+    """What can't be called, and what there is nothing to join in."""
+    plan, out, script = (folder / name for name in ("plan.dxf", "out.dxf", "join.scr"))
+    draw(plan, [])
+    got = joined(program, plan, "--output", out, "--save-script", script)
+    report.check(got["joints"] == [] and not any(got["counts"].values()), f"an empty drawing: {got}")
+    report.check(out.read_bytes() == plan.read_bytes(), "an empty drawing isn't kept")
+    draw(plan, [(wall, 0, 0, False) for wall in frame()])
+    out.unlink()
+    script.unlink()
+    before = plan.read_bytes()
+    wrong = [("--tolerance", text) for text in ("-1", "wide", "nan", "1e999", "")]
+    wrong += [("--cross", "big"), ("--tee", "corner"), ("--corners", "maybe"), ("--layer", "nowhere")]
+    for option in wrong:
+        run = call(program, "join", plan, *option, "--output", out, "--save-script", script)
+        report.check(run.returncode == 2 and run.stderr.startswith("orvex-batch: "), f"{option}: {run.returncode}")
+    run = call(program, "join", plan, "--module", folder / "nowhere.omx", "--output", out)
+    report.check(run.returncode == 5, f"no module: {run.returncode}")
+    run = call(program, "join", plan, "--output", folder / "nowhere" / "out.dxf", "--save-script", script)
+    report.check(run.returncode == 4, f"no folder: {run.returncode}")
+    report.check(not out.exists() and not script.exists(), "something was left behind")
+    joined(program, plan)
+    report.check(plan.read_bytes() == before, "a look changes the drawing")
+    plan.write_bytes(before.replace(b"AcDbMlineStyle", b"AcDbNoStyleAtAll"))
+    run = call(program, "join", plan)
+    report.check(run.returncode == 0, f"without a style: {run.stderr}")
+
+
 def main():
     program = pathlib.Path(sys.argv[1])
     report = Report()
@@ -269,6 +337,9 @@ def main():
         folder = pathlib.Path(scratch)
         for way in WAYS:
             check_cases(report, program, folder, way)
+        check_kinds(report, program, folder)
+        check_layers(report, program, folder)
+        check_odd_input(report, program, folder)
     report.finish()
 
 
