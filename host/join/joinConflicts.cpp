@@ -48,7 +48,9 @@ struct EndPlace {
     WallEnd end = WallEnd::none;
     unsigned place = 0;
 
-    friend auto operator<=>(const EndPlace&, const EndPlace&) = default;
+    friend bool operator<(const EndPlace& a, const EndPlace& b) {
+        return std::tie(a.wall, a.end, a.place) < std::tie(b.wall, b.end, b.place);
+    }
     [[nodiscard]] bool sameEnd(const EndPlace& other) const {
         return wall == other.wall && end == other.end;
     }

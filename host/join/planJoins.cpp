@@ -90,7 +90,7 @@ public:
         return true;
     }
     [[nodiscard]] bool overlap(const JoinPlace& place) const {
-        return m_overlaps.count({place.walls.front(), place.walls.back()}) > 0;
+        return m_overlaps.contains({place.walls.front(), place.walls.back()});
     }
 
 private:
