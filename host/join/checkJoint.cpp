@@ -43,6 +43,7 @@ public:
         const PlanLine is = now.track(segment, element);
         const double shift = is.along(was.start);
         const auto list = before.stops(segment, element);
+        m_spans.reserve(list.size() / 2 + 2);
         for (std::size_t i = 0; i < list.size(); i += 2) {
             // What begins or ends with the segment goes on doing so.
             const double from = std::abs(list[i]) <= slack ? 0.0 : list[i] + shift;
@@ -63,6 +64,7 @@ public:
 
     void open(double from, double to) {
         std::vector<DrawnSpan> rest;
+        rest.reserve(m_spans.size() + 1);
         for (const DrawnSpan& span : m_spans) {
             if (std::min(span.to, from) - span.from > m_slack) {
                 rest.push_back({span.from, std::min(span.to, from)});
