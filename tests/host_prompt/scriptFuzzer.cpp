@@ -6,8 +6,9 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using orvex::PromptKind;
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    for (const PromptKind kind : {PromptKind::command, PromptKind::keyword, PromptKind::entity,
-                                  PromptKind::point, PromptKind::real, PromptKind::text}) {
+    for (const PromptKind kind :
+         {PromptKind::command, PromptKind::keyword, PromptKind::entity, PromptKind::selection,
+          PromptKind::point, PromptKind::real, PromptKind::text}) {
         orvex::ScriptSource script(text, [](const std::wstring&) {});
         orvex::PromptRequest request;
         request.kind = kind;
