@@ -26,11 +26,11 @@ public:
     // Whole commands.
     void view(const KdGePoint3d& center, double height);
     void pickBox(int pixels);
-    void moveEnd(const KdGePoint3d& pick, std::uint64_t handle, const KdGePoint3d& to);
+    void moveEnd(const KdGePoint3d& at, std::uint64_t entity, const KdGePoint3d& to);
     void tool(std::string_view keyword, const KdGePoint3d& first, std::uint64_t firstHandle,
               const KdGePoint3d& second, std::uint64_t secondHandle);
-    void layRight(std::uint64_t handle);
-    void stops(std::uint64_t handle, unsigned segment, unsigned element,
+    void layRight(std::uint64_t entity);
+    void stops(std::uint64_t entity, unsigned segment, unsigned element,
                std::span<const double> distances);
 
     void append(const JoinScript& other) { m_text += other.m_text; }
