@@ -8,6 +8,7 @@
 #include "layRight.h"
 #include "mlineEdits.h"
 #include "moveEnd.h"
+#include "userFrame.h"
 
 #include <algorithm>
 #include <cmath>
@@ -99,7 +100,9 @@ void JoinRun::setAperture(double aperture, JoinScript& script) {
 bool JoinRun::moveEnds(const JoinSteps& steps, JoinScript& script) {
     for (const JoinEndMove& move : steps.moves) {
         const Content before = contentOf(move.pick.wall);
-        Result<MlineContent> moved = moveEnd(*before, nearerEnd(*before, move.pick.point), move.to);
+        // As the script's point in the user coordinate system reads back, to the bit.
+        const KdGePoint3d to = userToWorld(worldToUser(move.to));
+        Result<MlineContent> moved = moveEnd(*before, nearerEnd(*before, move.pick.point), to);
         if (!moved) {
             return false;
         }

@@ -1,8 +1,7 @@
 #include "JoinScript.h"
 
-#include "coordinateFrames.h"
 #include "handleText.h"
-#include "resbuf.h"
+#include "userFrame.h"
 
 #include <array>
 #include <charconv>
@@ -17,21 +16,10 @@ std::string numberText(double value) {
     return {digits.data(), result.ptr};
 }
 
-resbuf frame(short number) {
-    resbuf buffer;
-    buffer.restype = kResultShort;
-    buffer.resval.rint = number;
-    return buffer;
-}
-
 std::string pointText(const KdGePoint3d& world) {
-    const resbuf from = frame(0);
-    const resbuf to = frame(1);
-    const double in[3] = {world.x, world.y, world.z};
-    double out[3] = {world.x, world.y, world.z};
-    kdedTrans(in, &from, &to, 0, out);
-    const std::string plan = numberText(out[0]) + ',' + numberText(out[1]);
-    return out[2] == 0.0 ? plan : plan + ',' + numberText(out[2]);
+    const KdGePoint3d user = worldToUser(world);
+    const std::string plan = numberText(user.x) + ',' + numberText(user.y);
+    return user.z == 0.0 ? plan : plan + ',' + numberText(user.z);
 }
 
 // As picks name an entity.

@@ -284,6 +284,23 @@ def check_kinds(report, program, folder):
     report.check("1 joined, 0 left." in run.stdout, f"two walls selected: {run.stdout[-80:]}")
 
 
+def check_frames(report, program, folder):
+    """A turned user coordinate system, in which the script's points are, changes nothing."""
+    plan, out, script, again = (folder / name for name in ("plan.dxf", "out.dxf", "join.scr", "again.dxf"))
+    walls = frame(-150) + inner() + [stem(0, x=500)]
+    draw(plan, [(wall, 1e5 / 3, 0, False) for wall in walls])
+    document = ezdxf.readfile(plan)
+    document.header["$UCSORG"] = (11.1, -7.7, 0)
+    document.header["$UCSXDIR"] = (*at_angle(37, 1), 0)
+    document.header["$UCSYDIR"] = (*at_angle(127, 1), 0)
+    document.saveas(plan)
+    counts = joined(program, plan, "--output", out, "--save-script", script)["counts"]
+    report.check(counts["joined"] > 12 and counts["left"] == 0, f"in a turned system: {counts}")
+    report.check("MLEND" in script.read_text(), "no end is moved in a turned system")
+    call(program, "run", plan, "--script", script, "--output", again)
+    report.check(again.read_bytes() == out.read_bytes(), "the script makes other bytes in a turned system")
+
+
 def check_layers(report, program, folder):
     plan = folder / "plan.dxf"
     document = ezdxf.new("R2000")
@@ -338,6 +355,7 @@ def main():
         for way in WAYS:
             check_cases(report, program, folder, way)
         check_kinds(report, program, folder)
+        check_frames(report, program, folder)
         check_layers(report, program, folder)
         check_odd_input(report, program, folder)
     report.finish()
