@@ -4,7 +4,7 @@
 #include "DatabaseCore.h"
 #include "DrawingFile.h"
 #include "KdDocument.h"
-#include "styleUse.h"
+#include "styleNames.h"
 
 #include <benchmark/benchmark.h>
 

@@ -3,9 +3,9 @@
 The union is made by an independent polygon library on integers about the plan's middle.
 """
 
-import math
-
 import pyclipper
+
+from plans import free_ends, outline
 
 UNITS = 1e5  # integers to a drawing unit
 EPSILON = 2e-3  # drawing units
@@ -15,20 +15,11 @@ def scaled(points, centre):
     return [(round((p.real - centre.real) * UNITS), round((p.imag - centre.imag) * UNITS)) for p in points]
 
 
-def union(outlines, centre):
-    """Edges of the union as pairs of complex points about the centre, in drawing units."""
+def union(plan):
+    """Edges of the union as pairs of complex points about the plan's centre, in drawing units, and its paths."""
     clipper = pyclipper.Pyclipper()
-    for loops in outlines:
-        paths = [scaled(loop, centre) for loop in loops]
-        paths.sort(key=lambda path: -abs(pyclipper.Area(path)))
-        if len(paths) == 2:
-            ring = pyclipper.Pyclipper()
-            ring.AddPath(paths[0], pyclipper.PT_SUBJECT, True)
-            ring.AddPath(paths[1], pyclipper.PT_CLIP, True)
-            paths = ring.Execute(pyclipper.CT_DIFFERENCE, pyclipper.PFT_NONZERO, pyclipper.PFT_NONZERO)
-        else:
-            paths = [path if pyclipper.Orientation(path) else path[::-1] for path in paths]
-        clipper.AddPaths(paths, pyclipper.PT_SUBJECT, True)
+    for wall in plan.walls:
+        clipper.AddPaths(strip_paths(wall, plan.centre), pyclipper.PT_SUBJECT, True)
     paths = clipper.Execute(pyclipper.CT_UNION, pyclipper.PFT_NONZERO, pyclipper.PFT_NONZERO)
     edges = []
     for path in paths:
@@ -37,7 +28,34 @@ def union(outlines, centre):
     return edges, paths
 
 
-def drawn(multiline, offsets, centre, elements):
+def strip_paths(wall, centre):
+    """The area of a wall's strip: one path, or outer and inner path of a ring."""
+    paths = [scaled(loop, centre) for loop in outline(wall)]
+    paths.sort(key=lambda path: -abs(pyclipper.Area(path)))
+    if len(paths) == 1:
+        return [path if pyclipper.Orientation(path) else path[::-1] for path in paths]
+    ring = pyclipper.Pyclipper()
+    ring.AddPath(paths[0], pyclipper.PT_SUBJECT, True)
+    ring.AddPath(paths[1], pyclipper.PT_CLIP, True)
+    return ring.Execute(pyclipper.CT_DIFFERENCE, pyclipper.PFT_NONZERO, pyclipper.PFT_NONZERO)
+
+
+def overlaps(plan):
+    """The areas that two strips share, their edges included: there the upper wall of a closed joint goes on."""
+    strips = [strip_paths(wall, plan.centre) for wall in plan.walls]
+    shared = []
+    for i, first in enumerate(strips):
+        for second in strips[i + 1:]:
+            both = pyclipper.Pyclipper()
+            both.AddPaths(first, pyclipper.PT_SUBJECT, True)
+            both.AddPaths(second, pyclipper.PT_CLIP, True)
+            shared += both.Execute(pyclipper.CT_INTERSECTION, pyclipper.PFT_NONZERO, pyclipper.PFT_NONZERO)
+    grown = pyclipper.PyclipperOffset()
+    grown.AddPaths(shared, pyclipper.JT_MITER, pyclipper.ET_CLOSEDPOLYGON)
+    return grown.Execute(EPSILON * UNITS)
+
+
+def drawn(multiline, centre, elements):
     """The drawn stretches of some elements, as pairs of complex points about the centre."""
     vertices = multiline["vertices"]
     closed = bool(multiline["flags"] & 2)
@@ -93,25 +111,24 @@ def near(place, forgiven):
 
 def differences(plan, listing, forgiven=(), upper=()):
     """What a joined plan draws wrongly: lines of text. `forgiven`: (place, radius) of places that were left apart;
-    `upper`: polygons within which more may be drawn than the outline."""
+    `upper`: paths within which more may be drawn than the outline."""
     centre = plan.centre
-    from plans import free_ends, outline
-    edges, paths = union([outline(wall) for wall in plan.walls], centre)
+    edges, paths = union(plan)
     caps = [(a - centre, b - centre) for wall in plan.walls for a, b in free_ends(wall)]
     styles = {style["name"]: [e["offset"] for e in style["elements"]] for style in listing["styles"]}
     outer, inner = [], []
     for multiline in listing["multilines"]:
         offsets = styles[multiline["style"]]
         ends = {offsets.index(max(offsets)), offsets.index(min(offsets))}
-        outer += drawn(multiline, offsets, centre, ends)
-        inner += drawn(multiline, offsets, centre, set(range(len(offsets))) - ends)
+        outer += drawn(multiline, centre, ends)
+        inner += drawn(multiline, centre, set(range(len(offsets))) - ends)
     forgiven = [(place - centre, radius) for place, radius in forgiven]
     wrong = []
     for what, some, others in (("drawn, but no outline", outer, edges), ("outline, but not drawn", edges, outer + caps)):
         for piece in some:
             for a, b in uncovered(piece, others):
                 middle = (a + b) / 2
-                if near(middle, forgiven) or any(inside(middle, polygon, centre) for polygon in upper):
+                if near(middle, forgiven) or covers(upper, middle):
                     continue
                 wrong.append(f"{what}: {abs(b - a):.4f} at {middle + centre:.3f}")
     for a, b in inner:
@@ -123,6 +140,7 @@ def differences(plan, listing, forgiven=(), upper=()):
 
 
 def covers(paths, place):
+    """Whether a place lies in one of the paths or on its edge; holes count as outside."""
     count = 0
     point = (round(place.real * UNITS), round(place.imag * UNITS))
     for path in paths:
@@ -131,7 +149,3 @@ def covers(paths, place):
             return True
         count += where
     return count % 2 == 1
-
-
-def inside(place, polygon, centre):
-    return pyclipper.PointInPolygon((round(place.real * UNITS), round(place.imag * UNITS)), scaled(polygon, centre)) != 0

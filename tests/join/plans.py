@@ -251,7 +251,6 @@ def segment_met(wall, start, stop):
         if abs(det) < 1e-9:
             continue
         along = ((a - start).conjugate() * (b - a)).imag / det
-        across = -((start - a).conjugate() * direction).imag / -det if det else 0
         across = ((direction.conjugate() * (start - a)).imag) / det
         if 0.2 < along <= 1 and 0.05 < across < 0.95:
             return index

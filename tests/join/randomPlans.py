@@ -49,7 +49,7 @@ def check_plan(program, seed, folder):
         wrong.append(f"{len(report['joints'])} places found for {plan.joints}")
     width = max(wall.half() for wall in plan.walls) * 2
     forgiven = [(complex(*joint["at"][:2]), 6 * width) for joint in report["joints"] if joint["result"] == "left"]
-    upper = [loop for wall in plan.walls for loop in plans.outline(wall)] if "closed" in kinds else []
+    upper = outlines.overlaps(plan) if "closed" in kinds else []
     listing = json.loads(call(program, "list", joined, "--json").stdout)
     wrong += outlines.differences(plan, listing, forgiven, upper)
 
