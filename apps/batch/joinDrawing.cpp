@@ -12,12 +12,28 @@
 #include "textCodec.h"
 #include "verbs.h"
 
+#include <filesystem>
+
 namespace orvex {
 
 namespace {
 
-// What stands in the drawing where nothing was changed is that drawing's to say; here it is told
-// which of the named layers take no part.
+bool isSameFile(const std::string& a, const std::string& b) {
+    std::error_code ignored;
+    return a == b || std::filesystem::equivalent(a, b, ignored);
+}
+
+// A script in a drawing's place would be the drawing's end.
+std::optional<Failure> checkScriptName(const JoinCall& call) {
+    const bool isDrawing =
+        call.saveScript && (isSameFile(*call.saveScript, call.drawing) ||
+                            (call.output && isSameFile(*call.saveScript, *call.output)));
+    return isDrawing ? std::optional(Failure{FailureCause::wrongCall, *call.saveScript, 0,
+                                             "the script can't be saved over a drawing"})
+                     : std::nullopt;
+}
+
+// Prints which of the named layers take no part.
 Result<std::vector<KdDbStub*>> chosenMlines(Session& session, const JoinCall& call) {
     std::vector<std::wstring> layers;
     for (const std::string& layer : call.layers) {
@@ -66,6 +82,9 @@ std::optional<Failure> saveResults(Session& session, JoinRun& join, const JoinCa
 } // namespace
 
 std::optional<Failure> joinDrawing(const JoinCall& call) {
+    if (auto failure = checkScriptName(call)) {
+        return failure;
+    }
     auto drawing = openDrawing(call.drawing);
     if (!drawing) {
         return drawing.failure();

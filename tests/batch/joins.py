@@ -335,6 +335,9 @@ def check_odd_input(report, program, folder):
     for option in wrong:
         run = call(program, "join", plan, *option, "--output", out, "--save-script", script)
         report.check(run.returncode == 2 and run.stderr.startswith("orvex-batch: "), f"{option}: {run.returncode}")
+    for over in (plan, out):
+        run = call(program, "join", plan, "--output", out, "--save-script", over)
+        report.check(run.returncode == 2, f"a script over a drawing: {run.returncode}")
     run = call(program, "join", plan, "--module", folder / "nowhere.omx", "--output", out)
     report.check(run.returncode == 5, f"no module: {run.returncode}")
     run = call(program, "join", plan, "--output", folder / "nowhere" / "out.dxf", "--save-script", script)
