@@ -92,7 +92,7 @@ void firstWalk(benchmark::State& state) {
         {
             OpenDrawing drawing(state);
             state.ResumeTiming();
-            if (isStyleUsed(L"NONE")) {
+            if (mledit::isStyleUsed(L"NONE")) {
                 state.SkipWithError("no multiline has this style");
             }
             state.PauseTiming();
@@ -105,11 +105,11 @@ void firstWalk(benchmark::State& state) {
 void laterWalks(benchmark::State& state) {
     OpenDrawing drawing(state);
     // In use are all but the one that is asked for.
-    if (isStyleUsed(L"STYLE0") != (state.range(1) > 0)) {
+    if (mledit::isStyleUsed(L"STYLE0") != (state.range(1) > 0)) {
         state.SkipWithError("the multilines have no styles");
     }
     for ([[maybe_unused]] const auto _ : state) {
-        benchmark::DoNotOptimize(isStyleUsed(L"NONE"));
+        benchmark::DoNotOptimize(mledit::isStyleUsed(L"NONE"));
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
@@ -123,7 +123,7 @@ void walksOverObjects(benchmark::State& state) {
         }
     }
     for ([[maybe_unused]] const auto _ : state) {
-        benchmark::DoNotOptimize(isStyleUsed(L"NONE"));
+        benchmark::DoNotOptimize(mledit::isStyleUsed(L"NONE"));
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
