@@ -2,6 +2,7 @@
 
 #include "Scene.h"
 #include "batchFiles.h"
+#include "partlyDrawnText.h"
 #include "pictureWriter.h"
 #include "verbs.h"
 
@@ -40,7 +41,11 @@ std::optional<Failure> showDrawing(const ShowCall& call) {
 
     return withMemory(FailureCause::unwritableOutput, call.output, [&] {
         Scene scene((*drawing)->database());
-        return writePicture(scene, call.output, call.size);
+        auto failure = writePicture(scene, call.output, call.size);
+        if (const auto partlyDrawn = scene.partlyDrawn(); !failure && !partlyDrawn.empty()) {
+            complain(call.drawing + ": warning: " + partlyDrawnText(partlyDrawn));
+        }
+        return failure;
     });
 }
 

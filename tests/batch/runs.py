@@ -9,6 +9,7 @@ import pathlib
 import sys
 import tempfile
 
+import ezdxf
 from program import Report, call, listed, make_drawing, play
 
 
@@ -113,12 +114,28 @@ class Runs:
             self.expect("show", (run.returncode, run.stderr), (0, ""))
             self.report.check(picture.exists() and picture.read_bytes().startswith(start), f"no picture {ending}")
 
+    # A tower of blocks that doubles at each floor has more lines than anybody draws: its picture comes with a warning.
+    def partly_drawn(self):
+        document = ezdxf.new("R2000")
+        document.blocks.new("FLOOR0").add_line((0, 0), (1, 1))
+        for floor in range(1, 34):
+            block = document.blocks.new(f"FLOOR{floor}")
+            for place in (0, 2**floor):
+                block.add_blockref(f"FLOOR{floor - 1}", (place, 0))
+        tower = document.modelspace().add_blockref("FLOOR33", (0, 0))
+        drawing = self.folder / "tower.dxf"
+        document.saveas(drawing)
+        run = call(self.program, "show", drawing, "--output", self.folder / "tower.png", "--size", "320x240")
+        self.expect("partly drawn", run.returncode, 0)
+        warning = f"orvex-batch: {drawing}: warning: "
+        self.report.check(run.stderr.startswith(warning) and f"insert #{tower.dxf.handle}\n" in run.stderr, run.stderr)
+
 
 def main():
     with tempfile.TemporaryDirectory() as scratch:
         runs = Runs(sys.argv[1], pathlib.Path(scratch))
         for run in (runs.cut, runs.cut_and_save_in_place, runs.draw_and_cross, runs.picks, runs.list_text,
-                    runs.json_numbers, runs.pictures):
+                    runs.json_numbers, runs.pictures, runs.partly_drawn):
             run()
         runs.report.finish()
 
