@@ -188,10 +188,19 @@ def check_tests(tree):
     return complaints
 
 
+def check_programs(tree):
+    """A room's test program is <room>_test and a fuzzer <name>_fuzzer, as their labels in CTest are."""
+    pattern = re.compile(r"^\s*orvex_(test|fuzzer)\((\w+)", re.MULTILINE)
+    return [f"{path.relative_to(tree)}: {name} doesn't end with _{kind}"
+            for path in sorted((tree / "tests").rglob("CMakeLists.txt"))
+            for kind, name in pattern.findall(path.read_text(encoding="utf-8"))
+            if not name.endswith("_" + kind)]
+
+
 def main():
     tree = pathlib.Path(sys.argv[1]).resolve()
     headers, files = collect(tree)
-    complaints = check_spelling(tree, files) + check_names(tree) + check_tests(tree)
+    complaints = check_spelling(tree, files) + check_names(tree) + check_tests(tree) + check_programs(tree)
     tried = 0
     with concurrent.futures.ThreadPoolExecutor(2) as pool:
         tasks = []
