@@ -37,6 +37,16 @@ void elementBreaksCommand(Session& session);
 // A selection, all when it is empty, and options: joins multilines where they meet.
 void joinCommand(Session& session);
 
+// A selection of any entities: takes them out of model space.
+void eraseCommand(Session& session);
+// A selection, a base point, a second point, COPY until an empty line: shifts, or shifted copies.
+void moveCommand(Session& session);
+void copyCommand(Session& session);
+// A selection, a base point, degrees counter-clockwise.
+void rotateCommand(Session& session);
+// A selection, two points of a line: replaced by their mirror images.
+void mirrorCommand(Session& session);
+
 // Tells the current source that its last answer can't be taken.
 void rejectAnswer(const std::wstring& reason);
 

@@ -10,10 +10,19 @@ namespace orvex {
 namespace {
 
 constexpr std::array kCommands = {
-    HostCommand{L"MLAUDIT", auditCommand},      HostCommand{L"MLEND", moveEndCommand},
-    HostCommand{L"MLINE", mlineCommand},        HostCommand{L"MLJOIN", joinCommand},
-    HostCommand{L"MLLAY", layRightCommand},     HostCommand{L"MLSTOPS", elementBreaksCommand},
-    HostCommand{L"SETVAR", setVariableCommand}, HostCommand{L"ZOOM", zoomCommand},
+    HostCommand{L"COPY", copyCommand},
+    HostCommand{L"ERASE", eraseCommand},
+    HostCommand{L"MIRROR", mirrorCommand},
+    HostCommand{L"MLAUDIT", auditCommand},
+    HostCommand{L"MLEND", moveEndCommand},
+    HostCommand{L"MLINE", mlineCommand},
+    HostCommand{L"MLJOIN", joinCommand},
+    HostCommand{L"MLLAY", layRightCommand},
+    HostCommand{L"MLSTOPS", elementBreaksCommand},
+    HostCommand{L"MOVE", moveCommand},
+    HostCommand{L"ROTATE", rotateCommand},
+    HostCommand{L"SETVAR", setVariableCommand},
+    HostCommand{L"ZOOM", zoomCommand},
 };
 
 } // namespace

@@ -1,0 +1,65 @@
+#include "editMlines.h"
+
+#include "DatabaseCore.h"
+#include "KdDbMline.h"
+#include "commandOutput.h"
+#include "handleText.h"
+#include "mlineEdits.h"
+#include "promptLibrary.h"
+#include "promptStatus.h"
+#include "textCodec.h"
+#include "userFrame.h"
+
+namespace orvex {
+
+void editEach(const std::vector<KdDbStub*>& mlines, const MlineEdit& edit,
+              const std::string& done) {
+    std::size_t count = 0;
+    for (KdDbStub* const mline : mlines) {
+        const std::shared_ptr<const MlineContent> content = contentOf(*mline);
+        if (content == nullptr) {
+            tellRefusal(*mline, "it can't be read");
+            continue;
+        }
+        Result<MlineContent> edited = edit(*content);
+        if (!edited) {
+            tellRefusal(*mline, edited.failure().text);
+            continue;
+        }
+        count += storeContent(*mline, std::move(*edited)) ? 1 : 0;
+    }
+    tellCount(count, mlines.size(), done);
+}
+
+void tellRefusal(const KdDbStub& mline, const std::string& why) {
+    const std::string line = "multiline " + handleText(mline.handle) + " left as it is: " + why;
+    kdutPrintf(L"%ls", widen(line).c_str());
+}
+
+void tellCount(std::size_t count, std::size_t all, const std::string& done) {
+    const std::string line =
+        std::to_string(count) + " of " + std::to_string(all) + " multilines " + done + ".";
+    kdutPrintf(L"%ls", widen(line).c_str());
+}
+
+KdDbStub& addMline(const KdDbStub& original, MlineContent content) {
+    DatabaseCore& core = *original.database;
+    auto mline = std::make_unique<KdDbMline>();
+    mline->setContent(std::make_shared<MlineContent>(std::move(content)));
+    BlockEntities& block = *core.blockOf(original);
+    KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, block.record);
+    core.appendEntity(block, stub);
+    return stub;
+}
+
+std::optional<KdGePoint3d> askPoint(const wchar_t* prompt, const std::optional<KdGePoint3d>& base) {
+    const KdGePoint3d from = base ? worldToUser(*base) : KdGePoint3d();
+    const double start[3] = {from.x, from.y, from.z};
+    double point[3] = {0.0, 0.0, 0.0};
+    if (kdedGetPoint(base ? start : nullptr, prompt, point) != kPromptNormal) {
+        return std::nullopt;
+    }
+    return userToWorld({point[0], point[1], point[2]});
+}
+
+} // namespace orvex

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Failure.h"
+#include "KdGePoint3d.h"
+#include "MlineContent.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+struct KdDbStub;
+
+namespace orvex {
+
+// What commands that change multilines share: their questions, and what they tell.
+
+using MlineEdit = std::function<Result<MlineContent>(const MlineContent&)>;
+
+// Changes each, and tells those that the edit refuses, which stay as they are; at last how many of
+// how many are now what `done` says: "2 of 3 multilines moved."
+void editEach(const std::vector<KdDbStub*>& mlines, const MlineEdit& edit, const std::string& done);
+
+// "multiline 2F left as it is: why"
+void tellRefusal(const KdDbStub& mline, const std::string& why);
+
+// "2 of 3 multilines moved."
+void tellCount(std::size_t count, std::size_t all, const std::string& done);
+
+// A new entity in the block of `original`.
+KdDbStub& addMline(const KdDbStub& original, MlineContent content);
+
+// In world coordinates; a window draws a line from `base`. Nothing for an empty line or a cancel.
+std::optional<KdGePoint3d> askPoint(const wchar_t* prompt,
+                                    const std::optional<KdGePoint3d>& base = std::nullopt);
+
+} // namespace orvex

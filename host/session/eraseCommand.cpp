@@ -1,0 +1,32 @@
+// ERASE: takes entities of any kind out of model space.
+
+#include "DatabaseCore.h"
+#include "HostCommand.h"
+#include "KdDbDatabase.h"
+#include "Session.h"
+#include "commandOutput.h"
+#include "selection.h"
+
+namespace orvex {
+
+void eraseCommand(Session& session) {
+    const std::optional<Selection> selection = askSelection(session, SelectionKind::entities);
+    if (!selection || selection->entities.empty()) {
+        return;
+    }
+    DatabaseCore& core = session.database().core();
+    const BlockEntities& space = core.modelSpace();
+    std::size_t count = 0;
+    for (KdDbStub* const entity : selection->entities) {
+        if (core.blockOf(*entity) == &space) {
+            core.erase(*entity);
+            ++count;
+        }
+    }
+    if (const std::size_t others = selection->entities.size() - count; others > 0) {
+        kdutPrintf(L"%ls", (std::to_wstring(others) + L" outside of model space left.").c_str());
+    }
+    kdutPrintf(L"%ls", (std::to_wstring(count) + L" erased.").c_str());
+}
+
+} // namespace orvex

@@ -1,0 +1,122 @@
+#!/usr/bin/python3
+"""Commands that change what is drawn: edits.py PROGRAM
+
+Each plan has other entities, a locked layer and a gap; each run is undone again.
+"""
+
+import json
+import pathlib
+import sys
+import tempfile
+
+import ezdxf
+
+from program import Report, call, listed, play
+
+
+def chain(mline):
+    return [vertex["position"][:2] for vertex in mline["vertices"]]
+
+
+def line(mline, vertex, element):
+    return mline["vertices"][vertex]["elements"][element]["line"]
+
+
+def make_plan(path):
+    """Walls along x at y 0, with a gap, 20 and 40 (locked), a line and a circle."""
+    document = ezdxf.new("R2000")
+    document.layers.add("KEEP").lock()
+    space = document.modelspace()
+    for y, layer in ((0, "0"), (20, "0"), (40, "KEEP")):
+        wall = space.add_mline([(0, y), (100, y)], dxfattribs={"justification": 1, "layer": layer})
+        if y == 0:
+            wall.vertices[0].line_params = [(0.5, 0.0, 30.0, 40.0), (-0.5, 0.0)]
+    space.add_line((0, 60), (100, 60))
+    space.add_circle((50, 80), 5)
+    document.saveas(path)
+    return path
+
+
+class Edits:
+    def __init__(self, program, folder):
+        self.program = program
+        self.out = folder / "out.dxf"
+        self.plan = make_plan(folder / "plan.dxf")
+        self.bytes = self.plan.read_bytes()
+        self.handles = [mline["handle"] for mline in listed(program, self.plan)["multilines"]]
+        self.faults = self.errors_of(self.plan)
+        self.report = Report()
+
+    def expect(self, what, found, wanted):
+        self.report.check(found == wanted, f"{what}: {found}, expected {wanted}")
+
+    @staticmethod
+    def errors_of(path):
+        return len(ezdxf.readfile(path).audit().errors)
+
+    def play(self, script, status=0):
+        run = play(self.program, self.plan, script, self.out)
+        self.expect(f"status of {script!r} ({run.stderr})", run.returncode, status)
+        return run.stdout
+
+    # The multilines afterwards; nothing contradicts itself, and one U gives the bytes again.
+    def edited(self, script):
+        told = self.play(script)
+        self.report.check(self.out.read_bytes() != self.bytes, f"{script!r} changed nothing: {told}")
+        audit = call(self.program, "audit", self.out, "--json")
+        self.expect(f"findings after {script!r}", json.loads(audit.stdout)["findings"], [])
+        self.expect(f"faults after {script!r}", self.errors_of(self.out), self.faults)
+        found = listed(self.program, self.out)["multilines"]
+        self.play(script + "U\n")
+        self.expect(f"bytes after {script!r} and U", self.out.read_bytes() == self.bytes, True)
+        return found
+
+    def unchanged(self, script, word):
+        told = self.play(script)
+        self.expect(f"bytes after {script!r}", self.out.read_bytes() == self.bytes, True)
+        self.report.check(word in told, f"{script!r} tells {told}, expected {word!r}")
+
+    def rest(self, found):
+        """What no script here selects: the locked wall."""
+        return [mline for mline in found if mline["handle"] == self.handles[2]]
+
+    def erasing(self):
+        found = self.edited("ERASE\nALL\n\n")
+        self.expect("left over", [mline["handle"] for mline in found], self.handles[2:])
+        found = self.edited("ERASE\n50,60\n50,0.5 #%s\n\n" % self.handles[1])
+        self.expect("left over", [mline["handle"] for mline in found], [self.handles[0], self.handles[2]])
+        self.unchanged("ERASE\n\n", "Nothing selected.")
+
+    def motions(self):
+        self.expect("others left", "2 other than multilines left out." in self.play("MOVE\nALL\n\n0,0\n10,5\n"), True)
+        found = self.edited("MOVE\nALL\n\n0,0\n10,5\n")
+        self.expect("moved", [chain(mline) for mline in found],
+                    [[[10, 5], [110, 5]], [[10, 25], [110, 25]], [[0, 40], [100, 40]]])
+        self.expect("gap", line(found[0], 0, 0), [0.5, 0, 30, 40])
+        found = self.edited("COPY\n50,20.5\n\n0,0\n0,100\n0,200\n\n")
+        self.expect("copies", [chain(mline)[0] for mline in found[3:]], [[0, 120], [0, 220]])
+        found = self.edited(f"ROTATE\n#{self.handles[0]}\n\n0,0\n90\n")
+        self.expect("turned", chain(found[0]), [[0, 0], [0, 100]])
+        found = self.edited(f"MIRROR\n#{self.handles[0]}\n\n50,0\n50,10\n")
+        self.expect("mirrored", chain(found[0]), [[100, 0], [0, 0]])
+        # Along -x the upper element lies on the right.
+        self.expect("upper", line(found[0], 0, 0), [-0.5, 0, 30, 40])
+        for there_and_back in ("MOVE\nALL\n\n0,0\n3,4\nMOVE\nALL\n\n3,4\n0,0\n",
+                               "ROTATE\nALL\n\n7,7\n90\nROTATE\nALL\n\n7,7\n-90\n",
+                               "MIRROR\nALL\n\n0,0\n1,0\nMIRROR\nALL\n\n1,0\n0,0\n"):
+            self.unchanged(there_and_back, "2 of 2 multilines")
+        self.unchanged("MIRROR\nALL\n\n5,5\n5,5\n", "the mirror line has no length")
+        self.unchanged("MOVE\nALL\n\n0,0\n1e300,0\n", "fall together")
+        self.unchanged("MOVE\nALL\n\n0,0\n*CANCEL*\n", "Second point")
+
+
+def main():
+    with tempfile.TemporaryDirectory() as folder:
+        edits = Edits(sys.argv[1], pathlib.Path(folder))
+        edits.erasing()
+        edits.motions()
+        edits.report.finish()
+
+
+if __name__ == "__main__":
+    main()

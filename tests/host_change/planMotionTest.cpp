@@ -1,0 +1,133 @@
+#include "planMotion.h"
+
+#include "RandomMline.h"
+#include "auditMline.h"
+#include "mlineTrack.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+
+namespace {
+
+using namespace orvex;
+using orvex::testing::RandomMline;
+
+constexpr unsigned kMlines = 2000;
+constexpr KdGeVector3d kUp{0.0, 0.0, 1.0};
+
+// All that is drawn of lines: the places where stretches begin and end.
+std::vector<KdGePoint3d> drawnPlaces(const MlineContent& mline) {
+    const MlineChain chain(mline);
+    std::vector<KdGePoint3d> places;
+    for (unsigned s = 0; s < chain.segmentCount(); ++s) {
+        for (unsigned e = 0; e < chain.elementCount(); ++e) {
+            const MlineTrack track = chain.track(s, e);
+            forEachStretch(chain.line(s, e), track.length, [&](const MlineStretch& stretch) {
+                places.push_back(track.at(stretch.begin));
+                places.push_back(stretchEnd(track, stretch));
+            });
+        }
+    }
+    return places;
+}
+
+double farthest(const std::vector<KdGePoint3d>& a, const std::vector<KdGePoint3d>& b) {
+    double most = a.size() == b.size() ? 0.0 : std::numeric_limits<double>::infinity();
+    for (std::size_t i = 0; i < a.size() && i < b.size(); ++i) {
+        most = std::max(most, (a[i] - b[i]).length());
+    }
+    return most;
+}
+
+struct ThereAndBack {
+    PlanMotion there;
+    PlanMotion back;
+};
+
+ThereAndBack randomMotion(RandomMline& random, unsigned kind) {
+    const KdGePoint3d base{random.between(-50, 50), random.between(-50, 50), 0.0};
+    const KdGePoint3d other{random.between(60, 150), random.between(60, 150), 0.0};
+    const double degrees = random.between(-400, 400);
+    if (kind == 0) {
+        return {shiftBy(other - base), shiftBy(base - other)};
+    }
+    if (kind == 1) {
+        return {turnAbout(base, kUp, degrees), turnAbout(base, kUp, -degrees)};
+    }
+    return {*mirrorAt(base, other, kUp), *mirrorAt(other, base, kUp)};
+}
+
+// Where a motion takes a point, by the definition of the three.
+KdGePoint3d image(const PlanMotion& motion, const KdGePoint3d& point) {
+    const KdGeVector3d way = point - motion.base;
+    return motion.base + motion.x * way.x + motion.y * way.y + motion.z * way.z + motion.shift;
+}
+
+TEST(PlanMotion, takesAllThatIsDrawnAlongAndBack) {
+    RandomMline random(21);
+    for (unsigned i = 0; i < kMlines; ++i) {
+        const StyleLayout style = random.style();
+        const MlineContent mline = random.mline(style);
+        const ThereAndBack motion = randomMotion(random, i % 3);
+        const auto moved = movedBy(mline, motion.there);
+        ASSERT_TRUE(moved) << i;
+        ASSERT_THAT(auditMline(*moved, &style), ::testing::IsEmpty()) << i;
+        std::vector<KdGePoint3d> expected = drawnPlaces(mline);
+        for (KdGePoint3d& place : expected) {
+            place = image(motion.there, place);
+        }
+        ASSERT_LT(farthest(drawnPlaces(*moved), expected), 1e-9) << i;
+        const auto back = movedBy(*moved, motion.back);
+        ASSERT_TRUE(back) << i;
+        ASSERT_LT(farthest(drawnPlaces(*back), drawnPlaces(mline)), 1e-9) << i;
+        ASSERT_EQ(back->scale, mline.scale) << i;
+    }
+}
+
+// Elements at 1 and 0 along x, from (1, 2) to (5, 2).
+MlineContent plain() {
+    MlineContent mline;
+    mline.vertices = {{{1, 2, 0}, {1, 0, 0}, {0, 1, 0}}, {{5, 2, 0}, {1, 0, 0}, {0, 1, 0}}};
+    for (unsigned v = 0; v < 2; ++v) {
+        VoVector<KdMLSegment> record;
+        for (const double position : {1.0, 0.0}) {
+            KdMLSegment element;
+            element.m_lineParams.append(position);
+            element.m_lineParams.append(0.0);
+            record.append(element);
+        }
+        mline.lists.appendVertex();
+        mline.lists.setNested(v, record);
+    }
+    return mline;
+}
+
+TEST(PlanMotion, isExactForWholeNumbersAndQuarters) {
+    const MlineContent mline = plain();
+    const auto turned = movedBy(mline, turnAbout({0, 0, 0}, kUp, 450.0));
+    ASSERT_TRUE(turned);
+    EXPECT_EQ(turned->vertices[0], (ChainVertex{{-2, 1, 0}, {0, 1, 0}, {-1, 0, 0}}));
+    for (const double degrees : {90.0, -270.0, 180.0, 270.0, 360.0, -90.0}) {
+        const auto there = movedBy(mline, turnAbout({3, -7, 0}, kUp, degrees));
+        const auto back = movedBy(*there, turnAbout({3, -7, 0}, kUp, -degrees));
+        EXPECT_TRUE(back->equals(mline)) << degrees;
+    }
+    const PlanMotion mirror = *mirrorAt({0, 10, 0}, {8, 10, 0}, kUp);
+    const auto mirrored = movedBy(mline, mirror);
+    EXPECT_EQ(mirrored->vertices[1], (ChainVertex{{5, 18, 0}, {1, 0, 0}, {0, 1, 0}}));
+    EXPECT_EQ(mirrored->lists.line(1, 0)[0], -1.0);
+    EXPECT_EQ(mirrored->scale, -1.0);
+    EXPECT_TRUE(movedBy(*mirrored, mirror)->equals(mline));
+}
+
+TEST(PlanMotion, isRefusedWhereNothingWouldBeLeftOfTheShape) {
+    const MlineContent mline = plain();
+    EXPECT_FALSE(mirrorAt({1, 1, 0}, {1, 1, 0}, kUp));
+    EXPECT_FALSE(movedBy(mline, shiftBy({1e300, 0, 0})));
+    EXPECT_FALSE(movedBy(mline, shiftBy({std::numeric_limits<double>::infinity(), 0, 0})));
+    EXPECT_FALSE(movedBy(mline, turnAbout({0, 0, 0}, {1, 0, 0}, 90.0)));
+    EXPECT_TRUE(movedBy(mline, turnAbout({0, 0, 0}, {0, 0, -1}, 30.0)));
+}
+
+} // namespace
