@@ -160,6 +160,7 @@ before and after.
 | file | what it is |
 |---|---|
 | `floorplan.dxf` | the plan; made by `make_floorplan.py` from the tables in `plan_walls.py` and `plan_context.py` |
+| `flat.dxf` | 40 walls of a flat, drawn in a hurry, for `orvex-batch join`; made by `make_flat.py` |
 | `cut.scr` | cuts all doors and windows, one gap over a corner and some single lines, with a slip taken back |
 | `door.scr` | one door, two picks: the shortest useful script |
 | `corner.scr` | gaps over a corner, through all lines and through one |
@@ -171,7 +172,7 @@ before and after.
 | `tour.scr` | all twelve tools, each where the plan has a use for it |
 | `undo.scr` | cuts and takes everything back: the drawing comes out as it went in |
 | `empty.scr` | nothing: opened and saved, a drawing stays the same byte for byte |
-| `play` | the script behind `./run`: plays the tour, draws, undoes |
+| `play` | the script behind `./run --script`: plays the tour, joins the flat, draws, undoes |
 | `runs.txt` | runs that every build has to play alike |
 
 The scripts are made by `make_scripts.py`, with those of the joints in `tool_scripts.py`. It works out every pick from
