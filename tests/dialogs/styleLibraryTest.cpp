@@ -266,7 +266,7 @@ TEST_F(StyleLibrary, readsElementsWithoutTrustInTheirCount) {
     const auto library = [](const std::string& count, int groups) {
         std::string text = "MLSTYLE\n2\n A\n71\n " + count + "\n";
         for (int i = 0; i < groups; ++i) {
-            text += "noise\n49\n " + std::to_string(i) + "\n62\n 3\n420\n 5\n430\n a$b\n6\n none\n";
+            text += "noise\n49\n " + std::to_string(i) + "\n62\n 3\n420\n 9\n430\n a$b\n6\n none\n";
         }
         return text + "3\n end\n0\n";
     };
@@ -290,7 +290,7 @@ TEST_F(StyleLibrary, readsElementsWithoutTrustInTheirCount) {
     ASSERT_TRUE(apply(library("256", 256), L"A", style));
     const orvex::StyleElement& last = style.values().elements.back();
     EXPECT_EQ(last.offset, 255.0);
-    EXPECT_EQ(last.color.color(), 0xC2050000U);
+    EXPECT_EQ(last.color.color(), 0xC2090000U);
     EXPECT_STREQ(last.color.bookName(), L" a"); // the blank goes with the name
     EXPECT_EQ(last.linetype, linetype(L"Continuous"));
     // A block without elements takes the next block's first one and its other values.

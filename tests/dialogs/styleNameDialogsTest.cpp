@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPointer>
 
 #include <tuple>
 
@@ -86,16 +87,19 @@ TEST_F(StyleNameDialogs, newGivesTheNameAsTypedAndTheStyleToStartWith) {
     EXPECT_TRUE(dialog.m_startWith == L"STANDARD");
 }
 
-// Opens a dialog and accepts it; where it was opened.
+// Opens a dialog and accepts it; where it was opened. The view goes with its dialog.
 template <class Dialog>
 QRect accept(KdDbObjectId dictionary) {
-    Dialog dialog(nullptr);
-    dialog.m_dictionaryId = dictionary;
+    auto dialog = std::make_unique<Dialog>(nullptr);
+    dialog->m_dictionaryId = dictionary;
+    const QPointer<QWidget> view = dialog->GetSafeHwnd();
     QRect opened;
-    runDialog(dialog, [&] {
-        opened = dialog.GetSafeHwnd()->geometry();
-        dialog.OnOK();
+    runDialog(*dialog, [&] {
+        opened = view->geometry();
+        dialog->OnOK();
     });
+    dialog.reset();
+    EXPECT_TRUE(view.isNull());
     return opened;
 }
 

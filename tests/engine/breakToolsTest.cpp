@@ -77,6 +77,14 @@ TEST_F(BreakTools, cutStopsAtWhatDoesntExist) {
     run.Cut_Mongline(&seg, 0, start, 0, end, 5);
     run.Cut_Mongline(&seg, 0, start, 0, nowhere, 0);
     EXPECT_EQ(lists(seg.m_mline, 0), "1 0 | -1 0");
+    // Where there is no vertex, the origin would be read.
+    KdDbMline* const bar = add("5,-5 5,5 : 0");
+    KdDbMline* const beside = add("8,0 20,0 : 0");
+    double crossing[3];
+    for (const int segment : {-1, 1}) {
+        EXPECT_FALSE(run.getXPoint(beside, segment, bar, 0, crossing)) << segment;
+        EXPECT_FALSE(run.getXPoint(bar, 0, beside, segment, crossing)) << segment;
+    }
 }
 
 // Segment 1 of the longer multiline doesn't exist on the shorter one.

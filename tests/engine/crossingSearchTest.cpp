@@ -103,31 +103,19 @@ public:
 private:
     void step(int kind, double heading, double (&at)[2]) {
         const double small = std::pow(10.0, between(-13.0, -2.0));
-        switch (kind) {
-        case rectilinear:
+        const auto move = [&](double x, double y) { at[0] += x, at[1] += y; };
+        if (kind == rectilinear) {
             at[upTo(1)] += upTo(12) - 6;
-            break;
-        case slanting:
-            at[0] += between(-8.0, 8.0);
-            at[1] += between(-8.0, 8.0);
-            break;
-        case nearParallel: {
+        } else if (kind == slanting) {
+            move(between(-8.0, 8.0), between(-8.0, 8.0));
+        } else if (kind == nearParallel) {
             const double length = between(-9.0, 9.0);
             const double turned = heading + small * between(-1.0, 1.0);
-            at[0] += length * std::cos(turned);
-            at[1] += length * std::sin(turned);
-            break;
-        }
-        case tiny:
-            at[0] += small * between(-1.0, 1.0);
-            at[1] += small * between(-1.0, 1.0);
-            break;
-        default: { // long ones that lean a little next to short ones that lean as far
-            const double length = upTo(1) == 0 ? between(-4000.0, 4000.0) : between(-0.01, 0.01);
-            at[0] += small;
-            at[1] += length;
-            break;
-        }
+            move(length * std::cos(turned), length * std::sin(turned));
+        } else if (kind == tiny) {
+            move(small * between(-1.0, 1.0), small * between(-1.0, 1.0));
+        } else { // long ones that lean a little next to short ones that lean as far
+            move(small, upTo(1) == 0 ? between(-4000.0, 4000.0) : between(-0.01, 0.01));
         }
     }
 

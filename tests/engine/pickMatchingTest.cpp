@@ -131,6 +131,7 @@ TEST(Compass, sortsPlacesIntoEightDirections) {
     }
     const double nowhere[3] = {std::numeric_limits<double>::quiet_NaN(), 9, 0};
     EXPECT_EQ(CMlineEdit::PositionConnection(from, nowhere), -5001);
+    EXPECT_EQ(CMlineEdit::PositionConnection(nowhere, from), -5001);
 }
 
 } // namespace

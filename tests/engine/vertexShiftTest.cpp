@@ -47,6 +47,13 @@ TEST_F(VertexShift, sidewaysTakesOffsetsAndAnglesFromTheStyle) {
     }
 }
 
+TEST_F(VertexShift, anElementKeepsItsOffsetWhenItsSegmentIsShorter) {
+    KdDbMline* const mline = add("0,0 10,0 10,10 : 1 -1");
+    setBreaks(mline, 0, {{3, 5}, {0}});
+    move(mline, 1, {0.5, 0, 0});
+    EXPECT_EQ(lists(mline, 0), "1 | -1 0");
+}
+
 TEST_F(VertexShift, endAnglesTurnWithTheNormalAndTheUserSystem) {
     const std::string cosine = number(std::sqrt(3.0) / 2);
     setStyle({1, -1}, 30, 150);

@@ -250,6 +250,11 @@ TEST(ChangedVariables, areWrittenInPlaceOrAtTheEndOfTheHeader) {
     for (const auto& c : cases) {
         expectEdit([&](DrawingFile& f) { f.database().core().setVariable(c.name, c.value); },
                    c.from, c.to);
+        if (*c.to != '\0') {
+            const auto again = openDrawing(replaced(sampleDrawing(), c.from, c.to));
+            const HeaderValue* const read = again->database().core().variables().find(c.name);
+            EXPECT_TRUE(read != nullptr && *read == c.value) << c.name;
+        }
     }
 }
 

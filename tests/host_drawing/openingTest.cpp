@@ -117,8 +117,12 @@ TEST(Opening, keepsAContradictingMultilineOutOfReach) {
     KdDbStub& stub = stubOf(*file, 0x51);
     EXPECT_EQ(stub.kind, ObjectKind::opaque);
     EXPECT_EQ(file->database().core().open(stub, true), nullptr);
-    EXPECT_TRUE(std::holds_alternative<NoShape>(file->database().core().source()->shapeOf(stub)));
-    const auto& entities = file->database().core().modelSpace().entities;
+    DatabaseCore& core = file->database().core();
+    for (const KdDbStub* const bare :
+         {&stub, &core.addStub(ObjectKind::entity, 0xFFF, kNoRecord, nullptr)}) {
+        EXPECT_TRUE(std::holds_alternative<NoShape>(core.source()->shapeOf(*bare)));
+    }
+    const auto& entities = core.modelSpace().entities;
     EXPECT_EQ(entities.size(), 5U);
     EXPECT_EQ(entities[1], &stub);
 }
@@ -145,7 +149,9 @@ TEST(Opening, putsEntitiesIntoTheirBlocks) {
 }
 
 TEST(Opening, readsStylesTablesAndVariables) {
-    const auto file = openDrawing(sampleDrawing());
+    // What stands in another program's group of a record isn't the record's own.
+    const auto file = openDrawing(
+        replaced(sampleDrawing(), "\n  6\nDASHED\n", "\n  6\nDASHED\n102\n{X\n  6\nDOT\n102\n}\n"));
     DatabaseCore& core = file->database().core();
     const auto* const style = dynamic_cast<KdDbMlineStyle*>(core.load(stubOf(*file, 0x2F)));
     ASSERT_NE(style, nullptr);

@@ -33,18 +33,6 @@ TEST(SystemRegistry, givesAServiceAwayWhenItIsRemoved) {
     EXPECT_EQ(services->remove(L"TestService"), nullptr);
 }
 
-TEST(DynamicLinker, unlocksKnownAndUnknownApplicationsMoreThanOnce) {
-    KdRxDynamicLinker linker;
-    int application = 0;
-    EXPECT_TRUE(linker.isLocked(&application));
-    linker.unlockApplication(&application);
-    linker.unlockApplication(&application);
-    linker.registerAppMDIAware(nullptr);
-    EXPECT_FALSE(linker.isLocked(&application));
-    linker.forget(&application);
-    EXPECT_TRUE(linker.isLocked(&application));
-}
-
 TEST(ModuleFileName, isTerminatedAlsoWhenItIsCut) {
     const HINSTANCE module = orvex::addModuleHandle("/lib/module.omx");
     wchar_t path[32];

@@ -4,24 +4,18 @@
 #include "DrawingFile.h"
 #include "KdDbDatabase.h"
 #include "KdDbLinetypeTable.h"
-#include "KdDbMlineStyle.h"
 #include "ModuleLoader.h"
 #include "Session.h"
 #include "TestPaths.h"
 #include "kddbObjects.h"
-#include "styleAccessors.h"
 #include "textCodec.h"
 
 #include <gmock/gmock.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <string>
 #include <vector>
 
 namespace {
-
-namespace fs = std::filesystem;
 
 class SupportLinetypes : public testing::Test {
 protected:
@@ -90,34 +84,6 @@ TEST_F(SupportLinetypes, comeInThreeSizesInInchesAndMillimetres) {
         }
     }
     EXPECT_THAT(dashes(L"orvex.lin", L"NOWHERE"), testing::IsEmpty());
-}
-
-TEST_F(SupportLinetypes, oneThatAStyleBringsInIsSavedAsOtherReadersTakeIt) {
-    database().core().beginCommand();
-    KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, KdDbObjectId(database().core().findStyle(L"STANDARD")), kForWrite);
-    ASSERT_NE(style, nullptr);
-    std::wstring first = L"phantom2";
-    std::wstring second = L"Hidden";
-    wchar_t* names[] = {first.data(), second.data()};
-    ASSERT_EQ(style->numElements(), 2);
-    EXPECT_EQ(SetElemLtype(style, names, 2, &database()), 1);
-    style->close();
-    database().core().endCommand();
-    ASSERT_NE(database().core().findLinetype(L"PHANTOM2"), nullptr);
-
-    const fs::path saved = fs::temp_directory_path() / "linetypes.dxf";
-    const auto failure = m_session->drawing().save(saved.string());
-    ASSERT_FALSE(failure) << failure->text;
-    // Exit status 0 means that the audit found nothing; the lists show what it read.
-    const std::string tools = (orvex::testing::sourceDir() / "tests" / "drawings").string();
-    EXPECT_EQ(std::system((ORVEX_PYTHON " " + tools + "/audit.py " + saved.string()).c_str()), 0);
-    const std::string look = "import sys, ezdxf; sys.path.insert(0, '" + tools +
-                             "'); import lists; styles = lists.lists(ezdxf.readfile('" +
-                             saved.string() +
-                             "'))['styles']; sys.exit(['PHANTOM2', 'HIDDEN'] not in "
-                             "[[e['linetype'] for e in s['elements']] for s in styles])";
-    EXPECT_EQ(std::system((ORVEX_PYTHON " -c \"" + look + '"').c_str()), 0);
 }
 
 } // namespace

@@ -23,16 +23,4 @@ TEST(Frames, displayCoordinatesAreTheViewsAndFlat) {
     }
 }
 
-TEST(Frames, withoutAUserSystemOfItsOwnUserIsWorld) {
-    const double point[3] = {1.25, 2.5, 3.75};
-    double user[3] = {};
-    double world[3] = {};
-    ASSERT_TRUE(wc2uc(point, user, false));
-    ASSERT_TRUE(uc2wc(user, world, false));
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(user[i], point[i]);
-        EXPECT_EQ(world[i], point[i]);
-    }
-}
-
 } // namespace

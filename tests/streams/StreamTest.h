@@ -62,6 +62,15 @@ inline std::string stateOf(const VoFlatMemBuf& buffer) {
     return state.insert(buffer.tell(), 1, '|');
 }
 
+// The lowest bits of a number, the highest of them first.
+inline std::string bits(std::uint64_t value, unsigned count) {
+    std::string text;
+    for (unsigned i = count; i-- > 0;) {
+        text += (value >> i & 1U) != 0 ? '1' : '0';
+    }
+    return text;
+}
+
 // The bits of a stream from a position to its end, as "0" and "1".
 inline std::string bitsFrom(VoBitStream& stream, std::uint64_t position) {
     std::string bits;

@@ -13,14 +13,6 @@ class VoBitStreamFormsTest : public StreamTest {};
 
 using Limits = std::numeric_limits<double>;
 
-std::string bits(std::uint64_t value, unsigned count) {
-    std::string text;
-    for (unsigned i = count; i-- > 0;) {
-        text += (value >> i & 1U) != 0 ? '1' : '0';
-    }
-    return text;
-}
-
 // Whole numbers and doubles stand in the stream with their lowest byte first.
 std::string raw(std::uint64_t value, unsigned bytes) {
     std::string text;

@@ -12,14 +12,6 @@ using ::testing::ElementsAre;
 
 class VoBitStreamTest : public StreamTest {};
 
-std::string bitText(unsigned value, unsigned count) {
-    std::string text;
-    while (count > 0) {
-        text += (value >> --count & 1U) != 0 ? '1' : '0';
-    }
-    return text;
-}
-
 TEST_F(VoBitStreamTest, writesAndReadsMatchAModelOfBits) {
     std::mt19937 random(2);
     const auto below = [&](std::size_t count) { return static_cast<unsigned>(random() % count); };
@@ -32,23 +24,23 @@ TEST_F(VoBitStreamTest, writesAndReadsMatchAModelOfBits) {
             stream.seek(place, VoIO::fromStart);
             const unsigned count = 1 + below(7);
             const auto value = static_cast<std::uint8_t>(below(256));
-            std::string bits = bitText(value, count);
+            std::string text = bits(value, count);
             const unsigned kind = below(3);
             if (kind == 0) {
                 stream.writeBits(value & 0x7FU, count);
             } else if (kind == 1) {
-                bits = bitText(value, 8);
+                text = bits(value, 8);
                 stream.writeUInt8(value);
             } else {
                 const std::vector<unsigned char> bytes(2 * count, value);
                 stream.writeBytes(bytes.data(), 2 * count);
-                bits.clear();
+                text.clear();
                 for (unsigned k = 0; k < 2 * count; ++k) {
-                    bits += bitText(value, 8);
+                    text += bits(value, 8);
                 }
             }
-            model.replace(place, bits.size(), bits);
-            const std::size_t end = place + bits.size();
+            model.replace(place, text.size(), text);
+            const std::size_t end = place + text.size();
             // A run clears what stands after it in its last byte.
             for (std::size_t at = end; kind == 2 && at % 8 != 0 && at < model.size(); ++at) {
                 model[at] = '0';
@@ -65,7 +57,7 @@ TEST_F(VoBitStreamTest, writesAndReadsMatchAModelOfBits) {
             const unsigned count = 1 + below(7);
             stream.readBits(value, count);
             stream.readBytes(bytes.data(), 2);
-            ASSERT_EQ(bitText(value, count) + bitText(bytes[0], 8) + bitText(bytes[1], 8),
+            ASSERT_EQ(bits(value, count) + bits(bytes[0], 8) + bits(bytes[1], 8),
                       model.substr(at, count + 16));
             at += count + 16;
         }
