@@ -293,6 +293,15 @@ TEST_F(StyleLibrary, readsElementsWithoutTrustInTheirCount) {
     EXPECT_EQ(last.color.color(), 0xC2090000U);
     EXPECT_STREQ(last.color.bookName(), L" a"); // the blank goes with the name
     EXPECT_EQ(last.linetype, linetype(L"Continuous"));
+    // An element that the file's end cuts off anywhere isn't kept, and neither are those before it.
+    const std::string text = library("2", 2);
+    for (std::size_t at = text.find("\n49\n 1\n"); at + 1 < text.find("3\n end");
+         at = text.find('\n', at + 1)) {
+        KdDbMlineStyle cut;
+        EXPECT_FALSE(apply(text.substr(0, at + 1), L"A", cut)) << at;
+        ASSERT_EQ(cut.numElements(), 2) << at;
+        EXPECT_NE(cut.values().elements[1].offset, 1.0) << at;
+    }
     // A block without elements takes the next block's first one and its other values.
     ASSERT_TRUE(apply(library("0", 0) + kWall, L"A", style));
     EXPECT_EQ(style.numElements(), 0);

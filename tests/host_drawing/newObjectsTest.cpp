@@ -145,6 +145,15 @@ TEST(NewLinetype, isCountedWhereTheTableCountedRight) {
     }
 }
 
+TEST(NewLinetype, isCountedInATableThatItsSectionEnds) {
+    const auto file = openDrawing(dxf("0 SECTION\n2 TABLES\n0 TABLE\n2 LAYER\n0 LTYPE\n2 B\n"
+                                      "0 TABLE\n2 LTYPE\n70 1\n0 LTYPE\n2 A\n0 ENDSEC\n0 EOF"));
+    DatabaseCore& core = file->database().core();
+    EXPECT_EQ(core.findLinetype(L"B"), nullptr) << "in a table of another kind";
+    addLinetype(*file, L"DOTS");
+    EXPECT_NE(file->bytes().find(dxf("2 LTYPE\n70 2")), std::string::npos) << file->bytes();
+}
+
 // The multiline A1 names a style A3 that the file doesn't have, and still does so afterwards.
 TEST(NewObjects, doNotTakeTheHandleOfAMissingStyle) {
     const std::string torn = dxf("0 SECTION\n2 ENTITIES\n0 MLINE\n5 A1\n8 0\n100 AcDbMline\n"
