@@ -40,14 +40,18 @@ void putFirst(VoVector<double>& list, double value) {
     }
 }
 
-// The positions along the miters. What lies along an old miter stays at its distance.
-void layPositions(MlineContent& laid, const MlineContent& old, const ChainFrame& frame) {
+// The positions along the miters. What lies along an old miter stays at its distance; areas that
+// follow keep theirs from their line.
+void layPositions(MlineContent& laid, const MlineContent& old, const ChainFrame& frame,
+                  const ChainFrame& oldFrame, bool areasFollow) {
     for (unsigned v = 0; v < laid.vertices.size(); ++v) {
         const VertexFrame& right = frame.vertices[v];
         const KdGeVector3d& before = old.vertices[v].miter;
         const KdGeVector3d& after = laid.vertices[v].miter;
         const double sine = sineOf(after, right);
-        const double turned = before == after ? 1.0 : dot(right.left, before) / sine;
+        const KdGeVector3d& leftBefore = oldFrame.vertices[v].left;
+        const bool isTurned = !(before == after && leftBefore == right.left);
+        const double turned = isTurned ? dot(leftBefore, before) / sine : 1.0;
         VoVector<KdMLSegment> record = old.lists.nested(v);
         bool changed = false;
         for (unsigned e = 0; e < record.size(); ++e) {
@@ -64,13 +68,34 @@ void layPositions(MlineContent& laid, const MlineContent& old, const ChainFrame&
                 putFirst(element.m_lineParams, stored);
                 changed = true;
             }
-            if (!area.empty() && turned != 1.0) {
+            if (areasFollow && !area.empty() && !line.empty()) {
+                const double fresh = element.m_lineParams[0];
+                putFirst(element.m_areaParams, fresh + (area.front() - line.front()) * turned);
+                changed = true;
+            } else if (!area.empty() && turned != 1.0) {
                 putFirst(element.m_areaParams, area.front() * turned);
                 changed = true;
             }
         }
         if (changed) {
             laid.lists.setNested(v, record);
+        }
+    }
+}
+
+// The miter of an open end keeps its angle to its segment.
+void turnEnds(MlineContent& changed, const ChainFrame& before) {
+    std::vector<KdGePoint3d> points;
+    for (const ChainVertex& vertex : changed.vertices) {
+        points.push_back(vertex.position);
+    }
+    const std::vector<KdGeVector3d> axes = chainAxes(points, changed.closed);
+    for (const std::size_t end : {std::size_t{0}, points.size() - 1}) {
+        const VertexFrame& was = before.vertices[end];
+        KdGeVector3d& miter = changed.vertices[end].miter;
+        if (!changed.closed && (axes[end] - was.axis).length() > was.noise + kRounding) {
+            miter = axes[end] * dot(miter, was.axis) +
+                    leftOf(axes[end], changed.normal) * dot(miter, was.left);
         }
     }
 }
@@ -101,8 +126,18 @@ bool isSameList(std::span<const double> a, std::span<const double> b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end());
 }
 
+MlineTrack shifted(const MlineTrack& track, std::span<const KdGeVector3d> shifts,
+                   unsigned segment) {
+    if (segment >= shifts.size()) {
+        return track;
+    }
+    const KdGeVector3d& shift = shifts[segment];
+    return {track.start + shift, track.end + shift, track.direction, track.length};
+}
+
 // The breaks, once the positions are where they belong.
-void layBreaks(MlineContent& laid, const MlineContent& old) {
+void layBreaks(MlineContent& laid, const MlineContent& old,
+               std::span<const KdGeVector3d> shifts = {}) {
     const MlineChain oldChain(old);
     const MlineContent positioned = laid;
     const MlineChain chain(positioned);
@@ -115,14 +150,15 @@ void layBreaks(MlineContent& laid, const MlineContent& old) {
             const MlineTrack track = chain.track(s, e);
             const auto line = chain.line(s, e);
             const std::vector<double> freshLine = repairedList(
-                remeasuredList(line, oldChain.track(s, e), track, inJoint), track.length, inJoint);
+                remeasuredList(line, shifted(oldChain.track(s, e), shifts, s), track, inJoint),
+                track.length, inJoint);
             if (!isSameList(line, freshLine)) {
                 element.m_lineParams = toParameters(freshLine);
                 changed = true;
             }
             const auto area = chain.area(s, e);
-            const std::vector<double> freshArea =
-                remeasuredList(area, oldChain.areaTrack(s, e), chain.areaTrack(s, e), true);
+            const std::vector<double> freshArea = remeasuredList(
+                area, shifted(oldChain.areaTrack(s, e), shifts, s), chain.areaTrack(s, e), true);
             if (!isSameList(area, freshArea)) {
                 element.m_areaParams = toParameters(freshArea);
                 changed = true;
@@ -143,9 +179,26 @@ Result<MlineContent> layRight(const MlineContent& mline, const StyleLayout& styl
     }
     MlineContent laid = mline;
     layDirections(laid, *frame);
-    layPositions(laid, mline, *frame);
+    layPositions(laid, mline, *frame, *frame, false);
     layBreaks(laid, mline);
     return laid;
+}
+
+Result<MlineContent> laidAnew(MlineContent changed, const MlineContent& old,
+                              const StyleLayout& style, std::span<const KdGeVector3d> shifts) {
+    const Result<ChainFrame> oldFrame = chainFrameOf(old, style);
+    if (!oldFrame) {
+        return oldFrame.failure();
+    }
+    turnEnds(changed, *oldFrame);
+    const Result<ChainFrame> frame = chainFrameOf(changed, style);
+    if (!frame) {
+        return frame.failure();
+    }
+    layDirections(changed, *frame);
+    layPositions(changed, old, *frame, *oldFrame, true);
+    layBreaks(changed, old, shifts);
+    return changed;
 }
 
 } // namespace orvex

@@ -46,6 +46,10 @@ void copyCommand(Session& session);
 void rotateCommand(Session& session);
 // A selection, two points of a line: replaced by their mirror images.
 void mirrorCommand(Session& session);
+// Two corners, a base point, a second point: shifts the vertices within, where the box is touched.
+void stretchCommand(Session& session);
+// A selection: turns the direction of chains.
+void reverseCommand(Session& session);
 
 // Tells the current source that its last answer can't be taken.
 void rejectAnswer(const std::wstring& reason);

@@ -20,6 +20,8 @@ constexpr std::array kCommands = {
     HostCommand{L"MLLAY", layRightCommand},
     HostCommand{L"MLSTOPS", elementBreaksCommand},
     HostCommand{L"MOVE", moveCommand},
+    HostCommand{L"REVERSE", reverseCommand},
+    HostCommand{L"STRETCH", stretchCommand},
     HostCommand{L"ROTATE", rotateCommand},
     HostCommand{L"SETVAR", setVariableCommand},
     HostCommand{L"ZOOM", zoomCommand},

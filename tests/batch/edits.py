@@ -109,12 +109,29 @@ class Edits:
         self.unchanged("MOVE\nALL\n\n0,0\n1e300,0\n", "fall together")
         self.unchanged("MOVE\nALL\n\n0,0\n*CANCEL*\n", "Second point")
 
+    def reshaping(self):
+        found = self.edited("STRETCH\n-5,-5\n5,45\n0,0\n-10,0\n")
+        self.expect("stretched", [chain(mline) for mline in found],
+                    [[[-10, 0], [100, 0]], [[-10, 20], [100, 20]], [[0, 40], [100, 40]]])
+        # 10 further from the start, at the same place.
+        self.expect("gap", line(found[0], 0, 0), [0.5, 0, 40, 50])
+        found = self.edited("STRETCH\n-5,-5\n105,5\n0,0\n0,-7\n")
+        self.expect("taken along", (chain(found[0]), line(found[0], 0, 0)), ([[0, -7], [100, -7]], [0.5, 0, 30, 40]))
+        found = self.edited("REVERSE\nALL\n\n")
+        self.expect("turned", (chain(found[0]), found[0]["scale"]), ([[100, 0], [0, 0]], -1))
+        self.expect("gap", line(found[0], 0, 0), [-0.5, 0, 60, 70])
+        self.unchanged("REVERSE\nALL\n\nREVERSE\nALL\n\n", "2 of 2 multilines reversed")
+        self.unchanged("STRETCH\n-5,-5\n5,5\n0,0\n10,0\nSTRETCH\n5,-5\n15,5\n10,0\n0,0\n", "1 of 1")
+        self.unchanged("STRETCH\n-5,-5\n5,5\n0,0\n100,0\n", "has no length")
+        self.unchanged("STRETCH\n-5,-5\n5,5\n0,0\n0,0,9\n", "plane")
+
 
 def main():
     with tempfile.TemporaryDirectory() as folder:
         edits = Edits(sys.argv[1], pathlib.Path(folder))
         edits.erasing()
         edits.motions()
+        edits.reshaping()
         edits.report.finish()
 
 

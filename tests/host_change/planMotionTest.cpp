@@ -1,8 +1,8 @@
 #include "planMotion.h"
 
+#include "DrawnPlaces.h"
 #include "RandomMline.h"
 #include "auditMline.h"
-#include "mlineTrack.h"
 
 #include <gmock/gmock.h>
 
@@ -11,34 +11,12 @@
 namespace {
 
 using namespace orvex;
+using orvex::testing::drawnPlaces;
+using orvex::testing::farthest;
 using orvex::testing::RandomMline;
 
 constexpr unsigned kMlines = 2000;
 constexpr KdGeVector3d kUp{0.0, 0.0, 1.0};
-
-// All that is drawn of lines: the places where stretches begin and end.
-std::vector<KdGePoint3d> drawnPlaces(const MlineContent& mline) {
-    const MlineChain chain(mline);
-    std::vector<KdGePoint3d> places;
-    for (unsigned s = 0; s < chain.segmentCount(); ++s) {
-        for (unsigned e = 0; e < chain.elementCount(); ++e) {
-            const MlineTrack track = chain.track(s, e);
-            forEachStretch(chain.line(s, e), track.length, [&](const MlineStretch& stretch) {
-                places.push_back(track.at(stretch.begin));
-                places.push_back(stretchEnd(track, stretch));
-            });
-        }
-    }
-    return places;
-}
-
-double farthest(const std::vector<KdGePoint3d>& a, const std::vector<KdGePoint3d>& b) {
-    double most = a.size() == b.size() ? 0.0 : std::numeric_limits<double>::infinity();
-    for (std::size_t i = 0; i < a.size() && i < b.size(); ++i) {
-        most = std::max(most, (a[i] - b[i]).length());
-    }
-    return most;
-}
 
 struct ThereAndBack {
     PlanMotion there;
