@@ -50,6 +50,10 @@ void mirrorCommand(Session& session);
 void stretchCommand(Session& session);
 // A selection: turns the direction of chains.
 void reverseCommand(Session& session);
+// A selection, then what to change of it, an empty line applies.
+void changeCommand(Session& session);
+// Two names: all multilines of the one style take the other.
+void restyleCommand(Session& session);
 
 // Tells the current source that its last answer can't be taken.
 void rejectAnswer(const std::wstring& reason);

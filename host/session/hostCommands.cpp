@@ -14,6 +14,8 @@ constexpr std::array kCommands = {
     HostCommand{L"ERASE", eraseCommand},
     HostCommand{L"MIRROR", mirrorCommand},
     HostCommand{L"MLAUDIT", auditCommand},
+    HostCommand{L"MLCHANGE", changeCommand},
+    HostCommand{L"MLRESTYLE", restyleCommand},
     HostCommand{L"MLEND", moveEndCommand},
     HostCommand{L"MLINE", mlineCommand},
     HostCommand{L"MLJOIN", joinCommand},

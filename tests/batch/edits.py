@@ -11,7 +11,7 @@ import tempfile
 
 import ezdxf
 
-from program import Report, call, listed, play
+from program import Report, call, listed, make_drawing, play
 
 
 def chain(mline):
@@ -27,6 +27,9 @@ def make_plan(path):
     document = ezdxf.new("R2000")
     document.layers.add("KEEP").lock()
     space = document.modelspace()
+    style = document.mline_styles.new("THREE")
+    for offset in (1.5, 0, -0.5):
+        style.elements.append(offset)
     for y, layer in ((0, "0"), (20, "0"), (40, "KEEP")):
         wall = space.add_mline([(0, y), (100, y)], dxfattribs={"justification": 1, "layer": layer})
         if y == 0:
@@ -125,6 +128,39 @@ class Edits:
         self.unchanged("STRETCH\n-5,-5\n5,5\n0,0\n100,0\n", "has no length")
         self.unchanged("STRETCH\n-5,-5\n5,5\n0,0\n0,0,9\n", "plane")
 
+    def settings(self):
+        first = f"MLCHANGE\n#{self.handles[0]}\n\n"
+        found = self.edited(first + "SC\n20\nJ\nT\n\n")
+        self.expect("scaled", (chain(found[0]), line(found[0], 0, 0), line(found[0], 0, 1)[0]),
+                    ([[0, 0], [100, 0]], [0, 0, 30, 40], -20))
+        found = self.edited(first + "J\nB\nKeepLines\n\n")
+        down = [[round(x, 9), round(y, 9)] for x, y in chain(found[0])]
+        self.expect("lines kept", (down, line(found[0], 0, 0)), ([[0, -0.5], [100, -0.5]], [1, 0, 30, 40]))
+        # The gap is the upper element's alone: the nearest of 1.5, 0 and -0.5 to 0.5 is 0.
+        found = self.edited(first + "ST\nthree\nLA\nKEEP\nCA\nEnd\n\n")
+        self.expect("restyled", [line(found[0], 0, e) for e in range(3)], [[1.5, 0], [0, 0, 30, 40], [-0.5, 0]])
+        self.expect("layer and caps", (found[0]["layer"], found[0]["flags"] & 12), ("KEEP", 4))
+        self.unchanged("MLCHANGE\nALL\n\nCL\n\n", "three vertices")
+        self.unchanged(first + "SC\n0\n\n", "a number other than 0")
+        self.unchanged(first + "ST\nnone such\n\n", "There is no style 'none such'")
+        self.unchanged(first + "LA\nnone such\n\n", "There is no layer 'none such'")
+        self.unchanged(first + "SC\n20\n*CANCEL*\n", "Scale")
+        self.unchanged(first + "SC\n20\n\n" + first + "SC\n1\n\n", "1 of 1 multilines changed")
+        found = self.edited("MLRESTYLE\nSTANDARD\nTHREE\n")
+        self.expect("all but the locked one", [mline["style"] for mline in found], ["THREE", "THREE", "Standard"])
+        self.unchanged("MLRESTYLE\nnone such\nTHREE\n", "There is no style")
+
+    def closing(self):
+        corner = make_drawing(self.out.with_name("corner.dxf"), [(0, 0), (100, 0), (100, 50)])
+        play(self.program, corner, "MLCHANGE\nALL\n\nCL\n\n", self.out)
+        closed = listed(self.program, self.out)["multilines"][0]
+        self.expect("closed", (closed["flags"] & 2, chain(closed)), (2, [[0, 0], [100, 0], [100, 50]]))
+        self.expect("findings", "0 findings" in call(self.program, "audit", self.out).stdout, True)
+        play(self.program, corner, "MLCHANGE\nALL\n\nCL\n\nMLCHANGE\nALL\n\nO\n\n", self.out)
+        before, after = (listed(self.program, path)["multilines"][0] for path in (corner, self.out))
+        ends = [[[round(value, 9) for value in vertex["miter"]] for vertex in mline["vertices"]] for mline in (before, after)]
+        self.expect("opened again", (chain(after), after["flags"], ends[1]), (chain(before), before["flags"], ends[0]))
+
 
 def main():
     with tempfile.TemporaryDirectory() as folder:
@@ -132,6 +168,8 @@ def main():
         edits.erasing()
         edits.motions()
         edits.reshaping()
+        edits.settings()
+        edits.closing()
         edits.report.finish()
 
 

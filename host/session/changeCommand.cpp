@@ -1,0 +1,213 @@
+// MLCHANGE and MLRESTYLE: other settings for multilines that are drawn.
+
+#include "DatabaseCore.h"
+#include "HostCommand.h"
+#include "KdDbDatabase.h"
+#include "KdDbMline.h"
+#include "KdDbMlineStyle.h"
+#include "MlineStyleContent.h"
+#include "Session.h"
+#include "changeMline.h"
+#include "commandOutput.h"
+#include "editMlines.h"
+#include "kddbObjects.h"
+#include "lockedLayers.h"
+#include "mlineEdits.h"
+#include "promptLibrary.h"
+#include "promptStatus.h"
+#include "selection.h"
+#include "textCodec.h"
+
+namespace orvex {
+
+namespace {
+
+struct AskedChange {
+    MlineChange change;
+    std::optional<std::wstring> layer;
+    bool isRefused = false; // an answer named what there isn't; it has been told
+};
+
+void tell(const std::wstring& line) {
+    kdutPrintf(L"%ls", line.c_str());
+}
+
+std::optional<MlineChange::Style> styleCalled(DatabaseCore& core, const std::wstring& name) {
+    KdDbStub* const stub = core.findStyle(name);
+    KdDbMlineStyle* style = nullptr;
+    kddbOpenObject(style, KdDbObjectId(stub), kForRead);
+    if (style == nullptr) {
+        tell(L"There is no style '" + name + L"'.");
+        return std::nullopt;
+    }
+    const MlineChange::Style found{KdDbObjectId(stub), layoutOf(style->values())};
+    style->close();
+    return found;
+}
+
+// Nothing for a cancel.
+std::optional<std::wstring> askText(const wchar_t* prompt) {
+    wchar_t text[kPromptTextSize] = L"";
+    return kdedGetString(prompt, text) == kPromptNormal ? std::optional<std::wstring>(text)
+                                                        : std::nullopt;
+}
+
+std::optional<std::wstring> askKeyword(const wchar_t* prompt, const wchar_t* keywords) {
+    wchar_t keyword[kPromptTextSize] = L"";
+    kdedInitGet(0, keywords);
+    return kdedGetKword(prompt, keyword) == kPromptNormal ? std::optional<std::wstring>(keyword)
+                                                          : std::nullopt;
+}
+
+void askLayer(DatabaseCore& core, AskedChange& asked) {
+    const auto name = askText(L"Layer name: ");
+    if (name && core.findLayer(*name) == nullptr) {
+        tell(L"There is no layer '" + *name + L"'.");
+        asked.isRefused = true;
+    } else if (name) {
+        asked.layer = name;
+    }
+}
+
+void askStyle(DatabaseCore& core, AskedChange& asked) {
+    if (const auto name = askText(L"Style name: ")) {
+        asked.change.style = styleCalled(core, *name);
+        asked.isRefused = asked.isRefused || !asked.change.style;
+    }
+}
+
+void askJustification(MlineChange& change) {
+    if (const auto word = askKeyword(L"Justification [Top/Zero/Bottom]: ", L"Top Zero Bottom")) {
+        change.justification = *word == L"Top" ? 0 : *word == L"Zero" ? 1 : 2;
+    }
+}
+
+void askCaps(MlineChange& change) {
+    if (const auto word = askKeyword(L"Caps [Both/Start/End/None]: ", L"Both Start End None")) {
+        change.caps = {*word == L"Both" || *word == L"Start", *word == L"Both" || *word == L"End"};
+    }
+}
+
+void askScale(MlineChange& change) {
+    double scale = 0.0;
+    if (kdedGetReal(L"Scale: ", &scale) == kPromptNormal) {
+        change.scale = scale;
+    }
+}
+
+void askOne(DatabaseCore& core, const std::wstring& what, AskedChange& asked) {
+    if (what == L"STyle") {
+        askStyle(core, asked);
+    } else if (what == L"SCale") {
+        askScale(asked.change);
+    } else if (what == L"Justification") {
+        askJustification(asked.change);
+    } else if (what == L"LAyer") {
+        askLayer(core, asked);
+    } else if (what == L"CAps") {
+        askCaps(asked.change);
+    } else if (what == L"KeepLines") {
+        asked.change.keepsLines = true;
+    } else {
+        asked.change.closed = what == L"CLose";
+    }
+}
+
+// Nothing when nothing is to be done.
+std::optional<AskedChange> askChange(DatabaseCore& core) {
+    AskedChange asked;
+    for (;;) {
+        wchar_t what[kPromptTextSize] = L"";
+        kdedInitGet(0, L"STyle SCale Justification LAyer CAps CLose Open KeepLines");
+        switch (kdedGetKword(
+            L"Change [STyle/SCale/Justification/LAyer/CAps/CLose/Open/KeepLines], Enter to apply: ",
+            what)) {
+        case kPromptNormal:
+            askOne(core, what, asked);
+            break;
+        case kPromptNone:
+            return asked.isRefused ? std::nullopt : std::optional(asked);
+        default:
+            return std::nullopt;
+        }
+    }
+}
+
+void putOnLayer(MlineContent& mline, const std::wstring& layer) {
+    EntityTraits traits = mline.traits != nullptr ? *mline.traits : EntityTraits();
+    traits.layer = layer;
+    mline.traits = shareTraits(traits);
+}
+
+void changeAll(const std::vector<KdDbStub*>& mlines, const AskedChange& asked) {
+    std::size_t moved = 0;
+    editEach(
+        mlines,
+        [&](const MlineContent& mline) -> Result<MlineContent> {
+            const std::optional<StyleLayout> style = styleLayoutOf(mline);
+            Result<ChangedMline> result = changed(mline, style ? &*style : nullptr, asked.change);
+            if (!result) {
+                return result.failure();
+            }
+            moved += result->hasMovedGaps ? 1 : 0;
+            if (asked.layer) {
+                putOnLayer(result->mline, *asked.layer);
+            }
+            return std::move(result->mline);
+        },
+        "changed");
+    if (moved > 0) {
+        tell(L"In " + std::to_wstring(moved) +
+             L" of them gaps of single elements went to the nearest element.");
+    }
+}
+
+// Wherever they stand, but for those on locked layers.
+std::vector<KdDbStub*> mlinesOf(DatabaseCore& core, KdDbObjectId style) {
+    std::vector<KdDbStub*> found;
+    std::size_t locked = 0;
+    for (KdDbStub& stub : core.stubs()) {
+        if (stub.kind != ObjectKind::mline || stub.erased ||
+            KdDbMline::styleOf(KdDbObjectId(&stub)) != style) {
+            continue;
+        }
+        if (isOnLockedLayer(stub)) {
+            ++locked;
+        } else {
+            found.push_back(&stub);
+        }
+    }
+    if (locked > 0) {
+        tell(std::to_wstring(locked) + L" on locked layers left out.");
+    }
+    return found;
+}
+
+} // namespace
+
+void changeCommand(Session& session) {
+    const std::optional<Selection> selection = askSelection(session, SelectionKind::mlines);
+    if (!selection || selection->entities.empty()) {
+        return;
+    }
+    if (const auto asked = askChange(session.database().core())) {
+        changeAll(selection->entities, *asked);
+    }
+}
+
+void restyleCommand(Session& session) {
+    DatabaseCore& core = session.database().core();
+    const auto oldName = askText(L"Style until now: ");
+    const auto newName = oldName ? askText(L"New style: ") : std::nullopt;
+    if (!newName) {
+        return;
+    }
+    const auto oldStyle = styleCalled(core, *oldName);
+    AskedChange asked;
+    asked.change.style = styleCalled(core, *newName);
+    if (oldStyle && asked.change.style && oldStyle->id != asked.change.style->id) {
+        changeAll(mlinesOf(core, oldStyle->id), asked);
+    }
+}
+
+} // namespace orvex
