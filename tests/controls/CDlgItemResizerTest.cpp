@@ -30,10 +30,6 @@ protected:
 TEST_F(ItemResizer, theEdgeThatIsDraggedStopsAtTheSizeOfTheFirstItemsMoment) {
     const CRect tiny(100, 50, 150, 60);
     resizer.Add(&logic, 1, 0);
-    resizer.Add(&logic, 99, RESIZE_LOCKALL); // nothing is registered
-    resizer.Add(nullptr, 1, RESIZE_LOCKALL);
-    resizer.Add(static_cast<CWnd*>(nullptr), RESIZE_LOCKALL);
-    resizer.Add(&logic, RESIZE_LOCKALL); // stands in nothing
     EXPECT_EQ(sized(&logic, tiny), tiny);
     resizer.Add(&logic, 1, RESIZE_LOCKALL); // 300 by 200 it is
     view.setGeometry(100, 50, 400, 300);
@@ -50,8 +46,6 @@ TEST_F(ItemResizer, theEdgeThatIsDraggedStopsAtTheSizeOfTheFirstItemsMoment) {
     for (const auto& [dragged, held] : cases) {
         EXPECT_EQ(sized(&logic, dragged), held) << dragged.left;
     }
-    EXPECT_EQ(sized(nullptr, tiny), tiny);
-    EXPECT_EQ(sized(logic.GetDlgItem(99), tiny), tiny);
 }
 
 } // namespace

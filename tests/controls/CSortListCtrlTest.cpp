@@ -82,23 +82,4 @@ TEST_F(SortListCtrl, sortsEachColumnByItsNumbersAndKeepsTheOrderOfEqualOnes) {
     EXPECT_EQ(column(0).back(), L"0.25");
 }
 
-TEST_F(SortListCtrl, whatIsntThereIsRefused) {
-    EXPECT_EQ(list.AddItem(L"1"), 0); // no column, yet a row
-    EXPECT_TRUE(list.SetItemData(0, 7));
-    list.SetHeadings(CStdStr<wchar_t>(L"A,50;B,50"));
-    EXPECT_EQ(list.AddItem(L"2"), 1);
-    EXPECT_EQ(list.AddItem(nullptr, L"x", L"y"), 2);
-    EXPECT_EQ(column(1), (Texts{L"", L"", L"x"}));
-    for (const int row : {-1, 3, 1000}) {
-        EXPECT_FALSE(list.SetItemData(row, 1));
-        EXPECT_EQ(list.GetItemData(row), 0UL);
-        EXPECT_FALSE(list.SetItemText(row, 0, L"x"));
-        EXPECT_FALSE(list.DeleteItem(row));
-    }
-    EXPECT_TRUE(list.DeleteItem(0));
-    EXPECT_EQ(list.GetItemData(0), 0UL);
-    EXPECT_TRUE(list.DeleteAllItems());
-    EXPECT_EQ(list.GetItemCount(), 0);
-}
-
 } // namespace

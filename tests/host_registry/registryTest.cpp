@@ -9,17 +9,6 @@
 
 namespace {
 
-TEST(SystemRegistry, holdsItsThreeObjectsAndCastsByClass) {
-    KdRxDictionary& registry = *kdrxSysRegistry();
-    KdRxObject* const linker = registry.at(L"DynamicLinker");
-    EXPECT_NE(KdRxDynamicLinker::cast(linker), nullptr);
-    EXPECT_EQ(KdRxDictionary::cast(linker), nullptr);
-    EXPECT_NE(KdRxDictionary::cast(registry.at(L"ServiceDictionary")), nullptr);
-    EXPECT_NE(KdEdCommandStack::cast(registry.at(L"RVEX_REGISTERED_COMMANDS")), nullptr);
-    EXPECT_EQ(registry.at(L"nothing"), nullptr);
-    EXPECT_EQ(KdEdCommandStack::cast(nullptr), nullptr);
-}
-
 TEST(SystemRegistry, givesAServiceAwayWhenItIsRemoved) {
     EXPECT_FALSE(kdrxServiceIsRegistered(L"TestService"));
     KdRxObject* const service = kdrxRegisterService(L"TestService");

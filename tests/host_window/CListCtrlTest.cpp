@@ -52,22 +52,6 @@ protected:
     std::vector<int> told;
 };
 
-TEST_F(ListCtrl, badRowsAndColumnsChangeNothing) {
-    addRow(L"1", 1);
-    for (const int row : {-1, 1, 1000}) {
-        EXPECT_FALSE(list.SetItemData(row, 1));
-        EXPECT_FALSE(list.SetItemState(row, 1, 1));
-        EXPECT_TRUE(list.GetItemText(row, 0).IsEmpty());
-    }
-    for (const int column : {-1, 2}) {
-        EXPECT_FALSE(list.SetItemText(0, column, L"x"));
-        EXPECT_TRUE(list.GetItemText(0, column).IsEmpty());
-    }
-    EXPECT_EQ(list.InsertItem(-1, L"x"), -1);
-    EXPECT_EQ(list.InsertColumn(-1, L"x"), -1);
-    EXPECT_EQ(list.GetItemCount(), 1);
-}
-
 int byTens(long a, long b, long direction) {
     const long difference = a / 10 - b / 10;
     return static_cast<int>(difference * direction);

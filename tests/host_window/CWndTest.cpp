@@ -1,8 +1,6 @@
-#include "CBitmapButton.h"
 #include "CButton.h"
 #include "CRect.h"
 #include "DialogPair.h"
-#include "HICON.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -132,18 +130,6 @@ TEST(CWnd, messageBoxesAnswerByNumberInPlainText) {
         EXPECT_EQ(Logic().MessageBoxW(L"Delete \"<b>A</b>\"?", L"ORVEX", each.flags), each.answer)
             << each.flags << ' ' << each.press;
     }
-}
-
-TEST(CWnd, missingPicturesAreNoFailure) {
-    CBitmapButton button;
-    EXPECT_FALSE(button.LoadBitmaps(L"IDB_NONE_UP", L"IDB_NONE_DOWN", L"IDB_NONE", L"IDB_NONE"));
-    EXPECT_FALSE(button.LoadBitmaps(nullptr));
-    EXPECT_EQ(GetModuleHandleW(L"none.dll"), nullptr);
-    EXPECT_EQ(LoadIconW(nullptr, 128), nullptr);
-    int foreign = 0;
-    EXPECT_EQ(LoadIconW(reinterpret_cast<HINSTANCE>(&foreign), 128), nullptr);
-    Logic logic;
-    logic.SetIcon(reinterpret_cast<HICON>(&foreign), 0);
 }
 
 CRect placeOf(const CWnd& window) {

@@ -134,19 +134,4 @@ TEST(ComboBox, findsAndSelects) {
     EXPECT_EQ(changed.count(), 0);
 }
 
-TEST(ComboBox, unboundOrBoundToSomethingElseItIsEmpty) {
-    Logic logic;
-    logic.add<QListWidget>(5);
-    CComboBox combo;
-    CListBox list;
-    combo.SubclassDlgItem(5, &logic);
-    EXPECT_EQ(combo.AddString(L"x"), -1);
-    EXPECT_EQ(combo.FindString(-1, L"x"), -1);
-    EXPECT_EQ(combo.SetCurSel(0), -1);
-    EXPECT_EQ(combo.GetCount(), 0);
-    EXPECT_EQ(list.AddString(L"x"), -1);
-    EXPECT_EQ(list.SelectString(-1, L"x"), -1);
-    EXPECT_EQ(list.DeleteString(0), -1);
-}
-
 } // namespace

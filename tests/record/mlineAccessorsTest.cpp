@@ -120,20 +120,6 @@ TEST_F(MlineAccessors, positionsAxesAndMitersReplaceWhatIsThere) {
     EXPECT_EQ(lines(2, 1).size(), 2U);
 }
 
-TEST_F(MlineAccessors, nullAndEmptyMultilinesAreAccepted) {
-    const KdDbMline empty;
-    int number = 7;
-    EXPECT_EQ(GetNumLine(&empty, &number, 0, 0), 1);
-    EXPECT_EQ(number, 0);
-    double point[3] = {7, 7, 7};
-    EXPECT_EQ(GetLineArray(&empty, point, 1, 0, 0), 1);
-    KdDbMlineStyle* style = nullptr;
-    EXPECT_EQ(GetFlag(nullptr, &number) + SetFlag(nullptr, 0) + SetNumLine(nullptr, 1, 0, 0), 0);
-    EXPECT_EQ(SetVertices(nullptr, &point) + SetNumVertices(nullptr, 3), 0);
-    EXPECT_EQ(GetNormal(nullptr, point) + GetMlStyle(nullptr, &style), 0);
-    EXPECT_EQ(point[0], 7.0);
-}
-
 TEST_F(MlineAccessors, theStyleIsOpenedWhenThereIsOne) {
     KdDbMlineStyle* style = nullptr;
     EXPECT_EQ(GetMlStyle(&mline, &style), 1);

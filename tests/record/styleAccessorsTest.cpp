@@ -141,16 +141,6 @@ TEST_F(StyleAccessors, writesEachFlagForItself) {
     }
 }
 
-TEST_F(StyleAccessors, nullsChangeNothing) {
-    EXPECT_EQ(SetNumElements(nullptr, 2) + SetElemColor(nullptr, nullptr, 1) + SetFlag(nullptr, 1),
-              0);
-    EXPECT_EQ(SetElemOffset(&style, nullptr, 1) + GetElemOffset(&style, nullptr, 1) +
-                  SetElemColor(&style, nullptr, 1) + SetElemRgb(&style, nullptr, 1) +
-                  SetElemName(&style, nullptr, 1) + SetElemLtype(&style, nullptr, 1, &database),
-              6);
-    EXPECT_EQ(offsets(3), (Offsets{1, 2, 3}));
-}
-
 TEST(ColorBookName, hasAtMostOneMarkInside) {
     EXPECT_TRUE(IsColorBookNameValid(L"a$b"));
     EXPECT_TRUE(IsColorBookNameValid(L"ab"));

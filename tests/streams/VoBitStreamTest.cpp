@@ -64,7 +64,7 @@ TEST_F(VoBitStreamTest, writesAndReadsMatchAModelOfBits) {
     }
 }
 
-TEST_F(VoBitStreamTest, otherNumbersOfBitsAndNoBufferDoNothing) {
+TEST_F(VoBitStreamTest, otherNumbersOfBitsDoNothing) {
     VoFlatMemBuf buffer;
     fill(buffer, {0xFF, 0xFF});
     VoBitStream stream(&buffer, 16);
@@ -76,16 +76,6 @@ TEST_F(VoBitStreamTest, otherNumbersOfBitsAndNoBufferDoNothing) {
         EXPECT_EQ(stream.tell(), 0U);
     }
     EXPECT_EQ(bytesOf(buffer), (Bytes{0xFF, 0xFF}));
-
-    VoBitStream none(nullptr);
-    none.writeBit(1, 1);
-    none.writeBits(1, 3);
-    none.writeDouble(3.5);
-    std::uint8_t bit = 5;
-    none.readBit(bit);
-    EXPECT_EQ(bit, 5);
-    EXPECT_EQ(none.length(), 0U);
-    EXPECT_TRUE(none.isEOS());
 }
 
 TEST_F(VoBitStreamTest, nothingIsReadPastTheLength) {
@@ -230,35 +220,6 @@ TEST_F(VoBitStreamTest, bitsThatAreMissingLeaveTheTargetAtThePosition) {
         EXPECT_EQ(source.tell(), 0U);
     }
     source.readBits(nullptr, 0, 5);
-}
-
-// A buffer that shows no bytes, and may not grow either.
-class ClosedBuf : public VoMemStreamBuf {
-public:
-    explicit ClosedBuf(bool grows) : m_grows(grows) {}
-    using VoMemStreamBuf::readBytes;
-    using VoMemStreamBuf::writeBytes;
-    [[nodiscard]] std::uint64_t tell() const override { return 0; }
-    [[nodiscard]] std::uint64_t length() const override { return m_length; }
-    void setlength(std::uint64_t length) override { m_length = m_grows ? length : m_length; }
-    void readBytes(void* /*target*/, unsigned /*count*/) override {}
-    void writeBytes(const void* /*source*/, unsigned /*count*/) override {}
-
-private:
-    bool m_grows;
-    std::uint64_t m_length = 0;
-};
-
-TEST_F(VoBitStreamTest, aBufferThatTakesNothingIsReportedAndNothingMoves) {
-    for (const bool grows : {false, true}) {
-        ClosedBuf buffer(grows);
-        VoBitStream stream(&buffer);
-        stream.writeBit(1, 1);
-        stream.writeBytes("abc", 3);
-        EXPECT_EQ(reports(), Reports(2, kBufferReport));
-        EXPECT_EQ(stream.tell(), 0U);
-        EXPECT_EQ(stream.length(), 0U);
-    }
 }
 
 TEST_F(VoBitStreamTest, everyWriterGrowsTheBufferFromTheMiddleOfAByte) {

@@ -152,23 +152,6 @@ TEST_F(TypedStreamTest, aCountBeyondTheStreamGivesNoText) {
     }
 }
 
-TEST_F(TypedStreamTest, aStreamWithoutABufferIsEmpty) {
-    VoBufStream stream(nullptr);
-    VoFlatMemBuf buffer;
-    VoBufStream other(&buffer);
-    stream.writeDouble(5);
-    double value = 3;
-    stream.readDouble(value);
-    EXPECT_EQ(value, 3);
-    EXPECT_EQ(stream.tell() + stream.length() + stream.seek(5, VoIO::fromStart), 0U);
-    EXPECT_TRUE(stream.isEOS());
-    stream.truncate();
-    stream.copyFrom(&other);
-    stream.copyTo(&other);
-    other.copyFrom(&stream);
-    other.copyTo(nullptr);
-}
-
 TEST_F(TypedStreamTest, streamsCopyWhatTheirBuffersHaveLeft) {
     VoFlatMemBuf source;
     VoFlatMemBuf target;
