@@ -6,11 +6,27 @@
 
 namespace orvex {
 
-bool isLayerLocked(DatabaseCore& core, std::wstring_view layer) {
-    KdDbStub* const stub = core.findLayer(layer);
+namespace {
+
+// Null for one that the drawing doesn't have.
+const KdDbLayerTableRecord* layerNamed(DatabaseCore& core, std::wstring_view name) {
+    KdDbStub* const stub = core.findLayer(name);
     const KdDbObject* const record = stub != nullptr ? core.load(*stub) : nullptr;
-    return record != nullptr && record->isKindOf(KdDbLayerTableRecord::desc()) &&
-           static_cast<const KdDbLayerTableRecord*>(record)->isLocked();
+    return record != nullptr && record->isKindOf(KdDbLayerTableRecord::desc())
+               ? static_cast<const KdDbLayerTableRecord*>(record)
+               : nullptr;
+}
+
+} // namespace
+
+bool isLayerLocked(DatabaseCore& core, std::wstring_view layer) {
+    const KdDbLayerTableRecord* const record = layerNamed(core, layer);
+    return record != nullptr && record->isLocked();
+}
+
+bool isLayerEditable(DatabaseCore& core, std::wstring_view layer) {
+    const KdDbLayerTableRecord* const record = layerNamed(core, layer);
+    return record == nullptr || !(record->isLocked() || record->isOff() || record->isFrozen());
 }
 
 bool isOnLockedLayer(KdDbStub& entity) {

@@ -12,7 +12,10 @@ class DatabaseCore;
 // have isn't locked.
 bool isLayerLocked(DatabaseCore& core, std::wstring_view layer);
 
-// The same for what the entity lies on; false for anything else.
+// Whether a command may change all on the layer at once: neither locked nor out of sight.
+bool isLayerEditable(DatabaseCore& core, std::wstring_view layer);
+
+// Whether an entity lies on a locked layer; false for anything else.
 bool isOnLockedLayer(KdDbStub& entity);
 
 } // namespace orvex

@@ -20,6 +20,8 @@ constexpr std::array kReasons{
     ReasonWords{JoinReason::normal, "normal", "a wall's normal isn't +z"},
     ReasonWords{JoinReason::plane, "plane", "the walls lie {has} apart in height"},
     ReasonWords{JoinReason::gap, "gap", "a gap leaves no line to pick"},
+    ReasonWords{JoinReason::noPick, "no-pick", "a pick here would find another line of its wall"},
+    ReasonWords{JoinReason::style, "style", "a wall's style isn't in the drawing"},
     ReasonWords{JoinReason::outerElements, "outer-elements",
                 "a wall's first and last element coincide or aren't the outermost"},
     ReasonWords{JoinReason::singleElement, "single-element", "a wall has one element only"},

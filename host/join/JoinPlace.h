@@ -38,6 +38,8 @@ enum class JoinReason {
     normal,        // a normal other than +z
     plane,         // at different heights
     gap,           // a gap leaves no line to pick
+    noPick,        // whole lines, but a pick would find others
+    style,         // a wall's style isn't in the drawing
     outerElements, // first and last element aren't the outermost, or coincide
     singleElement, // a wall of one element
     tooFlat,       // corner: nearly in one line

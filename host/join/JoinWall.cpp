@@ -23,7 +23,8 @@ PlanLine lineBetween(PlanVector start, PlanVector end, PlanVector otherwise) {
 JoinWall::JoinWall(std::uint64_t handle, unsigned order, const MlineContent& content)
     : m_handle(handle), m_order(order), m_elements(content.elementCount()),
       m_closed(content.closed && content.vertices.size() > 1),
-      m_capSuppressed{content.startCapsSuppressed, content.endCapsSuppressed},
+      m_hasStyle(content.style.isValid()), m_capSuppressed{content.startCapsSuppressed,
+                                                           content.endCapsSuppressed},
       m_lists(content.lists) {
     const KdGeVector3d& normal = content.normal;
     m_facesUp = normal.z > 0.0 && std::hypot(normal.x, normal.y) <= kTolerance * normal.z;

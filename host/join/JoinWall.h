@@ -40,6 +40,7 @@ public:
     [[nodiscard]] double height() const { return m_height; }
     // Two elements or more, the first and the last of them apart and outermost.
     [[nodiscard]] bool hasOuterElements() const { return m_hasOuterElements; }
+    [[nodiscard]] bool hasStyle() const { return m_hasStyle; }
     // Finite, with at least one segment of some length.
     [[nodiscard]] bool isUsable() const { return m_usable; }
     // The greatest coordinate there is, for tolerances.
@@ -89,6 +90,7 @@ private:
     bool m_level = true;
     bool m_hasOuterElements = false;
     bool m_usable = false;
+    bool m_hasStyle = false;
     std::array<bool, 2> m_capSuppressed{};
     double m_height = 0.0;
     double m_largest = 0.0;

@@ -47,6 +47,21 @@ bool wallsAllow(JoinPlace& place, const JoinPair& walls) {
     return place.result != PlaceResult::left;
 }
 
+// The corner tool tells the part that stays by where the first elements cross, which may be past
+// the other end where the walls are nearly in one line.
+bool cornerLegAllows(JoinPlace& place, const Side& s) {
+    const PlanLine line = s.wall.track(s.side.segment, 0);
+    const double turn = line.crossing(s.other.track(s.otherSide.segment, 0));
+    const bool atEnd = s.side.end == WallEnd::end;
+    if (atEnd ? turn > 0.0 : turn < line.length) {
+        return true;
+    }
+    const PlanLine middle = s.wall.middle(s.side.segment);
+    const double at = middle.crossing(s.other.middle(s.otherSide.segment));
+    leave(place, JoinReason::shortLeg, atEnd ? at : middle.length - at, std::abs(turn - at));
+    return false;
+}
+
 // The corner's line runs from the crossing of the inner to that of the outer lines. Equal walls
 // halve the angle; of unequal ones the wider is cut back where they are nearly in one line.
 bool cornerAllows(JoinPlace& place, const JoinPair& walls) {
@@ -207,7 +222,13 @@ void settlePlace(JoinPlace& place, const JoinPair& walls) {
     const JointShape shape = jointShape(place, place.style, walls);
     const Side first{walls.first, place.first, shape.first, walls.second, place.second};
     const Side second{walls.second, place.second, shape.second, walls.first, place.first};
-    if (place.kind == PlaceKind::corner && !cornerAllows(place, walls)) {
+    if (!walls.first.hasStyle() || !walls.second.hasStyle()) {
+        leave(place, JoinReason::style);
+        return;
+    }
+    if (place.kind == PlaceKind::corner &&
+        !(cornerAllows(place, walls) && cornerLegAllows(place, first) &&
+          cornerLegAllows(place, second))) {
         return;
     }
     if (legsAllow(place, first, shape.slack) && legsAllow(place, second, shape.slack) &&

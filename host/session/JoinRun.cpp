@@ -182,7 +182,7 @@ bool JoinRun::tryPlace(unsigned index, unsigned attempt, JoinScript& script) {
     const unsigned second = place.second.wall;
     const auto steps = joinSteps(place, m_walls[first], m_walls[second], attempt);
     if (!steps) {
-        place.reason = JoinReason::gap;
+        place.reason = JoinReason::noPick;
         return false;
     }
     const Content firstBefore = contentOf(first);

@@ -2,8 +2,8 @@
 
 #include "DatabaseCore.h"
 #include "EntityTraits.h"
-#include "KdDbLayerTable.h"
 #include "KdDbMline.h"
+#include "lockedLayers.h"
 #include "textCodec.h"
 
 #include <algorithm>
@@ -22,12 +22,7 @@ public:
     [[nodiscard]] bool allowsLayer(const std::wstring& name) {
         const auto [place, isNew] = m_layers.try_emplace(name, true);
         if (isNew) {
-            KdDbStub* const stub = m_core.findLayer(name);
-            const auto* const layer =
-                stub != nullptr ? dynamic_cast<const KdDbLayerTableRecord*>(m_core.load(*stub))
-                                : nullptr;
-            place->second =
-                layer == nullptr || (!layer->isOff() && !layer->isFrozen() && !layer->isLocked());
+            place->second = isLayerEditable(m_core, name);
         }
         return place->second;
     }

@@ -39,6 +39,8 @@ TEST(PlaceReasons, whatAPlaceIsLeftForIsTold) {
         {JoinReason::none, {kBar, kUpright}, {0, 2900, 3100}}, // as it will be
         {JoinReason::bothEnds, {kBar, wall({0, -120}, {0, 130})}, {0}},
         {JoinReason::tooAcute, {wall({9000, 0}, {0, 0}), wall({0, 0}, {8863, 1563})}, {0}},
+        {JoinReason::shortLeg, {wall({0, 0}, {-4000, 0}), wall({0, 0}, {4000, 70})}, {0}},
+        {JoinReason::none, {wall({0, 0}, {-12000, 0}), wall({0, 0}, {12000, 210})}, {0}},
         {JoinReason::shortLeg, {wall({-500, 0}, {500, 0}), wall({3864, 1035}, {0, 0})}, {0}},
     };
     for (const Case& sample : cases) {
@@ -53,6 +55,16 @@ TEST(PlaceReasons, whatAPlaceIsLeftForIsTold) {
         ASSERT_EQ(plan.places.size(), 1U);
         EXPECT_EQ(joinReasonCode(plan.places[0].reason), joinReasonCode(sample.reason));
     }
+}
+
+TEST(PlaceReasons, withoutItsStyleAWallIsOnlyLookedAt) {
+    std::vector<MlineContent> contents{drawWall(kBar), drawWall(kUpright)};
+    contents[1].style = {};
+    EXPECT_EQ(planJoins(wallsOf(contents), {}).places.at(0).reason, JoinReason::style);
+    contents[1].style = contents[0].style;
+    playIdeally(planJoins(wallsOf(contents), {}), contents);
+    contents[1].style = {};
+    EXPECT_EQ(planJoins(wallsOf(contents), {}).places.at(0).result, PlaceResult::already);
 }
 
 TEST(PlaceReasons, theOtherPlaceIsNamed) {

@@ -1,5 +1,6 @@
 #include "planSamples.h"
 
+#include "KdDbStub.h"
 #include "checkJoint.h"
 
 #include <array>
@@ -22,6 +23,8 @@ KdGeVector3d inSpace(PlanVector v) {
 
 MlineContent drawWall(const WallSketch& sketch) {
     MlineContent content;
+    static KdDbStub style; // walls only ask whether there is one
+    content.style = KdDbObjectId(&style);
     content.closed = sketch.closed;
     content.normal = {0.0, 0.0, sketch.normal};
     const std::size_t count = sketch.points.size();
