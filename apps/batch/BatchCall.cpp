@@ -132,7 +132,8 @@ CLI::App* addJoin(CLI::App& app, Options& options) {
         ->check(CLI::IsMember({"yes", "no"}));
     verb->add_option("--layer", call.layers, "Join what is on this layer; may be given again")
         ->allow_extra_args(false);
-    verb->add_option("--save-script", call.saveScript, "Where to save the joints as a script");
+    verb->add_option("--save-script", call.saveScript,
+                     "Where to save the joints as a script; - prints it");
     verb->add_flag("--json", call.asJson, "Print JSON, for programs");
     verb->add_option("--module", call.module, "The module file to load");
     verb->footer(joinFooter());

@@ -12,6 +12,7 @@
 #include "textCodec.h"
 #include "verbs.h"
 
+#include <cstdio>
 #include <filesystem>
 
 namespace orvex {
@@ -21,6 +22,11 @@ namespace {
 bool isSameFile(const std::string& a, const std::string& b) {
     std::error_code ignored;
     return a == b || std::filesystem::equivalent(a, b, ignored);
+}
+
+// The script goes to standard output, and all else that is printed to standard error.
+bool printsScript(const JoinCall& call) {
+    return call.saveScript == "-";
 }
 
 // A script in a drawing's place would be the drawing's end.
@@ -61,7 +67,7 @@ std::optional<Failure> saveScript(AtomicFile& file, const std::string& text) {
 // Both files or none.
 std::optional<Failure> saveResults(Session& session, JoinRun& join, const JoinCall& call) {
     std::optional<AtomicFile> script;
-    if (call.saveScript) {
+    if (call.saveScript && !printsScript(call)) {
         script.emplace(*call.saveScript);
         if (auto failure = saveScript(*script, join.script())) {
             return failure;
@@ -103,7 +109,11 @@ std::optional<Failure> joinDrawing(const JoinCall& call) {
             withMemory(FailureCause::unplayableScript, call.drawing, [&] { return join.play(); })) {
         return failure;
     }
-    printJoin(join, call.asJson);
+    printJoin(join, call.asJson, printsScript(call) ? stderr : stdout);
+    if (printsScript(call)) {
+        const std::string script = join.script();
+        std::fwrite(script.data(), 1, script.size(), stdout);
+    }
     // Before the save: a call that can't print what it did leaves nothing behind.
     if (auto failure = flushOutput()) {
         return failure;

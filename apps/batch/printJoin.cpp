@@ -17,8 +17,8 @@ using Json = nlohmann::ordered_json;
 constexpr std::array kResults{PlaceResult::joined, PlaceResult::already, PlaceResult::left,
                               PlaceResult::unasked};
 
-void print(const std::string& text) {
-    std::fwrite(text.data(), 1, text.size(), stdout);
+void print(std::FILE* out, const std::string& text) {
+    std::fwrite(text.data(), 1, text.size(), out);
 }
 
 Json placeJson(const JoinPlace& place, const std::vector<JoinWall>& walls) {
@@ -60,34 +60,34 @@ Json countsJson(const std::vector<JoinPlace>& places) {
     return counts;
 }
 
-void printJson(const JoinRun& join, const Json& counts) {
-    print("{\"joints\":[");
+void printJson(std::FILE* out, const JoinRun& join, const Json& counts) {
+    print(out, "{\"joints\":[");
     bool first = true;
     for (const JoinPlace& place : join.places()) {
-        print(first ? "\n" : ",\n");
+        print(out, first ? "\n" : ",\n");
         first = false;
-        print(placeJson(place, join.walls()).dump());
+        print(out, placeJson(place, join.walls()).dump());
     }
-    print("\n],\"counts\":" + counts.dump() + "}\n");
+    print(out, "\n],\"counts\":" + counts.dump() + "}\n");
 }
 
 } // namespace
 
-void printJoin(const JoinRun& join, bool asJson) {
+void printJoin(const JoinRun& join, bool asJson, std::FILE* out) {
     const Json counts = countsJson(join.places());
     if (asJson) {
-        printJson(join, counts);
+        printJson(out, join, counts);
         return;
     }
     for (const JoinPlace& place : join.places()) {
-        print(joinPlaceText(place, join.walls()) + '\n');
+        print(out, joinPlaceText(place, join.walls()) + '\n');
     }
     std::string summary;
     for (const PlaceResult result : kResults) {
         const std::string_view word = placeResultWord(result);
         summary += (summary.empty() ? "" : ", ") + counts[word].dump() + ' ' + std::string(word);
     }
-    print(summary + '\n');
+    print(out, summary + '\n');
 }
 
 } // namespace orvex

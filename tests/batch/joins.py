@@ -142,6 +142,9 @@ CASES = [
     ("corner at 15, long legs", corner(15, 9 * W), 0, 0, 1, 0),
     ("corner at 15, short legs", corner(15, 700), 0, 0, 0, 1),
     *[(f"corner at {a}", corner(a, 4000), 0, 0, 1, 0) for a in (160, 175)],
+    ("corner at 179, legs too short", corner(179, 4000), 0, 0, 0, 1),
+    ("corner at 179", corner(179, 12000), 0, 0, 1, 0),
+    *[(f"corner of 1 to 2 at {a}", corner(a, 4000, other=400), 0, 0, 1, 0) for a in (135, 160)],
     ("corner at 175, unequal", corner(175, 4000, other=400), 0, 0, 0, 1),
     ("in one line, a gap", [Wall((-4000, 0), (-25, 0)), Wall((25, 0), (4000, 0))], 0, 0, 0, 1),
     ("in one line, touching", [Wall((-4000, 0), (0, 0)), Wall((0, 0), (4000, 0))], 0, 0, 0, 1),
@@ -149,6 +152,19 @@ CASES = [
     ("twice", [BAR, BAR], 0, 0, 0, 1),
     ("wholly inside", [BAR, Wall((-1000, 0), (1000, 0))], 0, 0, 0, 1),
     ("parallel and overlapping", [BAR, Wall((-5000, 190), (5000, 190))], 0, 0, 0, 1),
+    *[(f"parallel at {y}", [BAR, Wall((-5000, y), (5000, y))], 0, 0, 0, n) for y, n in ((199.999, 1), (200, 0))],
+    ("cross on a bend", [Wall((0, 5000), (0, 0), (5000, 0)), Wall((-4000, -4000), (4000, 4000))], 0, 0, 0, 1),
+    ("tee on a vertex", [Wall((-5000, 0), (0, 0), (5000, 0)), stem(-50)], 0, 0, 0, 1),
+    ("tee too near to a bend", [Wall((0, 4000), (0, 0), (5000, 0)), stem(0, x=50)], 0, 0, 0, 1),
+    *[
+        (f"foot {x} from the bar's end", [Wall((-5000, 0), (x, 0)), stem(0)], 0, int(x == 400), int(x < 400), 0)
+        for x in (60, 150, 400)
+    ],
+    ("four through one point", [Wall(at_angle(a + 180, 5000), at_angle(a, 5000)) for a in (0, 45, 90, 135)], 0, 0, 0, 1),
+    ("stems from one foot", [BAR] + [Wall(at_angle(a, 5000), (0, 0)) for a in (45, 135)], 0, 0, 0, 1),
+    ("facing stems, both through", [BAR, stem(-190), stem(-190, x=30, side=-1)], 0, 2, 0, 0),
+    ("shorter than the bar is wide", [BAR, Wall((0, 50), (0, -50))], 0, 0, 0, 1),
+    ("the nearest of two bars", [BAR, Wall((-5000, 260), (5000, 260)), stem(390)], 0, 1, 0, 0),
     ("parallel and apart", [BAR, Wall((-5000, 200.001), (5000, 200.001))], 0, 0, 0, 0),
     (
         "tee at 15",
@@ -338,6 +354,10 @@ def check_odd_input(report, program, folder):
     for over in (plan, out):
         run = call(program, "join", plan, "--output", out, "--save-script", over)
         report.check(run.returncode == 2, f"a script over a drawing: {run.returncode}")
+    run = call(program, "join", plan, "--save-script", "-", "--json")
+    report.check(json.loads(run.stderr)["counts"]["joined"] == 4, f"beside a printed script: {run.stderr}")
+    report.check(play(program, plan, run.stdout, out).returncode == 0, "a printed script can't be played")
+    out.unlink()
     run = call(program, "join", plan, "--module", folder / "nowhere.omx", "--output", out)
     report.check(run.returncode == 5, f"no module: {run.returncode}")
     run = call(program, "join", plan, "--output", folder / "nowhere" / "out.dxf", "--save-script", script)
@@ -345,9 +365,10 @@ def check_odd_input(report, program, folder):
     report.check(not out.exists() and not script.exists(), "something was left behind")
     joined(program, plan)
     report.check(plan.read_bytes() == before, "a look changes the drawing")
-    plan.write_bytes(before.replace(b"AcDbMlineStyle", b"AcDbNoStyleAtAll"))
-    run = call(program, "join", plan)
-    report.check(run.returncode == 0, f"without a style: {run.stderr}")
+    style = ezdxf.readfile(plan).mline_styles.get("Standard").dxf.handle.encode()
+    plan.write_bytes(before.replace(b"340\n" + style + b"\n", b"340\nFFFF\n").replace(b"\nStandard\n", b"\nElse\n"))
+    run = call(program, "join", plan, "--json")
+    report.check(run.returncode == 0 and json.loads(run.stdout)["counts"]["style"] == 4, f"without a style: {run.stdout}")
 
 
 def main():
