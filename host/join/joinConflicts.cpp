@@ -1,6 +1,7 @@
 #include "joinConflicts.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <tuple>
 
@@ -105,27 +106,36 @@ bool faceEachOther(const JoinPlace& a, const JoinPlace& b, std::span<const JoinW
     return cross(bar, towards(a.first, walls)) * cross(bar, towards(b.first, walls)) < 0.0;
 }
 
+// The ends of a wall that a place may lie at: of two walls that overlap any of their segments.
+std::array<WallEnd, 2> endsAt(const JoinPlace& place, const JoinSide& side,
+                              std::span<const JoinWall> walls) {
+    if (side.end != WallEnd::none || place.kind != PlaceKind::overlap) {
+        return {side.end, WallEnd::none};
+    }
+    const JoinWall& wall = walls[side.wall];
+    return {wall.endAtStart(side.segment), wall.endAtEnd(side.segment)};
+}
+
+// Facing stems that both go through the bar meet in it, too, which is no place of its own.
 void dropFacingStems(std::vector<DraftPlace>& drafts, std::span<const JoinWall> walls) {
     const std::vector<EndPlace> ends = endPlaces(drafts);
-    const auto teesAt = [&](const JoinSide& side) {
-        const EndPlace key{side.wall, side.end, 0};
+    const auto teesAt = [&](const JoinPlace& place, const JoinSide& side) {
         std::vector<unsigned> tees;
-        for (auto it = std::lower_bound(ends.begin(), ends.end(), key);
-             it != ends.end() && it->sameEnd(key); ++it) {
-            if (isStemAt(drafts[it->place], *it) &&
-                drafts[it->place].place.reason == JoinReason::none) {
-                tees.push_back(it->place);
+        for (const WallEnd end : endsAt(place, side, walls)) {
+            const EndPlace key{side.wall, end, 0};
+            for (auto it = std::lower_bound(ends.begin(), ends.end(), key);
+                 it != ends.end() && it->sameEnd(key); ++it) {
+                if (isStemAt(drafts[it->place], *it) &&
+                    drafts[it->place].place.reason == JoinReason::none) {
+                    tees.push_back(it->place);
+                }
             }
         }
         return tees;
     };
     for (DraftPlace& draft : drafts) {
-        const JoinPlace& place = draft.place;
-        if (place.first.end == WallEnd::none || place.second.end == WallEnd::none) {
-            continue;
-        }
-        const std::vector<unsigned> others = teesAt(place.second);
-        for (const unsigned a : teesAt(place.first)) {
+        const std::vector<unsigned> others = teesAt(draft.place, draft.place.second);
+        for (const unsigned a : teesAt(draft.place, draft.place.first)) {
             draft.dropped =
                 draft.dropped || std::any_of(others.begin(), others.end(), [&](unsigned b) {
                     return faceEachOther(drafts[a].place, drafts[b].place, walls);

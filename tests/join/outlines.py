@@ -8,7 +8,13 @@ import pyclipper
 from plans import free_ends, outline
 
 UNITS = 1e5  # integers to a drawing unit
-EPSILON = 2e-3  # drawing units
+EPSILON = 2e-3  # drawing units, for plans near the origin
+
+
+def tolerance(plan):
+    """Far off, the tools' rounding is more: some 1e-9 of the coordinates, at 15 degrees four times that."""
+    return max(EPSILON, 4e-9 * abs(plan.centre))
+
 
 
 def scaled(points, centre):
@@ -52,10 +58,10 @@ def overlaps(plan):
             shared += both.Execute(pyclipper.CT_INTERSECTION, pyclipper.PFT_NONZERO, pyclipper.PFT_NONZERO)
     grown = pyclipper.PyclipperOffset()
     grown.AddPaths(shared, pyclipper.JT_MITER, pyclipper.ET_CLOSEDPOLYGON)
-    return grown.Execute(EPSILON * UNITS)
+    return grown.Execute(tolerance(plan) * UNITS)
 
 
-def drawn(multiline, centre, elements):
+def drawn(multiline, centre, elements, epsilon):
     """The drawn stretches of some elements, as pairs of complex points about the centre."""
     vertices = multiline["vertices"]
     closed = bool(multiline["flags"] & 2)
@@ -73,12 +79,12 @@ def drawn(multiline, centre, elements):
             if len(stops) % 2:
                 stops = stops + [abs(stop - start)]
             for low, high in zip(stops[::2], stops[1::2]):
-                if high - low > EPSILON:
+                if high - low > epsilon:
                     stretches.append((start + direction * low, start + direction * high))
     return stretches
 
 
-def uncovered(edge, others):
+def uncovered(edge, others, epsilon):
     """Intervals of an edge that no collinear one of the others covers, longer than the tolerance."""
     start, stop = edge
     length = abs(stop - start)
@@ -90,16 +96,16 @@ def uncovered(edge, others):
         if high < 0 or low > length:
             continue
         # Distance at the places that lie beside the edge.
-        if high - low < EPSILON:
+        if high - low < epsilon:
             continue
         slope = (v.imag - u.imag) / (v.real - u.real)
         ends = [u.imag + slope * (min(max(x, 0.0), length) - u.real) for x in (low, high)]
-        if max(map(abs, ends)) < EPSILON:
+        if max(map(abs, ends)) < epsilon:
             covered.append((low, high))
     covered.sort()
     gaps, reached = [], 0.0
     for low, high in covered + [(length, length)]:
-        if low - reached > 2 * EPSILON:
+        if low - reached > 2 * epsilon:
             gaps.append((start + direction * reached, start + direction * min(low, length)))
         reached = max(reached, high)
     return gaps
@@ -112,7 +118,7 @@ def near(place, forgiven):
 def differences(plan, listing, forgiven=(), upper=()):
     """What a joined plan draws wrongly: lines of text. `forgiven`: (place, radius) of places that were left apart;
     `upper`: paths within which more may be drawn than the outline."""
-    centre = plan.centre
+    centre, epsilon = plan.centre, tolerance(plan)
     edges, paths = union(plan)
     caps = [(a - centre, b - centre) for wall in plan.walls for a, b in free_ends(wall)]
     styles = {style["name"]: [e["offset"] for e in style["elements"]] for style in listing["styles"]}
@@ -120,13 +126,13 @@ def differences(plan, listing, forgiven=(), upper=()):
     for multiline in listing["multilines"]:
         offsets = styles[multiline["style"]]
         ends = {offsets.index(max(offsets)), offsets.index(min(offsets))}
-        outer += drawn(multiline, centre, ends)
-        inner += drawn(multiline, centre, set(range(len(offsets))) - ends)
+        outer += drawn(multiline, centre, ends, epsilon)
+        inner += drawn(multiline, centre, set(range(len(offsets))) - ends, epsilon)
     forgiven = [(place - centre, radius) for place, radius in forgiven]
     wrong = []
     for what, some, others in (("drawn, but no outline", outer, edges), ("outline, but not drawn", edges, outer + caps)):
         for piece in some:
-            for a, b in uncovered(piece, others):
+            for a, b in uncovered(piece, others, epsilon):
                 middle = (a + b) / 2
                 if near(middle, forgiven) or covers(upper, middle):
                     continue

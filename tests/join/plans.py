@@ -16,6 +16,7 @@ from dataclasses import dataclass, field
 import ezdxf
 
 TOP, ZERO, BOTTOM = 0, 1, 2
+SPARE = 0.05  # half widths that two meetings on a line keep apart
 
 
 @dataclass
@@ -32,7 +33,7 @@ class End:
     other_end: int = 0  # of the corner's partner: 0 or -1
 
 
-@dataclass
+@dataclass(eq=False)
 class Wall:
     points: list  # the chain
     style: Style
@@ -139,7 +140,7 @@ class Maker:
     def make_style(self, number):
         pick = self.random
         count = pick.choice([2, 2, 2, 3, 4, 5, 8, 16])
-        width = pick.choice([100, 150, 200, 240, 300, 365])
+        width = pick.choice([60, 100, 150, 200, 240, 300, 365, 500])
         low = -width / 2 if pick.random() < 0.5 else -pick.uniform(0.05, 0.95) * width
         inner = sorted((low + width * pick.uniform(0.1, 0.9) for _ in range(count - 2)), reverse=True)
         return Style(f"WALL{number}", [low + width, *inner, low])
@@ -162,7 +163,7 @@ class Maker:
         """The outer walls, counter-clockwise; gives (wall, segment) of bottom, right, top, left."""
         pick = self.random
         width, height = pick.uniform(12000, 24000), pick.uniform(12000, 24000)
-        loose = 0.08 * min(width, height)
+        loose = pick.choice([0.08, 0.2]) * min(width, height)
         corners = [complex(x + pick.uniform(-loose, loose), y + pick.uniform(-loose, loose))
                    for x, y in ((0, 0), (width, 0), (width, height), (0, height))]
         kind = pick.choice(["ring", "four", "chain"])
@@ -193,9 +194,9 @@ class Maker:
             x = (i + 1) / (columns + 1) + pick.uniform(-0.04, 0.04)
             slant = pick.uniform(-0.1, 0.1) if columns < 3 else pick.uniform(-0.03, 0.03)
             points = [at(0, x), at(2, 1 - x - slant)]
-            if pick.random() < 0.3 and levels:
-                middle = (points[0] + points[1]) / 2
-                points.insert(1, middle + pick.uniform(-0.05, 0.05) * abs(corners[1] - corners[0]))
+            bends = pick.choice([0, 0, 1, 2, 3]) if levels else 0
+            points[1:1] = [points[0] + (points[1] - points[0]) * (j + 1) / (bends + 1)
+                           + pick.uniform(-0.05, 0.05) * abs(corners[1] - corners[0]) for j in range(bends)]
             wall = self.wall(points)
             self.tee(wall, 0, *sides[0])
             if pick.random() < 0.25 and len(points) == 2:
@@ -216,15 +217,38 @@ class Maker:
                 wall.points[-1] = crossing(wall.line(0, 0), target.line(segment, 0))
 
     def stubs(self, corners, sides):
+        """Short walls outside, some bent, some with one that faces them from inside, some close together."""
         pick = self.random
         for side in range(4):
-            for _ in range(pick.choice([0, 0, 1, 2])):
+            for _ in range(pick.choice([0, 0, 1, 2, 3])):
                 along = corners[(side + 1) % 4] - corners[side]
-                foot = corners[side] + along * pick.uniform(0.12, 0.88)
-                turn = math.radians(pick.choice([90, 90, pick.uniform(20, 160), pick.uniform(40, 140)]))
+                foot = corners[side] + along * pick.uniform(0.1, 0.9)
+                turn = math.radians(pick.choice([90, 90, pick.uniform(15.2, 164.8), pick.uniform(40, 140)]))
                 out = along / abs(along) * cmath.exp(-1j * turn)
-                wall = self.wall([foot + out * pick.uniform(2500, 4000), foot])
-                self.tee(wall, -1, *sides[side])
+                wall = self.stub(foot, out * pick.uniform(2500, 4000), sides[side])
+                if pick.random() < 0.3:
+                    wall.points.insert(0, wall.points[0] + out * cmath.exp(1j * pick.uniform(-1.5, 1.5)) * 1500)
+                elif pick.random() < 0.4:
+                    shift = pick.choice([0, 0, pick.uniform(-1, 1) * wall.half()])
+                    self.stub(foot + shift * along / abs(along), -out * pick.uniform(1500, 2500), sides[side])
+                if pick.random() < 0.3:
+                    width = 2 * wall.half() + 2 * max(s.offsets[0] - s.offsets[-1] for s in self.styles)
+                    beside = foot + along / abs(along) * pick.uniform(0.3, 1) * width / math.sin(turn)
+                    self.stub(beside, out * pick.uniform(2500, 4000), sides[side])
+
+    def stub(self, foot, out, side):
+        wall = self.wall([foot + out, foot])
+        self.tee(wall, -1, *side)
+        return wall
+
+    def court(self, corners):
+        """A ring somewhere inside, which other walls may cross."""
+        pick = self.random
+        if pick.random() < 0.35:
+            centre = corners[0] + (corners[2] - corners[0]) * pick.uniform(0.3, 0.7)
+            count, turn = pick.choice([3, 4, 5, 6]), pick.uniform(0, 7)
+            self.wall([centre + cmath.rect(pick.uniform(1500, 4000), turn + i * math.tau / count)
+                       for i in range(count)], closed=True)
 
     def settle(self):
         """Puts the chain's ends where the clean plan has them, for what measures from them."""
@@ -259,97 +283,164 @@ def segment_met(wall, start, stop):
 
 # ---- which plans are fair ------------------------------------------------------------------------
 
-def claims(walls):
-    """For each wall and segment what its meetings occupy: (from, to); None where a meeting is no clean one."""
-    taken = {}
-    crosses = 0
-    tees = {(id(w), id(w.ends[e].other)) for w in walls for e in (0, -1) if w.ends[e].kind == "tee"}
-    partners = {(id(w), id(w.ends[e].other)) for w in walls for e in (0, -1) if w.ends[e].kind == "corner"}
+def own_segment(wall, end):
+    return 0 if end == 0 else len(wall.segments()) - 1
 
-    def claim(wall, segment, other, other_segment):
-        own, line = wall.line(segment, wall.middle()), other.line(other_segment, other.middle())
-        s = sine(own[1], line[1])
-        if s < math.sin(math.radians(15)):
-            return False
-        c = math.sqrt(max(0.0, 1 - s * s))
-        place = crossing(own, line)
-        at = ((place - own[0]) * own[1].conjugate()).real
-        reach = (other.half() + wall.half() * c) / s
-        taken.setdefault((id(wall), segment), []).append((at - reach, at + reach, wall, segment))
-        return True
+
+def partner(wall, end):
+    """The wall and segment that an end belongs to; nothing for a free end."""
+    target = wall.ends[end]
+    if target.kind == "tee":
+        return target.other, target.segment
+    return (target.other, own_segment(target.other, target.other_end)) if target.kind == "corner" else None
+
+
+def carelessness(wall, end):
+    """How far from where the middles cross an end is drawn at most."""
+    if wall.closed or wall.ends[end].kind == "free":
+        return 0.0
+    other, segment = partner(wall, end)
+    s = sine(wall.line(own_segment(wall, end), 0)[1], other.line(segment, 0)[1])
+    return other.half() / s + 0.95 * min(wall.half(), other.half())
+
+
+def end_room(wall, segment, which):
+    """How far a segment's end may lie from where the clean plan has it: an open end by carelessness, a bend by its
+    miter."""
+    end = ends_of(wall, segment)[which]
+    if end is not None:
+        return carelessness(wall, end)
+    vertex = (segment + which) % len(wall.points)
+    return max(abs(side_points(wall, side)[vertex] - wall.points[vertex]) for side in wall.sides())
+
+
+def along(line, place):
+    return ((place - line[0]) * line[1].conjugate()).real
+
+
+def ends_of(wall, segment):
+    """The chain's ends at a segment's start and end, None at a bend."""
+    last = not wall.closed and segment == len(wall.segments()) - 1
+    return 0 if segment == 0 and not wall.closed else None, -1 if last else None
+
+
+def passes(wall, segment, other, other_segment):
+    """Whether a segment, however carelessly drawn, goes on past another by more than the tolerance."""
+    line, across = wall.line(segment, wall.middle()), other.line(other_segment, other.middle())
+    start, stop = wall.segments()[segment]
+    reach = other.half() / sine(line[1], across[1]) + min(wall.half(), other.half()) + 1
+    at = along(line, crossing(line, across))
+    return end_room(wall, segment, 0) + reach < at < abs(stop - start) - end_room(wall, segment, 1) - reach
+
+
+def stays(wall, end):
+    """Whether the far end of a wall's last segment is clear of what this end belongs to."""
+    segment, (other, other_segment) = own_segment(wall, end), partner(wall, end)
+    line, across = wall.line(segment, wall.middle()), other.line(other_segment, other.middle())
+    start, stop = wall.segments()[segment]
+    length = abs(stop - start) - end_room(wall, segment, 0 if end == -1 else 1)
+    return length > other.half() / sine(line[1], across[1]) + min(wall.half(), other.half()) + 1
+
+
+def block(wall, segment):
+    """What a segment may occupy, its ends over and with the tolerance: four corners."""
+    start, stop = wall.segments()[segment]
+    direction = (stop - start) / abs(stop - start)
+    before, after = (wall.half() + end_room(wall, segment, which) for which in (0, 1))
+    left, right = wall.sides()
+    return [p + 1j * direction * side for p in (start - direction * before, stop + direction * after)
+            for side in (left, right)]
+
+
+def apart(first, second):
+    """Whether a line along an edge of one of two blocks parts them."""
+    for corners in (first, second):
+        for direction in (corners[1] - corners[0], corners[2] - corners[0]):
+            one, two = ([(p * direction.conjugate()).real for p in block] for block in (first, second))
+            if max(one) < min(two) or max(two) < min(one):
+                return True
+    return False
+
+
+def facing(first, second):
+    """Stems that come to one bar from both sides in one direction."""
+    if not (first.ends[-1].kind == second.ends[-1].kind == "tee" and partner(first, -1) == partner(second, -1)):
+        return False
+    turn = (first.points[-1] - first.points[-2]).conjugate() * (second.points[-1] - second.points[-2])
+    return turn.real < 0 and abs(turn.imag) < 1e-9 * abs(turn)
+
+
+def claims(walls):
+    """What meetings take of each outer line, as {(wall, segment, side): [(from, to)]}, and the number of crosses; None
+    where a meeting is no clean one."""
+    taken = {}
+    known = set()
+
+    def claim(wall, segment, side, crossed, open_end=None):
+        line = wall.line(segment, wall.sides()[side])
+        places = [along(line, crossing(line, other)) for other in crossed]
+        low = -math.inf if open_end == 0 else min(places)
+        taken.setdefault((wall, segment, side), []).append((low, math.inf if open_end == -1 else max(places)))
+
+    def outer(wall, segment):
+        return [wall.line(segment, offset) for offset in wall.sides()]
 
     for wall in walls:
         for end in (0, -1):
-            target = wall.ends[end]
-            own_segment = 0 if end == 0 else len(wall.segments()) - 1
-            if target.kind == "tee":
-                if not claim(wall, own_segment, target.other, target.segment):
+            if wall.closed or wall.ends[end].kind == "free":
+                continue
+            segment, (other, other_segment) = own_segment(wall, end), partner(wall, end)
+            known |= {(wall, segment, other, other_segment), (other, other_segment, wall, segment)}
+            if sine(wall.line(segment, 0)[1], other.line(other_segment, 0)[1]) < math.sin(math.radians(15)):
+                return None
+            lines = outer(other, other_segment)
+            if wall.ends[end].kind == "tee":
+                base = other.line(other_segment, other.middle())
+                start, stop = wall.segments()[segment]
+                near = 0 if (((start if end == -1 else stop) - base[0]) * base[1].conjugate()).imag > 0 else 1
+                if not passes(other, other_segment, wall, segment) or not stays(wall, end):
                     return None
-                if not claim(target.other, target.segment, wall, own_segment):
+                claim(other, other_segment, near, outer(wall, segment))
+                lines = [lines[near]] * 2
+            else:
+                if not stays(wall, end):
                     return None
-            elif target.kind == "corner":
-                other_segment = 0 if target.other_end == 0 else len(target.other.segments()) - 1
-                if not claim(wall, own_segment, target.other, other_segment):
-                    return None
-    for i, first in enumerate(walls):
-        for second in walls[i + 1:]:
-            known = (id(first), id(second))
-            joined = known in tees or known[::-1] in tees or known in partners
-            for a in range(len(first.segments())):
-                for b in range(len(second.segments())):
-                    meeting = strips_meet(first, a, second, b)
-                    if meeting == "no":
-                        continue
-                    if meeting == "cross" and not joined:
-                        if not claim(first, a, second, b) or not claim(second, b, first, a):
-                            return None
-                        crosses += 1
-                    elif not joined:
-                        return None
+                if (end == 0) == (wall.ends[end].other_end == 0):
+                    lines.reverse()
+            for side in (0, 1):
+                claim(wall, segment, side, [lines[side]], end)
+    crosses = 0
+    pieces = [(wall, segment, block(wall, segment)) for wall in walls for segment in range(len(wall.segments()))]
+    for i, (wall, a, own) in enumerate(pieces):
+        for other, b, its in pieces[i + 1:]:
+            neighbours = wall is other and (b == a + 1 or (wall.closed and a == 0 and b == len(wall.segments()) - 1))
+            if neighbours or (wall, a, other, b) in known or apart(own, its) or facing(wall, other):
+                continue
+            flat = sine(wall.line(a, 0)[1], other.line(b, 0)[1]) < math.sin(math.radians(15))
+            if flat or wall is other or not passes(wall, a, other, b) or not passes(other, b, wall, a):
+                return None
+            crosses += 1
+            for side in (0, 1):
+                claim(wall, a, side, outer(other, b))
+                claim(other, b, side, outer(wall, a))
     return taken, crosses
 
 
-def strips_meet(first, a, second, b):
-    """no, cross (both go on well past the other), or near (anything between)."""
-    p, q = first.line(a, first.middle()), second.line(b, second.middle())
-    length_p, length_q = (abs(s[1] - s[0]) for s in (first.segments()[a], second.segments()[b]))
-    s = sine(p[1], q[1])
-    margin = 3 * (first.half() + second.half())
-    if s < 0.05:
-        gap = abs(((q[0] - p[0]) * p[1].conjugate()).imag)
-        return "near" if gap < margin else "no"
-    place = crossing(p, q)
-    at_p, at_q = (((place - line[0]) * line[1].conjugate()).real for line in (p, q))
-    reach = margin / s
-    inside_p = reach < at_p < length_p - reach
-    inside_q = reach < at_q < length_q - reach
-    if inside_p and inside_q:
-        return "cross"
-    outside_p = at_p < -reach or at_p > length_p + reach
-    outside_q = at_q < -reach or at_q > length_q + reach
-    return "no" if outside_p or outside_q else "near"
-
-
 def fair(walls):
+    """The number of crosses; None where meetings reach into each other or beyond a segment."""
     found = claims(walls)
     if found is None:
         return None
-    taken, crosses = found
-    for wanted in taken.values():
-        wanted.sort(key=lambda c: c[:2])
-        _, _, wall, segment = wanted[0]
-        length = abs(wall.segments()[segment][1] - wall.segments()[segment][0])
-        spare = 2.5 * wall.half() + 400
-        for one, two in zip(wanted, wanted[1:]):
-            if one[1] + spare > two[0]:
-                return None
-        # A meeting in the middle of a segment keeps clear of its ends; one at the end lies there.
-        for low, high, _, _ in wanted:
-            middle = (low + high) / 2
-            at_end = middle < 1 + wall.half() * 2 or middle > length - 1 - wall.half() * 2
-            if not at_end and (low < spare or high > length - spare):
-                return None
-    return crosses
+    for (wall, segment, side), wanted in found[0].items():
+        offset = wall.sides()[side]
+        line, points = wall.line(segment, offset), side_points(wall, offset)
+        wanted += [(-math.inf, along(line, points[segment]))] if wanted and min(wanted)[0] > -math.inf else []
+        if max(wanted, key=lambda c: c[1])[1] < math.inf:
+            wanted.append((along(line, points[(segment + 1) % len(points)]), math.inf))
+        wanted.sort()
+        if any(one[1] + SPARE * wall.half() > two[0] for one, two in zip(wanted, wanted[1:])):
+            return None
+    return found[1]
 
 
 # ---- the careless version --------------------------------------------------------------------------
@@ -363,14 +454,8 @@ def spoil(maker):
             target = wall.ends[end]
             if wall.closed or target.kind == "free":
                 continue
-            own_segment = 0 if end == 0 else len(wall.segments()) - 1
-            other = target.other
-            other_segment = target.segment if target.kind == "tee" else \
-                0 if target.other_end == 0 else len(other.segments()) - 1
-            own, line = wall.line(own_segment, wall.middle()), other.line(other_segment, other.middle())
-            s = sine(own[1], line[1])
-            tolerance = min(wall.half(), other.half())
-            limit = other.half() / s + 0.95 * tolerance
+            limit = carelessness(wall, end)
+            own = wall.line(own_segment(wall, end), 0)
             shift = pick.choice([0.0, pick.uniform(-limit, limit), pick.uniform(-limit, limit)])
             shifts.append((wall, end, (own[1] if end == -1 else -own[1]) * shift))
     for wall, end, shift in shifts:
@@ -392,6 +477,7 @@ def make_plan(seed):
         corners, sides = maker.frame()
         maker.inner(corners, sides)
         maker.stubs(corners, sides)
+        maker.court(corners)
         maker.settle()
         crosses = fair(maker.walls)
         if crosses is None:
@@ -400,7 +486,7 @@ def make_plan(seed):
         corner_ends = sum(w.ends[e].kind == "corner" for w in maker.walls for e in (0, -1))
         pick = maker.random
         turn = cmath.exp(1j * math.radians(pick.choice([0, 0.18, 30, 90, pick.uniform(0, 360)])))
-        move = pick.choice([0, complex(1e5, -2e5), complex(1e6, 1e6), complex(-1e6, 3e5)])
+        move = pick.choice([0, complex(1e5, -2e5), complex(1e6, 1e6), complex(-1e6, 3e5), complex(1e7, -1e7)])
         clean = [list(w.points) for w in maker.walls]
         spoil(maker)
         careless = []
