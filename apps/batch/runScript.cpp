@@ -64,10 +64,11 @@ std::optional<Failure> playToTheEnd(Session& session, const ScriptSource& script
             return failure;
         }
     }
-    if (const auto& failure = script.failure()) {
-        return Failure{FailureCause::unplayableScript, name, failure->line, narrow(failure->text)};
+    std::optional<Failure> failure = script.failure();
+    if (failure) {
+        failure->file = name;
     }
-    return std::nullopt;
+    return failure;
 }
 
 std::optional<Failure> save(Session& session, const std::string& output) {

@@ -418,10 +418,9 @@ void DrawingReader::addStyles(const RecordRun& section) {
         if (record.kind != RecordKind::mlineStyle) {
             continue;
         }
-        if (const char* const reason = checkStyle(m_document.bytes, m_document.span(i))) {
+        if (const auto failure = checkStyle(m_document.bytes, m_document.span(i))) {
             record.opaque = true;
-            warn(lineOf(record.offset),
-                 std::string("a multiline style contradicts itself, ") + reason);
+            warn(lineOf(record.offset), "a multiline style contradicts itself, " + failure->text);
         }
         KdDbStub& stub = m_core.addStub(record.opaque ? ObjectKind::opaque : ObjectKind::mlineStyle,
                                         record.handle, i, m_core.styleDictionary);

@@ -274,24 +274,21 @@ bool MlineParser::vertexIsComplete() const {
            m_stage != Stage::lines;
 }
 
-const char* MlineParser::finish() {
-    if (m_error != nullptr) {
-        return m_error;
-    }
-    if ((m_seen & (kStyleName | kStyle)) == 0) {
-        return "it names no style";
-    }
+std::optional<Failure> MlineParser::finish() {
     constexpr std::uint32_t kCounts = kVertexCount | kElementCount;
-    if ((m_seen & kCounts) != kCounts) {
-        return "a count is missing";
+    if ((m_seen & (kStyleName | kStyle)) == 0) {
+        fail("it names no style");
+    } else if ((m_seen & kCounts) != kCounts) {
+        fail("a count is missing");
+    } else if (m_stage != Stage::fields && !vertexIsComplete()) {
+        fail("its last vertex is not complete");
+    } else if (vertices.size() != static_cast<std::size_t>(vertexCount)) {
+        fail("the number of its vertices is not what it says");
     }
-    if (m_stage != Stage::fields && !vertexIsComplete()) {
-        return "its last vertex is not complete";
+    if (m_error == nullptr) {
+        return std::nullopt;
     }
-    if (vertices.size() != static_cast<std::size_t>(vertexCount)) {
-        return "the number of its vertices is not what it says";
-    }
-    return nullptr;
+    return Failure{FailureCause::unreadableInput, {}, 0, m_error};
 }
 
 } // namespace orvex

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "Failure.h"
 #include "KdGePoint3d.h"
 #include "KdGeVector3d.h"
 #include "MlineContent.h"
 #include "TagReader.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -28,8 +30,8 @@ class MlineParser {
 public:
     void begin();
     MlineRole feed(const Tag& tag); // every tag behind the record's code 0
-    // Null when all fits together, else what doesn't; the result is then of no use.
-    [[nodiscard]] const char* finish();
+    // Fails where something doesn't fit together; the result is then of no use.
+    [[nodiscard]] std::optional<Failure> finish();
 
     // ---- the result; views point into the tags ------------------------------------------------
     std::string_view styleName;

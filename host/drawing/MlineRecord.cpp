@@ -124,7 +124,7 @@ std::shared_ptr<MlineContent> readMline(const RecordContext& context, const Reco
     while (reader.next(tag) == TagReader::Result::tag) {
         parser.feed(tag);
     }
-    if (parser.finish() != nullptr) {
+    if (parser.finish()) {
         return nullptr;
     }
     auto content = contentOf(context, parser);

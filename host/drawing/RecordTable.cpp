@@ -111,10 +111,10 @@ void RecordCutter::endRecord() {
         return;
     }
     m_kind = RecordKind::other;
-    if (const char* const reason = m_mline.finish(); reason != nullptr) {
+    if (const auto failure = m_mline.finish()) {
         m_result.records.m_records.back().opaque = true;
         m_result.warnings.push_back(
-            {m_recordLine, std::string("a multiline contradicts itself, ") + reason});
+            {m_recordLine, "a multiline contradicts itself, " + failure->text});
     } else if (m_mline.style == 0) {
         m_result.warnings.push_back({m_recordLine, "a multiline names its style by name alone"});
     } else {

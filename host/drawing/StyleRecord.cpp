@@ -41,7 +41,7 @@ class StyleParser {
 public:
     explicit StyleParser(const DrawingText& drawingText) : m_text(drawingText) {}
     void run(std::string_view bytes, const RecordSpan& span);
-    [[nodiscard]] const char* error() const { return m_error; }
+    [[nodiscard]] const std::optional<Failure>& failure() const { return m_failure; }
 
     std::optional<std::string_view> name;
     std::string_view description;
@@ -73,11 +73,15 @@ private:
             fail("a value is no number");
         }
     }
-    void fail(const char* reason) { m_error = m_error != nullptr ? m_error : reason; }
+    void fail(const char* reason) {
+        if (!m_failure) {
+            m_failure = Failure{FailureCause::unreadableInput, {}, 0, reason};
+        }
+    }
 
     const DrawingText& m_text;
     std::optional<int> m_count;
-    const char* m_error = nullptr;
+    std::optional<Failure> m_failure;
 };
 
 void StyleParser::run(std::string_view bytes, const RecordSpan& span) {
@@ -236,17 +240,17 @@ void editElements(const RecordContext& context, RecordEdit& edit, const MlineSty
 
 } // namespace
 
-const char* checkStyle(std::string_view bytes, const RecordSpan& span) {
+std::optional<Failure> checkStyle(std::string_view bytes, const RecordSpan& span) {
     const DrawingText anyText; // only numbers are judged
     StyleParser parser(anyText);
     parser.run(bytes, span);
-    return parser.error();
+    return parser.failure();
 }
 
 std::shared_ptr<MlineStyleContent> readStyle(const RecordContext& context, const RecordSpan& span) {
     StyleParser parser(context.text);
     parser.run(context.bytes, span);
-    if (parser.error() != nullptr) {
+    if (parser.failure()) {
         return nullptr;
     }
     auto content = std::make_shared<MlineStyleContent>();

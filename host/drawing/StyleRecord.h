@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Failure.h"
 #include "MlineStyleContent.h"
 #include "RecordContext.h"
 #include "TagText.h"
@@ -10,8 +11,8 @@
 
 namespace orvex {
 
-// Null when a style's record holds together, else what contradicts.
-[[nodiscard]] const char* checkStyle(std::string_view bytes, const RecordSpan& span);
+// Fails where a style's record contradicts itself.
+[[nodiscard]] std::optional<Failure> checkStyle(std::string_view bytes, const RecordSpan& span);
 
 // The style that a record has; null when it contradicts itself.
 [[nodiscard]] std::shared_ptr<MlineStyleContent> readStyle(const RecordContext& context,

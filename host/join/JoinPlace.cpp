@@ -1,5 +1,7 @@
 #include "JoinPlace.h"
 
+#include "handleText.h"
+
 #include <array>
 #include <charconv>
 
@@ -51,16 +53,6 @@ std::string number(double value) {
     const auto end =
         std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, 6);
     return {text.data(), end.ptr};
-}
-
-std::string handleText(std::uint64_t handle) {
-    std::array<char, 16> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), handle, 16);
-    std::string result(text.data(), end.ptr);
-    for (char& c : result) {
-        c = c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c;
-    }
-    return result;
 }
 
 std::string handleList(std::span<const unsigned> indices, std::span<const JoinWall> walls) {

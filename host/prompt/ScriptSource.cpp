@@ -103,7 +103,7 @@ PromptAnswer ScriptSource::answerTo(const PromptRequest& request, const std::wst
 
 void ScriptSource::reject(const std::wstring& reason) {
     if (!m_failure) {
-        m_failure = Failure{m_line, reason};
+        m_failure = Failure{FailureCause::unplayableScript, {}, m_line, narrow(reason)};
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Failure.h"
 #include "PromptSource.h"
 
 #include <cstddef>
@@ -17,10 +18,6 @@ namespace orvex {
 // no prompt: `failure` then tells which line it was.
 class ScriptSource final : public PromptSource {
 public:
-    struct Failure {
-        std::size_t line = 0; // from 1
-        std::wstring text;
-    };
     using Printer = std::function<void(const std::wstring&)>;
 
     ScriptSource(std::string_view utf8, Printer printer);

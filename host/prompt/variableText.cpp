@@ -3,6 +3,7 @@
 #include "hostHeap.h"
 #include "promptStatus.h"
 #include "systemVariables.h"
+#include "textCodec.h"
 #include "typedAnswer.h"
 #include "variableTable.h"
 
@@ -47,6 +48,10 @@ std::optional<resbuf> parseValue(const VariableRow& row, const std::wstring& tex
     return value;
 }
 
+Failure refusal(const std::wstring& reason) {
+    return {FailureCause::unplayableScript, {}, 0, narrow(reason)};
+}
+
 } // namespace
 
 std::optional<std::wstring> variableText(const std::wstring& name) {
@@ -72,10 +77,10 @@ std::optional<std::wstring> variableText(const std::wstring& name) {
     }
 }
 
-std::optional<std::wstring> setVariableText(const std::wstring& name, const std::wstring& text) {
+std::optional<Failure> setVariableText(const std::wstring& name, const std::wstring& text) {
     const VariableRow* const row = findVariable(name);
     if (row == nullptr) {
-        return L"there is no variable '" + name + L"'";
+        return refusal(L"there is no variable '" + name + L"'");
     }
     std::optional<resbuf> value = parseValue(*row, text);
     if (value) {
@@ -87,7 +92,7 @@ std::optional<std::wstring> setVariableText(const std::wstring& name, const std:
             return std::nullopt;
         }
     }
-    return L"'" + text + L"' is no value for " + name;
+    return refusal(L"'" + text + L"' is no value for " + name);
 }
 
 } // namespace orvex

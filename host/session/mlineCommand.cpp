@@ -10,6 +10,7 @@
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "systemVariables.h"
+#include "textCodec.h"
 #include "userFrame.h"
 #include "variableText.h"
 
@@ -30,7 +31,7 @@ void askSetting(const wchar_t* variable, const std::wstring& question) {
         return;
     }
     if (const auto refusal = setVariableText(variable, text)) {
-        rejectAnswer(*refusal);
+        rejectAnswer(widen(refusal->text));
     }
 }
 

@@ -22,7 +22,7 @@ void setVariableCommand(Session& /*session*/) {
         return;
     }
     if (const auto refusal = setVariableText(name, text)) {
-        rejectAnswer(*refusal);
+        rejectAnswer(widen(refusal->text));
     }
 }
 

@@ -165,7 +165,7 @@ protected:
                 EXPECT_FALSE(session.run(command)) << narrow(command);
             }
         }
-        EXPECT_FALSE(source.failure()) << narrow(source.failure()->text);
+        EXPECT_FALSE(source.failure()) << messageOf(*source.failure());
         return session.drawing().bytes();
     }
 

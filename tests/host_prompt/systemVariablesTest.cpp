@@ -81,7 +81,7 @@ TEST_F(SystemVariables, dimzinOfTheDrawingGoesBeforeThatOfTheSession) {
     EXPECT_EQ(variableText(L"DIMZIN"), L"8");
     m_database.core().loadVariable("DIMZIN", 4);
     EXPECT_EQ(variableText(L"DIMZIN"), L"4");
-    EXPECT_EQ(setVariableText(L"DIMZIN", L"0"), std::nullopt);
+    EXPECT_FALSE(setVariableText(L"DIMZIN", L"0"));
     EXPECT_EQ(PromptSession::current().dimzin, 8);
 }
 
