@@ -1,5 +1,6 @@
 #include "DrawingList.h"
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "DictionaryContent.h"
 #include "KdDbDatabase.h"
@@ -8,6 +9,7 @@
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
+#include "ObjectTable.h"
 #include "geometry.h"
 #include "handleText.h"
 #include "kddbObjects.h"
@@ -80,7 +82,7 @@ ListedStyle listStyle(const KdDbStub& stub, const MlineStyleContent& content) {
 
 void forEachMline(KdDbDatabase& database, const std::function<void(const ListedMline&)>& visitor) {
     DatabaseCore& core = database.core();
-    for (KdDbStub& stub : core.stubs()) {
+    for (KdDbStub& stub : core.objects().stubs()) {
         if (stub.kind != ObjectKind::mline || stub.erased) {
             continue;
         }
@@ -91,7 +93,7 @@ void forEachMline(KdDbDatabase& database, const std::function<void(const ListedM
         }
         const std::shared_ptr<const ObjectContent> held = mline->content();
         const auto& content = static_cast<const MlineContent&>(*held);
-        const BlockEntities* const block = core.blockOf(stub);
+        const BlockEntities* const block = core.blocks().blockOf(stub);
         ListedMline listed;
         listed.handle = handleText(stub.handle);
         listed.block = block != nullptr ? narrow(block->name) : std::string();

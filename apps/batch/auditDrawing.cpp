@@ -1,6 +1,7 @@
 // The verb audit: what contradicts a style or itself, and laying it right.
 
 #include "DatabaseCore.h"
+#include "ObjectTable.h"
 #include "batchFiles.h"
 #include "drawingAudit.h"
 #include "handleText.h"
@@ -59,7 +60,7 @@ void printText(const std::vector<AuditedMline>& audited, std::size_t mlines) {
 // Of all blocks, in drawing order.
 std::vector<KdDbStub*> mlinesOf(DatabaseCore& core) {
     std::vector<KdDbStub*> mlines;
-    for (KdDbStub& stub : core.stubs()) {
+    for (KdDbStub& stub : core.objects().stubs()) {
         if (stub.kind == ObjectKind::mline && !stub.erased) {
             mlines.push_back(&stub);
         }

@@ -1,6 +1,7 @@
 // The verb join: a plan, its joints, a result.
 
 #include "AtomicFile.h"
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "JoinRun.h"
 #include "ModuleLoader.h"
@@ -75,9 +76,9 @@ std::optional<Failure> saveResults(Session& session, JoinRun& join, const JoinCa
     }
     if (call.output) {
         DatabaseCore& core = session.database().core();
-        core.beginCommand();
+        core.changes().beginCommand();
         join.giveBack();
-        core.endCommand();
+        core.changes().endCommand();
         if (auto failure = session.drawing().save(*call.output)) {
             return failure;
         }

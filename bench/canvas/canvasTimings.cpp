@@ -5,7 +5,9 @@
 // Prints a line for each phase: its name, the whole time, and the longest pass of the event loop in
 // it, for no input is answered during a pass. Milliseconds.
 
+#include "BlockList.h"
 #include "Canvas.h"
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "KdDbDatabase.h"
 #include "KdDbLayerTable.h"
@@ -14,6 +16,7 @@
 #include "ModuleLoader.h"
 #include "PlanPicture.h"
 #include "Session.h"
+#include "WellKnownObjects.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -195,36 +198,37 @@ void measurePhases(Canvas& canvas, Session& session, int multilines) {
     std::vector<std::function<void()>> out(30, [&] { wheel(canvas, {801, 601}, -1); });
     watch.phase("zoom out by 30 notches", out);
     watch.phase("extents", {[&] { canvas.zoomExtents(); }});
-    const auto& entities = core.modelSpace().entities;
+    const auto& entities = core.blocks().modelSpace().entities;
     KdDbStub& one = *entities[entities.size() / 2 / 2 * 2];
     watch.phase("edit one at extents", {[&] {
-                    core.beginCommand();
+                    core.changes().beginCommand();
                     change(core, one);
-                    core.endCommand();
+                    core.changes().endCommand();
                     canvas.refresh();
                 }});
     const PlanView near = hundredInView(multilines);
     session.view().setView(near.center(), near.viewHeight());
     watch.phase("go near", {[&] { canvas.viewChanged(); }});
     watch.phase("edit one near", {[&] {
-                    core.beginCommand();
+                    core.changes().beginCommand();
                     change(core, one);
-                    core.endCommand();
+                    core.changes().endCommand();
                     canvas.refresh();
                 }});
-    core.beginCommand();
+    core.changes().beginCommand();
     for (KdDbStub* stub : entities) {
         if (stub->kind == ObjectKind::mline) {
             change(core, *stub);
         }
     }
-    core.endCommand();
+    core.changes().endCommand();
     malloc_trim(0); // what the edits have left to the allocator is their cost, not the canvas's
     watch.phase("all have changed", {[&] { canvas.refresh(); }});
-    core.undo();
+    core.changes().undo();
     malloc_trim(0);
     watch.phase("all changes undone", {[&] { canvas.refresh(); }});
-    auto* layer = static_cast<KdDbLayerTableRecord*>(core.open(*core.findLayer(L"WALLS"), true));
+    auto* layer =
+        static_cast<KdDbLayerTableRecord*>(core.open(*core.wellKnown().findLayer(L"WALLS"), true));
     KdCmColor blue;
     blue.setColorIndex(5);
     layer->setColor(blue);

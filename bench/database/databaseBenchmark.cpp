@@ -1,10 +1,13 @@
 // What objects cost: a command on one of many, a look-up by handle, and the memory of multilines
 // that were opened.
 
+#include "BlockList.h"
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "KdDbDatabase.h"
 #include "KdDbMline.h"
 #include "MlineContent.h"
+#include "ObjectTable.h"
 
 #include <benchmark/benchmark.h>
 
@@ -41,11 +44,12 @@ public:
 };
 
 void fill(DatabaseCore& core, std::int64_t count) {
-    core.setSource(std::make_shared<Walls>());
+    core.objects().setSource(std::make_shared<Walls>());
     for (std::int64_t i = 0; i < count; ++i) {
-        core.appendEntity(
-            core.modelSpace(),
-            core.addStub(ObjectKind::mline, static_cast<std::uint64_t>(0x100 + i), 1, nullptr));
+        core.blocks().appendEntity(core.blocks().modelSpace(),
+                                   core.objects().addStub(ObjectKind::mline,
+                                                          static_cast<std::uint64_t>(0x100 + i), 1,
+                                                          nullptr));
     }
 }
 
@@ -53,14 +57,14 @@ void commandOnOneOf(benchmark::State& state) {
     KdDbDatabase database(false);
     DatabaseCore& core = database.core();
     fill(core, state.range(0));
-    KdDbStub& stub = core.stubs()[core.stubs().size() / 2];
+    KdDbStub& stub = core.objects().stubs()[core.objects().stubs().size() / 2];
     double scale = 1.0;
     for ([[maybe_unused]] const auto _ : state) {
-        core.beginCommand();
+        core.changes().beginCommand();
         auto* const mline = static_cast<KdDbMline*>(core.open(stub, true));
         mline->setScale(scale += 1.0);
-        core.endCommand();
-        core.undo();
+        core.changes().endCommand();
+        core.changes().undo();
     }
 }
 BENCHMARK(commandOnOneOf)->Arg(1'000)->Arg(100'000)->Arg(1'000'000);
@@ -71,13 +75,13 @@ void commandOnAll(benchmark::State& state) {
     fill(core, state.range(0));
     double scale = 1.0;
     for ([[maybe_unused]] const auto _ : state) {
-        core.beginCommand();
+        core.changes().beginCommand();
         scale += 1.0;
-        for (KdDbStub& stub : core.stubs()) {
+        for (KdDbStub& stub : core.objects().stubs()) {
             static_cast<KdDbMline*>(core.open(stub, true))->setScale(scale);
         }
-        core.endCommand();
-        core.undo();
+        core.changes().endCommand();
+        core.changes().undo();
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
@@ -90,7 +94,7 @@ void findHandle(benchmark::State& state) {
     std::uint64_t handle = 0;
     for ([[maybe_unused]] const auto _ : state) {
         handle = (handle + 7919) % static_cast<std::uint64_t>(state.range(0));
-        benchmark::DoNotOptimize(core.findHandle(0x100 + handle));
+        benchmark::DoNotOptimize(core.objects().findHandle(0x100 + handle));
     }
 }
 BENCHMARK(findHandle)->Arg(1'000)->Arg(1'000'000);
@@ -105,7 +109,7 @@ void openAll(benchmark::State& state) {
         DatabaseCore& core = database.core();
         fill(core, state.range(0));
         const auto filled = mallinfo2().uordblks;
-        for (KdDbStub& stub : core.stubs()) {
+        for (KdDbStub& stub : core.objects().stubs()) {
             benchmark::DoNotOptimize(core.open(stub, false));
             core.close(stub);
         }

@@ -4,6 +4,7 @@
 #include "DatabaseCore.h"
 #include "DrawingFile.h"
 #include "KdDocument.h"
+#include "ObjectTable.h"
 #include "styleNames.h"
 
 #include <benchmark/benchmark.h>
@@ -117,7 +118,7 @@ void laterWalks(benchmark::State& state) {
 // Once every entity is an object, as a view makes them, and a change may be anywhere.
 void walksOverObjects(benchmark::State& state) {
     OpenDrawing drawing(state);
-    for (KdDbStub& stub : drawing.core().stubs()) {
+    for (KdDbStub& stub : drawing.core().objects().stubs()) {
         if (drawing.core().load(stub) != nullptr) {
             drawing.core().aboutToChange(stub);
         }

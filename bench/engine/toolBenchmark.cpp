@@ -3,6 +3,7 @@
 // finds them as they were at first. The crosses also run beside many other multilines: a cycle
 // shouldn't cost more there.
 
+#include "BlockList.h"
 #include "CMlineEdit.h"
 #include "DatabaseCore.h"
 #include "FakeDocument.h"
@@ -90,8 +91,8 @@ private:
         orvex::testing::buildMline(*mline, chain, kOffsets);
         mline->setStyle(m_database.cmlstyle());
         orvex::DatabaseCore& core = m_database.core();
-        core.appendEntity(core.modelSpace(),
-                          core.adopt(std::move(made), orvex::ObjectKind::mline, nullptr));
+        core.blocks().appendEntity(core.blocks().modelSpace(),
+                                   core.adopt(std::move(made), orvex::ObjectKind::mline, nullptr));
         return mline;
     }
 

@@ -1,11 +1,13 @@
 // What the view of a drawing of walls costs: building its index, a pick, and a pick after an edit.
 // The number of walls is the argument; a pick should cost about the same for all of them.
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "KdDbDatabase.h"
 #include "KdDbMline.h"
 #include "MlineContent.h"
 #include "Scene.h"
+#include "WellKnownObjects.h"
 
 #include <cmath>
 
@@ -35,14 +37,14 @@ public:
     explicit Walls(std::int64_t count)
         : m_side(static_cast<std::int64_t>(std::ceil(std::sqrt(static_cast<double>(count))))) {
         DatabaseCore& core = database.core();
-        const KdDbObjectId style(core.findStyle(L"STANDARD"));
+        const KdDbObjectId style(core.wellKnown().findStyle(L"STANDARD"));
         for (std::int64_t i = 0; i < count; ++i) {
             auto wall = std::make_unique<KdDbMline>();
             auto content = wallAt(column(i), row(i));
             content->style = style;
             wall->setContent(std::move(content));
             KdDbStub& stub = core.adopt(std::move(wall), ObjectKind::mline, nullptr);
-            core.appendEntity(core.modelSpace(), stub);
+            core.blocks().appendEntity(core.blocks().modelSpace(), stub);
         }
     }
     [[nodiscard]] double column(std::int64_t i) const {
@@ -92,7 +94,7 @@ void editAndPick(benchmark::State& state) {
     Walls walls(state.range(0));
     Scene scene(walls.database);
     benchmark::DoNotOptimize(scene.extents());
-    const auto& entities = walls.database.core().modelSpace().entities;
+    const auto& entities = walls.database.core().blocks().modelSpace().entities;
     std::int64_t i = 0;
     for ([[maybe_unused]] auto _ : state) {
         const std::int64_t wall = scattered(i++, state.range(0));

@@ -1,18 +1,19 @@
 #include "ChangeFeed.h"
 
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 
 #include <utility>
 
 namespace orvex {
 
-ChangeFeed::ChangeFeed(DatabaseCore& core) : m_core(&core) {
-    core.attach(*this);
+ChangeFeed::ChangeFeed(DatabaseCore& core) : m_log(&core.changes()) {
+    m_log->attach(*this);
 }
 
 ChangeFeed::~ChangeFeed() {
-    if (m_core != nullptr) {
-        m_core->detach(*this);
+    if (m_log != nullptr) {
+        m_log->detach(*this);
     }
 }
 

@@ -7,6 +7,7 @@ struct KdDbStub;
 
 namespace orvex {
 
+class ChangeLog;
 class DatabaseCore;
 
 // Collects which objects were changed, made, erased or brought back, each once till it is taken.
@@ -25,8 +26,8 @@ public:
     [[nodiscard]] bool isEmpty() const { return m_pending.empty(); }
 
 private:
-    friend class DatabaseCore;
-    DatabaseCore* m_core; // null once the database is gone
+    friend class ChangeLog;
+    ChangeLog* m_log; // null once the database is gone
     std::uint8_t m_bit = 0;
     std::vector<KdDbStub*> m_pending;
 };

@@ -1,5 +1,6 @@
 #include "KdDbBlockTable.h"
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "EntityTraits.h"
 #include "KdDbEntity.h"
@@ -17,7 +18,7 @@ public:
         m_index = 0;
         skipMissing();
     }
-    [[nodiscard]] bool done() const override { return m_index >= m_core.blocks().size(); }
+    [[nodiscard]] bool done() const override { return m_index >= m_core.blocks().all().size(); }
     void step() override {
         if (!done()) {
             ++m_index;
@@ -27,12 +28,13 @@ public:
     Status getRecord(KdDbBlockTableRecord*& record, int mode) override {
         record = nullptr;
         return done() ? Status::notFound
-                      : kddbOpenObject(record, KdDbObjectId(m_core.blocks()[m_index].record), mode);
+                      : kddbOpenObject(record, KdDbObjectId(m_core.blocks().all()[m_index].record),
+                                       mode);
     }
 
 private:
     void skipMissing() {
-        while (!done() && !KdDbObjectId(m_core.blocks()[m_index].record).isValid()) {
+        while (!done() && !KdDbObjectId(m_core.blocks().all()[m_index].record).isValid()) {
             ++m_index;
         }
     }
@@ -116,7 +118,7 @@ namespace {
 
 orvex::BlockEntities* blockOf(const KdDbBlockTableRecord& record) {
     KdDbStub* const stub = record.objectId().stub();
-    return stub != nullptr ? stub->database->findBlock(*stub) : nullptr;
+    return stub != nullptr ? stub->database->blocks().find(*stub) : nullptr;
 }
 
 } // namespace
@@ -143,7 +145,7 @@ Status KdDbBlockTableRecord::appendEntity(KdDbObjectId& id, KdDbEntity* entity) 
     entity->setTraits(traits);
     KdDbStub& stub =
         core.adopt(std::unique_ptr<KdDbObject>(entity), orvex::kindOf(*entity), objectId().stub());
-    core.appendEntity(*block, stub);
+    core.blocks().appendEntity(*block, stub);
     id = KdDbObjectId(&stub);
     return Status::done;
 }

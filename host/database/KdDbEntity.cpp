@@ -3,6 +3,7 @@
 #include "DatabaseCore.h"
 #include "EntityTraits.h"
 #include "KdDbDatabase.h"
+#include "WellKnownObjects.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ constexpr int kByLayer = 256;
 // Nothing may be drawn with a line type that the drawing doesn't have.
 std::wstring currentLinetype(const orvex::DatabaseCore& core) {
     const std::wstring& name = core.variables().text("CELTYPE");
-    return core.findLinetype(name) != nullptr ? name : L"ByLayer";
+    return core.wellKnown().findLinetype(name) != nullptr ? name : L"ByLayer";
 }
 
 } // namespace
@@ -109,7 +110,7 @@ void KdDbEntity::setDatabaseDefaults(const KdDbDatabase* database) {
     auto traits = *m_traits;
     // A current layer that was purged is still named in some files.
     const std::wstring layer = variables.text("CLAYER");
-    traits.layer = database->core().findLayer(layer) != nullptr ? layer : L"0";
+    traits.layer = database->core().wellKnown().findLayer(layer) != nullptr ? layer : L"0";
     traits.linetype = currentLinetype(database->core());
     traits.linetypeScale = variables.real("CELTSCALE");
     traits.color = KdCmColor();

@@ -5,6 +5,7 @@
 #include "KdDbMlineImp.h"
 #include "KdDbSystemInternals.h"
 #include "MlineContent.h"
+#include "ObjectTable.h"
 
 KdDbMline::KdDbMline() : m_imp(std::make_unique<KdDbMlineImp>(this)) {}
 
@@ -127,7 +128,7 @@ KdDbObjectId KdDbMline::styleOf(KdDbObjectId mline) {
     if (stub == nullptr || stub->erased || stub->kind != orvex::ObjectKind::mline) {
         return {};
     }
-    const orvex::ObjectSource* const source = stub->database->source();
+    const orvex::ObjectSource* const source = stub->database->objects().source();
     // As long as nothing has changed the record tells, and it is at hand without touching the
     // object.
     if (!stub->changed && source != nullptr && stub->record != orvex::kNoRecord) {

@@ -1,5 +1,6 @@
 #include "KdDbSymbolTable.h"
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "textCodec.h"
 
@@ -95,7 +96,7 @@ Status KdDbSymbolTable::add(KdDbObjectId& id, KdDbSymbolTableRecord* record) {
     id = KdDbObjectId(&stub);
     noteRecord(id);
     if (stub.kind == orvex::ObjectKind::blockRecord) {
-        core.addBlock(record->name()).record = &stub;
+        core.blocks().add(record->name()).record = &stub;
     }
     return Status::done;
 }

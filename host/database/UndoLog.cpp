@@ -1,7 +1,9 @@
 #include "UndoLog.h"
 
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "ObjectContent.h"
+#include "ObjectTable.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,7 +19,7 @@ constexpr std::string_view kSeed = "HANDSEED";
 void UndoLog::begin() {
     m_current = Step();
     m_places.clear();
-    m_current.highestHandle = m_core.m_highestHandle;
+    m_current.highestHandle = m_core.objects().highestHandle();
 }
 
 void UndoLog::keepImage(Image image) {
@@ -38,7 +40,7 @@ void UndoLog::keepMade(KdDbStub& stub) {
 
 void UndoLog::keepVariable(std::string_view name) {
     if (!m_current.variables.contains(name)) {
-        const HeaderValue* const value = m_core.m_variables.find(name);
+        const HeaderValue* const value = m_core.variables().find(name);
         m_current.variables.emplace(name, value != nullptr ? std::optional(*value) : std::nullopt);
     }
 }
@@ -55,7 +57,7 @@ bool UndoLog::isAsBefore(const Image& image) const {
 }
 
 bool UndoLog::isAsBefore(std::string_view name, const std::optional<HeaderValue>& value) const {
-    const HeaderValue* const now = m_core.m_variables.find(name);
+    const HeaderValue* const now = m_core.variables().find(name);
     return now != nullptr ? value.has_value() && sameBits(*now, *value) : !value.has_value();
 }
 
@@ -95,12 +97,12 @@ void UndoLog::keepWithinLimit() {
 void UndoLog::restoreVariables(const Step& step) {
     for (const auto& [name, value] : step.variables) {
         if (value.has_value()) {
-            m_core.m_variables.set(name, *value);
+            m_core.loadVariable(name, *value);
         } else {
-            m_core.m_variables.remove(name);
+            m_core.removeVariable(name);
         }
     }
-    m_core.m_highestHandle = std::max(step.highestHandle, m_core.m_highestFixed);
+    m_core.objects().restoreHighestHandle(step.highestHandle);
 }
 
 bool UndoLog::undo() {
@@ -111,7 +113,7 @@ bool UndoLog::undo() {
     m_steps.pop_back();
     m_memory -= step.memory;
     for (const Image& image : step.images) {
-        m_core.noteChange(*image.stub);
+        m_core.changes().notify(*image.stub);
         image.stub->erased = image.erased;
         if (image.content != nullptr) {
             image.stub->object->setContent(image.content);

@@ -1,3 +1,5 @@
+#include "BlockList.h"
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "DictionaryContent.h"
 #include "KdDbBlockTable.h"
@@ -5,59 +7,59 @@
 #include "KdDbLayerTable.h"
 #include "KdDbLinetypeTable.h"
 #include "KdDbMlineStyle.h"
+#include "WellKnownObjects.h"
 
 namespace orvex {
+
+namespace {
 
 // Makes what every drawing has and a file may have left out. Nothing that it does is a change.
 class DefaultsBuilder {
 public:
-    explicit DefaultsBuilder(DatabaseCore& core) : m_core(core), m_before(core.m_completing) {
-        m_core.m_completing = true;
-    }
-    ~DefaultsBuilder() { m_core.m_completing = m_before; }
-    DefaultsBuilder(const DefaultsBuilder&) = delete;
-    DefaultsBuilder& operator=(const DefaultsBuilder&) = delete;
+    explicit DefaultsBuilder(DatabaseCore& core) : m_core(core), m_pause(core.changes()) {}
 
     void completeTables() {
-        ensure<KdDbLayerTable>(m_core.layerTable);
-        ensure<KdDbLinetypeTable>(m_core.linetypeTable);
-        ensure<KdDbBlockTable>(m_core.blockTable);
+        ensure<KdDbLayerTable>(m_core.wellKnown().layerTable);
+        ensure<KdDbLinetypeTable>(m_core.wellKnown().linetypeTable);
+        ensure<KdDbBlockTable>(m_core.wellKnown().blockTable);
     }
 
     void completeRecords() {
         for (const wchar_t* const name : {L"ByBlock", L"ByLayer", L"Continuous"}) {
-            ensureRecord<KdDbLinetypeTableRecord>(m_core.linetypeTable, name);
+            ensureRecord<KdDbLinetypeTableRecord>(m_core.wellKnown().linetypeTable, name);
         }
-        ensureRecord<KdDbLayerTableRecord>(m_core.layerTable, L"0");
+        ensureRecord<KdDbLayerTableRecord>(m_core.wellKnown().layerTable, L"0");
     }
 
     void completeBlocks() {
-        static_cast<void>(m_core.modelSpace());
-        if (m_core.findBlock(L"*Paper_Space") == nullptr) {
-            m_core.addBlock(L"*Paper_Space");
+        static_cast<void>(m_core.blocks().modelSpace());
+        if (m_core.blocks().find(L"*Paper_Space") == nullptr) {
+            m_core.blocks().add(L"*Paper_Space");
         }
-        for (BlockEntities& block : m_core.blocks()) {
+        for (BlockEntities& block : m_core.blocks().all()) {
             if (block.record == nullptr) {
                 auto record = std::make_unique<KdDbBlockTableRecord>();
                 record->setName(block.name.c_str());
-                block.record = &make(std::move(record), m_core.blockTable);
-                noteIn(m_core.blockTable, *block.record);
+                block.record = &make(std::move(record), m_core.wellKnown().blockTable);
+                noteIn(m_core.wellKnown().blockTable, *block.record);
             }
         }
     }
 
     void completeStyles() {
-        ensure<KdDbDictionary>(m_core.rootDictionary);
-        if (m_core.styleDictionary == nullptr) {
-            ensure<KdDbDictionary>(m_core.styleDictionary, m_core.rootDictionary);
-            enter(m_core.rootDictionary, L"ACAD_MLINESTYLE", *m_core.styleDictionary);
+        ensure<KdDbDictionary>(m_core.wellKnown().rootDictionary);
+        if (m_core.wellKnown().styleDictionary == nullptr) {
+            ensure<KdDbDictionary>(m_core.wellKnown().styleDictionary,
+                                   m_core.wellKnown().rootDictionary);
+            enter(m_core.wellKnown().rootDictionary, L"ACAD_MLINESTYLE",
+                  *m_core.wellKnown().styleDictionary);
         }
-        if (m_core.findStyle(L"STANDARD") == nullptr) {
+        if (m_core.wellKnown().findStyle(L"STANDARD") == nullptr) {
             auto style = std::make_unique<KdDbMlineStyle>();
             style->initMlineStyle();
             setByLayer(*style);
-            enter(m_core.styleDictionary, L"STANDARD",
-                  make(std::move(style), m_core.styleDictionary));
+            enter(m_core.wellKnown().styleDictionary, L"STANDARD",
+                  make(std::move(style), m_core.wellKnown().styleDictionary));
         }
     }
 
@@ -107,7 +109,7 @@ private:
     }
 
     void setByLayer(KdDbMlineStyle& style) const {
-        const KdDbObjectId linetype(m_core.findLinetype(L"ByLayer"));
+        const KdDbObjectId linetype(m_core.wellKnown().findLinetype(L"ByLayer"));
         for (int index = 0; index < style.numElements(); ++index) {
             double offset = 0.0;
             KdCmColor color;
@@ -118,15 +120,17 @@ private:
     }
 
     DatabaseCore& m_core;
-    bool m_before;
+    ChangeLog::Pause m_pause;
 };
 
-void DatabaseCore::completeTables() {
-    DefaultsBuilder(*this).completeTables();
+} // namespace
+
+void WellKnownObjects::completeTables() {
+    DefaultsBuilder(m_core).completeTables();
 }
 
-void DatabaseCore::completeDefaults() {
-    DefaultsBuilder builder(*this);
+void WellKnownObjects::completeDefaults() {
+    DefaultsBuilder builder(m_core);
     builder.completeTables();
     builder.completeRecords();
     builder.completeBlocks();

@@ -1,6 +1,7 @@
 #include "databaseRegistry.h"
 
 #include "DatabaseCore.h"
+#include "ObjectTable.h"
 
 #include <unordered_map>
 
@@ -34,7 +35,7 @@ KdDbStub* findEntityName(long word) {
     if (ordinal == 0 || database == openDatabases().end()) {
         return nullptr;
     }
-    return database->second->findOrdinal(ordinal - 1);
+    return database->second->objects().findOrdinal(ordinal - 1);
 }
 
 long entityName(const KdDbStub& stub) {

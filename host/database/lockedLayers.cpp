@@ -3,6 +3,7 @@
 #include "DatabaseCore.h"
 #include "KdDbEntity.h"
 #include "KdDbLayerTable.h"
+#include "WellKnownObjects.h"
 
 namespace orvex {
 
@@ -10,7 +11,7 @@ namespace {
 
 // Null for one that the drawing doesn't have.
 const KdDbLayerTableRecord* layerNamed(DatabaseCore& core, std::wstring_view name) {
-    KdDbStub* const stub = core.findLayer(name);
+    KdDbStub* const stub = core.wellKnown().findLayer(name);
     const KdDbObject* const record = stub != nullptr ? core.load(*stub) : nullptr;
     return record != nullptr && record->isKindOf(KdDbLayerTableRecord::desc())
                ? static_cast<const KdDbLayerTableRecord*>(record)

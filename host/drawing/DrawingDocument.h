@@ -15,6 +15,8 @@
 
 namespace orvex {
 
+struct BlockEntities;
+
 // The first version with multilines.
 constexpr std::string_view kOldestVersion = "AC1012";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";

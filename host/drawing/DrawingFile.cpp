@@ -5,6 +5,7 @@
 #include "DrawingDocument.h"
 #include "DrawingReader.h"
 #include "DrawingWriter.h"
+#include "ObjectTable.h"
 #include "newDrawingText.h"
 
 #include <functional>
@@ -58,7 +59,7 @@ Result<std::unique_ptr<DrawingFile>> DrawingFile::openBytes(std::string bytes,
     std::unique_ptr<DrawingFile> file(new DrawingFile);
     file->m_document = std::make_shared<DrawingDocument>(std::move(bytes));
     DatabaseCore& core = file->m_database->core();
-    core.setSource(file->m_document);
+    core.objects().setSource(file->m_document);
     if (auto failure = readDrawing(*file->m_document, core, progress, file->m_warnings)) {
         return std::move(*failure);
     }

@@ -1,11 +1,15 @@
 #include "DrawingReader.h"
 
+#include "BlockList.h"
 #include "CStdStr.h"
+#include "DatabaseCore.h"
 #include "DictionaryRecord.h"
 #include "HeaderRecord.h"
 #include "NumberText.h"
+#include "ObjectTable.h"
 #include "StyleRecord.h"
 #include "TableRecords.h"
+#include "WellKnownObjects.h"
 #include "textCodec.h"
 
 #include <algorithm>
@@ -96,7 +100,7 @@ std::optional<Failure> DrawingReader::run() {
     readHeader();
     m_warnings.insert(m_warnings.end(), m_document.cut.warnings.begin(),
                       m_document.cut.warnings.end());
-    m_core.noteHighestHandle(m_document.cut.highestHandle);
+    m_core.objects().noteHighestHandle(m_document.cut.highestHandle);
     readSections();
     if (m_isGivenUp) {
         return Failure{FailureCause::interrupted, {}, 0, "interrupted"};
@@ -127,7 +131,7 @@ void DrawingReader::readSections() {
         }
     }
     // A drawing has a model space, whether its file lists it as a block or not.
-    if (BlockEntities& model = m_core.modelSpace(); model.record == nullptr) {
+    if (BlockEntities& model = m_core.blocks().modelSpace(); model.record == nullptr) {
         model.record = m_blockRecords[foldCase(model.name)];
     }
     for (const RecordRun& section : m_document.sections) {
@@ -258,13 +262,14 @@ void DrawingReader::startTable(std::uint32_t record) {
         ObjectKind object;
         KdDbStub** place;
     };
-    for (const Known& known : {Known{"LAYER", ObjectKind::layerTable, &m_core.layerTable},
-                               Known{"LTYPE", ObjectKind::linetypeTable, &m_core.linetypeTable},
-                               Known{"BLOCK_RECORD", ObjectKind::blockTable, &m_core.blockTable}}) {
+    for (const Known& known :
+         {Known{"LAYER", ObjectKind::layerTable, &m_core.wellKnown().layerTable},
+          Known{"LTYPE", ObjectKind::linetypeTable, &m_core.wellKnown().linetypeTable},
+          Known{"BLOCK_RECORD", ObjectKind::blockTable, &m_core.wellKnown().blockTable}}) {
         if (table.name == known.kind) {
             if (*known.place == nullptr) {
-                *known.place =
-                    &m_core.addStub(known.object, m_records[record].handle, record, nullptr);
+                *known.place = &m_core.objects().addStub(known.object, m_records[record].handle,
+                                                         record, nullptr);
             }
             table.stub = *known.place; // a second table of a kind counts as more of the first
         }
@@ -275,7 +280,7 @@ void DrawingReader::addTableEntry(RecordRun& table, std::uint32_t record) {
     ++table.entries;
     const Record& entry = m_records[record];
     const auto add = [&](ObjectKind kind, std::vector<KdDbStub*>& list) {
-        list.push_back(&m_core.addStub(kind, entry.handle, record, table.stub));
+        list.push_back(&m_core.objects().addStub(kind, entry.handle, record, table.stub));
         return list.back();
     };
     if (entry.kind == RecordKind::layer && table.name == "LAYER") {
@@ -291,9 +296,9 @@ void DrawingReader::addTableEntry(RecordRun& table, std::uint32_t record) {
 // ---- blocks and entities ------------------------------------------------------------------------
 
 BlockEntities& DrawingReader::blockNamed(const std::wstring& name) {
-    BlockEntities* block = m_core.findBlock(name);
+    BlockEntities* block = m_core.blocks().find(name);
     if (block == nullptr) {
-        block = &m_core.addBlock(name);
+        block = &m_core.blocks().add(name);
         if (const auto found = m_blockRecords.find(foldCase(name)); found != m_blockRecords.end()) {
             block->record = found->second;
         }
@@ -349,7 +354,7 @@ void DrawingReader::startBlock(std::uint32_t record) {
 }
 
 void DrawingReader::readEntities(const RecordRun& section) {
-    BlockEntities& model = m_core.modelSpace();
+    BlockEntities& model = m_core.blocks().modelSpace();
     BlockEntities* paper = nullptr;
     for (std::uint32_t i = section.begin + 1; i < section.end && goesOn(i); ++i) {
         if (!m_records[i].inPaperSpace) {
@@ -371,7 +376,8 @@ void DrawingReader::addEntity(std::uint32_t record, BlockEntities& block) {
     const ObjectKind kind = entry.kind != RecordKind::mline ? ObjectKind::entity
                             : entry.opaque                  ? ObjectKind::opaque
                                                             : ObjectKind::mline;
-    m_core.appendEntity(block, m_core.addStub(kind, entry.handle, record, block.record));
+    m_core.blocks().appendEntity(
+        block, m_core.objects().addStub(kind, entry.handle, record, block.record));
 }
 
 // ---- objects ------------------------------------------------------------------------------------
@@ -382,7 +388,7 @@ void DrawingReader::readObjects(const RecordRun& section) {
         ++root;
     }
     if (root < section.end) {
-        m_core.rootDictionary = addDictionary(root, nullptr);
+        m_core.wellKnown().rootDictionary = addDictionary(root, nullptr);
         std::uint64_t handle = 0;
         for (const DictionaryPair& pair : readPairs(m_document.bytes, m_document.span(root))) {
             if (StrCmpI(m_document.text.decode(pair.key).c_str(), L"ACAD_MLINESTYLE") == 0) {
@@ -392,13 +398,15 @@ void DrawingReader::readObjects(const RecordRun& section) {
         }
         for (std::uint32_t i = root + 1; handle != 0 && i < section.end; ++i) {
             if (m_records[i].handle == handle && m_records[i].kind == RecordKind::dictionary) {
-                m_core.styleDictionary = addDictionary(i, m_core.rootDictionary);
+                m_core.wellKnown().styleDictionary =
+                    addDictionary(i, m_core.wellKnown().rootDictionary);
                 break;
             }
         }
     }
     addStyles(section);
-    for (const KdDbStub* const dictionary : {m_core.rootDictionary, m_core.styleDictionary}) {
+    for (const KdDbStub* const dictionary :
+         {m_core.wellKnown().rootDictionary, m_core.wellKnown().styleDictionary}) {
         if (dictionary != nullptr) {
             noteEntries(*dictionary);
         }
@@ -407,7 +415,7 @@ void DrawingReader::readObjects(const RecordRun& section) {
 
 KdDbStub* DrawingReader::addDictionary(std::uint32_t record, KdDbStub* owner) {
     const std::uint64_t handle = m_records[record].handle;
-    KdDbStub& stub = m_core.addStub(ObjectKind::dictionary, handle, record, owner);
+    KdDbStub& stub = m_core.objects().addStub(ObjectKind::dictionary, handle, record, owner);
     noteObject(stub);
     return &stub;
 }
@@ -422,8 +430,9 @@ void DrawingReader::addStyles(const RecordRun& section) {
             record.opaque = true;
             warn(lineOf(record.offset), "a multiline style contradicts itself, " + failure->text);
         }
-        KdDbStub& stub = m_core.addStub(record.opaque ? ObjectKind::opaque : ObjectKind::mlineStyle,
-                                        record.handle, i, m_core.styleDictionary);
+        KdDbStub& stub =
+            m_core.objects().addStub(record.opaque ? ObjectKind::opaque : ObjectKind::mlineStyle,
+                                     record.handle, i, m_core.wellKnown().styleDictionary);
         noteObject(stub);
     }
 }
@@ -433,7 +442,8 @@ void DrawingReader::noteEntries(const KdDbStub& dictionary) {
     for (const DictionaryPair& pair :
          readPairs(m_document.bytes, m_document.span(dictionary.record))) {
         if (pair.handle != 0 && !m_document.objects.contains(pair.handle)) {
-            noteObject(m_core.addStub(ObjectKind::opaque, pair.handle, kNoRecord, nullptr));
+            noteObject(
+                m_core.objects().addStub(ObjectKind::opaque, pair.handle, kNoRecord, nullptr));
         }
     }
 }
@@ -452,7 +462,7 @@ void DrawingReader::warnOfStyles() {
         if (style == nullptr || style->kind != ObjectKind::mlineStyle) {
             lines.push_back(line);
             // Nothing new may take the missing style's handle and so pass for it.
-            m_core.noteHighestHandle(handle);
+            m_core.objects().noteHighestHandle(handle);
         }
     }
     std::ranges::sort(lines);
@@ -462,15 +472,15 @@ void DrawingReader::warnOfStyles() {
 }
 
 void DrawingReader::completeDefaults() {
-    const std::size_t present = m_core.stubs().size();
-    m_core.completeDefaults();
+    const std::size_t present = m_core.objects().stubs().size();
+    m_core.wellKnown().completeDefaults();
     const auto keep = [this](const KdDbStub& stub) {
         m_document.untouched[&stub] = stub.object != nullptr ? stub.object->content() : nullptr;
     };
-    keep(*m_core.rootDictionary);
-    keep(*m_core.styleDictionary);
-    for (std::size_t i = present; i < m_core.stubs().size(); ++i) {
-        keep(m_core.stubs()[i]);
+    keep(*m_core.wellKnown().rootDictionary);
+    keep(*m_core.wellKnown().styleDictionary);
+    for (std::size_t i = present; i < m_core.objects().stubs().size(); ++i) {
+        keep(m_core.objects().stubs()[i]);
     }
 }
 

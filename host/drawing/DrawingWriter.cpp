@@ -1,5 +1,8 @@
 #include "DrawingWriter.h"
 
+#include "BlockList.h"
+#include "ChangeLog.h"
+#include "DatabaseCore.h"
 #include "DictionaryRecord.h"
 #include "FileLayout.h"
 #include "HeaderRecord.h"
@@ -7,8 +10,10 @@
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineRecord.h"
+#include "ObjectTable.h"
 #include "StyleRecord.h"
 #include "TableRecords.h"
+#include "WellKnownObjects.h"
 
 #include <algorithm>
 #include <limits>
@@ -78,7 +83,7 @@ private:
 };
 
 std::vector<FileEdit> DrawingWriter::run() {
-    for (KdDbStub* const stub : m_core.changedStubs()) {
+    for (KdDbStub* const stub : m_core.changes().changedStubs()) {
         collect(*stub);
     }
     collectVariables();
@@ -153,11 +158,11 @@ void DrawingWriter::collectVariables() {
     for (const auto& [name, value] : m_variables) {
         const auto* const text = std::get_if<std::wstring>(&value);
         if (text != nullptr && name == "CMLSTYLE") {
-            require(m_core.findStyle(*text));
+            require(m_core.wellKnown().findStyle(*text));
         } else if (text != nullptr && name == "CLAYER") {
-            require(m_core.findLayer(*text));
+            require(m_core.wellKnown().findLayer(*text));
         } else if (text != nullptr && name == "CELTYPE") {
-            require(m_core.findLinetype(*text));
+            require(m_core.wellKnown().findLinetype(*text));
         }
     }
 }
@@ -176,7 +181,8 @@ void DrawingWriter::require(KdDbStub* stub) {
         break;
     case ObjectKind::mlineStyle:
         add(*stub);
-        requireDictionary(stub->owner != nullptr ? stub->owner : m_core.styleDictionary);
+        requireDictionary(stub->owner != nullptr ? stub->owner
+                                                 : m_core.wellKnown().styleDictionary);
         if (const auto* const content = contentOf<MlineStyleContent>(*stub)) {
             requireStyle(*content);
         }
@@ -198,14 +204,14 @@ void DrawingWriter::require(KdDbStub* stub) {
 }
 
 void DrawingWriter::add(KdDbStub& stub) {
-    m_core.ensureHandle(stub);
+    m_core.objects().ensureHandle(stub);
     m_known.insert(&stub);
     m_new.push_back(&stub);
 }
 
 void DrawingWriter::requireTable(KdDbStub* stub) {
     if (stub != nullptr && stub->record == kNoRecord) {
-        m_core.ensureHandle(*stub);
+        m_core.objects().ensureHandle(*stub);
     }
 }
 
@@ -217,8 +223,8 @@ void DrawingWriter::requireDictionary(KdDbStub* stub) {
         m_dictionaries.push_back(stub);
     } else {
         add(*stub);
-        if (stub != m_core.rootDictionary) {
-            requireDictionary(m_core.rootDictionary);
+        if (stub != m_core.wellKnown().rootDictionary) {
+            requireDictionary(m_core.wellKnown().rootDictionary);
         }
     }
     if (const auto* const content = contentOf<DictionaryContent>(*stub)) {
@@ -231,8 +237,8 @@ void DrawingWriter::requireDictionary(KdDbStub* stub) {
 void DrawingWriter::requireMline(const MlineContent& content) {
     require(content.style.stub());
     if (content.traits != nullptr) {
-        require(m_core.findLayer(content.traits->layer));
-        require(m_core.findLinetype(content.traits->linetype));
+        require(m_core.wellKnown().findLayer(content.traits->layer));
+        require(m_core.wellKnown().findLinetype(content.traits->linetype));
     }
 }
 
@@ -264,17 +270,18 @@ void DrawingWriter::writeObjects() {
     TagText root(text.format());
     for (KdDbStub* const stub : m_new) {
         if (stub->kind == ObjectKind::dictionary) {
-            const bool isRoot = stub == m_core.rootDictionary;
+            const bool isRoot = stub == m_core.wellKnown().rootDictionary;
             if (const auto* const content = contentOf<DictionaryContent>(*stub)) {
                 writeDictionary(isRoot ? root : text, m_context, content->entries, stub->handle,
-                                isRoot ? 0 : ownerHandle(m_core.rootDictionary));
+                                isRoot ? 0 : ownerHandle(m_core.wellKnown().rootDictionary));
             }
         }
     }
     for (KdDbStub* const stub : m_new) {
         const auto* const content = contentOf<MlineStyleContent>(*stub);
         if (stub->kind == ObjectKind::mlineStyle && content != nullptr) {
-            KdDbStub* const owner = stub->owner != nullptr ? stub->owner : m_core.styleDictionary;
+            KdDbStub* const owner =
+                stub->owner != nullptr ? stub->owner : m_core.wellKnown().styleDictionary;
             writeStyle(text, m_context, *content, stub->handle, ownerHandle(owner));
         }
     }
@@ -311,8 +318,8 @@ void DrawingWriter::writeTables() {
         ObjectKind object;
         KdDbStub* table;
     };
-    for (const Kind& kind : {Kind{"LTYPE", ObjectKind::linetype, m_core.linetypeTable},
-                             Kind{"LAYER", ObjectKind::layer, m_core.layerTable}}) {
+    for (const Kind& kind : {Kind{"LTYPE", ObjectKind::linetype, m_core.wellKnown().linetypeTable},
+                             Kind{"LAYER", ObjectKind::layer, m_core.wellKnown().layerTable}}) {
         int added = 0;
         const std::string text = entries(kind.name, m_layout.formatOf("TABLES"), added);
         const auto dropped = static_cast<int>(
@@ -327,7 +334,7 @@ void DrawingWriter::writeTables() {
 void DrawingWriter::writeEntities() {
     for (KdDbStub* const stub : m_new) {
         const auto* const content = contentOf<MlineContent>(*stub);
-        BlockEntities* const block = m_core.blockOf(*stub);
+        BlockEntities* const block = m_core.blocks().blockOf(*stub);
         if (stub->kind != ObjectKind::mline || content == nullptr || block == nullptr) {
             continue;
         }
@@ -352,7 +359,8 @@ void DrawingWriter::writeHeader() {
         for (const KdDbStub* const stub : m_new) {
             highest = std::max(highest, stub->handle);
         }
-        for (const KdDbStub* const table : {m_core.layerTable, m_core.linetypeTable}) {
+        for (const KdDbStub* const table :
+             {m_core.wellKnown().layerTable, m_core.wellKnown().linetypeTable}) {
             highest = std::max(highest, table != nullptr ? table->handle : 0);
         }
         const bool isLast = highest == std::numeric_limits<std::uint64_t>::max();

@@ -1,5 +1,6 @@
 #include "FileLayout.h"
 
+#include "BlockList.h"
 #include "CStdStr.h"
 #include "TableRecords.h"
 

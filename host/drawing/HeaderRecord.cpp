@@ -1,5 +1,6 @@
 #include "HeaderRecord.h"
 
+#include "DatabaseCore.h"
 #include "NumberText.h"
 #include "RecordEdit.h"
 #include "blanks.h"

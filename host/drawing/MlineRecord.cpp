@@ -1,11 +1,14 @@
 #include "MlineRecord.h"
 
+#include "DatabaseCore.h"
 #include "KdDbMlineStyle.h"
 #include "MlineParser.h"
 #include "MlineVertexEdit.h"
 #include "NumberText.h"
+#include "ObjectTable.h"
 #include "RecordEdit.h"
 #include "TraitsRecord.h"
+#include "WellKnownObjects.h"
 #include "blanks.h"
 #include "handleText.h"
 
@@ -20,7 +23,7 @@ constexpr int kKnownFlags = kMlineHasVertices | kMlineClosed | kMlineNoStartCaps
 KdDbStub* findStyle(const RecordContext& context, const MlineParser& parser,
                     const std::wstring& name) {
     if (parser.style == 0) {
-        return context.core.findStyle(name);
+        return context.core.wellKnown().findStyle(name);
     }
     return findStyle(context.core, parser.style);
 }
@@ -28,7 +31,7 @@ KdDbStub* findStyle(const RecordContext& context, const MlineParser& parser,
 // A style that is in memory alone gets its handle once a multiline refers to it.
 void ensureHandle(const RecordContext& context, KdDbObjectId style) {
     if (!style.isNull() && style.stub()->kind == ObjectKind::mlineStyle) {
-        context.core.ensureHandle(*style.stub());
+        context.core.objects().ensureHandle(*style.stub());
     }
 }
 
@@ -111,7 +114,7 @@ void keepFileFields(Fields& before, Fields& after, const MlineContent& old,
 } // namespace
 
 KdDbStub* findStyle(DatabaseCore& core, std::uint64_t handle) {
-    KdDbStub* const found = core.findHandle(handle);
+    KdDbStub* const found = core.objects().findHandle(handle);
     return found != nullptr && found->kind == ObjectKind::mlineStyle ? found : nullptr;
 }
 

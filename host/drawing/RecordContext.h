@@ -1,12 +1,13 @@
 #pragma once
 
-#include "DatabaseCore.h"
 #include "DrawingText.h"
 
 #include <cstddef>
 #include <string_view>
 
 namespace orvex {
+
+class DatabaseCore;
 
 // What it takes to read a record or to write one: the file's bytes, its texts, and the objects
 // that records name by handle.

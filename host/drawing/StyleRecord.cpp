@@ -1,10 +1,12 @@
 #include "StyleRecord.h"
 
 #include "CStdStr.h"
+#include "DatabaseCore.h"
 #include "KdDbLinetypeTable.h"
 #include "NumberText.h"
 #include "RecordEdit.h"
 #include "TraitsRecord.h"
+#include "WellKnownObjects.h"
 #include "blanks.h"
 #include "geometry.h"
 #include "sameBits.h"
@@ -266,7 +268,8 @@ std::shared_ptr<MlineStyleContent> readStyle(const RecordContext& context, const
         element.offset = fields.offset;
         element.color = fields.color;
         element.linetypeName = context.text.decode(fields.linetype);
-        element.linetype = KdDbObjectId(context.core.findLinetype(element.linetypeName));
+        element.linetype =
+            KdDbObjectId(context.core.wellKnown().findLinetype(element.linetypeName));
     }
     return content;
 }

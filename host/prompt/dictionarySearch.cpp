@@ -4,6 +4,7 @@
 #include "KdDbDatabase.h"
 #include "KdDbDictionary.h"
 #include "KdDocument.h"
+#include "WellKnownObjects.h"
 #include "kddbObjects.h"
 #include "promptStatus.h"
 
@@ -12,7 +13,7 @@ int kddbNamedObjDict(long* name) {
     if (name == nullptr || document == nullptr || document->database() == nullptr) {
         return kPromptError;
     }
-    KdDbStub* const root = document->database()->core().rootDictionary;
+    KdDbStub* const root = document->database()->core().wellKnown().rootDictionary;
     if (root == nullptr) {
         return kPromptError;
     }

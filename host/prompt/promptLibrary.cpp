@@ -4,6 +4,7 @@
 #include "KdDbDatabase.h"
 #include "KdDbStub.h"
 #include "KdDocument.h"
+#include "ObjectTable.h"
 #include "PromptSession.h"
 #include "boundedCopy.h"
 #include "coordinateFrames.h"
@@ -72,7 +73,7 @@ KdDbStub* entityOfHandle(std::uint64_t handle) {
     if (handle == 0 || document == nullptr || document->database() == nullptr) {
         return nullptr;
     }
-    KdDbStub* const stub = document->database()->core().findHandle(handle);
+    KdDbStub* const stub = document->database()->core().objects().findHandle(handle);
     const bool isEntity =
         stub != nullptr && !stub->erased &&
         (stub->kind == orvex::ObjectKind::entity || stub->kind == orvex::ObjectKind::mline);

@@ -4,6 +4,7 @@
 #include "KdDbDatabase.h"
 #include "KdDocument.h"
 #include "PromptSession.h"
+#include "WellKnownObjects.h"
 #include "hostHeap.h"
 #include "promptStatus.h"
 #include "textCodec.h"
@@ -115,16 +116,17 @@ std::optional<std::wstring> storedName(NamedThing kind, const std::wstring& name
     bool isThere = true;
     switch (kind) {
     case NamedThing::style: {
-        KdDbStub* const style = drawing->findStyle(name);
-        return style != nullptr ? std::optional(drawing->nameOfStyle(*style)) : std::nullopt;
+        KdDbStub* const style = drawing->wellKnown().findStyle(name);
+        return style != nullptr ? std::optional(drawing->wellKnown().nameOfStyle(*style))
+                                : std::nullopt;
     }
     case NamedThing::layer:
-        isThere = drawing->findLayer(name) != nullptr;
+        isThere = drawing->wellKnown().findLayer(name) != nullptr;
         break;
     case NamedThing::linetype: {
         const std::wstring folded = orvex::foldCase(name);
-        isThere =
-            folded == L"BYLAYER" || folded == L"BYBLOCK" || drawing->findLinetype(name) != nullptr;
+        isThere = folded == L"BYLAYER" || folded == L"BYBLOCK" ||
+                  drawing->wellKnown().findLinetype(name) != nullptr;
         break;
     }
     case NamedThing::any:

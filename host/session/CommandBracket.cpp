@@ -1,5 +1,6 @@
 #include "CommandBracket.h"
 
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "PromptSession.h"
 #include "SessionDisplay.h"
@@ -10,12 +11,12 @@ namespace orvex {
 CommandBracket::CommandBracket(DatabaseCore& core, SessionDisplay& display, ModuleLoader& modules)
     : m_core(core), m_display(display), m_use(modules), m_resources(AfxGetResourceHandle()) {
     PromptSession::current().armedKeywords.clear();
-    m_core.beginCommand();
+    m_core.changes().beginCommand();
 }
 
 CommandBracket::~CommandBracket() {
     m_core.closeAll();
-    m_core.endCommand();
+    m_core.changes().endCommand();
     m_display.showAll();
     AfxSetResourceHandle(m_resources);
     PromptSession::current().armedKeywords.clear();

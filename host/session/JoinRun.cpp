@@ -1,7 +1,7 @@
 #include "JoinRun.h"
 
-#include "DatabaseCore.h"
 #include "KdDbMline.h"
+#include "KdDbStub.h"
 #include "ScriptSource.h"
 #include "Session.h"
 #include "elementBreaks.h"

@@ -1,13 +1,17 @@
 #include "ScratchSession.h"
 
+#include "BlockList.h"
+#include "ChangeLog.h"
 #include "CommandStateGuard.h"
 #include "DatabaseCore.h"
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineContent.h"
 #include "ModuleLoader.h"
+#include "ObjectTable.h"
 #include "Scene.h"
 #include "Session.h"
+#include "WellKnownObjects.h"
 #include "textCodec.h"
 
 #include <exception>
@@ -28,9 +32,9 @@ const MlineContent* contentOf(const std::shared_ptr<const ObjectContent>& conten
 class ScratchBracket {
 public:
     ScratchBracket(DatabaseCore& core, ModuleLoader& modules) : m_core(core), m_use(modules) {
-        m_core.beginCommand();
+        m_core.changes().beginCommand();
     }
-    ~ScratchBracket() { m_core.endCommand(); }
+    ~ScratchBracket() { m_core.changes().endCommand(); }
     ScratchBracket(const ScratchBracket&) = delete;
     ScratchBracket& operator=(const ScratchBracket&) = delete;
 
@@ -62,8 +66,9 @@ KdDbObjectId ScratchSession::copyOfStyle(KdDbObjectId style) {
         const auto* const object =
             dynamic_cast<const KdDbMlineStyle*>(original.database->load(original));
         if (object != nullptr) {
-            KdDbStub& stub = core().addStub(ObjectKind::mlineStyle, original.handle, kNoRecord,
-                                            core().styleDictionary);
+            KdDbStub& stub =
+                core().objects().addStub(ObjectKind::mlineStyle, original.handle, kNoRecord,
+                                         core().wellKnown().styleDictionary);
             stub.hold(std::make_unique<KdDbMlineStyle>(*object));
             place->second = &stub;
         }
@@ -84,9 +89,10 @@ KdDbMline* ScratchSession::copy(KdDbStub& original) {
     auto object = std::make_unique<KdDbMline>();
     object->setTraits(mline->traits());
     object->setContent(std::move(content));
-    KdDbStub& stub = core().addStub(ObjectKind::mline, original.handle, kNoRecord, nullptr);
+    KdDbStub& stub =
+        core().objects().addStub(ObjectKind::mline, original.handle, kNoRecord, nullptr);
     stub.hold(std::move(object));
-    core().modelSpace().entities.push_back(&stub);
+    core().blocks().modelSpace().entities.push_back(&stub);
     m_copies.emplace(&original, &stub);
     return mlineAt(stub);
 }
@@ -111,7 +117,7 @@ void ScratchSession::giveBack(KdDbStub& original) {
 }
 
 bool ScratchSession::undo() {
-    return core().undo();
+    return core().changes().undo();
 }
 
 KdDbStub* ScratchSession::entityAt(const KdGePoint3d& worldPoint, int pickBoxPixels) {

@@ -1,5 +1,6 @@
 #include "Session.h"
 
+#include "ChangeLog.h"
 #include "CommandBracket.h"
 #include "DatabaseCore.h"
 #include "HostCommand.h"
@@ -146,7 +147,7 @@ std::optional<Failure> Session::runInBracket(const std::wstring& name,
 
 // Outside of the bracket, since it is no undo step of its own.
 void Session::undo() {
-    if (!database().core().undo()) {
+    if (!database().core().changes().undo()) {
         kdutPrintf(L"There is nothing to undo.");
     }
 }

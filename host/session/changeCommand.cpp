@@ -6,7 +6,9 @@
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
+#include "ObjectTable.h"
 #include "Session.h"
+#include "WellKnownObjects.h"
 #include "changeMline.h"
 #include "commandOutput.h"
 #include "editMlines.h"
@@ -33,7 +35,7 @@ void tell(const std::wstring& line) {
 }
 
 std::optional<MlineChange::Style> styleCalled(DatabaseCore& core, const std::wstring& name) {
-    KdDbStub* const stub = core.findStyle(name);
+    KdDbStub* const stub = core.wellKnown().findStyle(name);
     KdDbMlineStyle* style = nullptr;
     kddbOpenObject(style, KdDbObjectId(stub), kForRead);
     if (style == nullptr) {
@@ -61,7 +63,7 @@ std::optional<std::wstring> askKeyword(const wchar_t* prompt, const wchar_t* key
 
 void askLayer(DatabaseCore& core, AskedChange& asked) {
     const auto name = askText(L"Layer name: ");
-    if (name && core.findLayer(*name) == nullptr) {
+    if (name && core.wellKnown().findLayer(*name) == nullptr) {
         tell(L"There is no layer '" + *name + L"'.");
         asked.isRefused = true;
     } else if (name) {
@@ -166,7 +168,7 @@ void changeAll(const std::vector<KdDbStub*>& mlines, const AskedChange& asked) {
 std::vector<KdDbStub*> mlinesOf(DatabaseCore& core, KdDbObjectId style) {
     std::vector<KdDbStub*> found;
     std::size_t locked = 0;
-    for (KdDbStub& stub : core.stubs()) {
+    for (KdDbStub& stub : core.objects().stubs()) {
         if (stub.kind != ObjectKind::mline || stub.erased ||
             KdDbMline::styleOf(KdDbObjectId(&stub)) != style) {
             continue;

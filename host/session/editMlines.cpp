@@ -1,5 +1,6 @@
 #include "editMlines.h"
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "KdDbMline.h"
 #include "commandOutput.h"
@@ -46,9 +47,9 @@ KdDbStub& addMline(const KdDbStub& original, MlineContent content) {
     DatabaseCore& core = *original.database;
     auto mline = std::make_unique<KdDbMline>();
     mline->setContent(std::make_shared<MlineContent>(std::move(content)));
-    BlockEntities& block = *core.blockOf(original);
+    BlockEntities& block = *core.blocks().blockOf(original);
     KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, block.record);
-    core.appendEntity(block, stub);
+    core.blocks().appendEntity(block, stub);
     return stub;
 }
 

@@ -1,5 +1,6 @@
 // ERASE: takes entities of any kind out of model space.
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "HostCommand.h"
 #include "KdDbDatabase.h"
@@ -15,10 +16,10 @@ void eraseCommand(Session& session) {
         return;
     }
     DatabaseCore& core = session.database().core();
-    const BlockEntities& space = core.modelSpace();
+    const BlockEntities& space = core.blocks().modelSpace();
     std::size_t count = 0;
     for (KdDbStub* const entity : selection->entities) {
-        if (core.blockOf(*entity) == &space) {
+        if (core.blocks().blockOf(*entity) == &space) {
             core.erase(*entity);
             ++count;
         }

@@ -1,8 +1,10 @@
 #include "joinMlines.h"
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "EntityTraits.h"
 #include "KdDbMline.h"
+#include "WellKnownObjects.h"
 #include "lockedLayers.h"
 #include "textCodec.h"
 
@@ -56,13 +58,13 @@ JoinMlines mlinesToJoin(DatabaseCore& core, const std::vector<std::wstring>& lay
         if (!named.insert(foldCase(layer)).second) {
             continue;
         }
-        if (core.findLayer(layer) == nullptr) {
+        if (core.wellKnown().findLayer(layer) == nullptr) {
             found.unknownLayers.push_back(layer);
         } else if (!joinable.allowsLayer(layer)) {
             found.withheldLayers.push_back(layer);
         }
     }
-    for (KdDbStub* const stub : core.modelSpace().entities) {
+    for (KdDbStub* const stub : core.blocks().modelSpace().entities) {
         const KdDbMline* const mline = joinable.mlineAt(*stub);
         if (mline != nullptr && (named.empty() || named.contains(foldCase(mline->layer())))) {
             found.mlines.push_back(stub);
@@ -75,7 +77,7 @@ JoinMlines mlinesToJoin(DatabaseCore& core, const std::vector<KdDbStub*>& select
     JoinMlines found;
     JoinableEntities joinable(core);
     const std::unordered_set<const KdDbStub*> chosen(selection.begin(), selection.end());
-    for (KdDbStub* const stub : core.modelSpace().entities) {
+    for (KdDbStub* const stub : core.blocks().modelSpace().entities) {
         if (chosen.contains(stub) && joinable.mlineAt(*stub) != nullptr) {
             found.mlines.push_back(stub);
         }

@@ -1,5 +1,6 @@
 // MLINE: asks for the chain of a new multiline, and for its settings at the first prompt.
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "HostCommand.h"
 #include "KdDbMline.h"
@@ -162,9 +163,9 @@ void mlineCommand(Session& session) {
     }
     DatabaseCore& core = session.database().core();
     if (auto mline = makeMline(session, *asked)) {
-        BlockEntities& space = core.modelSpace();
+        BlockEntities& space = core.blocks().modelSpace();
         KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, space.record);
-        core.appendEntity(space, stub);
+        core.blocks().appendEntity(space, stub);
     }
 }
 

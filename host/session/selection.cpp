@@ -7,6 +7,7 @@
 #include "KdDbMline.h"
 #include "PromptSession.h"
 #include "Session.h"
+#include "WellKnownObjects.h"
 #include "commandOutput.h"
 #include "lockedLayers.h"
 #include "promptExchange.h"
@@ -65,7 +66,7 @@ std::optional<Entities> askStyle(Session& session) {
     if (kdedGetString(L"Style name: ", name) != kPromptNormal) {
         return std::nullopt;
     }
-    KdDbStub* const style = session.database().core().findStyle(name);
+    KdDbStub* const style = session.database().core().wellKnown().findStyle(name);
     if (style == nullptr) {
         rejectAnswer(L"there is no style '" + std::wstring(name) + L"'");
         return std::nullopt;
@@ -87,7 +88,7 @@ std::optional<Entities> askLayer(Session& session) {
         return std::nullopt;
     }
     const std::wstring folded = foldCase(name);
-    if (session.database().core().findLayer(name) == nullptr) {
+    if (session.database().core().wellKnown().findLayer(name) == nullptr) {
         rejectAnswer(L"there is no layer '" + std::wstring(name) + L"'");
         return std::nullopt;
     }

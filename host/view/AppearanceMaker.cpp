@@ -1,5 +1,6 @@
 #include "AppearanceMaker.h"
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "EntityDrawer.h"
 
@@ -57,7 +58,7 @@ PlanBox AppearanceMaker::box(const KdDbStub& entity) {
 }
 
 bool AppearanceMaker::isShared(const KdDbStub& changed) const {
-    const BlockEntities* block = m_core.blockOf(changed);
+    const BlockEntities* block = m_core.blocks().blockOf(changed);
     return m_table.covers(changed) || (block != nullptr && m_blocks.covers(*block));
 }
 

@@ -1,5 +1,6 @@
 #include "BlockContents.h"
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "textCodec.h"
 
@@ -21,7 +22,7 @@ const BlockContent& BlockContents::block(const std::wstring& name) {
         return known->second;
     }
     BlockContent content;
-    const BlockEntities* found = isLayout(name) ? nullptr : m_core.findBlock(name);
+    const BlockEntities* found = isLayout(name) ? nullptr : m_core.blocks().find(name);
     if (found != nullptr) {
         content.block = found;
         content.basePoint = found->basePoint;

@@ -1,6 +1,6 @@
 #include "EntityDrawer.h"
 
-#include "DatabaseCore.h"
+#include "BlockList.h"
 #include "mlinePainter.h"
 #include "shapePainter.h"
 

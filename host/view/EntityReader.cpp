@@ -2,6 +2,7 @@
 
 #include "DatabaseCore.h"
 #include "KdDbMline.h"
+#include "ObjectTable.h"
 
 namespace orvex {
 
@@ -19,7 +20,7 @@ EntityGeometry geometryOf(const KdDbStub& stub, const KdDbEntity& entity) {
     if (isMline(entity)) {
         return mlineContent(entity);
     }
-    const ObjectSource* source = stub.database->source();
+    const ObjectSource* source = stub.database->objects().source();
     const bool inFile = source != nullptr && stub.record != kNoRecord;
     return inFile ? source->shapeOf(stub) : EntityShape{};
 }
@@ -42,7 +43,7 @@ std::optional<EntityReading> readEntity(const KdDbStub& stub) {
     }
     EntityReading reading;
     const KdDbObject* object = stub.object.get();
-    ObjectSource* const source = stub.database->source();
+    ObjectSource* const source = stub.database->objects().source();
     if (object == nullptr && source != nullptr && stub.record != kNoRecord) {
         reading.temporary = source->load(stub);
         object = reading.temporary.get();

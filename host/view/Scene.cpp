@@ -2,11 +2,13 @@
 
 #include "AppearanceCache.h"
 #include "AppearanceMaker.h"
+#include "BlockList.h"
 #include "ChangeFeed.h"
 #include "CompactAppearance.h"
 #include "DatabaseCore.h"
 #include "IndexBuild.h"
 #include "KdDbDatabase.h"
+#include "ObjectTable.h"
 #include "PickIndex.h"
 #include "boxSelection.h"
 #include "pickDistance.h"
@@ -52,7 +54,9 @@ struct Scene::State {
     std::vector<KdDbStub*> shownOrHidden; // since the last settlement
     std::function<double()> unitsPerPixel;
 
-    [[nodiscard]] const std::vector<KdDbStub*>& entities() { return core.modelSpace().entities; }
+    [[nodiscard]] const std::vector<KdDbStub*>& entities() {
+        return core.blocks().modelSpace().entities;
+    }
     [[nodiscard]] bool isSeen(const KdDbStub& entity, const Appearance& appearance) const {
         return appearance.seen && !hidden.contains(&entity);
     }
@@ -125,7 +129,7 @@ void Scene::State::rebuild() {
 
 void Scene::State::addNewEntities() {
     const auto& all = entities();
-    indexOf.resize(core.stubs().size(), kNoIndex);
+    indexOf.resize(core.objects().stubs().size(), kNoIndex);
     for (; indexedCount < all.size(); ++indexedCount) {
         indexOf[all[indexedCount]->ordinal] = static_cast<std::uint32_t>(indexedCount);
         unindexed.push_back(all[indexedCount]);
@@ -166,7 +170,7 @@ bool Scene::State::updateIndex(Deadline deadline) {
 }
 
 bool Scene::State::buildIndex(Deadline deadline) {
-    indexOf.resize(core.stubs().size(), kNoIndex);
+    indexOf.resize(core.objects().stubs().size(), kNoIndex);
     const auto boxAt = [this](std::size_t index) {
         const KdDbStub& entity = *entities()[index];
         indexOf[entity.ordinal] = static_cast<std::uint32_t>(index);

@@ -4,6 +4,7 @@
 #include "KdDbLayerTable.h"
 #include "KdDbLinetypeTable.h"
 #include "KdDbMlineStyle.h"
+#include "WellKnownObjects.h"
 #include "textCodec.h"
 
 namespace orvex {
@@ -28,7 +29,7 @@ const LayerTraits& SharedTraits::layer(const std::wstring& name) {
         return known->second;
     }
     LayerTraits appearance;
-    KdDbStub* const stub = m_core.findLayer(name);
+    KdDbStub* const stub = m_core.wellKnown().findLayer(name);
     if (const auto* record = readObject<KdDbLayerTableRecord>(m_core, stub)) {
         appearance.pen.rgb = record->color().rgb();
         appearance.seen = !record->isOff() && !record->isFrozen();
@@ -60,7 +61,7 @@ const SharedTraits::Linetype& SharedTraits::linetype(const std::wstring& name) {
     } else if (folded == L"BYBLOCK") {
         found.meaning = Linetype::Meaning::byBlock;
     } else {
-        KdDbStub* const stub = m_core.findLinetype(name);
+        KdDbStub* const stub = m_core.wellKnown().findLinetype(name);
         if (const auto* record = readObject<KdDbLinetypeTableRecord>(m_core, stub)) {
             found.dashes = record->dashes();
         }

@@ -1,9 +1,12 @@
+#include "BlockList.h"
 #include "CanvasFixture.h"
+#include "ChangeLog.h"
 #include "KdDbLayerTable.h"
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineContent.h"
 #include "PlanPicture.h"
+#include "WellKnownObjects.h"
 
 #include <functional>
 #include <random>
@@ -49,7 +52,7 @@ protected:
     DatabaseCore& core() { return session->database().core(); }
     int number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(m_random); }
     KdDbStub& anyEntity() {
-        const auto& all = core().modelSpace().entities;
+        const auto& all = core().blocks().modelSpace().entities;
         return *all[static_cast<std::size_t>(number(0, static_cast<int>(all.size()) - 1))];
     }
     KdDbStub& anyMline() {
@@ -72,7 +75,7 @@ protected:
         mline->close();
     }
     void edit() {
-        core().beginCommand();
+        core().changes().beginCommand();
         switch (number(0, 5)) {
         case 0:
             core().erase(anyMline());
@@ -86,9 +89,9 @@ protected:
         default:
             moveBy(anyMline(), number(-900, 900), number(-900, 900));
         }
-        core().endCommand();
+        core().changes().endCommand();
         if (number(0, 4) == 0) {
-            core().undo();
+            core().changes().undo();
         }
         if (number(0, 9) == 0) {
             play("MLINE\n1000,2000\n5000,4000\n7000,1000\nC\n");
@@ -123,7 +126,8 @@ TEST_F(EditedCanvas, layersAndStylesChangeAllThatUsesThem) {
     auto& mline = *static_cast<KdDbMline*>(core().load(anyMline()));
     const std::wstring name = mline.traits().layer;
     auto* style = static_cast<KdDbMlineStyle*>(core().load(*mline.style().stub()));
-    auto* layer = static_cast<KdDbLayerTableRecord*>(core().load(*core().findLayer(name)));
+    auto* layer =
+        static_cast<KdDbLayerTableRecord*>(core().load(*core().wellKnown().findLayer(name)));
     const std::function<void()> changes[] = {
         [&] { style->setFilled(!style->filled()); },
         [&] { layer->setIsOff(true); },
@@ -131,9 +135,9 @@ TEST_F(EditedCanvas, layersAndStylesChangeAllThatUsesThem) {
     };
     for (const auto& change : changes) {
         const QImage before = picture();
-        core().beginCommand();
+        core().changes().beginCommand();
         change();
-        core().endCommand();
+        core().changes().endCommand();
         canvas.refresh();
         const QImage after = picture();
         EXPECT_EQ(differences(after, pictureFromScratch()), 0);

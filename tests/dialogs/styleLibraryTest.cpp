@@ -5,6 +5,7 @@
 #include "KdDocument.h"
 #include "MlineStyleContent.h"
 #include "TestPaths.h"
+#include "WellKnownObjects.h"
 #include "promptStatus.h"
 #include "styleAccessors.h"
 #include "styleLibraryReader.h"
@@ -51,7 +52,7 @@ protected:
     }
 
     [[nodiscard]] KdDbObjectId linetype(const wchar_t* name) {
-        return KdDbObjectId(m_database.core().findLinetype(name));
+        return KdDbObjectId(m_database.core().wellKnown().findLinetype(name));
     }
 
     [[nodiscard]] KdDbMlineStyle wall() {

@@ -1,9 +1,11 @@
 #include "styleNames.h"
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "DrawingFile.h"
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "KdDocument.h"
+#include "ObjectTable.h"
 #include "TestPaths.h"
 #include "kddbObjects.h"
 
@@ -17,11 +19,15 @@ namespace {
 // and WALL (2F).
 class StyleUse : public testing::Test {
 protected:
-    StyleUse() : m_before(orvex::setCurrentDocument(&m_document)) { core().beginCommand(); }
+    StyleUse() : m_before(orvex::setCurrentDocument(&m_document)) {
+        core().changes().beginCommand();
+    }
     ~StyleUse() override { orvex::setCurrentDocument(m_before); }
 
     [[nodiscard]] orvex::DatabaseCore& core() const { return m_file->database().core(); }
-    [[nodiscard]] KdDbStub& stub(std::uint64_t handle) const { return *core().findHandle(handle); }
+    [[nodiscard]] KdDbStub& stub(std::uint64_t handle) const {
+        return *core().objects().findHandle(handle);
+    }
     [[nodiscard]] KdDbMline& mline(std::uint64_t handle) const {
         return *static_cast<KdDbMline*>(core().load(stub(handle)));
     }
@@ -67,8 +73,8 @@ TEST_F(StyleUse, goesByTheStylesOwnNameInAllBlocks) {
     mline(0x51).setStyle(KdDbObjectId());
     mline(0x52).erase();
     EXPECT_FALSE(isStyleUsed(L"STANDARD"));
-    core().endCommand();
-    core().undo();
+    core().changes().endCommand();
+    core().changes().undo();
     EXPECT_TRUE(isStyleUsed(L"WALL"));
     orvex::setCurrentDocument(nullptr);
     EXPECT_FALSE(isStyleUsed(L"WALL"));

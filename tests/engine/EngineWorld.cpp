@@ -1,5 +1,6 @@
 #include "EngineWorld.h"
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "MlineBuilder.h"
 #include "kddbObjects.h"
@@ -86,7 +87,7 @@ KdDbObject* EngineWorld::adopt(std::unique_ptr<KdDbEntity> made, ObjectKind kind
     KdDbObject* const entity = made.get();
     DatabaseCore& core = database.core();
     KdDbStub& stub = core.adopt(std::move(made), kind, nullptr);
-    core.appendEntity(core.modelSpace(), stub);
+    core.blocks().appendEntity(core.blocks().modelSpace(), stub);
     display.known.push_back(&stub);
     return entity;
 }

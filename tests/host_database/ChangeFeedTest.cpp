@@ -1,4 +1,5 @@
 #include "ChangeFeed.h"
+#include "DatabaseCore.h"
 #include "FlatSource.h"
 #include "KdDbDatabase.h"
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "DatabaseCore.h"
 #include "KdDbEntity.h"
 #include "KdDbMline.h"
 #include "KdDbMlineImp.h"
 #include "KdDbSystemInternals.h"
 #include "MlineContent.h"
+#include "ObjectTable.h"
 
 #include <memory>
 

@@ -1,6 +1,8 @@
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "KdDbDatabase.h"
 #include "KdDbMline.h"
+#include "ObjectTable.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +17,7 @@ using orvex::HeaderHandle;
 using orvex::ObjectKind;
 
 KdDbStub& add(DatabaseCore& core, std::uint64_t handle) {
-    return core.addStub(ObjectKind::opaque, handle, 1, nullptr);
+    return core.objects().addStub(ObjectKind::opaque, handle, 1, nullptr);
 }
 
 TEST(Handles, findWhatAPlainMapFinds) {
@@ -34,13 +36,14 @@ TEST(Handles, findWhatAPlainMapFinds) {
             if (random() % 20 == 0) {
                 const std::uint64_t wanted = random() % 400;
                 const auto found = model.find(wanted);
-                ASSERT_EQ(core.findHandle(wanted), found != model.end() ? found->second : nullptr);
+                ASSERT_EQ(core.objects().findHandle(wanted),
+                          found != model.end() ? found->second : nullptr);
             }
         }
         for (const auto& [handle, stub] : model) {
-            ASSERT_EQ(core.findHandle(handle), stub);
+            ASSERT_EQ(core.objects().findHandle(handle), stub);
         }
-        EXPECT_EQ(core.findHandle(0), nullptr);
+        EXPECT_EQ(core.objects().findHandle(0), nullptr);
     }
 }
 
@@ -49,17 +52,17 @@ TEST(Handles, theNextIsAboveTheSeedAndAllHandlesWhileThereIsRoom) {
     DatabaseCore& core = database.core();
     core.loadVariable("HANDSEED", HeaderHandle{0x100});
     add(core, 0x50);
-    EXPECT_EQ(core.takeHandle(), 0x100U);
+    EXPECT_EQ(core.objects().takeHandle(), 0x100U);
     add(core, 0x200); // above what the header says
-    EXPECT_EQ(core.takeHandle(), 0x201U);
+    EXPECT_EQ(core.objects().takeHandle(), 0x201U);
     EXPECT_EQ(std::get<HeaderHandle>(*core.variables().find("HANDSEED")).value, 0x202U);
 
     KdDbDatabase full(false);
     add(full.core(), std::numeric_limits<std::uint64_t>::max());
     add(full.core(), 5);
     full.core().loadVariable("HANDSEED", HeaderHandle{5});
-    EXPECT_EQ(full.core().takeHandle(), 6U);
-    EXPECT_EQ(full.core().takeHandle(), 7U);
+    EXPECT_EQ(full.core().objects().takeHandle(), 6U);
+    EXPECT_EQ(full.core().objects().takeHandle(), 7U);
 }
 
 TEST(Handles, aHandleGivenAgainLeadsToTheLiveObject) {
@@ -67,23 +70,23 @@ TEST(Handles, aHandleGivenAgainLeadsToTheLiveObject) {
     DatabaseCore& core = database.core();
     std::uint64_t handle = 0;
     for (int round = 0; round < 3; ++round) {
-        core.beginCommand();
+        core.changes().beginCommand();
         KdDbStub& stub = core.adopt(std::make_unique<KdDbMline>(), ObjectKind::mline, nullptr);
-        ASSERT_TRUE(core.endCommand());
+        ASSERT_TRUE(core.changes().endCommand());
         handle = round == 0 ? stub.handle : handle;
         EXPECT_EQ(stub.handle, handle);
-        EXPECT_EQ(core.findHandle(handle), &stub);
-        ASSERT_TRUE(core.undo());
+        EXPECT_EQ(core.objects().findHandle(handle), &stub);
+        ASSERT_TRUE(core.changes().undo());
         EXPECT_TRUE(stub.erased);
     }
     // A handle that was written to a file isn't given again.
-    core.beginCommand();
+    core.changes().beginCommand();
     KdDbStub& made = core.adopt(std::make_unique<KdDbMline>(), ObjectKind::mline, nullptr);
-    core.endCommand();
+    core.changes().endCommand();
     KdDbStub& unwritten = add(core, 0);
-    EXPECT_EQ(core.ensureHandle(unwritten), made.handle + 1);
-    core.undo();
-    EXPECT_GT(core.takeHandle(), unwritten.handle);
+    EXPECT_EQ(core.objects().ensureHandle(unwritten), made.handle + 1);
+    core.changes().undo();
+    EXPECT_GT(core.objects().takeHandle(), unwritten.handle);
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 #include "LinetypeFile.h"
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "KdDbDatabase.h"
 #include "KdDbLinetypeTable.h"
+#include "WellKnownObjects.h"
 #include "kddbObjects.h"
 #include "supportFiles.h"
 #include "textCodec.h"
@@ -93,18 +95,18 @@ protected:
 
 TEST_F(LoadingLinetypes, addsTheRecordOnceAndOnlyWhenThereIsOne) {
     orvex::DatabaseCore& core = m_database.core();
-    core.beginCommand();
+    core.changes().beginCommand();
     const KdDbObjectId id = load(L"test.lin", L"dashed");
     ASSERT_TRUE(id.isValid());
     EXPECT_EQ(load(L"test.lin", L"DASHED"), id);
-    ASSERT_TRUE(core.endCommand());
+    ASSERT_TRUE(core.changes().endCommand());
     KdDbLinetypeTableRecord* record = nullptr;
     ASSERT_EQ(kddbOpenObject(record, id, kForRead), Status::done);
     EXPECT_EQ(record->name(), L"DASHED");
     EXPECT_EQ(record->dashes(), (std::vector{0.5, -0.25}));
-    EXPECT_EQ(core.findLinetype(L"Dashed"), id.stub());
-    core.undo();
-    EXPECT_EQ(core.findLinetype(L"Dashed"), nullptr);
+    EXPECT_EQ(core.wellKnown().findLinetype(L"Dashed"), id.stub());
+    core.changes().undo();
+    EXPECT_EQ(core.wellKnown().findLinetype(L"Dashed"), nullptr);
     EXPECT_TRUE(load(L"test.lin", L"dashed").isValid());
     EXPECT_TRUE(load(L"other.lin", L"GAS").isNull());
     EXPECT_TRUE(load(nullptr, L"GAS").isNull());

@@ -1,7 +1,11 @@
+#include "BlockList.h"
+#include "DatabaseCore.h"
 #include "FlatSource.h"
 #include "KdDbBlockTable.h"
 #include "KdDbDatabase.h"
 #include "KdDbLayerTable.h"
+#include "ObjectTable.h"
+#include "WellKnownObjects.h"
 #include "kddbObjects.h"
 
 #include <gtest/gtest.h>
@@ -32,12 +36,12 @@ std::vector<KdDbObjectId> entitiesOf(KdDbStub& record) {
 TEST(Blocks, entitiesAreWalkedInDrawingOrderWithoutTheErased) {
     KdDbDatabase database;
     orvex::DatabaseCore& core = database.core();
-    core.setSource(std::make_shared<FlatSource>());
-    BlockEntities& space = core.modelSpace();
+    core.objects().setSource(std::make_shared<FlatSource>());
+    BlockEntities& space = core.blocks().modelSpace();
     std::vector<KdDbObjectId> expected;
     for (const auto kind : {ObjectKind::entity, ObjectKind::opaque, ObjectKind::mline}) {
-        KdDbStub& stub = core.addStub(kind, 0, 1, space.record);
-        core.appendEntity(space, stub);
+        KdDbStub& stub = core.objects().addStub(kind, 0, 1, space.record);
+        core.blocks().appendEntity(space, stub);
         if (kind != ObjectKind::opaque) {
             expected.emplace_back(&stub);
         }
@@ -57,18 +61,19 @@ TEST(Blocks, entitiesAreWalkedInDrawingOrderWithoutTheErased) {
 TEST(Blocks, anEntityKnowsItsBlock) {
     KdDbDatabase database;
     orvex::DatabaseCore& core = database.core();
-    BlockEntities& model = core.modelSpace();
-    BlockEntities& door = core.addBlock(L"Door"); // no record, as in an old file
+    BlockEntities& model = core.blocks().modelSpace();
+    BlockEntities& door = core.blocks().add(L"Door"); // no record, as in an old file
     // Where it stands counts, whatever it names as its owner.
-    for (KdDbStub* const owner : {static_cast<KdDbStub*>(nullptr), model.record, core.layerTable}) {
+    for (KdDbStub* const owner :
+         {static_cast<KdDbStub*>(nullptr), model.record, core.wellKnown().layerTable}) {
         for (BlockEntities* const block : {&model, &door}) {
-            KdDbStub& entity = core.addStub(ObjectKind::entity, 0, 1, owner);
-            core.appendEntity(*block, entity);
-            EXPECT_EQ(core.blockOf(entity), block);
+            KdDbStub& entity = core.objects().addStub(ObjectKind::entity, 0, 1, owner);
+            core.blocks().appendEntity(*block, entity);
+            EXPECT_EQ(core.blocks().blockOf(entity), block);
         }
     }
-    EXPECT_EQ(core.findBlock(L"DOOR"), &door);
-    EXPECT_EQ(core.findBlock(L"Window"), nullptr);
+    EXPECT_EQ(core.blocks().find(L"DOOR"), &door);
+    EXPECT_EQ(core.blocks().find(L"Window"), nullptr);
 }
 
 TEST(Tables, recordsAreFoundByTheirNamesOfNow) {

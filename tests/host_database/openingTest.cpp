@@ -1,6 +1,8 @@
+#include "DatabaseCore.h"
 #include "FlatSource.h"
 #include "KdDbDatabase.h"
 #include "KdDbMlineStyle.h"
+#include "ObjectTable.h"
 #include "databaseRegistry.h"
 #include "kddbObjects.h"
 
@@ -17,9 +19,11 @@ using orvex::testing::FlatSource;
 class Opening : public ::testing::Test {
 protected:
     Opening() {
-        m_database.core().setSource(m_source);
-        m_mline = KdDbObjectId(&m_database.core().addStub(ObjectKind::mline, 0x40, 1, nullptr));
-        m_line = KdDbObjectId(&m_database.core().addStub(ObjectKind::entity, 0x41, 2, nullptr));
+        m_database.core().objects().setSource(m_source);
+        m_mline =
+            KdDbObjectId(&m_database.core().objects().addStub(ObjectKind::mline, 0x40, 1, nullptr));
+        m_line = KdDbObjectId(
+            &m_database.core().objects().addStub(ObjectKind::entity, 0x41, 2, nullptr));
     }
 
     KdDbDatabase m_database{false};
@@ -55,7 +59,7 @@ TEST_F(Opening, aFailedOpenGivesNull) {
     EXPECT_EQ(m_line.stub()->openForWrite, 0);
     for (const auto kind : {ObjectKind::opaque, ObjectKind::mline}) {
         const KdDbObjectId broken(
-            &m_database.core().addStub(kind, 0, FlatSource::kBroken, nullptr));
+            &m_database.core().objects().addStub(kind, 0, FlatSource::kBroken, nullptr));
         mline = other;
         EXPECT_NE(kddbOpenObject(mline, broken, kForRead), Status::done);
         EXPECT_EQ(mline, nullptr);

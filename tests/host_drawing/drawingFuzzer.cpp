@@ -1,12 +1,16 @@
 // Opens arbitrary bytes: what opens is saved as it came; everything in it can be looked at and
 // edited; what is saved then opens again, has the edits, and goes back to the first bytes.
 
+#include "BlockList.h"
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "DrawingFile.h"
 #include "KdDbDictionary.h"
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineContent.h"
+#include "ObjectTable.h"
+#include "WellKnownObjects.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -30,11 +34,11 @@ std::unique_ptr<DrawingFile> open(std::string bytes) {
 }
 
 void lookAtAll(DatabaseCore& core) {
-    for (std::size_t i = 0; i < core.stubs().size(); ++i) {
-        KdDbStub& stub = core.stubs()[i];
+    for (std::size_t i = 0; i < core.objects().stubs().size(); ++i) {
+        KdDbStub& stub = core.objects().stubs()[i];
         core.load(stub);
         if (stub.kind == ObjectKind::entity) {
-            static_cast<void>(core.source()->shapeOf(stub));
+            static_cast<void>(core.objects().source()->shapeOf(stub));
         }
     }
 }
@@ -66,8 +70,8 @@ void editStyle(KdDbMlineStyle& style) {
 }
 
 void editAll(DatabaseCore& core) {
-    for (std::size_t i = 0; i < core.stubs().size(); ++i) {
-        KdDbObject* const object = core.open(core.stubs()[i], true);
+    for (std::size_t i = 0; i < core.objects().stubs().size(); ++i) {
+        KdDbObject* const object = core.open(core.objects().stubs()[i], true);
         if (auto* const mline = dynamic_cast<KdDbMline*>(object)) {
             editMline(*mline);
         } else if (auto* const style = dynamic_cast<KdDbMlineStyle*>(object)) {
@@ -79,16 +83,17 @@ void editAll(DatabaseCore& core) {
     style->initMlineStyle();
     style->setName(L"fuzzed");
     if (auto* const styles =
-            dynamic_cast<KdDbDictionary*>(core.open(*core.styleDictionary, true))) {
+            dynamic_cast<KdDbDictionary*>(core.open(*core.wellKnown().styleDictionary, true))) {
         KdDbObjectId id;
         styles->setAt(L"fuzzed", style.release(), id);
     }
     auto mline = std::make_unique<KdDbMline>();
-    mline->setStyle(KdDbObjectId(core.findStyle(L"STANDARD")));
+    mline->setStyle(KdDbObjectId(core.wellKnown().findStyle(L"STANDARD")));
     mline->appendSeg({});
     mline->appendSeg({4.0, 0.0, 0.0});
-    BlockEntities& model = core.modelSpace();
-    core.appendEntity(model, core.adopt(std::move(mline), ObjectKind::mline, model.record));
+    BlockEntities& model = core.blocks().modelSpace();
+    core.blocks().appendEntity(model,
+                               core.adopt(std::move(mline), ObjectKind::mline, model.record));
 }
 
 } // namespace
@@ -104,21 +109,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     lookAtAll(core);
     require(file->bytes() == bytes, "looking changes nothing");
 
-    const std::size_t entities = core.modelSpace().entities.size();
-    core.beginCommand();
+    const std::size_t entities = core.blocks().modelSpace().entities.size();
+    core.changes().beginCommand();
     editAll(core);
-    core.endCommand();
+    core.changes().endCommand();
     const std::string edited = file->bytes();
     require(file->bytes() == edited, "a second save gives the same");
     const auto again = open(edited);
     require(again != nullptr, "what is saved opens");
     lookAtAll(again->database().core());
     require(again->bytes() == edited, "what was saved is saved as it came");
-    require(again->database().core().modelSpace().entities.size() == entities + 1,
+    require(again->database().core().blocks().modelSpace().entities.size() == entities + 1,
             "the new multiline is there, and nothing is lost");
-    require(again->database().core().findStyle(L"fuzzed") != nullptr, "the new style is there");
+    require(again->database().core().wellKnown().findStyle(L"fuzzed") != nullptr,
+            "the new style is there");
 
-    core.undo();
+    core.changes().undo();
     require(file->bytes() == bytes, "taken back, it is as it came");
     return 0;
 }

@@ -1,5 +1,7 @@
 // A changed object is written anew only where it differs; everything else keeps its text.
 
+#include "BlockList.h"
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "KdDbDatabase.h"
 #include "KdDbDictionary.h"
@@ -50,12 +52,12 @@ template <class Edit>
 void expectEdit(const std::string& bytes, Edit edit, const std::string& expected) {
     const auto file = openDrawing(bytes);
     DatabaseCore& core = file->database().core();
-    core.beginCommand();
+    core.changes().beginCommand();
     edit(*file);
-    core.endCommand();
+    core.changes().endCommand();
     EXPECT_TRUE(sameText(file->bytes(), expected));
     EXPECT_TRUE(sameText(file->bytes(), expected)) << "a second save differs";
-    core.undo();
+    core.changes().undo();
     EXPECT_TRUE(sameText(file->bytes(), bytes)) << "taken back, but not the same";
 }
 template <class Edit>
@@ -293,7 +295,7 @@ void editSomething(DrawingFile& file, std::vector<KdDbStub*>& mlines, std::mt199
             made->setDatabaseDefaults(&file.database());
             made->appendSeg(point);
             mlines.push_back(&core.adopt(std::move(made), ObjectKind::mline, nullptr));
-            core.appendEntity(core.modelSpace(), *mlines.back());
+            core.blocks().appendEntity(core.blocks().modelSpace(), *mlines.back());
         },
         [&] { mline->setScale(number); },
         [&] { mline->appendSeg(point); },
@@ -339,17 +341,17 @@ TEST(Undo, restoresEveryStepByteForByte) {
         };
         std::vector<std::string> before;
         const auto stepBack = [&] {
-            ASSERT_TRUE(core.undo());
+            ASSERT_TRUE(core.changes().undo());
             ASSERT_TRUE(sameText(state(), before.back()));
             before.pop_back();
         };
         for (int i = 0; i < 60; ++i) {
             const std::string now = state();
-            core.beginCommand();
+            core.changes().beginCommand();
             for (int edits = 1 + i % 4; edits > 0; --edits) {
                 editSomething(*file, mlines, random);
             }
-            if (core.endCommand()) {
+            if (core.changes().endCommand()) {
                 before.push_back(now);
                 ++steps;
             } else {
@@ -362,7 +364,7 @@ TEST(Undo, restoresEveryStepByteForByte) {
         while (!before.empty()) {
             ASSERT_NO_FATAL_FAILURE(stepBack());
         }
-        EXPECT_FALSE(core.undo());
+        EXPECT_FALSE(core.changes().undo());
     }
     EXPECT_GT(steps, 1000U);
 }

@@ -1,6 +1,8 @@
 // A drawing that was opened and saved is the same file, whatever is in it.
 
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
+#include "ObjectTable.h"
 #include "sampleDrawing.h"
 
 #include <gtest/gtest.h>
@@ -13,16 +15,16 @@ using namespace orvex::testing;
 // Opens everything there is, for reading and for writing, and looks at every shape.
 void touchAll(DrawingFile& file) {
     DatabaseCore& core = file.database().core();
-    core.beginCommand();
-    for (KdDbStub& stub : core.stubs()) {
+    core.changes().beginCommand();
+    for (KdDbStub& stub : core.objects().stubs()) {
         if (core.open(stub, true) != nullptr) {
             core.aboutToChange(stub);
         }
         if (stub.kind == ObjectKind::entity) {
-            static_cast<void>(core.source()->shapeOf(stub));
+            static_cast<void>(core.objects().source()->shapeOf(stub));
         }
     }
-    core.endCommand();
+    core.changes().endCommand();
 }
 
 void expectIdentity(const std::string& bytes, const std::string& what) {

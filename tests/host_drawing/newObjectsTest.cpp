@@ -1,5 +1,7 @@
 // Objects that the file has not had, and the places that have to be made for them.
 
+#include "BlockList.h"
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "KdDbBlockTable.h"
 #include "KdDbDictionary.h"
@@ -8,6 +10,8 @@
 #include "KdDbMlineStyle.h"
 #include "MlineContent.h"
 #include "MlineStyleContent.h"
+#include "ObjectTable.h"
+#include "WellKnownObjects.h"
 #include "sampleDrawing.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +33,7 @@ KdDbStub& addMline(DrawingFile& file, BlockEntities& block, KdDbStub* style) {
     content->lists.assignFlat(2, {2, 0, 2, 0, 0, 0, 0, 0}, {1.25, 0.0, -1.25, 0.0});
     mline->setContent(content);
     KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, block.record);
-    core.appendEntity(block, stub);
+    core.blocks().appendEntity(block, stub);
     return stub;
 }
 
@@ -38,7 +42,8 @@ KdDbStub& addStyle(DrawingFile& file, const wchar_t* name) {
     auto style = std::make_unique<KdDbMlineStyle>();
     style->initMlineStyle();
     style->setName(name);
-    auto* const dictionary = dynamic_cast<KdDbDictionary*>(core.open(*core.styleDictionary, true));
+    auto* const dictionary =
+        dynamic_cast<KdDbDictionary*>(core.open(*core.wellKnown().styleDictionary, true));
     KdDbObjectId id;
     dictionary->setAt(name, style.release(), id);
     return *id.stub();
@@ -50,7 +55,8 @@ KdDbStub& addLinetype(DrawingFile& file, const wchar_t* name) {
     linetype->setName(name);
     linetype->setComments(L"Dots . . .");
     linetype->setDashes({0.0, -0.25});
-    auto* const table = dynamic_cast<KdDbLinetypeTable*>(core.open(*core.linetypeTable, true));
+    auto* const table =
+        dynamic_cast<KdDbLinetypeTable*>(core.open(*core.wellKnown().linetypeTable, true));
     KdDbObjectId id;
     table->add(id, linetype.release());
     return *id.stub();
@@ -58,7 +64,7 @@ KdDbStub& addLinetype(DrawingFile& file, const wchar_t* name) {
 
 std::uint64_t highestHandle(DrawingFile& file) {
     std::uint64_t highest = 0;
-    for (const KdDbStub& stub : file.database().core().stubs()) {
+    for (const KdDbStub& stub : file.database().core().objects().stubs()) {
         highest = std::max(highest, stub.handle);
     }
     return highest;
@@ -91,14 +97,14 @@ TEST(NewMline, standsBehindTheOthersOfItsBlock) {
     for (const auto& c : cases) {
         const auto file = openDrawing(sample);
         DatabaseCore& core = file->database().core();
-        core.beginCommand();
-        addMline(*file, *core.findBlock(c.block), &stubOf(*file, 0x2F));
-        core.endCommand();
+        core.changes().beginCommand();
+        addMline(*file, *core.blocks().find(c.block), &stubOf(*file, 0x2F));
+        core.changes().endCommand();
         std::string expected = replaced(sample, "$HANDSEED\n  5\n100", "$HANDSEED\n  5\n101");
         expected.insert(expected.find(c.place, expected.find(c.behind)),
                         dxf(std::string("0 MLINE\n5 100\n") + c.head + kNewMline));
         EXPECT_TRUE(sameText(file->bytes(), expected));
-        core.undo();
+        core.changes().undo();
         EXPECT_TRUE(sameText(file->bytes(), sample));
     }
 }
@@ -108,7 +114,7 @@ TEST(NewMline, takesTheNextHandleWhereTheSeedIsNoUse) {
     const auto file = openDrawing(
         replaced(sampleDrawing(), "$HANDSEED\n  5\n100", "$HANDSEED\n  5\nFFFFFFFFFFFFFFFF"));
     const std::uint64_t highest = highestHandle(*file);
-    BlockEntities& model = file->database().core().modelSpace();
+    BlockEntities& model = file->database().core().blocks().modelSpace();
     EXPECT_EQ(addMline(*file, model, &stubOf(*file, 0x2F)).handle, highest + 1);
     EXPECT_EQ(seedOf(*file), highest + 2);
 }
@@ -149,7 +155,7 @@ TEST(NewLinetype, isCountedInATableThatItsSectionEnds) {
     const auto file = openDrawing(dxf("0 SECTION\n2 TABLES\n0 TABLE\n2 LAYER\n0 LTYPE\n2 B\n"
                                       "0 TABLE\n2 LTYPE\n70 1\n0 LTYPE\n2 A\n0 ENDSEC\n0 EOF"));
     DatabaseCore& core = file->database().core();
-    EXPECT_EQ(core.findLinetype(L"B"), nullptr) << "in a table of another kind";
+    EXPECT_EQ(core.wellKnown().findLinetype(L"B"), nullptr) << "in a table of another kind";
     addLinetype(*file, L"DOTS");
     EXPECT_NE(file->bytes().find(dxf("2 LTYPE\n70 2")), std::string::npos) << file->bytes();
 }
@@ -161,10 +167,10 @@ TEST(NewObjects, doNotTakeTheHandleOfAMissingStyle) {
                                  "0 ENDSEC\n0 EOF\n");
     const auto file = openDrawing(torn);
     DatabaseCore& core = file->database().core();
-    addMline(*file, core.modelSpace(), core.findStyle(L"STANDARD"));
+    addMline(*file, core.blocks().modelSpace(), core.wellKnown().findStyle(L"STANDARD"));
     const auto again = openDrawing(file->bytes());
-    EXPECT_EQ(again->database().core().findHandle(0xA3), nullptr);
-    EXPECT_NE(again->database().core().findStyle(L"STANDARD")->record, kNoRecord);
+    EXPECT_EQ(again->database().core().objects().findHandle(0xA3), nullptr);
+    EXPECT_NE(again->database().core().wellKnown().findStyle(L"STANDARD")->record, kNoRecord);
 }
 
 // Sections, tables, dictionaries and a seed of handles come with them where the file has none.
@@ -176,25 +182,25 @@ TEST(NewObjects, areWrittenWhereverTheFileBreaksOff) {
         const std::string cut = sample.substr(0, at);
         const auto file = openDrawing(cut);
         DatabaseCore& core = file->database().core();
-        core.beginCommand();
-        KdDbStub& mline = addMline(*file, core.modelSpace(), &addStyle(*file, L"Zaun"));
+        core.changes().beginCommand();
+        KdDbStub& mline = addMline(*file, core.blocks().modelSpace(), &addStyle(*file, L"Zaun"));
         addLinetype(*file, L"DOTS");
         const std::uint64_t handle = mline.handle;
-        core.endCommand();
+        core.changes().endCommand();
         const auto again = openDrawing(file->bytes());
         DatabaseCore& read = again->database().core();
-        KdDbStub* const found = read.findHandle(handle);
-        KdDbStub* const style = read.findStyle(L"Zaun");
+        KdDbStub* const found = read.objects().findHandle(handle);
+        KdDbStub* const style = read.wellKnown().findStyle(L"Zaun");
         ASSERT_TRUE(found != nullptr && style != nullptr);
-        ASSERT_EQ(read.modelSpace().entities.back(), found);
+        ASSERT_EQ(read.blocks().modelSpace().entities.back(), found);
         const auto* const copy = dynamic_cast<KdDbMline*>(read.load(*found));
         ASSERT_NE(copy, nullptr);
         ASSERT_EQ(copy->numVertices(), 2);
         ASSERT_EQ(copy->style().stub(), style);
-        ASSERT_EQ(style->owner, read.styleDictionary);
-        ASSERT_NE(read.findLinetype(L"DOTS"), nullptr);
+        ASSERT_EQ(style->owner, read.wellKnown().styleDictionary);
+        ASSERT_NE(read.wellKnown().findLinetype(L"DOTS"), nullptr);
         ASSERT_GT(seedOf(*again), highestHandle(*again));
-        core.undo();
+        core.changes().undo();
         ASSERT_TRUE(sameText(file->bytes(), cut));
     }
 }

@@ -1,11 +1,14 @@
 // What is refused, what is told of, and what an opened drawing holds.
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "KdDbBlockTable.h"
 #include "KdDbLayerTable.h"
 #include "KdDbLinetypeTable.h"
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
+#include "ObjectTable.h"
+#include "WellKnownObjects.h"
 #include "sampleDrawing.h"
 
 #include <filesystem>
@@ -119,10 +122,10 @@ TEST(Opening, keepsAContradictingMultilineOutOfReach) {
     EXPECT_EQ(file->database().core().open(stub, true), nullptr);
     DatabaseCore& core = file->database().core();
     for (const KdDbStub* const bare :
-         {&stub, &core.addStub(ObjectKind::entity, 0xFFF, kNoRecord, nullptr)}) {
-        EXPECT_TRUE(std::holds_alternative<NoShape>(core.source()->shapeOf(*bare)));
+         {&stub, &core.objects().addStub(ObjectKind::entity, 0xFFF, kNoRecord, nullptr)}) {
+        EXPECT_TRUE(std::holds_alternative<NoShape>(core.objects().source()->shapeOf(*bare)));
     }
-    const auto& entities = core.modelSpace().entities;
+    const auto& entities = core.blocks().modelSpace().entities;
     EXPECT_EQ(entities.size(), 5U);
     EXPECT_EQ(entities[1], &stub);
 }
@@ -138,14 +141,14 @@ TEST(Opening, putsEntitiesIntoTheirBlocks) {
         return result;
     };
     using Handles = std::vector<std::uint64_t>;
-    EXPECT_EQ(handles(core.modelSpace()), (Handles{0x50, 0x51, 0x52, 0x53, 0x56}));
-    EXPECT_EQ(handles(*core.findBlock(L"*PAPER_SPACE")), (Handles{0x57}));
-    const BlockEntities* const room = core.findBlock(L"room");
+    EXPECT_EQ(handles(core.blocks().modelSpace()), (Handles{0x50, 0x51, 0x52, 0x53, 0x56}));
+    EXPECT_EQ(handles(*core.blocks().find(L"*PAPER_SPACE")), (Handles{0x57}));
+    const BlockEntities* const room = core.blocks().find(L"room");
     ASSERT_NE(room, nullptr);
     EXPECT_EQ(handles(*room), (Handles{0x41}));
     EXPECT_EQ(room->basePoint, (KdGePoint3d{1.5, 2.5, 0.0}));
     EXPECT_EQ(room->record, &stubOf(*file, 0x1C));
-    EXPECT_EQ(core.blockOf(stubOf(*file, 0x41)), room);
+    EXPECT_EQ(core.blocks().blockOf(stubOf(*file, 0x41)), room);
 }
 
 TEST(Opening, readsStylesTablesAndVariables) {
@@ -169,18 +172,18 @@ TEST(Opening, readsStylesTablesAndVariables) {
     EXPECT_EQ(color.rgb(), 0xFF0000U);
     EXPECT_EQ(color.colorIndex(), 1);
     EXPECT_EQ(linetype.stub(), &stubOf(*file, 0x15));
-    EXPECT_EQ(core.findStyle(L"wall"), &stubOf(*file, 0x2F));
+    EXPECT_EQ(core.wellKnown().findStyle(L"wall"), &stubOf(*file, 0x2F));
 
     const auto* const layer =
-        dynamic_cast<KdDbLayerTableRecord*>(core.load(*core.findLayer(L"WALLS")));
+        dynamic_cast<KdDbLayerTableRecord*>(core.load(*core.wellKnown().findLayer(L"WALLS")));
     ASSERT_NE(layer, nullptr);
     EXPECT_TRUE(layer->isOff());
     EXPECT_TRUE(layer->isLocked());
     EXPECT_FALSE(layer->isFrozen());
     EXPECT_EQ(layer->color().colorIndex(), 3);
     EXPECT_EQ(layer->linetype(), L"DASHED");
-    const auto* const dashed =
-        dynamic_cast<KdDbLinetypeTableRecord*>(core.load(*core.findLinetype(L"dashed")));
+    const auto* const dashed = dynamic_cast<KdDbLinetypeTableRecord*>(
+        core.load(*core.wellKnown().findLinetype(L"dashed")));
     ASSERT_NE(dashed, nullptr);
     EXPECT_EQ(dashed->dashes(), (std::vector<double>{0.5, -0.25}));
 

@@ -1,6 +1,7 @@
 #include "sampleDrawing.h"
 
 #include "DatabaseCore.h"
+#include "ObjectTable.h"
 #include "TestPaths.h"
 
 #include <algorithm>
@@ -85,10 +86,10 @@ std::string warningsOf(const std::string& bytes) {
 }
 
 KdDbStub& stubOf(DrawingFile& file, std::uint64_t handle) {
-    KdDbStub* const stub = file.database().core().findHandle(handle);
+    KdDbStub* const stub = file.database().core().objects().findHandle(handle);
     if (stub == nullptr) {
         ADD_FAILURE() << "no object has the handle " << handle;
-        return file.database().core().stubs().front();
+        return file.database().core().objects().stubs().front();
     }
     return *stub;
 }

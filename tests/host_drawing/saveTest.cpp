@@ -1,5 +1,6 @@
 // A save is whole or not at all.
 
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "sampleDrawing.h"
 
@@ -73,18 +74,18 @@ TEST_F(Saving, writesOverItsOwnInputAgainAndAgain) {
     ASSERT_TRUE(opened);
     DrawingFile& drawing = **opened;
     DatabaseCore& core = drawing.database().core();
-    core.beginCommand();
+    core.changes().beginCommand();
     core.setVariable("CMLSCALE", 3.0);
-    core.endCommand();
+    core.changes().endCommand();
     EXPECT_FALSE(drawing.save(path.string()));
     EXPECT_TRUE(sameText(read(path), replaced(sampleDrawing(), "20.00", "3.0")));
-    core.beginCommand();
+    core.changes().beginCommand();
     core.setVariable("CMLJUST", 2);
-    core.endCommand();
+    core.changes().endCommand();
     EXPECT_FALSE(drawing.save(path.string()));
     EXPECT_THAT(read(path), ::testing::HasSubstr("$CMLJUST"));
-    core.undo();
-    core.undo();
+    core.changes().undo();
+    core.changes().undo();
     EXPECT_FALSE(drawing.save(path.string()));
     EXPECT_TRUE(sameText(read(path), sampleDrawing()));
 }

@@ -2,6 +2,7 @@
 
 #include "DatabaseCore.h"
 #include "PromptFixture.h"
+#include "WellKnownObjects.h"
 #include "kddbObjects.h"
 #include "promptStatus.h"
 
@@ -19,7 +20,7 @@ TEST_F(DictionarySearch, leadsFromTheRootToAStyleAndNowhereElse) {
     ASSERT_NE(style, nullptr);
     KdDbObjectId id;
     kddbGetObjectId(id, style->resval.rlname);
-    EXPECT_EQ(id.stub(), m_database.core().findStyle(L"STANDARD"));
+    EXPECT_EQ(id.stub(), m_database.core().wellKnown().findStyle(L"STANDARD"));
     kdutRelRb(style);
     kdutRelRb(styles);
 

@@ -1,9 +1,11 @@
 #include "promptLibrary.h"
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "KdDbMline.h"
 #include "KdDbStub.h"
 #include "PromptFixture.h"
+#include "WellKnownObjects.h"
 #include "commandOutput.h"
 #include "kddbObjects.h"
 #include "promptStatus.h"
@@ -33,7 +35,7 @@ protected:
     PromptLibrary() {
         orvex::DatabaseCore& core = m_database.core();
         m_stub = &core.adopt(std::make_unique<KdDbMline>(), orvex::ObjectKind::mline, nullptr);
-        core.appendEntity(core.modelSpace(), *m_stub);
+        core.blocks().appendEntity(core.blocks().modelSpace(), *m_stub);
         kddbGetEntityName(m_entity, KdDbObjectId(m_stub));
         m_finder.entity = m_stub;
         PromptSession::current().finder = &m_finder;
@@ -60,7 +62,7 @@ TEST_F(PromptLibrary, entSelWritesNameAndUserPointOfWhatWasFound) {
 }
 
 TEST_F(PromptLibrary, entSelTakesAnEntityByItsHandleWhateverLiesThere) {
-    const std::uint64_t style = m_database.core().findStyle(L"STANDARD")->handle;
+    const std::uint64_t style = m_database.core().wellKnown().findStyle(L"STANDARD")->handle;
     const auto selectByHandle = [this](std::uint64_t handle) {
         char line[64];
         std::snprintf(line, sizeof line, "1,1 #%lx", static_cast<unsigned long>(handle));

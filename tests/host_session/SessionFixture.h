@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "KdDbDatabase.h"
 #include "KdDbMline.h"
@@ -50,7 +51,7 @@ protected:
     // The multilines of model space.
     [[nodiscard]] std::vector<KdDbMline*> mlines() {
         std::vector<KdDbMline*> found;
-        for (KdDbStub* const stub : core().modelSpace().entities) {
+        for (KdDbStub* const stub : core().blocks().modelSpace().entities) {
             KdDbMline* mline = nullptr;
             kddbOpenObject(mline, KdDbObjectId(stub), kForRead);
             if (mline != nullptr) {

@@ -2,6 +2,8 @@
 
 #include "KdDbMlineStyle.h"
 #include "KdMLSegment.h"
+#include "ObjectTable.h"
+#include "WellKnownObjects.h"
 #include "textCodec.h"
 
 #include <fstream>
@@ -91,13 +93,13 @@ TEST_F(SessionFixture, mlineFindsAStyleByItsOwnNameAndStoresItsSpelling) {
         play("MLINE\nST\n" + orvex::narrow(typed) + "\n0,0\n10,0\n\n");
         EXPECT_FALSE(m_script->failure());
         EXPECT_EQ(core().variables().text("CMLSTYLE"), stored);
-        EXPECT_EQ(mlines().back()->style().stub(), core().findHandle(handle));
+        EXPECT_EQ(mlines().back()->style().stub(), core().objects().findHandle(handle));
     }
     EXPECT_EQ(stylesIn(m_session->drawing().bytes()), 2U);
     // Where the own name leads to another style the key is what counts.
-    auto& wall = static_cast<KdDbMlineStyle&>(*core().load(*core().findHandle(0x2F)));
+    auto& wall = static_cast<KdDbMlineStyle&>(*core().load(*core().objects().findHandle(0x2F)));
     wall.setName(L"Main");
-    EXPECT_EQ(core().nameOfStyle(*core().findHandle(0x2F)), L"WALL");
+    EXPECT_EQ(core().wellKnown().nameOfStyle(*core().objects().findHandle(0x2F)), L"WALL");
 }
 
 TEST_F(SessionFixture, mlineHasAStandardStyleWhereTheEntryNamesNothing) {
@@ -112,8 +114,8 @@ TEST_F(SessionFixture, mlineHasAStandardStyleWhereTheEntryNamesNothing) {
     const std::string saved = m_session->drawing().bytes();
     EXPECT_EQ(stylesIn(saved), 3U);
     open(std::move(*orvex::DrawingFile::openBytes(saved)));
-    EXPECT_NE(core().findStyle(L"STANDARD"), core().findHandle(0x2E));
-    EXPECT_EQ(core().findStyle(L"STANDARD"), mlines().back()->style().stub());
+    EXPECT_NE(core().wellKnown().findStyle(L"STANDARD"), core().objects().findHandle(0x2E));
+    EXPECT_EQ(core().wellKnown().findStyle(L"STANDARD"), mlines().back()->style().stub());
 }
 
 } // namespace

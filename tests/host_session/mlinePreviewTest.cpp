@@ -2,6 +2,7 @@
 #include "SessionFixture.h"
 
 #include "Appearance.h"
+#include "BlockList.h"
 #include "PromptSession.h"
 
 namespace {
@@ -53,7 +54,7 @@ TEST_F(SessionFixture, mlineShowsBeforeAPointWhatThePointMakes) {
     EXPECT_TRUE(source.appearances[0].strokes.empty()) << "nothing to show before there is a start";
     EXPECT_EQ(linesOf(source.appearances[1]).size(), 2U);
     ASSERT_EQ(mlines().size(), 1U);
-    KdDbStub& stub = *core().modelSpace().entities.back();
+    KdDbStub& stub = *core().blocks().modelSpace().entities.back();
     const auto lines = linesOf(m_session->scene().appearance(stub));
     EXPECT_EQ(lines.size(), 4U) << "two elements along two segments";
     EXPECT_EQ(linesOf(source.appearances[2]), lines);

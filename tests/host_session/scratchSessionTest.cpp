@@ -1,5 +1,7 @@
 #include "SessionFixture.h"
 
+#include "BlockList.h"
+#include "ChangeLog.h"
 #include "KdMLSegment.h"
 #include "ScratchSession.h"
 #include "resourceLibrary.h"
@@ -39,7 +41,7 @@ protected:
         // A bar across two walls.
         play("MLINE\nS\n10\nJ\nZ\n0,0\n100,0\n\nMLINE\n30,-50\n30,50\n\nMLINE\n70,-50\n70,50\n\n");
         m_before = m_session->drawing().bytes();
-        for (KdDbStub* const stub : core().modelSpace().entities) {
+        for (KdDbStub* const stub : core().blocks().modelSpace().entities) {
             m_stubs.push_back(stub);
         }
     }
@@ -115,11 +117,11 @@ TEST_F(Scratch, givesBackWhatItsCopiesCameToAsIfThePlayHadBeenOnTheDrawing) {
     scratch.view().setView({50, 0}, 110);
     // The second pick names no handle: it is found by where it lies.
     EXPECT_EQ(crossInside(scratch, barPick() + "35,40\n"), "");
-    core().beginCommand();
+    core().changes().beginCommand();
     for (KdDbStub* const stub : m_stubs) {
         scratch.giveBack(*stub);
     }
-    EXPECT_TRUE(core().endCommand());
+    EXPECT_TRUE(core().changes().endCommand());
     const std::string given = m_session->drawing().bytes();
     EXPECT_NE(given, m_before);
 

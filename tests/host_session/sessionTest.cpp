@@ -1,5 +1,6 @@
 #include "SessionFixture.h"
 
+#include "BlockList.h"
 #include "KdEdCommandStack.h"
 #include "KdRxDictionary.h"
 #include "PromptSession.h"
@@ -22,7 +23,7 @@ orvex::Session* theSession = nullptr;
 std::optional<orvex::Failure> insideFailure;
 
 void leaveThingsOpen() {
-    KdDbStub& stub = *theSession->database().core().modelSpace().entities.front();
+    KdDbStub& stub = *theSession->database().core().blocks().modelSpace().entities.front();
     KdDbMline* mline = nullptr;
     kddbOpenObject(mline, KdDbObjectId(&stub), kForRead);
     kddbOpenObject(mline, KdDbObjectId(&stub), kForWrite);
@@ -73,7 +74,7 @@ protected:
 };
 
 TEST_F(Dispatcher, putsBackWhatACommandLeaves) {
-    KdDbStub& stub = *core().modelSpace().entities.front();
+    KdDbStub& stub = *core().blocks().modelSpace().entities.front();
     for (const wchar_t* name : {L"LEAVE", L"leavethrow"}) {
         SCOPED_TRACE(testing::PrintToString(name));
         AfxSetResourceHandle(nullptr);

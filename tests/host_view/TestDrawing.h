@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BlockList.h"
 #include "DatabaseCore.h"
 #include "EntityTraits.h"
 #include "KdDbDatabase.h"
@@ -10,6 +11,8 @@
 #include "MlineContent.h"
 #include "MlineStyleContent.h"
 #include "ObjectSource.h"
+#include "ObjectTable.h"
+#include "WellKnownObjects.h"
 
 #include <map>
 #include <memory>
@@ -55,7 +58,7 @@ inline InsertShape insertAt(const KdGePoint3d& position, std::wstring block) {
 class TestDrawing {
 public:
     TestDrawing() : core(database.core()), m_shelf(std::make_shared<ShapeShelf>()) {
-        core.setSource(m_shelf);
+        core.objects().setSource(m_shelf);
     }
 
     KdDbStub& addMline(MlineContent content, const wchar_t* layer = L"0") {
@@ -64,17 +67,17 @@ public:
         mline->setContent(std::make_shared<MlineContent>(std::move(content)));
         mline->setLayer(layer);
         KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, nullptr);
-        core.appendEntity(core.modelSpace(), stub);
+        core.blocks().appendEntity(core.blocks().modelSpace(), stub);
         return stub;
     }
 
     KdDbStub& addShape(EntityShape shape, EntityTraits traits = {},
                        BlockEntities* block = nullptr) {
-        const std::uint64_t handle = core.takeHandle();
+        const std::uint64_t handle = core.objects().takeHandle();
         const auto record = static_cast<std::uint32_t>(handle);
-        KdDbStub& stub = core.addStub(ObjectKind::entity, handle, record, nullptr);
+        KdDbStub& stub = core.objects().addStub(ObjectKind::entity, handle, record, nullptr);
         m_shelf->put(stub, std::move(shape), std::move(traits));
-        core.appendEntity(block != nullptr ? *block : core.modelSpace(), stub);
+        core.blocks().appendEntity(block != nullptr ? *block : core.blocks().modelSpace(), stub);
         return stub;
     }
     KdDbStub& addLine(double x1, double y1, double x2, double y2, EntityTraits traits = {}) {
@@ -88,7 +91,7 @@ public:
         color.setColorIndex(colorIndex);
         record->setColor(color);
         KdDbObjectId id;
-        auto* table = static_cast<KdDbLayerTable*>(core.load(*core.layerTable));
+        auto* table = static_cast<KdDbLayerTable*>(core.load(*core.wellKnown().layerTable));
         table->add(id, record.get());
         return *record.release();
     }

@@ -2,6 +2,8 @@
 
 #include "AppearanceCache.h"
 #include "AppearanceMaker.h"
+#include "BlockList.h"
+#include "ChangeLog.h"
 #include "CompactAppearance.h"
 #include "MlineSample.h"
 #include "TestDrawing.h"
@@ -25,7 +27,7 @@ TEST(SceneChange, followsLayersStylesAndBlocks) {
     MlineContent content = sampleEastward(0, 0, 10, {{1, 0}, {-1, 0}});
     content.style = KdDbObjectId(&style);
     KdDbStub& wall = drawing.addMline(content, L"WALL");
-    BlockEntities& block = drawing.core.addBlock(L"B");
+    BlockEntities& block = drawing.core.blocks().add(L"B");
     KdDbStub& inBlock = drawing.addShape(LineShape{{0, 100, 0}, {10, 100, 0}}, {}, &block);
     KdDbStub& insert = drawing.addShape(insertAt({}, L"B"));
     Scene scene(drawing.database);
@@ -93,13 +95,13 @@ public:
             [&] { drawing.core.erase(any()); },
             [&] { scene.hide(any()); },
             [&] { scene.show(any()); },
-            [&] { drawing.core.undo(); },
+            [&] { drawing.core.changes().undo(); },
             [&] { reshape(any()); },
             [&] {
-                drawing.core.beginCommand();
+                drawing.core.changes().beginCommand();
                 reshape(any());
                 add();
-                drawing.core.endCommand();
+                drawing.core.changes().endCommand();
             },
         };
         changes[std::uniform_int_distribution<int>(0, 6)(m_random)]();

@@ -1,5 +1,6 @@
 #include "Scene.h"
 
+#include "BlockList.h"
 #include "MlineSample.h"
 #include "TestDrawing.h"
 
@@ -31,7 +32,7 @@ TEST(ScenePick, passesOverWhatIsNotSeen) {
     invisible.visible = false;
     drawing.addLine(0, 0, 10, 0, invisible);
     drawing.core.erase(drawing.addLine(0, 0, 10, 0));
-    BlockEntities& paper = drawing.core.addBlock(L"*Paper_Space7");
+    BlockEntities& paper = drawing.core.blocks().add(L"*Paper_Space7");
     drawing.addShape(LineShape{{0, 0, 0}, {10, 0, 0}}, {}, &paper);
     Scene scene(drawing.database);
     EXPECT_EQ(scene.pick({5, 0}, 1), nullptr);
@@ -71,7 +72,7 @@ TEST(SceneAppearance, anInsertPlacesItsBlockAndGivesItLayerAndColor) {
     TestDrawing drawing;
     drawing.addLayer(L"RED", 1);
     drawing.addLayer(L"GREEN", 3);
-    BlockEntities& block = drawing.core.addBlock(L"CHAIR");
+    BlockEntities& block = drawing.core.blocks().add(L"CHAIR");
     block.basePoint = {1, 1, 0};
     const LineShape line{{1, 1, 0}, {3, 1, 0}};
     drawing.addShape(line, onLayer(L"0"), &block);
@@ -104,12 +105,12 @@ TEST(SceneAppearance, anInsertPlacesItsBlockAndGivesItLayerAndColor) {
 TEST(SceneAppearance, blocksInBlocksEndSomewhere) {
     TestDrawing drawing;
     // A block that holds itself beside a line, and a tower of blocks that doubles at each floor.
-    BlockEntities& cycle = drawing.core.addBlock(L"CYCLE");
+    BlockEntities& cycle = drawing.core.blocks().add(L"CYCLE");
     drawing.addShape(LineShape{{0, 0, 0}, {1, 0, 0}}, {}, &cycle);
     drawing.addShape(insertAt({5, 0, 0}, L"CYCLE"), {}, &cycle);
     KdDbStub& round = drawing.addShape(insertAt({}, L"CYCLE"));
     for (int floor = 0; floor < 30; ++floor) {
-        BlockEntities& tower = drawing.core.addBlock(L"TOWER" + std::to_wstring(floor));
+        BlockEntities& tower = drawing.core.blocks().add(L"TOWER" + std::to_wstring(floor));
         const std::wstring below = L"TOWER" + std::to_wstring(floor - 1);
         for (const double shift : {0.0, 1.0}) {
             if (floor == 0) {
@@ -133,7 +134,7 @@ TEST(SceneAppearance, blocksInBlocksEndSomewhere) {
 TEST(SceneAppearance, aBlockInsertedOnceIsDrawnWhole) {
     constexpr int kLines = 100'000;
     TestDrawing drawing;
-    BlockEntities& large = drawing.core.addBlock(L"LARGE");
+    BlockEntities& large = drawing.core.blocks().add(L"LARGE");
     for (int i = 0; i < kLines; ++i) {
         drawing.addShape(LineShape{{0, 1.0 * i, 0}, {1, 1.0 * i, 0}}, {}, &large);
     }

@@ -1,5 +1,6 @@
 // The line type files beside the programs, found and read by a session as an installation does.
 
+#include "ChangeLog.h"
 #include "DatabaseCore.h"
 #include "DrawingFile.h"
 #include "KdDbDatabase.h"
@@ -74,12 +75,12 @@ TEST_F(SupportLinetypes, comeInThreeSizesInInchesAndMillimetres) {
                     wanted.emplace_back(testing::DoubleNear(dash * unit * factor, 1e-9));
                 }
                 // A drawing keeps the first definition of a name, so every file gets a fresh one.
-                database().core().beginCommand();
+                database().core().changes().beginCommand();
                 EXPECT_THAT(dashes(file, std::wstring(type.name) + ending),
                             testing::ElementsAreArray(wanted))
                     << orvex::narrow(file) << ' ' << orvex::narrow(type.name);
-                database().core().endCommand();
-                database().core().undo();
+                database().core().changes().endCommand();
+                database().core().changes().undo();
             }
         }
     }

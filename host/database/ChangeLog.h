@@ -1,0 +1,76 @@
+#pragma once
+
+#include "KdDbStub.h"
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace orvex {
+
+class ChangeFeed;
+class DatabaseCore;
+class UndoLog;
+
+// What changed in a database: who is told of it, what saving looks at, and what undo takes back.
+class ChangeLog {
+public:
+    explicit ChangeLog(DatabaseCore& core);
+    ~ChangeLog();
+    ChangeLog(const ChangeLog&) = delete;
+    ChangeLog& operator=(const ChangeLog&) = delete;
+
+    // Objects that may differ from the file, new ones included, in the order of their first
+    // change.
+    [[nodiscard]] const std::vector<KdDbStub*>& changedStubs() const { return m_changed; }
+
+    void beginCommand();
+    // Closes what is open and makes one undo step of all that changed; false when nothing did.
+    bool endCommand();
+    // Takes the last step back; false when there is none, and during a command.
+    bool undo();
+    [[nodiscard]] bool inCommand() const { return m_inCommand; }
+    [[nodiscard]] std::size_t undoDepth() const; // steps that can be taken back
+
+    void attach(ChangeFeed& feed);
+    void detach(ChangeFeed& feed);
+
+    // ---- what the database reports -----------------------------------------------------------
+    // Before an object changes: keeps what it was once in a command and tells the feeds.
+    void noteChange(KdDbStub& stub);
+    // After an object was made.
+    void noteMade(KdDbStub& stub);
+    // Before a variable of the header changes.
+    void noteVariable(std::string_view name);
+    // Only tells who follows the changes; nothing is kept for undo.
+    void notify(KdDbStub& stub);
+
+    // What is made while one lives comes with every drawing: it is no change.
+    class Pause {
+    public:
+        explicit Pause(ChangeLog& log) : m_log(log), m_before(log.m_isPaused) {
+            m_log.m_isPaused = true;
+        }
+        ~Pause() { m_log.m_isPaused = m_before; }
+        Pause(const Pause&) = delete;
+        Pause& operator=(const Pause&) = delete;
+
+    private:
+        ChangeLog& m_log;
+        bool m_before;
+    };
+    [[nodiscard]] bool isPaused() const { return m_isPaused; }
+
+private:
+    void tellFeeds(KdDbStub& stub);
+
+    DatabaseCore& m_core;
+    std::vector<KdDbStub*> m_changed;
+    std::vector<ChangeFeed*> m_feeds;
+    std::unique_ptr<UndoLog> m_undo;
+    bool m_inCommand = false;
+    bool m_isPaused = false;
+};
+
+} // namespace orvex
