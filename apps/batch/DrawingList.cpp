@@ -10,9 +10,10 @@
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
 #include "ObjectTable.h"
+#include "Opened.h"
+#include "WellKnownObjects.h"
 #include "geometry.h"
 #include "handleText.h"
-#include "kddbObjects.h"
 #include "textCodec.h"
 
 #include <array>
@@ -23,25 +24,13 @@ namespace orvex {
 namespace {
 
 std::string styleName(const MlineContent& content) {
-    KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, content.style, kForRead);
-    if (style == nullptr) {
-        return narrow(content.styleName);
-    }
-    std::string name = narrow(style->name());
-    style->close();
-    return name;
+    const Opened<KdDbMlineStyle> style(content.style, kForRead);
+    return narrow(style ? style->name() : content.styleName);
 }
 
 std::string linetypeName(const StyleElement& element) {
-    KdDbLinetypeTableRecord* record = nullptr;
-    kddbOpenObject(record, element.linetype, kForRead);
-    if (record == nullptr) {
-        return narrow(element.linetypeName);
-    }
-    std::string name = narrow(record->name());
-    record->close();
-    return name;
+    const Opened<KdDbLinetypeTableRecord> record(element.linetype, kForRead);
+    return narrow(record ? record->name() : element.linetypeName);
 }
 
 // The shortest number of degrees that stands for these radians: what a file says, not what is left
@@ -86,9 +75,8 @@ void forEachMline(KdDbDatabase& database, const std::function<void(const ListedM
         if (stub.kind != ObjectKind::mline || stub.erased) {
             continue;
         }
-        KdDbMline* mline = nullptr;
-        kddbOpenObject(mline, KdDbObjectId(&stub), kForRead);
-        if (mline == nullptr) {
+        const Opened<KdDbMline> mline(KdDbObjectId(&stub), kForRead);
+        if (!mline) {
             continue;
         }
         const std::shared_ptr<const ObjectContent> held = mline->content();
@@ -102,26 +90,21 @@ void forEachMline(KdDbDatabase& database, const std::function<void(const ListedM
         listed.flags = content.flags();
         listed.content = &content;
         visitor(listed);
-        mline->close();
     }
 }
 
 std::vector<ListedStyle> listStyles(KdDbDatabase& database) {
     std::vector<ListedStyle> styles;
-    KdDbDictionary* dictionary = nullptr;
-    database.getMLStyleDictionary(dictionary, kForRead);
-    if (dictionary == nullptr) {
+    const KdDbObjectId id(database.core().wellKnown().styleDictionary);
+    const Opened<KdDbDictionary> dictionary(id, kForRead);
+    if (!dictionary) {
         return styles;
     }
     for (const DictionaryEntry& entry : dictionary->entries().entries) {
-        KdDbMlineStyle* style = nullptr;
-        kddbOpenObject(style, entry.id, kForRead);
-        if (style != nullptr) {
+        if (const Opened<KdDbMlineStyle> style(entry.id, kForRead); style) {
             styles.push_back(listStyle(*entry.id.stub(), style->values()));
-            style->close();
         }
     }
-    dictionary->close();
     return styles;
 }
 

@@ -3,6 +3,7 @@
 #include "KdDbDatabase.h"
 #include "KdDbLinetypeTable.h"
 #include "KdDocument.h"
+#include "Opened.h"
 #include "kddbObjects.h"
 
 namespace orvex {
@@ -31,20 +32,15 @@ std::vector<LinetypeChoice> SessionChoices::linetypes() const {
     if (document == nullptr || document->database() == nullptr) {
         return choices;
     }
-    KdDbLinetypeTable* table = nullptr;
-    kddbOpenObject(table, document->database()->linetypeTableId(), kForRead);
-    if (table == nullptr) {
+    const Opened<KdDbLinetypeTable> table(document->database()->linetypeTableId(), kForRead);
+    if (!table) {
         return choices;
     }
     for (const KdDbObjectId id : table->records()) {
-        KdDbLinetypeTableRecord* record = nullptr;
-        kddbOpenObject(record, id, kForRead);
-        if (record != nullptr) {
+        if (const Opened<KdDbLinetypeTableRecord> record(id, kForRead); record) {
             choices.push_back({record->name(), record->dashes()});
-            record->close();
         }
     }
-    table->close();
     return choices;
 }
 

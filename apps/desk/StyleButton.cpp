@@ -2,7 +2,7 @@
 
 #include "KdDbDatabase.h"
 #include "KdDbMlineStyle.h"
-#include "kddbObjects.h"
+#include "Opened.h"
 #include "qtWide.h"
 #include "styleSwatch.h"
 
@@ -27,16 +27,14 @@ StyleButton::StyleButton(QWidget* parent) : QToolButton(parent) {
 }
 
 void StyleButton::showStyle(KdDbDatabase& database) {
-    KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, database.cmlstyle(), kForRead);
-    if (style == nullptr) {
+    const Opened<KdDbMlineStyle> style(database.cmlstyle(), kForRead);
+    if (!style) {
         setIcon(QIcon());
         setText(tr("(no style)"));
         return;
     }
     setIcon(styleSwatch(*style, kSwatch, devicePixelRatioF()));
     const QString name = toQt(std::wstring(style->name()));
-    style->close();
     QString shown = name.size() > kLongestName ? name.left(kLongestName - 1) + QChar(0x2026) : name;
     setText(shown.replace('&', QLatin1String("&&")));
     setToolTip(Qt::convertFromPlainText(tr("Current style: %1").arg(name)));

@@ -1,7 +1,7 @@
-#include "DatabaseCore.h"
 #include "KdDbDatabase.h"
 #include "KdDbLinetypeTable.h"
 #include "LinetypeFile.h"
+#include "Opened.h"
 #include "kddbObjects.h"
 #include "supportFiles.h"
 #include "textCodec.h"
@@ -47,10 +47,9 @@ Status kddbLoadLinetypeFromFile(const wchar_t* file, const wchar_t* name, KdDbOb
     if (file == nullptr || name == nullptr || database == nullptr) {
         return Status::invalidInput;
     }
-    KdDbLinetypeTable* table = nullptr;
-    if (const Status opened = kddbOpenObject(table, database->linetypeTableId(), kForRead);
-        opened != Status::done) {
-        return opened;
+    const orvex::Opened<KdDbLinetypeTable> table(database->linetypeTableId(), kForRead);
+    if (!table) {
+        return table.status();
     }
     Status status = table->getAt(name, id);
     if (status != Status::done) {
@@ -65,6 +64,5 @@ Status kddbLoadLinetypeFromFile(const wchar_t* file, const wchar_t* name, KdDbOb
             }
         }
     }
-    table->close();
     return status;
 }

@@ -4,6 +4,7 @@
 #include "KdDbDatabase.h"
 #include "KdDbDictionary.h"
 #include "KdDocument.h"
+#include "Opened.h"
 #include "WellKnownObjects.h"
 #include "kddbObjects.h"
 #include "promptStatus.h"
@@ -27,14 +28,10 @@ resbuf* kddbDictSearch(const long* dictionary, const wchar_t* key, int /*next*/)
     }
     KdDbObjectId id;
     kddbGetObjectId(id, dictionary);
-    KdDbDictionary* opened = nullptr;
-    kddbOpenObject(opened, id, kForRead);
-    if (opened == nullptr) {
-        return nullptr;
-    }
     KdDbObjectId entry;
-    opened->getAt(key, entry);
-    opened->close();
+    if (const orvex::Opened<KdDbDictionary> opened(id, kForRead); opened) {
+        opened->getAt(key, entry);
+    }
     if (entry.isNull()) {
         return nullptr;
     }

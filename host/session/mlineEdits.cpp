@@ -4,7 +4,7 @@
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
-#include "kddbObjects.h"
+#include "Opened.h"
 
 namespace orvex {
 
@@ -16,28 +16,17 @@ std::shared_ptr<const MlineContent> contentOf(KdDbStub& mline) {
 }
 
 std::optional<StyleLayout> styleLayoutOf(const MlineContent& mline) {
-    KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, mline.style, kForRead);
-    if (style == nullptr) {
-        return std::nullopt;
-    }
-    const StyleLayout layout = layoutOf(style->values());
-    style->close();
-    return layout;
+    const Opened<KdDbMlineStyle> style(mline.style, kForRead);
+    return style ? std::optional(layoutOf(style->values())) : std::nullopt;
 }
 
 bool storeContent(KdDbStub& mline, MlineContent content) {
-    KdDbMline* object = nullptr;
-    kddbOpenObject(object, KdDbObjectId(&mline), kForWrite);
-    if (object == nullptr) {
+    const Opened<KdDbMline> object(KdDbObjectId(&mline), kForWrite);
+    if (!object || object->content()->equals(content)) {
         return false;
     }
-    const bool changes = !object->content()->equals(content);
-    if (changes) {
-        object->setContent(std::make_shared<MlineContent>(std::move(content)));
-    }
-    object->close();
-    return changes;
+    object->setContent(std::make_shared<MlineContent>(std::move(content)));
+    return true;
 }
 
 } // namespace orvex

@@ -7,7 +7,7 @@
 #include "KdDbMlineStyle.h"
 #include "KdDbSystemInternals.h"
 #include "KdMLSegment.h"
-#include "kddbObjects.h"
+#include "Opened.h"
 
 namespace orvex {
 
@@ -17,11 +17,8 @@ constexpr std::size_t kFewestForClosing = 3;
 
 MlineSettings currentSettings(KdDbDatabase& database) {
     MlineSettings settings;
-    KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, database.cmlstyle(), kForRead);
-    if (style != nullptr) {
+    if (const Opened<KdDbMlineStyle> style(database.cmlstyle(), kForRead); style) {
         settings = settingsOf(*style);
-        style->close();
     }
     const HeaderVariables& variables = database.core().variables();
     settings.scale = variables.real("CMLSCALE");

@@ -3,6 +3,7 @@
 #include "KdDbDatabase.h"
 #include "KdDbMlineStyle.h"
 #include "ObjectTable.h"
+#include "Opened.h"
 #include "databaseRegistry.h"
 #include "kddbObjects.h"
 
@@ -69,6 +70,22 @@ TEST_F(Opening, aFailedOpenGivesNull) {
     EXPECT_TRUE(mline->isErased());
     EXPECT_EQ(kddbOpenObject(mline, m_mline, kForRead), Status::wasErased);
     EXPECT_EQ(mline, nullptr);
+}
+
+TEST_F(Opening, aGuardClosesWhatItOpenedAndNothingElse) {
+    {
+        const orvex::Opened<KdDbMline> outer(m_mline, kForRead);
+        {
+            const orvex::Opened<KdDbMline> inner(m_mline, kForRead);
+            EXPECT_EQ(&*inner, &*outer);
+            EXPECT_EQ(m_mline.stub()->openForRead, 2);
+        }
+        EXPECT_EQ(m_mline.stub()->openForRead, 1);
+        const orvex::Opened<KdDbMlineStyle> wrong(m_mline, kForRead);
+        EXPECT_FALSE(wrong);
+        EXPECT_EQ(wrong.status(), Status::wrongClass);
+    }
+    EXPECT_EQ(m_mline.stub()->openForRead, 0);
 }
 
 TEST_F(Opening, namesLeadBackToTheirObjectsAndNowhereElse) {
