@@ -1,4 +1,4 @@
-// Cut and weld by picks; the lists themselves are tried one by one elsewhere.
+// Cut and weld by picks.
 
 #include "ToolWorld.h"
 

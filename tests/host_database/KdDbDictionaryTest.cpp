@@ -103,17 +103,4 @@ TEST_F(Dictionary, anIteratorPassesOverWhatIsRemovedMeanwhile) {
     EXPECT_TRUE(iterator->objectId().isNull());
 }
 
-TEST_F(Dictionary, foreignObjectsAreRefused) {
-    KdDbDatabase other;
-    KdDbDictionary* others = nullptr;
-    other.getMLStyleDictionary(others, kForWrite);
-    KdDbObjectId standard;
-    others->getAt(L"STANDARD", standard);
-    KdDbObjectId id = standard;
-    EXPECT_NE(m_styles->setAt(L"X", standard.stub()->object.get(), id), Status::done);
-    EXPECT_TRUE(id.isNull());
-    EXPECT_NE(m_styles->setAt(L"X", nullptr, id), Status::done);
-    EXPECT_FALSE(m_styles->has(L"X"));
-}
-
 } // namespace

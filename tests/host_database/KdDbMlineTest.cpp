@@ -1,7 +1,6 @@
 #include "DatabaseCore.h"
 #include "FlatSource.h"
 #include "KdDbDatabase.h"
-#include "KdDbMlineStyle.h"
 #include "kddbObjects.h"
 
 #include <gtest/gtest.h>
@@ -123,20 +122,6 @@ TEST(KdDbMline, aCopyIsAValueOfItsOwn) {
     ASSERT_EQ(original->copyFrom(&copy), Status::done);
     EXPECT_TRUE(original->content()->equals(*image));
     EXPECT_EQ(original->copyFrom(original.get()), Status::done);
-}
-
-TEST(KdDbMline, nothingIsCopiedFromAnotherClass) {
-    const auto mline = chainOfThree();
-    const auto before = mline->content();
-    const KdDbEntity plain;
-    const KdDbMlineStyle style;
-    const KdDbObject* const others[] = {nullptr, &plain, &style};
-    for (const KdDbObject* const other : others) {
-        EXPECT_NE(mline->copyFrom(other), Status::done);
-    }
-    EXPECT_NE(mline->setContent(style.content()), Status::done);
-    EXPECT_NE(mline->setContent(nullptr), Status::done);
-    EXPECT_EQ(mline->content(), before);
 }
 
 TEST(KdDbMline, aContentWithTooFewListsIsFilledUp) {

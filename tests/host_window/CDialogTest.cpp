@@ -95,19 +95,6 @@ TEST(CDialog, theViewDiesWithTheLogicExactlyOnce) {
     EXPECT_EQ(child.GetParent(), nullptr);
 }
 
-TEST(CDialog, anObjectAndAViewHaveOnePartner) {
-    QDialog view;
-    CDialog first(1);
-    CDialog second(2);
-    first.SetHandle(&view);
-    second.SetHandle(&view);
-    EXPECT_EQ(CWnd::FromHandle(&view), &second);
-    EXPECT_EQ(first.GetSafeHwnd(), nullptr);
-    second.SetHandle(nullptr);
-    EXPECT_EQ(CWnd::FromHandle(&view), nullptr);
-    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
-}
-
 TEST(CDialog, reportsClicksAsLongAsItRuns) {
     Logic logic;
     auto& box = logic.add<QCheckBox>(1038);
