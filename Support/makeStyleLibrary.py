@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Make ORVEX.mln, the style library that comes with the programs, from the table below.
 
-A library that the programs save can tell but one of a style's flags, and its colours come back
+A library that the programs save can hold but one of a style's flags, and its colours come back
 changed where they are no index. So that each of these styles loads whole, its flags are a sum, its
 colours are indices without a packed value, and every element names its line type.
 

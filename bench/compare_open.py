@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""How long orvex-batch takes to open a drawing, beside dxflib's parser that keeps nothing of it.
+"""How long orvex-batch takes to open a drawing, compared with dxflib's parser that keeps nothing of it.
 
-Whole processes on the same file, in turns, medians. Opening is told without
+Whole processes on the same file, in turns, medians. Opening is given without
 and with one pick: the first pick builds the index of what is drawn.
 """
 

@@ -48,8 +48,8 @@ def main():
                          for name, seconds in zip(PHASES, phases))
         print(f"{count:8} multilines: {told}")
     small, large = medians[options.small], medians[options.large]
-    print(f"further cut, large beside small: {large[1] / small[1]:.2f}")
-    print(f"save beside write and flush, large: {large[2] / large[3]:.2f}")
+    print(f"further cut, large compared with small: {large[1] / small[1]:.2f}")
+    print(f"save compared with write and flush, large: {large[2] / large[3]:.2f}")
 
 
 if __name__ == "__main__":

@@ -5,7 +5,7 @@
     make_drawing.py --multilines N --script CYCLES --output FILE
 
 M plain entities stand beside each multiline: 100,000 multilines with 1 each
-make 100 MB, with 9 each a million entities. grid.py tells where they lie.
+make 100 MB, with 9 each a million entities. grid.py has where they lie.
 """
 
 import argparse
@@ -21,7 +21,7 @@ LAYERS = ("WALLS", "DOORS", "FURNITURE", "TEXT")
 
 
 def frame(count):
-    """Text before and behind the entities, the handle of model space, and the next free handle."""
+    """Text before and after the entities, the handle of model space, and the next free handle."""
     # Here, since a script of cuts needs neither.
     from stable_dxf import drawing_text
     import ezdxf
@@ -59,7 +59,7 @@ def unit(x, y):
 
 
 def vertex_tails(index):
-    """For each vertex of a multiline's chain its place in the cell and the text behind its position."""
+    """For each vertex of a multiline's chain its place in the cell and the text after its position."""
     points = grid.chain(index)
     axes = [unit(b[0] - a[0], b[1] - a[1]) for a, b in zip(points, points[1:])]
     axes.append(axes[-1])

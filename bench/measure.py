@@ -2,7 +2,7 @@
 
 Commands take turns within a round, so that a machine that grows slower or
 faster does so for all of them; what counts is the median of the rounds. Peak
-memory is never told below what this script itself takes, some ten megabytes.
+memory is never reported below what this script itself takes, some ten megabytes.
 """
 
 import os

@@ -24,7 +24,7 @@ add_compile_options(-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
 add_compile_options(
     -Wall -Wextra -Wpedantic -Werror
     -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wundef -Wconversion
-    # The interface counts in int and the standard library in size_t; at each crossing a cast would hide more than it tells.
+    # The interface counts in int and the standard library in size_t; at each crossing a cast would hide more than it shows.
     -Wno-sign-conversion)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # GCC 12 takes the concatenation of strings for overlapping copies.

@@ -104,7 +104,7 @@ function(orvex_library target)
     cmake_path(GET arg_FILE EXTENSION extension)
     set_target_properties(${target} PROPERTIES
         PREFIX "" OUTPUT_NAME ${stem} SUFFIX ${extension}
-        # The sources are all in the rooms, so the linker has to be told.
+        # The sources are all in the rooms, so the language has to be named.
         LINKER_LANGUAGE CXX
         INSTALL_RPATH "$ORIGIN")
     install(TARGETS ${target} LIBRARY DESTINATION ${ORVEX_INSTALL_LIB})

@@ -5,7 +5,7 @@
 #       <name>.<suite>.<test>, with the label <name>. USES as for orvex_link_rooms: rooms, or orvex::host for a test that
 #       loads the module. GMock's main unless the sources have one (OWN_MAIN); GUI and WIDGETS give a main that holds a
 #       QGuiApplication or a QApplication for the tests.
-#       "TestPaths.h" tells where the source tree and bin/ are. Each process has a temporary folder and settings of its
+#       "TestPaths.h" says where the source tree and bin/ are. Each process has a temporary folder and settings of its
 #       own, removed at its end, and the offscreen platform unless QT_QPA_PLATFORM says otherwise.
 #
 #   orvex_script_test(<name> SCRIPT <file> [ARGS <argument>...] [TIMEOUT <seconds>])

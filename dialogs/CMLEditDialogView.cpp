@@ -54,62 +54,62 @@ void CMLEditDialog::registerButtons(::CMLEditDialog& logic) {
     logic.SetDlgItem(kPaletteClose, m_layout->closeBtn);
 }
 
-void CMLEditDialog::tell(void (::CMLEditDialog::*handler)()) {
+void CMLEditDialog::notify(void (::CMLEditDialog::*handler)()) {
     if (auto* const logic = logicOf<::CMLEditDialog>(this)) {
         (logic->*handler)();
     }
 }
 
 void CMLEditDialog::OnClosedCross() {
-    tell(&::CMLEditDialog::OnClosedCross);
+    notify(&::CMLEditDialog::OnClosedCross);
 }
 
 void CMLEditDialog::OnOpenCross() {
-    tell(&::CMLEditDialog::OnOpenCross);
+    notify(&::CMLEditDialog::OnOpenCross);
 }
 
 void CMLEditDialog::OnMergedCross() {
-    tell(&::CMLEditDialog::OnMergedCross);
+    notify(&::CMLEditDialog::OnMergedCross);
 }
 
 void CMLEditDialog::OnClosedTee() {
-    tell(&::CMLEditDialog::OnClosedTee);
+    notify(&::CMLEditDialog::OnClosedTee);
 }
 
 void CMLEditDialog::OnOpenTee() {
-    tell(&::CMLEditDialog::OnOpenTee);
+    notify(&::CMLEditDialog::OnOpenTee);
 }
 
 void CMLEditDialog::OnMergedTee() {
-    tell(&::CMLEditDialog::OnMergedTee);
+    notify(&::CMLEditDialog::OnMergedTee);
 }
 
 void CMLEditDialog::OnCornerJoint() {
-    tell(&::CMLEditDialog::OnCornerJoint);
+    notify(&::CMLEditDialog::OnCornerJoint);
 }
 
 void CMLEditDialog::OnAddVertex() {
-    tell(&::CMLEditDialog::OnAddVertex);
+    notify(&::CMLEditDialog::OnAddVertex);
 }
 
 void CMLEditDialog::OnDeleteVertex() {
-    tell(&::CMLEditDialog::OnDeleteVertex);
+    notify(&::CMLEditDialog::OnDeleteVertex);
 }
 
 void CMLEditDialog::OnCutSingle() {
-    tell(&::CMLEditDialog::OnCutSingle);
+    notify(&::CMLEditDialog::OnCutSingle);
 }
 
 void CMLEditDialog::OnCutAll() {
-    tell(&::CMLEditDialog::OnCutAll);
+    notify(&::CMLEditDialog::OnCutAll);
 }
 
 void CMLEditDialog::OnWeldAll() {
-    tell(&::CMLEditDialog::OnWeldAll);
+    notify(&::CMLEditDialog::OnWeldAll);
 }
 
 void CMLEditDialog::OnClose() {
-    tell(&::CMLEditDialog::OnClose);
+    notify(&::CMLEditDialog::OnClose);
 }
 
 } // namespace VOUI

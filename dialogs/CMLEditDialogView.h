@@ -38,7 +38,7 @@ private slots:
 private:
     void connectButtons();
     void registerButtons(::CMLEditDialog& logic);
-    void tell(void (::CMLEditDialog::*handler)());
+    void notify(void (::CMLEditDialog::*handler)());
 
     std::unique_ptr<Ui_MleditDialog> m_layout;
 };

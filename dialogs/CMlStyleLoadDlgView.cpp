@@ -34,14 +34,14 @@ CMlStyleLoadDlg::CMlStyleLoadDlg(QWidget* parent, CWnd* logic)
 
 CMlStyleLoadDlg::~CMlStyleLoadDlg() = default;
 
-void CMlStyleLoadDlg::tell(void (::CMlStyleLoadDlg::*handler)()) {
+void CMlStyleLoadDlg::notify(void (::CMlStyleLoadDlg::*handler)()) {
     if (auto* const logic = logicOf<::CMlStyleLoadDlg>(this)) {
         (logic->*handler)();
     }
 }
 
 void CMlStyleLoadDlg::OnOK() {
-    tell(&::CMlStyleLoadDlg::OnOK);
+    notify(&::CMlStyleLoadDlg::OnOK);
 }
 
 void CMlStyleLoadDlg::OnCancel() {
@@ -49,15 +49,15 @@ void CMlStyleLoadDlg::OnCancel() {
 }
 
 void CMlStyleLoadDlg::OnLoadFileStyle() {
-    tell(&::CMlStyleLoadDlg::OnLoadFileStyle);
+    notify(&::CMlStyleLoadDlg::OnLoadFileStyle);
 }
 
 void CMlStyleLoadDlg::OnDbClick() {
-    tell(&::CMlStyleLoadDlg::OnDbClick);
+    notify(&::CMlStyleLoadDlg::OnDbClick);
 }
 
 void CMlStyleLoadDlg::OnSelectChanged() {
-    tell(&::CMlStyleLoadDlg::OnSelectChanged);
+    notify(&::CMlStyleLoadDlg::OnSelectChanged);
 }
 
 } // namespace VOUI

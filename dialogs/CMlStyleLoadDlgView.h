@@ -29,7 +29,7 @@ private slots:
     void OnSelectChanged();
 
 private:
-    void tell(void (::CMlStyleLoadDlg::*handler)());
+    void notify(void (::CMlStyleLoadDlg::*handler)());
 
     std::unique_ptr<Ui_CMlStyleLoadDlg> m_layout;
 };

@@ -57,50 +57,50 @@ void CMlineStyleDialog::registerWidgets(::CMlineStyleDialog& logic) {
     logic.SetDlgItem(kAcceptButton, m_layout->pBtnClose);
 }
 
-void CMlineStyleDialog::tell(void (::CMlineStyleDialog::*handler)()) {
+void CMlineStyleDialog::notify(void (::CMlineStyleDialog::*handler)()) {
     if (auto* const logic = logicOf<::CMlineStyleDialog>(this)) {
         (logic->*handler)();
     }
 }
 
 void CMlineStyleDialog::OnOK() {
-    tell(&::CMlineStyleDialog::OnOK);
+    notify(&::CMlineStyleDialog::OnOK);
 }
 
 void CMlineStyleDialog::OnListDbClick() {
-    tell(&::CMlineStyleDialog::OnListDbClick);
+    notify(&::CMlineStyleDialog::OnListDbClick);
 }
 
 void CMlineStyleDialog::OnListSelChange() {
-    tell(&::CMlineStyleDialog::OnListSelChange);
+    notify(&::CMlineStyleDialog::OnListSelChange);
 }
 
 void CMlineStyleDialog::OnSetCurStyle() {
-    tell(&::CMlineStyleDialog::OnSetCurStyle);
+    notify(&::CMlineStyleDialog::OnSetCurStyle);
 }
 
 void CMlineStyleDialog::OnAddStyle() {
-    tell(&::CMlineStyleDialog::OnAddStyle);
+    notify(&::CMlineStyleDialog::OnAddStyle);
 }
 
 void CMlineStyleDialog::OnModifyStyle() {
-    tell(&::CMlineStyleDialog::OnModifyStyle);
+    notify(&::CMlineStyleDialog::OnModifyStyle);
 }
 
 void CMlineStyleDialog::OnRenameStyle() {
-    tell(&::CMlineStyleDialog::OnRenameStyle);
+    notify(&::CMlineStyleDialog::OnRenameStyle);
 }
 
 void CMlineStyleDialog::OnDeleteStyle() {
-    tell(&::CMlineStyleDialog::OnDeleteStyle);
+    notify(&::CMlineStyleDialog::OnDeleteStyle);
 }
 
 void CMlineStyleDialog::OnLoadStyle() {
-    tell(&::CMlineStyleDialog::OnLoadStyle);
+    notify(&::CMlineStyleDialog::OnLoadStyle);
 }
 
 void CMlineStyleDialog::OnSaveStyle() {
-    tell(&::CMlineStyleDialog::OnSaveStyle);
+    notify(&::CMlineStyleDialog::OnSaveStyle);
 }
 
 void CMlineStyleDialog::on_pBtnClose_clicked() {

@@ -37,7 +37,7 @@ private slots:
 private:
     void connectWidgets();
     void registerWidgets(::CMlineStyleDialog& logic);
-    void tell(void (::CMlineStyleDialog::*handler)());
+    void notify(void (::CMlineStyleDialog::*handler)());
 
     std::unique_ptr<Ui_CMlineStyleDialog> m_layout;
 };

@@ -87,18 +87,18 @@ void CMlstyleNewModDlg::registerWidgets(::CMlstyleNewModDlg& logic) {
     }
 }
 
-void CMlstyleNewModDlg::tell(void (::CMlstyleNewModDlg::*handler)()) {
+void CMlstyleNewModDlg::notify(void (::CMlstyleNewModDlg::*handler)()) {
     if (auto* const logic = logicOf<::CMlstyleNewModDlg>(this)) {
         (logic->*handler)();
     }
 }
 
 void CMlstyleNewModDlg::OnOK() {
-    tell(&::CMlstyleNewModDlg::OnOK);
+    notify(&::CMlstyleNewModDlg::OnOK);
 }
 
 void CMlstyleNewModDlg::OnCancel() {
-    tell(&::CMlstyleNewModDlg::OnCancel);
+    notify(&::CMlstyleNewModDlg::OnCancel);
 }
 
 void CMlstyleNewModDlg::OnClickList() {
@@ -110,39 +110,39 @@ void CMlstyleNewModDlg::OnClickList() {
 }
 
 void CMlstyleNewModDlg::OnOpenCloseFill() {
-    tell(&::CMlstyleNewModDlg::OnOpenCloseFill);
+    notify(&::CMlstyleNewModDlg::OnOpenCloseFill);
 }
 
 void CMlstyleNewModDlg::OnAddElement() {
-    tell(&::CMlstyleNewModDlg::OnAddElement);
+    notify(&::CMlstyleNewModDlg::OnAddElement);
 }
 
 void CMlstyleNewModDlg::OnDelElement() {
-    tell(&::CMlstyleNewModDlg::OnDelElement);
+    notify(&::CMlstyleNewModDlg::OnDelElement);
 }
 
 void CMlstyleNewModDlg::OnOffsetKillfocus() {
-    tell(&::CMlstyleNewModDlg::OnOffsetKillfocus);
+    notify(&::CMlstyleNewModDlg::OnOffsetKillfocus);
 }
 
 void CMlstyleNewModDlg::OnEnterOffset() {
-    tell(&::CMlstyleNewModDlg::OnEnterOffset);
+    notify(&::CMlstyleNewModDlg::OnEnterOffset);
 }
 
 void CMlstyleNewModDlg::OnAngKillfocus() {
-    tell(&::CMlstyleNewModDlg::OnAngKillfocus);
+    notify(&::CMlstyleNewModDlg::OnAngKillfocus);
 }
 
 void CMlstyleNewModDlg::OnselchgElecol() {
-    tell(&::CMlstyleNewModDlg::OnselchgElecol);
+    notify(&::CMlstyleNewModDlg::OnselchgElecol);
 }
 
 void CMlstyleNewModDlg::OnselchgFillcol() {
-    tell(&::CMlstyleNewModDlg::OnselchgFillcol);
+    notify(&::CMlstyleNewModDlg::OnselchgFillcol);
 }
 
 void CMlstyleNewModDlg::OnLtypeSelChange() {
-    tell(&::CMlstyleNewModDlg::OnLtypeSelChange);
+    notify(&::CMlstyleNewModDlg::OnLtypeSelChange);
 }
 
 } // namespace VOUI

@@ -42,7 +42,7 @@ private slots:
 private:
     void connectWidgets();
     void registerWidgets(::CMlstyleNewModDlg& logic);
-    void tell(void (::CMlstyleNewModDlg::*handler)());
+    void notify(void (::CMlstyleNewModDlg::*handler)());
 
     std::unique_ptr<Ui_CMlstyleNewModDlg> m_layout;
 };

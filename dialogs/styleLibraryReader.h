@@ -21,7 +21,7 @@ std::optional<std::string> readLibrary(const wchar_t* path);
 std::optional<std::vector<CStdStr<wchar_t>>> listLibraryStyles(const wchar_t* path);
 
 // Gives a style, open for writing, the values of the block with that name, ignoring case; what the
-// block doesn't tell stays. True when the block was read to its end, so that the style is to be
+// block doesn't name stays. True when the block was read to its end, so that the style is to be
 // closed. Otherwise (no such file or block, or the file stops short) what was read so far stands
 // in the style, and it is to be left open.
 bool applyLibraryStyle(const wchar_t* path, const wchar_t* name, KdDbMlineStyle& style);

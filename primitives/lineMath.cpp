@@ -254,8 +254,8 @@ int secondVertical(const Line& a, const Line& b, double* out) {
     return (a.isPast(point[0], point[1]) ? 0 : 1) + (onSecond ? 2 : 0);
 }
 
-// No mirror of secondVertical: the first line always counts as met, and what fails on it is told
-// of the second.
+// No mirror of secondVertical: the first line always counts as met, and what fails on it is
+// reported of the second.
 int firstVertical(const Line& a, const Line& b, double* out) {
     const double* const point = a.start;
     if (!liesOnInPlan(point, b)) {

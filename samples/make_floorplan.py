@@ -29,7 +29,7 @@ LINETYPES = {  # patterns in drawing units, for a plan in millimetres
 
 
 class TrueColourElements(MLineStyleElements):
-    """ezdxf keeps no true colour of an element: write it behind the index."""
+    """ezdxf keeps no true colour of an element: write it after the index."""
 
     def __init__(self, elements):
         super().__init__()
@@ -176,13 +176,13 @@ before and after.
 | `runs.txt` | runs that every build has to play alike |
 
 The scripts are made by `make_scripts.py`, with those of the joints in `tool_scripts.py`. It works out every pick from
-the plan and makes sure that it can mean one wall only. Both makers take `--check`, which writes nothing and tells
+the plan and makes sure that it can mean one wall only. Both makers take `--check`, which writes nothing and says
 whether the files are up to date.
 
 ## The walls
 
 Vertices are those of the chain. "Standard 115" is the style at that scale; T, Z and B are the justification.
-Crossings are told as elements of this wall by elements of the other; a tee names its stem first.
+Crossings are given as elements of this wall by elements of the other; a tee names its stem first.
 
 | wall | handle | layer | style | elements | chain | good for |
 |---|---|---|---|---|---|---|

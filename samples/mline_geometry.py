@@ -137,7 +137,7 @@ def open_gap(vertices, first, last, elements=None):
         end_distance = distance_along(vertices, last_segment, element, end)
         tail_broken = segment != last_segment and len(vertices[last_segment].lines[element]) != 2
         if len(head) % 2 == 1 or begin_distance <= head[-1] or tail_broken:
-            raise ValueError(f"gap at {begin} on segment {segment} is not behind the ones before it")
+            raise ValueError(f"gap at {begin} on segment {segment} is not after the ones before it")
         head.append(begin_distance)
         if segment == last_segment:
             head.append(end_distance)

@@ -147,7 +147,7 @@ def weld_script(session):
     session.note("Picks in a gap or at its end name the wall by its handle: nothing is drawn there.")
     session.tool("WA")
     weld(session, "A door walled up, from end to end of the gap", "utility", (0, 400), (0, 1285))
-    weld(session, "Several gaps in single elements, from before the first to behind the last",
+    weld(session, "Several gaps in single elements, from before the first to after the last",
          "niche", (0, 300), (0, 2500))
     weld(session, "A gap over a corner", "closet", (0, 1000), (1, 400))
     session.end_tool()

@@ -12,7 +12,7 @@ class KdDbDatabase;
 
 namespace orvex {
 
-// What `list` tells, as values. Texts in UTF-8, handles as the file has them.
+// What `list` prints, as values. Texts in UTF-8, handles as the file has them.
 
 struct ListedMline {
     std::string handle;

@@ -24,10 +24,10 @@ public:
     void setScene(Scene* scene);
     // What is seen from now on.
     void setView(const PlanView& view, double devicePixelRatio);
-    // Makes tiles stale where the scene looks different; what they show stays till it is replaced.
+    // Makes tiles stale where the scene looks different; what they show stays until it is replaced.
     void takeDifference(const Scene::Difference& difference);
 
-    // Paints till the deadline; tells what of the view is different now.
+    // Paints until the deadline; tells what of the view is different now.
     QRegion paintSome(Deadline deadline);
     // The scene has to be up to date for this, as for paintSome.
     [[nodiscard]] bool isComplete() const;

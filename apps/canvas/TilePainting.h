@@ -20,7 +20,7 @@ inline constexpr std::uint32_t kGroundRgb = 0x1E2127;
 // a tile that is painted piece by piece is the same as one painted at once.
 class TilePainting {
 public:
-    // The scene has to stay as it is till the end. `before` is what the tile showed, of no size
+    // The scene has to stay as it is until the end. `before` is what the tile showed, of no size
     // when it is painted for the first time; only `pixels` of it change.
     TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, QImage before,
                  const QRect& pixels);

@@ -6,7 +6,7 @@
 
 namespace orvex {
 
-// What a user is told of entities that are drawn in part, given by handle; at least one. UTF-8.
+// The message about entities that are drawn in part, given by handle; at least one. UTF-8.
 std::string partlyDrawnText(const std::vector<std::uint64_t>& handles);
 
 } // namespace orvex

@@ -12,7 +12,7 @@ namespace orvex {
 // What the blank key does.
 enum class BlankKey {
     enters,         // as Enter
-    entersUnlessXy, // as Enter, but a blank behind a comma: a handle may follow a point
+    entersUnlessXy, // as Enter, but a blank after a comma: a handle may follow a point
     types,          // a blank
 };
 

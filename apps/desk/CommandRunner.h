@@ -10,7 +10,7 @@ namespace orvex {
 class DeskPrompts;
 class Session;
 
-// Runs what the user starts, one at a time: commands, and what has to wait till none runs. What is
+// Runs what the user starts, one at a time: commands, and what has to wait until none runs. What is
 // started while something runs cancels that first. All starts from the event loop, never from
 // within the widget that was clicked.
 class CommandRunner final : public QObject {
@@ -26,7 +26,7 @@ public:
     void start(const QString& name, const QStringList& answers = {});
     // The last command once more.
     void repeat();
-    // Something else that mustn't run beside a command. Of what is waiting the latest wins.
+    // Something else that mustn't run during a command. Of what is waiting the latest wins.
     void post(std::function<void()> task);
 
     [[nodiscard]] bool isBusy() const { return m_working; }

@@ -29,7 +29,7 @@ std::unique_ptr<QProgressDialog> makeProgress(QWidget& window, const QString& pa
     dialog->setAutoClose(false);
     dialog->setAutoReset(false);
     dialog->setMinimumDuration(0);
-    // Nothing behind it can be used, from the first moment on.
+    // Nothing after it can be used, from the first moment on.
     dialog->setWindowModality(Qt::ApplicationModal);
     dialog->show();
     return dialog;

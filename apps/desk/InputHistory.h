@@ -5,7 +5,7 @@
 
 namespace orvex {
 
-// What was typed before, to be fetched again. A walk through it starts behind the latest and keeps
+// What was typed before, to be fetched again. A walk through it starts after the latest and keeps
 // the line that was being typed as its end.
 class InputHistory {
 public:

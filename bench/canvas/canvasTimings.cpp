@@ -54,12 +54,12 @@ double timeOf(Work&& work) {
     return milliseconds(Clock::now() - start);
 }
 
-// Runs phases of a canvas and tells what they took.
+// Runs phases of a canvas and prints what they took.
 class Watch {
 public:
     explicit Watch(Canvas& canvas) : m_canvas(canvas) {}
 
-    // The inputs one after the other, a pass after each, then passes till nothing is left to do.
+    // The inputs one after the other, a pass after each, then passes until nothing is left to do.
     void phase(const char* name, const std::vector<std::function<void()>>& inputs) {
         double longest = 0.0;
         const double whole = timeOf([&] {

@@ -56,11 +56,11 @@ def main():
     panning = max(pauses[name] for name in pauses if name.startswith("pan"))
     print(f"longest step of a pan, large: {panning:.1f} ms")
     repaint, plain = large["repaint at extents"][0], large["plain calls, smooth"][0]
-    print(f"repaint at extents beside plain calls, large: {repaint / plain:.2f}")
+    print(f"repaint at extents compared with plain calls, large: {repaint / plain:.2f}")
     ratio = large["repaint of 100 multilines"][0] / small["repaint of 100 multilines"][0]
-    print(f"repaint of 100 multilines, large beside small: {ratio:.2f}")
+    print(f"repaint of 100 multilines, large compared with small: {ratio:.2f}")
     ratio = large["edit one near"][0] / small["edit one near"][0]
-    print(f"repaint after an edit, large beside small: {ratio:.2f}")
+    print(f"repaint after an edit, large compared with small: {ratio:.2f}")
 
 
 if __name__ == "__main__":

@@ -1,6 +1,6 @@
 // Whole cycles of the twelve tools on a drawing in memory: a run with its picks and then a cancel.
 // Two multilines of four elements cross in the middle of chains of 4 and 100 vertices; each cycle
-// finds them as they were at first. The crosses also run beside many other multilines: a cycle
+// finds them as they were at first. The crosses also run among many other multilines: a cycle
 // shouldn't cost more there.
 
 #include "BlockList.h"

@@ -12,7 +12,7 @@ void BoundedCrashRecorder::take(const VoException& report) noexcept {
             m_messages.pop_front();
         }
     } catch (const std::exception&) {
-        // Telling must never stop what goes on.
+        // Reporting must never stop what goes on.
     }
 }
 

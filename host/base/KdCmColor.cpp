@@ -29,7 +29,7 @@ int KdCmColor::colorMethod() const {
     return static_cast<int>(m_shown >> kMethodShift);
 }
 
-// The method changes, what is shown stays as far as the new method can tell it.
+// The method changes, what is shown stays as far as the new method can hold it.
 void KdCmColor::setColorMethod(int method) {
     switch (method) {
     case byLayer:

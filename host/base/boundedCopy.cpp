@@ -41,7 +41,8 @@ int wcsncpy_s(wchar_t* target, std::size_t capacity, const wchar_t* source, std:
         target[0] = L'\0';
         return kRefused;
     }
-    // A character more than there is room for tells a text that just fits from one that is cut.
+    // A character more than there is room for distinguishes a text that just fits from one that is
+    // cut.
     const std::size_t length = wcsnlen(source, std::min(count, capacity));
     const std::size_t kept = std::min(length, capacity - 1);
     std::wmemmove(target, source, kept);

@@ -30,7 +30,7 @@ int followers(std::uint8_t first) {
 }
 
 // Takes one code point off the front. A byte that starts none is taken alone, so that the text
-// behind it is found again.
+// after it is found again.
 char32_t takeCodePoint(std::string_view& bytes) {
     constexpr char32_t kLeast[] = {0, 0x80, 0x800, 0x10000};
     const auto first = static_cast<std::uint8_t>(bytes.front());

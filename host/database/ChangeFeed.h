@@ -10,7 +10,7 @@ namespace orvex {
 class ChangeLog;
 class DatabaseCore;
 
-// Collects which objects were changed, made, erased or brought back, each once till it is taken.
+// Collects which objects were changed, made, erased or brought back, each once until it is taken.
 // Views settle what they derive from objects when they are asked next, never per setter. A feed
 // may outlive its database and is empty from then on. A database serves up to eight at a time;
 // more are refused by std::length_error.

@@ -42,7 +42,7 @@ public:
     [[nodiscard]] std::span<const double> line(unsigned vertex, unsigned element) const;
     [[nodiscard]] std::span<const double> area(unsigned vertex, unsigned element) const;
 
-    // The nested record, made at the first call and kept at its address till the vertex is
+    // The nested record, made at the first call and kept at its address until the vertex is
     // written or dropped.
     [[nodiscard]] const VoVector<KdMLSegment>& nested(unsigned vertex) const;
     void setNested(unsigned vertex, const VoVector<KdMLSegment>& record);

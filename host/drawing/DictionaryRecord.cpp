@@ -21,7 +21,7 @@ bool isHandle(const Tag& tag) {
     return tag.code == kSoftOwner || tag.code == kHardOwner;
 }
 
-// Tag indices of a pair, and the first one behind it.
+// Tag indices of a pair, and the first one after it.
 struct PairTags {
     std::size_t key = 0;
     std::size_t handle = 0;
@@ -60,7 +60,7 @@ std::vector<Tag> tagsOf(std::string_view bytes, const RecordSpan& span) {
     return RecordEdit(bytes, span.begin, span.end).tags();
 }
 
-// Where a dictionary without pairs gets its first one: behind what is its own.
+// Where a dictionary without pairs gets its first one: after what is its own.
 std::size_t lastOwnTag(const std::vector<Tag>& tags) {
     std::size_t last = 0;
     for (std::size_t i = 0; i < tags.size() && tags[i].code < 1000; i = skipGroup(tags, i)) {

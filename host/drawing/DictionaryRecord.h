@@ -17,7 +17,7 @@ struct DictionaryPair {
     std::uint64_t handle = 0;
 };
 
-// The pairs of a record in their order. A key without a handle behind it is no pair.
+// The pairs of a record in their order. A key without a handle after it is no pair.
 [[nodiscard]] std::vector<DictionaryPair> readPairs(std::string_view bytes, const RecordSpan& span);
 
 // The record as it should be for these entries, or nothing when it says the same. Pairs that are

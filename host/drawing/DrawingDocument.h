@@ -25,7 +25,7 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 struct RecordRun {
     std::string name; // of the section, or the kind of the table
     std::uint32_t begin = 0;
-    std::uint32_t end = 0;    // the record behind the last one inside
+    std::uint32_t end = 0;    // the record after the last one inside
     bool closed = false;      // `end` is its ENDSEC, ENDTAB or ENDBLK
     int entries = 0;          // of a table
     KdDbStub* stub = nullptr; // of a table

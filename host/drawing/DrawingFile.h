@@ -47,7 +47,7 @@ public:
     [[nodiscard]] std::optional<Failure> save(const std::string& path);
     // The bytes that save would write.
     [[nodiscard]] std::string bytes();
-    // Tells contents apart: while it is the same, save would write the same bytes. Costs nothing
+    // Distinguishes contents: while it is the same, save would write the same bytes. Costs nothing
     // for objects that nobody touched.
     [[nodiscard]] std::size_t contentMark();
 

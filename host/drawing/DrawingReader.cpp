@@ -145,7 +145,7 @@ void DrawingReader::readSections() {
     }
 }
 
-// Asked at each record of long runs; tells the progress now and then.
+// Asked at each record of long runs; reports the progress now and then.
 bool DrawingReader::goesOn(std::uint32_t record) {
     constexpr std::uint32_t kStep = 4096; // records between two calls
     if (m_progress && record % kStep == 0 && !m_isGivenUp) {
@@ -173,7 +173,7 @@ void DrawingReader::warnOfForm(std::size_t start) {
         warn(cut.lineCount, "the drawing stops without EOF");
     }
     if (end < m_document.bytes.size()) {
-        warn(cut.lineCount + 1, "bytes follow behind EOF");
+        warn(cut.lineCount + 1, "bytes follow after EOF");
     }
 }
 

@@ -13,7 +13,7 @@
 namespace orvex {
 
 // Knows where in the file new records belong, and makes the tables and sections that aren't there.
-// A place that a damaged file leaves open is closed when something has to stand behind it.
+// A place that a damaged file leaves open is closed when something has to stand after it.
 class FileLayout {
 public:
     explicit FileLayout(const DrawingDocument& document);
@@ -49,7 +49,7 @@ private:
     [[nodiscard]] std::uint32_t before(std::initializer_list<std::string_view> sections) const;
 
     const DrawingDocument& m_document;
-    std::uint32_t m_end; // the EOF record, or behind the last one
+    std::uint32_t m_end; // the EOF record, or after the last one
     // What is going to be put in, by its place.
     std::string m_header;
     std::string m_tables;
@@ -59,7 +59,7 @@ private:
     std::unordered_map<const RecordRun*, std::string> m_blockEntities;
 
     const RecordRun* m_closed = nullptr; // the section that the file leaves open, once it is closed
-    bool m_appended = false;             // a section was put behind all others
+    bool m_appended = false;             // a section was put after all others
     std::vector<FileEdit> m_edits;
 };
 

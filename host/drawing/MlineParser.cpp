@@ -192,7 +192,7 @@ MlineRole MlineParser::feedVertex(const Tag& tag) {
     case 210:
     case 220:
     case 230:
-        fail("a value stands behind the vertices that belongs before them");
+        fail("a value stands after the vertices that belongs before them");
         return MlineRole::extra;
     default:
         return MlineRole::extra;

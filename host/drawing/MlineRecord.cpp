@@ -97,7 +97,7 @@ std::shared_ptr<MlineContent> contentOf(const RecordContext& context, const Mlin
     return content;
 }
 
-// Some fields keep what the file says: without vertices nothing tells the elements and the start,
+// Some fields keep what the file says: without vertices nothing says the elements and the start,
 // and neither name nor handle of a style is judged as long as it is the same style.
 void keepFileFields(Fields& before, Fields& after, const MlineContent& old,
                     const MlineContent& content) {

@@ -86,7 +86,7 @@ public:
 private:
     void addVertex(std::size_t vertex, std::size_t oldVertex);
     void addList(std::size_t vertex, std::size_t oldVertex, std::size_t index);
-    // An old tag, with another value where one is given, and what stands behind it.
+    // An old tag, with another value where one is given, and what stands after it.
     void addOld(std::size_t tag, const std::string* value);
 
     const RecordEdit& m_edit;
@@ -191,7 +191,7 @@ MlineLayout::MlineLayout(const std::vector<Tag>& tags)
         }
     }
     if (m_end == 0) {
-        // No vertices: new ones go behind the fields, before data of other applications.
+        // No vertices: new ones go after the fields, before data of other applications.
         m_begin = 1;
         for (std::size_t i = 1; i < tags.size(); ++i) {
             m_begin = m_isExtra[i] ? m_begin : i + 1;

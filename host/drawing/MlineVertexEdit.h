@@ -23,7 +23,7 @@ public:
     // The tags of the first vertex up to the last list; equal when there are none.
     [[nodiscard]] std::size_t verticesBegin() const { return m_begin; }
     [[nodiscard]] std::size_t verticesEnd() const { return m_end; }
-    // Index of the tag behind this one that says something of the multiline.
+    // Index of the tag after this one that says something of the multiline.
     [[nodiscard]] std::size_t behindExtras(std::size_t tag) const;
 
     struct List {

@@ -10,7 +10,7 @@ namespace orvex {
 
 namespace {
 
-// from_chars tells neither which end of the range was left; the text does.
+// from_chars doesn't say which end of the range was left; the text does.
 bool isTiny(std::string_view text) {
     if (const std::size_t exponent = text.find_first_of("eE"); exponent != std::string::npos) {
         return text.substr(exponent + 1).starts_with('-');

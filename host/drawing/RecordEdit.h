@@ -27,7 +27,7 @@ public:
     void insertAfter(std::size_t tag, std::string_view lines);
 
     // Brings the fields among the tags [from, to) from what they say to what they should say. A
-    // new one goes behind the nearest field before it in the list, or behind tag from - 1.
+    // new one goes after the nearest field before it in the list, or after tag from - 1.
     void apply(const Fields& before, const Fields& after, std::size_t from, std::size_t to);
 
     // Lines of a tag with another value in it.

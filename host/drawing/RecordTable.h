@@ -32,7 +32,7 @@ struct NamedStyle {
 
 // How the lines of a file end.
 struct LineEnds {
-    std::size_t lineFeeds = 0; // all of them, those behind a carriage return included
+    std::size_t lineFeeds = 0; // all of them, those after a carriage return included
     std::size_t carriageReturns = 0;
 };
 
@@ -56,7 +56,7 @@ public:
 
 private:
     friend class RecordCutter;
-    std::vector<Record> m_records; // and one behind the last for the end
+    std::vector<Record> m_records; // and one after the last for the end
 };
 
 // What is known of a file once it is cut.

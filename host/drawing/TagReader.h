@@ -11,7 +11,7 @@ struct Tag {
     int code = 0;
     std::string_view value; // without the line end
     std::size_t begin = 0;  // where the code line starts
-    std::size_t end = 0;    // behind the value's line end
+    std::size_t end = 0;    // after the value's line end
 };
 
 // Cuts bytes into tags. Lines end at LF; a CR before it belongs to the line end.

@@ -20,7 +20,7 @@ struct TagFormat {
     static TagFormat of(std::string_view bytes, std::size_t begin);
 };
 
-// Writes tags one behind the other.
+// Writes tags one after the other.
 class TagText {
 public:
     explicit TagText(const TagFormat& format) : m_format(format) {}

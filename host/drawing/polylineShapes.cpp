@@ -56,7 +56,7 @@ EntityShape meshShape(const std::vector<ShapeTags>& records, int flags) {
     return shape;
 }
 
-// Faces name their vertices from 1; a negative one has no visible edge behind it.
+// Faces name their vertices from 1; a negative one has no visible edge after it.
 EntityShape facesShape(const std::vector<ShapeTags>& records) {
     const std::vector<KdGePoint3d> all = points(records);
     OutlinesShape shape;

@@ -33,7 +33,7 @@ std::size_t characterLength(std::string_view text) {
             return 0;
         }
     }
-    // Forms that are too long, surrogates, and what lies behind the last code point.
+    // Forms that are too long, surrogates, and what lies after the last code point.
     const std::uint8_t second = byte(1);
     const bool valid = !(first == 0xE0 && second < 0xA0) && !(first == 0xED && second >= 0xA0) &&
                        !(first == 0xF0 && second < 0x90) && !(first == 0xF4 && second >= 0x90);

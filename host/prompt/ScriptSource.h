@@ -15,7 +15,7 @@ namespace orvex {
 // Answers prompts from the lines of a script, UTF-8. Blanks at both ends of a line don't count;
 // lines that begin with ";" are comments. An empty line is no input, "*CANCEL*" a cancel. The end
 // of the script answers with a cancel for ever, and so does all that follows an answer that fits
-// no prompt: `failure` then tells which line it was.
+// no prompt: `failure` then says which line it was.
 class ScriptSource final : public PromptSource {
 public:
     using Printer = std::function<void(const std::wstring&)>;

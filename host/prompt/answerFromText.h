@@ -11,7 +11,7 @@ namespace orvex {
 // must be gone already. An empty line is no input. The echo stays empty.
 std::optional<PromptAnswer> answerFromText(const PromptRequest& request, const std::wstring& text);
 
-// Tells the user what would have been an answer.
+// Says to the user what would have been an answer.
 std::wstring complaintAbout(const PromptRequest& request, const std::wstring& text);
 
 } // namespace orvex

@@ -14,7 +14,7 @@ double kdutAngle(const double* a, const double* b) {
     const double dx = b[0] - a[0];
     const double dy = b[1] - a[1];
     if (dx == 0.0 && dy == 0.0) {
-        return 0.0; // atan2 would tell apart the zeros' signs
+        return 0.0; // atan2 would distinguish the zeros' signs
     }
     const double angle = std::atan2(dy, dx);
     return angle < 0.0 ? angle + kTwoPi : angle;

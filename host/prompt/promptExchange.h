@@ -9,7 +9,7 @@ namespace orvex {
 // Puts one question to the current source with the armed keywords, which are forgotten then, and
 // writes question and answer to the command line. ERRNO starts at 0. Without a source the answer
 // is a cancel. An answer that can't be one to this kind of question comes back as a cancel, except
-// that a keyword which isn't on offer is told to the source first.
+// that a keyword which isn't on offer is reported to the source first.
 PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
                      const std::optional<KdGePoint3d>& base = std::nullopt);
 

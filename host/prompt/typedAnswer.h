@@ -23,7 +23,7 @@ struct TypedPick {
 // "#" and a hexadecimal handle; 0 for a number that no handle can be.
 std::optional<std::uint64_t> parseHandlePick(std::wstring_view text);
 
-// A point, with "#" and a hexadecimal handle behind it or without.
+// A point, with "#" and a hexadecimal handle after it or without.
 std::optional<TypedPick> parsePick(std::wstring_view text);
 
 } // namespace orvex

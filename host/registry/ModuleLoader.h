@@ -10,7 +10,7 @@
 
 namespace orvex {
 
-// Opens module files, calls their entries in the order that "moduleEntry.h" tells, and closes them
+// Opens module files, calls their entries in the order that "moduleEntry.h" gives, and closes them
 // at its own end, the last one first. Nothing is unloaded while a command runs.
 class ModuleLoader {
 public:

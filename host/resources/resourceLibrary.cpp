@@ -9,7 +9,7 @@
 
 using orvex::ResourceLibraries;
 
-// The caller's code tells which module asks, so the address has to be the one of the real call.
+// The caller's code says which module asks, so the address has to be the one of the real call.
 [[gnu::noinline]] HINSTANCE loadResourceDll(const wchar_t* name) {
     if (name == nullptr) {
         return nullptr;

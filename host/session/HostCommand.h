@@ -16,7 +16,7 @@ struct HostCommand {
 // Null when the host has none of that name; names ignore case.
 const HostCommand* findHostCommand(const std::wstring& name);
 
-// What can be typed beside the commands of modules.
+// What can be typed in addition to the commands of modules.
 std::vector<std::wstring> hostCommandNames();
 
 // E: the extents of the drawing. C: a centre point and the height of the view in drawing units.

@@ -11,7 +11,7 @@
 
 namespace orvex {
 
-// The colours of the entries, in their order; the chooser's entry behind them has none.
+// The colours of the entries, in their order; the chooser's entry after them has none.
 class ColorList {
 public:
     static constexpr int kFirstRecent = 9; // by layer, by block, 1 to 7
@@ -100,7 +100,7 @@ void CKdUiTrueColorComboBox::PreSubclassWindow() {
     for (int index = 0; index < m_colors->count(); ++index) {
         insertEntry(*combo, index, m_colors->at(index));
     }
-    // Only a box that asks before it tells can have an entry that isn't a colour.
+    // Only a box that asks before it notifies can have an entry that isn't a colour.
     if (auto* const asking = qobject_cast<VOUI::MRUComboBox*>(combo)) {
         combo->addItem("More Colors...");
         const std::weak_ptr<ColorList> alive = m_colors;

@@ -44,15 +44,15 @@ private:
     std::size_t m_at = 2;
 };
 
-// Sketches by number, in large pieces of memory. What is dropped leaves its words behind till all
-// are dropped.
+// Compact appearances by number, in large pieces of memory. What is dropped leaves its words behind
+// until all are dropped.
 class CompactAppearances {
 public:
     static constexpr std::size_t kMostWords = std::size_t{16} << 20; // 64 MB
 
     // Without words when there is none.
     [[nodiscard]] std::span<const std::uint32_t> find(std::uint32_t number) const;
-    // Valid till the next call, at least.
+    // Valid until the next call, at least.
     std::span<const std::uint32_t> keep(std::uint32_t number, const Appearance& appearance,
                                         const PlanBox& box);
     void drop(std::uint32_t number);

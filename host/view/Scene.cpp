@@ -27,7 +27,7 @@ constexpr std::uint32_t kNoIndex = std::numeric_limits<std::uint32_t>::max();
 constexpr std::size_t kManyChanges = 1000;
 constexpr std::size_t kMostAreas = 1024; // with more of them, everything may as well be different
 
-// Two lines lie equally near when rounding alone could tell them apart: of the reach, and of the
+// Two lines lie equally near when rounding alone could separate them: of the reach, and of the
 // coordinates.
 constexpr double kTieOfReach = 1e-9;
 constexpr double kTieOfCoordinate = 1e-14;

@@ -29,7 +29,7 @@ public:
     // Of all visible strokes of model space; empty where there is nothing.
     [[nodiscard]] PlanBox extents();
 
-    // The appearance of one entity as it is now. The reference stays valid till the next query.
+    // The appearance of one entity as it is now. The reference stays valid until the next query.
     [[nodiscard]] const Appearance& appearance(KdDbStub& entity);
 
     // What an entity that isn't part of the drawing would look like in its model space.
@@ -81,9 +81,9 @@ public:
     // order, without bringing the spatial index up to date. Valid as long as prepareSome is true.
     [[nodiscard]] std::vector<std::uint32_t> entitiesIn(const PlanBox& area) const;
     [[nodiscard]] const PlanBox& boxAt(std::uint32_t index) const;
-    // The reference stays valid till the next question.
+    // The reference stays valid until the next question.
     [[nodiscard]] const Appearance& appearanceAt(std::uint32_t index);
-    // For entities that cover few pixels. Valid till the next question.
+    // For entities that cover few pixels. Valid until the next question.
     [[nodiscard]] CompactAppearance compactAppearanceAt(std::uint32_t index);
 
 private:

@@ -56,7 +56,7 @@ private:
     std::unordered_map<std::wstring, Linetype> m_linetypes;
     std::unordered_set<const KdDbStub*> m_covered;
     bool m_missedOne = false; // a name was asked for that a new object might now have
-    double m_scale = 0.0;     // 0 till a line type is scaled
+    double m_scale = 0.0;     // 0 until a line type is scaled
 };
 
 } // namespace orvex

@@ -70,8 +70,8 @@ void ListClicks::selectionChanged() {
         return;
     }
     m_changed = true;
-    // Under a key or button the change is told when the view has settled, since a selection changes
-    // before the current item does.
+    // Under a key or button the change is notified when the view has settled, since a selection
+    // changes before the current item does.
     if (!m_inKey && !m_mouseDown) {
         settle();
     }

@@ -38,7 +38,7 @@ private:
     QPersistentModelIndex m_pressed;
     bool m_mouseDown = false;
     bool m_inKey = false;
-    bool m_changed = false; // and not told yet
+    bool m_changed = false; // and not notified yet
 };
 
 } // namespace orvex

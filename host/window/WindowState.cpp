@@ -109,7 +109,7 @@ void activateLayouts(QWidget& view) {
     if (QLayout* const layout = view.layout()) {
         layout->activate();
     }
-    // Hidden widgets get their new size told when they are shown, which is too late for what
+    // Hidden widgets learn their new size when they are shown, which is too late for what
     // stands inside them.
     if (view.testAttribute(Qt::WA_PendingResizeEvent)) {
         QResizeEvent resized(view.size(), QSize());

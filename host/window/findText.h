@@ -7,7 +7,7 @@
 
 namespace orvex {
 
-// The index of the first text behind `after` that `matches`, going on at the beginning; -1 for
+// The index of the first text following `after` that `matches`, going on at the beginning; -1 for
 // none. `textAt` gives the text of an index below `count`.
 template <class TextAt, class Matches>
 int findText(int count, int after, TextAt textAt, Matches matches) {

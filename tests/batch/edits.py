@@ -77,7 +77,7 @@ class Edits:
     def unchanged(self, script, word):
         told = self.play(script)
         self.expect(f"bytes after {script!r}", self.out.read_bytes() == self.bytes, True)
-        self.report.check(word in told, f"{script!r} tells {told}, expected {word!r}")
+        self.report.check(word in told, f"{script!r} prints {told}, expected {word!r}")
 
     def rest(self, found):
         """What no script here selects: the locked wall."""

@@ -1,7 +1,7 @@
 """The multilines and styles of a drawing as ezdxf reads them.
 
 The shape is that of `orvex-batch list --json`, as far as this reader knows the
-values: a colour is told by its index only. Multilines come in the order of
+values: a colour is given by its index only. Multilines come in the order of
 their handles' records in the file, blocks first, since that is how they are
 read; compare them by handle. A drawing that names no version is old to this
 reader, which then gives multilines without vertices.

@@ -20,7 +20,8 @@
 
 namespace orvex::testing {
 
-// Answers prompts from a queue, then cancels for ever; keeps what it was asked and told.
+// Answers prompts from a queue, then cancels for ever; keeps what it was asked and what was
+// printed.
 class QueueSource : public PromptSource {
 public:
     std::deque<PromptAnswer> answers;
@@ -35,7 +36,7 @@ private:
     std::wstring m_echo; // the prompt that the host is about to print
 };
 
-// Keeps what the display is told: "hide A", "show A", "refresh", A for the first entity made.
+// Keeps what the display is asked for: "hide A", "show A", "refresh", A for the first entity made.
 class RecordingDisplay : public DisplayListener {
 public:
     std::vector<std::string> events;

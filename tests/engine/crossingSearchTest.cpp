@@ -1,5 +1,5 @@
 // What the search finds is what solving every pair in order finds: the same pairs, in the same
-// order, with the same points to the last bit. Whatever is passed over can't be told from outside.
+// order, with the same points to the last bit. Whatever is passed over can't be seen from outside.
 
 #include "crossingSearch.h"
 

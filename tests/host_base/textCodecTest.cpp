@@ -27,7 +27,7 @@ TEST(TextCodecTest, bytesThatAreNoUtf8AreReplacedOneByOne) {
         {"\xC0\x80", L"\uFFFD\uFFFD"},                     // longer than needed
         {"\xE0\x80\x80", L"\uFFFD\uFFFD\uFFFD"},           // likewise
         {"\xED\xA0\x80", L"\uFFFD\uFFFD\uFFFD"},           // a surrogate
-        {"\xF4\x90\x80\x80", L"\uFFFD\uFFFD\uFFFD\uFFFD"}, // behind the last code point
+        {"\xF4\x90\x80\x80", L"\uFFFD\uFFFD\uFFFD\uFFFD"}, // after the last code point
         {"\x80x", L"\uFFFDx"},
         {"\xF0\x9F\x98\x80", L"\U0001F600"},
     };

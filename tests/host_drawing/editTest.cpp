@@ -89,7 +89,7 @@ TEST(ChangedMline, keepsTheTextOfWhatIsTheSame) {
             setLines(m, 0, 0, {0.25, 0.0, 1.0, 2.5});
         },
         first, dxf("74      4\n41 0.250\n41 0.0\n41 1.0\n41 2.5"));
-    // An entry in the middle goes, those behind it keep their text.
+    // An entry in the middle goes, those after it keep their text.
     expectMline(
         [](KdDbMline& m) {
             setLines(m, 0, 1, {-0.25, 2.0, 3.5});

@@ -47,7 +47,7 @@ TEST(Identity, holdsForFilesOfAnyForm) {
         {"mixed line ends",
          returns.substr(0, returns.find("  0\r\nLINE")) + sample.substr(sample.find("  0\nLINE"))},
         {"byte-order mark", "\xEF\xBB\xBF" + sample},
-        {"bytes behind EOF", sample + std::string("junk\0\nmore", 10)},
+        {"bytes after EOF", sample + std::string("junk\0\nmore", 10)},
         {"no line end at the end", sample.substr(0, sample.size() - 1)},
         {"no EOF", sample.substr(0, sample.find("  0\nEOF"))},
         {"codes padded in odd ways", replaced(sample, "\n  8\nWalls", "\n\t  8 \nWalls")},

@@ -109,7 +109,7 @@ TEST(NewMline, standsBehindTheOthersOfItsBlock) {
     }
 }
 
-// No handle comes behind the last one, so a seed there is as good as none.
+// No handle comes after the last one, so a seed there is as good as none.
 TEST(NewMline, takesTheNextHandleWhereTheSeedIsNoUse) {
     const auto file = openDrawing(
         replaced(sampleDrawing(), "$HANDSEED\n  5\n100", "$HANDSEED\n  5\nFFFFFFFFFFFFFFFF"));

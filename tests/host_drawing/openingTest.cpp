@@ -1,4 +1,4 @@
-// What is refused, what is told of, and what an opened drawing holds.
+// What is refused, what is warned of, and what an opened drawing holds.
 
 #include "BlockList.h"
 #include "DatabaseCore.h"

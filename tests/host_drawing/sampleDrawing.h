@@ -29,7 +29,7 @@ Failure openFailing(const std::string& bytes);
 // The texts of the warnings, one a line.
 std::string warningsOf(const std::string& bytes);
 
-// Tells where two texts begin to differ.
+// Says where two texts begin to differ.
 ::testing::AssertionResult sameText(const std::string& actual, const std::string& expected);
 
 KdDbStub& stubOf(DrawingFile& file, std::uint64_t handle);

@@ -47,7 +47,7 @@ TEST(Script, dropsCommentsCarriageReturnsAndBlanksAtBothEnds) {
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(source.ask(request(PromptKind::text)).kind, Kind::cancel);
     }
-    EXPECT_TRUE(script("; only a comment\n").atEnd()); // no line begins behind the last end
+    EXPECT_TRUE(script("; only a comment\n").atEnd()); // no line begins after the last end
     ScriptSource cancelling = script("*CANCEL*\nCC");
     EXPECT_EQ(cancelling.ask(request(PromptKind::keyword, {L"CC"})).kind, Kind::cancel);
     EXPECT_EQ(cancelling.ask(request(PromptKind::keyword, {L"CC"})).keyword, L"CC");

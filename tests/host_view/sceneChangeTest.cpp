@@ -72,7 +72,7 @@ TEST(AppearanceCache, staysWithinItsMemoryAndKeepsWhatIsUsed) {
     EXPECT_EQ(cache.find(stubs.front()), nullptr);
 }
 
-// A drawing that goes on changing, beside what a search through all of it says.
+// A drawing that goes on changing, compared with what a search through all of it says.
 class RandomDrawing {
 public:
     explicit RandomDrawing(unsigned seed) : m_random(seed) {
@@ -176,7 +176,7 @@ TEST(SceneProperty, theIndexFindsWhatALinearSearchFinds) {
     EXPECT_GT(found, 200) << "or nothing was tested";
 }
 
-// Whether all that a set of boxes covers was told.
+// Whether all that a set of boxes covers was reported.
 bool isTold(const Scene::Difference& difference, const PlanBox& box) {
     return difference.everything ||
            std::any_of(difference.areas.begin(), difference.areas.end(), [&](const PlanBox& area) {
@@ -218,7 +218,7 @@ TEST(SceneSteps, reportWhatChangedBeforeAndAfter) {
     EXPECT_TRUE(isTold(scene.takeDifference(), {{900, 900}, {901, 902}}));
 }
 
-// Enough for the index to be packed beside the program.
+// Enough for the index to be packed in the background.
 TEST(SceneSteps, takeChangesInWhileTheIndexIsMade) {
     TestDrawing drawing;
     KdDbLayerTableRecord& layer = drawing.addLayer(L"WALL", 1);

@@ -118,7 +118,7 @@ TEST(ComboBox, findsAndSelects) {
         EXPECT_EQ(combo.FindStringExact(-1, each.text), each.exact);
         EXPECT_EQ(combo.FindString(-1, each.text), each.found);
     }
-    EXPECT_EQ(combo.FindString(0, L"d"), 2); // behind the first
+    EXPECT_EQ(combo.FindString(0, L"d"), 2); // after the first
     EXPECT_EQ(combo.SelectString(-1, L"do"), 3);
     EXPECT_EQ(combo.SelectString(-1, L"x"), -1);
     EXPECT_EQ(combo.GetCurSel(), 3);

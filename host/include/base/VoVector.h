@@ -22,7 +22,7 @@ struct VoVectorDefaultGrowPolicy {
 
 // The host's array: counted, copied on the first write, so that copies are cheap and a change to
 // one is never seen in another, nested ones included. New elements and all physical room hold the
-// zero value of T. A bad index is told to the crash recorder and goes on with a harmless zero
+// zero value of T. A bad index is reported to the crash recorder and goes on with a harmless zero
 // element. For one thread only.
 template <class T, class Policy = VoVectorDefaultGrowPolicy>
 class VoVector {

@@ -33,7 +33,7 @@ private:
 };
 
 // Numbers lie in memory of the C heap, which can often grow a block where it stands, so that a
-// large array that grows by small steps isn't copied at each of them. What was written behind the
+// large array that grows by small steps isn't copied at each of them. What was written after the
 // logical end moves along.
 template <class T>
 class VoVectorItems<T, true> {

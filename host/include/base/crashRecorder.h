@@ -4,7 +4,7 @@
 
 #include <string>
 
-// A report that can be given to the crash recorder. Reports tell, they never stop anything.
+// A report that can be given to the crash recorder. Reports never stop anything.
 class VoException {
 public:
     virtual ~VoException() = default;
@@ -48,7 +48,7 @@ public:
     virtual void take(const VoException& report) noexcept = 0;
 };
 
-// The recorder in use; null when nobody wants to be told.
+// The recorder in use; null when reports aren't wanted.
 CrashRecorder* rvexGetCrashRecorder();
 
 namespace orvex {
@@ -56,7 +56,7 @@ namespace orvex {
 // Gives the process another recorder (null for none) and returns the one before. Not owned.
 CrashRecorder* setCrashRecorder(CrashRecorder* recorder);
 
-// Tells of a bad access if anybody listens.
+// Reports a bad access where there is a recorder.
 void reportBadAccess(const wchar_t* message) noexcept;
 
 } // namespace orvex

@@ -24,7 +24,7 @@ public:
     [[nodiscard]] virtual bool done() const = 0;
     virtual void step() = 0;
     [[nodiscard]] virtual KdDbObjectId objectId() const = 0;
-    // The entity's class, told without opening it; null at the end.
+    // The entity's class, known without opening it; null at the end.
     [[nodiscard]] virtual const KdRxClass* entityClass() const = 0;
     // Opens the entity; the caller closes it.
     virtual Status getEntity(KdDbEntity*& entity, int mode) = 0;
@@ -45,6 +45,6 @@ public:
     [[nodiscard]] KdRxClass* isA() const override;
 
     Status newIterator(KdDbBlockTableRecordIterator*& iterator) const;
-    // Puts the entity behind all others; it gets a handle and lives as long as the drawing.
+    // Puts the entity after all others; it gets a handle and lives as long as the drawing.
     Status appendEntity(KdDbObjectId& id, KdDbEntity* entity);
 };

@@ -12,7 +12,7 @@ namespace orvex {
 class DatabaseCore;
 }
 
-// The objects of one drawing. Objects keep their addresses till the database is deleted, which may
+// The objects of one drawing. Objects keep their addresses until the database is deleted, which may
 // happen with objects still open in it.
 class KdDbDatabase {
 public:

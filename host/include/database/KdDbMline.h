@@ -24,7 +24,7 @@ public:
     [[nodiscard]] KdGeVector3d miterAt(int vertex) const;
 
     // `parameters` gets one entry, a pointer to the VoVector<KdMLSegment> of the vertex, readable
-    // till the next call on the entity. Index outside: it comes back empty.
+    // until the next call on the entity. Index outside: it comes back empty.
     Status getParametersAt(int vertex, KdArray<void*>& parameters) const;
     // Takes a copy at once of the VoVector<KdMLSegment> that entry 0 points to. A size other than
     // 1, a null entry or an index outside is refused. Values and counts aren't judged.
@@ -45,7 +45,7 @@ public:
 
     [[nodiscard]] KdDbObjectId style() const; // null when the drawing has no such style
     Status setStyle(KdDbObjectId style);
-    // The style of a multiline, told without opening or reading it where the drawing can; null
+    // The style of a multiline, known without opening or reading it where the drawing can; null
     // when it has none or isn't there.
     [[nodiscard]] static KdDbObjectId styleOf(KdDbObjectId mline);
     [[nodiscard]] KdGeVector3d normal() const;

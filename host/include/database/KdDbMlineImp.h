@@ -28,7 +28,7 @@ public:
 
     // The host's own view of the values.
     [[nodiscard]] const orvex::MlineContent& content() const { return *m_content; }
-    // For writing: tells undo, index and saving first, and unshares the value.
+    // For writing: notifies undo, index and saving first, and unshares the value.
     [[nodiscard]] orvex::MlineContent& changeContent();
 
 private:

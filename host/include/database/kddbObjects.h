@@ -13,7 +13,7 @@ constexpr int kForWrite = 1;
 // that is stale, unknown or erased.
 Status kddbGetObjectId(KdDbObjectId& id, const long* name);
 
-// The name of an object, {0,0} for a null id. The first word alone tells objects apart.
+// The name of an object, {0,0} for a null id. The first word alone distinguishes objects.
 Status kddbGetEntityName(long* name, KdDbObjectId id);
 
 // Opens an object that is of `kind` or derived from it. Opens never exclude each other: any number

@@ -4,7 +4,7 @@
 enum PromptStatus : int {
     kPromptNormal = 5100,
     kPromptNone = 5000,   // an empty line
-    kPromptError = -5001, // nothing found; ERRNO tells why
+    kPromptError = -5001, // nothing found; ERRNO says why
     kPromptCancelled = -5002,
     kPromptKeyword = -5005,
 };

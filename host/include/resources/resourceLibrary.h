@@ -23,5 +23,5 @@ void AfxSetResourceHandle(HINSTANCE library);
 int LoadStringW(HINSTANCE library, unsigned number, wchar_t* buffer, int size);
 
 // The text where the number has one in the host's own library, else the default. The result stays
-// valid till the next call.
+// valid until the next call.
 const wchar_t* velaManagerResourceString(unsigned number, const wchar_t* defaultText);

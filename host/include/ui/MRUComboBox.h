@@ -6,15 +6,15 @@
 
 namespace VOUI {
 
-// A combo box that tells the user's choice apart from what a program sets.
+// A combo box that distinguishes the user's choice from what a program sets.
 class MRUComboBox : public QComboBox {
     Q_OBJECT
 
 public:
     explicit MRUComboBox(QWidget* parent = nullptr);
 
-    // Asked with the index before a choice is told; may change the entries and the current one.
-    // False keeps the choice quiet. Empty: every choice is told.
+    // Asked with the index before a choice is notified; may change the entries and the current one.
+    // False keeps the choice quiet. Empty: every choice is notified.
     using Chooser = std::function<bool(int index)>;
     void setChooser(Chooser chooser);
 

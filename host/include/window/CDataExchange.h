@@ -17,8 +17,8 @@ public:
 
     // To be called by a check before it looks at a control.
     void PrepareEditCtrl(int number);
-    // Ends the exchange: no further exchange or binding happens, and MessageBeep is silent till the
-    // exchange is over, so that one failure is one beep. The focus stays where it is, because a
+    // Ends the exchange: no further exchange or binding happens, and MessageBeep is silent until
+    // the exchange is over, so that one failure is one beep. The focus stays where it is, because a
     // check may run while it moves.
     void Fail();
     [[nodiscard]] bool HasFailed() const { return m_failed; }

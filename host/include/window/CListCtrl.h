@@ -36,7 +36,7 @@ public:
     // the selection.
     bool SetItemState(int row, unsigned state, unsigned mask);
     [[nodiscard]] int GetSelectedCount() const;
-    // The first row behind `after` (-1: of all); with `flags` 2 the first selected one. -1 for
+    // The first row following `after` (-1: of all); with `flags` 2 the first selected one. -1 for
     // none.
     [[nodiscard]] int GetNextItem(int after, unsigned flags) const;
 

@@ -27,7 +27,7 @@ public:
 
     virtual void DoDataExchange(CDataExchange* exchange);
     // Called with each key press inside the view before Qt acts on it, but for automatic repeats;
-    // true swallows the key. Releases aren't told.
+    // true swallows the key. Releases aren't notified.
     virtual bool PreTranslateMessage(tagMSG* message);
     // Called with a check box's number after the user clicked it; high 16 bits of wParam are 0,
     // lParam is the widget. Nobody asks for the result.
