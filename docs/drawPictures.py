@@ -61,7 +61,7 @@ def make_drawing(path, keyword):
                             dxfattribs={"style_name": style, "justification": 1})
     for number, (x, y) in enumerate(picks, 1):
         space.add_circle((x, y), 55, dxfattribs={"layer": "NOTE"})
-        space.add_text(str(number), height=190, dxfattribs={"layer": "NOTE"}).set_placement((x + 80, y + 150))
+        space.add_text(str(number), height=190, dxfattribs={"layer": "NOTE"}).set_placement((x - 200, y + 150) if keyword == "DV" else (x + 80, y + 150))
     arrow = SHIFT / 2
     space.add_line((arrow - 150, 0), (arrow + 150, 0), dxfattribs={"layer": "NOTE"})
     space.add_line((arrow + 150, 0), (arrow + 60, 60), dxfattribs={"layer": "NOTE"})
