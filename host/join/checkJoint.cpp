@@ -126,6 +126,24 @@ bool isUntouched(const JoinWall& before, const JoinWall& now, unsigned segment, 
            std::ranges::equal(before.stops(segment, element), now.stops(segment, element));
 }
 
+// The same lists but for an opening in a stretch that was drawn, as joints on a long bar leave
+// them.
+bool isOnlyOpened(const JoinWall& before, const JoinWall& now, unsigned segment, unsigned element,
+                  const ElementShape& opening, double slack) {
+    const unsigned next = now.nextVertex(segment);
+    const auto was = before.stops(segment, element);
+    const auto is = now.stops(segment, element);
+    const auto head =
+        static_cast<std::size_t>(std::ranges::lower_bound(was, opening.from - slack) - was.begin());
+    const auto isAt = [&](double stop, double wanted) { return std::abs(stop - wanted) <= slack; };
+    return before.position(segment, element) == now.position(segment, element) &&
+           before.position(next, element) == now.position(next, element) &&
+           is.size() == was.size() + 2 && head % 2 == 1 &&
+           (head == was.size() || was[head] > opening.to + slack) && isAt(is[head], opening.from) &&
+           isAt(is[head + 1], opening.to) && std::ranges::equal(was.first(head), is.first(head)) &&
+           std::ranges::equal(was.subspan(head), is.subspan(head + 2));
+}
+
 void renewWall(const JoinWall& before, const JoinWall& now, unsigned wall, double slack,
                std::span<const SideChange> changes, std::vector<RenewedStops>& renewed) {
     for (unsigned s = 0; s < now.segmentCount(); ++s) {
@@ -135,6 +153,10 @@ void renewWall(const JoinWall& before, const JoinWall& now, unsigned wall, doubl
                        (*change.shape)[e].rule == ElementShape::Rule::open;
             };
             if (std::ranges::none_of(changes, changesLine) && isUntouched(before, now, s, e)) {
+                continue;
+            }
+            if (changes.size() == 1 && changesLine(changes[0]) &&
+                isOnlyOpened(before, now, s, e, (*changes[0].shape)[e], slack)) {
                 continue;
             }
             TargetSpans target(before, now, s, e, slack);
