@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <utility>
 
 namespace orvex {
 
@@ -17,6 +18,7 @@ namespace {
 
 constexpr double kZoomOfNotch = 1.2;
 constexpr double kAnglesOfNotch = 120.0; // eighths of a degree
+constexpr int kDragDistance = 3;         // pixels; less is a click
 constexpr int kPauseOfWheel = 600;       // milliseconds; what comes later is a new movement
 
 } // namespace
@@ -45,7 +47,10 @@ void Canvas::setSession(Session* session) {
     s.highlight = {};
     s.panFrom.reset();
     s.waitingClick.reset();
+    s.press.reset();
+    s.selectionFrom.reset();
     s.windowStep = State::WindowStep::off;
+    s.overlay.clear();
     s.aim = {};
     s.picture.setScene(session != nullptr ? &session->scene() : nullptr);
     s.updateCursorShape();
@@ -56,9 +61,29 @@ void Canvas::setSession(Session* session) {
 void Canvas::setAim(Aim aim) {
     m_state->aim = std::move(aim);
     m_state->waitingClick.reset();
+    m_state->selectionFrom.reset();
+    m_state->press.reset();
     m_state->isHighlightStale = true;
     m_state->startWork();
     update();
+}
+
+void Canvas::setSelected(std::vector<KdDbStub*> entities) {
+    m_state->overlay.setSelected(std::move(entities));
+    update();
+}
+
+const std::vector<KdDbStub*>& Canvas::selected() const {
+    return m_state->overlay.selected();
+}
+
+void Canvas::setMarks(std::vector<CanvasMark> marks) {
+    m_state->overlay.setMarks(std::move(marks));
+    update();
+}
+
+const std::vector<CanvasMark>& Canvas::marks() const {
+    return m_state->overlay.marks();
 }
 
 const Aim& Canvas::aim() const {
@@ -111,6 +136,21 @@ void Canvas::zoomPrevious() {
     }
 }
 
+void Canvas::lookAt(PlanPoint center, double height) {
+    State& s = *m_state;
+    if (s.session != nullptr && s.isShown && height > 0.0) {
+        s.moveTo({center, height}, false);
+    }
+}
+
+bool Canvas::dropWindow() {
+    const bool draws = m_state->drawsWindow();
+    if (draws) {
+        m_state->stopWindow();
+    }
+    return draws;
+}
+
 bool Canvas::isSettled() const {
     return !m_state->work.isActive();
 }
@@ -149,34 +189,14 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
     if (s.session == nullptr || !s.isShown || s.panFrom) {
         return;
     }
-    const bool isLeft = event->button() == Qt::LeftButton;
-    if (event->button() == Qt::MiddleButton ||
-        (isLeft && (event->modifiers() & Qt::ShiftModifier) != 0)) {
-        s.panFrom = event->pos();
-        s.panButton = event->button();
-        s.history.leave(stateOf(s.view()));
-        s.dropHighlight();
-        s.updateCursorShape();
+    if (event->button() == Qt::MiddleButton) {
+        s.startPan(event->pos(), event->button());
     } else if (event->button() == Qt::RightButton) {
-        if (s.windowStep != State::WindowStep::off) {
-            s.stopWindow();
-        } else {
+        if (!dropWindow()) {
             emit rightClicked();
         }
-    } else if (isLeft && s.windowStep == State::WindowStep::first) {
-        s.windowStep = State::WindowStep::second;
-        s.windowCorner = event->pos();
-    } else if (isLeft && s.windowStep == State::WindowStep::second) {
-        s.endWindow(event->pos());
-    } else if (isLeft && s.aim.kind != AimKind::none) {
-        const PlanPoint at = s.planAtCursor();
-        if (s.aim.kind == AimKind::entity && !s.session->scene().prepareSome({})) {
-            s.waitingClick = at; // a pick would take as long as the rest of the index
-            s.startWork();
-            return;
-        }
-        emit clicked(at.x, at.y);
-        return; // whoever took the click may have done anything
+    } else if (event->button() == Qt::LeftButton) {
+        s.pressLeft(event->pos(), event->modifiers());
     }
     update();
 }
@@ -186,6 +206,13 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
     s.cursor = event->pos();
     if (s.session == nullptr || !s.isShown) {
         return;
+    }
+    if (s.press && (event->pos() - s.press->at).manhattanLength() >= kDragDistance) {
+        s.startDrag(*std::exchange(s.press, std::nullopt));
+    }
+    if (s.selectionFrom) {
+        s.isWindowCountStale = true;
+        s.startWork();
     }
     if (s.panFrom) {
         const QPoint direction = event->pos() - *s.panFrom;
@@ -204,7 +231,18 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
 
 void Canvas::mouseReleaseEvent(QMouseEvent* event) {
     State& s = *m_state;
-    if (s.panFrom && event->button() == s.panButton) {
+    s.cursor = event->pos();
+    if (event->button() == Qt::LeftButton && s.press) {
+        const State::Press press = *std::exchange(s.press, std::nullopt);
+        s.isHighlightStale = true;
+        if (s.selectionFrom) {
+            s.endSelectionWindow((press.modifiers & Qt::ShiftModifier) != 0);
+        } else if (s.windowStep == State::WindowStep::off) {
+            s.click({s.planAt(press.at), (press.modifiers & Qt::ShiftModifier) != 0});
+        }
+    } else if (event->button() == Qt::LeftButton && s.selectionFrom && s.isSelectionDragged) {
+        s.endSelectionWindow((event->modifiers() & Qt::ShiftModifier) != 0);
+    } else if (s.panFrom && event->button() == s.panButton) {
         s.panFrom.reset();
         s.isHighlightStale = true;
         s.updateCursorShape();
@@ -249,8 +287,7 @@ void Canvas::leaveEvent(QEvent* /*event*/) {
 }
 
 void Canvas::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && m_state->windowStep != State::WindowStep::off) {
-        m_state->stopWindow();
+    if (event->key() == Qt::Key_Escape && dropWindow()) {
         return;
     }
     emit keyTyped(event);

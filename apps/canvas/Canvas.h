@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Aim.h"
+#include "CanvasOverlay.h"
 
 #include <QWidget>
 
@@ -14,7 +15,11 @@ class Session;
 //
 // The picture is painted in slices of a few milliseconds between events, over the picture before,
 // moved and scaled; so panning and zooming answer at once in a drawing of any size. Wheel: zoom at
-// the cursor. Middle button or Shift with the left one: pan. Middle double click: extents.
+// the cursor. Middle button, or a drag of the left one with Ctrl: pan. Middle double click:
+// extents.
+//
+// A selection is made by clicks on entities and by windows, of a drag or of two clicks beside all
+// entities; from right to left they take what they touch, else what lies within; Shift takes away.
 class Canvas final : public QWidget {
     Q_OBJECT
 
@@ -29,6 +34,12 @@ public:
     void setAim(Aim aim = {});
     [[nodiscard]] const Aim& aim() const;
 
+    // Shown until they are set anew, or the session is. Entities have to live as long.
+    void setSelected(std::vector<KdDbStub*> entities);
+    [[nodiscard]] const std::vector<KdDbStub*>& selected() const;
+    void setMarks(std::vector<CanvasMark> marks);
+    [[nodiscard]] const std::vector<CanvasMark>& marks() const;
+
     // Something in the drawing changed or was hidden: paints what is different, soon.
     void refresh();
     // The view was changed by a command.
@@ -38,6 +49,9 @@ public:
     void zoomBy(double factor); // around the middle; above 1 shows less of the plan
     void startZoomWindow();     // the next two clicks, or a drag, give the window
     void zoomPrevious();
+    void lookAt(PlanPoint center, double height); // drawing units
+    // Gives up a window that is being drawn; false when there is none.
+    bool dropWindow();
 
     // The picture is complete and nothing is waiting to be painted.
     [[nodiscard]] bool isSettled() const;
@@ -47,6 +61,9 @@ signals:
     void cursorLeft();
     // A click while the aim is entity or point.
     void clicked(double worldX, double worldY);
+    // While the aim is selection: a click on an entity, and two corners of a window.
+    void picked(double worldX, double worldY, bool takesAway);
+    void windowDrawn(PlanPoint first, PlanPoint second, bool takesAway);
     // The right button, which ends a prompt as Enter does.
     void rightClicked();
     // A key that the canvas has no use for, so that one can type wherever the focus is.

@@ -63,9 +63,7 @@ void Canvas::State::step() {
         return;
     }
     if (waitingClick) {
-        const PlanPoint at = *std::exchange(waitingClick, std::nullopt);
-        emit canvas.clicked(at.x, at.y);
-        return; // whoever took the click may have done anything
+        return click(*std::exchange(waitingClick, std::nullopt));
     }
     if (wantsExtents) {
         zoomToExtents();
@@ -75,9 +73,13 @@ void Canvas::State::step() {
     if (!difference.isEmpty()) {
         picture.takeDifference(difference);
         isHighlightStale = true;
+        overlay.invalidate();
     }
     if (isHighlightStale) {
         updateHighlight();
+    }
+    if (isWindowCountStale) {
+        updateWindowCount();
     }
     const QRegion changed = picture.paintSome(deadline);
     if (!changed.isEmpty()) {
@@ -172,7 +174,7 @@ void Canvas::State::dropHighlight() {
 void Canvas::State::updateHighlight() {
     isHighlightStale = false;
     KdDbStub* found = nullptr;
-    if (aim.kind != AimKind::point && cursor && !panFrom && windowStep == WindowStep::off) {
+    if (aim.kind != AimKind::point && cursor && !panFrom && !drawsWindow()) {
         const PlanPoint at = planAtCursor();
         const double reach = aim.pickBox * view().unitsPerPixel();
         const PlanBox square{{at.x - reach, at.y - reach}, {at.x + reach, at.y + reach}};
@@ -211,13 +213,16 @@ void Canvas::State::endWindow(const QPoint& corner) {
 
 void Canvas::State::stopWindow() {
     windowStep = WindowStep::off;
+    selectionFrom.reset();
+    press.reset();
     isHighlightStale = true;
     canvas.update();
     startWork();
 }
 
-void Canvas::State::paintMarks(QPainter& painter) const {
+void Canvas::State::paintMarks(QPainter& painter) {
     KdDbDatabase& database = session->database();
+    overlay.paint(painter, session->scene(), view(), canvas.devicePixelRatioF());
     paintAxes(painter, canvas.size(), userAxis(database, "UCSXDIR", {1.0, 0.0, 0.0}),
               userAxis(database, "UCSYDIR", {0.0, 1.0, 0.0}));
     if (highlight.entity != nullptr) {
@@ -238,6 +243,17 @@ void Canvas::State::paintMarks(QPainter& painter) const {
 
 void Canvas::State::paintAim(QPainter& painter) const {
     switch (aim.kind) {
+    case AimKind::selection:
+        if (selectionFrom) {
+            const PlanPoint corner = view().toPixels(*selectionFrom);
+            paintSelectionWindow(
+                painter,
+                {static_cast<int>(std::floor(corner.x)), static_cast<int>(std::floor(corner.y))},
+                *cursor, windowWords());
+            paintCrosshair(painter, *cursor, canvas.size(), -1);
+            break;
+        }
+        [[fallthrough]];
     case AimKind::entity:
         paintPickBox(painter, *cursor, aim.pickBox);
         break;

@@ -32,13 +32,30 @@ struct Canvas::State {
     ViewHistory history;
     QTimer work; // ticks between all other events while there is something to be done
 
+    CanvasOverlay overlay;
     Aim aim;
     std::optional<QPoint> cursor;
     Highlight highlight;
     bool isHighlightStale = false;
 
-    // A pick that came while the index was behind what the drawing looks like.
-    std::optional<PlanPoint> waitingClick;
+    struct Click {
+        PlanPoint at;
+        bool takesAway = false;
+    };
+    // A pick that came before the index was up to date with what the drawing looks like.
+    std::optional<Click> waitingClick;
+
+    // The left button went down, and it isn't known yet whether it is a click or a drag.
+    struct Press {
+        QPoint at;
+        Qt::KeyboardModifiers modifiers;
+    };
+    std::optional<Press> press;
+    // A window of a selection: its first corner, and whether it ends as the button is let go.
+    std::optional<PlanPoint> selectionFrom;
+    bool isSelectionDragged = false;
+    std::optional<std::size_t> windowCount; // of what it would take; nothing until it is known
+    bool isWindowCountStale = false;
 
     std::optional<QPoint> panFrom;
     Qt::MouseButton panButton = Qt::NoButton;
@@ -49,6 +66,18 @@ struct Canvas::State {
     [[nodiscard]] PlanView& view() const { return session->view(); }
     [[nodiscard]] PlanPoint planAt(const QPoint& pixel) const;
     [[nodiscard]] PlanPoint planAtCursor() const { return planAt(*cursor); }
+
+    void pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifiers);
+    void click(const Click& click);
+    void startPan(const QPoint& pixel, Qt::MouseButton button);
+    void startDrag(const Press& from);
+    void startSelectionWindow(PlanPoint corner, bool isDragged);
+    void endSelectionWindow(bool takesAway);
+    void updateWindowCount();
+    [[nodiscard]] QString windowWords() const;
+    [[nodiscard]] bool drawsWindow() const {
+        return windowStep != WindowStep::off || selectionFrom || press;
+    }
 
     void startWork();
     void step();
@@ -62,7 +91,7 @@ struct Canvas::State {
     void updateCursorShape();
     void endWindow(const QPoint& corner);
     void stopWindow();
-    void paintMarks(QPainter& painter) const;
+    void paintMarks(QPainter& painter);
     void paintAim(QPainter& painter) const;
 };
 

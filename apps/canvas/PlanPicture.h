@@ -27,7 +27,7 @@ public:
     // Makes tiles stale where the scene looks different; what they show stays until it is replaced.
     void takeDifference(const Scene::Difference& difference);
 
-    // Paints until the deadline; tells what of the view is different now.
+    // Paints until the deadline; returns what of the view is different now.
     QRegion paintSome(Deadline deadline);
     // The scene has to be up to date for this, as for paintSome.
     [[nodiscard]] bool isComplete() const;

@@ -16,6 +16,10 @@ namespace {
 const QColor kCrosshairColor(0xB4, 0xB8, 0xC0);
 const QColor kPickBoxColor(0xF0, 0xF0, 0xF0);
 const QColor kRubberColor(0xE0, 0xA0, 0x40);
+const QColor kWithinColor(0x6A, 0xA8, 0xF0);
+const QColor kTouchedColor(0x68, 0xC8, 0x78);
+constexpr int kWindowOpacity = 40;      // of 255
+constexpr int kWordsMargin = 14;        // pixels from the cursor
 constexpr double kHighlightWidth = 3.0; // pixels
 constexpr int kAxisLength = 36;         // pixels
 constexpr int kAxisMargin = 16;
@@ -83,6 +87,27 @@ void paintRubberWindow(QPainter& painter, const QPoint& oneCorner, const QPoint&
     painter.setBrush(fill);
     painter.drawRect(QRect(oneCorner, otherCorner).normalized());
     painter.setBrush(Qt::NoBrush);
+}
+
+void paintSelectionWindow(QPainter& painter, const QPoint& first, const QPoint& second,
+                          const QString& words) {
+    const bool isCrossing = isCrossingWindow(first.x(), second.x());
+    const QColor color = isCrossing ? kTouchedColor : kWithinColor;
+    QColor fill = color;
+    fill.setAlpha(kWindowOpacity);
+    painter.setPen(QPen(color, 1.0, isCrossing ? Qt::DashLine : Qt::SolidLine));
+    painter.setBrush(fill);
+    painter.drawPolygon(
+        QPolygon({first, {second.x(), first.y()}, second, {first.x(), second.y()}}));
+    painter.setBrush(Qt::NoBrush);
+    const QPoint corner(second.x() + (isCrossing ? -kWordsMargin : kWordsMargin),
+                        second.y() + (second.y() < first.y() ? -kWordsMargin : kWordsMargin));
+    const QRect box = painter.fontMetrics().boundingRect(words).adjusted(-4, -2, 4, 2);
+    const QRect place(corner.x() - (isCrossing ? box.width() : 0), corner.y() - box.height() / 2,
+                      box.width(), box.height());
+    painter.fillRect(place, QColor(0, 0, 0, 160));
+    painter.setPen(color);
+    painter.drawText(place, Qt::AlignCenter, words);
 }
 
 void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& appearance) {

@@ -6,10 +6,16 @@
 
 #include <QPoint>
 #include <QSize>
+#include <QString>
 
 class QPainter;
 
 namespace orvex {
+
+// A selection window drawn from right to left takes what it touches, else what lies within it.
+inline bool isCrossingWindow(double firstX, double secondX) {
+    return secondX < firstX;
+}
 
 // What moves over the picture of the plan. Painters have the view's pixels as coordinates.
 
@@ -19,6 +25,10 @@ void paintCrosshair(QPainter& painter, const QPoint& cursor, const QSize& view, 
 void paintPickBox(QPainter& painter, const QPoint& cursor, int pickBox);
 void paintRubberLine(QPainter& painter, const PlanView& view, PlanPoint base, const QPoint& cursor);
 void paintRubberWindow(QPainter& painter, const QPoint& oneCorner, const QPoint& otherCorner);
+// Dashed and in another colour for what it touches; the dashes start at the first corner. `words`
+// stand at the second.
+void paintSelectionWindow(QPainter& painter, const QPoint& first, const QPoint& second,
+                          const QString& words);
 // An appearance on top of the picture: thicker and brighter than it is there, or as it would be.
 void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& appearance);
 void paintPreview(QPainter& painter, const PlanView& view, const Appearance& appearance);

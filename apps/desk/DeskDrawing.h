@@ -42,7 +42,7 @@ public:
     [[nodiscard]] QString currentStyle() const;
 
 private:
-    // What tells one state of a file from another; the same where there is no file.
+    // What distinguishes one state of a file from another; the same where there is no file.
     struct FileState {
         QDateTime written;
         qint64 size = 0;

@@ -11,7 +11,7 @@
 namespace orvex {
 
 // What the menu File does with the drawing in the window: asks for names, asks about changes,
-// opens, saves, tells what went wrong.
+// opens, saves, reports what went wrong.
 class DeskFiles final : public QObject {
     Q_OBJECT
 

@@ -84,12 +84,13 @@ void DeskPrompts::answerText(const QString& typed) {
     }
     if (auto answer = understand(*m_request, typed)) {
         finish(std::move(*answer));
+    } else {
+        m_ahead.clear();
     }
 }
 
 void DeskPrompts::answerClick(double worldX, double worldY, double unitsPerPixel) {
     const bool wantsPoint = m_loop != nullptr && (m_request->kind == PromptKind::entity ||
-                                                  m_request->kind == PromptKind::selection ||
                                                   m_request->kind == PromptKind::point);
     if (!wantsPoint) {
         return;
@@ -99,6 +100,14 @@ void DeskPrompts::answerClick(double worldX, double worldY, double unitsPerPixel
     answer.point = clickedPoint(worldX, worldY, unitsPerPixel);
     answer.echo = pointText(answer.point);
     finish(std::move(answer));
+}
+
+void DeskPrompts::answerLines(QStringList lines) {
+    if (m_loop != nullptr && !lines.isEmpty()) {
+        const QString first = lines.takeFirst();
+        m_ahead = std::move(lines);
+        answerText(first);
+    }
 }
 
 void DeskPrompts::cancel() {

@@ -39,6 +39,8 @@ public:
     void answerText(const QString& typed);
     // A click at a world point of the plan; a pixel is `unitsPerPixel` drawing units wide.
     void answerClick(double worldX, double worldY, double unitsPerPixel);
+    // Lines as if they were typed one by one, at this question and those that follow.
+    void answerLines(QStringList lines);
     void cancel();
 
     // Answers this question and all that follow by a cancel, until `allow`.
@@ -46,12 +48,12 @@ public:
     void allow() { m_cancelsAll = false; }
 
 signals:
-    void asked(); // `request` tells what
+    void asked(); // `request` says what
     void answered();
     void printed(const QString& line);
 
 private:
-    // Nothing for text that fits no question; tells the user so.
+    // Nothing for text that fits no question; the user is notified.
     std::optional<PromptAnswer> understand(const PromptRequest& request, const QString& typed);
     void finish(PromptAnswer answer);
 

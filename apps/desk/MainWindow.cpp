@@ -3,9 +3,11 @@
 #include "Canvas.h"
 #include "CommandLine.h"
 #include "KdDbEntity.h"
+#include "KdDbStub.h"
 #include "commandNames.h"
 #include "partlyDrawnText.h"
 #include "qtWide.h"
+#include "selectionLines.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>
@@ -30,13 +32,19 @@ constexpr double kMostOfScreen = 0.9;    // the rest is left to the window's fra
 constexpr int kFirstCommandHeight = 170; // pixels
 
 // What a click on the canvas means to a question. Valid as long as the question is.
-Aim aimOf(const PromptRequest& request, Scene& scene) {
+Aim aimOf(const PromptRequest& request, Scene& scene,
+          const std::optional<SelectionProgress>& progress) {
     Aim aim;
     aim.pickBox = PromptSession::current().pickBox;
     if (request.kind == PromptKind::entity) {
         aim.kind = AimKind::entity;
     } else if (request.kind == PromptKind::point) {
         aim.kind = AimKind::point;
+    } else if (request.kind == PromptKind::selection && progress) {
+        aim.kind = AimKind::selection;
+        aim.takes = [takesMlines = progress->takesMlines](const KdDbStub& entity) {
+            return !takesMlines || entity.kind == ObjectKind::mline;
+        };
     }
     if (request.base) {
         aim.base = PlanPoint{request.base->x, request.base->y};
@@ -60,7 +68,8 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
                   takeDrawing(std::move(file), path);
               }),
       m_canvas(new Canvas(this)), m_commandLine(new CommandLine(this)),
-      m_menus(*this, [this](const DeskAct& act) { perform(act); }), m_style(new StyleButton(this)),
+      m_menus(*this, [this](const DeskAct& act) { perform(act); }),
+      m_join(new JoinDesk(*this, *m_canvas, m_runner, m_prompts)), m_style(new StyleButton(this)),
       m_status(*statusBar()), m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
     setAcceptDrops(true);
@@ -68,6 +77,7 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
     makeCommandDock();
     connectCommandLine();
     connectCanvas();
+    connectSelection();
     connectFiles();
     restorePlace();
     takeDrawing(DrawingFile::create(), QString());
@@ -101,6 +111,7 @@ void MainWindow::makeCommandDock() {
     resizeDocks({dock}, {kFirstCommandHeight}, Qt::Vertical);
     m_menus.view->addSeparator();
     m_menus.view->addAction(m_menus.tools->toggleViewAction());
+    m_menus.view->addAction(m_join->toggleAction());
 }
 
 void MainWindow::connectCommandLine() {
@@ -112,6 +123,7 @@ void MainWindow::connectCommandLine() {
     connect(&m_runner, &CommandRunner::commandStarted, this,
             [this](const QString& name) { m_commandLine->print(tr("Command: %1").arg(name)); });
     connect(&m_runner, &CommandRunner::commandEnded, this, [this] {
+        m_canvas->setSelected({});
         m_canvas->viewChanged();
         m_canvas->refresh();
         showIdle();
@@ -133,6 +145,25 @@ void MainWindow::connectCanvas() {
     });
     connect(m_canvas, &Canvas::cursorLeft, &m_status, &StatusLine::clearCursor);
     connect(m_canvas, &Canvas::settled, this, &MainWindow::reportPartlyDrawn);
+}
+
+void MainWindow::connectSelection() {
+    connect(m_canvas, &Canvas::picked, this, [this](double x, double y, bool takesAway) {
+        const auto& progress = session()->selectionMemory().progress;
+        const KdDbStub* const found =
+            session()->scene().entityAt({x, y, 0.0}, PromptSession::current().pickBox);
+        if (progress && found != nullptr) {
+            m_prompts.answerLines(pickLines(*progress, {x, y}, found->handle, takesAway,
+                                            session()->view().unitsPerPixel()));
+        }
+    });
+    connect(m_canvas, &Canvas::windowDrawn, this,
+            [this](PlanPoint first, PlanPoint second, bool takesAway) {
+                if (const auto& progress = session()->selectionMemory().progress) {
+                    m_prompts.answerLines(windowLines(*progress, first, second, takesAway,
+                                                      session()->view().unitsPerPixel()));
+                }
+            });
 }
 
 void MainWindow::connectFiles() {
@@ -181,6 +212,7 @@ void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& p
     m_canvas->setSession(nullptr);
     m_runner.setSession(nullptr);
     m_drawing.replace(std::move(file), path, m_canvas->width(), m_canvas->height());
+    m_join->setSession(*session());
     session()->display().setRepaint([this] { m_canvas->refresh(); });
     m_runner.setSession(session());
     m_canvas->setSession(session());
@@ -255,6 +287,9 @@ void MainWindow::enterLine(const QString& line) {
 }
 
 void MainWindow::escape() {
+    if (m_canvas->dropWindow()) {
+        return;
+    }
     if (m_prompts.request() != nullptr) {
         m_prompts.cancel();
     } else if (!m_runner.isBusy()) {
@@ -274,7 +309,9 @@ void MainWindow::showQuestion() {
                      : isPick ? BlankKey::entersUnlessXy
                               : BlankKey::enters;
     m_commandLine->setQuestion(question);
-    m_canvas->setAim(aimOf(request, session()->scene()));
+    const auto& progress = session()->selectionMemory().progress;
+    m_canvas->setAim(aimOf(request, session()->scene(), progress));
+    m_canvas->setSelected(progress ? progress->entities : std::vector<KdDbStub*>());
 }
 
 void MainWindow::showIdle() {

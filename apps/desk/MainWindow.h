@@ -6,6 +6,7 @@
 #include "DeskMenus.h"
 #include "DeskPrompts.h"
 #include "DeskSettings.h"
+#include "JoinDesk.h"
 #include "RecentFiles.h"
 #include "SessionChoices.h"
 #include "StatusLine.h"
@@ -54,6 +55,7 @@ private:
     void makeCommandDock();
     void connectCommandLine();
     void connectCanvas();
+    void connectSelection();
     void connectFiles();
     void loadModule(const std::vector<std::string>& files);
     void restorePlace();
@@ -82,6 +84,7 @@ private:
     Canvas* m_canvas;
     CommandLine* m_commandLine;
     DeskMenus m_menus;
+    JoinDesk* m_join;
     StyleButton* m_style;
     StatusLine m_status;
     RecentFiles m_recent;

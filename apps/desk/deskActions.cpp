@@ -134,6 +134,16 @@ constexpr std::array kActions = std::to_array<DeskAction>({
      .help = QT_TR_NOOP("The twelve multiline tools"),
      .act = Submenu::tools},
     {.menu = modify,
+     .name = "mljoin",
+     .text = QT_TR_NOOP("&Join Plan..."),
+     .help = QT_TR_NOOP("Join multilines wherever they cross or end at each other"),
+     .shortcuts = "Ctrl+J",
+     .picture =
+         "M 2 4 L 22 4 M 2 9 L 7 9 L 7 15 L 2 15 M 12 9 L 22 9 M 12 9 L 12 15 L 22 15 M 2 20 "
+         "L 7 20 L 7 22 M 12 22 L 12 20 L 22 20",
+     .act = TypedCommand{"MLJOIN"},
+     .isInToolBar = true},
+    {.menu = modify,
      .name = "mlstyle",
      .text = QT_TR_NOOP("Multiline &Styles..."),
      .help = QT_TR_NOOP("Manage the multiline styles of the drawing"),

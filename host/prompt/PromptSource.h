@@ -14,7 +14,7 @@ class KdDbEntity;
 namespace orvex {
 
 // A selection is asked for again and again until an empty answer: it takes points, handles and
-// boxes.
+// keywords.
 enum class PromptKind { command, keyword, entity, selection, point, real, text };
 
 // The entity that a point at the cursor (world) would make, not in any drawing; null for nothing.
@@ -33,16 +33,7 @@ struct PromptRequest {
 
 // The answer, before the prompt library has judged it.
 struct PromptAnswer {
-    enum class Kind {
-        cancel,
-        empty,
-        keyword,
-        point,
-        handle,
-        box,
-        number,
-        text
-    } kind = Kind::cancel;
+    enum class Kind { cancel, empty, keyword, point, handle, number, text } kind = Kind::cancel;
     std::wstring keyword; // as the list spells it
     KdGePoint3d point;    // current user coordinate system
     double number = 0.0;
@@ -50,11 +41,6 @@ struct PromptAnswer {
     // An entity named beside the point: found whatever lies there. 0 is a handle that names
     // nothing.
     std::optional<std::uint64_t> handle;
-    // Of selections, by hand: the box from `point` to here takes what lies within it, or also what
-    // it touches; with Shift a click or a box takes away.
-    KdGePoint3d corner; // current user coordinate system
-    bool isCrossing = false;
-    bool takesAway = false;
     std::wstring echo; // what the user typed or clicked, for the command line
 };
 

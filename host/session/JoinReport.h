@@ -15,6 +15,7 @@ struct JoinReport {
     std::vector<JoinWall> walls;
     std::vector<KdDbStub*> mlines; // one for each wall
     bool isPlayed = false;         // false: what would be joined, and nothing is
+    JoinOptions options;
 };
 
 // Told of what would be joined, at each question that may change it, and of what was.

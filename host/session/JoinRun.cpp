@@ -45,9 +45,9 @@ std::vector<JoinWall> wallsOf(const std::vector<KdDbStub*>& mlines) {
 } // namespace
 
 JoinRun::JoinRun(Session& session, std::vector<KdDbStub*> mlines, const JoinOptions& options)
-    : m_session(session), m_mlines(std::move(mlines)), m_walls(wallsOf(m_mlines)),
-      m_plan(planJoins(m_walls, options)), m_planned(m_plan.places), m_scratch(session),
-      m_originals(m_mlines.size()) {
+    : m_session(session), m_options(options), m_mlines(std::move(mlines)),
+      m_walls(wallsOf(m_mlines)), m_plan(planJoins(m_walls, options)), m_planned(m_plan.places),
+      m_scratch(session), m_originals(m_mlines.size()) {
     m_scratch.setPickBox(kPickBox);
 }
 

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] const std::vector<JoinPlace>& places() const { return m_plan.places; }
     [[nodiscard]] const std::vector<JoinWall>& walls() const { return m_walls; }
     [[nodiscard]] JoinReport report() const {
-        return {m_plan.places, m_walls, m_mlines, m_isPlayed};
+        return {m_plan.places, m_walls, m_mlines, m_isPlayed, m_options};
     }
 
     // Plays all that is planned. A joint that doesn't come out right leaves its walls as they
@@ -63,6 +63,7 @@ private:
     void startAgain();
 
     Session& m_session;
+    JoinOptions m_options;
     std::vector<KdDbStub*> m_mlines;
     std::vector<JoinWall> m_walls; // as they are now
     JoinPlan m_plan;

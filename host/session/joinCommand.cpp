@@ -46,7 +46,12 @@ void askKind(const wchar_t* prompt, JoinKind& kind) {
 
 void askTolerance(JoinOptions& options) {
     double tolerance = 0.0;
-    if (kdedGetReal(L"Tolerance in drawing units: ", &tolerance) != kPromptNormal) {
+    kdedInitGet(0, L"Automatic");
+    const int status = kdedGetReal(L"Tolerance in drawing units or Automatic: ", &tolerance);
+    if (status == kPromptKeyword) {
+        options.tolerance.reset();
+    }
+    if (status != kPromptNormal) {
         return;
     }
     if (tolerance >= 0.0) {
@@ -106,7 +111,7 @@ void lookAhead(Session& session, const std::vector<KdDbStub*>& mlines, const Joi
 
 void joinCommand(Session& session) {
     const auto selection = askSelection(session, SelectionKind::mlines, true);
-    if (!selection) {
+    if (!selection || (selection->entities.empty() && !selection->isEmptyAnswer)) {
         return;
     }
     DatabaseCore& core = session.database().core();

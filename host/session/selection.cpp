@@ -99,12 +99,16 @@ std::optional<Entities> askLayer(Session& session) {
 // A selection while it is made.
 class SelectionInProgress {
 public:
-    explicit SelectionInProgress(Session& session) : m_session(session) {}
+    SelectionInProgress(Session& session, SelectionKind kind) : m_session(session), m_kind(kind) {}
+    ~SelectionInProgress() { m_session.selectionMemory().progress.reset(); }
+    SelectionInProgress(const SelectionInProgress&) = delete;
+    SelectionInProgress& operator=(const SelectionInProgress&) = delete;
 
     // False for a cancel.
-    bool ask(SelectionKind kind) {
-        const wchar_t* const what = kind == SelectionKind::mlines ? L"multilines" : L"entities";
+    bool ask() {
+        const wchar_t* const what = m_kind == SelectionKind::mlines ? L"multilines" : L"entities";
         for (;;) {
+            publish();
             kdedInitGet(0, kKeywords);
             const std::wstring prompt =
                 (m_removes ? L"Remove " : L"Select ") + std::wstring(what) +
@@ -122,20 +126,16 @@ public:
             case PromptAnswer::Kind::handle:
                 takePick(answer);
                 break;
-            case PromptAnswer::Kind::box:
-                take(inBox(m_session, boxOf(answer.point, answer.corner), answer.isCrossing),
-                     answer.takesAway);
-                break;
             default:
                 return false;
             }
         }
     }
 
-    void take(const Entities& entities, bool takesAway) {
+    void take(const Entities& entities) {
         m_isUntouched = false;
         for (KdDbStub* const entity : entities) {
-            if (m_removes || takesAway) {
+            if (m_removes) {
                 m_selected.erase(entity);
             } else if (!entity->erased) {
                 m_selected.insert(entity);
@@ -170,7 +170,7 @@ private:
             found = askBox(m_session, keyword == L"Crossing");
         }
         if (found) {
-            take(*found, false);
+            take(*found);
         }
         return found.has_value();
     }
@@ -182,10 +182,22 @@ private:
             kdutPrintf(L"Nothing found there.");
             return;
         }
-        take({found}, answer.takesAway);
+        take({found});
+    }
+
+    // Before each question, for a window.
+    void publish() {
+        SelectionProgress progress{entities(), m_kind == SelectionKind::mlines, m_removes,
+                                   m_isUntouched};
+        if (progress.takesMlines) {
+            std::erase_if(progress.entities,
+                          [](const KdDbStub* entity) { return entity->kind != ObjectKind::mline; });
+        }
+        m_session.selectionMemory().progress = std::move(progress);
     }
 
     Session& m_session;
+    SelectionKind m_kind;
     std::unordered_set<KdDbStub*> m_selected;
     bool m_removes = false;
     bool m_isUntouched = true;
@@ -232,11 +244,11 @@ private:
 } // namespace
 
 std::optional<Selection> askSelection(Session& session, SelectionKind kind, bool emptyMeansAll) {
-    SelectionInProgress progress(session);
+    SelectionInProgress progress(session, kind);
     SelectionMemory& memory = session.selectionMemory();
     if (!memory.chosen.empty()) {
-        progress.take(std::exchange(memory.chosen, {}), false);
-    } else if (!progress.ask(kind)) {
+        progress.take(std::exchange(memory.chosen, {}));
+    } else if (!progress.ask()) {
         return std::nullopt;
     }
     Selection selection;

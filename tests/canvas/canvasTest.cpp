@@ -51,16 +51,19 @@ TEST_F(CanvasFixture, theWheelLeadsBackFromWhereOnlyCommandsLead) {
     }
 }
 
-TEST_F(CanvasFixture, pansWithTheMiddleButtonAndWithShift) {
+TEST_F(CanvasFixture, pansWithTheMiddleButtonAndByADragWithCtrl) {
     const PlanPoint place = planAt({200, 200});
     drag({200, 200}, {260, 170}, Qt::MiddleButton);
     EXPECT_NEAR(planAt({260, 170}).x, place.x, 1e-9);
     EXPECT_NEAR(planAt({260, 170}).y, place.y, 1e-9);
     QSignalSpy clicks(&canvas, &Canvas::clicked);
     canvas.setAim({.kind = AimKind::point});
-    drag({260, 170}, {200, 200}, Qt::LeftButton, Qt::ShiftModifier);
+    drag({260, 170}, {200, 200}, Qt::LeftButton, Qt::ControlModifier);
     EXPECT_NEAR(planAt({200, 200}).x, place.x, 1e-9);
     EXPECT_EQ(clicks.count(), 0);
+    drag({200, 200}, {201, 201}, Qt::LeftButton, Qt::ControlModifier); // below 3 pixels
+    EXPECT_EQ(clicks.count(), 1);
+    EXPECT_NEAR(planAt({200, 200}).x, place.x, 1e-9);
     mouse(QEvent::MouseButtonDblClick, {5, 5}, Qt::MiddleButton);
     settle();
     EXPECT_NEAR(session->view().center().x,
@@ -111,6 +114,66 @@ TEST_F(CanvasFixture, clicksTellThePlanOnlyWhenSomethingAsks) {
     QTest::keyClick(&canvas, Qt::Key_M);
     EXPECT_EQ(rightClicks.count(), 1);
     EXPECT_EQ(keys.count(), 1);
+}
+
+// What each press, drag and click of a selection means; Shift and direction go with it.
+TEST_F(CanvasFixture, selectionsAreMadeByClicksAndWindows) {
+    QSignalSpy picks(&canvas, &Canvas::picked);
+    std::vector<std::pair<double, bool>> windows; // width with its sign, takes away
+    QObject::connect(&canvas, &Canvas::windowDrawn,
+                     [&](PlanPoint first, PlanPoint second, bool away) {
+                         windows.emplace_back(second.x - first.x, away);
+                     });
+    canvas.setAim({.kind = AimKind::selection});
+    const QPoint wall = pixelAt({5000.0, 0.0});
+    const QPoint empty(3, 3);
+    const double unit = session->view().unitsPerPixel();
+
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, wall);
+    QTest::mouseClick(&canvas, Qt::LeftButton, Qt::ShiftModifier, wall + QPoint(0, 1));
+    ASSERT_EQ(picks.count(), 2);
+    EXPECT_FALSE(picks[0][2].toBool());
+    EXPECT_TRUE(picks[1][2].toBool());
+
+    drag(wall, wall + QPoint(50, 40), Qt::LeftButton); // a drag may start on an entity
+    drag({60, 60}, {20, 90}, Qt::LeftButton, Qt::ShiftModifier);
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, empty);
+    EXPECT_EQ(windows.size(), 2U) << "the first click beside all is a corner";
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, {103, 50});
+    ASSERT_EQ(windows.size(), 3U);
+    EXPECT_NEAR(windows[0].first, 50 * unit, 1e-6);
+    EXPECT_NEAR(windows[1].first, -40 * unit, 1e-6);
+    EXPECT_NEAR(windows[2].first, 100 * unit, 1e-6);
+    EXPECT_EQ((std::vector<bool>{windows[0].second, windows[1].second, windows[2].second}),
+              (std::vector<bool>{false, true, false}));
+
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, empty);
+    EXPECT_TRUE(canvas.dropWindow());
+    EXPECT_FALSE(canvas.dropWindow());
+    EXPECT_EQ(picks.count(), 2);
+    EXPECT_EQ(windows.size(), 3U);
+}
+
+TEST_F(CanvasFixture, selectedEntitiesAndMarksAreShownUntilTheyAreTakenAway) {
+    const QImage plain = picture();
+    KdDbStub* const wall = session->scene().entityAt({5000.0, 0.0, 0.0}, 50);
+    ASSERT_NE(wall, nullptr);
+    canvas.setSelected({wall});
+    const QImage selected = picture();
+    EXPECT_NE(selected, plain);
+    const QPoint corner(40, 450);
+    canvas.setSelected({});
+    canvas.setMarks({{planAt(corner), MarkKind::left}});
+    QImage marked = picture();
+    EXPECT_NE(marked.pixel(corner), plain.pixel(corner));
+    for (int y = corner.y() - 10; y <= corner.y() + 10; ++y) { // and nowhere else
+        for (int x = corner.x() - 10; x <= corner.x() + 10; ++x) {
+            marked.setPixel(x, y, plain.pixel(x, y));
+        }
+    }
+    EXPECT_EQ(marked, plain);
+    canvas.setMarks({});
+    EXPECT_EQ(picture(), plain);
 }
 
 TEST_F(CanvasFixture, sessionsMayBeSwappedAndRemoved) {

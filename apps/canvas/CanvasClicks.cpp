@@ -1,0 +1,105 @@
+// What the left button does while something asks: clicks, drags, windows of a selection.
+
+#include "CanvasState.h"
+#include "canvasMarks.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orvex {
+
+void Canvas::State::startPan(const QPoint& pixel, Qt::MouseButton button) {
+    panFrom = pixel;
+    panButton = button;
+    history.leave(stateOf(view()));
+    dropHighlight();
+    updateCursorShape();
+}
+
+void Canvas::State::pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifiers) {
+    const bool takesAway = (modifiers & Qt::ShiftModifier) != 0;
+    if ((modifiers & Qt::ControlModifier) != 0) {
+        press = {pixel, modifiers}; // a pan, if it goes on as a drag
+    } else if (windowStep == WindowStep::first) {
+        windowStep = WindowStep::second;
+        windowCorner = pixel;
+    } else if (windowStep == WindowStep::second) {
+        endWindow(pixel);
+    } else if (selectionFrom) {
+        endSelectionWindow(takesAway);
+    } else if (aim.kind == AimKind::selection) {
+        press = {pixel, modifiers};
+    } else {
+        click({planAt(pixel), takesAway});
+    }
+}
+
+// Whoever takes a click may do anything.
+void Canvas::State::click(const Click& click) {
+    if (aim.kind == AimKind::none) {
+        return;
+    }
+    if (aim.kind != AimKind::point && !session->scene().prepareSome({})) {
+        waitingClick = click; // a pick would take as long as the rest of the index
+        startWork();
+    } else if (aim.kind != AimKind::selection) {
+        emit canvas.clicked(click.at.x, click.at.y);
+    } else if (session->scene().entityAt({click.at.x, click.at.y, 0.0}, aim.pickBox) != nullptr) {
+        emit canvas.picked(click.at.x, click.at.y, click.takesAway);
+    } else {
+        startSelectionWindow(click.at, false);
+    }
+}
+
+void Canvas::State::startDrag(const Press& from) {
+    if ((from.modifiers & Qt::ControlModifier) != 0) {
+        startPan(from.at, Qt::LeftButton);
+    } else {
+        startSelectionWindow(planAt(from.at), true);
+    }
+}
+
+void Canvas::State::startSelectionWindow(PlanPoint corner, bool isDragged) {
+    selectionFrom = corner;
+    isSelectionDragged = isDragged;
+    windowCount.reset();
+    isWindowCountStale = true;
+    dropHighlight();
+    startWork();
+    canvas.update();
+}
+
+void Canvas::State::endSelectionWindow(bool takesAway) {
+    const PlanPoint first = *selectionFrom;
+    const PlanPoint second = planAtCursor();
+    stopWindow();
+    emit canvas.windowDrawn(first, second, takesAway);
+}
+
+// The scene is up to date.
+void Canvas::State::updateWindowCount() {
+    isWindowCountStale = false;
+    if (!selectionFrom || !cursor) {
+        return;
+    }
+    const PlanPoint second = planAtCursor();
+    PlanBox box;
+    box.include(*selectionFrom);
+    box.include(second);
+    Scene& scene = session->scene();
+    const auto found = isCrossingWindow(selectionFrom->x, second.x) ? scene.entitiesTouching(box)
+                                                                    : scene.entitiesWithin(box);
+    windowCount = static_cast<std::size_t>(
+        std::count_if(found.begin(), found.end(),
+                      [this](const KdDbStub* entity) { return !aim.takes || aim.takes(*entity); }));
+    canvas.update();
+}
+
+QString Canvas::State::windowWords() const {
+    const QString count = windowCount ? QString::number(*windowCount) : QString(QChar(0x2026));
+    return (isCrossingWindow(selectionFrom->x, planAtCursor().x) ? Canvas::tr("%1 touched")
+                                                                 : Canvas::tr("%1 within"))
+        .arg(count);
+}
+
+} // namespace orvex

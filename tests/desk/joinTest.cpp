@@ -1,0 +1,227 @@
+#include "DeskFixture.h"
+
+#include <QCheckBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRegularExpression>
+
+#include <utility>
+
+namespace orvex::testing {
+
+namespace {
+
+// Walls drawn by hand: a cross, a tee that is short, and one wall twice.
+class JoinFixture : public DeskFixture {
+protected:
+    static constexpr const char* kWalls = "MLINE\nS\n20\n0,0\n400,0\n\n"
+                                          "MLINE\n100,-100\n100,100\n\n"
+                                          "MLINE\n300,100\n300,4\n\n"
+                                          "MLINE\n600,0\n700,0\n\nMLINE\n600,0\n700,0\n\n";
+
+    std::deque<Step> drawWalls() {
+        std::deque<Step> all{trigger("new")};
+        const QStringList lines = QString(kWalls).split('\n');
+        for (int i = 0; i + 1 < lines.size(); ++i) {
+            all.push_back(type(lines[i]));
+        }
+        all.push_back([this] { showPlan(); });
+        return all;
+    }
+    std::deque<Step> then(std::deque<Step> all, std::deque<Step> more) {
+        all.insert(all.end(), more.begin(), more.end());
+        return all;
+    }
+    void showPlan() {
+        window->session()->view().setView({350.0, 0.0}, 800.0);
+        canvas()->viewChanged();
+    }
+
+    [[nodiscard]] QPoint pixelAt(double x, double y) const {
+        const PlanPoint pixel = window->session()->view().toPixels({x, y});
+        return {static_cast<int>(pixel.x), static_cast<int>(pixel.y)};
+    }
+    Step click(const char* name) {
+        return [this, name] {
+            auto* const button = window->findChild<QAbstractButton*>(name);
+            ASSERT_NE(button, nullptr) << name;
+            EXPECT_TRUE(button->isEnabled()) << name;
+            QTest::mouseClick(button, Qt::LeftButton);
+        };
+    }
+    Step clickAt(double x, double y, Qt::KeyboardModifiers modifiers = {}) {
+        return [this, x, y, modifiers] {
+            QTest::mouseClick(canvas(), Qt::LeftButton, modifiers, pixelAt(x, y));
+        };
+    }
+    Step drag(PlanPoint from, PlanPoint to, Qt::KeyboardModifiers modifiers = {}) {
+        return [this, from, to, modifiers] {
+            QTest::mousePress(canvas(), Qt::LeftButton, modifiers, pixelAt(from.x, from.y));
+            const QPoint end = pixelAt(to.x, to.y);
+            QMouseEvent move(QEvent::MouseMove, end, canvas()->mapToGlobal(end), Qt::NoButton,
+                             Qt::LeftButton, modifiers);
+            QCoreApplication::sendEvent(canvas(), &move);
+            QTest::mouseRelease(canvas(), Qt::LeftButton, modifiers, end);
+        };
+    }
+    Step selects(std::size_t count) {
+        return [this, count] { EXPECT_EQ(canvas()->selected().size(), count); };
+    }
+    [[nodiscard]] QString summary() const {
+        return window->findChild<QLabel*>("joinSummary")->text();
+    }
+    [[nodiscard]] std::pair<int, int> marks() const { // planned, left
+        std::pair<int, int> counts;
+        for (const CanvasMark& mark : canvas()->marks()) {
+            ++(mark.kind == MarkKind::planned ? counts.first : counts.second);
+        }
+        return counts;
+    }
+    [[nodiscard]] std::string bytes() const { return window->session()->drawing().bytes(); }
+    // What was typed and clicked, without what was said.
+    [[nodiscard]] std::string commands() const {
+        QString text = QString::fromStdString(script()).replace("*Cancel*", "*CANCEL*");
+        return text.remove(QRegularExpression("left, [^\n]*\n")).toStdString();
+    }
+    std::string bytesOfNewByScript(const std::string& text) {
+        window.reset();
+        ScriptSource source(text, [](const std::wstring&) {});
+        SessionSetup setup;
+        setup.drawing = DrawingFile::create();
+        setup.source = &source;
+        Session session(std::move(setup), modules);
+        while (!source.atEnd()) {
+            const std::wstring command = session.askCommand();
+            if (!command.empty()) {
+                EXPECT_FALSE(session.run(command)) << narrow(command);
+            }
+        }
+        EXPECT_FALSE(source.failure()) << narrow(source.failure()->text);
+        return session.drawing().bytes();
+    }
+};
+
+TEST_F(JoinFixture, clicksAndWindowsSelectWhatTheirScriptSelects) {
+    play(then(drawWalls(),
+              {
+                  type("MLJOIN"),
+                  clickAt(200, 0),
+                  selects(1),
+                  clickAt(200, 0, Qt::ShiftModifier),
+                  selects(0),
+                  drag({-50, 150}, {450, -150}), // within: the first three
+                  selects(3),
+                  drag({320, 60}, {280, 40}, Qt::ShiftModifier), // touches the third
+                  selects(2),
+                  drag({610, 10}, {590, -10}),
+                  selects(4),
+                  drag({590, 10}, {610, -10}), // within: none
+                  selects(4),
+                  clickAt(500, 200), // beside all: a corner, which Escape gives up first
+                  key(Qt::Key_Escape),
+                  [this] { EXPECT_EQ(canvas()->aim().kind, AimKind::selection); },
+                  key(Qt::Key_Return),
+                  selects(0),
+                  key(Qt::Key_Return),
+                  [this] { EXPECT_TRUE(history().contains("1 joined, 1 left")); },
+                  type("MLJOIN"),
+                  type("P"),
+                  selects(4),
+                  key(Qt::Key_Escape),
+              }));
+    EXPECT_TRUE(history().contains("Remove"));
+    EXPECT_TRUE(history().contains(" #"));
+    const std::string drawn = bytes();
+    EXPECT_EQ(bytesOfNewByScript(commands()), drawn);
+}
+
+TEST_F(JoinFixture, thePanelJoinsAsItsEchoDoes) {
+    std::string before;
+    play(then(drawWalls(),
+              {
+                  [this, &before] { before = bytes(); },
+                  trigger("mljoin"),
+                  click("joinGo"), // all
+                  [this] {
+                      EXPECT_TRUE(summary().startsWith("2 joints to make: 1 cross, 1 tee"))
+                          << summary().toStdString();
+                      EXPECT_EQ(marks(), std::pair(2, 1));
+                  },
+                  click("joinCrossNone"),
+                  click("joinTeeMerged"),
+                  click("joinCorners"),
+                  [this, &before] {
+                      EXPECT_TRUE(summary().startsWith("1 joint to make: 1 tee"));
+                      EXPECT_EQ(marks(), std::pair(1, 1));
+                      EXPECT_EQ(bytes(), before);
+                      auto& tolerance = *window->findChild<QLineEdit*>("joinTolerance");
+                      tolerance.setFocus();
+                      QTest::keyClicks(&tolerance, "0.5"); // the stem is 4 short
+                      QTest::keyClick(&tolerance, Qt::Key_Return);
+                  },
+                  [this] {
+                      EXPECT_EQ(marks().first, 0) << summary().toStdString();
+                      auto& tolerance = *window->findChild<QLineEdit*>("joinTolerance");
+                      tolerance.setFocus();
+                      tolerance.clear();
+                      QTest::keyClick(&tolerance, Qt::Key_Return);
+                  },
+                  [this] { EXPECT_EQ(marks().first, 1); },
+                  click("joinGo"),
+                  [this, &before] {
+                      EXPECT_TRUE(summary().startsWith("1 joint was made: 1 tee"))
+                          << summary().toStdString();
+                      EXPECT_EQ(marks(), std::pair(0, 1)) << "until the next command";
+                      EXPECT_NE(bytes(), before);
+                  },
+              }));
+    const std::string joined = bytes();
+    const double height = window->session()->view().viewHeight();
+    play({
+        [this] {
+            auto& list = *window->findChild<QListWidget*>("joinLeft");
+            ASSERT_EQ(list.count(), 1);
+            EXPECT_TRUE(list.item(0)->text().contains("stands here twice"));
+            emit list.itemClicked(list.item(0));
+        },
+        [this, height] {
+            EXPECT_LT(window->session()->view().viewHeight(), height);
+            EXPECT_NEAR(window->session()->view().center().x, 650.0, 20.0);
+        },
+        trigger("undo"),
+        [this, &before] {
+            EXPECT_EQ(bytes(), before) << "one step";
+            EXPECT_EQ(marks(), std::pair(0, 0));
+        },
+    });
+    const QString typed = QString::fromStdString(commands());
+    EXPECT_EQ(bytesOfNewByScript(typed.left(typed.lastIndexOf("U\n")).toStdString()), joined);
+}
+
+TEST_F(JoinFixture, aCancelledJoinLeavesNoMarksAndASelectionJoinsItselfAlone) {
+    play(then(drawWalls(), {
+                               trigger("mljoin"),
+                               drag({-50, 150}, {450, -150}),
+                               [this] {
+                                   EXPECT_EQ(window->findChild<QPushButton*>("joinGo")->text(),
+                                             "Take the 3 selected");
+                               },
+                               click("joinGo"),
+                               [this] { EXPECT_EQ(marks(), std::pair(2, 0)); },
+                               click("joinCancel"),
+                               trigger("mljoin"),
+                               drag({500, 150}, {510, 140}), // nothing there
+                               click("joinGo"),              // "all" still means all
+                               [this] { EXPECT_EQ(marks(), std::pair(2, 1)); },
+                               click("joinCancel"),
+                               [this] {
+                                   EXPECT_EQ(marks(), std::pair(0, 0));
+                                   EXPECT_EQ(prompt(), "Command:");
+                                   EXPECT_TRUE(summary().isEmpty());
+                               },
+                           }));
+}
+
+} // namespace
+
+} // namespace orvex::testing
