@@ -138,6 +138,8 @@ TEST(SpaceCrossing, ofVerticals) {
               {"above the second", "0,0,0 8,0,8", "6,0,0 6,0,5", 1, "6,0,6"},
               {"past the first", "0,0,0 8,0,8", "9,0,0 9,0,20", 2, "9,0,9"},
               {"off the line", "0,0,1 8,4,1", "2,2,0 2,2,5", -4, kUnwritten},
+              {"beside a line along y", "2,0,0 2,8,8", "3,4,0 3,4,9", -4, kUnwritten},
+              {"beside a line along x", "0,2,0 8,2,8", "4,3,0 4,3,9", -4, kUnwritten},
               {"at the first's end", "0,0,1 8,4,1", "8,4,0 8,4,5", 3, "8,4,1"},
               // Off the line, but equal to the first's end for coordinates of a million.
               {"far", "1e6,1e6,0 1000001,1000001,1", "1000001.05,1000001,0 1000001.05,1000001,5", 3,
