@@ -4,13 +4,13 @@
 
 namespace orvex {
 
-namespace {
-
 std::string numberText(double value) {
     char buffer[32];
     const auto end = std::to_chars(buffer, buffer + sizeof(buffer), value).ptr;
     return {buffer, end};
 }
+
+namespace {
 
 std::string what(const Finding& finding) {
     switch (finding.code) {

@@ -17,4 +17,7 @@ const char* nameOf(FindingResult result);
 // For the user, without the result: "vertex 2, element 1: position 5, should be 7.5".
 std::string textOf(const Finding& finding);
 
+// The shortest text that reads back as the same number.
+std::string numberText(double value);
+
 } // namespace orvex

@@ -54,6 +54,12 @@ void reverseCommand(Session& session);
 void changeCommand(Session& session);
 // Two names: all multilines of the one style take the other.
 void restyleCommand(Session& session);
+// A pick, one point or two: parts a multiline, without what lies between.
+void breakCommand(Session& session);
+// Two picks: makes one multiline of two whose ends meet.
+void connectCommand(Session& session);
+// A selection: tells what its multilines are.
+void listCommand(Session& session);
 
 // Tells the current source that its last answer can't be taken.
 void rejectAnswer(const std::wstring& reason);

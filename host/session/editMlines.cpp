@@ -5,6 +5,7 @@
 #include "KdDbMline.h"
 #include "commandOutput.h"
 #include "handleText.h"
+#include "kddbObjects.h"
 #include "mlineEdits.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -51,6 +52,27 @@ KdDbStub& addMline(const KdDbStub& original, MlineContent content) {
     KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, block.record);
     core.blocks().appendEntity(block, stub);
     return stub;
+}
+
+std::optional<PickedMline> pickMline(const wchar_t* prompt) {
+    long name[2] = {0, 0};
+    double point[3] = {0.0, 0.0, 0.0};
+    const int status = kdedEntSel(prompt, name, point);
+    if (status != kPromptNormal) {
+        if (status == kPromptError) {
+            kdutPrintf(L"Nothing found there.");
+        }
+        return std::nullopt;
+    }
+    KdDbObjectId id;
+    kddbGetObjectId(id, name);
+    PickedMline picked{id.stub(), nullptr, userToWorld({point[0], point[1], point[2]})};
+    picked.content = picked.stub != nullptr ? contentOf(*picked.stub) : nullptr;
+    if (picked.content == nullptr || picked.content->vertices.empty()) {
+        kdutPrintf(L"That isn't a multiline with a chain.");
+        return std::nullopt;
+    }
+    return picked;
 }
 
 std::optional<KdGePoint3d> askPoint(const wchar_t* prompt, const std::optional<KdGePoint3d>& base) {

@@ -5,6 +5,7 @@
 #include "MlineContent.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -29,6 +30,14 @@ void tellCount(std::size_t count, std::size_t all, const std::string& done);
 
 // A new entity in the block of `original`.
 KdDbStub& addMline(const KdDbStub& original, MlineContent content);
+
+struct PickedMline {
+    KdDbStub* stub = nullptr;
+    std::shared_ptr<const MlineContent> content;
+    KdGePoint3d place; // world
+};
+// Nothing for a cancel, and where there is no multiline to change, which is told.
+std::optional<PickedMline> pickMline(const wchar_t* prompt);
 
 // In world coordinates; a window draws a line from `base`. Nothing for an empty line or a cancel.
 std::optional<KdGePoint3d> askPoint(const wchar_t* prompt,

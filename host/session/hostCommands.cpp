@@ -10,23 +10,16 @@ namespace orvex {
 namespace {
 
 constexpr std::array kCommands = {
-    HostCommand{L"COPY", copyCommand},
-    HostCommand{L"ERASE", eraseCommand},
-    HostCommand{L"MIRROR", mirrorCommand},
-    HostCommand{L"MLAUDIT", auditCommand},
-    HostCommand{L"MLCHANGE", changeCommand},
-    HostCommand{L"MLRESTYLE", restyleCommand},
-    HostCommand{L"MLEND", moveEndCommand},
-    HostCommand{L"MLINE", mlineCommand},
-    HostCommand{L"MLJOIN", joinCommand},
-    HostCommand{L"MLLAY", layRightCommand},
-    HostCommand{L"MLSTOPS", elementBreaksCommand},
-    HostCommand{L"MOVE", moveCommand},
-    HostCommand{L"REVERSE", reverseCommand},
-    HostCommand{L"STRETCH", stretchCommand},
-    HostCommand{L"ROTATE", rotateCommand},
-    HostCommand{L"SETVAR", setVariableCommand},
-    HostCommand{L"ZOOM", zoomCommand},
+    HostCommand{L"COPY", copyCommand},          HostCommand{L"ERASE", eraseCommand},
+    HostCommand{L"MIRROR", mirrorCommand},      HostCommand{L"MLAUDIT", auditCommand},
+    HostCommand{L"MLCHANGE", changeCommand},    HostCommand{L"MLRESTYLE", restyleCommand},
+    HostCommand{L"MLBREAK", breakCommand},      HostCommand{L"MLCONNECT", connectCommand},
+    HostCommand{L"LIST", listCommand},          HostCommand{L"MLEND", moveEndCommand},
+    HostCommand{L"MLINE", mlineCommand},        HostCommand{L"MLJOIN", joinCommand},
+    HostCommand{L"MLLAY", layRightCommand},     HostCommand{L"MLSTOPS", elementBreaksCommand},
+    HostCommand{L"MOVE", moveCommand},          HostCommand{L"REVERSE", reverseCommand},
+    HostCommand{L"STRETCH", stretchCommand},    HostCommand{L"ROTATE", rotateCommand},
+    HostCommand{L"SETVAR", setVariableCommand}, HostCommand{L"ZOOM", zoomCommand},
 };
 
 } // namespace

@@ -161,6 +161,35 @@ class Edits:
         ends = [[[round(value, 9) for value in vertex["miter"]] for vertex in mline["vertices"]] for mline in (before, after)]
         self.expect("opened again", (chain(after), after["flags"], ends[1]), (chain(before), before["flags"], ends[0]))
 
+    def parting(self):
+        pick = f"MLBREAK\n50,0.5 #{self.handles[0]}\n"
+        # In the gap the lower element goes on, so that it isn't a gap of all.
+        for script, ends in ((pick + "35,0\n\n", [35, 35]), (pick + "70,3\n50,-3\n", [50, 70])):
+            found = self.edited(script)
+            self.expect(script, [chain(mline) for mline in found if mline["vertices"][0]["position"][1] == 0],
+                        [[[0, 0], [ends[0], 0]], [[ends[1], 0], [100, 0]]])
+        self.expect("gap", line(found[0], 0, 0), [0.5, 0, 30, 40])
+        cut = f"-MLEDIT\nCA\n50,20.5 #{self.handles[1]}\n60,20.5 #{self.handles[1]}\n\n*CANCEL*\n"
+        self.play(cut + f"MLBREAK\n10,20.5 #{self.handles[1]}\n55,20\n\n")
+        found = listed(self.program, self.out)["multilines"]
+        self.expect("at a gap", [chain(found[1]), chain(found[3])], [[[0, 20], [50, 20]], [[60, 20], [100, 20]]])
+        self.expect("lists", (line(found[1], 0, 0), line(found[3], 0, 0)), ([0.5, 0], [0.5, 0]))
+        found = self.edited(pick + "0,0\n20,0\n")
+        self.expect("cut off", (chain(found[0]), line(found[0], 0, 0)), ([[20, 0], [100, 0]], [0.5, 0, 10, 20]))
+        self.unchanged(pick + "0,0\n\n", "ends there already")
+        self.unchanged(pick + "-5,0\n200,0\n", "nothing would be left")
+        parted = self.play(pick + "70,0\n\nMLCONNECT\n50,0.5\n90,0.5\n")
+        found = listed(self.program, self.out)["multilines"]
+        self.expect("one again " + parted, [chain(mline) for mline in found][0], [[0, 0], [70, 0], [100, 0]])
+        self.expect("as many", len(found), 3)
+        self.play(pick + "70,0\n\nMLCONNECT\n50,0.5\n90,0.5\nU\nU\n")
+        self.expect("bytes after U", self.out.read_bytes() == self.bytes, True)
+        self.unchanged(f"MLCONNECT\n50,-0.5\n50,20.5\n", "don't meet")
+        self.unchanged(f"MLCONNECT\n50,-0.5\n60,-0.5\n", "picked twice")
+        told = self.play("LIST\nALL\n\n")
+        self.report.check(f"multiline {self.handles[0]}: style Standard, scale 1, zero, open, layer 0, 2 vertices, length 100"
+                          in told and "2 other than multilines" in told, told)
+
 
 def main():
     with tempfile.TemporaryDirectory() as folder:
@@ -170,6 +199,7 @@ def main():
         edits.reshaping()
         edits.settings()
         edits.closing()
+        edits.parting()
         edits.report.finish()
 
 

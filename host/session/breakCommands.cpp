@@ -1,0 +1,69 @@
+// MLBREAK and MLCONNECT: two multilines of one, and one of two.
+
+#include "DatabaseCore.h"
+#include "HostCommand.h"
+#include "KdDbStub.h"
+#include "breakMline.h"
+#include "editMlines.h"
+#include "mlineEdits.h"
+#include "promptLibrary.h"
+#include "promptStatus.h"
+#include "userFrame.h"
+
+namespace orvex {
+
+namespace {
+
+// False for a cancel; an empty line leaves the point open.
+bool askSecond(const KdGePoint3d& first, std::optional<KdGePoint3d>& second) {
+    const KdGePoint3d base = worldToUser(first);
+    const double from[3] = {base.x, base.y, base.z};
+    double point[3] = {0.0, 0.0, 0.0};
+    const int status = kdedGetPoint(from, L"Second point, Enter for none: ", point);
+    if (status == kPromptNormal) {
+        second = userToWorld({point[0], point[1], point[2]});
+    }
+    return status == kPromptNormal || status == kPromptNone;
+}
+
+} // namespace
+
+void breakCommand(Session& /*session*/) {
+    const auto picked = pickMline(L"Multiline to break: ");
+    const auto first = picked ? askPoint(L"Point: ") : std::nullopt;
+    std::optional<KdGePoint3d> second;
+    if (!first || !askSecond(*first, second)) {
+        return;
+    }
+    Result<std::vector<MlineContent>> parts = broken(*picked->content, *first, second);
+    if (!parts) {
+        tellRefusal(*picked->stub, parts.failure().text);
+        return;
+    }
+    if (parts->size() > 1) {
+        addMline(*picked->stub, std::move(parts->back()));
+    }
+    storeContent(*picked->stub, std::move(parts->front()));
+}
+
+void connectCommand(Session& /*session*/) {
+    const auto first = pickMline(L"First multiline: ");
+    const auto second = first ? pickMline(L"Second multiline: ") : std::nullopt;
+    if (!second) {
+        return;
+    }
+    if (first->stub == second->stub) {
+        tellRefusal(*first->stub, "it was picked twice");
+        return;
+    }
+    Result<MlineContent> one = connected(*first->content, *second->content);
+    if (!one) {
+        tellRefusal(*first->stub, one.failure().text);
+        return;
+    }
+    one->traits = first->content->traits;
+    storeContent(*first->stub, std::move(*one));
+    second->stub->database->erase(*second->stub);
+}
+
+} // namespace orvex
