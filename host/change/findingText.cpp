@@ -6,7 +6,7 @@ namespace orvex {
 
 std::string numberText(double value) {
     char buffer[32];
-    const auto end = std::to_chars(buffer, buffer + sizeof(buffer), value).ptr;
+    auto* const end = std::to_chars(buffer, buffer + sizeof(buffer), value).ptr;
     return {buffer, end};
 }
 
