@@ -66,6 +66,8 @@ struct Options {
     ListCall list;
     JoinCall join;
     AuditCall audit;
+    ConvertCall convert;
+    std::string form;
     std::string tolerance;
     std::string cross = "open";
     std::string tee = "open";
@@ -108,6 +110,17 @@ CLI::App* addAudit(CLI::App& app, AuditCall& call) {
     verb->add_option("DRAWING", call.drawing, "The drawing to open")->required();
     verb->add_option("--output", call.output, "Lay right what can be, and save the result here");
     verb->add_flag("--json", call.asJson, "Print JSON, for programs");
+    return verb;
+}
+
+CLI::App* addConvert(CLI::App& app, Options& options) {
+    CLI::App* const verb =
+        app.add_subcommand("convert", "Write the text or the binary form of a drawing");
+    verb->add_option("DRAWING", options.convert.drawing, "The drawing to open")->required();
+    verb->add_option("--to", options.form, "text or binary")
+        ->required()
+        ->check(CLI::IsMember({"text", "binary"}));
+    verb->add_option("--output", options.convert.output, "Where to save the result")->required();
     return verb;
 }
 
@@ -162,6 +175,7 @@ BatchCall parseBatchCall(int argc, const char* const* argv) {
     addList(app, options.list);
     const CLI::App* const join = addJoin(app, options);
     const CLI::App* const audit = addAudit(app, options.audit);
+    const CLI::App* const convert = addConvert(app, options);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForVersion& request) {
@@ -171,8 +185,8 @@ BatchCall parseBatchCall(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& error) {
         const bool hasVerb = !app.get_subcommands().empty();
         return AnsweredCall{
-            true,
-            hasVerb ? error.what() : "the first argument has to be run, show, list, join or audit"};
+            true, hasVerb ? error.what()
+                          : "the first argument has to be run, show, list, join, audit or convert"};
     }
     if (run->parsed()) {
         return options.run;
@@ -182,6 +196,10 @@ BatchCall parseBatchCall(int argc, const char* const* argv) {
     }
     if (audit->parsed()) {
         return options.audit;
+    }
+    if (convert->parsed()) {
+        options.convert.form = options.form == "text" ? DrawingForm::text : DrawingForm::binary;
+        return options.convert;
     }
     if (show->parsed()) {
         options.show.size = *parseSize(options.size);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DrawingConversion.h"
 #include "JoinPlace.h"
 #include "pictureWriter.h"
 
@@ -46,13 +47,20 @@ struct AuditCall {
     bool asJson = false;
 };
 
+struct ConvertCall {
+    std::string drawing;
+    std::string output;
+    DrawingForm form = DrawingForm::text;
+};
+
 // A call that is answered at once, by help, the version, or a complaint.
 struct AnsweredCall {
     bool isWrong = false;
     std::string text;
 };
 
-using BatchCall = std::variant<RunCall, ShowCall, ListCall, JoinCall, AuditCall, AnsweredCall>;
+using BatchCall =
+    std::variant<RunCall, ShowCall, ListCall, JoinCall, AuditCall, ConvertCall, AnsweredCall>;
 
 BatchCall parseBatchCall(int argc, const char* const* argv);
 

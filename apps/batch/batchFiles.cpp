@@ -8,6 +8,12 @@ void complain(const std::string& text) {
     std::fprintf(stderr, "orvex-batch: %s\n", text.c_str());
 }
 
+void printWarnings(const std::string& path, const std::vector<DrawingWarning>& warnings) {
+    for (const DrawingWarning& warning : warnings) {
+        complain(locatedText(path, warning.line, "warning: " + warning.text));
+    }
+}
+
 Result<std::unique_ptr<DrawingFile>> openDrawing(const std::string& path) {
     std::unique_ptr<DrawingFile> drawing;
     auto failure = withMemory(FailureCause::unreadableInput, path, [&]() -> std::optional<Failure> {
@@ -21,9 +27,7 @@ Result<std::unique_ptr<DrawingFile>> openDrawing(const std::string& path) {
     if (failure) {
         return std::move(*failure);
     }
-    for (const DrawingWarning& warning : drawing->warnings()) {
-        complain(locatedText(path, warning.line, "warning: " + warning.text));
-    }
+    printWarnings(path, drawing->warnings());
     return drawing;
 }
 

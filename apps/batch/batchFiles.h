@@ -6,10 +6,14 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace orvex {
 
-// Opens a drawing and prints its warnings to standard error.
+// Prints warnings about a drawing to standard error.
+void printWarnings(const std::string& path, const std::vector<DrawingWarning>& warnings);
+
+// Opens a drawing and prints its warnings.
 Result<std::unique_ptr<DrawingFile>> openDrawing(const std::string& path);
 
 // Nothing while all that was printed could be written.

@@ -36,6 +36,9 @@ std::optional<Failure> carryOut(const BatchCall& call) {
     if (const auto* const audit = std::get_if<AuditCall>(&call)) {
         return auditDrawing(*audit);
     }
+    if (const auto* const convert = std::get_if<ConvertCall>(&call)) {
+        return convertDrawing(*convert);
+    }
     return answer(std::get<AnsweredCall>(call));
 }
 

@@ -14,5 +14,6 @@ std::optional<Failure> showDrawing(const ShowCall& call);
 std::optional<Failure> listDrawing(const ListCall& call);
 std::optional<Failure> joinDrawing(const JoinCall& call);
 std::optional<Failure> auditDrawing(const AuditCall& call);
+std::optional<Failure> convertDrawing(const ConvertCall& call);
 
 } // namespace orvex

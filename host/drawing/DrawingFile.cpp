@@ -1,6 +1,7 @@
 #include "DrawingFile.h"
 
 #include "AtomicFile.h"
+#include "BinaryDrawing.h"
 #include "DatabaseCore.h"
 #include "DrawingDocument.h"
 #include "DrawingReader.h"
@@ -13,6 +14,17 @@
 namespace orvex {
 
 namespace {
+
+constexpr double kPartOfDecoding = 0.5; // of the opening of a binary drawing
+constexpr const char* kTailWarning = "bytes follow behind EOF";
+
+// Progress of a step that is the part [from, to] of the whole work.
+Progress partOf(const Progress& whole, double from, double to) {
+    if (!whole) {
+        return {};
+    }
+    return [&whole, from, to](double done) { return whole(from + done * (to - from)); };
+}
 
 // Enough to see what is wrong with a file in which everything is.
 void limitWarnings(std::vector<DrawingWarning>& warnings) {
@@ -33,19 +45,11 @@ DrawingFile::~DrawingFile() = default;
 Result<std::unique_ptr<DrawingFile>> DrawingFile::open(const std::string& path,
                                                        const Progress& progress) {
     constexpr double kPartOfReading = 0.2;
-    Progress ofReading;
-    Progress ofTheRest;
-    if (progress) {
-        ofReading = [&](double done) { return progress(done * kPartOfReading); };
-        ofTheRest = [&](double done) {
-            return progress(kPartOfReading + done * (1.0 - kPartOfReading));
-        };
-    }
-    auto bytes = readRegularFile(path, ofReading);
+    auto bytes = readRegularFile(path, partOf(progress, 0.0, kPartOfReading));
     if (!bytes) {
         return bytes.failure();
     }
-    auto opened = openBytes(std::move(*bytes), ofTheRest);
+    auto opened = openBytes(std::move(*bytes), partOf(progress, kPartOfReading, 1.0));
     if (!opened) {
         Failure failure = opened.failure();
         failure.file = path;
@@ -57,13 +61,31 @@ Result<std::unique_ptr<DrawingFile>> DrawingFile::open(const std::string& path,
 Result<std::unique_ptr<DrawingFile>> DrawingFile::openBytes(std::string bytes,
                                                             const Progress& progress) {
     std::unique_ptr<DrawingFile> file(new DrawingFile);
+    Progress ofReading = progress;
+    if (BinaryDrawing::isMeant(bytes)) {
+        Progress ofDecoding = partOf(progress, 0.0, kPartOfDecoding);
+        ofReading = partOf(progress, kPartOfDecoding, 1.0);
+        auto binary = BinaryDrawing::read(std::move(bytes), ofDecoding);
+        if (!binary) {
+            return binary.failure();
+        }
+        file->m_binary = std::move(*binary);
+        bytes = file->m_binary->takeText();
+    }
     file->m_document = std::make_shared<DrawingDocument>(std::move(bytes));
     DatabaseCore& core = file->m_database->core();
     core.objects().setSource(file->m_document);
-    if (auto failure = readDrawing(*file->m_document, core, progress, file->m_warnings)) {
+    if (auto failure = readDrawing(*file->m_document, core, ofReading, file->m_warnings)) {
+        failure->line = file->m_binary != nullptr ? 0 : failure->line;
         return std::move(*failure);
     }
+    if (file->m_binary != nullptr && file->m_binary->hasTail()) {
+        file->m_warnings.push_back({file->m_document->cut.lineCount + 1, kTailWarning});
+    }
     limitWarnings(file->m_warnings);
+    if (file->m_binary != nullptr) {
+        file->m_binary->locate(file->m_warnings);
+    }
     return file;
 }
 
@@ -71,24 +93,45 @@ std::unique_ptr<DrawingFile> DrawingFile::create() {
     return std::move(*openBytes(newDrawingText()));
 }
 
+const std::string& DrawingFile::openedBytes() const {
+    return m_binary != nullptr ? m_binary->bytes() : m_document->bytes;
+}
+
+Result<std::vector<FileEdit>> DrawingFile::edits() {
+    std::vector<FileEdit> ofText = collectEdits(*m_document, m_database->core());
+    if (m_binary == nullptr) {
+        return ofText;
+    }
+    return m_binary->encode(m_document->cut.records, ofText);
+}
+
 std::optional<Failure> DrawingFile::save(const std::string& path) {
-    const std::vector<FileEdit> edits = collectEdits(*m_document, m_database->core());
+    const auto changes = edits();
+    if (!changes) {
+        Failure failure = changes.failure();
+        failure.file = path;
+        return failure;
+    }
     AtomicFile target(path);
     std::optional<Failure> failure = target.open();
     if (!failure) {
-        writeEdited(m_document->bytes, edits, [&](std::string_view piece) {
+        const auto sink = [&](std::string_view piece) {
             failure = target.write(piece);
             return !failure;
-        });
+        };
+        writeEdited(openedBytes(), *changes, m_binary == nullptr, sink);
     }
     return failure ? failure : target.commit();
 }
 
 std::string DrawingFile::bytes() {
-    const std::vector<FileEdit> edits = collectEdits(*m_document, m_database->core());
+    const auto changes = edits();
     std::string result;
-    result.reserve(m_document->bytes.size() + m_document->bytes.size() / 64);
-    writeEdited(m_document->bytes, edits, [&](std::string_view piece) {
+    if (!changes) {
+        return result;
+    }
+    result.reserve(openedBytes().size() + openedBytes().size() / 64);
+    writeEdited(openedBytes(), *changes, m_binary == nullptr, [&](std::string_view piece) {
         result += piece;
         return true;
     });

@@ -12,16 +12,18 @@
 
 namespace orvex {
 
+class BinaryDrawing;   // the bytes of a file in the binary form
 class DrawingDocument; // the file's bytes and their table of records
+struct FileEdit;
 
 // Something odd in a file that opens all the same.
 struct DrawingWarning {
     std::size_t line = 0; // from 1; 0 for the whole file
-    std::string text;     // UTF-8
+    std::string text;     // UTF-8; begins with the place in a file without lines
 };
 
 // An open drawing: the file's bytes as they came, and the objects made of them. What isn't changed
-// is written back byte for byte.
+// is written back byte for byte, in the text form or the binary one, whichever the file has.
 class DrawingFile {
 public:
     ~DrawingFile();
@@ -43,9 +45,10 @@ public:
 
     // Writes the drawing whole or not at all: an older file at `path` stays until the new one is
     // complete on disk. The objects stay as they are. A later save starts from the bytes that were
-    // opened again, so that edits taken back leave no trace in it.
+    // opened again, so that edits taken back leave no trace in it. Values that the binary form has
+    // no room for are a failure.
     [[nodiscard]] std::optional<Failure> save(const std::string& path);
-    // The bytes that save would write.
+    // The bytes that save would write; none when it would fail.
     [[nodiscard]] std::string bytes();
     // Distinguishes contents: while it is the same, save would write the same bytes. Costs nothing
     // for objects that nobody touched.
@@ -53,7 +56,11 @@ public:
 
 private:
     DrawingFile();
+    [[nodiscard]] Result<std::vector<FileEdit>> edits();
+    [[nodiscard]] const std::string& openedBytes() const;
+
     std::vector<DrawingWarning> m_warnings;
+    std::unique_ptr<BinaryDrawing> m_binary; // null for a file in the text form
     std::shared_ptr<DrawingDocument> m_document;
     std::unique_ptr<KdDbDatabase> m_database;
 };

@@ -21,14 +21,6 @@ namespace {
 constexpr std::string_view kNewestVersion = "AC1032";
 constexpr double kPartOfCutting = 0.7; // of the whole work
 
-// The binary form begins with 18 letters and blanks, then these.
-bool isBinary(std::string_view bytes) {
-    constexpr std::size_t kLetters = 18;
-    constexpr std::string_view kSignatureEnd("\r\n\x1A\0", 4);
-    return bytes.size() >= kLetters + kSignatureEnd.size() &&
-           bytes.substr(kLetters, kSignatureEnd.size()) == kSignatureEnd;
-}
-
 class DrawingReader {
 public:
     DrawingReader(DrawingDocument& document, DatabaseCore& core, const Progress& progress,
@@ -88,9 +80,6 @@ private:
 
 std::optional<Failure> DrawingReader::run() {
     const std::string_view bytes = m_document.bytes;
-    if (isBinary(bytes)) {
-        return Failure{FailureCause::unreadableInput, {}, 1, "a binary drawing, which isn't read"};
-    }
     const std::size_t start = bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
     if (auto error = cut(start)) {
         return error;

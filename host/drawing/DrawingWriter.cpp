@@ -382,7 +382,7 @@ std::vector<FileEdit> collectEdits(const DrawingDocument& document, DatabaseCore
     return DrawingWriter(document, core).run();
 }
 
-bool writeEdited(std::string_view bytes, const std::vector<FileEdit>& edits,
+bool writeEdited(std::string_view bytes, const std::vector<FileEdit>& edits, bool hasLines,
                  const std::function<bool(std::string_view)>& sink) {
     constexpr std::size_t kPiece = std::size_t{1} << 20U;
     const std::size_t start = bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
@@ -401,7 +401,7 @@ bool writeEdited(std::string_view bytes, const std::vector<FileEdit>& edits,
     for (const FileEdit& edit : edits) {
         const std::string_view kept = bytes.substr(at, edit.offset > at ? edit.offset - at : 0);
         last = kept.empty() ? last : kept.back();
-        const bool endLine = edit.length == 0 && last != '\n' && edit.offset > start;
+        const bool endLine = hasLines && edit.length == 0 && last != '\n' && edit.offset > start;
         const std::string_view lineEnd = edit.text.find('\r') != std::string::npos ? "\r\n" : "\n";
         if (!put(kept) || (endLine && !put(lineEnd)) || !put(edit.text)) {
             return false;

@@ -22,8 +22,9 @@ struct FileEdit {
 [[nodiscard]] std::vector<FileEdit> collectEdits(const DrawingDocument& document,
                                                  DatabaseCore& core);
 
-// Hands out the bytes with the edits in them, in large pieces. Stops when `sink` gives false.
-bool writeEdited(std::string_view bytes, const std::vector<FileEdit>& edits,
+// Hands out the bytes with the edits in them, in large pieces. Stops when `sink` gives false. In
+// files of lines what is put in starts on a new one.
+bool writeEdited(std::string_view bytes, const std::vector<FileEdit>& edits, bool hasLines,
                  const std::function<bool(std::string_view)>& sink);
 
 } // namespace orvex

@@ -28,7 +28,7 @@ TEST(Opening, isRefusedWithTheLine) {
         std::size_t line;
         const char* text;
     } files[] = {
-        {std::string("Drawing in bytes  \r\n\x1A\0\0\0SECTION", 31), 1, "binary"},
+        {std::string("Drawing in bytes  \r\n\x1A\0\0\0SECTION", 31), 0, "at byte 0: "},
         {"  0\nSECTION\n  x\nHEADER\n", 3, "no integer"},
         {"  0\nSECTION\n\nHEADER\n", 3, "no integer"},
         {"  0\nSECTION\n 2 2\nHEADER\n", 3, "no integer"},
