@@ -30,6 +30,9 @@ WRONG_CALLS = [
     (["show", "{d}", "--output", "{t}/a.png", "--size", "16385x10"], "16384"),
     (["show", "{d}", "--output", "{t}/a.png", "--size", "16000x16000"], "million"),
     (["list"], "DRAWING"),
+    (["convert", "{d}", "--output", "{t}/a.dxf"], "--to"),
+    (["convert", "{d}", "--to", "paper", "--output", "{t}/a.dxf"], "paper"),
+    (["convert", "{d}", "--to", "text"], "--output"),
     (["list", "{d}", "{d}"], ""),
 ]
 
@@ -39,7 +42,8 @@ UNREADABLE = [
     (["list", "{t}/pipe.dxf"], "{t}/pipe.dxf: Not a regular file"),
     (["run", "/dev/zero", "--script", "-"], "/dev/zero: Not a regular file"),
     (["show", "{t}/nowhere.dxf", "--output", "{t}/a.png"], "{t}/nowhere.dxf"),
-    (["list", "{t}/binary.dxf"], "binary"),
+    (["list", "{t}/binary.dxf"], "{t}/binary.dxf: at byte 0: "),
+    (["convert", "{t}/code.dxf", "--to", "binary", "--output", "{t}/a.dxf"], "{t}/code.dxf:3:"),
     (["list", "{t}/code.dxf"], "{t}/code.dxf:3:"),
     (["run", "{t}/code.dxf", "--script", "-"], "{t}/code.dxf:3:"),
     (["run", "{d}", "--script", "{t}/nowhere.scr"], "{t}/nowhere.scr"),
@@ -50,6 +54,8 @@ UNREADABLE = [
 UNWRITABLE = [
     (["run", "{d}", "--script", "-", "--output", "{t}/nowhere/out.dxf"], "{t}/nowhere/out.dxf"),
     (["run", "{d}", "--script", "-", "--output", "{t}"], "{t}"),
+    (["convert", "{d}", "--to", "binary", "--output", "{t}/nowhere/out.dxf"], "{t}/nowhere/out.dxf"),
+    (["convert", "{t}/wide.dxf", "--to", "binary", "--output", "{t}/a.dxf"], "{t}/wide.dxf:4: the number is too large"),
     (["show", "{d}", "--output", "{t}/nowhere/out.svg"], "{t}/nowhere/out.svg"),
     (["show", "{d}", "--output", "{t}/nowhere/out.png"], "{t}/nowhere/out.png"),
     (["show", "{d}", "--output", "{t}/full.png"], "{t}/full.png: No space left on device"),
@@ -81,6 +87,7 @@ def fill_scratch(folder):
     drawing = make_drawing(folder / "walls.dxf", [(0, 0), (100, 0)])
     (folder / "binary.dxf").write_bytes(b"a drawing's binary\r\n\x1a\x00" + bytes(40))
     (folder / "code.dxf").write_text("0\nSECTION\ntwo\nHEADER\n0\nENDSEC\n0\nEOF\n")
+    (folder / "wide.dxf").write_text("0\nSECTION\n70\n40000\n0\nENDSEC\n0\nEOF\n")
     os.mkfifo(folder / "pipe.dxf")
     (folder / "full.png").symlink_to("/dev/full")
     (folder / "latin1.scr").write_bytes(b"; fine\n; W\xe4nde\n")
@@ -119,7 +126,7 @@ def main():
             report.check(out.read_bytes() == OLD, f"{script!r}: the older result is gone")
         report.check(drawing.read_bytes() == before, "a drawing was written over")
         leftovers = {path.name for path in folder.iterdir()}
-        report.check(leftovers == {"walls.dxf", "pipe.dxf", "full.png", "binary.dxf", "code.dxf", "latin1.scr", "script.scr", "out.dxf"},
+        report.check(leftovers == {"walls.dxf", "pipe.dxf", "full.png", "binary.dxf", "code.dxf", "wide.dxf", "latin1.scr", "script.scr", "out.dxf"},
                      f"left behind: {leftovers}")
 
         for arguments in (["--help"], ["run", "--help"], ["--version"]):

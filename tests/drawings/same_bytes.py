@@ -97,6 +97,17 @@ def no_final_line_end(_, lines):
     lines[-1] = lines[-1].rstrip(b"\r\n")
 
 
+def binary(_, lines):
+    stream = io.BytesIO()
+    ezdxf.new("R12").write(stream, fmt="bin")
+    lines[:] = [stream.getvalue()]
+
+
+def binary_tail(_, lines):
+    binary(_, lines)
+    lines.append(b"\x00\x00EOF\x00")
+
+
 # These are refused.
 
 
@@ -109,15 +120,27 @@ def code_no_integer(rng, lines):
     lines[2 * rng.randrange(len(lines) // 2)] = rng.choice(wrong) + lines.end
 
 
-def binary(_, lines):
-    stream = io.BytesIO()
-    ezdxf.new("R12").write(stream, fmt="bin")
-    lines[:] = [stream.getvalue()]
+def binary_in_text(rng, lines):
+    content = list(lines)
+    binary(rng, lines)
+    lines[:0] = content[: 2 * rng.randrange(1, len(content) // 2)]
+
+
+def text_in_binary(rng, lines):
+    content = list(lines)
+    binary(rng, lines)
+    lines[:] = [lines[0][:22], *content]
+
+
+def binary_cut(rng, lines):
+    binary(rng, lines)
+    lines[0] = lines[0][:-1]
 
 
 OPENING = (mixed_line_ends, odd_padding, comments, unknown_things, strange_bytes, doubled_record, dropped_records, cut,
-           tail, no_final_line_end)
-SPOILERS = {**dict.fromkeys(OPENING, True), **dict.fromkeys((code_without_value, code_no_integer, binary), False)}
+           tail, no_final_line_end, binary, binary_tail)
+REFUSED_ONES = (code_without_value, code_no_integer, binary_in_text, text_in_binary, binary_cut)
+SPOILERS = {**dict.fromkeys(OPENING, True), **dict.fromkeys(REFUSED_ONES, False)}
 
 
 def complaint(program, content, opens):

@@ -1,0 +1,172 @@
+// The binary form: bytes kept, edits in the right place, damage told with its offset; and the way
+// from one form to the other.
+
+#include "BinaryTags.h"
+#include "DatabaseCore.h"
+#include "DrawingConversion.h"
+#include "KdDbMline.h"
+#include "sampleDrawing.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace orvex;
+using namespace orvex::testing;
+using ::testing::HasSubstr;
+
+std::string converted(const std::string& bytes, DrawingForm form) {
+    const auto result = convertBytes(bytes, form);
+    EXPECT_TRUE(result) << result.failure().text;
+    return result ? result->bytes : std::string();
+}
+
+std::string binaryOf(const std::string& text) {
+    return converted(text, DrawingForm::binary);
+}
+
+// The signature and tags of zero-ended texts, codes of two bytes.
+std::string binaryFile(std::string_view tags) {
+    return std::string(binarySignature()) + std::string(tags);
+}
+
+void rescale(DrawingFile& file, double scale) {
+    auto* const mline =
+        dynamic_cast<KdDbMline*>(file.database().core().open(stubOf(file, 0x51), true));
+    ASSERT_NE(mline, nullptr);
+    mline->setScale(scale);
+    mline->appendSeg({7.0, 8.5, 0.0});
+}
+
+// One-byte codes with their escape in the old version, two bytes in the other.
+TEST(BinaryForm, editsAsTheTextFormDoes) {
+    for (const char* const version : {"AC1009", "AC1018"}) {
+        const std::string text = replaced(sampleDrawing(), "AC1018", version);
+        const std::string bytes = binaryOf(text);
+        const auto ofText = openDrawing(text);
+        const auto ofBinary = openDrawing(bytes);
+        ASSERT_EQ(ofBinary->bytes(), bytes);
+        rescale(*ofText, 2.5);
+        rescale(*ofBinary, 2.5);
+        EXPECT_NE(ofBinary->bytes(), bytes);
+        EXPECT_TRUE(sameText(ofBinary->bytes(), binaryOf(ofText->bytes()))) << version;
+        EXPECT_EQ(openDrawing(ofBinary->bytes())->bytes(), ofBinary->bytes());
+    }
+}
+
+// A line end in a text and a number that is no number have no text of their own.
+TEST(BinaryForm, keepsOddTagsOfAnEditedRecord) {
+    std::string bytes = binaryOf(sampleDrawing());
+    const std::string handle("\x05\0"
+                             "51\0",
+                             5);
+    const std::string odd("\x01\0a\nb\r\0\x30\0\x01\x02\x03\x04\x05\x06\xF8\x7F", 17);
+    ASSERT_NE(bytes.find(handle), std::string::npos);
+    const std::size_t place = bytes.find(handle) + handle.size();
+    bytes.insert(place, odd);
+    const auto file = openDrawing(bytes);
+    ASSERT_EQ(file->bytes(), bytes);
+    rescale(*file, 2.5);
+    EXPECT_NE(file->bytes(), bytes);
+    EXPECT_NE(file->bytes().find(odd), std::string::npos);
+    EXPECT_THAT(convertBytes(bytes, DrawingForm::text).failure().text,
+                HasSubstr("at byte " + std::to_string(place) + ":"));
+}
+
+TEST(BinaryForm, opensWhatIsCutAtATagAndRefusesAllElse) {
+    const std::string bytes = binaryOf(sampleDrawing());
+    BinaryTagReader reader(bytes, binarySignature().size(), bytes.size(), CodeWidth::two);
+    BinaryTag tag;
+    std::size_t at = binarySignature().size();
+    while (reader.next(tag) == BinaryTagReader::Result::tag && tag.end < bytes.size()) {
+        for (; at < tag.end; ++at) {
+            if (at == tag.begin) {
+                EXPECT_THAT(warningsOf(bytes.substr(0, at)), HasSubstr("stops without EOF"));
+                continue;
+            }
+            const Failure failure = openFailing(bytes.substr(0, at));
+            ASSERT_EQ(failure.cause, FailureCause::unreadableInput) << at;
+            ASSERT_THAT(failure.text, HasSubstr("at byte " + std::to_string(tag.begin) + ":"));
+        }
+    }
+    EXPECT_GT(at, bytes.size() / 2);
+}
+
+TEST(BinaryForm, isRefusedWithTheOffset) {
+    const std::string section("\0\0SECTION\0", 10);
+    const struct {
+        std::string bytes;
+        const char* text;
+    } files[] = {
+        {binaryFile("  0\nSECTION\n"), "at byte 22: a binary drawing has to begin"},
+        {binaryFile(section + "  2\nHEADER\n"), "at byte 32: there is no group code 8224"},
+        {binaryFile(section + std::string("\xFF\xFF\0", 3)),
+         "at byte 32: there is no group code -1"},
+        {binaryFile(section + std::string("\x36\x01\x09"
+                                          "12345678",
+                                          11)),
+         "at byte 32: the file ends"},
+        {std::string(binarySignature().substr(0, 18)) + "\n\x1A", "at byte 0: the signature"},
+    };
+    for (const auto& file : files) {
+        const Failure failure = openFailing(file.bytes);
+        EXPECT_EQ(failure.cause, FailureCause::unreadableInput);
+        EXPECT_THAT(failure.text, HasSubstr(file.text));
+    }
+    EXPECT_THAT(warningsOf(binaryOf(sampleDrawing()) + "x"), HasSubstr("bytes follow behind EOF"));
+}
+
+// The text of each value is the one that the way back gives again.
+TEST(Conversion, keepsValuesThereAndBack) {
+    const std::string text =
+        dxf("0 SECTION\n9 $ACADVER\n1 AC1015\n1 a \xC3\xBC\\U+4E2D\n40 0.1\n41 -0.0\n"
+            "42 5e-324\n43 1.7976931348623157e+308\n70 -32768\n90 2147483647\n"
+            "160 -9223372036854775808\n290 1\n310 00FFA1\n1071 -1\n1004 \n0 EOF\n");
+    const std::string back = converted(binaryOf(text), DrawingForm::text);
+    EXPECT_TRUE(sameText(back, text));
+    EXPECT_EQ(converted(text, DrawingForm::text), text);
+    EXPECT_EQ(converted(binaryOf(text), DrawingForm::binary), binaryOf(text));
+}
+
+TEST(Conversion, refusesWhatTheBinaryFormLacks) {
+    const std::string chunk(512, 'A');
+    const struct {
+        std::string tag;
+        const char* reason; // empty when it is taken
+    } tags[] = {
+        {"70 32767", ""},
+        {"70 32768", "too large"},
+        {"90 2147483648", "too large"},
+        {"70 1.0", "integer"},
+        {"160 9223372036854775808", "too large"},
+        {"290 256", "too large"},
+        {"40 1e999", "finite"},
+        {"40 nan", "finite"},
+        {"40 one", "finite"},
+        {"310 ABC", "odd"},
+        {"310 AX", "hexadecimal"},
+        {"310 " + chunk.substr(2), ""},
+        {"310 " + chunk, "255"},
+        {"-1 x", "no such group code"},
+        {"1072 x", "no such group code"},
+    };
+    for (const auto& [tag, reason] : tags) {
+        const auto result =
+            convertBytes(dxf("0 SECTION\n" + tag + "\n0 EOF\n"), DrawingForm::binary);
+        ASSERT_EQ(result.hasValue(), *reason == '\0') << tag;
+        if (!result) {
+            EXPECT_EQ(result.failure().cause, FailureCause::unwritableOutput);
+            EXPECT_EQ(result.failure().line, 4U) << tag;
+            EXPECT_THAT(result.failure().text, HasSubstr(reason));
+        }
+    }
+    const auto result =
+        convertBytes(dxf("999 a\n0 SECTION\n999 b\n0 EOF\n") + "x", DrawingForm::binary);
+    ASSERT_TRUE(result);
+    ASSERT_EQ(result->warnings.size(), 2U);
+    EXPECT_EQ(result->warnings[0].line, 2U);
+    EXPECT_THAT(result->warnings[0].text, HasSubstr("2 left out"));
+}
+
+} // namespace
