@@ -2,7 +2,6 @@
 
 #include "RecordKind.h"
 #include "TagReader.h"
-#include "TagText.h"
 #include "blanks.h"
 
 #include <algorithm>
@@ -123,14 +122,11 @@ std::optional<Failure> BinaryDrawing::readTags(const Progress& progress) {
     BinaryTag tag;
     BinaryTagReader::Result result = BinaryTagReader::Result::end;
     std::size_t nextCall = kStep;
-    TagText text{TagFormat{}};
-    std::string value;
+    m_text.reserve(m_bytes.size() + m_bytes.size() / 2);
     while ((result = reader.next(tag)) == BinaryTagReader::Result::tag) {
-        value.clear();
-        if (!addValueText(value, tag)) {
+        if (!addTagLines(m_text, tag)) {
             m_unwritable.push_back(tag.begin);
         }
-        text.add(tag.code, value);
         if (tag.code != 0) {
             continue;
         }
@@ -147,7 +143,6 @@ std::optional<Failure> BinaryDrawing::readTags(const Progress& progress) {
         }
     }
     m_records.push_back(reader.position());
-    m_text = text.take();
     if (result == BinaryTagReader::Result::badCode) {
         return unreadable(reader.position(), "there is no group code " + std::to_string(tag.code));
     }

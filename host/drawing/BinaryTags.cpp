@@ -98,6 +98,12 @@ std::int64_t integerOf(const BinaryTag& tag) {
     }
 }
 
+void addIntegerText(std::string& target, std::int64_t value) {
+    std::array<char, 24> buffer{};
+    target.append(buffer.data(),
+                  std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr);
+}
+
 bool addText(std::string& target, std::string_view text) {
     const bool endsInReturn = text.ends_with('\r');
     if (!endsInReturn && text.find('\n') == std::string::npos) {
@@ -163,7 +169,7 @@ const char* addInteger(std::string& target, std::int64_t value) {
     return nullptr;
 }
 
-const char* addIntegerText(std::string& target, ValueKind kind, std::string_view text) {
+const char* addIntegerValue(std::string& target, ValueKind kind, std::string_view text) {
     text = trimBlanks(text);
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
         text.remove_prefix(1);
@@ -207,7 +213,7 @@ const char* addValue(std::string& target, ValueKind kind, std::string_view value
     case ValueKind::chunk:
         return addChunk(target, trimBlanks(value));
     default:
-        return addIntegerText(target, kind, value);
+        return addIntegerValue(target, kind, value);
     }
 }
 
@@ -278,6 +284,16 @@ BinaryTagReader::Result BinaryTagReader::next(BinaryTag& tag) {
     return Result::tag;
 }
 
+bool addTagLines(std::string& target, const BinaryTag& tag) {
+    constexpr int kPadded = 100; // lesser codes get blanks in front
+    target += tag.code < kPadded / 10 ? "  " : tag.code < kPadded ? " " : "";
+    addIntegerText(target, tag.code);
+    target += '\n';
+    const bool isSame = addValueText(target, tag);
+    target += '\n';
+    return isSame;
+}
+
 bool addValueText(std::string& target, const BinaryTag& tag) {
     switch (tag.kind) {
     case ValueKind::text:
@@ -288,14 +304,14 @@ bool addValueText(std::string& target, const BinaryTag& tag) {
             target += std::isnan(number) ? "nan" : number < 0 ? "-inf" : "inf";
             return false;
         }
-        target += realText(number);
+        addRealText(target, number);
         return true;
     }
     case ValueKind::chunk:
         addHex(target, tag.value);
         return true;
     default:
-        target += std::to_string(integerOf(tag));
+        addIntegerText(target, integerOf(tag));
         return true;
     }
 }

@@ -63,6 +63,8 @@ private:
 // takes for a number, a line end inside a text an escape; false for these, since their text is not
 // what the file holds.
 bool addValueText(std::string& target, const BinaryTag& tag);
+// The same with the code, on two lines.
+bool addTagLines(std::string& target, const BinaryTag& tag);
 
 // Adds a tag with a value from the text form. Null, or why the binary form can't hold it; then
 // nothing was added.

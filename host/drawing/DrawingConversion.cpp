@@ -39,6 +39,9 @@ CodeWidth widthFor(std::string_view bytes, std::size_t start) {
     Tag tag;
     bool isVersion = false;
     while (reader.next(tag) == TagReader::Result::tag) {
+        if (tag.code == kComment) {
+            continue;
+        }
         const std::string_view value = trimBlanks(tag.value);
         if (isVersion) {
             return value > kLastWithShortCodes ? CodeWidth::two : CodeWidth::one;

@@ -52,16 +52,23 @@ std::optional<int> parseInteger(std::string_view text) {
 }
 
 std::string realText(double value) {
+    std::string text;
+    addRealText(text, value);
+    return text;
+}
+
+void addRealText(std::string& target, double value) {
     if (!std::isfinite(value)) {
         value = 0.0;
     }
     std::array<char, 32> buffer{};
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-    std::string text(buffer.data(), result.ptr);
+    const std::string_view text(buffer.data(),
+                                static_cast<std::size_t>(result.ptr - buffer.data()));
+    target += text;
     if (text.find_first_of(".e") == std::string::npos) {
-        text += ".0";
+        target += ".0";
     }
-    return text;
 }
 
 } // namespace orvex

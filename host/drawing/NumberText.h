@@ -15,5 +15,6 @@ std::optional<int> parseInteger(std::string_view text); // that fits 32 bits
 // The shortest text that reads back as the same double, always with a point or an exponent. A
 // value that is not finite has no form in the file and becomes 0.
 std::string realText(double value);
+void addRealText(std::string& target, double value);
 
 } // namespace orvex

@@ -125,6 +125,8 @@ TEST(Conversion, keepsValuesThereAndBack) {
             "160 -9223372036854775808\n290 1\n310 00FFA1\n1071 -1\n1004 \n0 EOF\n");
     const std::string back = converted(binaryOf(text), DrawingForm::text);
     EXPECT_TRUE(sameText(back, text));
+    const std::string noted = replaced(text, "  1\nAC1015", "999\nnote\n  1\nAC1015");
+    EXPECT_EQ(binaryOf(noted), binaryOf(text));
     EXPECT_EQ(converted(text, DrawingForm::text), text);
     EXPECT_EQ(converted(binaryOf(text), DrawingForm::binary), binaryOf(text));
 }
