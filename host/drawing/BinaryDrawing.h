@@ -43,7 +43,7 @@ private:
     std::string m_bytes;
     CodeWidth m_width = CodeWidth::two;
     std::string m_text;
-    std::vector<std::uint64_t> m_records; // where each starts, and behind the last
+    std::vector<std::uint64_t> m_records; // where each starts, and after the last
     std::vector<std::size_t> m_unwritable;
 };
 

@@ -260,10 +260,10 @@ BinaryTagReader::Result BinaryTagReader::next(BinaryTag& tag) {
     tag.kind = valueKind(tag.code);
     std::string_view value = rest.substr(valueAt);
     std::size_t size = fixedSize(tag.kind);
-    std::size_t behind = 0;
+    std::size_t after = 0;
     if (tag.kind == ValueKind::text) {
         size = value.find('\0');
-        behind = 1;
+        after = 1;
         if (size == std::string::npos) {
             return Result::cutOff;
         }
@@ -279,7 +279,7 @@ BinaryTagReader::Result BinaryTagReader::next(BinaryTag& tag) {
     }
     tag.value = value.substr(0, size);
     tag.begin = m_position;
-    tag.end = static_cast<std::size_t>(value.data() - m_bytes.data()) + size + behind;
+    tag.end = static_cast<std::size_t>(value.data() - m_bytes.data()) + size + after;
     m_position = tag.end;
     return Result::tag;
 }

@@ -35,7 +35,7 @@ struct BinaryTag {
     ValueKind kind = ValueKind::text;
     std::string_view value; // without a text's zero and a chunk's length
     std::size_t begin = 0;  // where the code starts
-    std::size_t end = 0;    // behind the value
+    std::size_t end = 0;    // after the value
 };
 
 // Cuts the bytes of the binary form into tags, as TagReader does with those of the text form.

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kComment = 999;
 constexpr std::string_view kLastWithShortCodes = "AC1009";
-constexpr const char* kTail = "the bytes behind EOF are left out";
+constexpr const char* kTail = "the bytes after EOF are left out";
 
 Result<ConvertedDrawing> toText(std::string bytes) {
     auto drawing = BinaryDrawing::read(std::move(bytes), {});

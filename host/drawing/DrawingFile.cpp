@@ -16,7 +16,7 @@ namespace orvex {
 namespace {
 
 constexpr double kPartOfDecoding = 0.5; // of the opening of a binary drawing
-constexpr const char* kTailWarning = "bytes follow behind EOF";
+constexpr const char* kTailWarning = "bytes follow after EOF";
 
 // Progress of a step that is the part [from, to] of the whole work.
 Progress partOf(const Progress& whole, double from, double to) {

@@ -114,7 +114,7 @@ TEST(BinaryForm, isRefusedWithTheOffset) {
         EXPECT_EQ(failure.cause, FailureCause::unreadableInput);
         EXPECT_THAT(failure.text, HasSubstr(file.text));
     }
-    EXPECT_THAT(warningsOf(binaryOf(sampleDrawing()) + "x"), HasSubstr("bytes follow behind EOF"));
+    EXPECT_THAT(warningsOf(binaryOf(sampleDrawing()) + "x"), HasSubstr("bytes follow after EOF"));
 }
 
 // The text of each value is the one that the way back gives again.
