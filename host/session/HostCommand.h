@@ -60,6 +60,9 @@ void breakCommand(Session& session);
 void connectCommand(Session& session);
 // A selection: tells what its multilines are.
 void listCommand(Session& session);
+// A pick of the bar, one of its lines, picks near ends until an empty line: moves ends to it.
+void extendCommand(Session& session);
+void trimCommand(Session& session);
 
 // Tells the current source that its last answer can't be taken.
 void rejectAnswer(const std::wstring& reason);

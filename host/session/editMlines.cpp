@@ -3,6 +3,7 @@
 #include "BlockList.h"
 #include "DatabaseCore.h"
 #include "KdDbMline.h"
+#include "PromptSession.h"
 #include "commandOutput.h"
 #include "handleText.h"
 #include "kddbObjects.h"
@@ -13,6 +14,16 @@
 #include "userFrame.h"
 
 namespace orvex {
+
+namespace {
+
+constexpr int kErrorNothingFound = 7;
+
+} // namespace
+
+bool hasMissed() {
+    return PromptSession::current().errorNumber == kErrorNothingFound;
+}
 
 void editEach(const std::vector<KdDbStub*>& mlines, const MlineEdit& edit,
               const std::string& done) {
@@ -70,6 +81,7 @@ std::optional<PickedMline> pickMline(const wchar_t* prompt) {
     picked.content = picked.stub != nullptr ? contentOf(*picked.stub) : nullptr;
     if (picked.content == nullptr || picked.content->vertices.empty()) {
         kdutPrintf(L"That isn't a multiline with a chain.");
+        PromptSession::current().errorNumber = kErrorNothingFound;
         return std::nullopt;
     }
     return picked;

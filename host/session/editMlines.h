@@ -38,6 +38,8 @@ struct PickedMline {
 };
 // Nothing for a cancel, and where there is no multiline to change, which is told.
 std::optional<PickedMline> pickMline(const wchar_t* prompt);
+// Whether the last pick found nothing that could be used; otherwise the user wants no more.
+bool hasMissed();
 
 // In world coordinates; a window draws a line from `base`. Nothing for an empty line or a cancel.
 std::optional<KdGePoint3d> askPoint(const wchar_t* prompt,

@@ -190,6 +190,29 @@ class Edits:
         self.report.check(f"multiline {self.handles[0]}: style Standard, scale 1, zero, open, layer 0, 2 vertices, length 100"
                           in told and "2 other than multilines" in told, told)
 
+    # Bars of width 10 at x = 100 and x = 200, a wall from 20 to 80 and one from 20 to 130 below it.
+    def bars(self):
+        path = self.out.with_name("bars.dxf")
+        document = ezdxf.new("R2000")
+        for points, scale in (([(100, -50), (100, 50)], 10), ([(200, -50), (200, 50)], 10), ([(20, 0), (80, 0)], 1),
+                              ([(20, 10), (130, 10)], 1)):
+            document.modelspace().add_mline(points, dxfattribs={"justification": 1, "scale_factor": scale})
+        document.saveas(path)
+        bar, _, wall, long = [mline["handle"] for mline in listed(self.program, path)["multilines"]]
+        pick = f"95,-30 #{bar}\n"
+        near, end, start = f"79,0.5 #{wall}\n", f"129,10.5 #{long}\n", f"21,10.5 #{long}\n"
+        for script, ends in ((f"EXTEND\n{pick}Axis\n{near}\n", (100, 130)), (f"EXTEND\n{pick}O\n{near}\n", (95, 130)),
+                             (f"TRIM\n{pick}A\n7,7\n{end}\n", (80, 100)), (f"TRIM\n{pick}O\n{end}\n", (80, 95)),
+                             (f"TRIM\n{pick}O\n{start}\n", (80, 130)), (f"TRIM\n{pick}O\n{near}\n", (80, 130)),
+                             (f"EXTEND\n{pick}A\n{end}\n", (80, 130)), (f"EXTEND\n{pick}A\n-5,-50 #{bar}\n\n", (80, 130))):
+            play(self.program, path, script, self.out)
+            found = listed(self.program, self.out)["multilines"]
+            self.report.check(all(abs(chain(mline)[1][0] - x) < 1e-9 for mline, x in zip(found[2:], ends)),
+                              f"{script!r} gives {[chain(mline) for mline in found[2:]]}, expected ends at {ends}")
+            self.expect(f"findings after {script!r}", "0 findings" in call(self.program, "audit", self.out).stdout, True)
+            play(self.program, path, script + ("U\n" if ends != (80, 130) or start in script else ""), self.out)
+            self.expect(f"bytes after {script!r} and U", self.out.read_bytes() == path.read_bytes(), True)
+
 
 def main():
     with tempfile.TemporaryDirectory() as folder:
@@ -200,6 +223,7 @@ def main():
         edits.settings()
         edits.closing()
         edits.parting()
+        edits.bars()
         edits.report.finish()
 
 
