@@ -96,7 +96,7 @@ protected:
                 EXPECT_FALSE(session.run(command)) << narrow(command);
             }
         }
-        EXPECT_FALSE(source.failure()) << narrow(source.failure()->text);
+        EXPECT_FALSE(source.failure()) << (source.failure() ? source.failure()->text : "");
         return session.drawing().bytes();
     }
 };
