@@ -31,8 +31,8 @@ struct JoinSteps {
 };
 
 // What to do for one planned place with its walls as they are now; for a wall that meets itself
-// both are the same object. What came out wrong may come out right with other picks, or with the end
-// moved clear in any case: attempts are counted from 0. Nothing when no line is left to pick.
+// both are the same object. What came out wrong may come out right with other picks, or with the
+// end moved clear in any case: attempts are counted from 0. Nothing when no line is left to pick.
 inline constexpr unsigned kJoinAttempts = 12;
 [[nodiscard]] std::optional<JoinSteps> joinSteps(const JoinPlace& place, const JoinWall& first,
                                                  const JoinWall& second, unsigned attempt = 0);
