@@ -39,10 +39,10 @@ def frame(count):
     reach = grid.SHIFT + grid.columns(count) * grid.CELL
     doc.header["$EXTMIN"] = (grid.SHIFT, grid.SHIFT - grid.HALF_WIDTH, 0.0)
     doc.header["$EXTMAX"] = (reach, reach, 0.0)
-    before, entities, behind = drawing_text(doc).partition("  2\nENTITIES\n")
+    before, entities, after = drawing_text(doc).partition("  2\nENTITIES\n")
     handles = {f"WALL{n}": doc.mline_styles.get(f"WALL{n}").dxf.handle for n in range(2, 6)}
     seed = int(doc.header["$HANDSEED"], 16)
-    return before + entities, behind, doc.modelspace().layout_key, handles, seed
+    return before + entities, after, doc.modelspace().layout_key, handles, seed
 
 
 def number(value):
@@ -115,7 +115,7 @@ def other_entity(kind, handle, owner, x, y):
 
 
 def write_drawing(path, count, others):
-    before, behind, owner, styles, handle = frame(count)
+    before, after, owner, styles, handle = frame(count)
     templates = multiline_templates(owner, styles)
     seed = f"  9\n$HANDSEED\n  5\n{handle:X}\n"
     if seed not in before:
@@ -130,7 +130,7 @@ def write_drawing(path, count, others):
                 place = x + 100.0 + other % 10 * 180.0, y - 500.0 + other // 10 * 20.0
                 file.write(other_entity((index + other) % 5, handle + 1 + other, owner, *place))
             handle += 1 + others
-        file.write(behind)
+        file.write(after)
 
 
 def main():

@@ -127,7 +127,7 @@ def element_length(vertices, segment, element):
 def open_gap(vertices, first, last, elements=None):
     """Open a gap between two places (segment, distance on the chain).
 
-    Gaps of an element have to come in ascending order: a new one lies behind
+    Gaps of an element have to come in ascending order: a new one lies after
     the others, and the segment it ends on has none when it ends beyond a vertex.
     """
     (segment, begin), (last_segment, end) = first, last

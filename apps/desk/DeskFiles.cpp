@@ -55,20 +55,20 @@ void DeskFiles::open(const QString& path) {
             emit printed(tr("The opening of %1 was cancelled.").arg(path));
         } else {
             emit missing(path);
-            tell(tr("The drawing can't be opened."),
-                 QString::fromStdString(messageOf(opened.failure())));
+            report(tr("The drawing can't be opened."),
+                   QString::fromStdString(messageOf(opened.failure())));
         }
         return;
     }
     std::unique_ptr<DrawingFile> file = std::move(*opened);
     m_settings.setText(DeskSettings::kDrawingFolder, QFileInfo(path).absolutePath());
     emit printed(tr("Opened %1").arg(path));
-    tellWarnings(*file, path);
+    reportWarnings(*file, path);
     m_take(std::move(file), path);
     emit used(path);
 }
 
-void DeskFiles::tellWarnings(const DrawingFile& file, const QString& path) {
+void DeskFiles::reportWarnings(const DrawingFile& file, const QString& path) {
     for (const DrawingWarning& warning : file.warnings()) {
         emit printed(QString::fromStdString(
             locatedText(path.toStdString(), warning.line, "warning: " + warning.text)));
@@ -100,7 +100,7 @@ bool DeskFiles::saveAs() {
 // Two windows on one file would else undo each other's work without a word.
 bool DeskFiles::mayOverwrite() {
     QMessageBox box(QMessageBox::Warning, tr("Orvex"),
-                    tr("%1 was written by somebody else meanwhile.").arg(m_drawing.name()),
+                    tr("%1 was written by another program meanwhile.").arg(m_drawing.name()),
                     QMessageBox::Save | QMessageBox::Cancel, &m_window);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(tr("Saving here loses what is in it now. Save all the same?"));
@@ -117,8 +117,8 @@ bool DeskFiles::saveInto(const QString& path) {
     const auto failure = m_drawing.save(path);
     QApplication::restoreOverrideCursor();
     if (failure) {
-        tell(tr("The drawing can't be saved. What was in the file before is still there."),
-             QString::fromStdString(messageOf(*failure)));
+        report(tr("The drawing can't be saved. What was in the file before is still there."),
+               QString::fromStdString(messageOf(*failure)));
         return false;
     }
     emit printed(tr("Saved into %1").arg(path));
@@ -144,7 +144,7 @@ void DeskFiles::exportPicture() {
                                       {kPictureWidth, kPictureHeight});
     QApplication::restoreOverrideCursor();
     if (failure) {
-        tell(tr("The picture can't be written."), QString::fromStdString(messageOf(*failure)));
+        report(tr("The picture can't be written."), QString::fromStdString(messageOf(*failure)));
     } else {
         emit printed(tr("Drawn into %1").arg(path));
     }
@@ -164,7 +164,7 @@ bool DeskFiles::mayLeave() {
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
 }
 
-void DeskFiles::tell(const QString& what, const QString& why) {
+void DeskFiles::report(const QString& what, const QString& why) {
     emit printed(why);
     // All in one, for names of files are no markup, and the text below is always looked through for
     // some.

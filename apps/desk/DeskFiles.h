@@ -45,8 +45,8 @@ signals:
 private:
     bool saveInto(const QString& path);
     bool mayOverwrite();
-    void tellWarnings(const DrawingFile& file, const QString& path);
-    void tell(const QString& what, const QString& why);
+    void reportWarnings(const DrawingFile& file, const QString& path);
+    void report(const QString& what, const QString& why);
 
     QWidget& m_window;
     DeskDrawing& m_drawing;

@@ -54,7 +54,7 @@ std::uint32_t FileLayout::before(std::initializer_list<std::string_view> section
     return first;
 }
 
-std::uint32_t FileLayout::behindEntities() const {
+std::uint32_t FileLayout::recordAfterEntities() const {
     const RecordRun* const run = m_document.findSection("ENTITIES");
     if (run == nullptr) {
         return m_end;
@@ -172,7 +172,7 @@ std::vector<FileEdit> FileLayout::takeEdits() {
         insert(objects->begin + 1, m_root);
         insert(objects->end, m_objects);
     } else {
-        fillSection("OBJECTS", behindEntities(), m_root + m_objects);
+        fillSection("OBJECTS", recordAfterEntities(), m_root + m_objects);
     }
     if (m_appended && !m_document.cut.hasEnd) {
         TagText text(formatAt(m_end));

@@ -42,7 +42,7 @@ private:
     // Puts content at the end of a section, which is made where there is none.
     void fillSection(std::string_view name, std::uint32_t newPlace, const std::string& content);
     void closeOpen(TagText& text, std::uint32_t record);
-    [[nodiscard]] std::uint32_t behindEntities() const;
+    [[nodiscard]] std::uint32_t recordAfterEntities() const;
     [[nodiscard]] TagFormat formatAt(std::uint32_t record) const;
     [[nodiscard]] const RecordRun* runOf(const BlockEntities& block) const;
     // Where the first of these sections begins, or the end of the drawing.

@@ -29,7 +29,7 @@ enum class MlineRole : std::uint8_t {
 class MlineParser {
 public:
     void begin();
-    MlineRole feed(const Tag& tag); // every tag behind the record's code 0
+    MlineRole feed(const Tag& tag); // every tag after the record's code 0
     // Fails where something doesn't fit together; the result is then of no use.
     [[nodiscard]] std::optional<Failure> finish();
 

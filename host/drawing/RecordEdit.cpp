@@ -27,7 +27,7 @@ void RecordEdit::remove(std::size_t tag) {
 }
 
 void RecordEdit::insertAfter(std::size_t tag, std::string_view lines) {
-    change(tag).behind += lines;
+    change(tag).after += lines;
 }
 
 std::string RecordEdit::lines(std::size_t tag, std::string_view value) const {
@@ -101,11 +101,11 @@ std::string RecordEdit::text() const {
         } else if (!change.removed) {
             text += m_bytes.substr(m_tags[i].begin, m_tags[i].end - m_tags[i].begin);
         }
-        if (!change.behind.empty()) {
+        if (!change.after.empty()) {
             if (!text.empty() && !text.ends_with('\n')) {
                 text += m_format.lineEnd;
             }
-            text += change.behind;
+            text += change.after;
         }
     }
     return text;

@@ -41,7 +41,7 @@ private:
     struct Change {
         bool removed = false;
         std::optional<std::string> lines;
-        std::string behind;
+        std::string after;
     };
     // Index of the first tag with the code in [from, to), or `to`.
     [[nodiscard]] std::size_t find(int code, std::size_t from, std::size_t to) const;

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace orvex {
 
@@ -25,6 +26,15 @@ std::string pointText(const KdGePoint3d& world) {
 // As picks name an entity.
 std::string entityText(std::uint64_t handle) {
     return '#' + handleText(handle);
+}
+
+// For people: what rounding leaves in the last digits says nothing.
+std::string placeText(const PlanVector& place) {
+    const auto rounded = [](double value) {
+        constexpr double kDigits = 1e6;
+        return std::abs(value) < 1e9 ? std::round(value * kDigits) / kDigits + 0.0 : value;
+    };
+    return numberText(rounded(place.x)) + ',' + numberText(rounded(place.y));
 }
 
 } // namespace
@@ -98,7 +108,7 @@ void JoinScript::stops(std::uint64_t entity, unsigned segment, unsigned element,
 
 std::string joinPlaceTitle(const JoinPlace& place, std::span<const JoinWall> walls) {
     std::string text(placeKindWord(place.kind));
-    text += " at " + numberText(place.at.x) + ',' + numberText(place.at.y) + " of";
+    text += " at " + placeText(place.at) + " of";
     for (const unsigned wall : place.walls) {
         text += ' ' + entityText(walls[wall].handle());
     }
