@@ -7,6 +7,7 @@
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
 #include "ObjectTable.h"
+#include "Opened.h"
 #include "Session.h"
 #include "WellKnownObjects.h"
 #include "changeMline.h"
@@ -30,21 +31,18 @@ struct AskedChange {
     bool isRefused = false; // an answer named what there isn't; it has been told
 };
 
-void tell(const std::wstring& line) {
+void printLine(const std::wstring& line) {
     kdutPrintf(L"%ls", line.c_str());
 }
 
 std::optional<MlineChange::Style> styleCalled(DatabaseCore& core, const std::wstring& name) {
     KdDbStub* const stub = core.wellKnown().findStyle(name);
-    KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, KdDbObjectId(stub), kForRead);
-    if (style == nullptr) {
-        tell(L"There is no style '" + name + L"'.");
+    const Opened<KdDbMlineStyle> style(KdDbObjectId(stub), kForRead);
+    if (!style) {
+        printLine(L"There is no style '" + name + L"'.");
         return std::nullopt;
     }
-    const MlineChange::Style found{KdDbObjectId(stub), layoutOf(style->values())};
-    style->close();
-    return found;
+    return MlineChange::Style{KdDbObjectId(stub), layoutOf(style->values())};
 }
 
 // Nothing for a cancel.
@@ -64,7 +62,7 @@ std::optional<std::wstring> askKeyword(const wchar_t* prompt, const wchar_t* key
 void askLayer(DatabaseCore& core, AskedChange& asked) {
     const auto name = askText(L"Layer name: ");
     if (name && core.wellKnown().findLayer(*name) == nullptr) {
-        tell(L"There is no layer '" + *name + L"'.");
+        printLine(L"There is no layer '" + *name + L"'.");
         asked.isRefused = true;
     } else if (name) {
         asked.layer = name;
@@ -159,8 +157,8 @@ void changeAll(const std::vector<KdDbStub*>& mlines, const AskedChange& asked) {
         },
         "changed");
     if (moved > 0) {
-        tell(L"In " + std::to_wstring(moved) +
-             L" of them gaps of single elements went to the nearest element.");
+        printLine(L"In " + std::to_wstring(moved) +
+                  L" of them gaps of single elements went to the nearest element.");
     }
 }
 
@@ -180,7 +178,7 @@ std::vector<KdDbStub*> mlinesOf(DatabaseCore& core, KdDbObjectId style) {
         }
     }
     if (locked > 0) {
-        tell(std::to_wstring(locked) + L" on locked layers left out.");
+        printLine(std::to_wstring(locked) + L" on locked layers left out.");
     }
     return found;
 }

@@ -4,6 +4,7 @@
 #include "KdDbMlineStyle.h"
 #include "KdDbStub.h"
 #include "MlineStyleContent.h"
+#include "Opened.h"
 #include "commandOutput.h"
 #include "findingText.h"
 #include "handleText.h"
@@ -20,14 +21,11 @@ namespace orvex {
 namespace {
 
 std::wstring styleNameOf(const MlineContent& mline) {
-    KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, mline.style, kForRead);
-    if (style == nullptr) {
+    const Opened<KdDbMlineStyle> style(mline.style, kForRead);
+    if (!style) {
         return mline.styleName + L" (missing)";
     }
-    const std::wstring name = style->values().name;
-    style->close();
-    return name;
+    return style->values().name;
 }
 
 double lengthOf(const MlineContent& mline) {

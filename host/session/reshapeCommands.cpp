@@ -5,6 +5,7 @@
 #include "KdDbDatabase.h"
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
+#include "Opened.h"
 #include "Session.h"
 #include "commandOutput.h"
 #include "editMlines.h"
@@ -66,13 +67,11 @@ int capsAt(int flags, bool isEnd) {
 
 // Whether a chain can change its direction without a change of what is drawn at its ends.
 bool hasSameCaps(const MlineContent& mline) {
-    KdDbMlineStyle* style = nullptr;
-    kddbOpenObject(style, mline.style, kForRead);
-    if (style == nullptr) {
+    const Opened<KdDbMlineStyle> style(mline.style, kForRead);
+    if (!style) {
         return true;
     }
     const int flags = style->values().flags;
-    style->close();
     return mline.closed || (mline.startCapsSuppressed && mline.endCapsSuppressed) ||
            capsAt(flags, false) == capsAt(flags, true);
 }

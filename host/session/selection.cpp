@@ -217,14 +217,14 @@ public:
         const std::size_t usable = entities.size();
         std::erase_if(entities, [this](const KdDbStub* entity) { return isLocked(*entity); });
         if (tellsOthers) {
-            tell(all - usable, L" other than multilines left out.");
+            printCount(all - usable, L" other than multilines left out.");
         }
-        tell(usable - entities.size(), L" on locked layers left out.");
+        printCount(usable - entities.size(), L" on locked layers left out.");
         return entities;
     }
 
 private:
-    static void tell(std::size_t count, const wchar_t* what) {
+    static void printCount(std::size_t count, const wchar_t* what) {
         if (count > 0) {
             kdutPrintf(L"%ls", (std::to_wstring(count) + what).c_str());
         }
