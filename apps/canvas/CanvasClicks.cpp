@@ -18,8 +18,12 @@ void Canvas::State::startPan(const QPoint& pixel, Qt::MouseButton button) {
 
 void Canvas::State::pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifiers) {
     const bool takesAway = (modifiers & Qt::ShiftModifier) != 0;
-    if ((modifiers & Qt::ControlModifier) != 0) {
-        press = {pixel, modifiers}; // a pan, if it goes on as a drag
+    const bool awaitsCorner =
+        windowStep == WindowStep::first || windowStep == WindowStep::second || selectionFrom;
+    const bool selects = aim.kind == AimKind::selection && !awaitsCorner;
+    if ((modifiers & Qt::ControlModifier) != 0 || selects) {
+        // A pan with Ctrl, else a window, if it goes on as a drag.
+        press = {pixel, modifiers};
     } else if (windowStep == WindowStep::first) {
         windowStep = WindowStep::second;
         windowCorner = pixel;
@@ -27,8 +31,6 @@ void Canvas::State::pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifie
         endWindow(pixel);
     } else if (selectionFrom) {
         endSelectionWindow(takesAway);
-    } else if (aim.kind == AimKind::selection) {
-        press = {pixel, modifiers};
     } else {
         click({planAt(pixel), takesAway});
     }

@@ -33,9 +33,8 @@ constexpr std::array kKinds{
 
 } // namespace
 
-JoinPanel::JoinPanel(QWidget* parent) : QWidget(parent) {
+JoinPanel::JoinPanel(QWidget* parent) : QWidget(parent), m_choices(new QWidget(this)) {
     auto* const grid = new QGridLayout(this);
-    m_choices = new QWidget(this);
     auto* const choices = new QGridLayout(m_choices);
     choices->setContentsMargins(0, 0, 0, 0);
     choices->addWidget(new QLabel(tr("Crosses"), m_choices), 0, 0);
