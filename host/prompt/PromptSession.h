@@ -45,9 +45,10 @@ struct PromptSession {
     EntityFinder* finder = nullptr;
     DisplayListener* display = nullptr;
 
-    int pickBox = 3;     // PICKBOX, pixels to each side; not stored in the drawing
-    int errorNumber = 0; // ERRNO
-    int dimzin = 8;      // DIMZIN where the drawing has none
+    int pickBox = 3;       // PICKBOX, pixels to each side; not stored in the drawing
+    int errorNumber = 0;   // ERRNO
+    int dimzin = 8;        // DIMZIN where the drawing has none
+    KdGePoint3d lastPoint; // LASTPOINT, world: what the last question for a point was answered with
     std::wstring armedKeywords;
     std::wstring lastKeyword;
     PromptPreview preview; // goes with each question for a point; set by PreviewScope

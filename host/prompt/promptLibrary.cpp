@@ -164,6 +164,7 @@ int kdedGetPoint(const double* base, const wchar_t* prompt, double* point) {
         return statusWithoutValue(answer);
     }
     putPoint(point, answer.point);
+    PromptSession::current().lastPoint = orvex::userToWorld(answer.point);
     return kPromptNormal;
 }
 

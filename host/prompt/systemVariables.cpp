@@ -8,6 +8,7 @@
 #include "hostHeap.h"
 #include "promptStatus.h"
 #include "textCodec.h"
+#include "userFrame.h"
 #include "variableTable.h"
 
 #include <cmath>
@@ -75,6 +76,8 @@ std::optional<Value> currentValue(const VariableRow& row) {
         return display != nullptr ? std::optional<Value>(display->viewHeight()) : std::nullopt;
     case VariableHome::viewCenter:
         return display != nullptr ? std::optional<Value>(display->viewCenter()) : std::nullopt;
+    case VariableHome::lastPoint:
+        return orvex::worldToUser(PromptSession::current().lastPoint);
     default:
         break;
     }
@@ -199,6 +202,9 @@ bool store(const VariableRow& row, const Value& value) {
             display->setView(std::get<KdGePoint3d>(value), display->viewHeight());
         }
         return display != nullptr;
+    case VariableHome::lastPoint:
+        PromptSession::current().lastPoint = orvex::userToWorld(std::get<KdGePoint3d>(value));
+        return true;
     default:
         return currentValue(row) == value;
     }

@@ -21,7 +21,7 @@ constexpr VariableRow headerName(std::string_view name, NamedThing named) {
 constexpr VariableRow session(std::string_view name, double low, double high) {
     return {name, kResultShort, VariableHome::session, low, high};
 }
-constexpr VariableRow view(std::string_view name, ResultType type, VariableHome home) {
+constexpr VariableRow inHome(std::string_view name, ResultType type, VariableHome home) {
     return {name, type, home, 0.0, kHuge};
 }
 // The view is always a plan of the world in model space.
@@ -42,6 +42,7 @@ constexpr std::array kTable = {
     session("ERRNO", 0, 32767),
     header("EXTMAX", kResultPoint),
     header("EXTMIN", kResultPoint),
+    inHome("LASTPOINT", kResultPoint, VariableHome::lastPoint),
     header("LTSCALE", kResultReal, 0.0),
     header("MEASUREMENT", kResultShort, 0, 1),
     session("PICKBOX", 0, 32767),
@@ -49,10 +50,10 @@ constexpr std::array kTable = {
     header("UCSORG", kResultPoint),
     header("UCSXDIR", kResultPoint),
     header("UCSYDIR", kResultPoint),
-    view("VIEWCTR", kResultPoint, VariableHome::viewCenter),
+    inHome("VIEWCTR", kResultPoint, VariableHome::viewCenter),
     fixed("VIEWDIR", kResultPoint, 0, 0, 1),
     fixed("VIEWMODE", kResultShort, 0),
-    view("VIEWSIZE", kResultReal, VariableHome::viewHeight),
+    inHome("VIEWSIZE", kResultReal, VariableHome::viewHeight),
     fixed("VIEWTWIST", kResultReal, 0),
 };
 

@@ -13,6 +13,7 @@ enum class VariableHome {
     session,    // this run of the program
     viewHeight, // the active view
     viewCenter, //
+    lastPoint,  // this run, kept in world coordinates, read and set in the user's
     fixed,      // one value for ever, which may be set but not changed
 };
 

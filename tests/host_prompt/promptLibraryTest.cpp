@@ -9,6 +9,7 @@
 #include "commandOutput.h"
 #include "kddbObjects.h"
 #include "promptStatus.h"
+#include "variableText.h"
 
 #include <cwchar>
 
@@ -118,6 +119,19 @@ TEST_F(PromptLibrary, valuesAreWrittenOnlyWithTheStatusNormal) {
     EXPECT_STREQ(text, L"a text");
     EXPECT_EQ(kdedGetString(L"", text), kPromptCancelled);
     EXPECT_STREQ(text, L"a text");
+}
+
+TEST_F(PromptLibrary, theLastPointGivenIsKeptInTheWorldAndReadInTheUsersSystem) {
+    m_database.core().setVariable("UCSORG", KdGePoint3d{10, 0, 0});
+    EXPECT_EQ(PromptSession::current().lastPoint, KdGePoint3d());
+    play("3,4\n\n5,6\n");
+    EXPECT_EQ(kdedGetPoint(nullptr, L"", m_point), kPromptNormal);
+    EXPECT_EQ(kdedGetPoint(nullptr, L"", m_point), kPromptNone);
+    EXPECT_EQ(select(), kPromptNormal); // a pick is no point
+    EXPECT_EQ(PromptSession::current().lastPoint, (KdGePoint3d{13, 4, 0}));
+    EXPECT_EQ(orvex::variableText(L"LASTPOINT"), L"3,4,0");
+    EXPECT_FALSE(orvex::setVariableText(L"LASTPOINT", L"1,2"));
+    EXPECT_EQ(PromptSession::current().lastPoint, (KdGePoint3d{11, 2, 0}));
 }
 
 TEST_F(PromptLibrary, cutsTextsThatAreTooLongAndCancelsWithoutASource) {
