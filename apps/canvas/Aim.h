@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Appearance.h"
+#include "GuidedPoint.h"
 
 #include <cstdint>
 #include <functional>
@@ -22,9 +23,11 @@ enum class AimKind : std::uint8_t {
 struct Aim {
     AimKind kind{AimKind::none};
     int pickBox = 3;                 // pixels to each side of the cursor
-    std::optional<PlanPoint> base{}; // a line from here to the cursor
-    // What a point at the cursor would make, drawn in place of the line; null draws the line.
-    std::function<Appearance(PlanPoint cursor)> preview{};
+    std::optional<PlanPoint> base{}; // a line from here to the guided point
+    // What that point would make, drawn in place of the line; null draws the line.
+    std::function<Appearance(PlanPoint point)> preview{};
+    // Where a click of the aim `point` goes; null takes the cursor's place.
+    Guide guide{};
     // Of a selection: what counts in a window; null counts everything.
     std::function<bool(const KdDbStub& entity)> takes{};
 };

@@ -52,6 +52,7 @@ void Canvas::setSession(Session* session) {
     s.windowStep = State::WindowStep::off;
     s.overlay.clear();
     s.aim = {};
+    s.guided.reset();
     s.picture.setScene(session != nullptr ? &session->scene() : nullptr);
     s.updateCursorShape();
     s.startWork();
@@ -64,8 +65,25 @@ void Canvas::setAim(Aim aim) {
     m_state->selectionFrom.reset();
     m_state->press.reset();
     m_state->isHighlightStale = true;
+    guideChanged();
+}
+
+void Canvas::guideChanged() {
+    m_state->guided.reset();
+    m_state->isGuideStale = m_state->aim.guide != nullptr;
     m_state->startWork();
     update();
+}
+
+void Canvas::setModifiers(Qt::KeyboardModifiers modifiers) {
+    if (std::exchange(m_state->heldKeys, modifiers) != modifiers && m_state->aim.guide) {
+        guideChanged();
+    }
+}
+
+std::optional<GuidedPoint> Canvas::pointAtCursor() {
+    const State& s = *m_state;
+    return s.isShown && s.cursor ? std::optional(m_state->guidedAtCursor()) : std::nullopt;
 }
 
 void Canvas::setSelected(std::vector<KdDbStub*> entities) {
@@ -186,6 +204,7 @@ void Canvas::resizeEvent(QResizeEvent* /*event*/) {
 void Canvas::mousePressEvent(QMouseEvent* event) {
     State& s = *m_state;
     s.cursor = event->pos();
+    s.heldKeys = event->modifiers();
     if (s.session == nullptr || !s.isShown || s.panFrom) {
         return;
     }
@@ -204,6 +223,7 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
 void Canvas::mouseMoveEvent(QMouseEvent* event) {
     State& s = *m_state;
     s.cursor = event->pos();
+    s.heldKeys = event->modifiers();
     if (s.session == nullptr || !s.isShown) {
         return;
     }
@@ -225,8 +245,13 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
         s.startWork();
     }
     update();
-    const PlanPoint at = s.planAtCursor();
-    emit cursorMoved(at.x, at.y);
+    if (s.aim.guide) {
+        s.isGuideStale = true; // asked once for all moves until then
+        s.startWork();
+    } else {
+        const PlanPoint at = s.planAtCursor();
+        emit cursorMoved(at.x, at.y);
+    }
 }
 
 void Canvas::mouseReleaseEvent(QMouseEvent* event) {
@@ -238,7 +263,7 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event) {
         if (s.selectionFrom) {
             s.endSelectionWindow((press.modifiers & Qt::ShiftModifier) != 0);
         } else if (s.windowStep == State::WindowStep::off) {
-            s.click({s.planAt(press.at), (press.modifiers & Qt::ShiftModifier) != 0});
+            s.click({s.planAt(press.at), press.modifiers});
         }
     } else if (event->button() == Qt::LeftButton && s.selectionFrom && s.isSelectionDragged) {
         s.endSelectionWindow((event->modifiers() & Qt::ShiftModifier) != 0);

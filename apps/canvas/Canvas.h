@@ -33,6 +33,11 @@ public:
     // The aim's preview is called until the next setAim; what it refers to has to live as long.
     void setAim(Aim aim = {});
     [[nodiscard]] const Aim& aim() const;
+    // The aim's guide would answer otherwise than before, or these keys are held now.
+    void guideChanged();
+    void setModifiers(Qt::KeyboardModifiers modifiers);
+    // What a click would give; nothing while the cursor is elsewhere.
+    [[nodiscard]] std::optional<GuidedPoint> pointAtCursor();
 
     // Shown until they are set anew, or the session is. Entities have to live as long.
     void setSelected(std::vector<KdDbStub*> entities);
@@ -57,10 +62,10 @@ public:
     [[nodiscard]] bool isSettled() const;
 
 signals:
-    void cursorMoved(double worldX, double worldY);
+    void cursorMoved(double worldX, double worldY); // where a click would go
     void cursorLeft();
-    // A click while the aim is entity or point.
-    void clicked(double worldX, double worldY);
+    // A click while the aim is entity or point; an exact place isn't to be rounded.
+    void clicked(double worldX, double worldY, bool isExact);
     // While the aim is selection: a click on an entity, and two corners of a window.
     void picked(double worldX, double worldY, bool takesAway);
     void windowDrawn(PlanPoint first, PlanPoint second, bool takesAway);

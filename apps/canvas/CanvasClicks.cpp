@@ -32,7 +32,7 @@ void Canvas::State::pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifie
     } else if (selectionFrom) {
         endSelectionWindow(takesAway);
     } else {
-        click({planAt(pixel), takesAway});
+        click({planAt(pixel), modifiers});
     }
 }
 
@@ -41,13 +41,14 @@ void Canvas::State::click(const Click& click) {
     if (aim.kind == AimKind::none) {
         return;
     }
-    if (aim.kind != AimKind::point && !session->scene().prepareSome({})) {
+    if ((aim.kind != AimKind::point || aim.guide) && !session->scene().prepareSome({})) {
         waitingClick = click; // a pick would take as long as the rest of the index
         startWork();
     } else if (aim.kind != AimKind::selection) {
-        emit canvas.clicked(click.at.x, click.at.y);
+        const GuidedPoint point = guidedAt(click.at, click.modifiers);
+        emit canvas.clicked(point.at.x, point.at.y, point.isExact);
     } else if (session->scene().entityAt({click.at.x, click.at.y, 0.0}, aim.pickBox) != nullptr) {
-        emit canvas.picked(click.at.x, click.at.y, click.takesAway);
+        emit canvas.picked(click.at.x, click.at.y, (click.modifiers & Qt::ShiftModifier) != 0);
     } else {
         startSelectionWindow(click.at, false);
     }

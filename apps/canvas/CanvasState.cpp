@@ -74,6 +74,12 @@ void Canvas::State::step() {
         picture.takeDifference(difference);
         isHighlightStale = true;
         overlay.invalidate();
+        if (aim.guide) {
+            canvas.guideChanged();
+        }
+    }
+    if (isGuideStale) {
+        updateGuide();
     }
     if (isHighlightStale) {
         updateHighlight();
@@ -133,6 +139,8 @@ void Canvas::State::showView() {
         isHighlightStale = true;
     }
     shown = viewState;
+    guided.reset();
+    isGuideStale = aim.guide != nullptr;
     picture.setView(view(), canvas.devicePixelRatioF());
     canvas.update();
     startWork();
@@ -241,7 +249,7 @@ void Canvas::State::paintMarks(QPainter& painter) {
     paintAim(painter);
 }
 
-void Canvas::State::paintAim(QPainter& painter) const {
+void Canvas::State::paintAim(QPainter& painter) {
     switch (aim.kind) {
     case AimKind::selection:
         if (selectionFrom) {
@@ -261,12 +269,7 @@ void Canvas::State::paintAim(QPainter& painter) const {
         paintCrosshair(painter, *cursor, canvas.size(), aim.pickBox);
         break;
     case AimKind::point:
-        if (aim.preview) {
-            paintPreview(painter, view(), aim.preview(planAtCursor()));
-        } else if (aim.base) {
-            paintRubberLine(painter, view(), *aim.base, *cursor);
-        }
-        paintCrosshair(painter, *cursor, canvas.size(), -1);
+        paintPointAim(painter);
         break;
     }
 }

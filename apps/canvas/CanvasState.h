@@ -38,9 +38,19 @@ struct Canvas::State {
     Highlight highlight;
     bool isHighlightStale = false;
 
+    // What the guide made of the cursor's place the last time.
+    struct Guided {
+        PlanPoint cursor;
+        Qt::KeyboardModifiers modifiers;
+        GuidedPoint point;
+    };
+    std::optional<Guided> guided;
+    bool isGuideStale = false; // and nobody was notified of where the cursor is
+    Qt::KeyboardModifiers heldKeys = Qt::NoModifier; // at the last look
+
     struct Click {
         PlanPoint at;
-        bool takesAway = false;
+        Qt::KeyboardModifiers modifiers;
     };
     // A pick that came before the index was up to date with what the drawing looks like.
     std::optional<Click> waitingClick;
@@ -67,6 +77,11 @@ struct Canvas::State {
     [[nodiscard]] PlanPoint planAt(const QPoint& pixel) const;
     [[nodiscard]] PlanPoint planAtCursor() const { return planAt(*cursor); }
 
+    GuidedPoint guidedAt(PlanPoint place, Qt::KeyboardModifiers held);
+    GuidedPoint guidedAtCursor() { return guidedAt(planAtCursor(), heldKeys); }
+    void updateGuide();
+    void paintPointAim(QPainter& painter);
+
     void pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifiers);
     void click(const Click& click);
     void startPan(const QPoint& pixel, Qt::MouseButton button);
@@ -92,7 +107,7 @@ struct Canvas::State {
     void endWindow(const QPoint& corner);
     void stopWindow();
     void paintMarks(QPainter& painter);
-    void paintAim(QPainter& painter) const;
+    void paintAim(QPainter& painter);
 };
 
 } // namespace orvex

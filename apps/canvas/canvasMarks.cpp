@@ -70,10 +70,8 @@ void paintPickBox(QPainter& painter, const QPoint& cursor, int pickBox) {
     painter.drawRect(cursor.x() - pickBox, cursor.y() - pickBox, 2 * pickBox, 2 * pickBox);
 }
 
-void paintRubberLine(QPainter& painter, const PlanView& view, PlanPoint base,
-                     const QPoint& cursor) {
+void paintRubberLine(QPainter& painter, const PlanView& view, PlanPoint base, PlanPoint end) {
     Appearance appearance;
-    const PlanPoint end = view.toPlan({cursor.x() + 0.5, cursor.y() + 0.5});
     appearance.strokes.push_back({.points = {base, end}, .rgb = kRubberColor.rgb()});
     painter.setRenderHint(QPainter::Antialiasing);
     paintAppearance(painter, appearance, view, {});

@@ -23,7 +23,7 @@ inline bool isCrossingWindow(double firstX, double secondX) {
 void paintCrosshair(QPainter& painter, const QPoint& cursor, const QSize& view, int pickBox);
 // The square of 2 * pickBox + 1 pixels.
 void paintPickBox(QPainter& painter, const QPoint& cursor, int pickBox);
-void paintRubberLine(QPainter& painter, const PlanView& view, PlanPoint base, const QPoint& cursor);
+void paintRubberLine(QPainter& painter, const PlanView& view, PlanPoint base, PlanPoint end);
 void paintRubberWindow(QPainter& painter, const QPoint& oneCorner, const QPoint& otherCorner);
 // Dashed and in another colour for what it touches; the dashes start at the first corner. `words`
 // stand at the second.

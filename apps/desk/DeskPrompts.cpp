@@ -89,7 +89,7 @@ void DeskPrompts::answerText(const QString& typed) {
     }
 }
 
-void DeskPrompts::answerClick(double worldX, double worldY, double unitsPerPixel) {
+void DeskPrompts::answerPoint(const KdGePoint3d& point) {
     const bool wantsPoint = m_loop != nullptr && (m_request->kind == PromptKind::entity ||
                                                   m_request->kind == PromptKind::point);
     if (!wantsPoint) {
@@ -97,7 +97,7 @@ void DeskPrompts::answerClick(double worldX, double worldY, double unitsPerPixel
     }
     PromptAnswer answer;
     answer.kind = PromptAnswer::Kind::point;
-    answer.point = clickedPoint(worldX, worldY, unitsPerPixel);
+    answer.point = point;
     answer.echo = pointText(answer.point);
     finish(std::move(answer));
 }

@@ -37,8 +37,8 @@ public:
 
     // Text that fits the question is the answer; about any other the user is told.
     void answerText(const QString& typed);
-    // A click at a world point of the plan; a pixel is `unitsPerPixel` drawing units wide.
-    void answerClick(double worldX, double worldY, double unitsPerPixel);
+    // A click at a point of the current user coordinate system, where a point or a pick is asked.
+    void answerPoint(const KdGePoint3d& point);
     // Lines as if they were typed one by one, at this question and those that follow.
     void answerLines(QStringList lines);
     void cancel();

@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "KdDbEntity.h"
 #include "KdDbStub.h"
+#include "clickedPoint.h"
 #include "commandNames.h"
 #include "partlyDrawnText.h"
 #include "qtWide.h"
@@ -132,8 +133,9 @@ void MainWindow::connectCommandLine() {
 }
 
 void MainWindow::connectCanvas() {
-    connect(m_canvas, &Canvas::clicked, this, [this](double x, double y) {
-        m_prompts.answerClick(x, y, session()->view().unitsPerPixel());
+    connect(m_canvas, &Canvas::clicked, this, [this](double x, double y, bool isExact) {
+        m_prompts.answerPoint(isExact ? exactPoint(x, y)
+                                      : clickedPoint(x, y, session()->view().unitsPerPixel()));
     });
     connect(m_canvas, &Canvas::rightClicked, this, [this] {
         m_commandLine->takeKey(QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier));

@@ -42,6 +42,11 @@ KdGePoint3d clickedPoint(double worldX, double worldY, double unitsPerPixel) {
     return {rounded(place.x, decimals), rounded(place.y, decimals), rounded(place.z, decimals)};
 }
 
+KdGePoint3d exactPoint(double worldX, double worldY) {
+    const KdGePoint3d place = worldToUser({worldX, worldY, 0.0});
+    return {place.x + 0.0, place.y + 0.0, place.z + 0.0}; // zeros without a sign
+}
+
 std::wstring pointText(const KdGePoint3d& point) {
     std::string text = numberText(point.x) + ',' + numberText(point.y);
     if (point.z != 0.0) {

@@ -14,6 +14,9 @@ int worthwhileDecimals(double unitsPerPixel);
 // the same again picks the same.
 KdGePoint3d clickedPoint(double worldX, double worldY, double unitsPerPixel);
 
+// The same, but all of it: of a place that is somebody else's.
+KdGePoint3d exactPoint(double worldX, double worldY);
+
 // "x,y", or "x,y,z" off the plane of the system, as it is typed; reads back as the same point.
 std::wstring pointText(const KdGePoint3d& point);
 

@@ -116,6 +116,47 @@ TEST_F(CanvasFixture, clicksTellThePlanOnlyWhenSomethingAsks) {
     EXPECT_EQ(keys.count(), 1);
 }
 
+// Where a click goes is what the guide said of the place, once, and what the preview was given.
+TEST_F(CanvasFixture, aGuideTurnsClicksAtPointsIntoItsOwn) {
+    const QImage plain = picture();
+    QSignalSpy clicks(&canvas, &Canvas::clicked);
+    const QPoint pixel(80, 75);
+    const PlanPoint target{planAt(pixel).x + 1.0 / 3.0, 0.1 + 0.2};
+    std::vector<PlanPoint> previewed;
+    int asked = 0;
+    Aim aim{.kind = AimKind::point};
+    aim.guide = [&](PlanPoint cursor, Qt::KeyboardModifiers modifiers) {
+        ++asked;
+        return (modifiers & Qt::ControlModifier) != 0
+                   ? GuidedPoint{.at = cursor}
+                   : GuidedPoint{.at = target, .isExact = true, .marker = SnapMode::middle};
+    };
+    aim.preview = [&](PlanPoint point) {
+        previewed.push_back(point);
+        return Appearance();
+    };
+    canvas.setAim(aim);
+    hover(pixel);
+    canvas.grab();
+    EXPECT_EQ(previewed.back(), target);
+    EXPECT_NE(canvas.grab().toImage(), plain);
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, pixel);
+    EXPECT_EQ(asked, 1);
+    drag(pixel, pixel + QPoint(1, 1), Qt::LeftButton, Qt::ControlModifier);
+    ASSERT_EQ(clicks.count(), 2);
+    EXPECT_EQ((PlanPoint{clicks[0][0].toDouble(), clicks[0][1].toDouble()}), target);
+    EXPECT_TRUE(clicks[0][2].toBool());
+    EXPECT_NEAR(clicks[1][1].toDouble(), planAt(pixel).y, 1e-9);
+    EXPECT_FALSE(clicks[1][2].toBool());
+
+    asked = 0;
+    aim.kind = AimKind::entity; // picks aren't guided
+    canvas.setAim(aim);
+    hover(pixel);
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, pixel);
+    EXPECT_EQ(asked, 0);
+}
+
 // What each press, drag and click of a selection means; Shift and direction go with it.
 TEST_F(CanvasFixture, selectionsAreMadeByClicksAndWindows) {
     QSignalSpy picks(&canvas, &Canvas::picked);
