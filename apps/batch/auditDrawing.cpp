@@ -7,6 +7,7 @@
 #include "handleText.h"
 #include "verbs.h"
 
+#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include <cstdio>
@@ -68,30 +69,39 @@ std::vector<KdDbStub*> mlinesOf(DatabaseCore& core) {
     return mlines;
 }
 
+class AuditVerb final : public Verb {
+public:
+    AuditVerb()
+        : Verb({"audit", "List multilines that contradict their style or themselves",
+                "Lay right what can be, and save the result here"}) {}
+
+    void addOptions(CLI::App& options) override {
+        options.add_flag("--json", m_asJson, "Print JSON, for programs");
+    }
+
+    std::optional<Failure> carryOut(const DrawingTask& task, Counts& /*counts*/) override {
+        auto drawing = openDrawing(task.drawing);
+        if (!drawing) {
+            return drawing.failure();
+        }
+        const std::vector<KdDbStub*> mlines = mlinesOf((*drawing)->database().core());
+        const std::vector<AuditedMline> audited = auditMlines(mlines, task.output.has_value());
+        if (m_asJson) {
+            printJson(audited);
+        } else {
+            printText(audited, mlines.size());
+        }
+        return task.output ? saveDrawing(**drawing, *task.output) : std::nullopt;
+    }
+
+private:
+    bool m_asJson = false;
+};
+
 } // namespace
 
-std::optional<Failure> auditDrawing(const AuditCall& call) {
-    auto drawing = openDrawing(call.drawing);
-    if (!drawing) {
-        return drawing.failure();
-    }
-    DatabaseCore& core = (*drawing)->database().core();
-    const std::vector<KdDbStub*> mlines = mlinesOf(core);
-    const std::vector<AuditedMline> audited = auditMlines(mlines, call.output.has_value());
-    if (call.asJson) {
-        printJson(audited);
-    } else {
-        printText(audited, mlines.size());
-    }
-    if (!call.output) {
-        return std::nullopt;
-    }
-    // Before the save: a call that can't print what it did leaves nothing behind.
-    if (auto failure = flushOutput()) {
-        return failure;
-    }
-    return withMemory(FailureCause::unwritableOutput, *call.output,
-                      [&] { return (*drawing)->save(*call.output); });
+std::unique_ptr<Verb> makeAuditVerb() {
+    return std::make_unique<AuditVerb>();
 }
 
 } // namespace orvex

@@ -31,6 +31,13 @@ Result<std::unique_ptr<DrawingFile>> openDrawing(const std::string& path) {
     return drawing;
 }
 
+std::optional<Failure> saveDrawing(DrawingFile& drawing, const std::string& output) {
+    if (auto failure = flushOutput()) {
+        return failure;
+    }
+    return withMemory(FailureCause::unwritableOutput, output, [&] { return drawing.save(output); });
+}
+
 std::optional<Failure> flushOutput() {
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) {
         return std::nullopt;

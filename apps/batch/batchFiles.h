@@ -16,6 +16,10 @@ void printWarnings(const std::string& path, const std::vector<DrawingWarning>& w
 // Opens a drawing and prints its warnings.
 Result<std::unique_ptr<DrawingFile>> openDrawing(const std::string& path);
 
+// Saves the drawing, unless what was printed before can't be written: a call that can't say what it
+// did leaves nothing behind.
+std::optional<Failure> saveDrawing(DrawingFile& drawing, const std::string& output);
+
 // Nothing while all that was printed could be written.
 std::optional<Failure> flushOutput();
 

@@ -7,6 +7,8 @@
 
 #include "KdDbDatabase.h"
 
+#include <CLI/CLI.hpp>
+
 #include <charconv>
 #include <cstdio>
 
@@ -69,23 +71,39 @@ void printStyle(const ListedStyle& style) {
     }
 }
 
-} // namespace
+class ListVerb final : public Verb {
+public:
+    ListVerb() : Verb({"list", "List every multiline and multiline style in a drawing", nullptr}) {}
 
-std::optional<Failure> listDrawing(const ListCall& call) {
-    const auto drawing = openDrawing(call.drawing);
-    if (!drawing) {
-        return drawing.failure();
+    void addOptions(CLI::App& options) override {
+        options.add_flag("--json", m_asJson, "Print JSON, for programs");
     }
-    KdDbDatabase& database = (*drawing)->database();
-    if (call.asJson) {
-        printListAsJson(database);
+
+    std::optional<Failure> carryOut(const DrawingTask& task, Counts& /*counts*/) override {
+        const auto drawing = openDrawing(task.drawing);
+        if (!drawing) {
+            return drawing.failure();
+        }
+        KdDbDatabase& database = (*drawing)->database();
+        if (m_asJson) {
+            printListAsJson(database);
+            return std::nullopt;
+        }
+        forEachMline(database, printMline);
+        for (const ListedStyle& style : listStyles(database)) {
+            printStyle(style);
+        }
         return std::nullopt;
     }
-    forEachMline(database, printMline);
-    for (const ListedStyle& style : listStyles(database)) {
-        printStyle(style);
-    }
-    return std::nullopt;
+
+private:
+    bool m_asJson = false;
+};
+
+} // namespace
+
+std::unique_ptr<Verb> makeListVerb() {
+    return std::make_unique<ListVerb>();
 }
 
 } // namespace orvex

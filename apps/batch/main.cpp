@@ -3,7 +3,6 @@
 #include "BatchCall.h"
 #include "batchFiles.h"
 #include "exitStatus.h"
-#include "verbs.h"
 
 #include <cstdio>
 #include <exception>
@@ -20,32 +19,23 @@ std::optional<Failure> answer(const AnsweredCall& call) {
     return std::nullopt;
 }
 
-std::optional<Failure> carryOut(const BatchCall& call) {
-    if (const auto* const run = std::get_if<RunCall>(&call)) {
-        return runScript(*run);
+std::optional<Failure> carryOut(const VerbCall& call) {
+    if (auto failure = call.verb->check(call.task)) {
+        return failure;
     }
-    if (const auto* const show = std::get_if<ShowCall>(&call)) {
-        return showDrawing(*show);
+    if (auto failure = call.verb->prepare()) {
+        return failure;
     }
-    if (const auto* const list = std::get_if<ListCall>(&call)) {
-        return listDrawing(*list);
-    }
-    if (const auto* const join = std::get_if<JoinCall>(&call)) {
-        return joinDrawing(*join);
-    }
-    if (const auto* const audit = std::get_if<AuditCall>(&call)) {
-        return auditDrawing(*audit);
-    }
-    if (const auto* const convert = std::get_if<ConvertCall>(&call)) {
-        return convertDrawing(*convert);
-    }
-    return answer(std::get<AnsweredCall>(call));
+    Counts counts;
+    return call.verb->carryOut(call.task, counts);
 }
 
 // No exception is part of a plan that reaches the program's end.
 std::optional<Failure> carryOutGuarded(int argc, char** argv) {
     try {
-        auto failure = carryOut(parseBatchCall(argc, argv));
+        const BatchCall call = parseBatchCall(argc, argv);
+        const auto* const verb = std::get_if<VerbCall>(&call);
+        auto failure = verb != nullptr ? carryOut(*verb) : answer(std::get<AnsweredCall>(call));
         return failure ? failure : flushOutput();
     } catch (const std::exception& error) {
         return Failure{FailureCause::programFault, {}, 0, error.what()};

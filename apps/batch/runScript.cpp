@@ -8,6 +8,8 @@
 #include "textCodec.h"
 #include "verbs.h"
 
+#include <CLI/CLI.hpp>
+
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -19,27 +21,26 @@ namespace orvex {
 namespace {
 
 // How messages name a script.
-std::string scriptName(const RunCall& call) {
-    return call.script == "-" ? "standard input" : call.script;
+std::string scriptName(const std::string& script) {
+    return script == "-" ? "standard input" : script;
 }
 
 // A script may be a pipe.
-Result<std::string> readScript(const RunCall& call) {
+Result<std::string> readScript(const std::string& script) {
     std::string text;
-    if (call.script == "-") {
+    if (script == "-") {
         text.assign(std::istreambuf_iterator<char>(std::cin), {});
     } else {
         std::error_code ignored;
-        std::ifstream stream(call.script, std::ios::binary);
+        std::ifstream stream(script, std::ios::binary);
         // A folder can be opened, but not read.
-        if (!stream || std::filesystem::is_directory(call.script, ignored)) {
-            return Failure{FailureCause::unreadableInput, call.script, 0,
-                           "the script can't be read"};
+        if (!stream || std::filesystem::is_directory(script, ignored)) {
+            return Failure{FailureCause::unreadableInput, script, 0, "the script can't be read"};
         }
         text.assign(std::istreambuf_iterator<char>(stream), {});
     }
     if (const auto line = ScriptSource::firstLineThatIsNoUtf8(text)) {
-        return Failure{FailureCause::unreadableInput, scriptName(call), *line,
+        return Failure{FailureCause::unreadableInput, scriptName(script), *line,
                        "the script isn't UTF-8"};
     }
     return text;
@@ -71,39 +72,55 @@ std::optional<Failure> playToTheEnd(Session& session, const ScriptSource& script
     return failure;
 }
 
-std::optional<Failure> save(Session& session, const std::string& output) {
-    // Before the save: a call that can't print what it did leaves nothing behind.
-    if (auto failure = flushOutput()) {
-        return failure;
+class RunVerb final : public Verb {
+public:
+    RunVerb() : Verb({"run", "Play a script on a drawing", "Where to save the result"}) {}
+
+    void addOptions(CLI::App& options) override {
+        options.add_option("--script", m_script, "The script to play; - reads standard input")
+            ->required();
+        options.add_option("--module", m_module, "The module file to load");
     }
-    return withMemory(FailureCause::unwritableOutput, output,
-                      [&] { return session.drawing().save(output); });
-}
+
+    std::optional<Failure> prepare() override {
+        auto text = readScript(m_script);
+        if (!text) {
+            return text.failure();
+        }
+        m_text = std::move(*text);
+        return std::nullopt;
+    }
+
+    std::optional<Failure> carryOut(const DrawingTask& task, Counts& /*counts*/) override {
+        auto drawing = openDrawing(task.drawing);
+        if (!drawing) {
+            return drawing.failure();
+        }
+        ScriptSource script(m_text, printLine);
+        ModuleLoader modules;
+        SessionSetup setup;
+        setup.drawing = std::move(*drawing);
+        setup.source = &script;
+        setup.moduleFiles = moduleFiles(m_module);
+        Session session(std::move(setup), modules);
+        const std::string name = scriptName(m_script);
+        if (auto failure = withMemory(FailureCause::unplayableScript, name,
+                                      [&] { return playToTheEnd(session, script, name); })) {
+            return failure;
+        }
+        return task.output ? saveDrawing(session.drawing(), *task.output) : std::nullopt;
+    }
+
+private:
+    std::string m_script;                // "-" is standard input
+    std::optional<std::string> m_module; // else beside the program or in the library folder
+    std::string m_text;                  // of the script
+};
 
 } // namespace
 
-std::optional<Failure> runScript(const RunCall& call) {
-    const auto text = readScript(call);
-    if (!text) {
-        return text.failure();
-    }
-    auto drawing = openDrawing(call.drawing);
-    if (!drawing) {
-        return drawing.failure();
-    }
-    ScriptSource script(*text, printLine);
-    ModuleLoader modules;
-    SessionSetup setup;
-    setup.drawing = std::move(*drawing);
-    setup.source = &script;
-    setup.moduleFiles = moduleFiles(call.module);
-    Session session(std::move(setup), modules);
-    const std::string name = scriptName(call);
-    if (auto failure = withMemory(FailureCause::unplayableScript, name,
-                                  [&] { return playToTheEnd(session, script, name); })) {
-        return failure;
-    }
-    return call.output ? save(session, *call.output) : std::nullopt;
+std::unique_ptr<Verb> makeRunVerb() {
+    return std::make_unique<RunVerb>();
 }
 
 } // namespace orvex

@@ -6,8 +6,10 @@
 #include "pictureWriter.h"
 #include "verbs.h"
 
+#include <CLI/CLI.hpp>
 #include <QGuiApplication>
 
+#include <charconv>
 #include <cstdlib>
 
 namespace orvex {
@@ -21,32 +23,80 @@ void ignoreWarnings(QtMsgType kind, const QMessageLogContext& /*context*/, const
     }
 }
 
+// "WxH" in pixels.
+std::optional<PictureSize> parseSize(const std::string& text) {
+    const auto number = [](const char* first, const char* last) {
+        int value = 0;
+        const auto result = std::from_chars(first, last, value);
+        return result.ec == std::errc() && result.ptr == last ? value : 0;
+    };
+    const std::size_t cross = text.find('x');
+    if (cross == std::string::npos) {
+        return std::nullopt;
+    }
+    const int width = number(text.data(), text.data() + cross);
+    const int height = number(text.data() + cross + 1, text.data() + text.size());
+    if (width <= 0 || height <= 0) {
+        return std::nullopt;
+    }
+    return PictureSize{width, height};
+}
+
+std::string checkSize(const std::string& text) {
+    return parseSize(text) ? std::string() : "the size is two numbers of pixels, as in 1600x1200";
+}
+
+class ShowVerb final : public Verb {
+public:
+    ShowVerb()
+        : Verb({"show", "Draw a drawing into a picture", "The picture: .svg, .png or .pdf", true}) {
+    }
+
+    void addOptions(CLI::App& options) override {
+        options
+            .add_option_function<std::string>(
+                "--size", [this](const std::string& text) { m_size = *parseSize(text); },
+                "Its size in pixels")
+            ->type_name("WxH")
+            ->default_str("1600x1200")
+            ->check(checkSize);
+    }
+
+    [[nodiscard]] std::optional<Failure> check(const DrawingTask& task) const override {
+        return checkPicture(*task.output, m_size);
+    }
+
+    std::optional<Failure> carryOut(const DrawingTask& task, Counts& /*counts*/) override {
+        const auto drawing = openDrawing(task.drawing);
+        if (!drawing) {
+            return drawing.failure();
+        }
+        qInstallMessageHandler(ignoreWarnings);
+        // Fonts need an application, which needs no screen here.
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        int argc = 1;
+        char name[] = "orvex-batch";
+        char* argv[] = {name, nullptr};
+        const QGuiApplication application(argc, argv);
+
+        return withMemory(FailureCause::unwritableOutput, *task.output, [&] {
+            Scene scene((*drawing)->database());
+            auto failure = writePicture(scene, *task.output, m_size);
+            if (const auto partlyDrawn = scene.partlyDrawn(); !failure && !partlyDrawn.empty()) {
+                complain(task.drawing + ": warning: " + partlyDrawnText(partlyDrawn));
+            }
+            return failure;
+        });
+    }
+
+private:
+    PictureSize m_size;
+};
+
 } // namespace
 
-std::optional<Failure> showDrawing(const ShowCall& call) {
-    if (auto failure = checkPicture(call.output, call.size)) {
-        return failure;
-    }
-    const auto drawing = openDrawing(call.drawing);
-    if (!drawing) {
-        return drawing.failure();
-    }
-    qInstallMessageHandler(ignoreWarnings);
-    // Fonts need an application, which needs no screen here.
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    int argc = 1;
-    char name[] = "orvex-batch";
-    char* argv[] = {name, nullptr};
-    const QGuiApplication application(argc, argv);
-
-    return withMemory(FailureCause::unwritableOutput, call.output, [&] {
-        Scene scene((*drawing)->database());
-        auto failure = writePicture(scene, call.output, call.size);
-        if (const auto partlyDrawn = scene.partlyDrawn(); !failure && !partlyDrawn.empty()) {
-            complain(call.drawing + ": warning: " + partlyDrawnText(partlyDrawn));
-        }
-        return failure;
-    });
+std::unique_ptr<Verb> makeShowVerb() {
+    return std::make_unique<ShowVerb>();
 }
 
 } // namespace orvex

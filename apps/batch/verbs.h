@@ -1,19 +1,20 @@
 #pragma once
 
-#include "BatchCall.h"
-#include "Failure.h"
+#include "Verb.h"
 
-#include <optional>
+#include <memory>
+#include <vector>
 
 namespace orvex {
 
-// What the program does.
+std::unique_ptr<Verb> makeRunVerb();
+std::unique_ptr<Verb> makeShowVerb();
+std::unique_ptr<Verb> makeListVerb();
+std::unique_ptr<Verb> makeJoinVerb();
+std::unique_ptr<Verb> makeAuditVerb();
+std::unique_ptr<Verb> makeConvertVerb();
 
-std::optional<Failure> runScript(const RunCall& call);
-std::optional<Failure> showDrawing(const ShowCall& call);
-std::optional<Failure> listDrawing(const ListCall& call);
-std::optional<Failure> joinDrawing(const JoinCall& call);
-std::optional<Failure> auditDrawing(const AuditCall& call);
-std::optional<Failure> convertDrawing(const ConvertCall& call);
+// All of them, as --help lists them.
+std::vector<std::unique_ptr<Verb>> makeVerbs();
 
 } // namespace orvex
