@@ -6,6 +6,7 @@
 
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace orvex {
 
@@ -18,12 +19,23 @@ ChangeLog::~ChangeLog() {
     }
 }
 
+// What changes outside of commands is no step, but steps taken back don't fit any more.
+bool ChangeLog::keepsChanges() {
+    if (m_undo->isRestoring()) {
+        return false;
+    }
+    if (!m_inCommand) {
+        m_undo->forgetRedo();
+    }
+    return m_inCommand;
+}
+
 void ChangeLog::noteChange(KdDbStub& stub) {
     if (m_isPaused) {
         return;
     }
-    if (m_inCommand) {
-        m_undo->keep(stub);
+    if (keepsChanges()) {
+        m_undo->current().keep(stub);
     }
     notify(stub);
 }
@@ -32,15 +44,15 @@ void ChangeLog::noteMade(KdDbStub& stub) {
     if (m_isPaused) {
         return;
     }
-    if (m_inCommand) {
-        m_undo->keepMade(stub);
+    if (keepsChanges()) {
+        m_undo->current().keepMade(stub);
     }
     notify(stub);
 }
 
 void ChangeLog::noteVariable(std::string_view name) {
-    if (m_inCommand) {
-        m_undo->keepVariable(name);
+    if (keepsChanges()) {
+        m_undo->current().keepVariable(name);
     }
 }
 
@@ -61,10 +73,10 @@ void ChangeLog::tellFeeds(KdDbStub& stub) {
     }
 }
 
-void ChangeLog::beginCommand() {
+void ChangeLog::beginCommand(std::wstring name) {
     if (!m_inCommand) {
         m_inCommand = true;
-        m_undo->begin();
+        m_undo->begin(std::move(name));
     }
 }
 
@@ -85,8 +97,42 @@ bool ChangeLog::undo() {
     return m_undo->undo();
 }
 
+bool ChangeLog::redo() {
+    if (m_inCommand) {
+        return false;
+    }
+    m_core.closeAll();
+    return m_undo->redo();
+}
+
 std::size_t ChangeLog::undoDepth() const {
     return m_undo->depth();
+}
+
+std::size_t ChangeLog::redoDepth() const {
+    return m_undo->redoDepth();
+}
+
+const StepName* ChangeLog::nextUndo() const {
+    return m_undo->nextUndo();
+}
+
+const StepName* ChangeLog::nextRedo() const {
+    return m_undo->nextRedo();
+}
+
+std::uint64_t ChangeLog::highestRedoHandle() const {
+    return m_undo->highestRedoHandle();
+}
+
+void ChangeLog::mark() {
+    if (m_inCommand) {
+        m_undo->mark();
+    }
+}
+
+bool ChangeLog::rollBackToMark() {
+    return m_inCommand && m_undo->rollBack();
 }
 
 void ChangeLog::attach(ChangeFeed& feed) {

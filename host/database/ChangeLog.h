@@ -3,7 +3,9 @@
 #include "KdDbStub.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -12,6 +14,7 @@ namespace orvex {
 class ChangeFeed;
 class DatabaseCore;
 class UndoLog;
+struct StepName;
 
 // What changed in a database: who is told of it, what saving looks at, and what undo takes back.
 class ChangeLog {
@@ -25,13 +28,26 @@ public:
     // change.
     [[nodiscard]] const std::vector<KdDbStub*>& changedStubs() const { return m_changed; }
 
-    void beginCommand();
+    // The name is for people.
+    void beginCommand(std::wstring name = {});
     // Closes what is open and makes one undo step of all that changed; false when nothing did.
     bool endCommand();
     // Takes the last step back; false when there is none, and during a command.
     bool undo();
+    // Brings the last step taken back again, until something new is done; false as for undo.
+    bool redo();
     [[nodiscard]] bool inCommand() const { return m_inCommand; }
-    [[nodiscard]] std::size_t undoDepth() const; // steps that can be taken back
+    [[nodiscard]] std::size_t undoDepth() const;    // steps that can be taken back
+    [[nodiscard]] std::size_t redoDepth() const;    // and brought again
+    [[nodiscard]] const StepName* nextUndo() const; // null when there is none
+    [[nodiscard]] const StepName* nextRedo() const;
+
+    // Marks of the running command, see UndoLog. Nothing outside of commands.
+    void mark();
+    bool rollBackToMark();
+
+    // Steps, their memory, and what goes with them.
+    [[nodiscard]] UndoLog& steps() { return *m_undo; }
 
     void attach(ChangeFeed& feed);
     void detach(ChangeFeed& feed);
@@ -43,6 +59,8 @@ public:
     void noteMade(KdDbStub& stub);
     // Before a variable of the header changes.
     void noteVariable(std::string_view name);
+    // Handles up to it belong to what may be brought again; 0 for none.
+    [[nodiscard]] std::uint64_t highestRedoHandle() const;
     // Only tells who follows the changes; nothing is kept for undo.
     void notify(KdDbStub& stub);
 
@@ -63,6 +81,7 @@ public:
     [[nodiscard]] bool isPaused() const { return m_isPaused; }
 
 private:
+    [[nodiscard]] bool keepsChanges();
     void tellFeeds(KdDbStub& stub);
 
     DatabaseCore& m_core;

@@ -74,7 +74,10 @@ std::uint64_t ObjectTable::takeHandle() {
 
 std::uint64_t ObjectTable::ensureHandle(KdDbStub& stub) {
     if (stub.handle == 0) {
-        stub.handle = nextHandle();
+        // What was taken back may come again, with its handle.
+        const std::uint64_t reserved = m_core.changes().highestRedoHandle();
+        const std::uint64_t next = nextHandle();
+        stub.handle = reserved < kLastHandle ? std::max(next, reserved + 1) : next;
         noteHighestHandle(stub.handle);
         m_handles.noteHandle(stub);
     }
@@ -83,6 +86,12 @@ std::uint64_t ObjectTable::ensureHandle(KdDbStub& stub) {
 
 void ObjectTable::restoreHighestHandle(std::uint64_t handle) {
     m_highestHandle = std::max(handle, m_highestFixed);
+}
+
+void ObjectTable::noteRevived(KdDbStub& stub) {
+    if (!stub.erased) {
+        m_handles.noteHandle(stub);
+    }
 }
 
 } // namespace orvex

@@ -50,6 +50,8 @@ public:
     // for those that the file has.
     [[nodiscard]] std::uint64_t highestHandle() const { return m_highestHandle; }
     void restoreHighestHandle(std::uint64_t handle);
+    // After undo or its reverse: a stub that lives again is found by its handle.
+    void noteRevived(KdDbStub& stub);
 
 private:
     [[nodiscard]] std::uint64_t nextHandle();

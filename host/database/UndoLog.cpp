@@ -1,126 +1,145 @@
 #include "UndoLog.h"
 
-#include "ChangeLog.h"
 #include "DatabaseCore.h"
-#include "ObjectContent.h"
-#include "ObjectTable.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace orvex {
 
-namespace {
-
-constexpr std::string_view kSeed = "HANDSEED";
-
-} // namespace
-
-void UndoLog::begin() {
-    m_current = Step();
-    m_places.clear();
-    m_current.highestHandle = m_core.objects().highestHandle();
+void UndoLog::begin(std::wstring command) {
+    m_command = std::move(command);
+    m_before = companionState();
+    m_segments.clear();
+    m_segments.emplace_back(m_core);
 }
 
-void UndoLog::keepImage(Image image) {
-    if (m_places.emplace(image.stub, m_current.images.size()).second) {
-        m_current.images.push_back(std::move(image));
-    }
-}
-
-void UndoLog::keep(KdDbStub& stub) {
-    if (!m_places.contains(&stub)) {
-        keepImage({&stub, stub.object != nullptr ? stub.object->content() : nullptr, stub.erased});
-    }
-}
-
-void UndoLog::keepMade(KdDbStub& stub) {
-    keepImage({&stub, nullptr, true});
-}
-
-void UndoLog::keepVariable(std::string_view name) {
-    if (!m_current.variables.contains(name)) {
-        const HeaderValue* const value = m_core.variables().find(name);
-        m_current.variables.emplace(name, value != nullptr ? std::optional(*value) : std::nullopt);
-    }
-}
-
-bool UndoLog::isAsBefore(const Image& image) const {
-    if (image.erased != image.stub->erased) {
-        return false;
-    }
-    if (image.erased || image.content == nullptr) {
-        return true;
-    }
-    const auto now = image.stub->object->content();
-    return now == image.content || now->equals(*image.content);
-}
-
-bool UndoLog::isAsBefore(std::string_view name, const std::optional<HeaderValue>& value) const {
-    const HeaderValue* const now = m_core.variables().find(name);
-    return now != nullptr ? value.has_value() && sameBits(*now, *value) : !value.has_value();
-}
-
-void UndoLog::dropWhatIsAsBefore(Step& step) const {
-    std::erase_if(step.images, [this](const Image& image) { return isAsBefore(image); });
-    std::erase_if(step.variables,
-                  [this](const auto& each) { return isAsBefore(each.first, each.second); });
+std::any UndoLog::companionState() const {
+    return m_companion != nullptr ? m_companion->state() : std::any();
 }
 
 bool UndoLog::end() {
-    Step step = std::exchange(m_current, {});
-    m_places.clear();
-    dropWhatIsAsBefore(step);
-    const bool onlySeed = step.variables.size() == 1 && step.variables.contains(kSeed);
-    if (step.images.empty() && (step.variables.empty() || onlySeed)) {
-        // Objects made and erased again leave nothing but used-up handles.
-        restoreVariables(step);
+    StateImages images = std::move(m_segments.front());
+    for (std::size_t i = 1; i < m_segments.size(); ++i) {
+        images.append(std::move(m_segments[i]));
+    }
+    m_segments.clear();
+    images.dropWhatIsAsBefore();
+    if (images.isEmpty()) {
+        images.restoreVariables();
         return false;
     }
-    step.memory = sizeof(Step) + step.images.capacity() * sizeof(Image);
-    for (const Image& image : step.images) {
-        step.memory += image.content != nullptr ? image.content->memoryUse() : 0;
-    }
-    m_memory += step.memory;
-    m_steps.push_back(std::move(step));
+    images.finish();
+    forgetRedo();
+    StepName name{std::move(m_command), images.countMultilines(), images.countEntities()};
+    const std::size_t memory = images.memoryUse();
+    m_done.push_back({std::move(images), std::move(name), std::exchange(m_before, {}),
+                      companionState(), memory});
+    m_memory += memory;
     keepWithinLimit();
     return true;
 }
 
 void UndoLog::keepWithinLimit() {
-    while (m_memory > kMemoryLimit && m_steps.size() > 1) {
-        m_memory -= m_steps.front().memory;
-        m_steps.pop_front();
+    while (m_memory > m_memoryLimit && m_done.size() > 1) {
+        m_memory -= m_done.front().memory;
+        m_done.pop_front();
+        ++m_dropped;
     }
 }
 
-void UndoLog::restoreVariables(const Step& step) {
-    for (const auto& [name, value] : step.variables) {
-        if (value.has_value()) {
-            m_core.loadVariable(name, *value);
-        } else {
-            m_core.removeVariable(name);
-        }
+bool UndoLog::isTakenBack(const StateImages& last, const StateImages& before) {
+    StateImages both = before;
+    both.append(StateImages(last));
+    both.dropWhatIsAsBefore();
+    return both.isEmpty();
+}
+
+void UndoLog::joinLastSegments() {
+    StateImages last = std::move(m_segments.back());
+    m_segments.pop_back();
+    current().append(std::move(last));
+    current().dropWhatIsAsBefore();
+}
+
+void UndoLog::mark() {
+    if (m_segments.empty()) {
+        return;
     }
-    m_core.objects().restoreHighestHandle(step.highestHandle);
+    current().dropWhatIsAsBefore();
+    if (current().isEmpty()) {
+        return;
+    }
+    const std::size_t count = m_segments.size();
+    if (count > 1 && isTakenBack(m_segments[count - 1], m_segments[count - 2])) {
+        joinLastSegments();
+        return;
+    }
+    m_segments.emplace_back(m_core);
+}
+
+bool UndoLog::rollBack() {
+    if (m_segments.empty()) {
+        return false;
+    }
+    current().dropWhatIsAsBefore();
+    if (current().isEmpty() && m_segments.size() > 1) {
+        joinLastSegments();
+    }
+    const bool changed = !current().isEmpty();
+    exchange(current());
+    m_segments.back() = StateImages(m_core);
+    return changed;
+}
+
+void UndoLog::exchange(StateImages& images) {
+    m_isRestoring = true;
+    images.exchange();
+    m_isRestoring = false;
+}
+
+bool UndoLog::step(std::deque<Step>& from, std::deque<Step>& to, std::any Step::*state) {
+    if (from.empty()) {
+        return false;
+    }
+    Step step = std::move(from.back());
+    from.pop_back();
+    exchange(step.images);
+    m_memory -= step.memory;
+    step.memory = step.images.memoryUse();
+    m_memory += step.memory;
+    if (m_companion != nullptr) {
+        m_companion->restore(step.*state);
+    }
+    to.push_back(std::move(step));
+    return true;
 }
 
 bool UndoLog::undo() {
-    if (m_steps.empty()) {
-        return false;
+    return step(m_done, m_undone, &Step::before);
+}
+
+bool UndoLog::redo() {
+    return step(m_undone, m_done, &Step::after);
+}
+
+const StepName* UndoLog::nextUndo() const {
+    return m_done.empty() ? nullptr : &m_done.back().name;
+}
+
+const StepName* UndoLog::nextRedo() const {
+    return m_undone.empty() ? nullptr : &m_undone.back().name;
+}
+
+void UndoLog::forgetRedo() {
+    for (const Step& step : m_undone) {
+        m_memory -= step.memory;
     }
-    const Step step = std::move(m_steps.back());
-    m_steps.pop_back();
-    m_memory -= step.memory;
-    for (const Image& image : step.images) {
-        m_core.changes().notify(*image.stub);
-        image.stub->erased = image.erased;
-        if (image.content != nullptr) {
-            image.stub->object->setContent(image.content);
-        }
-    }
-    restoreVariables(step);
-    return true;
+    m_undone.clear();
+}
+
+// The step to be brought again last goes furthest.
+std::uint64_t UndoLog::highestRedoHandle() const {
+    return m_undone.empty() ? 0 : m_undone.front().images.highestHandle();
 }
 
 } // namespace orvex

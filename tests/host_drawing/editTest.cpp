@@ -11,6 +11,7 @@
 #include "MlineContent.h"
 #include "sampleDrawing.h"
 
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <initializer_list>
@@ -325,7 +326,31 @@ void editSomething(DrawingFile& file, std::vector<KdDbStub*>& mlines, std::mt199
     }
 }
 
-TEST(Undo, restoresEveryStepByteForByte) {
+// Some edits, each after a mark, and back to some of the marks.
+void editWithMarks(DrawingFile& file, std::vector<KdDbStub*>& mlines, std::mt19937& random,
+                   const std::function<std::string()>& state) {
+    ChangeLog& changes = file.database().core().changes();
+    std::vector<std::string> atMarks;
+    for (std::size_t edits = 1 + random() % 4; edits > 0; --edits) {
+        changes.mark();
+        atMarks.push_back(state());
+        editSomething(file, mlines, random);
+    }
+    if (random() % 2 == 0) {
+        return;
+    }
+    for (std::string last = state(); random() % 3 != 0; last = state()) {
+        while (!atMarks.empty() && atMarks.back() == last) {
+            atMarks.pop_back(); // where nothing changed is no mark
+        }
+        if (!changes.rollBackToMark()) {
+            break;
+        }
+        ASSERT_NE(std::find(atMarks.begin(), atMarks.end(), state()), atMarks.end());
+    }
+}
+
+TEST(Undo, leadsBackAndForthByteForByte) {
     std::size_t steps = 0;
     for (unsigned seed = 1; seed <= 40; ++seed) {
         SCOPED_TRACE(seed);
@@ -339,32 +364,31 @@ TEST(Undo, restoresEveryStepByteForByte) {
             return file->bytes() + std::to_string(walls.color().colorIndex()) +
                    (walls.isFrozen() ? "frozen" : "");
         };
-        std::vector<std::string> before;
-        const auto stepBack = [&] {
-            ASSERT_TRUE(core.changes().undo());
-            ASSERT_TRUE(sameText(state(), before.back()));
-            before.pop_back();
+        std::vector<std::string> states{state()}; // what each number of steps leads to
+        const auto walk = [&](std::size_t count, bool (ChangeLog::*step)()) {
+            for (; count > 0 && (core.changes().*step)(); --count) {
+                ASSERT_TRUE(sameText(state(), states[core.changes().undoDepth()]));
+            }
         };
         for (int i = 0; i < 60; ++i) {
-            const std::string now = state();
             core.changes().beginCommand();
-            for (int edits = 1 + i % 4; edits > 0; --edits) {
-                editSomething(*file, mlines, random);
-            }
+            ASSERT_NO_FATAL_FAILURE(editWithMarks(*file, mlines, random, state));
             if (core.changes().endCommand()) {
-                before.push_back(now);
+                states.resize(core.changes().undoDepth());
+                states.push_back(state());
                 ++steps;
-            } else {
-                ASSERT_TRUE(sameText(state(), now)) << "no command, and yet a change";
             }
-            for (int back = i % 7 == 6 ? 3 : 0; back > 0 && !before.empty(); --back) {
-                ASSERT_NO_FATAL_FAILURE(stepBack());
+            ASSERT_TRUE(sameText(state(), states[core.changes().undoDepth()]));
+            if (i % 7 == 6) {
+                ASSERT_NO_FATAL_FAILURE(walk(3, &ChangeLog::undo));
+                ASSERT_NO_FATAL_FAILURE(walk(1, &ChangeLog::redo));
             }
         }
-        while (!before.empty()) {
-            ASSERT_NO_FATAL_FAILURE(stepBack());
-        }
-        EXPECT_FALSE(core.changes().undo());
+        ASSERT_NO_FATAL_FAILURE(walk(states.size(), &ChangeLog::undo));
+        EXPECT_EQ(core.changes().undoDepth(), 0U);
+        ASSERT_NO_FATAL_FAILURE(walk(states.size(), &ChangeLog::redo));
+        EXPECT_EQ(core.changes().redoDepth(), 0U);
+        ASSERT_NO_FATAL_FAILURE(walk(states.size(), &ChangeLog::undo));
     }
     EXPECT_GT(steps, 1000U);
 }
