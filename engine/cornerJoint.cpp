@@ -3,6 +3,7 @@
 #include "CMlineEdit.h"
 #include "teeTools.h"
 #include "vectorMath.h"
+#include "vertexTools.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -60,13 +61,9 @@ void mapToMiddle(CMlineSegment& seg) {
 // Removal at the head leaves m_segment as it was: the segment in question is then segment 0.
 void removeBeyondCorner(CMlineEdit& run, CMlineSegment& seg, bool keepStart) {
     if (keepStart) {
-        while (seg.m_numVertices > seg.m_segment + 2) {
-            run.delete_OneVertex(&seg, seg.m_segment + 2);
-        }
+        removeVertices(run, seg, seg.m_segment + 2, seg.m_numVertices - seg.m_segment - 2);
     } else {
-        for (int i = 0; i < seg.m_segment; ++i) {
-            run.delete_OneVertex(&seg, 0);
-        }
+        removeVertices(run, seg, 0, seg.m_segment);
     }
 }
 
@@ -117,23 +114,16 @@ void joinTwo(CMlineEdit& run, const double* corner, bool firstKeepsStart, bool s
 
 void cutLoopOut(CMlineEdit& run, CMlineSegment& seg, int laterSegment, const double* corner) {
     const int start = seg.m_segment;
-    for (int i = 0; i < laterSegment - start - 1; ++i) {
-        run.delete_OneVertex(&seg, start + 2);
-    }
+    removeVertices(run, seg, start + 2, laterSegment - start - 1);
     moveEnd(run, seg, start + 1, corner);
 }
 
 // Both ends move to the corner, and each element stops at its crossing with itself.
 void closeLoop(CMlineEdit& run, CMlineSegment& seg, int earlierSegment, const double* corner) {
     const int last = seg.m_segment;
-    const int verticesAfter = seg.m_numVertices - last - 2;
-    for (int i = 0; i < verticesAfter; ++i) {
-        run.delete_OneVertex(&seg, last + 2);
-    }
+    removeVertices(run, seg, last + 2, seg.m_numVertices - last - 2);
     moveEnd(run, seg, last + 1, corner);
-    for (int i = 0; i < earlierSegment; ++i) {
-        run.delete_OneVertex(&seg, 0);
-    }
+    removeVertices(run, seg, 0, earlierSegment);
     moveEnd(run, seg, 0, corner);
     run.change71GroupNumber(seg.m_mline, 1, 1, -1, 1);
     for (int k = 0; k < seg.m_numElements; ++k) {

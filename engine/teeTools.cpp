@@ -3,6 +3,7 @@
 #include "CMlineEdit.h"
 #include "crossTools.h"
 #include "vectorMath.h"
+#include "vertexTools.h"
 
 #include <algorithm>
 #include <vector>
@@ -84,9 +85,7 @@ bool removeBeyondBar(CMlineEdit& run, int stemSegment, int barSegment, bool keep
     }
     const int vertex = keepStart ? stemSegment + 2 : 0;
     const int times = keepStart ? run.m_first.m_numVertices - stemSegment - 2 : stemSegment;
-    for (int i = 0; i < times; ++i) {
-        run.delete_OneVertex(&run.m_first, vertex);
-    }
+    removeVertices(run, run.m_first, vertex, times);
     return true;
 }
 

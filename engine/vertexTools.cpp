@@ -11,9 +11,12 @@
 #include "shiftList.h"
 #include "vectorMath.h"
 #include "vertexChain.h"
+#include "vertexParameters.h"
 
 #include <algorithm>
 #include <memory>
+#include <optional>
+#include <utility>
 
 using namespace mledit;
 
@@ -69,140 +72,162 @@ bool isElementPosition(const CMlineSegment& seg, const double* position) {
     return false;
 }
 
-// The removal of vertex D of an entity that had `m_count` vertices: the lists and the two vertices
-// next to the gap. Indices are those of the old vertices, slots their indices afterwards.
+// Removes vertices of an entity, one after the other at the same index D. Each removal turns the
+// two vertices next to D and rewrites their lists; all others keep theirs. The entity is taken
+// apart once and put together once, so that a removal costs the same in a chain of any length: what
+// is removed stays in a gap that begins at D and that `column` steps over.
 class VertexRemoval {
 public:
-    VertexRemoval(CMlineEdit& edit, CMlineSegment& seg, int vertex, const KdDbMline& copy,
-                  const EndAngles& ends)
-        : m_edit(edit), m_mline(seg.m_mline), m_ptList(seg.m_ptList), m_copy(copy), m_d(vertex),
-          m_count(seg.m_numVertices), m_elements(seg.m_numElements), m_closed(isClosed(&copy)),
-          m_around(neighboursOf(vertex, m_count, m_closed)), m_frame(frameOf(&copy)), m_ends(ends),
-          m_chain(VertexChain::of(&copy)) {
-        GetNormal(&copy, m_normal);
+    // `seg` has its table of positions, which serves as working memory.
+    VertexRemoval(CMlineEdit& edit, CMlineSegment& seg, int vertex, const EndAngles& ends)
+        : m_edit(edit), m_mline(seg.m_mline), m_positions(seg.m_ptList), m_d(vertex),
+          m_count(seg.m_numVertices), m_elements(seg.m_numElements), m_closed(isClosed(m_mline)),
+          m_frame(frameOf(m_mline)), m_ends(ends), m_chain(VertexChain::of(m_mline)) {
+        GetNormal(m_mline, m_normal);
+        m_lists.reserve(static_cast<std::size_t>(m_count));
+        for (int v = 0; v < m_count; ++v) {
+            m_lists.push_back(elementLists(*m_mline, v, m_elements));
+        }
     }
 
-    void run() {
-        int elements = 0;
-        GetSegmentsSize(&m_copy, &elements);
-        SetNumVertices(m_mline, m_count - 1);
-        SetSegmentsSize(m_mline, elements);
-        const auto drop = [this](std::vector<Xyz>& points) { points.erase(points.begin() + m_d); };
-        drop(m_chain.vertices);
-        drop(m_chain.axes);
-        drop(m_chain.miters);
-        turnPrevious();
-        turnNext();
-        m_chain.store(m_mline);
-        for (int old = 0; old < m_count; ++old) {
-            rewriteLists(old);
+    // Before each removal there has to be a vertex D, and enough others.
+    void run(int removals) {
+        for (int i = 0; i < removals; ++i) {
+            if (i > 0) {
+                placeElements(m_around.previous);
+                placeElements(m_around.next);
+            }
+            removeOne();
         }
+        store();
     }
 
 private:
-    [[nodiscard]] bool exists(int vertex) const { return vertex >= 0 && vertex < m_count; }
-
+    // Columns of the chain, the lists and the positions: those from D on lie after the gap.
+    [[nodiscard]] std::size_t column(int vertex) const {
+        return static_cast<std::size_t>(vertex < m_d ? vertex : vertex + m_gap);
+    }
+    [[nodiscard]] const double* position(int element, std::size_t column) const {
+        return m_positions[element][column];
+    }
     // Between element 0's positions, not the vertices.
-    [[nodiscard]] double angle(int from, int to) const {
-        return angleIn(m_frame, m_ptList[0][from], m_ptList[0][to]);
+    [[nodiscard]] double angle(std::size_t from, std::size_t to) const {
+        return angleIn(m_frame, position(0, from), position(0, to));
+    }
+    void setDirections(std::size_t column, double axis, double miter) {
+        m_frame.direction(axis, m_chain.axes[column].data());
+        m_frame.direction(miter, m_chain.miters[column].data());
     }
 
-    void setDirections(int slot, double axis, double miter) {
-        m_frame.direction(axis, m_chain.axes[static_cast<std::size_t>(slot)].data());
-        m_frame.direction(miter, m_chain.miters[static_cast<std::size_t>(slot)].data());
+    // The vertices around D, before it goes; nothing for one that doesn't exist.
+    struct Around {
+        std::optional<std::size_t> previous, beforePrevious, next, afterNext;
+    };
+    [[nodiscard]] Around around() const {
+        const auto existing = [this](int vertex) {
+            return vertex >= 0 && vertex < m_count ? std::optional(column(vertex)) : std::nullopt;
+        };
+        const auto [next, afterNext, previous, beforePrevious] =
+            neighboursOf(m_d, m_count, m_closed);
+        return {existing(previous), existing(beforePrevious), existing(next), existing(afterNext)};
+    }
+
+    void removeOne() {
+        m_around = around();
+        // On an open chain a new last vertex takes the start angle, as a new first one does.
+        const bool isNextFree = !m_closed && (m_d == 0 || m_d == m_count - 2);
+        m_firstBefore = column(0);
+        ++m_gap;
+        --m_count;
+        turnPrevious();
+        turnNext(isNextFree);
+        rewritePrevious();
+        rewriteNext();
     }
 
     void turnPrevious() {
-        const auto [next, afterNext, previous, beforePrevious] = m_around;
-        if (!exists(previous)) {
+        const auto [previous, beforePrevious, next, afterNext] = m_around;
+        if (!previous) {
             return;
         }
-        const double axis = exists(next) ? angle(previous, next) : angle(beforePrevious, previous);
+        const double axis = next ? angle(*previous, *next) : angle(*beforePrevious, *previous);
         // A free first vertex next to the gap takes the style's end angle. A new last vertex takes
         // none: its two directions are opposite, which makes a square end.
-        const double miter = exists(beforePrevious) ? bisect(axis, angle(previous, beforePrevious))
-                                                    : axis + m_ends.end;
-        setDirections(previous > m_d ? m_count - 2 : previous, axis, miter);
+        const double miter =
+            beforePrevious ? bisect(axis, angle(*previous, *beforePrevious)) : axis + m_ends.end;
+        setDirections(*previous, axis, miter);
     }
 
-    void turnNext() {
-        const auto [next, afterNext, previous, beforePrevious] = m_around;
-        if (!exists(next)) {
+    void turnNext(bool isFree) {
+        const auto [previous, beforePrevious, next, afterNext] = m_around;
+        if (!next) {
             return;
         }
-        const double axis = exists(afterNext) ? angle(next, afterNext) : angle(previous, next);
-        // On an open chain a new last vertex takes the start angle, as a new first one does.
-        const bool isFree = !m_closed && (m_d == 0 || m_d == m_count - 2);
-        const double miter = isFree ? axis + m_ends.start : bisect(axis, angle(next, previous));
-        setDirections(m_d >= m_count - 1 ? 0 : m_d, axis, miter);
+        const double axis = afterNext ? angle(*next, *afterNext) : angle(*previous, *next);
+        setDirections(*next, axis,
+                      isFree ? axis + m_ends.start : bisect(axis, angle(*next, *previous)));
     }
 
-    void rewriteLists(int old) {
-        if (old == m_d) {
-            return;
-        }
-        if (old == m_around.previous) {
-            rewritePrevious(old, old == m_count - 1 ? old - 1 : old);
-        } else if (old == m_around.next) {
-            rewriteNext(old, old == 0 ? 0 : old - 1);
-        } else {
-            carryVertex(&m_copy, old, m_mline, old >= m_d - 1 ? old - 1 : old, m_elements);
-        }
-    }
-
-    // Angles of the axis and the miter that a slot has now.
-    [[nodiscard]] double slotAngle(const std::vector<Xyz>& directions, int slot) const {
+    // Angle of a direction in the frame.
+    [[nodiscard]] double angleOf(const Xyz& direction) const {
         const double origin[3] = {0.0, 0.0, 0.0};
         double inFrame[3];
-        m_frame.directionToFrame(directions[static_cast<std::size_t>(slot)].data(), inFrame);
+        m_frame.directionToFrame(direction.data(), inFrame);
         return tklengine_angle(origin, inFrame);
     }
 
-    // The offset of element k from the chain, always measured at vertex 0 and the new first
-    // segment, whichever vertex went.
+    // The offset of element k from the chain, always measured at the former vertex 0 and the new
+    // first segment, whichever vertex went.
     double offsetOf(int k) {
         double distance = 0.0;
-        m_edit.Distance_PointToLine(m_ptList[k][0], m_chain.vertices[0].data(),
-                                    m_chain.vertices[1].data(), m_normal, &distance, nullptr);
+        m_edit.Distance_PointToLine(position(k, m_firstBefore), m_chain.vertices[column(0)].data(),
+                                    m_chain.vertices[column(1)].data(), m_normal, &distance,
+                                    nullptr);
         return distance;
     }
 
     // The segment over the gap is unbroken.
-    void rewritePrevious(int old, int slot) {
-        const double turn = slotAngle(m_chain.miters, slot) - slotAngle(m_chain.axes, slot);
+    void rewritePrevious() {
+        if (!m_around.previous) {
+            return;
+        }
+        const std::size_t at = *m_around.previous;
+        const double turn = angleOf(m_chain.miters[at]) - angleOf(m_chain.axes[at]);
         for (int k = 0; k < m_elements; ++k) {
-            storeLineList(m_mline, slot, k, unbrokenList(offsetOf(k), turn));
-            storeAreaList(m_mline, slot, k, areaList(&m_copy, old, k));
+            setLineList(at, k, unbrokenList(offsetOf(k), turn));
         }
     }
 
     // The segment after the gap keeps its breaks, moved with its start.
-    void rewriteNext(int old, int slot) {
-        const double turn = slotAngle(m_chain.axes, slot) + kPi - slotAngle(m_chain.miters, slot);
+    void rewriteNext() {
+        if (!m_around.next) {
+            return;
+        }
+        const std::size_t at = *m_around.next;
+        const double turn = angleOf(m_chain.axes[at]) + kPi - angleOf(m_chain.miters[at]);
         for (int k = 0; k < m_elements; ++k) {
-            std::vector<double> list = lineList(&m_copy, old, k);
+            std::vector<double> list = lineListAt(at, k);
             if (!list.empty()) {
                 list[0] = alongMiter(offsetOf(k), turn);
-                if (exists(m_around.afterNext)) {
-                    followStart(list, old, slot, k);
+                if (m_around.afterNext) {
+                    followStart(list, at, k);
                 }
             }
-            storeLineList(m_mline, slot, k, list);
-            storeAreaList(m_mline, slot, k, areaList(&m_copy, old, k));
+            setLineList(at, k, list);
         }
     }
 
     // Element 0's position serves for every element, and a start that isn't 0 moves the offset
     // instead of itself.
-    void followStart(std::vector<double>& list, int old, int slot, int k) const {
-        const Xyz& miter = m_chain.miters[static_cast<std::size_t>(slot)];
+    void followStart(std::vector<double>& list, std::size_t at, int k) const {
+        const Xyz& miter = m_chain.miters[at];
         double start[3];
-        for (int i = 0; i < 3; ++i) {
-            start[i] = m_ptList[0][old][i] + miter[static_cast<std::size_t>(i)] * list[0];
+        for (std::size_t i = 0; i < 3; ++i) {
+            start[i] = position(0, at)[i] + miter[i] * list[0];
         }
-        double distance = tklengine_distance(start, m_ptList[k][old]);
-        if (!VoMath::isEqual(kdutAngle(start, m_ptList[k][old]),
-                             kdutAngle(start, m_ptList[k][m_around.afterNext]), kSameDirection)) {
+        double distance = tklengine_distance(start, position(k, at));
+        if (!VoMath::isEqual(kdutAngle(start, position(k, at)),
+                             kdutAngle(start, position(k, *m_around.afterNext)), kSameDirection)) {
             distance = -distance;
         }
         if (list.size() > 1 && !VoMath::isEqual(list[1], 0.0, kNoBreak)) {
@@ -213,20 +238,79 @@ private:
         }
     }
 
+    [[nodiscard]] std::vector<double> lineListAt(std::size_t column, int k) const {
+        const VoVector<double>& values = m_lists[column].at(k).m_lineParams;
+        return {values.begin(), values.end()};
+    }
+    void setLineList(std::size_t column, int k, const std::vector<double>& list) {
+        VoVector<double> fresh(static_cast<unsigned>(list.size()));
+        std::copy(list.begin(), list.end(), fresh.data());
+        m_lists[column].at(k).m_lineParams = fresh;
+    }
+
+    // Where the elements pass a vertex that was turned.
+    void placeElements(std::optional<std::size_t> column) {
+        for (int k = 0; column && k < m_elements; ++k) {
+            const VoVector<double>& list = std::as_const(m_lists[*column]).at(k).m_lineParams;
+            const double offset = list.isEmpty() ? 0.0 : list.at(0);
+            for (std::size_t i = 0; i < 3; ++i) {
+                m_positions[k][*column][i] =
+                    m_chain.vertices[*column][i] + offset * m_chain.miters[*column][i];
+            }
+        }
+    }
+
+    void store() {
+        int elements = 0;
+        GetSegmentsSize(m_mline, &elements);
+        SetNumVertices(m_mline, m_count);
+        SetSegmentsSize(m_mline, elements);
+        for (std::vector<Xyz>* const points : {&m_chain.vertices, &m_chain.axes, &m_chain.miters}) {
+            points->erase(points->begin() + m_d, points->begin() + m_d + m_gap);
+        }
+        m_chain.store(m_mline);
+        for (int v = 0; v < m_count; ++v) {
+            storeElementLists(*m_mline, v, m_lists[column(v)]);
+        }
+    }
+
     CMlineEdit& m_edit;
     KdDbMline* m_mline;
-    PointTable m_ptList; // of before the removal
-    const KdDbMline& m_copy;
+    PointTable m_positions;
     int m_d;
-    int m_count;
+    int m_count; // vertices that are left
+    int m_gap = 0;
     int m_elements;
     bool m_closed;
-    Neighbours m_around;
     EditFrame m_frame;
     EndAngles m_ends;
-    VertexChain m_chain; // without the vertex, once it is dropped
+    VertexChain m_chain;
+    std::vector<VertexParameters> m_lists;
     double m_normal[3] = {0.0, 0.0, 0.0};
+    Around m_around;               // of the last removal
+    std::size_t m_firstBefore = 0; // the column that vertex 0 had before it
 };
+
+// Removes what can be removed of `times` vertices at one index: an open chain keeps two, a closed
+// one three. The record's count decreases whenever the vertex exists.
+void removeSome(CMlineEdit& run, CMlineSegment& seg, int vertex, int times) {
+    run.ptListInitialize(seg.m_mline, seg.m_numVertices, seg.m_numElements, &seg.m_ptList,
+                         &seg.m_ptListSize);
+    const int count = seg.m_numVertices;
+    if (vertex < 0 || vertex >= count) {
+        return;
+    }
+    const int existing = std::min(times, count - vertex);
+    const int removals = std::min(existing, count - (isClosed(seg) ? 3 : 2));
+    const OpenStyle style(seg.m_mline);
+    if (removals > 0 && seg.m_numElements > 0 && style.get() != nullptr &&
+        count == seg.m_mline->numVertices()) {
+        double normal[3] = {0.0, 0.0, 0.0};
+        GetNormal(seg.m_mline, normal);
+        VertexRemoval(run, seg, vertex, endAngles(*style.get(), normal)).run(removals);
+    }
+    seg.m_numVertices -= existing;
+}
 
 // The lists of the picked segment: its first half keeps what lies before the new vertex, the second
 // starts unbroken whatever was there. Both get the fill parameters.
@@ -321,23 +405,16 @@ void CMlineEdit::add_OneVertex(CMlineSegment* seg) {
     splitLists(*this, seg, *copy, from.data(), to.data(), normal);
 }
 
-// Removes a vertex; an open chain keeps two, a closed one three. The record's count decreases
-// whenever the vertex exists.
 void CMlineEdit::delete_OneVertex(CMlineSegment* seg, int vertex) {
-    ptListInitialize(seg->m_mline, seg->m_numVertices, seg->m_numElements, &seg->m_ptList,
-                     &seg->m_ptListSize);
-    const int count = seg->m_numVertices;
-    if (vertex < 0 || vertex >= count) {
-        return;
+    removeSome(*this, *seg, vertex, 1);
+}
+
+// The first alone: it leaves as many lists at every vertex, as the others count on.
+void mledit::removeVertices(CMlineEdit& run, CMlineSegment& seg, int vertex, int times) {
+    if (times > 0) {
+        removeSome(run, seg, vertex, 1);
     }
-    const bool enough = count > 3 || (count == 3 && !isClosed(*seg));
-    const OpenStyle style(seg->m_mline);
-    if (enough && seg->m_numElements > 0 && style.get() != nullptr &&
-        count == seg->m_mline->numVertices()) {
-        const std::unique_ptr<KdDbMline> copy = copyOf(seg->m_mline);
-        double normal[3] = {0.0, 0.0, 0.0};
-        GetNormal(copy.get(), normal);
-        VertexRemoval(*this, *seg, vertex, *copy, endAngles(*style.get(), normal)).run();
+    if (times > 1) {
+        removeSome(run, seg, vertex, times - 1);
     }
-    --seg->m_numVertices;
 }

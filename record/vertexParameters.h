@@ -58,4 +58,28 @@ int changeRecord(KdDbMline* mline, int vertex, int element, Change change) {
     return 1;
 }
 
+// The records of `count` elements at a vertex as clamped reads see them.
+inline VertexParameters elementLists(const KdDbMline& mline, int vertex, int count) {
+    const VertexParameters records = vertexParameters(mline, vertex);
+    if (static_cast<int>(records.size()) == count || records.isEmpty()) {
+        VertexParameters same = records;
+        same.resize(static_cast<unsigned>(std::max(count, 0)));
+        return same;
+    }
+    VertexParameters lists(static_cast<unsigned>(std::max(count, 0)));
+    for (int k = 0; k < count; ++k) {
+        lists.at(k) = records.at(std::min(k, static_cast<int>(records.size()) - 1));
+    }
+    return lists;
+}
+
+// Those that a vertex has no element for are dropped, and elements without one keep theirs.
+inline void storeElementLists(KdDbMline& mline, int vertex, const VertexParameters& lists) {
+    VertexParameters records = vertexParameters(mline, vertex);
+    for (int k = 0; k < static_cast<int>(std::min(records.size(), lists.size())); ++k) {
+        records.at(k) = lists.at(k);
+    }
+    storeVertexParameters(mline, vertex, records);
+}
+
 } // namespace mledit
