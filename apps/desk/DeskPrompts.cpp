@@ -68,14 +68,14 @@ std::optional<PromptAnswer> DeskPrompts::understand(const PromptRequest& request
                                                     const QString& typed) {
     const std::wstring wide = toWide(typed);
     const std::wstring text(trimBlanks(wide));
-    std::optional<PromptAnswer> answer = answerFromText(request, text);
-    if (answer) {
+    TextReading reading = answerFromText(request, text);
+    if (auto* const answer = std::get_if<PromptAnswer>(&reading)) {
         answer->echo = text;
-    } else {
-        print(std::wstring(trimBlanks(request.text)) + L' ' + text);
-        print(complaintAbout(request, text));
+        return std::move(*answer);
     }
-    return answer;
+    print(std::wstring(trimBlanks(request.text)) + L' ' + text);
+    print(complaintAbout(request, text, reading));
+    return std::nullopt;
 }
 
 void DeskPrompts::answerText(const QString& typed) {

@@ -94,10 +94,11 @@ PromptAnswer ScriptSource::answerTo(const PromptRequest& request, const std::wst
     if (text == kCancel) {
         return answer;
     }
-    if (const auto understood = answerFromText(request, text)) {
-        return *understood;
+    TextReading reading = answerFromText(request, text);
+    if (auto* const understood = std::get_if<PromptAnswer>(&reading)) {
+        return std::move(*understood);
     }
-    reject(complaintAbout(request, text));
+    reject(complaintAbout(request, text, reading));
     return answer;
 }
 

@@ -1,6 +1,14 @@
 #include "answerFromText.h"
 
+#include "PromptSession.h"
+#include "textCodec.h"
 #include "typedAnswer.h"
+#include "userFrame.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
 
 namespace orvex {
 
@@ -25,9 +33,39 @@ std::wstring wanted(PromptKind kind) {
     return L"an answer";
 }
 
+// These are for a cursor, which a script has not.
+bool isSnapWord(const std::wstring& text) {
+    constexpr std::array<std::wstring_view, 6> kWords{L"END", L"MID", L"INT",
+                                                      L"PER", L"NEA", L"NON"};
+    return std::ranges::find(kWords, foldCase(text)) != kWords.end();
+}
+
+TextReading readPointAnswer(const PromptRequest& request, const std::wstring& text) {
+    const bool isPick = request.kind != PromptKind::point;
+    PointReading reading = readPoint(text, worldToUser(PromptSession::current().lastPoint));
+    if (auto* const broken = std::get_if<BrokenPoint>(&reading)) {
+        return std::move(*broken);
+    }
+    const auto* const typed = std::get_if<TypedPoint>(&reading);
+    if (typed == nullptr) {
+        return {};
+    }
+    if (isPick && text.starts_with(L'@')) {
+        return BrokenPoint{0, L"only points are counted from the last point"};
+    }
+    if (!isPick && typed->handle) {
+        return BrokenPoint{text.find(L'#'), L"only picks have a handle"};
+    }
+    PromptAnswer answer;
+    answer.kind = PromptAnswer::Kind::point;
+    answer.point = typed->point;
+    answer.handle = typed->handle;
+    return answer;
+}
+
 } // namespace
 
-std::optional<PromptAnswer> answerFromText(const PromptRequest& request, const std::wstring& text) {
+TextReading answerFromText(const PromptRequest& request, const std::wstring& text) {
     using Kind = PromptAnswer::Kind;
     PromptAnswer answer;
     if (text.empty()) {
@@ -39,38 +77,46 @@ std::optional<PromptAnswer> answerFromText(const PromptRequest& request, const s
         answer.keyword = *keyword;
         return answer;
     }
-    if (request.kind == PromptKind::command || request.kind == PromptKind::text) {
+    switch (request.kind) {
+    case PromptKind::command:
+    case PromptKind::text:
         answer.kind = Kind::text;
         answer.text = text;
         return answer;
-    }
-    if (request.kind == PromptKind::real) {
+    case PromptKind::keyword:
+        return {};
+    case PromptKind::real:
         if (const auto number = parseReal(text)) {
             answer.kind = Kind::number;
             answer.number = *number;
             return answer;
         }
-    } else if (request.kind != PromptKind::keyword) {
-        const bool isPick = request.kind != PromptKind::point;
-        const auto handle = parseHandlePick(text);
-        if (handle && request.kind == PromptKind::selection) {
+        return {};
+    case PromptKind::selection:
+        if (const auto handle = parseHandlePick(text)) {
             answer.kind = Kind::handle;
             answer.handle = handle;
             return answer;
         }
-        const auto pick = parsePick(text);
-        if (pick && (isPick || !pick->handle)) {
-            answer.kind = Kind::point;
-            answer.point = pick->point;
-            answer.handle = pick->handle;
-            return answer;
-        }
+        [[fallthrough]];
+    case PromptKind::entity:
+    case PromptKind::point:
+        break;
     }
-    return std::nullopt;
+    return readPointAnswer(request, text);
 }
 
-std::wstring complaintAbout(const PromptRequest& request, const std::wstring& text) {
+std::wstring complaintAbout(const PromptRequest& request, const std::wstring& text,
+                            const TextReading& reading) {
     std::wstring message = L"'" + text + L"' is not " + wanted(request.kind);
+    if (const auto* const broken = std::get_if<BrokenPoint>(&reading)) {
+        return message + L": at character " + std::to_wstring(broken->place + 1) + L", " +
+               broken->reason;
+    }
+    if (request.kind == PromptKind::point && (parseReal(text) || isSnapWord(text))) {
+        return message + L": " + (isSnapWord(text) ? L"a snap word" : L"a bare length") +
+               L" needs the cursor of a window";
+    }
     if (!request.keywords.empty()) {
         message +=
             request.kind == PromptKind::keyword ? L" on offer (" : L" or one of the keywords (";

@@ -1,17 +1,23 @@
 #pragma once
 
 #include "PromptSource.h"
+#include "typedPoint.h"
 
-#include <optional>
 #include <string>
+#include <variant>
 
 namespace orvex {
 
-// What a line that was typed answers to a question; nothing where it fits none. Blanks at its ends
-// must be gone already. An empty line is no input. The echo stays empty.
-std::optional<PromptAnswer> answerFromText(const PromptRequest& request, const std::wstring& text);
+// What a line that was typed is to a question: an answer, a coordinate that is broken, or nothing
+// that fits (std::monostate).
+using TextReading = std::variant<std::monostate, PromptAnswer, BrokenPoint>;
 
-// Says to the user what would have been an answer.
-std::wstring complaintAbout(const PromptRequest& request, const std::wstring& text);
+// Blanks at the text's ends must be gone already. An empty line is no input. Keywords go before
+// everything else; "@" counts from LASTPOINT. The echo stays empty.
+TextReading answerFromText(const PromptRequest& request, const std::wstring& text);
+
+// Says to the user why a text is no answer.
+std::wstring complaintAbout(const PromptRequest& request, const std::wstring& text,
+                            const TextReading& reading);
 
 } // namespace orvex

@@ -6,7 +6,6 @@
 #include <charconv>
 #include <cmath>
 #include <string>
-#include <vector>
 
 namespace orvex {
 
@@ -54,44 +53,8 @@ std::optional<double> parseReal(std::wstring_view text) {
     return value;
 }
 
-std::optional<KdGePoint3d> parsePoint(std::wstring_view text) {
-    std::vector<double> coordinates;
-    for (bool more = true; more;) {
-        const std::size_t comma = text.find(L',');
-        more = comma != std::wstring_view::npos;
-        const std::optional<double> coordinate = parseReal(text.substr(0, comma));
-        if (!coordinate || coordinates.size() == 3) {
-            return std::nullopt;
-        }
-        coordinates.push_back(*coordinate);
-        text.remove_prefix(more ? comma + 1 : text.size());
-    }
-    if (coordinates.size() < 2) {
-        return std::nullopt;
-    }
-    return KdGePoint3d{coordinates[0], coordinates[1],
-                       coordinates.size() == 3 ? coordinates[2] : 0.0};
-}
-
 std::optional<std::uint64_t> parseHandlePick(std::wstring_view text) {
     return text.starts_with(L'#') ? typedHandle(trimBlanks(text.substr(1))) : std::nullopt;
-}
-
-std::optional<TypedPick> parsePick(std::wstring_view text) {
-    const std::size_t mark = text.find(L'#');
-    TypedPick pick;
-    if (mark != std::wstring_view::npos) {
-        pick.handle = typedHandle(trimBlanks(text.substr(mark + 1)));
-        if (!pick.handle) {
-            return std::nullopt;
-        }
-    }
-    const std::optional<KdGePoint3d> point = parsePoint(text.substr(0, mark));
-    if (!point) {
-        return std::nullopt;
-    }
-    pick.point = *point;
-    return pick;
 }
 
 } // namespace orvex

@@ -5,6 +5,7 @@
 #include "systemVariables.h"
 #include "textCodec.h"
 #include "typedAnswer.h"
+#include "typedPoint.h"
 #include "variableTable.h"
 
 #include <array>
@@ -31,13 +32,15 @@ std::optional<resbuf> parseValue(const VariableRow& row, const std::wstring& tex
                    : std::nullopt;
     }
     if (row.type == kResultPoint) {
-        const std::optional<KdGePoint3d> point = parsePoint(text);
-        if (point) {
-            value.resval.rpoint[0] = point->x;
-            value.resval.rpoint[1] = point->y;
-            value.resval.rpoint[2] = point->z;
+        const PointReading reading = readPoint(text, {});
+        const auto* const typed = std::get_if<TypedPoint>(&reading);
+        if (typed == nullptr || typed->handle || text.find(L'@') != std::wstring::npos) {
+            return std::nullopt;
         }
-        return point ? std::optional(value) : std::nullopt;
+        value.resval.rpoint[0] = typed->point.x;
+        value.resval.rpoint[1] = typed->point.y;
+        value.resval.rpoint[2] = typed->point.z;
+        return value;
     }
     const std::optional<double> number = parseReal(text);
     if (!number) {

@@ -78,6 +78,20 @@ class Runs:
         self.expect("block", new["block"].upper(), "*MODEL_SPACE")
         self.expect("flags", (new["flags"], new["scale"], new["justification"]), (1, 4, 1))
 
+    # A zoom's centre is a point like any other, a pick is none.
+    def relative_points(self):
+        wall = make_drawing(self.folder / "relative.dxf", [(0, 0), (100, 0)])
+        drawn = "MLINE\n{}\n{}\n{}\n\nZOOM\nC\n{}\n24\n-MLEDIT\nCS\n10,0.5\n*CANCEL*\nMLINE\n{}\n{}\nC\n"
+        self.play(wall, drawn.format("5,5", "8,9", "8,20", "10,0", "13,4", "13,14\n3,4"))
+        absolute = self.out.read_bytes()
+        self.play(wall, drawn.format("@5,5", "@3,4", "@11<90", "@2,-20", "@3,4", "@10<90\n@-10,-10,0"))
+        self.expect("relative", self.out.read_bytes() == absolute, True)
+        self.out.unlink()
+        for line, word in (("5", "bare length"), ("mid", "snap word"), ("@5<", "character 4"), ("1,x", "'x'")):
+            run = play(self.program, wall, f"MLINE\n1,1\n{line}\n", self.out)
+            self.expect(line, (run.returncode, word in run.stderr, "3" in run.stderr), (5, True, True))
+            self.expect("saved", self.out.exists(), False)
+
     def picks(self):
         wall = make_drawing(self.folder / "picks.dxf", [(0, 0), (100, 0)])
         # Beside the wall, an unknown handle, a style's handle: nothing found, and asked again.
@@ -134,7 +148,7 @@ class Runs:
 def main():
     with tempfile.TemporaryDirectory() as scratch:
         runs = Runs(sys.argv[1], pathlib.Path(scratch))
-        for run in (runs.cut, runs.cut_and_save_in_place, runs.draw_and_cross, runs.picks, runs.list_text,
+        for run in (runs.cut, runs.cut_and_save_in_place, runs.draw_and_cross, runs.relative_points, runs.picks, runs.list_text,
                     runs.json_numbers, runs.pictures, runs.partly_drawn):
             run()
         runs.report.finish()
