@@ -5,6 +5,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -70,10 +71,22 @@ std::string folderOf(const std::string& path) {
     return folder.empty() ? "." : folder;
 }
 
+// Files without a name get one by way of their descriptor.
+std::string descriptorPath(int descriptor) {
+    return "/proc/self/fd/" + std::to_string(descriptor);
+}
+
+std::string temporaryPattern(const std::string& target) {
+    return (std::filesystem::path(folderOf(target)) / ".saving-XXXXXX").string();
+}
+
 } // namespace
 
 AtomicFile::AtomicFile(std::string path, ClosedFolder closedFolder)
     : m_path(std::move(path)), m_closedFolder(closedFolder) {}
+
+AtomicFile::AtomicFile(int descriptor, std::string name)
+    : m_path(std::move(name)), m_isBorrowed(true), m_descriptor(descriptor) {}
 
 AtomicFile::~AtomicFile() {
     discard();
@@ -84,6 +97,9 @@ Failure AtomicFile::failure(int error) const {
 }
 
 std::optional<Failure> AtomicFile::open() {
+    if (m_isBorrowed) {
+        return std::nullopt;
+    }
     struct stat present {};
     const bool exists = stat(m_path.c_str(), &present) == 0;
     if (!exists && errno != ENOENT) {
@@ -105,19 +121,34 @@ std::optional<Failure> AtomicFile::open() {
 }
 
 std::optional<Failure> AtomicFile::openRegular(bool exists, unsigned mode) {
-    std::string name = (std::filesystem::path(folderOf(m_target)) / ".saving-XXXXXX").string();
-    m_descriptor = mkostemp(name.data(), O_CLOEXEC);
+    if (!openNameless()) {
+        const HeldSignals held;
+        std::string name = temporaryPattern(m_target);
+        m_descriptor = mkostemp(name.data(), O_CLOEXEC);
+        if (m_descriptor >= 0) {
+            m_temporary = std::move(name);
+            m_note.note(m_temporary);
+        }
+    }
     if (m_descriptor < 0 && exists && m_closedFolder == ClosedFolder::writeInPlace) {
         return openDirectly(O_WRONLY | O_TRUNC);
     }
-    if (m_descriptor < 0) {
-        return failure(errno);
-    }
-    m_temporary = std::move(name);
-    if (fchmod(m_descriptor, mode) != 0) {
+    if (m_descriptor < 0 || fchmod(m_descriptor, mode) != 0) {
         return failure(errno);
     }
     return std::nullopt;
+}
+
+// Not every file system has such files, and not every system a place to give them a name.
+bool AtomicFile::openNameless() {
+    m_descriptor =
+        ::open(folderOf(m_target).c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (m_descriptor >= 0 && access(descriptorPath(m_descriptor).c_str(), F_OK) != 0) {
+        close(m_descriptor);
+        m_descriptor = -1;
+    }
+    m_isNameless = m_descriptor >= 0;
+    return m_isNameless;
 }
 
 std::optional<Failure> AtomicFile::openDirectly(int flags) {
@@ -140,28 +171,62 @@ std::optional<Failure> AtomicFile::write(std::string_view bytes) {
 }
 
 std::optional<Failure> AtomicFile::commit() {
-    const bool replaces = !m_temporary.empty();
+    if (m_isBorrowed) {
+        return std::nullopt;
+    }
+    const bool replaces = m_isNameless || !m_temporary.empty();
     if (replaces && fsync(m_descriptor) != 0) {
         return failure(errno);
+    }
+    // From here on the target is the new file or the old one, and nothing else has a name.
+    const HeldSignals held;
+    if (m_isNameless) {
+        if (auto unnamed = giveName()) {
+            return unnamed;
+        }
     }
     const int descriptor = m_descriptor;
     m_descriptor = -1;
     if (close(descriptor) != 0) {
         return failure(errno);
     }
-    if (!replaces) {
-        return std::nullopt;
+    return replaces ? replaceTarget() : std::nullopt;
+}
+
+// A link can't replace a file; only a rename can.
+std::optional<Failure> AtomicFile::giveName() {
+    constexpr int kMostTries = 100;
+    const std::string source = descriptorPath(m_descriptor);
+    std::random_device random;
+    for (int i = 0; i < kMostTries; ++i) {
+        std::string name = temporaryPattern(m_target);
+        for (std::size_t at = name.size() - 6; at < name.size(); ++at) {
+            name[at] = static_cast<char>('a' + random() % 26U);
+        }
+        if (linkat(AT_FDCWD, source.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0) {
+            m_temporary = std::move(name);
+            return std::nullopt;
+        }
+        if (errno != EEXIST) {
+            break;
+        }
     }
+    return failure(errno);
+}
+
+std::optional<Failure> AtomicFile::replaceTarget() {
     if (rename(m_temporary.c_str(), m_target.c_str()) != 0) {
         return failure(errno);
     }
     m_temporary.clear();
+    m_note.clear();
     syncFolder(folderOf(m_target));
     return std::nullopt;
 }
 
 void AtomicFile::discard() {
-    if (m_descriptor >= 0) {
+    const HeldSignals held;
+    if (m_descriptor >= 0 && !m_isBorrowed) {
         close(m_descriptor);
         m_descriptor = -1;
     }
@@ -169,11 +234,16 @@ void AtomicFile::discard() {
         unlink(m_temporary.c_str());
         m_temporary.clear();
     }
+    m_note.clear();
 }
 
 std::optional<Failure> saveFile(const std::string& path, std::string_view bytes,
                                 ClosedFolder closedFolder) {
     AtomicFile file(path, closedFolder);
+    return saveFile(file, bytes);
+}
+
+std::optional<Failure> saveFile(AtomicFile& file, std::string_view bytes) {
     auto failure = file.open();
     if (!failure) {
         failure = file.write(bytes);

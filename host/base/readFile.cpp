@@ -11,21 +11,20 @@ namespace orvex {
 
 namespace {
 
+// An open descriptor, closed at the end unless it is standard input.
 class InputFile {
 public:
-    // Not blocking: else the opening of a pipe waits for its writer.
-    explicit InputFile(const std::string& path)
-        : m_path(path),
-          m_descriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)) {}
+    InputFile(const std::string& name, int descriptor) : m_name(name), m_descriptor(descriptor) {}
     ~InputFile() {
-        if (m_descriptor >= 0) {
+        if (m_descriptor > STDIN_FILENO) {
             close(m_descriptor);
         }
     }
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;
 
-    Result<std::string> read(const Progress& progress, std::uint64_t largest) const {
+    [[nodiscard]] Result<std::string> readRegular(const Progress& progress,
+                                                  std::uint64_t largest) const {
         struct stat status {};
         if (m_descriptor < 0 || fstat(m_descriptor, &status) != 0) {
             return failure(std::strerror(errno));
@@ -39,7 +38,6 @@ public:
         return readAll(static_cast<std::size_t>(status.st_size), progress, largest);
     }
 
-private:
     // `size` is what it should be: some files of the system have none and hold bytes.
     [[nodiscard]] Result<std::string> readAll(std::size_t size, const Progress& progress,
                                               std::uint64_t largest) const {
@@ -68,11 +66,12 @@ private:
                 size == 0 ? 0.0
                           : std::min(1.0, static_cast<double>(filled) / static_cast<double>(size));
             if (progress && !progress(part)) {
-                return Failure{FailureCause::interrupted, m_path, 0, "interrupted"};
+                return Failure{FailureCause::interrupted, m_name, 0, "interrupted"};
             }
         }
     }
 
+private:
     ssize_t readPiece(char* target, std::size_t size) const {
         ssize_t got = 0;
         do {
@@ -82,10 +81,10 @@ private:
     }
 
     [[nodiscard]] Failure failure(std::string text) const {
-        return {FailureCause::unreadableInput, m_path, 0, std::move(text)};
+        return {FailureCause::unreadableInput, m_name, 0, std::move(text)};
     }
 
-    const std::string& m_path;
+    const std::string& m_name;
     int m_descriptor;
 };
 
@@ -93,7 +92,14 @@ private:
 
 Result<std::string> readRegularFile(const std::string& path, const Progress& progress,
                                     std::uint64_t largest) {
-    return InputFile(path).read(progress, largest);
+    // Not blocking: else the opening of a pipe waits for its writer.
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    return InputFile(path, descriptor).readRegular(progress, largest);
+}
+
+Result<std::string> readStandardInput() {
+    static const std::string name = "standard input";
+    return InputFile(name, STDIN_FILENO).readAll(0, {}, std::numeric_limits<std::uint64_t>::max());
 }
 
 } // namespace orvex

@@ -19,4 +19,8 @@ Result<std::string>
 readRegularFile(const std::string& path, const Progress& progress = {},
                 std::uint64_t largest = std::numeric_limits<std::uint64_t>::max());
 
+// All bytes up to the end of standard input, whatever it is: a pipe, a file. Messages call it
+// "standard input".
+Result<std::string> readStandardInput();
+
 } // namespace orvex

@@ -106,13 +106,17 @@ Result<std::vector<FileEdit>> DrawingFile::edits() {
 }
 
 std::optional<Failure> DrawingFile::save(const std::string& path) {
+    AtomicFile target(path);
+    return save(target);
+}
+
+std::optional<Failure> DrawingFile::save(AtomicFile& target) {
     const auto changes = edits();
     if (!changes) {
         Failure failure = changes.failure();
-        failure.file = path;
+        failure.file = target.path();
         return failure;
     }
-    AtomicFile target(path);
     std::optional<Failure> failure = target.open();
     if (!failure) {
         const auto sink = [&](std::string_view piece) {

@@ -12,6 +12,7 @@
 
 namespace orvex {
 
+class AtomicFile;
 class BinaryDrawing;   // the bytes of a file in the binary form
 class DrawingDocument; // the file's bytes and their table of records
 struct FileEdit;
@@ -48,6 +49,7 @@ public:
     // opened again, so that edits taken back leave no trace in it. Values that the binary form has
     // no room for are a failure.
     [[nodiscard]] std::optional<Failure> save(const std::string& path);
+    [[nodiscard]] std::optional<Failure> save(AtomicFile& target); // not open yet
     // The bytes that save would write; none when it would fail.
     [[nodiscard]] std::string bytes();
     // Distinguishes contents: while it is the same, save would write the same bytes. Costs nothing
