@@ -1,5 +1,6 @@
 #include "DeskDrawing.h"
 
+#include "KdDbDatabase.h"
 #include "qtWide.h"
 #include "variableText.h"
 
@@ -11,6 +12,7 @@ namespace orvex {
 
 void DeskDrawing::replace(std::unique_ptr<DrawingFile> file, const QString& path, int viewWidth,
                           int viewHeight) {
+    m_edits.reset();
     m_session.reset(); // there is one at a time
     SessionSetup setup;
     setup.drawing = std::move(file);
@@ -20,6 +22,7 @@ void DeskDrawing::replace(std::unique_ptr<DrawingFile> file, const QString& path
     setup.viewHeight = std::max(viewHeight, 1);
     setup.moduleFiles = m_moduleFiles;
     m_session = std::make_unique<Session>(std::move(setup), m_modules);
+    m_edits = std::make_unique<ChangeFeed>(m_session->database().core());
     m_path = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
     m_file = fileState();
     m_savedMark = m_session->drawing().contentMark();
@@ -43,6 +46,10 @@ QString DeskDrawing::name() const {
 
 bool DeskDrawing::isChanged() const {
     return m_session != nullptr && m_session->drawing().contentMark() != m_savedMark;
+}
+
+bool DeskDrawing::wasEdited() {
+    return m_edits != nullptr && !m_edits->take().empty();
 }
 
 std::optional<Failure> DeskDrawing::save(const QString& path) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ChangeFeed.h"
 #include "DrawingFile.h"
 #include "ModuleLoader.h"
 #include "Session.h"
@@ -35,6 +36,9 @@ public:
     // edit taken back leaves no difference.
     [[nodiscard]] bool isChanged() const;
 
+    // True when an object was edited since the last call.
+    [[nodiscard]] bool wasEdited();
+
     // True when somebody else wrote its file since it was opened or saved here.
     [[nodiscard]] bool wasWrittenElsewhere() const;
     std::optional<Failure> save(const QString& path);
@@ -54,6 +58,7 @@ private:
     PromptSource& m_source;
     std::vector<std::string> m_moduleFiles;
     std::unique_ptr<Session> m_session;
+    std::unique_ptr<ChangeFeed> m_edits;
     QString m_path;
     FileState m_file; // as it was opened or saved
     std::size_t m_savedMark = 0;

@@ -12,7 +12,6 @@
 
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
@@ -70,11 +69,11 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
               }),
       m_canvas(new Canvas(this)), m_commandLine(new CommandLine(this)),
       m_menus(*this, [this](const DeskAct& act) { perform(act); }),
-      m_join(new JoinDesk(*this, *m_canvas, m_runner, m_prompts)), m_style(new StyleButton(this)),
-      m_status(*statusBar()), m_recent(*m_menus.recent, m_settings) {
+      m_join(new JoinDesk(*this, *m_canvas, m_runner, m_prompts)),
+      m_drawBar(new DrawBar(*this, m_runner, m_prompts)), m_status(*statusBar()),
+      m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
     setAcceptDrops(true);
-    addStyleButton();
     makeCommandDock();
     connectCommandLine();
     connectCanvas();
@@ -91,17 +90,6 @@ MainWindow::~MainWindow() {
     m_canvas->setSession(nullptr); // the session goes first
 }
 
-void MainWindow::addStyleButton() {
-    // Right inside of a tool bar its icon would have the size of all others.
-    auto* const holder = new QWidget(this);
-    auto* const row = new QHBoxLayout(holder);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_style);
-    m_menus.tools->addSeparator();
-    m_menus.tools->addWidget(holder);
-    connect(m_style, &QToolButton::clicked, this, [this] { start(QStringLiteral("MLSTYLE")); });
-}
-
 void MainWindow::makeCommandDock() {
     auto* const dock = new QDockWidget(tr("Command line"), this);
     dock->setObjectName(QStringLiteral("commandDock"));
@@ -112,12 +100,15 @@ void MainWindow::makeCommandDock() {
     resizeDocks({dock}, {kFirstCommandHeight}, Qt::Vertical);
     m_menus.view->addSeparator();
     m_menus.view->addAction(m_menus.tools->toggleViewAction());
+    m_menus.view->addAction(m_drawBar->bar()->toggleViewAction());
     m_menus.view->addAction(m_join->toggleAction());
 }
 
 void MainWindow::connectCommandLine() {
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::enterLine);
     connect(m_commandLine, &CommandLine::cancelled, this, &MainWindow::escape);
+    connect(m_drawBar, &DrawBar::printed, m_commandLine, &CommandLine::print);
+    connect(m_drawBar, &DrawBar::left, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(&m_prompts, &DeskPrompts::printed, m_commandLine, &CommandLine::print);
     connect(&m_prompts, &DeskPrompts::asked, this, &MainWindow::showQuestion);
     connect(&m_prompts, &DeskPrompts::answered, this, &MainWindow::showIdle);
@@ -215,6 +206,7 @@ void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& p
     m_runner.setSession(nullptr);
     m_drawing.replace(std::move(file), path, m_canvas->width(), m_canvas->height());
     m_join->setSession(*session());
+    m_drawBar->setSession(*session());
     session()->display().setRepaint([this] { m_canvas->refresh(); });
     m_runner.setSession(session());
     m_canvas->setSession(session());
@@ -304,13 +296,14 @@ void MainWindow::showQuestion() {
     CommandLine::Question question;
     question.text = toQt(request.text).trimmed();
     question.keywords = toQt(request.keywords);
-    question.completions = question.keywords;
+    question.completions = question.keywords + toQt(request.completions);
     const bool isText = request.kind == PromptKind::text;
     const bool isPick = request.kind == PromptKind::entity || request.kind == PromptKind::selection;
     question.blank = isText   ? BlankKey::types
                      : isPick ? BlankKey::entersUnlessXy
                               : BlankKey::enters;
     m_commandLine->setQuestion(question);
+    showDuringCommand();
     const auto& progress = session()->selectionMemory().progress;
     m_canvas->setAim(aimOf(request, session()->scene(), progress));
     m_canvas->setSelected(progress ? progress->entities : std::vector<KdDbStub*>());
@@ -330,8 +323,17 @@ void MainWindow::showChange() {
     setWindowTitle(m_drawing.name() + tr("[*] - Orvex"));
     setWindowModified(m_drawing.isChanged());
     setWindowFilePath(m_drawing.path());
-    m_style->showStyle(session()->database());
+    m_drawBar->showValues();
     m_status.showStyle(m_drawing.currentStyle());
+}
+
+// What a command changes shows at its next question. Whether the drawing differs from its file is
+// looked at only after an edit.
+void MainWindow::showDuringCommand() {
+    m_status.showStyle(m_drawing.currentStyle());
+    if (!isWindowModified() && m_drawing.wasEdited()) {
+        setWindowModified(m_drawing.isChanged());
+    }
 }
 
 void MainWindow::about() {

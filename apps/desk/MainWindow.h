@@ -6,11 +6,11 @@
 #include "DeskMenus.h"
 #include "DeskPrompts.h"
 #include "DeskSettings.h"
+#include "DrawBar.h"
 #include "JoinDesk.h"
 #include "RecentFiles.h"
 #include "SessionChoices.h"
 #include "StatusLine.h"
-#include "StyleButton.h"
 
 #include <QMainWindow>
 
@@ -51,7 +51,6 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void addStyleButton();
     void makeCommandDock();
     void connectCommandLine();
     void connectCanvas();
@@ -69,6 +68,7 @@ private:
     void escape();
     void showQuestion();
     void showIdle();
+    void showDuringCommand();
     void showChange(); // after a command, an opening or a save
     void reportPartlyDrawn();
     void about();
@@ -85,7 +85,7 @@ private:
     CommandLine* m_commandLine;
     DeskMenus m_menus;
     JoinDesk* m_join;
-    StyleButton* m_style;
+    DrawBar* m_drawBar;
     StatusLine m_status;
     RecentFiles m_recent;
     bool m_mayClose = false;

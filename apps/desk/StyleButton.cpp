@@ -13,13 +13,12 @@ namespace orvex {
 namespace {
 
 constexpr QSize kSwatch(80, 24); // pixels
-constexpr int kLongestName = 24; // characters
 
 } // namespace
 
 StyleButton::StyleButton(QWidget* parent) : QToolButton(parent) {
     setObjectName(QStringLiteral("styleButton"));
-    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setToolButtonStyle(Qt::ToolButtonIconOnly);
     setIconSize(kSwatch);
     setAutoRaise(true);
     setFocusPolicy(Qt::NoFocus);
@@ -30,14 +29,13 @@ void StyleButton::showStyle(KdDbDatabase& database) {
     const Opened<KdDbMlineStyle> style(database.cmlstyle(), kForRead);
     if (!style) {
         setIcon(QIcon());
-        setText(tr("(no style)"));
+        setToolTip(tr("No style"));
         return;
     }
     setIcon(styleSwatch(*style, kSwatch, devicePixelRatioF()));
     const QString name = toQt(std::wstring(style->name()));
-    QString shown = name.size() > kLongestName ? name.left(kLongestName - 1) + QChar(0x2026) : name;
-    setText(shown.replace('&', QLatin1String("&&")));
-    setToolTip(Qt::convertFromPlainText(tr("Current style: %1").arg(name)));
+    setToolTip(
+        Qt::convertFromPlainText(tr("Current style: %1; a click manages the styles").arg(name)));
 }
 
 } // namespace orvex

@@ -6,7 +6,7 @@ class KdDbDatabase;
 
 namespace orvex {
 
-// Shows the current multiline style of a drawing: a swatch and the name.
+// Shows the current multiline style of a drawing: a swatch, with the name in its hint.
 class StyleButton final : public QToolButton {
     Q_OBJECT
 

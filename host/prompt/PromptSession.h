@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 struct KdDbStub;
 
@@ -51,6 +52,7 @@ struct PromptSession {
     KdGePoint3d lastPoint; // LASTPOINT, world: what the last question for a point was answered with
     std::wstring armedKeywords;
     std::wstring lastKeyword;
+    std::vector<std::wstring> completions; // go with the next question, and with it alone
     PromptPreview preview; // goes with each question for a point; set by PreviewScope
 
     static PromptSession& current();

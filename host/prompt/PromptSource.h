@@ -25,6 +25,7 @@ struct PromptRequest {
     PromptKind kind = PromptKind::text;
     std::wstring text;
     std::vector<std::wstring> keywords; // armed for this prompt, as the list spells them
+    std::vector<std::wstring> completions; // texts that would do; others may, too
     std::optional<KdGePoint3d> base;    // world; a window draws a line from it
     // A window draws its entity instead of the line. Null where the command shows nothing; it lives
     // no longer than the question.

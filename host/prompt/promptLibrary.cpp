@@ -29,6 +29,7 @@ PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
     request.kind = kind;
     request.text = prompt != nullptr ? prompt : L"";
     request.keywords = splitKeywords(std::exchange(session.armedKeywords, {}));
+    request.completions = std::exchange(session.completions, {});
     request.base = base;
     if (kind == PromptKind::point) {
         request.preview = session.preview;

@@ -16,6 +16,7 @@
 #include "kddbObjects.h"
 #include "lockedLayers.h"
 #include "mlineEdits.h"
+#include "nameQuestions.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "selection.h"
@@ -39,7 +40,7 @@ std::optional<MlineChange::Style> styleCalled(DatabaseCore& core, const std::wst
     KdDbStub* const stub = core.wellKnown().findStyle(name);
     const Opened<KdDbMlineStyle> style(KdDbObjectId(stub), kForRead);
     if (!style) {
-        printLine(L"There is no style '" + name + L"'.");
+        printLine(L"There is no style '" + name + L"'" + namesThereAre(styleNames(core)) + L'.');
         return std::nullopt;
     }
     return MlineChange::Style{KdDbObjectId(stub), layoutOf(style->values())};
@@ -60,6 +61,7 @@ std::optional<std::wstring> askKeyword(const wchar_t* prompt, const wchar_t* key
 }
 
 void askLayer(DatabaseCore& core, AskedChange& asked) {
+    offerNames(layerNames(core));
     const auto name = askText(L"Layer name: ");
     if (name && core.wellKnown().findLayer(*name) == nullptr) {
         printLine(L"There is no layer '" + *name + L"'.");
@@ -70,6 +72,7 @@ void askLayer(DatabaseCore& core, AskedChange& asked) {
 }
 
 void askStyle(DatabaseCore& core, AskedChange& asked) {
+    offerNames(styleNames(core));
     if (const auto name = askText(L"Style name: ")) {
         asked.change.style = styleCalled(core, *name);
         asked.isRefused = asked.isRefused || !asked.change.style;
@@ -197,7 +200,10 @@ void changeCommand(Session& session) {
 
 void restyleCommand(Session& session) {
     DatabaseCore& core = session.database().core();
+    const std::vector<std::wstring> names = styleNames(core);
+    offerNames(names);
     const auto oldName = askText(L"Style until now: ");
+    offerNames(names);
     const auto newName = oldName ? askText(L"New style: ") : std::nullopt;
     if (!newName) {
         return;

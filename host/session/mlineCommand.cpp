@@ -7,6 +7,7 @@
 #include "PromptSession.h"
 #include "Session.h"
 #include "commandOutput.h"
+#include "nameQuestions.h"
 #include "newMline.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -24,22 +25,34 @@ namespace {
 
 constexpr std::size_t kFewestForClosing = 3;
 
-// Asks for a text and gives it to a variable; an empty answer keeps the value.
-void askSetting(const wchar_t* variable, const std::wstring& question) {
+// Asks for a name and gives it to a variable; an empty answer keeps the value, "?" lists the names.
+void askName(const wchar_t* variable, const wchar_t* what, const std::wstring& question,
+             const std::vector<std::wstring>& names) {
     const std::wstring prompt = question + L" <" + variableText(variable).value_or(L"") + L">: ";
     wchar_t text[kPromptTextSize] = L"";
+    offerNames(names);
     if (kdedGetString(prompt.c_str(), text) != kPromptNormal) {
         return;
     }
-    if (const auto refusal = setVariableText(variable, text)) {
-        rejectAnswer(widen(refusal->text));
+    if (std::wstring_view(text) == L"?") {
+        for (const std::wstring& name : names) {
+            kdutPrintf(L"%ls", name.c_str());
+        }
+    } else if (setVariableText(variable, text)) {
+        rejectAnswer(L"there is no " + std::wstring(what) + L" '" + text + L"'" +
+                     namesThereAre(names));
     }
 }
 
 void askScale() {
     const std::wstring prompt = L"Scale <" + variableText(L"CMLSCALE").value_or(L"") + L">: ";
     double scale = 0.0;
-    if (kdedGetReal(prompt.c_str(), &scale) == kPromptNormal) {
+    if (kdedGetReal(prompt.c_str(), &scale) != kPromptNormal) {
+        return;
+    }
+    if (scale == 0.0) {
+        rejectAnswer(L"a scale of 0 would put all lines in one place");
+    } else {
         resbuf value;
         value.restype = kResultReal;
         value.resval.rreal = scale;
@@ -57,7 +70,7 @@ void askJustification() {
     setVariableText(L"CMLJUST", chosen == L"Top" ? L"0" : chosen == L"Zero" ? L"1" : L"2");
 }
 
-void askSettings() {
+void askSettings(DatabaseCore& core) {
     wchar_t keyword[kPromptTextSize] = L"";
     kdedGetInput(keyword);
     const std::wstring_view chosen = keyword;
@@ -65,8 +78,10 @@ void askSettings() {
         askJustification();
     } else if (chosen == L"Scale") {
         askScale();
+    } else if (chosen == L"LAyer") {
+        askName(L"CLAYER", L"layer", L"Layer name", layerNames(core));
     } else {
-        askSetting(L"CMLSTYLE", L"Style name");
+        askName(L"CMLSTYLE", L"style", L"Style name", styleNames(core));
     }
 }
 
@@ -79,16 +94,17 @@ KdGePoint3d pointOf(const double* xyz) {
     return {xyz[0], xyz[1], xyz[2]};
 }
 
-bool askStart(Chain& chain) {
+bool askStart(DatabaseCore& core, Chain& chain) {
     for (;;) {
         double point[3] = {0.0, 0.0, 0.0};
-        kdedInitGet(0, L"Justification Scale STyle");
-        switch (kdedGetPoint(nullptr, L"Start point or [Justification/Scale/STyle]: ", point)) {
+        kdedInitGet(0, L"Justification Scale STyle LAyer");
+        switch (
+            kdedGetPoint(nullptr, L"Start point or [Justification/Scale/STyle/LAyer]: ", point)) {
         case kPromptNormal:
             chain.points.push_back(pointOf(point));
             return true;
         case kPromptKeyword:
-            askSettings();
+            askSettings(core);
             break;
         default:
             return false;
@@ -107,10 +123,15 @@ std::unique_ptr<KdDbMline> makeMline(Session& session, const Chain& chain) {
                     userDirectionToWorld({0.0, 0.0, 1.0}));
 }
 
-// A multiline is flat: it stays on the level of its start.
-void appendPoint(Chain& chain, KdGePoint3d point) {
+// A multiline is flat: it stays on the level of its start. False for the place of the last point,
+// which would be no vertex.
+bool appendPoint(Chain& chain, KdGePoint3d point) {
     point.z = chain.points.front().z;
+    if ((point - chain.points.back()).isZeroLength()) {
+        return false;
+    }
     chain.points.push_back(point);
+    return true;
 }
 
 // Shows the multiline with the cursor as its next point. The chain has to outlive it.
@@ -125,7 +146,7 @@ PromptPreview previewOf(Session& session, const Chain& chain) {
 // Nothing when the user gives up.
 std::optional<Chain> askChain(Session& session) {
     Chain chain;
-    if (!askStart(chain)) {
+    if (!askStart(session.database().core(), chain)) {
         return std::nullopt;
     }
     const PreviewScope preview(previewOf(session, chain));
@@ -138,7 +159,9 @@ std::optional<Chain> askChain(Session& session) {
         switch (
             kdedGetPoint(base, mayClose ? L"Next point or [Close]: " : L"Next point: ", point)) {
         case kPromptNormal:
-            appendPoint(chain, pointOf(point));
+            if (!appendPoint(chain, pointOf(point))) {
+                kdutPrintf(L"That is where the last point is. It is left out.");
+            }
             break;
         case kPromptKeyword:
             chain.closed = true;
@@ -166,6 +189,8 @@ void mlineCommand(Session& session) {
         BlockEntities& space = core.blocks().modelSpace();
         KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, space.record);
         core.blocks().appendEntity(space, stub);
+    } else if (hasCurrentElements(session.database())) {
+        kdutPrintf(L"warning: all points lie in one place; there is nothing to draw.");
     }
 }
 

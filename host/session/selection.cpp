@@ -10,6 +10,7 @@
 #include "WellKnownObjects.h"
 #include "commandOutput.h"
 #include "lockedLayers.h"
+#include "nameQuestions.h"
 #include "promptExchange.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -63,6 +64,7 @@ Entities seenWith(Session& session, Test&& test) {
 
 std::optional<Entities> askStyle(Session& session) {
     wchar_t name[kPromptTextSize] = L"";
+    offerNames(styleNames(session.database().core()));
     if (kdedGetString(L"Style name: ", name) != kPromptNormal) {
         return std::nullopt;
     }
@@ -84,6 +86,7 @@ std::wstring layerOf(const KdDbStub& entity) {
 
 std::optional<Entities> askLayer(Session& session) {
     wchar_t name[kPromptTextSize] = L"";
+    offerNames(layerNames(session.database().core()));
     if (kdedGetString(L"Layer name: ", name) != kPromptNormal) {
         return std::nullopt;
     }

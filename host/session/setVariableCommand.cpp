@@ -1,4 +1,8 @@
+#include "DatabaseCore.h"
 #include "HostCommand.h"
+#include "KdDbDatabase.h"
+#include "Session.h"
+#include "nameQuestions.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "textCodec.h"
@@ -6,7 +10,20 @@
 
 namespace orvex {
 
-void setVariableCommand(Session& /*session*/) {
+namespace {
+
+// What the value may be, where it names something in the drawing.
+void offerValues(DatabaseCore& core, const std::wstring& variable) {
+    if (variable == L"CMLSTYLE") {
+        offerNames(styleNames(core));
+    } else if (variable == L"CLAYER") {
+        offerNames(layerNames(core));
+    }
+}
+
+} // namespace
+
+void setVariableCommand(Session& session) {
     wchar_t text[kPromptTextSize] = L"";
     if (kdedGetString(L"Variable name: ", text) != kPromptNormal) {
         return;
@@ -18,6 +35,7 @@ void setVariableCommand(Session& /*session*/) {
         return;
     }
     const std::wstring prompt = L"New value for " + name + L" <" + *value + L">: ";
+    offerValues(session.database().core(), name);
     if (kdedGetString(prompt.c_str(), text) != kPromptNormal) {
         return;
     }

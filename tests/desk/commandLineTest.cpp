@@ -21,7 +21,7 @@ TEST_F(DeskFixture, anAnswerThatFitsNoQuestionIsToldAndAskedAgain) {
         key(Qt::Key_Escape),
         type("MLINE"),
         type("5;5"),
-        [this] { EXPECT_THAT(history().toStdString(), ::testing::HasSubstr("/STyle]: 5;5\n")); },
+        [this] { EXPECT_THAT(history().toStdString(), ::testing::HasSubstr("/LAyer]: 5;5\n")); },
         key(Qt::Key_Escape),
         type("SETVAR"),
         type("NOTHING"),
