@@ -5,6 +5,7 @@
 #include "Session.h"
 #include "batchFiles.h"
 #include "moduleFiles.h"
+#include "refusalText.h"
 #include "textCodec.h"
 #include "verbs.h"
 
@@ -51,6 +52,36 @@ void printLine(const std::wstring& line) {
     std::fwrite(utf8.data(), 1, utf8.size(), stdout);
 }
 
+// Warns of picks that did nothing, each with the line that it stands in.
+class MissedPicks {
+public:
+    MissedPicks(Session& session, const ScriptSource& script, std::string file)
+        : m_file(std::move(file)) {
+        session.toolWatch().setListener([this, &script](const RefusedPick& refused) {
+            if (m_count++ == 0) {
+                m_firstLine = script.line();
+            }
+            const std::string text = narrow(refusalText(refused.reason, refused.entity));
+            complain(locatedText(m_file, script.line(), "warning: missed pick: " + text));
+        });
+    }
+
+    // What a strict run makes of them; nothing where there was none.
+    [[nodiscard]] std::optional<Failure> failure() const {
+        if (m_count == 0) {
+            return std::nullopt;
+        }
+        return Failure{FailureCause::missedPick, m_file, m_firstLine,
+                       std::to_string(m_count) + (m_count == 1 ? " missed pick" : " missed picks") +
+                           ", the first one here; nothing is saved"};
+    }
+
+private:
+    std::string m_file;
+    std::size_t m_count = 0;
+    std::size_t m_firstLine = 0;
+};
+
 std::optional<Failure> playToTheEnd(Session& session, const ScriptSource& script,
                                     const std::string& name) {
     while (!script.atEnd()) {
@@ -80,6 +111,7 @@ public:
         options.add_option("--script", m_script, "The script to play; - reads standard input")
             ->required();
         options.add_option("--module", m_module, "The module file to load");
+        options.add_flag("--strict", m_isStrict, "Save nothing after a pick that did nothing");
     }
 
     std::optional<Failure> prepare() override {
@@ -104,8 +136,12 @@ public:
         setup.moduleFiles = moduleFiles(m_module);
         Session session(std::move(setup), modules);
         const std::string name = scriptName(m_script);
+        const MissedPicks missed(session, script, name);
         if (auto failure = withMemory(FailureCause::unplayableScript, name,
                                       [&] { return playToTheEnd(session, script, name); })) {
+            return failure;
+        }
+        if (auto failure = missed.failure(); failure && m_isStrict) {
             return failure;
         }
         return task.output ? saveDrawing(session.drawing(), *task.output) : std::nullopt;
@@ -114,6 +150,7 @@ public:
 private:
     std::string m_script;                // "-" is standard input
     std::optional<std::string> m_module; // else beside the program or in the library folder
+    bool m_isStrict = false;             // a missed pick is a failure, and nothing is saved
     std::string m_text;                  // of the script
 };
 

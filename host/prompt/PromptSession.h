@@ -12,6 +12,8 @@ struct KdDbStub;
 
 namespace orvex {
 
+class PromptWatcher;
+
 // Finds what a pick means. Implemented by the view.
 class EntityFinder {
 public:
@@ -45,6 +47,7 @@ struct PromptSession {
     PromptSource* source = nullptr;
     EntityFinder* finder = nullptr;
     DisplayListener* display = nullptr;
+    PromptWatcher* watcher = nullptr;
 
     int pickBox = 3;       // PICKBOX, pixels to each side; not stored in the drawing
     int errorNumber = 0;   // ERRNO

@@ -1,6 +1,7 @@
 #include "commandOutput.h"
 
 #include "PromptSession.h"
+#include "PromptWatcher.h"
 #include "promptExchange.h"
 #include "promptStatus.h"
 #include "wideFormat.h"
@@ -31,5 +32,8 @@ int kdutPrintf(const wchar_t* format, ...) {
     const std::wstring text = orvex::formatWide(format, arguments);
     va_end(arguments);
     orvex::printLines(text);
+    if (orvex::PromptWatcher* const watcher = orvex::PromptSession::current().watcher) {
+        watcher->printed(text);
+    }
     return kPromptNormal;
 }

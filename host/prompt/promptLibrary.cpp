@@ -6,6 +6,7 @@
 #include "KdDocument.h"
 #include "ObjectTable.h"
 #include "PromptSession.h"
+#include "PromptWatcher.h"
 #include "boundedCopy.h"
 #include "coordinateFrames.h"
 #include "kddbObjects.h"
@@ -39,6 +40,9 @@ PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
     if (session.source == nullptr) {
         return answer;
     }
+    if (session.watcher != nullptr) {
+        session.watcher->asking(request);
+    }
     answer = session.source->ask(request);
     const bool needsBlank = !request.text.empty() && !request.text.ends_with(L' ');
     printLines(request.text + (needsBlank ? L" " : L"") + answer.echo);
@@ -50,6 +54,9 @@ PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
             session.source->reject(L"the keyword isn't on offer");
             answer.kind = PromptAnswer::Kind::cancel;
         }
+    }
+    if (session.watcher != nullptr) {
+        session.watcher->answered(request, answer);
     }
     return answer;
 }
@@ -84,7 +91,17 @@ KdDbStub* entityOfHandle(std::uint64_t handle) {
 // What a command may change: no further entity is looked for where the one found is locked.
 KdDbStub* pickedEntity(const PromptAnswer& answer) {
     KdDbStub* const found = orvex::entityOf(answer);
-    return found != nullptr && orvex::isOnLockedLayer(*found) ? nullptr : found;
+    const bool isUsable = found != nullptr && !orvex::isOnLockedLayer(*found);
+    if (orvex::PromptWatcher* const watcher = PromptSession::current().watcher) {
+        if (isUsable) {
+            watcher->picked(answer, *found);
+        } else {
+            watcher->missed(found == nullptr ? orvex::PickRefusal::nothingHere
+                                             : orvex::PickRefusal::lockedLayer,
+                            found, false);
+        }
+    }
+    return isUsable ? found : nullptr;
 }
 
 void putPoint(double* target, const KdGePoint3d& point) {

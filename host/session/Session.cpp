@@ -52,7 +52,8 @@ const KdEdCommand* findRegistered(const std::wstring& name) {
 Session::Session(SessionSetup setup, ModuleLoader& modules)
     : m_setup(std::move(setup)), m_modules(modules), m_document(&m_setup.drawing->database()),
       m_view(m_setup.viewWidth, m_setup.viewHeight), m_scene(m_setup.drawing->database()),
-      m_contexts(*this), m_display(*this), m_documentBefore(setCurrentDocument(&m_document)),
+      m_contexts(*this), m_display(*this), m_toolWatch(*this),
+      m_documentBefore(setCurrentDocument(&m_document)),
       m_contextBefore(setActiveDocContext(&m_contexts)) {
     setSupportFileFinder(findSupportFile);
     m_scene.setUnitsPerPixel([this] { return view().unitsPerPixel(); });
@@ -61,6 +62,7 @@ Session::Session(SessionSetup setup, ModuleLoader& modules)
     prompts.source = m_setup.source;
     prompts.finder = m_setup.finder != nullptr ? m_setup.finder : &m_scene;
     prompts.display = &m_display;
+    prompts.watcher = &m_toolWatch;
 }
 
 Session::~Session() {
@@ -142,6 +144,7 @@ std::optional<Failure> Session::runInBracket(const std::wstring& name,
         failure = Failure{FailureCause::programFault, {}, 0, what};
     }
     m_running = false;
+    m_toolWatch.commandEnded();
     return failure;
 }
 

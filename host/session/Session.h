@@ -9,6 +9,7 @@
 #include "SelectionMemory.h"
 #include "SessionContexts.h"
 #include "SessionDisplay.h"
+#include "ToolWatch.h"
 
 #include <functional>
 #include <memory>
@@ -54,6 +55,9 @@ public:
     // What was selected, for the commands that ask for a selection.
     [[nodiscard]] SelectionMemory& selectionMemory() { return m_selectionMemory; }
 
+    // What is known of the editing tool that runs.
+    [[nodiscard]] ToolWatch& toolWatch() { return m_toolWatch; }
+
     void setSource(PromptSource* source);
 
     // Asks the source for a command's name; empty for an empty line or a cancel.
@@ -91,6 +95,7 @@ private:
     SelectionMemory m_selectionMemory;
     SessionContexts m_contexts;
     SessionDisplay m_display;
+    ToolWatch m_toolWatch;
     bool m_running = false;
     JoinWatcher m_joinWatcher;
     KdDocument* m_documentBefore;

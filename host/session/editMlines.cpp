@@ -4,6 +4,7 @@
 #include "DatabaseCore.h"
 #include "KdDbMline.h"
 #include "PromptSession.h"
+#include "PromptWatcher.h"
 #include "commandOutput.h"
 #include "handleText.h"
 #include "kddbObjects.h"
@@ -81,6 +82,9 @@ std::optional<PickedMline> pickMline(const wchar_t* prompt) {
     picked.content = picked.stub != nullptr ? contentOf(*picked.stub) : nullptr;
     if (picked.content == nullptr || picked.content->vertices.empty()) {
         kdutPrintf(L"That isn't a multiline with a chain.");
+        if (PromptWatcher* const watcher = PromptSession::current().watcher) {
+            watcher->missed(PickRefusal::noMultiline, picked.stub, true);
+        }
         PromptSession::current().errorNumber = kErrorNothingFound;
         return std::nullopt;
     }

@@ -6,6 +6,7 @@
 #include "KdDbDatabase.h"
 #include "KdDbMline.h"
 #include "PromptSession.h"
+#include "PromptWatcher.h"
 #include "Session.h"
 #include "WellKnownObjects.h"
 #include "commandOutput.h"
@@ -180,6 +181,12 @@ private:
 
     void takePick(const PromptAnswer& answer) {
         KdDbStub* const found = entityOf(answer);
+        const bool isWanted = found != nullptr &&
+                              (m_kind != SelectionKind::mlines || found->kind == ObjectKind::mline);
+        if (PromptWatcher* const watcher = PromptSession::current().watcher; watcher && !isWanted) {
+            watcher->missed(found == nullptr ? PickRefusal::nothingHere : PickRefusal::noMultiline,
+                            found, found == nullptr);
+        }
         if (found == nullptr) {
             m_isUntouched = false;
             kdutPrintf(L"Nothing found there.");

@@ -234,9 +234,14 @@ void Scene::visitAll(const std::function<void(KdDbStub&, const Appearance&)>& vi
 }
 
 KdDbStub* Scene::pick(PlanPoint point, double reach) {
+    const auto found = picks(point, reach, 0.0);
+    return found.empty() ? nullptr : found.front();
+}
+
+std::vector<KdDbStub*> Scene::picks(PlanPoint point, double reach, double slack) {
     if (!std::isfinite(point.x) || !std::isfinite(point.y) || !std::isfinite(reach) ||
         reach < 0.0) {
-        return nullptr;
+        return {};
     }
     m_state->prepare();
     const PlanBox square{{point.x - reach, point.y - reach}, {point.x + reach, point.y + reach}};
@@ -255,9 +260,18 @@ KdDbStub* Scene::pick(PlanPoint point, double reach) {
     }
     const double tie =
         kTieOfReach * reach + kTieOfCoordinate * std::max(std::abs(point.x), std::abs(point.y));
-    const auto last = std::find_if(hits.rbegin(), hits.rend(),
-                                   [&](const Hit& hit) { return hit.distance <= nearest + tie; });
-    return last != hits.rend() ? last->entity : nullptr;
+    std::erase_if(hits, [&](const Hit& hit) { return !(hit.distance <= nearest + slack + tie); });
+    std::reverse(hits.begin(), hits.end());
+    // Those as near as the nearest stay in this order, whatever rounding made of them.
+    std::stable_sort(hits.begin(), hits.end(), [&](const Hit& a, const Hit& b) {
+        return std::max(a.distance, nearest + tie) < std::max(b.distance, nearest + tie);
+    });
+    std::vector<KdDbStub*> found;
+    found.reserve(hits.size());
+    for (const Hit& hit : hits) {
+        found.push_back(hit.entity);
+    }
+    return found;
 }
 
 std::vector<KdDbStub*> Scene::entitiesWithin(const PlanBox& box) {

@@ -45,6 +45,10 @@ public:
     // units to each side of the point: the nearest, and of equally near ones the one drawn later.
     // Null when there is none.
     [[nodiscard]] KdDbStub* pick(PlanPoint point, double reach);
+    // What pick() would find, first, and all else that passes through the square at most `slack`
+    // drawing units further from the point: the nearest first, of equally near ones the one drawn
+    // later. One after the other they are what a user may mean by the same place.
+    [[nodiscard]] std::vector<KdDbStub*> picks(PlanPoint point, double reach, double slack);
     // What a box selects, in drawing order: seen entities all of whose lines, fills and texts lie
     // within it, or any of them touches it. Edges count.
     [[nodiscard]] std::vector<KdDbStub*> entitiesWithin(const PlanBox& box);

@@ -68,6 +68,18 @@ TEST(SceneAppearance, resolvesColorsByLayerAndByBlock) {
     EXPECT_EQ(appearance.strokes[3].rgb, paletteRgb(3)) << "an element that the style doesn't have";
 }
 
+TEST(ScenePick, whatLiesTogetherIsListedNearestFirst) {
+    TestDrawing drawing;
+    KdDbStub& low = drawing.addLine(0, 0, 10, 0);
+    KdDbStub& high = drawing.addLine(0, 0, 10, 0);
+    KdDbStub& near = drawing.addLine(0, 0.3, 10, 0.3);
+    drawing.addLine(0, 0.8, 10, 0.8);
+    Scene scene(drawing.database);
+    EXPECT_THAT(scene.picks({5, 0}, 1, 0.4), ElementsAre(&high, &low, &near));
+    EXPECT_THAT(scene.picks({5, 0.2}, 1, 0.4), ElementsAre(&near, &high, &low));
+    EXPECT_THAT(scene.picks({5, 3}, 1, 0.5), IsEmpty());
+}
+
 TEST(SceneAppearance, anInsertPlacesItsBlockAndGivesItLayerAndColor) {
     TestDrawing drawing;
     drawing.addLayer(L"RED", 1);
