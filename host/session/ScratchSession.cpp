@@ -97,11 +97,11 @@ KdDbMline* ScratchSession::copy(KdDbStub& original) {
     return mlineAt(stub);
 }
 
-void ScratchSession::giveBack(KdDbStub& original) {
+std::shared_ptr<const MlineContent> ScratchSession::outcome(KdDbStub& original) {
     const auto found = m_copies.find(&original);
-    KdDbMline* const mline = mlineAt(original);
+    const KdDbMline* const mline = mlineAt(original);
     if (found == m_copies.end() || mline == nullptr) {
-        return;
+        return nullptr;
     }
     const auto copied = mlineAt(*found->second)->content();
     const MlineContent& now = *contentOf(copied);
@@ -111,7 +111,13 @@ void ScratchSession::giveBack(KdDbStub& original) {
     content->closed = now.closed;
     content->startCapsSuppressed = now.startCapsSuppressed;
     content->endCapsSuppressed = now.endCapsSuppressed;
-    if (!content->equals(*mline->content())) {
+    return content;
+}
+
+void ScratchSession::giveBack(KdDbStub& original) {
+    const auto content = outcome(original);
+    KdDbMline* const mline = mlineAt(original);
+    if (content != nullptr && !content->equals(*mline->content())) {
         mline->setContent(content);
     }
 }

@@ -17,6 +17,7 @@ namespace orvex {
 
 class Scene;
 class Session;
+struct MlineContent;
 
 // Copies of some multilines of a drawing, of their styles and of all variables, in a database of
 // their own where commands of modules can be played without touching the drawing, also while a
@@ -31,6 +32,9 @@ public:
 
     // The copy of a multiline; made at the first call. Null for what is no multiline.
     KdDbMline* copy(KdDbStub& original);
+    // What the original would be with what its copy has come to: chain, lists and flags. Null for
+    // what has no copy.
+    [[nodiscard]] std::shared_ptr<const MlineContent> outcome(KdDbStub& original);
     // Gives the original what its copy has come to: chain, lists and flags. An original that is as
     // its copy isn't touched.
     void giveBack(KdDbStub& original);

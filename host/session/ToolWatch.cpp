@@ -4,7 +4,7 @@
 #include "PromptSession.h"
 #include "Session.h"
 #include "mlineEdits.h"
-#include "mlineTrack.h"
+#include "toolRefusals.h"
 
 #include <algorithm>
 #include <string_view>
@@ -24,41 +24,6 @@ bool offersTools(const PromptRequest& request) {
            std::all_of(
                request.keywords.begin(), request.keywords.end(),
                [](const std::wstring& keyword) { return findToolKind(keyword) != nullptr; });
-}
-
-struct Side {
-    KdGePoint3d from;
-    KdGePoint3d to;
-};
-
-std::vector<Side> sidesOf(const MlineContent& mline) {
-    const MlineChain chain(mline);
-    std::vector<Side> sides;
-    for (unsigned s = 0; s < chain.segmentCount(); ++s) {
-        sides.push_back({chain.vertex(s).position, chain.vertex(chain.next(s)).position});
-    }
-    return sides;
-}
-
-// Above 0 where the point lies to the left.
-double sideOf(const Side& line, const KdGePoint3d& point) {
-    return (line.to.x - line.from.x) * (point.y - line.from.y) -
-           (line.to.y - line.from.y) * (point.x - line.from.x);
-}
-
-bool cross(const Side& a, const Side& b) {
-    return sideOf(a, b.from) * sideOf(a, b.to) <= 0.0 && sideOf(b, a.from) * sideOf(b, a.to) <= 0.0;
-}
-
-bool chainsCross(const MlineContent& first, const MlineContent& second) {
-    const std::vector<Side> others = sidesOf(second);
-    for (const Side& side : sidesOf(first)) {
-        if (std::any_of(others.begin(), others.end(),
-                        [&](const Side& other) { return cross(side, other); })) {
-            return true;
-        }
-    }
-    return false;
 }
 
 } // namespace
@@ -138,10 +103,8 @@ void ToolWatch::printed(const std::wstring& /*text*/) {
         return;
     }
     const auto content = contentOf(*m_lastPicked);
-    using Refuses = ToolKind::Refuses;
-    const bool refusesClosed = m_tool->refuses == Refuses::closedBoth ||
-                               (m_tool->refuses == Refuses::closedFirst && m_stage == Stage::first);
-    const bool isClosed = refusesClosed && content != nullptr && content->closed;
+    const bool isClosed =
+        content != nullptr && refusesAsClosed(*m_tool, *content, m_stage == Stage::first);
     m_cycle.clear();
     refuse(isClosed ? PickRefusal::closedMultiline : PickRefusal::noCrossing, m_lastPicked, true);
 }
@@ -164,14 +127,10 @@ void ToolWatch::endCycle() {
     }
     const Before& first = cycle.front();
     const Before& last = cycle.back();
-    PickRefusal reason = PickRefusal::nothingChanged;
-    if (m_tool != nullptr && m_tool->readsCrossing && first.content != nullptr) {
-        if (first.mline == last.mline) {
-            reason = PickRefusal::sameMultiline;
-        } else if (last.content != nullptr && !chainsCross(*first.content, *last.content)) {
-            reason = PickRefusal::noCrossing;
-        }
-    }
+    const bool isKnown = m_tool != nullptr && first.content != nullptr && last.content != nullptr;
+    const PickRefusal reason = isKnown ? reasonOfNoChange(*m_tool, *first.content, *last.content,
+                                                          first.mline == last.mline)
+                                       : PickRefusal::nothingChanged;
     refuse(reason, last.mline, false);
 }
 
