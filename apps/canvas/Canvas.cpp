@@ -52,6 +52,7 @@ void Canvas::setSession(Session* session) {
     s.windowStep = State::WindowStep::off;
     s.overlay.clear();
     s.aim = {};
+    s.shownPoint.reset();
     s.guided.reset();
     s.picture.setScene(session != nullptr ? &session->scene() : nullptr);
     s.updateCursorShape();
@@ -84,6 +85,20 @@ void Canvas::setModifiers(Qt::KeyboardModifiers modifiers) {
 std::optional<GuidedPoint> Canvas::pointAtCursor() {
     const State& s = *m_state;
     return s.isShown && s.cursor ? std::optional(m_state->guidedAtCursor()) : std::nullopt;
+}
+
+void Canvas::showPointAt(std::optional<PlanPoint> point) {
+    if (std::exchange(m_state->shownPoint, point) != point) {
+        update();
+    }
+}
+
+const std::optional<PlanPoint>& Canvas::shownPoint() const {
+    return m_state->shownPoint;
+}
+
+double Canvas::unitsPerPixel() const {
+    return m_state->session != nullptr && m_state->isShown ? m_state->view().unitsPerPixel() : 0.0;
 }
 
 void Canvas::setSelected(std::vector<KdDbStub*> entities) {

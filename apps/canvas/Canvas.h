@@ -38,6 +38,12 @@ public:
     void setModifiers(Qt::KeyboardModifiers modifiers);
     // What a click would give; nothing while the cursor is elsewhere.
     [[nodiscard]] std::optional<GuidedPoint> pointAtCursor();
+    // A point that is being given in another way: line and preview of the aim end there, wherever
+    // the cursor is, until this is called with nothing.
+    void showPointAt(std::optional<PlanPoint> point);
+    [[nodiscard]] const std::optional<PlanPoint>& shownPoint() const;
+    // Drawing units; 0 without a session.
+    [[nodiscard]] double unitsPerPixel() const;
 
     // Shown until they are set anew, or the session is. Entities have to live as long.
     void setSelected(std::vector<KdDbStub*> entities);

@@ -31,15 +31,25 @@ void Canvas::State::updateGuide() {
     emit canvas.cursorMoved(at.x, at.y);
 }
 
+// A point that is being typed goes before the mouse's. Without either, what there is up to the base
+// is shown, so that points that were given are seen wherever the mouse is.
 void Canvas::State::paintPointAim(QPainter& painter) {
-    const GuidedPoint point = guidedAtCursor();
-    if (aim.preview) {
-        paintPreview(painter, view(), aim.preview(point.at));
-    } else if (aim.base) {
-        paintRubberLine(painter, view(), *aim.base, point.at);
+    std::optional<PlanPoint> end = shownPoint;
+    if (!end && cursor && !panFrom && windowStep == WindowStep::off) {
+        const GuidedPoint point = guidedAtCursor();
+        paintGuide(painter, view(), point);
+        end = point.at;
+    } else {
+        end = end ? end : aim.base;
+        if (end) {
+            paintTypedPoint(painter, view(), *end);
+        }
     }
-    paintCrosshair(painter, *cursor, canvas.size(), -1);
-    paintGuide(painter, view(), point);
+    if (end && aim.preview) {
+        paintPreview(painter, view(), aim.preview(*end));
+    } else if (end && aim.base) {
+        paintRubberLine(painter, view(), *aim.base, *end);
+    }
 }
 
 } // namespace orvex

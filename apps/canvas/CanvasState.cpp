@@ -236,6 +236,9 @@ void Canvas::State::paintMarks(QPainter& painter) {
     if (highlight.entity != nullptr) {
         paintHighlight(painter, view(), highlight.appearance);
     }
+    if (aim.kind == AimKind::point) {
+        paintPointAim(painter);
+    }
     if (!cursor || panFrom) {
         return;
     }
@@ -269,7 +272,7 @@ void Canvas::State::paintAim(QPainter& painter) {
         paintCrosshair(painter, *cursor, canvas.size(), aim.pickBox);
         break;
     case AimKind::point:
-        paintPointAim(painter);
+        paintCrosshair(painter, *cursor, canvas.size(), -1);
         break;
     }
 }

@@ -35,6 +35,7 @@ struct Canvas::State {
     CanvasOverlay overlay;
     Aim aim;
     std::optional<QPoint> cursor;
+    std::optional<PlanPoint> shownPoint; // in place of the cursor's
     Highlight highlight;
     bool isHighlightStale = false;
 

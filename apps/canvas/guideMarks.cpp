@@ -117,4 +117,14 @@ void paintGuide(QPainter& painter, const PlanView& view, const GuidedPoint& poin
     painter.restore();
 }
 
+void paintTypedPoint(QPainter& painter, const PlanView& view, PlanPoint point) {
+    const QPointF at = pixelOf(view, point);
+    if (!(std::abs(at.x()) < kFarAway && std::abs(at.y()) < kFarAway)) {
+        return;
+    }
+    painter.setPen(QPen(kMarkerColor, 1.0));
+    painter.drawLine(at - QPointF(kReach, 0), at + QPointF(kReach, 0));
+    painter.drawLine(at - QPointF(0, kReach), at + QPointF(0, kReach));
+}
+
 } // namespace orvex

@@ -1,5 +1,9 @@
 #include "CommandInput.h"
 
+#include "keyText.h"
+#include "qtWide.h"
+#include "typedAnswer.h"
+
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QKeyEvent>
@@ -26,7 +30,7 @@ bool CommandInput::event(QEvent* event) {
         const auto* const key = static_cast<const QKeyEvent*>(event);
         // In an empty field these belong to the window: they undo commands, not letters, and
         // export pictures rather than go to the end of nothing.
-        if (text().isEmpty() && (key->modifiers() & Qt::ControlModifier) != 0) {
+        if (text().isEmpty() && (key->modifiers() & Qt::ControlModifier) != 0 && !typesText(*key)) {
             event->ignore();
             return true;
         }
@@ -53,11 +57,18 @@ bool CommandInput::isEnter(const QKeyEvent& event) const {
 }
 
 void CommandInput::keyPressEvent(QKeyEvent* event) {
-    if ((event->modifiers() & Qt::AltModifier) != 0) {
+    if ((event->modifiers() & Qt::AltModifier) != 0 && !typesText(*event)) {
         return; // it was meant for a menu
     }
     if (isEnter(*event)) {
         enter();
+        return;
+    }
+    if (isKeypadComma(*event)) {
+        insert(QStringLiteral("."));
+        return;
+    }
+    if (steer(*event)) {
         return;
     }
     const bool isListOpen = m_completer->popup()->isVisible();
@@ -96,6 +107,23 @@ void CommandInput::enter() {
     clear();
     m_history.add(line);
     emit entered(line);
+}
+
+bool CommandInput::steer(const QKeyEvent& event) {
+    const bool isRight = event.key() == Qt::Key_Right;
+    const bool isUp = event.key() == Qt::Key_Up;
+    const bool isSideways = isRight || event.key() == Qt::Key_Left;
+    const bool isArrow = isSideways || isUp || event.key() == Qt::Key_Down;
+    const QString line = text().trimmed();
+    const std::optional<double> length = parseReal(toWide(line));
+    if (!m_takesLengths || !isArrow || !length || (event.modifiers() & Qt::ControlModifier) == 0) {
+        return false;
+    }
+    clear();
+    m_history.add(line);
+    const int way = isRight || isUp ? 1 : -1;
+    emit steered(*length, isSideways ? way : 0, isSideways ? 0 : way);
+    return true;
 }
 
 void CommandInput::complete() {

@@ -25,11 +25,14 @@ public:
     explicit CommandInput(QWidget* parent = nullptr);
 
     void setBlankKey(BlankKey blank) { m_blank = blank; }
+    void setTakesLengths(bool takes) { m_takesLengths = takes; }
     void setCompletions(const QStringList& words);
 
 signals:
     void entered(const QString& line); // the field is empty again
     void cancelled();
+    // Ctrl with an arrow, while the field held a number; x and y are 0, 1 or -1.
+    void steered(double length, int x, int y);
 
 protected:
     bool event(QEvent* event) override;
@@ -40,6 +43,7 @@ private:
     // The word chosen in the list, or what is typed.
     [[nodiscard]] QString chosenOrTyped() const;
     void enter();
+    bool steer(const QKeyEvent& event);
     void complete();
     void hideList();
 
@@ -47,6 +51,7 @@ private:
     QStringListModel* m_words;
     InputHistory m_history;
     BlankKey m_blank = BlankKey::enters;
+    bool m_takesLengths = false;
 };
 
 } // namespace orvex

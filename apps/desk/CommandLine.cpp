@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include "keyText.h"
+
 #include <QCoreApplication>
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -68,11 +70,14 @@ CommandLine::CommandLine(QWidget* parent)
     m_history->viewport()->installEventFilter(this);
     connect(m_input, &CommandInput::entered, this, &CommandLine::entered);
     connect(m_input, &CommandInput::cancelled, this, &CommandLine::cancelled);
+    connect(m_input, &CommandInput::textChanged, this, &CommandLine::edited);
+    connect(m_input, &CommandInput::steered, this, &CommandLine::steered);
 }
 
 void CommandLine::setQuestion(const Question& question) {
     m_prompt->setText(question.text);
     m_input->setBlankKey(question.blank);
+    m_input->setTakesLengths(question.takesLengths);
     m_input->setCompletions(question.completions);
     showKeywords(question.keywords);
 }
@@ -106,6 +111,11 @@ QString CommandLine::history() const {
     return m_history->toPlainText();
 }
 
+void CommandLine::putBack(const QString& text, int place) {
+    m_input->setText(text);
+    m_input->setCursorPosition(place);
+}
+
 void CommandLine::takeKey(const QKeyEvent& event) {
     if (isModifier(event.key())) {
         return;
@@ -121,7 +131,7 @@ bool CommandLine::eventFilter(QObject* watched, QEvent* event) {
         const auto& key = *static_cast<QKeyEvent*>(event);
         const bool isPlain = (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
         const bool scrolls = key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown;
-        if (isPlain && !scrolls) {
+        if ((isPlain || typesText(key)) && !scrolls) {
             takeKey(key);
             return true;
         }

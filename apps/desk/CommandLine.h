@@ -23,11 +23,16 @@ public:
         QStringList keywords;    // shown as buttons
         QStringList completions; // what the field offers
         BlankKey blank = BlankKey::enters;
+        bool takesLengths = false; // Ctrl with an arrow gives the one typed a direction
     };
     void setQuestion(const Question& question);
     // Said below everything said before.
     void print(const QString& line);
     [[nodiscard]] QString history() const;
+
+    [[nodiscard]] QString typed() const { return m_input->text(); }
+    // Text that can't be taken goes back into the field, to be put right at `place`.
+    void putBack(const QString& text, int place);
 
     // A key that was pressed elsewhere goes into the field.
     void takeKey(const QKeyEvent& event);
@@ -35,6 +40,9 @@ public:
 signals:
     void entered(const QString& line); // typed, or a keyword's button
     void cancelled();
+    void edited(); // `typed` is different
+    // A length that was typed goes along an axis: x and y are 0, 1 or -1.
+    void steered(double length, int x, int y);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

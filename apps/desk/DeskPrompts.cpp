@@ -1,6 +1,5 @@
 #include "DeskPrompts.h"
 
-#include "answerFromText.h"
 #include "blanks.h"
 #include "clickedPoint.h"
 #include "fileQuestion.h"
@@ -64,17 +63,44 @@ std::optional<std::wstring> DeskPrompts::chooseFile(const std::wstring& title,
     return path.isEmpty() ? std::nullopt : std::optional(toWide(path));
 }
 
-std::optional<PromptAnswer> DeskPrompts::understand(const PromptRequest& request,
-                                                    const QString& typed) {
+TextReading DeskPrompts::read(const PromptRequest& request, const QString& typed) const {
     const std::wstring wide = toWide(typed);
     const std::wstring text(trimBlanks(wide));
     TextReading reading = answerFromText(request, text);
     if (auto* const answer = std::get_if<PromptAnswer>(&reading)) {
         answer->echo = text;
+        return reading;
+    }
+    const bool isOther = std::holds_alternative<std::monostate>(reading);
+    const auto length =
+        isOther && m_lengths && request.kind == PromptKind::point ? parseReal(text) : std::nullopt;
+    if (!length) {
+        return reading;
+    }
+    PointReading point = m_lengths(request, *length);
+    if (auto* const broken = std::get_if<BrokenPoint>(&point)) {
+        return std::move(*broken);
+    }
+    PromptAnswer answer;
+    answer.kind = PromptAnswer::Kind::point;
+    answer.point = std::get<TypedPoint>(point).point;
+    answer.echo = pointText(answer.point); // where the mouse was is in no script
+    return answer;
+}
+
+std::optional<PromptAnswer> DeskPrompts::understand(const PromptRequest& request,
+                                                    const QString& typed) {
+    TextReading reading = read(request, typed);
+    if (auto* const answer = std::get_if<PromptAnswer>(&reading)) {
         return std::move(*answer);
     }
+    const std::wstring wide = toWide(typed);
+    const std::wstring text(trimBlanks(wide));
     print(std::wstring(trimBlanks(request.text)) + L' ' + text);
     print(complaintAbout(request, text, reading));
+    if (const auto* const wrong = std::get_if<BrokenPoint>(&reading)) {
+        emit broken(toQt(text), static_cast<int>(wrong->place));
+    }
     return std::nullopt;
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "PromptSource.h"
+#include "answerFromText.h"
 
 #include <QObject>
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 class QEventLoop;
@@ -30,6 +32,13 @@ public:
     // What is asked at the moment; null when nothing is.
     [[nodiscard]] const PromptRequest* request() const;
 
+    // Where a bare length that answers a question for a point leads, in the user's coordinate
+    // system.
+    using LengthReader = std::function<PointReading(const PromptRequest& request, double length)>;
+    void setLengthReader(LengthReader reader) { m_lengths = std::move(reader); }
+    // What a typed text is to a question.
+    [[nodiscard]] TextReading read(const PromptRequest& request, const QString& typed) const;
+
     // Lines that answer the next questions as if they were typed.
     void answerAhead(QStringList lines) { m_ahead = std::move(lines); }
 
@@ -51,6 +60,8 @@ signals:
     void asked(); // `request` says what
     void answered();
     void printed(const QString& line);
+    // A typed coordinate is broken at the character with this index; the user was notified.
+    void broken(const QString& typed, int place);
 
 private:
     // Nothing for text that fits no question; the user is notified.
@@ -62,6 +73,7 @@ private:
     QEventLoop* m_loop = nullptr;
     PromptAnswer m_answer;
     QStringList m_ahead;
+    LengthReader m_lengths;
     bool m_cancelsAll = false;
 };
 

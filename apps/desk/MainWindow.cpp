@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "KdDbEntity.h"
 #include "KdDbStub.h"
+#include "PointTyping.h"
 #include "clickedPoint.h"
 #include "commandNames.h"
 #include "partlyDrawnText.h"
@@ -77,6 +78,7 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
     makeCommandDock();
     connectCommandLine();
     connectCanvas();
+    new PointTyping(*m_canvas, *m_commandLine, m_prompts);
     connectSelection();
     connectFiles();
     restorePlace();
@@ -302,6 +304,7 @@ void MainWindow::showQuestion() {
     question.blank = isText   ? BlankKey::types
                      : isPick ? BlankKey::entersUnlessXy
                               : BlankKey::enters;
+    question.takesLengths = request.kind == PromptKind::point;
     m_commandLine->setQuestion(question);
     showDuringCommand();
     const auto& progress = session()->selectionMemory().progress;
