@@ -4,25 +4,58 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <array>
+
 namespace orvex {
 
 namespace {
 
-// What CLI11 fills while it reads the command line.
-struct CallOptions {
-    CLI::App* app = nullptr; // of a verb
-    DrawingTask task;
-};
+constexpr int kMostJobs = 1024;
 
-void addVerb(CLI::App& app, Verb& verb, CallOptions& options) {
-    const VerbTraits& traits = verb.traits();
-    options.app = app.add_subcommand(traits.name, traits.purpose);
-    options.app->add_option("DRAWING", options.task.drawing, "The drawing to open")->required();
-    if (traits.output != nullptr) {
-        options.app->add_option("--output", options.task.output, traits.output)
-            ->required(traits.needsOutput);
+void addManyOptions(CLI::App& app, ManyOptions& many, bool hasOutput) {
+    const char* const group = "Several drawings";
+    if (hasOutput) {
+        CLI::Option* const folder = app.add_option("--output-dir", many.outputDir,
+                                                   "Where to save a result for each drawing")
+                                        ->group(group);
+        app.add_option("--suffix", many.suffix, "What the names of results have before the ending")
+            ->needs(folder)
+            ->group(group);
+        app.add_flag("--overwrite", many.overwrite, "Results may replace what is there")
+            ->needs(folder)
+            ->group(group);
     }
-    verb.addOptions(*options.app);
+    app.add_option("--jobs", many.jobs, "How many drawings to work on at once")
+        ->capture_default_str()
+        ->check(CLI::Range(1, kMostJobs))
+        ->group(group);
+    app.add_flag("--keep-going", many.keepGoing, "Go on with the others after a failure")
+        ->group(group);
+    app.add_option("--report", many.report, "Where to tell of each drawing, a JSON line each")
+        ->group(group);
+}
+
+CLI::App& addVerb(CLI::App& app, Verb& verb, VerbCall& call) {
+    const VerbTraits& traits = verb.traits();
+    CLI::App* const options = app.add_subcommand(traits.name, traits.purpose);
+    options->add_option("DRAWING", call.drawings, "The drawings to open; - reads standard input")
+        ->required();
+    if (traits.output != nullptr) {
+        options->add_option("--output", call.output,
+                            traits.output + std::string("; - is standard output"));
+    }
+    addManyOptions(*options, call.many, traits.output != nullptr);
+    verb.addOptions(*options);
+    return *options;
+}
+
+bool hasManyOption(const CLI::App& options) {
+    return std::ranges::any_of(
+        std::array{"--output-dir", "--jobs", "--keep-going", "--report"}, [&](const char* name) {
+            const CLI::Option* const option = options.get_option_no_throw(name);
+            return option != nullptr && option->count() > 0;
+        });
 }
 
 // "run, show or list"
@@ -43,9 +76,10 @@ BatchCall parseBatchCall(int argc, const char* const* argv) {
     app.set_version_flag("--version", "orvex-batch " ORVEX_VERSION);
     app.require_subcommand(1);
     std::vector<std::unique_ptr<Verb>> verbs = makeVerbs();
-    std::vector<CallOptions> options(verbs.size());
+    std::vector<VerbCall> calls(verbs.size());
+    std::vector<const CLI::App*> options;
     for (std::size_t i = 0; i < verbs.size(); ++i) {
-        addVerb(app, *verbs[i], options[i]);
+        options.push_back(&addVerb(app, *verbs[i], calls[i]));
     }
     try {
         app.parse(argc, argv);
@@ -59,10 +93,13 @@ BatchCall parseBatchCall(int argc, const char* const* argv) {
                                           : "the first argument has to be " + nameList(verbs)};
     }
     std::size_t called = 0;
-    while (!options[called].app->parsed()) {
+    while (!options[called]->parsed()) {
         ++called;
     }
-    return VerbCall{std::move(verbs[called]), std::move(options[called].task)};
+    VerbCall call = std::move(calls[called]);
+    call.verb = std::move(verbs[called]);
+    call.isOfMany = call.drawings.size() > 1 || hasManyOption(*options[called]);
+    return call;
 }
 
 } // namespace orvex

@@ -14,6 +14,7 @@
 #include "WellKnownObjects.h"
 #include "geometry.h"
 #include "handleText.h"
+#include "printableText.h"
 #include "textCodec.h"
 
 #include <array>
@@ -23,14 +24,19 @@ namespace orvex {
 
 namespace {
 
+// What is listed stays on its line.
+std::string listedText(std::wstring_view text) {
+    return printableText(narrow(text));
+}
+
 std::string styleName(const MlineContent& content) {
     const Opened<KdDbMlineStyle> style(content.style, kForRead);
-    return narrow(style ? style->name() : content.styleName);
+    return listedText(style ? style->name() : content.styleName);
 }
 
 std::string linetypeName(const StyleElement& element) {
     const Opened<KdDbLinetypeTableRecord> record(element.linetype, kForRead);
-    return narrow(record ? record->name() : element.linetypeName);
+    return listedText(record ? record->name() : element.linetypeName);
 }
 
 // The shortest number of degrees that stands for these radians: what a file says, not what is left
@@ -55,8 +61,8 @@ double degrees(double radians) {
 ListedStyle listStyle(const KdDbStub& stub, const MlineStyleContent& content) {
     ListedStyle listed;
     listed.handle = handleText(stub.handle);
-    listed.name = narrow(content.name);
-    listed.description = narrow(content.description);
+    listed.name = listedText(content.name);
+    listed.description = listedText(content.description);
     listed.flags = content.flags;
     listed.startAngle = degrees(content.startAngle);
     listed.endAngle = degrees(content.endAngle);
@@ -84,8 +90,8 @@ void forEachMline(KdDbDatabase& database, const std::function<void(const ListedM
         const BlockEntities* const block = core.blocks().blockOf(stub);
         ListedMline listed;
         listed.handle = handleText(stub.handle);
-        listed.block = block != nullptr ? narrow(block->name) : std::string();
-        listed.layer = narrow(mline->layer());
+        listed.block = block != nullptr ? listedText(block->name) : std::string();
+        listed.layer = listedText(mline->layer());
         listed.style = styleName(content);
         listed.flags = content.flags();
         listed.content = &content;
@@ -109,7 +115,7 @@ std::vector<ListedStyle> listStyles(KdDbDatabase& database) {
 }
 
 std::string colorText(const KdCmColor& color) {
-    return narrow(color.colorNameForDisplay());
+    return listedText(color.colorNameForDisplay());
 }
 
 } // namespace orvex

@@ -12,7 +12,8 @@ class KdDbDatabase;
 
 namespace orvex {
 
-// What `list` prints, as values. Texts in UTF-8, handles as the file has them.
+// What `list` prints, as values. Texts in UTF-8, control characters as \U+XXXX, handles as the file
+// has them.
 
 struct ListedMline {
     std::string handle;

@@ -4,12 +4,15 @@
 #include "ObjectTable.h"
 #include "batchFiles.h"
 #include "drawingAudit.h"
+#include "fileNameJson.h"
 #include "handleText.h"
+#include "printableText.h"
 #include "verbs.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace orvex {
@@ -37,7 +40,7 @@ Json findingJson(const KdDbStub& mline, const AuditedFinding& audited) {
     return json;
 }
 
-void printJson(const std::vector<AuditedMline>& audited) {
+void printJson(const std::vector<AuditedMline>& audited, const DrawingTask& task) {
     Json findings = Json::array();
     for (const AuditedMline& mline : audited) {
         for (const AuditedFinding& each : mline.findings) {
@@ -45,14 +48,17 @@ void printJson(const std::vector<AuditedMline>& audited) {
         }
     }
     Json all;
+    if (task.isOneOfMany) {
+        addFileName(all, "drawing", "input_bytes", task.drawing);
+    }
     all["findings"] = std::move(findings);
-    std::printf("%s\n", all.dump(1).c_str());
+    std::printf("%s\n", all.dump(task.isOneOfMany ? -1 : 1).c_str());
 }
 
 void printText(const std::vector<AuditedMline>& audited, std::size_t mlines) {
     for (const AuditedMline& each : audited) {
         for (const std::string& line : linesOf(each)) {
-            std::printf("%s\n", line.c_str());
+            std::printf("%s\n", printableText(line).c_str());
         }
     }
     std::printf("%s\n", summaryOf(audited, mlines).c_str());
@@ -69,6 +75,21 @@ std::vector<KdDbStub*> mlinesOf(DatabaseCore& core) {
     return mlines;
 }
 
+// Every result has its number, also where that is 0.
+Counts countsOf(const std::vector<AuditedMline>& audited, std::size_t mlines) {
+    Counts counts{{"multilines", mlines}};
+    for (const FindingResult result :
+         {FindingResult::found, FindingResult::repaired, FindingResult::left}) {
+        std::size_t count = 0;
+        for (const AuditedMline& each : audited) {
+            count += static_cast<std::size_t>(
+                std::ranges::count(each.findings, result, &AuditedFinding::result));
+        }
+        counts.emplace_back(nameOf(result), count);
+    }
+    return counts;
+}
+
 class AuditVerb final : public Verb {
 public:
     AuditVerb()
@@ -79,15 +100,18 @@ public:
         options.add_flag("--json", m_asJson, "Print JSON, for programs");
     }
 
-    std::optional<Failure> carryOut(const DrawingTask& task, Counts& /*counts*/) override {
+    [[nodiscard]] bool printsJson() const override { return m_asJson; }
+
+    std::optional<Failure> carryOut(const DrawingTask& task, Counts& counts) override {
         auto drawing = openDrawing(task.drawing);
         if (!drawing) {
             return drawing.failure();
         }
         const std::vector<KdDbStub*> mlines = mlinesOf((*drawing)->database().core());
         const std::vector<AuditedMline> audited = auditMlines(mlines, task.output.has_value());
+        counts = countsOf(audited, mlines.size());
         if (m_asJson) {
-            printJson(audited);
+            printJson(audited, task);
         } else {
             printText(audited, mlines.size());
         }

@@ -1,29 +1,85 @@
 #include "batchFiles.h"
 
+#include "Verb.h"
+#include "printableText.h"
+
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace orvex {
 
+namespace {
+
+constexpr const char* kStandardOutput = "standard output";
+int g_result = -1; // what standard output was before it was claimed
+
+Result<std::unique_ptr<DrawingFile>> openUnguarded(const std::string& path) {
+    if (path != kStandardStream) {
+        return DrawingFile::open(path);
+    }
+    auto bytes = readStandardInput();
+    if (!bytes) {
+        return bytes.failure();
+    }
+    auto opened = DrawingFile::openBytes(std::move(*bytes));
+    if (!opened) {
+        Failure failure = opened.failure();
+        failure.file = inputName(path);
+        return failure;
+    }
+    return opened;
+}
+
+} // namespace
+
+std::string complaint(const std::string& text) {
+    return kComplaintStart + printableText(text) + '\n';
+}
+
 void complain(const std::string& text) {
-    std::fprintf(stderr, "orvex-batch: %s\n", text.c_str());
+    const std::string line = complaint(text);
+    std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+std::string inputName(const std::string& path) {
+    return path == kStandardStream ? "standard input" : path;
+}
+
+std::optional<Failure> claimStandardOutput() {
+    g_result = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    if (g_result < 0 || dup2(STDERR_FILENO, STDOUT_FILENO) < 0) {
+        return Failure{FailureCause::unwritableOutput, kStandardOutput, 0, std::strerror(errno)};
+    }
+    return std::nullopt;
+}
+
+AtomicFile resultFile(const std::string& output) {
+    if (output == kStandardStream) {
+        return {g_result, kStandardOutput};
+    }
+    return AtomicFile(output);
 }
 
 void printWarnings(const std::string& path, const std::vector<DrawingWarning>& warnings) {
     for (const DrawingWarning& warning : warnings) {
-        complain(locatedText(path, warning.line, "warning: " + warning.text));
+        complain(locatedText(inputName(path), warning.line, "warning: " + warning.text));
     }
 }
 
 Result<std::unique_ptr<DrawingFile>> openDrawing(const std::string& path) {
     std::unique_ptr<DrawingFile> drawing;
-    auto failure = withMemory(FailureCause::unreadableInput, path, [&]() -> std::optional<Failure> {
-        auto opened = DrawingFile::open(path);
-        if (!opened) {
-            return opened.failure();
-        }
-        drawing = std::move(*opened);
-        return std::nullopt;
-    });
+    auto failure =
+        withMemory(FailureCause::unreadableInput, inputName(path), [&]() -> std::optional<Failure> {
+            auto opened = openUnguarded(path);
+            if (!opened) {
+                return opened.failure();
+            }
+            drawing = std::move(*opened);
+            return std::nullopt;
+        });
     if (failure) {
         return std::move(*failure);
     }
@@ -35,14 +91,16 @@ std::optional<Failure> saveDrawing(DrawingFile& drawing, const std::string& outp
     if (auto failure = flushOutput()) {
         return failure;
     }
-    return withMemory(FailureCause::unwritableOutput, output, [&] { return drawing.save(output); });
+    AtomicFile target = resultFile(output);
+    return withMemory(FailureCause::unwritableOutput, target.path(),
+                      [&] { return drawing.save(target); });
 }
 
 std::optional<Failure> flushOutput() {
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) {
         return std::nullopt;
     }
-    return Failure{FailureCause::unwritableOutput, "standard output", 0, "it can't be written"};
+    return Failure{FailureCause::unwritableOutput, kStandardOutput, 0, "it can't be written"};
 }
 
 } // namespace orvex

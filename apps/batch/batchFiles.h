@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AtomicFile.h"
 #include "DrawingFile.h"
 
 #include <memory>
@@ -13,6 +14,16 @@ namespace orvex {
 // Prints warnings about a drawing to standard error.
 void printWarnings(const std::string& path, const std::vector<DrawingWarning>& warnings);
 
+// The name of a drawing or a script in messages.
+std::string inputName(const std::string& path);
+
+// Gives standard output to the result: all that is printed from then on goes to standard error.
+// Once in a process.
+std::optional<Failure> claimStandardOutput();
+
+// The file for a result; standard output for "-", which has to be claimed before.
+AtomicFile resultFile(const std::string& output);
+
 // Opens a drawing and prints its warnings.
 Result<std::unique_ptr<DrawingFile>> openDrawing(const std::string& path);
 
@@ -23,7 +34,10 @@ std::optional<Failure> saveDrawing(DrawingFile& drawing, const std::string& outp
 // Nothing while all that was printed could be written.
 std::optional<Failure> flushOutput();
 
-// Prints a line to standard error: "orvex-batch: " and the text.
+inline constexpr const char* kComplaintStart = "orvex-batch: ";
+// The line that complain prints, with its end.
+std::string complaint(const std::string& text);
+// Prints a line to standard error: "orvex-batch: " and the text, control characters as \U+XXXX.
 void complain(const std::string& text);
 
 // Runs `work`, an action; lack of memory is a failure with that cause. `file` is the one at hand.

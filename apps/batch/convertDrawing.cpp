@@ -1,6 +1,5 @@
 // The verb convert: the other form of the drawing format.
 
-#include "AtomicFile.h"
 #include "DrawingConversion.h"
 #include "batchFiles.h"
 #include "verbs.h"
@@ -43,11 +42,12 @@ private:
         const auto converted = convertBytes(std::move(bytes), m_form);
         if (!converted) {
             Failure failure = converted.failure();
-            failure.file = task.drawing;
+            failure.file = inputName(task.drawing);
             return failure;
         }
         printWarnings(task.drawing, converted->warnings);
-        return saveFile(*task.output, converted->bytes);
+        AtomicFile target = resultFile(*task.output);
+        return saveFile(target, converted->bytes);
     }
 
     DrawingForm m_form = DrawingForm::text;

@@ -65,11 +65,11 @@ Result<std::vector<KdDbStub*>> chosenMlines(Session& session, const std::string&
     }
     JoinMlines found = mlinesToJoin(session.database().core(), layers);
     if (!found.unknownLayers.empty()) {
-        return Failure{FailureCause::wrongCall, drawing, 0,
+        return Failure{FailureCause::wrongCall, inputName(drawing), 0,
                        "there is no layer '" + narrow(found.unknownLayers.front()) + "'"};
     }
     for (const std::wstring& layer : found.withheldLayers) {
-        complain(drawing + ": warning: the layer '" + narrow(layer) +
+        complain(inputName(drawing) + ": warning: the layer '" + narrow(layer) +
                  "' is off, frozen or locked and takes no part");
     }
     return std::move(found.mlines);
@@ -98,12 +98,13 @@ public:
 
     void addOptions(CLI::App& options) override;
     [[nodiscard]] std::optional<Failure> check(const DrawingTask& task) const override;
+    [[nodiscard]] bool printsJson() const override { return m_asJson; }
     std::optional<Failure> carryOut(const DrawingTask& task, Counts& counts) override;
 
 private:
     // The script goes to standard output, and all else that is printed to standard error.
     [[nodiscard]] bool printsScript() const { return m_saveScript == "-"; }
-    [[nodiscard]] std::optional<Failure> print(const JoinRun& join) const;
+    [[nodiscard]] std::optional<Failure> print(const JoinRun& join, const DrawingTask& task) const;
     [[nodiscard]] std::optional<Failure> save(Session& session, JoinRun& join,
                                               const DrawingTask& task) const;
 
@@ -148,15 +149,23 @@ void JoinVerb::addOptions(CLI::App& options) {
 
 // A script in a drawing's place would be the drawing's end.
 std::optional<Failure> JoinVerb::check(const DrawingTask& task) const {
-    const bool isDrawing =
-        m_saveScript && (isSameFile(*m_saveScript, task.drawing) ||
-                         (task.output && isSameFile(*m_saveScript, *task.output)));
-    return isDrawing ? std::optional(Failure{FailureCause::wrongCall, *m_saveScript, 0,
-                                             "the script can't be saved over a drawing"})
+    const auto wrongCall = [this](std::string text) {
+        return Failure{FailureCause::wrongCall, *m_saveScript, 0, std::move(text)};
+    };
+    if (m_saveScript && task.isOneOfMany) {
+        return wrongCall("--save-script is for one drawing");
+    }
+    if (printsScript() && task.printsResult()) {
+        return wrongCall("either the drawing or the script can be printed");
+    }
+    const bool isDrawing = m_saveScript && !printsScript() &&
+                           (isSameFile(*m_saveScript, task.drawing) ||
+                            (task.output && isSameFile(*m_saveScript, *task.output)));
+    return isDrawing ? std::optional(wrongCall("the script can't be saved over a drawing"))
                      : std::nullopt;
 }
 
-std::optional<Failure> JoinVerb::carryOut(const DrawingTask& task, Counts& /*counts*/) {
+std::optional<Failure> JoinVerb::carryOut(const DrawingTask& task, Counts& counts) {
     auto drawing = openDrawing(task.drawing);
     if (!drawing) {
         return drawing.failure();
@@ -171,11 +180,12 @@ std::optional<Failure> JoinVerb::carryOut(const DrawingTask& task, Counts& /*cou
         return mlines.failure();
     }
     JoinRun join(session, std::move(*mlines), m_options);
-    if (auto failure =
-            withMemory(FailureCause::unplayableScript, task.drawing, [&] { return join.play(); })) {
+    if (auto failure = withMemory(FailureCause::unplayableScript, inputName(task.drawing),
+                                  [&] { return join.play(); })) {
         return failure;
     }
-    if (auto failure = print(join)) {
+    counts = joinCounts(join);
+    if (auto failure = print(join, task)) {
         return failure;
     }
     return withMemory(FailureCause::unwritableOutput, task.output.value_or(""),
@@ -183,8 +193,8 @@ std::optional<Failure> JoinVerb::carryOut(const DrawingTask& task, Counts& /*cou
 }
 
 // Before the save: a call that can't print what it did leaves nothing behind.
-std::optional<Failure> JoinVerb::print(const JoinRun& join) const {
-    printJoin(join, m_asJson, printsScript() ? stderr : stdout);
+std::optional<Failure> JoinVerb::print(const JoinRun& join, const DrawingTask& task) const {
+    printJoin(join, task, m_asJson, printsScript() ? stderr : stdout);
     if (printsScript()) {
         const std::string script = join.script();
         std::fwrite(script.data(), 1, script.size(), stdout);

@@ -71,6 +71,19 @@ void printStyle(const ListedStyle& style) {
     }
 }
 
+ListCounts printList(KdDbDatabase& database) {
+    ListCounts counts;
+    forEachMline(database, [&](const ListedMline& mline) {
+        printMline(mline);
+        ++counts.mlines;
+    });
+    for (const ListedStyle& style : listStyles(database)) {
+        printStyle(style);
+        ++counts.styles;
+    }
+    return counts;
+}
+
 class ListVerb final : public Verb {
 public:
     ListVerb() : Verb({"list", "List every multiline and multiline style in a drawing", nullptr}) {}
@@ -79,20 +92,16 @@ public:
         options.add_flag("--json", m_asJson, "Print JSON, for programs");
     }
 
-    std::optional<Failure> carryOut(const DrawingTask& task, Counts& /*counts*/) override {
+    [[nodiscard]] bool printsJson() const override { return m_asJson; }
+
+    std::optional<Failure> carryOut(const DrawingTask& task, Counts& counts) override {
         const auto drawing = openDrawing(task.drawing);
         if (!drawing) {
             return drawing.failure();
         }
         KdDbDatabase& database = (*drawing)->database();
-        if (m_asJson) {
-            printListAsJson(database);
-            return std::nullopt;
-        }
-        forEachMline(database, printMline);
-        for (const ListedStyle& style : listStyles(database)) {
-            printStyle(style);
-        }
+        const ListCounts found = m_asJson ? printListAsJson(database, task) : printList(database);
+        counts = {{"multilines", found.mlines}, {"styles", found.styles}};
         return std::nullopt;
     }
 

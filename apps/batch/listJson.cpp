@@ -1,6 +1,8 @@
 #include "listJson.h"
 
 #include "DrawingList.h"
+#include "fileNameJson.h"
+#include "printableText.h"
 #include "textCodec.h"
 
 #include <nlohmann/json.hpp>
@@ -42,7 +44,7 @@ Json colorJson(const KdCmColor& color) {
     if (color.hasColorName()) {
         std::wstring key(static_cast<std::size_t>(color.dictionaryKeyLength()) + 1, L'\0');
         color.getDictionaryKey(key.data());
-        json["book"] = narrow(key.c_str());
+        json["book"] = printableText(narrow(key.c_str()));
     }
     return json;
 }
@@ -108,29 +110,37 @@ Json styleJson(const ListedStyle& style) {
 // Prints the entries of an array one by one: a large drawing's list is never held as a whole.
 class ArrayPrinter {
 public:
+    explicit ArrayPrinter(const char* separator) : m_separator(separator) {}
+
     void print(const Json& entry) {
-        std::fputs(m_first ? "\n" : ",\n", stdout);
-        m_first = false;
+        std::fputs(m_count == 0 ? "" : ",", stdout);
+        std::fputs(m_separator, stdout);
+        ++m_count;
         const std::string text = entry.dump();
         std::fwrite(text.data(), 1, text.size(), stdout);
     }
+    [[nodiscard]] std::size_t count() const { return m_count; }
 
 private:
-    bool m_first = true;
+    const char* m_separator;
+    std::size_t m_count = 0;
 };
 
 } // namespace
 
-void printListAsJson(KdDbDatabase& database) {
-    std::fputs("{\"multilines\":[", stdout);
-    ArrayPrinter mlines;
+ListCounts printListAsJson(KdDbDatabase& database, const DrawingTask& task) {
+    // An object a line where there are several, else an entry a line.
+    const char* const separator = task.isOneOfMany ? "" : "\n";
+    std::printf("{%s\"multilines\":[", drawingMember(task).c_str());
+    ArrayPrinter mlines(separator);
     forEachMline(database, [&](const ListedMline& mline) { mlines.print(mlineJson(mline)); });
-    std::fputs("\n],\"styles\":[", stdout);
-    ArrayPrinter styles;
+    std::printf("%s],\"styles\":[", separator);
+    ArrayPrinter styles(separator);
     for (const ListedStyle& style : listStyles(database)) {
         styles.print(styleJson(style));
     }
-    std::fputs("\n]}\n", stdout);
+    std::printf("%s]}\n", separator);
+    return {mlines.count(), styles.count()};
 }
 
 } // namespace orvex

@@ -1,11 +1,20 @@
 #pragma once
 
+#include "Verb.h"
+
+#include <cstddef>
+
 class KdDbDatabase;
 
 namespace orvex {
 
-// Prints multilines and styles as one JSON object on standard output, a line an entry. Numbers
-// read back as the same double.
-void printListAsJson(KdDbDatabase& database);
+struct ListCounts {
+    std::size_t mlines = 0;
+    std::size_t styles = 0;
+};
+
+// Prints a drawing's list as one object; on one line, with the drawing's name in front, when it is
+// one of many.
+ListCounts printListAsJson(KdDbDatabase& database, const DrawingTask& task);
 
 } // namespace orvex

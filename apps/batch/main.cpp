@@ -1,11 +1,13 @@
 // orvex-batch: the host without a window.
 
 #include "BatchCall.h"
+#include "ManyDrawings.h"
 #include "batchFiles.h"
-#include "exitStatus.h"
+#include "carryOutTask.h"
+#include "endingSignals.h"
+#include "planTasks.h"
 
 #include <cstdio>
-#include <exception>
 
 namespace orvex {
 
@@ -19,41 +21,30 @@ std::optional<Failure> answer(const AnsweredCall& call) {
     return std::nullopt;
 }
 
-std::optional<Failure> carryOut(const VerbCall& call) {
-    if (auto failure = call.verb->check(call.task)) {
-        return failure;
+std::optional<Failure> carryOutOne(Verb& verb, const DrawingTask& task) {
+    if (task.printsResult()) {
+        if (auto failure = claimStandardOutput()) {
+            return failure;
+        }
+    }
+    Counts counts;
+    return verb.carryOut(task, counts);
+}
+
+// The exit status of a call of several drawings goes to `status`.
+std::optional<Failure> carryOut(const VerbCall& call, int& status) {
+    const auto tasks = planTasks(call);
+    if (!tasks) {
+        return tasks.failure();
     }
     if (auto failure = call.verb->prepare()) {
         return failure;
     }
-    Counts counts;
-    return call.verb->carryOut(call.task, counts);
-}
-
-// No exception is part of a plan that reaches the program's end.
-std::optional<Failure> carryOutGuarded(int argc, char** argv) {
-    try {
-        const BatchCall call = parseBatchCall(argc, argv);
-        const auto* const verb = std::get_if<VerbCall>(&call);
-        auto failure = verb != nullptr ? carryOut(*verb) : answer(std::get<AnsweredCall>(call));
-        return failure ? failure : flushOutput();
-    } catch (const std::exception& error) {
-        return Failure{FailureCause::programFault, {}, 0, error.what()};
-    } catch (...) {
-        return Failure{FailureCause::programFault, {}, 0, "an unknown exception"};
+    if (!call.isOfMany) {
+        return carryOutOne(*call.verb, tasks->front());
     }
-}
-
-ExitStatus report(const std::optional<Failure>& failure) {
-    if (!failure) {
-        return ExitStatus::done;
-    }
-    complain(messageOf(*failure));
-    if (failure->cause == FailureCause::programFault) {
-        complain("this is a fault of the program; please report it with the call, the drawing, the "
-                 "script and the version " ORVEX_VERSION);
-    }
-    return exitStatus(failure->cause);
+    status = ManyDrawings(*call.verb, *tasks, call.many).run();
+    return std::nullopt;
 }
 
 } // namespace
@@ -61,5 +52,13 @@ ExitStatus report(const std::optional<Failure>& failure) {
 } // namespace orvex
 
 int main(int argc, char** argv) {
-    return static_cast<int>(orvex::report(orvex::carryOutGuarded(argc, argv)));
+    using namespace orvex;
+    endCleanlyOnSignals();
+    int status = 0;
+    const ExitStatus reportedStatus = reported([&] {
+        const BatchCall call = parseBatchCall(argc, argv);
+        const auto* const verb = std::get_if<VerbCall>(&call);
+        return verb != nullptr ? carryOut(*verb, status) : answer(std::get<AnsweredCall>(call));
+    });
+    return reportedStatus == ExitStatus::done ? status : static_cast<int>(reportedStatus);
 }

@@ -1,10 +1,13 @@
 #include "printJoin.h"
 
 #include "JoinRun.h"
+#include "fileNameJson.h"
 #include "handleText.h"
+#include "printableText.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -33,59 +36,59 @@ Json placeJson(const JoinPlace& place, const std::vector<JoinWall>& walls) {
     json["result"] = placeResultWord(place.result);
     if (place.result == PlaceResult::left) {
         json["reason"] = {{"code", joinReasonCode(place.reason)},
-                          {"text", joinReasonText(place, walls)}};
+                          {"text", printableText(joinReasonText(place, walls))}};
     }
     return json;
 }
 
-// Every result and every reason has its number, also where that is 0.
-Json countsJson(const std::vector<JoinPlace>& places) {
-    Json counts;
-    for (const PlaceResult result : kResults) {
-        counts[placeResultWord(result)] = 0;
-    }
-    for (const JoinReason reason : joinReasons()) {
-        counts[joinReasonCode(reason)] = 0;
-    }
-    const auto count = [&](std::string_view word) {
-        Json& number = counts[word];
-        number = number.get<int>() + 1;
-    };
-    for (const JoinPlace& place : places) {
-        count(placeResultWord(place.result));
-        if (place.result == PlaceResult::left) {
-            count(joinReasonCode(place.reason));
-        }
-    }
-    return counts;
-}
-
-void printJson(std::FILE* out, const JoinRun& join, const Json& counts) {
-    print(out, "{\"joints\":[");
+// An object a line where there are several, else a place a line.
+void printJson(std::FILE* out, const JoinRun& join, const DrawingTask& task) {
+    const char* const separator = task.isOneOfMany ? "" : "\n";
+    print(out, '{' + drawingMember(task) + "\"joints\":[");
     bool first = true;
     for (const JoinPlace& place : join.places()) {
-        print(out, first ? "\n" : ",\n");
+        print(out, (first ? "" : ",") + std::string(separator));
         first = false;
         print(out, placeJson(place, join.walls()).dump());
     }
-    print(out, "\n],\"counts\":" + counts.dump() + "}\n");
+    Json counts;
+    for (const auto& [word, count] : joinCounts(join)) {
+        counts[word] = count;
+    }
+    print(out, separator + ("],\"counts\":" + counts.dump() + "}\n"));
 }
 
 } // namespace
 
-void printJoin(const JoinRun& join, bool asJson, std::FILE* out) {
-    const Json counts = countsJson(join.places());
+// Every result and every reason has its number, also where that is 0.
+Counts joinCounts(const JoinRun& join) {
+    Counts counts;
+    for (const PlaceResult result : kResults) {
+        counts.emplace_back(placeResultWord(result),
+                            std::ranges::count(join.places(), result, &JoinPlace::result));
+    }
+    for (const JoinReason reason : joinReasons()) {
+        const auto isLeftForIt = [reason](const JoinPlace& place) {
+            return place.result == PlaceResult::left && place.reason == reason;
+        };
+        counts.emplace_back(joinReasonCode(reason),
+                            std::ranges::count_if(join.places(), isLeftForIt));
+    }
+    return counts;
+}
+
+void printJoin(const JoinRun& join, const DrawingTask& task, bool asJson, std::FILE* out) {
     if (asJson) {
-        printJson(out, join, counts);
+        printJson(out, join, task);
         return;
     }
     for (const JoinPlace& place : join.places()) {
-        print(out, joinPlaceText(place, join.walls()) + '\n');
+        print(out, printableText(joinPlaceText(place, join.walls())) + '\n');
     }
     std::string summary;
-    for (const PlaceResult result : kResults) {
-        const std::string_view word = placeResultWord(result);
-        summary += (summary.empty() ? "" : ", ") + counts[word].dump() + ' ' + std::string(word);
+    const Counts counts = joinCounts(join);
+    for (std::size_t i = 0; i < kResults.size(); ++i) {
+        summary += (i == 0 ? "" : ", ") + std::to_string(counts[i].second) + ' ' + counts[i].first;
     }
     print(out, summary + '\n');
 }

@@ -5,6 +5,7 @@
 #include "Session.h"
 #include "batchFiles.h"
 #include "moduleFiles.h"
+#include "printableText.h"
 #include "refusalText.h"
 #include "textCodec.h"
 #include "verbs.h"
@@ -21,15 +22,10 @@ namespace orvex {
 
 namespace {
 
-// How messages name a script.
-std::string scriptName(const std::string& script) {
-    return script == "-" ? "standard input" : script;
-}
-
 // A script may be a pipe.
 Result<std::string> readScript(const std::string& script) {
     std::string text;
-    if (script == "-") {
+    if (script == kStandardStream) {
         text.assign(std::istreambuf_iterator<char>(std::cin), {});
     } else {
         std::error_code ignored;
@@ -41,14 +37,14 @@ Result<std::string> readScript(const std::string& script) {
         text.assign(std::istreambuf_iterator<char>(stream), {});
     }
     if (const auto line = ScriptSource::firstLineThatIsNoUtf8(text)) {
-        return Failure{FailureCause::unreadableInput, scriptName(script), *line,
+        return Failure{FailureCause::unreadableInput, inputName(script), *line,
                        "the script isn't UTF-8"};
     }
     return text;
 }
 
 void printLine(const std::wstring& line) {
-    const std::string utf8 = narrow(line) + '\n';
+    const std::string utf8 = printableText(narrow(line)) + '\n';
     std::fwrite(utf8.data(), 1, utf8.size(), stdout);
 }
 
@@ -66,6 +62,7 @@ public:
         });
     }
 
+    [[nodiscard]] std::size_t count() const { return m_count; }
     // What a strict run makes of them; nothing where there was none.
     [[nodiscard]] std::optional<Failure> failure() const {
         if (m_count == 0) {
@@ -83,13 +80,14 @@ private:
 };
 
 std::optional<Failure> playToTheEnd(Session& session, const ScriptSource& script,
-                                    const std::string& name) {
+                                    const std::string& name, std::size_t& commands) {
     while (!script.atEnd()) {
         const std::wstring command = session.askCommand();
         const std::size_t line = script.line();
         if (command.empty()) {
             continue;
         }
+        ++commands;
         if (auto failure = session.run(command)) {
             failure->file = name;
             failure->line = line;
@@ -114,6 +112,8 @@ public:
         options.add_flag("--strict", m_isStrict, "Save nothing after a pick that did nothing");
     }
 
+    [[nodiscard]] bool readsStandardInput() const override { return m_script == kStandardStream; }
+
     std::optional<Failure> prepare() override {
         auto text = readScript(m_script);
         if (!text) {
@@ -123,7 +123,7 @@ public:
         return std::nullopt;
     }
 
-    std::optional<Failure> carryOut(const DrawingTask& task, Counts& /*counts*/) override {
+    std::optional<Failure> carryOut(const DrawingTask& task, Counts& counts) override {
         auto drawing = openDrawing(task.drawing);
         if (!drawing) {
             return drawing.failure();
@@ -135,13 +135,17 @@ public:
         setup.source = &script;
         setup.moduleFiles = moduleFiles(m_module);
         Session session(std::move(setup), modules);
-        const std::string name = scriptName(m_script);
+        const std::string name = inputName(m_script);
         const MissedPicks missed(session, script, name);
-        if (auto failure = withMemory(FailureCause::unplayableScript, name,
-                                      [&] { return playToTheEnd(session, script, name); })) {
+        std::size_t commands = 0;
+        auto failure = withMemory(FailureCause::unplayableScript, name,
+                                  [&] { return playToTheEnd(session, script, name, commands); });
+        counts = {{"commands", commands}, {"missed", missed.count()}};
+        if (failure) {
             return failure;
         }
-        if (auto failure = missed.failure(); failure && m_isStrict) {
+        failure = missed.failure();
+        if (failure && m_isStrict) {
             return failure;
         }
         return task.output ? saveDrawing(session.drawing(), *task.output) : std::nullopt;

@@ -60,10 +60,35 @@ public:
             ->type_name("WxH")
             ->default_str("1600x1200")
             ->check(checkSize);
+        options
+            .add_option_function<std::string>(
+                "--type",
+                [this](const std::string& word) {
+                    m_type = word;
+                    m_kind = pictureKind(word);
+                },
+                "svg, png or pdf, where no name says it")
+            ->check(CLI::IsMember({"svg", "png", "pdf"}));
     }
 
     [[nodiscard]] std::optional<Failure> check(const DrawingTask& task) const override {
-        return checkPicture(*task.output, m_size);
+        const auto kind = kindOf(task);
+        if (!kind && (task.printsResult() || task.isOneOfMany)) {
+            return wrongCall({}, "--type has to say what picture is wanted: svg, png or pdf");
+        }
+        if (!kind) {
+            return wrongCall(*task.output,
+                             "the name of a picture has to end in .svg, .png or .pdf");
+        }
+        if (m_kind && *m_kind != *kind) {
+            return wrongCall(*task.output, "--type and the name of the picture contradict");
+        }
+        auto failure = checkPicture(*kind, m_size);
+        return failure ? wrongCall(*task.output, failure->text) : failure;
+    }
+
+    [[nodiscard]] std::string outputEnding(const std::string& /*drawing*/) const override {
+        return m_type.empty() ? "" : '.' + m_type;
     }
 
     std::optional<Failure> carryOut(const DrawingTask& task, Counts& /*counts*/) override {
@@ -78,19 +103,41 @@ public:
         char name[] = "orvex-batch";
         char* argv[] = {name, nullptr};
         const QGuiApplication application(argc, argv);
-
-        return withMemory(FailureCause::unwritableOutput, *task.output, [&] {
-            Scene scene((*drawing)->database());
-            auto failure = writePicture(scene, *task.output, m_size);
-            if (const auto partlyDrawn = scene.partlyDrawn(); !failure && !partlyDrawn.empty()) {
-                complain(task.drawing + ": warning: " + partlyDrawnText(partlyDrawn));
-            }
-            return failure;
-        });
+        return withMemory(FailureCause::unwritableOutput, *task.output,
+                          [&] { return draw((*drawing)->database(), task); });
     }
 
 private:
+    static Failure wrongCall(const std::string& file, std::string text) {
+        return {FailureCause::wrongCall, file, 0, std::move(text)};
+    }
+
+    // By the name's ending, else as --type says.
+    [[nodiscard]] std::optional<PictureKind> kindOf(const DrawingTask& task) const {
+        const auto named = task.printsResult() ? std::nullopt : pictureKindOf(*task.output);
+        return named ? named : m_kind;
+    }
+
+    [[nodiscard]] std::optional<Failure> draw(KdDbDatabase& database,
+                                              const DrawingTask& task) const {
+        Scene scene(database);
+        const auto picture = makePicture(scene, *kindOf(task), m_size);
+        AtomicFile target = resultFile(*task.output);
+        if (!picture) {
+            Failure failure = picture.failure();
+            failure.file = target.path();
+            return failure;
+        }
+        auto failure = saveFile(target, *picture);
+        if (const auto partlyDrawn = scene.partlyDrawn(); !failure && !partlyDrawn.empty()) {
+            complain(inputName(task.drawing) + ": warning: " + partlyDrawnText(partlyDrawn));
+        }
+        return failure;
+    }
+
     PictureSize m_size;
+    std::string m_type; // as given; empty without
+    std::optional<PictureKind> m_kind;
 };
 
 } // namespace

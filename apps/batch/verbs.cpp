@@ -1,6 +1,12 @@
 #include "verbs.h"
 
+#include <filesystem>
+
 namespace orvex {
+
+std::string Verb::outputEnding(const std::string& drawing) const {
+    return std::filesystem::path(drawing).extension().string();
+}
 
 std::vector<std::unique_ptr<Verb>> makeVerbs() {
     std::vector<std::unique_ptr<Verb>> verbs;

@@ -28,11 +28,6 @@ constexpr double kLinesToSide = 1000.0;           // line widths to the shorter 
 constexpr int kPixelsPerInch = 96;
 constexpr double kPointsPerPixel = 72.0 / kPixelsPerInch;
 
-using Maker = Result<QByteArray> (*)(Scene&, const PlanView&);
-
-// By the ending of the file's name; null for any other.
-Maker makerFor(const std::string& path);
-
 Failure unwritable(std::string text) {
     return {FailureCause::unwritableOutput, {}, 0, std::move(text)};
 }
@@ -104,33 +99,71 @@ Result<QByteArray> pdfPicture(Scene& scene, const PlanView& view) {
     return buffer.data();
 }
 
-Maker makerFor(const std::string& path) {
-    const QString ending = QFileInfo(QString::fromStdString(path)).suffix().toLower();
-    return ending == QLatin1String("svg")   ? svgPicture
-           : ending == QLatin1String("png") ? pngPicture
-           : ending == QLatin1String("pdf") ? pdfPicture
-                                            : nullptr;
+Result<QByteArray> pictureBytes(Scene& scene, const PlanView& view, PictureKind kind) {
+    switch (kind) {
+    case PictureKind::svg:
+        return svgPicture(scene, view);
+    case PictureKind::png:
+        return pngPicture(scene, view);
+    case PictureKind::pdf:
+        break;
+    }
+    return pdfPicture(scene, view);
+}
+
+Failure wrongCall(const std::string& path, std::string text) {
+    return {FailureCause::wrongCall, path, 0, std::move(text)};
 }
 
 } // namespace
 
-std::optional<Failure> checkPicture(const std::string& path, const PictureSize& size) {
-    const auto wrong = [&](std::string text) {
-        return Failure{FailureCause::wrongCall, path, 0, std::move(text)};
-    };
-    const Maker make = makerFor(path);
-    if (make == nullptr) {
-        return wrong("the name of a picture has to end in .svg, .png or .pdf");
-    }
+std::optional<PictureKind> pictureKind(std::string_view word) {
+    const QString lower = QString::fromUtf8(word.data(), static_cast<int>(word.size())).toLower();
+    return lower == QLatin1String("svg")   ? std::optional(PictureKind::svg)
+           : lower == QLatin1String("png") ? std::optional(PictureKind::png)
+           : lower == QLatin1String("pdf") ? std::optional(PictureKind::pdf)
+                                           : std::nullopt;
+}
+
+std::optional<PictureKind> pictureKindOf(const std::string& path) {
+    return pictureKind(QFileInfo(QString::fromStdString(path)).suffix().toStdString());
+}
+
+std::optional<Failure> checkPicture(PictureKind kind, const PictureSize& size) {
     const auto [width, height] = size;
     if (width < 1 || height < 1 || width > kGreatestSide || height > kGreatestSide) {
-        return wrong("each side of a picture has to be from 1 to " + std::to_string(kGreatestSide) +
-                     " pixels");
+        return wrongCall({}, "each side of a picture has to be from 1 to " +
+                                 std::to_string(kGreatestSide) + " pixels");
     }
-    if (make == pngPicture && std::int64_t{width} * height > kMostPixels) {
-        return wrong("a .png picture can't have more than 100 million pixels");
+    if (kind == PictureKind::png && std::int64_t{width} * height > kMostPixels) {
+        return wrongCall({}, "a .png picture can't have more than 100 million pixels");
     }
     return std::nullopt;
+}
+
+std::optional<Failure> checkPicture(const std::string& path, const PictureSize& size) {
+    const auto kind = pictureKindOf(path);
+    if (!kind) {
+        return wrongCall(path, "the name of a picture has to end in .svg, .png or .pdf");
+    }
+    auto failure = checkPicture(*kind, size);
+    if (failure) {
+        failure->file = path;
+    }
+    return failure;
+}
+
+Result<std::string> makePicture(Scene& scene, PictureKind kind, const PictureSize& size) {
+    if (auto failure = checkPicture(kind, size)) {
+        return std::move(*failure);
+    }
+    PlanView view(size.width, size.height);
+    view.zoomTo(scene.extents());
+    const auto picture = pictureBytes(scene, view, kind);
+    if (!picture) {
+        return picture.failure();
+    }
+    return picture->toStdString();
 }
 
 std::optional<Failure> writePicture(Scene& scene, const std::string& path,
@@ -138,15 +171,13 @@ std::optional<Failure> writePicture(Scene& scene, const std::string& path,
     if (auto failure = checkPicture(path, size)) {
         return failure;
     }
-    PlanView view(size.width, size.height);
-    view.zoomTo(scene.extents());
-    const auto picture = makerFor(path)(scene, view);
+    const auto picture = makePicture(scene, *pictureKindOf(path), size);
     if (!picture) {
         Failure failure = picture.failure();
         failure.file = path;
         return failure;
     }
-    return saveFile(path, {picture->constData(), static_cast<std::size_t>(picture->size())});
+    return saveFile(path, *picture);
 }
 
 } // namespace orvex

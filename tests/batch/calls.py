@@ -33,7 +33,6 @@ WRONG_CALLS = [
     (["convert", "{d}", "--output", "{t}/a.dxf"], "--to"),
     (["convert", "{d}", "--to", "paper", "--output", "{t}/a.dxf"], "paper"),
     (["convert", "{d}", "--to", "text"], "--output"),
-    (["list", "{d}", "{d}"], ""),
 ]
 
 UNREADABLE = [
