@@ -125,14 +125,20 @@ std::uint64_t ChangeLog::highestRedoHandle() const {
     return m_undo->highestRedoHandle();
 }
 
-void ChangeLog::mark() {
-    if (m_inCommand) {
-        m_undo->mark();
-    }
+bool ChangeLog::mark() {
+    return m_inCommand && m_undo->mark();
 }
 
 bool ChangeLog::rollBackToMark() {
     return m_inCommand && m_undo->rollBack();
+}
+
+bool ChangeLog::restoreMark() {
+    return m_inCommand && m_undo->restoreMark();
+}
+
+bool ChangeLog::rollForward() {
+    return m_inCommand && m_undo->rollForward();
 }
 
 void ChangeLog::attach(ChangeFeed& feed) {

@@ -43,8 +43,10 @@ public:
     [[nodiscard]] const StepName* nextRedo() const;
 
     // Marks of the running command, see UndoLog. Nothing outside of commands.
-    void mark();
+    bool mark();
     bool rollBackToMark();
+    bool restoreMark();
+    bool rollForward();
 
     // Steps, their memory, and what goes with them.
     [[nodiscard]] UndoLog& steps() { return *m_undo; }

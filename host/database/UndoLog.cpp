@@ -11,6 +11,7 @@ void UndoLog::begin(std::wstring command) {
     m_before = companionState();
     m_segments.clear();
     m_segments.emplace_back(m_core);
+    m_rolledBack.clear();
 }
 
 std::any UndoLog::companionState() const {
@@ -18,25 +19,43 @@ std::any UndoLog::companionState() const {
 }
 
 bool UndoLog::end() {
+    noteNews();
     StateImages images = std::move(m_segments.front());
     for (std::size_t i = 1; i < m_segments.size(); ++i) {
         images.append(std::move(m_segments[i]));
     }
     m_segments.clear();
     images.dropWhatIsAsBefore();
-    if (images.isEmpty()) {
+    const bool isStep = !images.isEmpty();
+    if (isStep) {
+        images.finish();
+        forgetRedo();
+        const std::size_t memory = images.memoryUse();
+        StepName name{m_command, images.countMultilines(), images.countEntities()};
+        m_done.push_back({std::move(images), std::move(name), m_before, companionState(), memory});
+        m_memory += memory;
+    } else {
         images.restoreVariables();
-        return false;
     }
-    images.finish();
-    forgetRedo();
-    StepName name{std::move(m_command), images.countMultilines(), images.countEntities()};
-    const std::size_t memory = images.memoryUse();
-    m_done.push_back({std::move(images), std::move(name), std::exchange(m_before, {}),
-                      companionState(), memory});
-    m_memory += memory;
+    keepRolledBack();
+    m_before.reset();
     keepWithinLimit();
-    return true;
+    return isStep;
+}
+
+// Cycles of the command that were rolled back are steps that were taken back.
+void UndoLog::keepRolledBack() {
+    if (!m_undone.empty()) {
+        m_rolledBack.clear();
+    }
+    for (StateImages& images : m_rolledBack) {
+        images.finish();
+        const std::size_t memory = images.memoryUse();
+        StepName name{m_command, images.countMultilines(), images.countEntities()};
+        m_undone.push_back({std::move(images), std::move(name), m_before, m_before, memory});
+        m_memory += memory;
+    }
+    m_rolledBack.clear();
 }
 
 void UndoLog::keepWithinLimit() {
@@ -61,34 +80,60 @@ void UndoLog::joinLastSegments() {
     current().dropWhatIsAsBefore();
 }
 
-void UndoLog::mark() {
-    if (m_segments.empty()) {
-        return;
-    }
+// What was rolled back doesn't fit on top of anything new.
+void UndoLog::noteNews() {
     current().dropWhatIsAsBefore();
+    if (!current().isEmpty()) {
+        m_rolledBack.clear();
+    }
+}
+
+bool UndoLog::mark() {
+    noteNews();
     if (current().isEmpty()) {
-        return;
+        return false;
     }
     const std::size_t count = m_segments.size();
     if (count > 1 && isTakenBack(m_segments[count - 1], m_segments[count - 2])) {
         joinLastSegments();
-        return;
+        return false;
     }
     m_segments.emplace_back(m_core);
+    return true;
 }
 
 bool UndoLog::rollBack() {
-    if (m_segments.empty()) {
-        return false;
-    }
-    current().dropWhatIsAsBefore();
+    noteNews();
     if (current().isEmpty() && m_segments.size() > 1) {
         joinLastSegments();
     }
+    if (current().isEmpty()) {
+        return false;
+    }
+    exchange(current());
+    m_rolledBack.push_back(std::move(m_segments.back()));
+    m_segments.back() = StateImages(m_core);
+    return true;
+}
+
+bool UndoLog::restoreMark() {
+    current().dropWhatIsAsBefore();
     const bool changed = !current().isEmpty();
     exchange(current());
     m_segments.back() = StateImages(m_core);
     return changed;
+}
+
+bool UndoLog::rollForward() {
+    noteNews();
+    if (m_rolledBack.empty()) {
+        return false;
+    }
+    exchange(m_rolledBack.back());
+    m_segments.back() = std::move(m_rolledBack.back());
+    m_rolledBack.pop_back();
+    m_segments.emplace_back(m_core);
+    return true;
 }
 
 void UndoLog::exchange(StateImages& images) {

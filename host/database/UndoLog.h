@@ -46,12 +46,19 @@ public:
     // True when it made a step.
     bool end();
 
-    // A place in the running command to which rollBack leads. None is made where nothing changed
-    // since the mark before, or where all that changed since one more before was taken back.
-    void mark();
+    // A place in the running command to which rollBack leads. None is made, and false returned,
+    // where nothing changed since the mark before, or where all that changed since one more before
+    // was taken back.
+    bool mark();
     // Takes back what changed since the last mark; where nothing did, since the one before. False
     // when the drawing is as it was at the command's begin.
     bool rollBack();
+    // Takes back what changed since the last mark and forgets it; false where nothing did.
+    bool restoreMark();
+    // Brings again what was rolled back last, until something new is done in the command. What is
+    // left of it at the command's end is brought again by redo, unless the command changed nothing
+    // and an older step is waiting for that.
+    bool rollForward();
 
     // Takes the last step back, brings the last one taken back again; false when there is none.
     bool undo();
@@ -86,10 +93,13 @@ private:
     [[nodiscard]] std::any companionState() const;
     [[nodiscard]] static bool isTakenBack(const StateImages& last, const StateImages& before);
     void joinLastSegments();
+    void noteNews();
+    void keepRolledBack();
     void keepWithinLimit();
 
     DatabaseCore& m_core;
-    std::vector<StateImages> m_segments; // of the running command, one from each mark on
+    std::vector<StateImages> m_segments;   // of the running command, one from each mark on
+    std::vector<StateImages> m_rolledBack; // the next one to bring again is the last
     std::wstring m_command;
     std::any m_before;
     std::deque<Step> m_done;

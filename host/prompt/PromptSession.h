@@ -56,6 +56,7 @@ struct PromptSession {
     std::wstring armedKeywords;
     std::wstring lastKeyword;
     std::vector<std::wstring> completions; // go with the next question, and with it alone
+    bool keepsOnEscape = false;            // the same
     PromptPreview preview; // goes with each question for a point; set by PreviewScope
 
     static PromptSession& current();

@@ -30,6 +30,9 @@ struct PromptRequest {
     // A window draws its entity instead of the line. Null where the command shows nothing; it lives
     // no longer than the question.
     PromptPreview preview;
+    // Whoever gives up by hand keeps what was answered so far, as an empty answer does. A script's
+    // cancel is a cancel all the same.
+    bool keepsOnEscape = false;
 };
 
 // The answer, before the prompt library has judged it.

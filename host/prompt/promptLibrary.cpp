@@ -32,6 +32,7 @@ PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
     request.keywords = splitKeywords(std::exchange(session.armedKeywords, {}));
     request.completions = std::exchange(session.completions, {});
     request.base = base;
+    request.keepsOnEscape = std::exchange(session.keepsOnEscape, false);
     if (kind == PromptKind::point) {
         request.preview = session.preview;
     }

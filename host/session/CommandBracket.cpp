@@ -6,12 +6,15 @@
 #include "SessionDisplay.h"
 #include "resourceLibrary.h"
 
+#include <utility>
+
 namespace orvex {
 
-CommandBracket::CommandBracket(DatabaseCore& core, SessionDisplay& display, ModuleLoader& modules)
+CommandBracket::CommandBracket(std::wstring name, DatabaseCore& core, SessionDisplay& display,
+                               ModuleLoader& modules)
     : m_core(core), m_display(display), m_use(modules), m_resources(AfxGetResourceHandle()) {
     PromptSession::current().armedKeywords.clear();
-    m_core.changes().beginCommand();
+    m_core.changes().beginCommand(std::move(name));
 }
 
 CommandBracket::~CommandBracket() {

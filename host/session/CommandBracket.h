@@ -3,6 +3,8 @@
 #include "HINSTANCE.h"
 #include "ModuleLoader.h"
 
+#include <string>
+
 namespace orvex {
 
 class DatabaseCore;
@@ -12,7 +14,9 @@ class SessionDisplay;
 // shown, the resource handle and the keywords are as before, and all changes are one undo step.
 class CommandBracket {
 public:
-    CommandBracket(DatabaseCore& core, SessionDisplay& display, ModuleLoader& modules);
+    // The name is what undo calls the step.
+    CommandBracket(std::wstring name, DatabaseCore& core, SessionDisplay& display,
+                   ModuleLoader& modules);
     ~CommandBracket();
     CommandBracket(const CommandBracket&) = delete;
     CommandBracket& operator=(const CommandBracket&) = delete;

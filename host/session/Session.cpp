@@ -20,6 +20,7 @@
 #include <filesystem>
 #include <new>
 #include <string_view>
+#include <utility>
 
 namespace orvex {
 
@@ -52,10 +53,11 @@ const KdEdCommand* findRegistered(const std::wstring& name) {
 Session::Session(SessionSetup setup, ModuleLoader& modules)
     : m_setup(std::move(setup)), m_modules(modules), m_document(&m_setup.drawing->database()),
       m_view(m_setup.viewWidth, m_setup.viewHeight), m_scene(m_setup.drawing->database()),
-      m_contexts(*this), m_display(*this), m_toolWatch(*this),
+      m_stepMemory(m_selectionMemory), m_contexts(*this), m_display(*this), m_toolWatch(*this),
       m_documentBefore(setCurrentDocument(&m_document)),
       m_contextBefore(setActiveDocContext(&m_contexts)) {
     setSupportFileFinder(findSupportFile);
+    database().core().changes().steps().setCompanion(&m_stepMemory);
     m_scene.setUnitsPerPixel([this] { return view().unitsPerPixel(); });
     PromptSession& prompts = PromptSession::current();
     prompts = PromptSession();
@@ -66,6 +68,7 @@ Session::Session(SessionSetup setup, ModuleLoader& modules)
 }
 
 Session::~Session() {
+    database().core().changes().steps().setCompanion(nullptr);
     PromptSession::current() = PromptSession();
     setActiveDocContext(m_contextBefore);
     setCurrentDocument(m_documentBefore);
@@ -93,8 +96,13 @@ std::optional<Failure> Session::run(const std::wstring& name) {
     if (m_running) {
         return unplayable(L"a command is running already");
     }
+    // Outside of the bracket, since they are no steps of their own.
     if (foldCase(name) == L"U") {
         undo();
+        return std::nullopt;
+    }
+    if (foldCase(name) == L"REDO") {
+        redo();
         return std::nullopt;
     }
     if (const HostCommand* const command = findHostCommand(name)) {
@@ -134,8 +142,9 @@ std::optional<Failure> Session::runInBracket(const std::wstring& name,
     std::optional<Failure> failure;
     const std::string what = "the command '" + narrow(name) + "' failed";
     try {
-        const CommandBracket bracket(database().core(), m_display, m_modules);
+        const CommandBracket bracket(foldCase(name), database().core(), m_display, m_modules);
         command();
+        runFollowers();
     } catch (const std::bad_alloc&) {
         failure = Failure{FailureCause::unplayableScript, {}, 0, what + ": not enough memory"};
     } catch (const std::exception& error) {
@@ -145,13 +154,33 @@ std::optional<Failure> Session::runInBracket(const std::wstring& name,
     }
     m_running = false;
     m_toolWatch.commandEnded();
+    m_follower.clear();
     return failure;
 }
 
-// Outside of the bracket, since it is no undo step of its own.
+void Session::runFollowers() {
+    while (!m_follower.empty()) {
+        const std::wstring name = std::exchange(m_follower, {});
+        const auto command = findModuleCommand(name);
+        if (!command) {
+            return;
+        }
+        database().core().closeAll();
+        PromptSession::current().armedKeywords.clear();
+        printLines(L"Command: " + name);
+        (*command)();
+    }
+}
+
 void Session::undo() {
     if (!database().core().changes().undo()) {
         kdutPrintf(L"There is nothing to undo.");
+    }
+}
+
+void Session::redo() {
+    if (!database().core().changes().redo()) {
+        kdutPrintf(L"There is nothing to redo.");
     }
 }
 

@@ -9,6 +9,7 @@
 #include "SelectionMemory.h"
 #include "SessionContexts.h"
 #include "SessionDisplay.h"
+#include "StepMemory.h"
 #include "ToolWatch.h"
 
 #include <functional>
@@ -69,6 +70,10 @@ public:
     // by an exception).
     std::optional<Failure> run(const std::wstring& name);
 
+    // Has a command of a module run after the running one, as part of it: both are one step of
+    // undo.
+    void followWith(const std::wstring& name) { m_follower = name; }
+
     using CommandFunction = void (*)();
     // A command of a module, which is loaded where it has to be.
     Result<CommandFunction> findModuleCommand(const std::wstring& name);
@@ -83,7 +88,9 @@ public:
 private:
     std::optional<Failure> runInBracket(const std::wstring& name,
                                         const std::function<void()>& command);
+    void runFollowers();
     void undo();
+    void redo();
     std::optional<Failure> loadModule();
 
     SessionSetup m_setup;
@@ -93,10 +100,12 @@ private:
     bool m_viewStarted = false;
     Scene m_scene;
     SelectionMemory m_selectionMemory;
+    StepMemory m_stepMemory;
     SessionContexts m_contexts;
     SessionDisplay m_display;
     ToolWatch m_toolWatch;
     bool m_running = false;
+    std::wstring m_follower; // empty for none
     JoinWatcher m_joinWatcher;
     KdDocument* m_documentBefore;
     RvexDocContext* m_contextBefore;

@@ -26,7 +26,7 @@ constexpr std::array kCommands = {
 } // namespace
 
 std::vector<std::wstring> hostCommandNames() {
-    std::vector<std::wstring> names{L"U"}; // which stands outside of what brackets commands
+    std::vector<std::wstring> names{L"U", L"REDO"}; // which stand outside of what brackets commands
     for (const HostCommand& command : kCommands) {
         names.emplace_back(command.name);
     }

@@ -16,8 +16,10 @@
 #include "userFrame.h"
 #include "variableText.h"
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace orvex {
 
@@ -70,10 +72,7 @@ void askJustification() {
     setVariableText(L"CMLJUST", chosen == L"Top" ? L"0" : chosen == L"Zero" ? L"1" : L"2");
 }
 
-void askSettings(DatabaseCore& core) {
-    wchar_t keyword[kPromptTextSize] = L"";
-    kdedGetInput(keyword);
-    const std::wstring_view chosen = keyword;
+void askSetting(DatabaseCore& core, std::wstring_view chosen) {
     if (chosen == L"Justification") {
         askJustification();
     } else if (chosen == L"Scale") {
@@ -86,30 +85,13 @@ void askSettings(DatabaseCore& core) {
 }
 
 struct Chain {
-    std::vector<KdGePoint3d> points; // user coordinates
+    std::vector<KdGePoint3d> points;     // user coordinates
+    std::vector<KdGePoint3d> lastPoints; // LASTPOINT before each of them
     bool closed = false;
 };
 
 KdGePoint3d pointOf(const double* xyz) {
     return {xyz[0], xyz[1], xyz[2]};
-}
-
-bool askStart(DatabaseCore& core, Chain& chain) {
-    for (;;) {
-        double point[3] = {0.0, 0.0, 0.0};
-        kdedInitGet(0, L"Justification Scale STyle LAyer");
-        switch (
-            kdedGetPoint(nullptr, L"Start point or [Justification/Scale/STyle/LAyer]: ", point)) {
-        case kPromptNormal:
-            chain.points.push_back(pointOf(point));
-            return true;
-        case kPromptKeyword:
-            askSettings(core);
-            break;
-        default:
-            return false;
-        }
-    }
 }
 
 // In the current style and settings; null when there is nothing to draw.
@@ -126,6 +108,10 @@ std::unique_ptr<KdDbMline> makeMline(Session& session, const Chain& chain) {
 // A multiline is flat: it stays on the level of its start. False for the place of the last point,
 // which would be no vertex.
 bool appendPoint(Chain& chain, KdGePoint3d point) {
+    if (chain.points.empty()) {
+        chain.points.push_back(point);
+        return true;
+    }
     point.z = chain.points.front().z;
     if ((point - chain.points.back()).isZeroLength()) {
         return false;
@@ -143,35 +129,77 @@ PromptPreview previewOf(Session& session, const Chain& chain) {
     };
 }
 
+void dropLastPoint(Chain& chain) {
+    PromptSession::current().lastPoint = chain.lastPoints.back();
+    chain.points.pop_back();
+    chain.lastPoints.pop_back();
+}
+
+int askStart(double* point) {
+    kdedInitGet(0, L"Justification Scale STyle LAyer");
+    return kdedGetPoint(nullptr, L"Start point or [Justification/Scale/STyle/LAyer]: ", point);
+}
+
+int askNext(const Chain& chain, double* point) {
+    const bool mayClose = chain.points.size() >= kFewestForClosing;
+    const KdGePoint3d& last = chain.points.back();
+    const double base[3] = {last.x, last.y, last.z};
+    PromptSession::current().keepsOnEscape = chain.points.size() > 1;
+    kdedInitGet(0, mayClose ? L"Close Undo" : L"Undo");
+    return kdedGetPoint(
+        base, mayClose ? L"Next point or [Close/Undo]: " : L"Next point or [Undo]: ", point);
+}
+
+enum class ChainStep : std::uint8_t { goesOn, isDone, isGivenUp };
+
+ChainStep takeKeyword(DatabaseCore& core, Chain& chain) {
+    wchar_t keyword[kPromptTextSize] = L"";
+    kdedGetInput(keyword);
+    const std::wstring_view chosen = keyword;
+    if (chosen == L"Close") {
+        chain.closed = true;
+        return ChainStep::isDone;
+    }
+    if (chosen == L"Undo") {
+        dropLastPoint(chain);
+    } else {
+        askSetting(core, chosen);
+    }
+    return ChainStep::goesOn;
+}
+
+ChainStep askPoint(DatabaseCore& core, Chain& chain) {
+    const KdGePoint3d lastPoint = PromptSession::current().lastPoint;
+    double point[3] = {0.0, 0.0, 0.0};
+    switch (chain.points.empty() ? askStart(point) : askNext(chain, point)) {
+    case kPromptNormal:
+        if (appendPoint(chain, pointOf(point))) {
+            chain.lastPoints.push_back(lastPoint);
+        } else {
+            kdutPrintf(L"That is where the last point is. It is left out.");
+        }
+        return ChainStep::goesOn;
+    case kPromptKeyword:
+        return takeKeyword(core, chain);
+    case kPromptNone:
+        return chain.points.empty() ? ChainStep::isGivenUp : ChainStep::isDone;
+    default:
+        return ChainStep::isGivenUp;
+    }
+}
+
 // Nothing when the user gives up.
 std::optional<Chain> askChain(Session& session) {
     Chain chain;
-    if (!askStart(session.database().core(), chain)) {
-        return std::nullopt;
-    }
-    const PreviewScope preview(previewOf(session, chain));
-    for (;;) {
-        const bool mayClose = chain.points.size() >= kFewestForClosing;
-        kdedInitGet(0, mayClose ? L"Close" : nullptr);
-        const KdGePoint3d& last = chain.points.back();
-        const double base[3] = {last.x, last.y, last.z};
-        double point[3] = {0.0, 0.0, 0.0};
-        switch (
-            kdedGetPoint(base, mayClose ? L"Next point or [Close]: " : L"Next point: ", point)) {
-        case kPromptNormal:
-            if (!appendPoint(chain, pointOf(point))) {
-                kdutPrintf(L"That is where the last point is. It is left out.");
-            }
-            break;
-        case kPromptKeyword:
-            chain.closed = true;
-            return chain;
-        case kPromptNone:
-            return chain;
-        default:
-            return std::nullopt;
+    ChainStep step = ChainStep::goesOn;
+    while (step == ChainStep::goesOn) {
+        std::optional<PreviewScope> preview;
+        if (!chain.points.empty()) {
+            preview.emplace(previewOf(session, chain));
         }
+        step = askPoint(session.database().core(), chain);
     }
+    return step == ChainStep::isDone ? std::optional(std::move(chain)) : std::nullopt;
 }
 
 } // namespace

@@ -137,9 +137,16 @@ TEST_F(UndoSteps, aRunningCommandRollsBackFromMarkToMark) {
         EXPECT_TRUE(rollBack());
         EXPECT_TRUE(rollBack());
         EXPECT_FALSE(rollBack());
+        EXPECT_TRUE(m_core.changes().rollForward());
+        EXPECT_EQ(m_mline->scale(), 2.0);
+        EXPECT_TRUE(m_core.changes().rollBackToMark());
         m_core.changes().mark();
         m_mline->setScale(6.0);
         m_core.changes().mark();
+        m_mline->setScale(7.0);
+        EXPECT_FALSE(m_core.changes().rollForward());
+        EXPECT_TRUE(m_core.changes().restoreMark());
+        EXPECT_EQ(m_mline->scale(), 6.0);
         m_mline->setScale(7.0);
     }));
     EXPECT_THAT(scales, testing::ElementsAre(3.0, 2.0, 1.0, 1.0));
@@ -149,6 +156,30 @@ TEST_F(UndoSteps, aRunningCommandRollsBackFromMarkToMark) {
     EXPECT_EQ(m_mline->scale(), 1.0);
     m_core.changes().redo();
     EXPECT_EQ(m_mline->scale(), 7.0);
+}
+
+TEST_F(UndoSteps, whatACommandRolledBackComesAgainAfterIt) {
+    const auto rollTwoBack = [this] {
+        for (const double scale : {2.0, 3.0, 4.0}) {
+            m_core.changes().mark();
+            m_mline->setScale(scale);
+        }
+        m_core.changes().rollBackToMark();
+        m_core.changes().rollBackToMark();
+    };
+    EXPECT_TRUE(command(rollTwoBack));
+    for (const double scale : {3.0, 4.0}) {
+        EXPECT_TRUE(m_core.changes().redo());
+        EXPECT_EQ(m_mline->scale(), scale);
+    }
+    EXPECT_FALSE(m_core.changes().redo());
+    m_core.changes().undo();
+    EXPECT_FALSE(command([&] {
+        rollTwoBack();
+        m_core.changes().rollBackToMark();
+    }));
+    EXPECT_TRUE(m_core.changes().redo()); // the older one
+    EXPECT_EQ(m_mline->scale(), 4.0);
 }
 
 TEST_F(UndoSteps, haveANameAndACompanion) {

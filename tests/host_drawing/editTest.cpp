@@ -346,7 +346,12 @@ void editWithMarks(DrawingFile& file, std::vector<KdDbStub*>& mlines, std::mt199
         if (!changes.rollBackToMark()) {
             break;
         }
-        ASSERT_NE(std::find(atMarks.begin(), atMarks.end(), state()), atMarks.end());
+        const std::string back = state();
+        ASSERT_NE(std::find(atMarks.begin(), atMarks.end(), back), atMarks.end());
+        ASSERT_TRUE(changes.rollForward());
+        ASSERT_TRUE(sameText(state(), last));
+        ASSERT_TRUE(changes.rollBackToMark());
+        ASSERT_TRUE(sameText(state(), back));
     }
 }
 
@@ -378,7 +383,14 @@ TEST(Undo, leadsBackAndForthByteForByte) {
                 states.push_back(state());
                 ++steps;
             }
-            ASSERT_TRUE(sameText(state(), states[core.changes().undoDepth()]));
+            const std::size_t depth = core.changes().undoDepth();
+            ASSERT_TRUE(sameText(state(), states[depth]));
+            while (states.size() <= depth + core.changes().redoDepth()) {
+                // What was rolled back in the command comes again, a step for each mark.
+                core.changes().redo();
+                states.push_back(state());
+            }
+            ASSERT_NO_FATAL_FAILURE(walk(core.changes().undoDepth() - depth, &ChangeLog::undo));
             if (i % 7 == 6) {
                 ASSERT_NO_FATAL_FAILURE(walk(3, &ChangeLog::undo));
                 ASSERT_NO_FATAL_FAILURE(walk(1, &ChangeLog::redo));

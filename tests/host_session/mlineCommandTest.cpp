@@ -3,6 +3,7 @@
 #include "KdDbMlineStyle.h"
 #include "KdMLSegment.h"
 #include "ObjectTable.h"
+#include "PromptSession.h"
 #include "WellKnownObjects.h"
 #include "textCodec.h"
 
@@ -11,6 +12,7 @@
 
 namespace {
 
+using orvex::PromptSession;
 using testing::ElementsAre;
 
 std::vector<double> lineOf(const KdDbMline& mline, int vertex, int element) {
@@ -55,6 +57,34 @@ TEST_F(SessionFixture, mlineMakesNothingOfACancelOrOfOnePoint) {
         EXPECT_EQ(mlines().size(), 0U) << script;
         EXPECT_FALSE(m_script->failure()) << script;
     }
+}
+
+TEST_F(SessionFixture, mlineDropsItsLastPointsAgain) {
+    play("MLINE\n7,7\nu\n*CANCEL*\n");
+    EXPECT_EQ(PromptSession::current().lastPoint, KdGePoint3d());
+    play("MLINE\n1,1\n2,2\nUndo\nU\n0,0\n5,5\n10,0\nU\nu\n10,0\n10,10\n");
+    EXPECT_EQ(mlines().size(), 0U); // the script ends before the chain does
+    play("MLINE\n0,0\n5,5\n10,0\nU\nu\n10,0\n10,10\n20,20\nU\n\n");
+    ASSERT_EQ(mlines().size(), 1U);
+    EXPECT_EQ(mlines().front()->numVertices(), 3);
+    EXPECT_EQ(mlines().front()->vertexAt(1), (KdGePoint3d{10, 0, 0}));
+    EXPECT_EQ(PromptSession::current().lastPoint, (KdGePoint3d{10, 10, 0}));
+    play("MLINE\nU\n"); // nothing to drop
+    EXPECT_TRUE(m_script->failure());
+}
+
+TEST_F(SessionFixture, mlineListsStylesAndRefusesWhatDrawsNothing) {
+    m_printed.clear();
+    EXPECT_FALSE(play("MLINE\nST\n?\nStandard\n3,3\n3,3\n\n"));
+    EXPECT_FALSE(m_script->failure());
+    EXPECT_THAT(m_printed, testing::Contains(L"STANDARD"));
+    EXPECT_THAT(m_printed.back(), testing::HasSubstr(L"warning: all points coincide"));
+    EXPECT_EQ(mlines().size(), 0U);
+    play("MLINE\nS\n0\n0,0\n10,0\n\n");
+    EXPECT_TRUE(m_script->failure());
+    play("MLINE\nS\n-2\n0,0\n10,0\n\n");
+    ASSERT_EQ(mlines().size(), 1U);
+    EXPECT_EQ(mlines().front()->scale(), -2.0);
 }
 
 // The user's X is north, Y is west, moved to (100, 0), 7 up.

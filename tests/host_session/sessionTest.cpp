@@ -147,4 +147,38 @@ TEST_F(SessionFixture, undoTakesBackCommandsOneByOneAndSaysWhenThereAreNone) {
     EXPECT_EQ(m_printed.back(), L"There is nothing to undo.");
 }
 
+TEST_F(SessionFixture, redoBringsBackWhatUndoTookWithLastPointAndSelection) {
+    play("MLINE\n0,0\n10,0\n\nMLINE\n0,5\n10,5\n\nMOVE\n5,0.0\n\n1,1\n2,2\n");
+    const std::string bytes = m_session->drawing().bytes();
+    const auto previous = m_session->selectionMemory().previous;
+    ASSERT_EQ(previous.size(), 1U);
+    play("U\n");
+    EXPECT_EQ(PromptSession::current().lastPoint, (KdGePoint3d{10, 5, 0}));
+    EXPECT_TRUE(m_session->selectionMemory().previous.empty());
+    play("U\nZOOM\nE\nREDO\nredo\n");
+    EXPECT_EQ(m_session->drawing().bytes(), bytes);
+    EXPECT_EQ(PromptSession::current().lastPoint, (KdGePoint3d{2, 2, 0}));
+    EXPECT_EQ(m_session->selectionMemory().previous, previous);
+    m_printed.clear();
+    EXPECT_FALSE(play("REDO\n"));
+    EXPECT_EQ(m_printed.back(), L"There is nothing to redo.");
+    // What is gone isn't selected any more.
+    play("U\nU\nU\n");
+    m_session->selectionMemory().chosen = previous;
+    play("MLINE\n0,7\n10,7\n\nU\n");
+    EXPECT_TRUE(m_session->selectionMemory().chosen.empty());
+}
+
+// At other prompts U is an answer like any other.
+TEST_F(SessionFixture, undoInAScriptIsACommandNowhereElse) {
+    play("MLINE\n0,0\n10,0\n\n");
+    for (const char* script : {"ZOOM\nU\n", "ZOOM\nC\nU\n", "MOVE\nU\n", "MLINE\nS\nU\n",
+                               "-MLEDIT\nU\n", "-MLEDIT\nCC\nU\n", "MLINE\nST\nU\n"}) {
+        play(script);
+        ASSERT_TRUE(m_script->failure()) << script;
+        EXPECT_EQ(m_script->failure()->cause, FailureCause::unplayableScript);
+        EXPECT_EQ(mlines().size(), 1U) << script;
+    }
+}
+
 } // namespace

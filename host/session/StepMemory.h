@@ -1,0 +1,21 @@
+#pragma once
+
+#include "SelectionMemory.h"
+#include "UndoLog.h"
+
+namespace orvex {
+
+// LASTPOINT and the selection go back and forth with the steps of undo; of a selection only what
+// the drawing has then.
+class StepMemory final : public UndoCompanion {
+public:
+    explicit StepMemory(SelectionMemory& selection) : m_selection(selection) {}
+
+    [[nodiscard]] std::any state() const override;
+    void restore(const std::any& state) override;
+
+private:
+    SelectionMemory& m_selection;
+};
+
+} // namespace orvex
