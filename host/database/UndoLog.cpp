@@ -2,6 +2,7 @@
 
 #include "DatabaseCore.h"
 
+#include <cstddef>
 #include <utility>
 
 namespace orvex {
@@ -12,6 +13,7 @@ void UndoLog::begin(std::wstring command) {
     m_segments.clear();
     m_segments.emplace_back(m_core);
     m_rolledBack.clear();
+    m_marksMemory = 0;
 }
 
 std::any UndoLog::companionState() const {
@@ -98,8 +100,25 @@ bool UndoLog::mark() {
         joinLastSegments();
         return false;
     }
+    m_marksMemory += current().memoryUse();
+    keepMarksWithinLimit();
     m_segments.emplace_back(m_core);
     return true;
+}
+
+void UndoLog::keepMarksWithinLimit() {
+    const auto half = static_cast<std::ptrdiff_t>(m_segments.size() / 2);
+    if (m_marksMemory <= m_memoryLimit || half < 2) {
+        return;
+    }
+    for (auto each = m_segments.begin() + 1; each != m_segments.begin() + half; ++each) {
+        m_segments.front().append(std::move(*each));
+    }
+    m_segments.erase(m_segments.begin() + 1, m_segments.begin() + half);
+    m_marksMemory = 0;
+    for (const StateImages& each : m_segments) {
+        m_marksMemory += each.memoryUse();
+    }
 }
 
 bool UndoLog::rollBack() {

@@ -73,7 +73,7 @@ public:
     [[nodiscard]] bool isRestoring() const { return m_isRestoring; }
 
     // About as much memory as all steps may hold, from the next step on. The oldest go first; the
-    // latest always stays.
+    // latest always stays. The marks of a command may hold as much again, then the older half goes.
     void setMemoryLimit(std::size_t bytes) { m_memoryLimit = bytes; }
     [[nodiscard]] std::size_t droppedSteps() const { return m_dropped; }
 
@@ -94,6 +94,7 @@ private:
     [[nodiscard]] static bool isTakenBack(const StateImages& last, const StateImages& before);
     void joinLastSegments();
     void noteNews();
+    void keepMarksWithinLimit();
     void keepRolledBack();
     void keepWithinLimit();
 
@@ -106,6 +107,7 @@ private:
     std::deque<Step> m_undone; // the next one to bring again is the last
     UndoCompanion* m_companion = nullptr;
     std::size_t m_memory = 0;
+    std::size_t m_marksMemory = 0;
     std::size_t m_memoryLimit = kDefaultMemoryLimit;
     std::size_t m_dropped = 0;
     bool m_isRestoring = false;

@@ -385,7 +385,8 @@ TEST(Undo, leadsBackAndForthByteForByte) {
             }
             const std::size_t depth = core.changes().undoDepth();
             ASSERT_TRUE(sameText(state(), states[depth]));
-            while (states.size() <= depth + core.changes().redoDepth()) {
+            const std::size_t reachable = depth + core.changes().redoDepth();
+            while (states.size() <= reachable) {
                 // What was rolled back in the command comes again, a step for each mark.
                 core.changes().redo();
                 states.push_back(state());
