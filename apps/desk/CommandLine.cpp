@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace orvex {
@@ -37,18 +36,12 @@ QPlainTextEdit* makeHistory(QWidget* parent) {
 } // namespace
 
 CommandLine::CommandLine(QWidget* parent)
-    : QWidget(parent), m_history(makeHistory(this)), m_keywords(new QWidget(this)),
-      m_keywordRow(new QHBoxLayout(m_keywords)), m_prompt(new QLabel(this)),
-      m_input(new CommandInput(this)) {
+    : QWidget(parent), m_history(makeHistory(this)), m_keywords(new KeywordBar(this)),
+      m_prompt(new QLabel(this)), m_input(new CommandInput(this)) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_input->setObjectName(QStringLiteral("commandInput"));
     m_prompt->setObjectName(QStringLiteral("commandPrompt"));
     m_prompt->setTextFormat(Qt::PlainText); // a command's text is no markup
-    m_keywords->setObjectName(QStringLiteral("commandKeywords"));
-    m_keywordRow->setContentsMargins(kMargin, 0, kMargin, 0);
-    m_keywordRow->setSpacing(2);
-    m_keywordRow->addStretch();
-    m_keywords->hide();
 
     auto* const field = new QWidget(this);
     field->setBackgroundRole(QPalette::Base);
@@ -68,6 +61,7 @@ CommandLine::CommandLine(QWidget* parent)
     setFocusProxy(m_input);
     m_history->installEventFilter(this);
     m_history->viewport()->installEventFilter(this);
+    connect(m_keywords, &KeywordBar::chosen, this, &CommandLine::entered);
     connect(m_input, &CommandInput::entered, this, &CommandLine::entered);
     connect(m_input, &CommandInput::cancelled, this, &CommandLine::cancelled);
     connect(m_input, &CommandInput::textChanged, this, &CommandLine::edited);
@@ -79,23 +73,7 @@ void CommandLine::setQuestion(const Question& question) {
     m_input->setBlankKey(question.blank);
     m_input->setTakesLengths(question.takesLengths);
     m_input->setCompletions(question.completions);
-    showKeywords(question.keywords);
-}
-
-void CommandLine::showKeywords(const QStringList& keywords) {
-    for (QToolButton* const old : m_keywords->findChildren<QToolButton*>()) {
-        old->hide();
-        old->deleteLater(); // it may be the one that was clicked
-    }
-    for (const QString& keyword : keywords) {
-        auto* const button = new QToolButton(m_keywords);
-        button->setText(QString(keyword).replace('&', QLatin1String("&&")));
-        button->setObjectName(QStringLiteral("keyword") + keyword);
-        button->setFocusPolicy(Qt::NoFocus);
-        connect(button, &QToolButton::clicked, this, [this, keyword] { emit entered(keyword); });
-        m_keywordRow->insertWidget(m_keywordRow->count() - 1, button);
-    }
-    m_keywords->setVisible(!keywords.isEmpty());
+    m_keywords->setKeywords(question.keywords);
 }
 
 void CommandLine::print(const QString& line) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "CommandInput.h"
+#include "KeywordBar.h"
 
 #include <QKeyEvent>
 #include <QWidget>
 
-class QHBoxLayout;
+#include <vector>
+
 class QLabel;
 class QPlainTextEdit;
 
@@ -20,7 +22,7 @@ public:
 
     struct Question {
         QString text;
-        QStringList keywords;    // shown as buttons
+        std::vector<KeywordButton> keywords;
         QStringList completions; // what the field offers
         BlankKey blank = BlankKey::enters;
         bool takesLengths = false; // Ctrl with an arrow gives the one typed a direction
@@ -49,11 +51,9 @@ protected:
 
 private:
     void showLatest();
-    void showKeywords(const QStringList& keywords);
 
     QPlainTextEdit* m_history;
-    QWidget* m_keywords;
-    QHBoxLayout* m_keywordRow;
+    KeywordBar* m_keywords;
     QLabel* m_prompt;
     CommandInput* m_input;
 };

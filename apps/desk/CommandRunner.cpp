@@ -12,13 +12,13 @@
 
 namespace orvex {
 
-void CommandRunner::start(const QString& name, const QStringList& answers) {
-    post([this, name, answers] { run(name, answers); });
+void CommandRunner::start(const QString& name, const QStringList& answers, Repeat repeat) {
+    post([this, name, answers, repeat] { run(name, answers, repeat); });
 }
 
 void CommandRunner::repeat() {
-    if (!m_last.isEmpty()) {
-        start(m_last);
+    if (!m_last.name.isEmpty()) {
+        start(m_last.name, m_last.answers);
     }
 }
 
@@ -44,7 +44,7 @@ void CommandRunner::work() {
     m_working = false;
 }
 
-void CommandRunner::run(const QString& name, const QStringList& answers) {
+void CommandRunner::run(const QString& name, const QStringList& answers, Repeat repeat) {
     if (m_session == nullptr) {
         return;
     }
@@ -52,13 +52,15 @@ void CommandRunner::run(const QString& name, const QStringList& answers) {
     if (m_task) {
         return; // something else was started meanwhile
     }
+    m_running = {name, {}};
     emit commandStarted(name);
     m_prompts.answerAhead(answers);
     const auto failure = m_session->run(toWide(name));
     m_prompts.answerAhead({});
-    if (!failure) {
-        m_last = name;
-    } else {
+    if (!failure && repeat == Repeat::itself) {
+        m_last = m_running;
+    }
+    if (failure) {
         m_prompts.print(widen(messageOf(*failure)));
     }
     emit commandEnded();

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QStringList>
 
+#include <cstdint>
 #include <functional>
 
 namespace orvex {
@@ -19,13 +20,19 @@ class CommandRunner final : public QObject {
 public:
     explicit CommandRunner(DeskPrompts& prompts) : m_prompts(prompts) {}
 
+    // What Enter repeats after a command: that, or still the one before.
+    enum class Repeat : std::uint8_t { itself, before };
+
     // Where commands run; not owned. Null: they don't.
     void setSession(Session* session) { m_session = session; }
 
     // A command's name, and what is typed at its first prompts.
-    void start(const QString& name, const QStringList& answers = {});
-    // The last command once more.
+    void start(const QString& name, const QStringList& answers = {},
+               Repeat repeat = Repeat::itself);
+    // The last command once more, or what it said is to be repeated.
     void repeat();
+    // What is to be repeated after the command that runs.
+    void repeatAs(const QString& name, const QStringList& answers) { m_running = {name, answers}; }
     // Something else that mustn't run during a command. Of what is waiting the latest wins.
     void post(std::function<void()> task);
 
@@ -37,12 +44,17 @@ signals:
 
 private:
     void work();
-    void run(const QString& name, const QStringList& answers);
+    void run(const QString& name, const QStringList& answers, Repeat repeat);
     void waitForPickIndex();
 
     DeskPrompts& m_prompts;
     Session* m_session = nullptr;
-    QString m_last;
+    struct Repeatable {
+        QString name;
+        QStringList answers;
+    };
+    Repeatable m_running;
+    Repeatable m_last;
     std::function<void()> m_task;
     bool m_working = false;
 };

@@ -1,6 +1,5 @@
 #include "DeskMenus.h"
 
-#include "editTools.h"
 #include "strokeIcon.h"
 
 #include <QAction>
@@ -52,21 +51,6 @@ void onTriggered(QMainWindow& window, QAction& action, const DeskMenus::Starter&
     QObject::connect(&action, &QAction::triggered, &window, [act, start] { start(act); });
 }
 
-QMenu* makeToolMenu(QMainWindow& window, const DeskMenus::Starter& start) {
-    auto* const menu = new QMenu(&window);
-    for (const EditTool& tool : editTools()) {
-        if (tool.startsGroup) {
-            menu->addSeparator();
-        }
-        const QString name = QStringLiteral("tool") + QLatin1String(tool.keyword);
-        QAction* const action =
-            addAction(window, *menu, name, QCoreApplication::translate("editTools", tool.text),
-                      QCoreApplication::translate("editTools", tool.help));
-        onTriggered(window, *action, start, TypedCommand{"-MLEDIT", tool.keyword});
-    }
-    return menu;
-}
-
 QAction* makeAction(QMainWindow& window, QMenu& menu, const DeskAction& row) {
     QAction* const action =
         addAction(window, menu, QLatin1String(row.name), shown(row.text), shown(row.help));
@@ -84,7 +68,8 @@ QAction* makeAction(QMainWindow& window, QMenu& menu, const DeskAction& row) {
 } // namespace
 
 DeskMenus::DeskMenus(QMainWindow& window, const Starter& start)
-    : recent(new QMenu(&window)), tools(window.addToolBar(shown(kToolBarTitle))) {
+    : recent(new QMenu(&window)), tools(window.addToolBar(shown(kToolBarTitle))),
+      editTools(window, start) {
     std::map<DeskMenu, QMenu*> menus = makeMenus(*window.menuBar());
     view = menus[DeskMenu::view];
     tools->setObjectName(QStringLiteral("toolBar"));
@@ -97,7 +82,7 @@ DeskMenus::DeskMenus(QMainWindow& window, const Starter& start)
         }
         QAction* const action = makeAction(window, menu, row);
         if (const auto* const submenu = std::get_if<Submenu>(&row.act)) {
-            action->setMenu(*submenu == Submenu::recent ? recent : makeToolMenu(window, start));
+            action->setMenu(*submenu == Submenu::recent ? recent : editTools.menu);
         } else {
             onTriggered(window, *action, start, row.act);
         }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "deskActions.h"
+#include "ToolBar.h"
 
 #include <QMainWindow>
 
@@ -12,7 +12,7 @@ class QToolBar;
 
 namespace orvex {
 
-// The menu bar and the tool bar of a window, made of the tables of actions and tools.
+// The menu bar and the tool bars of a window, made of the tables of actions and tools.
 struct DeskMenus {
     // Called when the user chooses an entry.
     using Starter = std::function<void(const DeskAct&)>;
@@ -21,6 +21,7 @@ struct DeskMenus {
     QMenu* recent = nullptr;
     QMenu* view = nullptr;
     QToolBar* tools = nullptr;
+    ToolBar editTools;
 };
 
 } // namespace orvex

@@ -2,6 +2,7 @@
 
 #include "blanks.h"
 #include "clickedPoint.h"
+#include "editTools.h"
 #include "fileQuestion.h"
 #include "qtWide.h"
 #include "typedAnswer.h"
@@ -29,6 +30,14 @@ const PromptRequest* DeskPrompts::request() const {
 }
 
 PromptAnswer DeskPrompts::ask(const PromptRequest& request) {
+    PromptAnswer answer = answerTo(request);
+    if (answer.kind == PromptAnswer::Kind::keyword && isToolQuestion(request)) {
+        emit toolChosen(toQt(answer.keyword));
+    }
+    return answer;
+}
+
+PromptAnswer DeskPrompts::answerTo(const PromptRequest& request) {
     // Within a question nobody can ask another one.
     if (m_cancelsAll || m_loop != nullptr) {
         return cancelled();

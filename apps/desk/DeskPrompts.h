@@ -62,8 +62,10 @@ signals:
     void printed(const QString& line);
     // A typed coordinate is broken at the character with this index; the user was notified.
     void broken(const QString& typed, int place);
+    void toolChosen(const QString& keyword); // where the module asked which one
 
 private:
+    PromptAnswer answerTo(const PromptRequest& request);
     // Nothing for text that fits no question; the user is notified.
     std::optional<PromptAnswer> understand(const PromptRequest& request, const QString& typed);
     void finish(PromptAnswer answer);

@@ -201,7 +201,8 @@ void DrawBar::choose(const Setting& setting, const QString& typed, const QString
     if (isDrawingAsked()) {
         m_prompts.answerLines({QLatin1String(setting.keyword), typed});
     } else if (m_running.isEmpty()) {
-        m_runner.start(QStringLiteral("SETVAR"), {QLatin1String(setting.variable), value});
+        m_runner.start(QStringLiteral("SETVAR"), {QLatin1String(setting.variable), value},
+                       CommandRunner::Repeat::before);
     }
 }
 

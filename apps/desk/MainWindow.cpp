@@ -102,6 +102,7 @@ void MainWindow::makeCommandDock() {
     resizeDocks({dock}, {kFirstCommandHeight}, Qt::Vertical);
     m_menus.view->addSeparator();
     m_menus.view->addAction(m_menus.tools->toggleViewAction());
+    m_menus.view->addAction(m_menus.editTools.bar->toggleViewAction());
     m_menus.view->addAction(m_drawBar->bar()->toggleViewAction());
     m_menus.view->addAction(m_join->toggleAction());
 }
@@ -116,6 +117,9 @@ void MainWindow::connectCommandLine() {
     connect(&m_prompts, &DeskPrompts::answered, this, &MainWindow::showIdle);
     connect(&m_runner, &CommandRunner::commandStarted, this,
             [this](const QString& name) { m_commandLine->print(tr("Command: %1").arg(name)); });
+    connect(&m_prompts, &DeskPrompts::toolChosen, &m_runner, [this](const QString& keyword) {
+        m_runner.repeatAs(QStringLiteral("-MLEDIT"), {keyword});
+    });
     connect(&m_runner, &CommandRunner::commandEnded, this, [this] {
         m_canvas->setSelected({});
         m_canvas->viewChanged();
@@ -297,8 +301,8 @@ void MainWindow::showQuestion() {
     const PromptRequest& request = *m_prompts.request();
     CommandLine::Question question;
     question.text = toQt(request.text).trimmed();
-    question.keywords = toQt(request.keywords);
-    question.completions = question.keywords + toQt(request.completions);
+    question.keywords = keywordButtons(request, palette());
+    question.completions = toQt(request.keywords) + toQt(request.completions);
     const bool isText = request.kind == PromptKind::text;
     const bool isPick = request.kind == PromptKind::entity || request.kind == PromptKind::selection;
     question.blank = isText   ? BlankKey::types

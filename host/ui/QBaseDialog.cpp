@@ -62,13 +62,24 @@ void QBaseDialog::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
         // A key held down since before the dialog opened confirms nothing.
-        if (!event->isAutoRepeat() && defaultButton(*this) != nullptr) {
-            OnOK();
+        if (!event->isAutoRepeat()) {
+            enter();
         }
         break;
     default:
         QDialog::keyPressEvent(event);
         break;
+    }
+}
+
+// By the default button the logic learns of it as of any Enter.
+void QBaseDialog::enter() {
+    QPushButton* const standard = defaultButton(*this);
+    auto* const focused = qobject_cast<QPushButton*>(focusWidget());
+    if (focused != nullptr && focused != standard && focused->isEnabled()) {
+        focused->click();
+    } else if (standard != nullptr) {
+        OnOK();
     }
 }
 

@@ -64,7 +64,7 @@ int CDialog::DoModal() {
         return kRefused;
     }
     const Run run(state);
-    // Enter belongs to the default button alone, wherever the focus is.
+    // The default button is one and the same all the time; QBaseDialog says what Enter presses.
     for (auto* const button : view->findChildren<QPushButton*>()) {
         button->setAutoDefault(false);
     }

@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QSignalSpy>
 #include <QWindow>
 
 namespace {
@@ -84,6 +85,23 @@ TEST(BaseDialog, enterNeedsAnEnabledDefaultButton) {
         });
         EXPECT_EQ(dialog.clicks, each.clicks) << each.isDefault << each.enabled;
     }
+}
+
+TEST(BaseDialog, enterPressesTheButtonThatHasTheFocus) {
+    Dialog dialog;
+    dialog.button->setDefault(true);
+    QPushButton other(&dialog);
+    other.setAutoDefault(false);
+    QSignalSpy pressed(&other, &QPushButton::clicked);
+    dialog.runWith([&] {
+        other.setFocus();
+        QTest::keyClick(&other, Qt::Key_Return);
+        other.setEnabled(false); // the focus goes on, Enter to the default button again
+        QTest::keyClick(&dialog, Qt::Key_Enter);
+        dialog.reject();
+    });
+    EXPECT_EQ(pressed.count(), 1);
+    EXPECT_EQ(dialog.clicks, 1);
 }
 
 TEST(BaseDialog, staysAboveTheWindowItWasOpenedFrom) {

@@ -10,7 +10,8 @@ class QBaseDialog : public QDialog {
 public:
     explicit QBaseDialog(QWidget* parent = nullptr);
 
-    // Called on Enter, when there is an enabled default button. Here: clicks that button, so a
+    // Called on Enter, when there is an enabled default button and no other button has the focus,
+    // which Enter would press. Here: clicks that button, so a
     // dialog is never accepted past a disabled one.
     virtual void OnOK();
     // Called by Escape, the window's close control and reject(). Here: ends the loop at once, with
@@ -22,4 +23,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+
+private:
+    void enter();
 };

@@ -1,0 +1,85 @@
+#include "KeywordBar.h"
+
+#include "FlowLayout.h"
+#include "PromptSource.h"
+#include "editTools.h"
+#include "qtWide.h"
+#include "strokeIcon.h"
+
+#include <QCoreApplication>
+#include <QTextDocument>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace orvex {
+
+namespace {
+
+constexpr int kMargin = 4; // pixels
+constexpr int kSpacing = 2;
+
+// The letters that will do, as the list's capitals say: "ST" of "STyle".
+QString shortestOf(const QString& keyword) {
+    QString capitals;
+    std::copy_if(keyword.begin(), keyword.end(), std::back_inserter(capitals),
+                 [](QChar each) { return !each.isLower(); });
+    return capitals.isEmpty() ? keyword : capitals;
+}
+
+} // namespace
+
+std::vector<KeywordButton> keywordButtons(const PromptRequest& request, const QPalette& palette) {
+    std::vector<KeywordButton> buttons;
+    const bool isTools = isToolQuestion(request);
+    for (const std::wstring& each : request.keywords) {
+        const QString keyword = toQt(each);
+        const EditTool* const tool = isTools ? findEditTool(keyword) : nullptr;
+        if (tool != nullptr) {
+            buttons.push_back({keyword, keyword + ' ' + toolName(*tool), toolHelp(*tool),
+                               strokeIcon(tool->picture, palette)});
+        } else {
+            buttons.push_back(
+                {keyword, keyword,
+                 KeywordBar::tr("Answers %1; typed, %2 will do").arg(keyword, shortestOf(keyword)),
+                 QIcon()});
+        }
+    }
+    return buttons;
+}
+
+KeywordBar::KeywordBar(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("commandKeywords"));
+    auto* const flow = new FlowLayout(this, kSpacing);
+    flow->setContentsMargins(kMargin, 0, kMargin, 0);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    hide();
+}
+
+void KeywordBar::setKeywords(const std::vector<KeywordButton>& keywords) {
+    for (QToolButton* const old : findChildren<QToolButton*>()) {
+        old->hide();
+        old->setObjectName(QString());
+        old->deleteLater(); // it may be the one that was clicked
+    }
+    for (const KeywordButton& each : keywords) {
+        auto* const button = new QToolButton(this);
+        button->setText(QString(each.text).replace('&', QLatin1String("&&")));
+        button->setToolTip(Qt::convertFromPlainText(each.hint));
+        if (!each.icon.isNull()) {
+            button->setIcon(each.icon);
+            button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        }
+        button->setObjectName(QStringLiteral("keyword") + each.keyword);
+        button->setFocusPolicy(Qt::NoFocus);
+        connect(button, &QToolButton::clicked, this,
+                [this, keyword = each.keyword] { emit chosen(keyword); });
+        layout()->addWidget(button);
+    }
+    setVisible(!keywords.empty());
+    updateGeometry();
+}
+
+} // namespace orvex
