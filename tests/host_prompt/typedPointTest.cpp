@@ -17,8 +17,10 @@ const KdGePoint3d kLast{10, 20, 5};
 constexpr double kNo = 1e-9; // stands for no handle
 
 struct PointCase {
-    const wchar_t* text;
-    double x, y, z;
+    const wchar_t* text = L"";
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
     double handle = kNo;
 };
 
