@@ -15,6 +15,7 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
 set(ORVEX_INSTALL_LIB lib/orvex)
 set(ORVEX_INSTALL_DATA share/orvex)
+set(ORVEX_INSTALL_PYTHON lib/python3/dist-packages)
 
 # Relative and the same in the build tree and in an installation, so that either may be moved as a whole.
 set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)

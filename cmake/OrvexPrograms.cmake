@@ -9,6 +9,9 @@
 #   orvex_data(<file>... [FOLDER <folder>])
 #       Copies files of this folder to bin/<folder>, and installs them likewise.
 
+#   orvex_compressed(<file> <destination> [<name>])
+#       Installs a file compressed by gzip, under its name with .gz or the one given. For manual pages and changelogs.
+
 if(orvex_sanitizers)
     add_library(orvex_sanitizer_defaults OBJECT ${PROJECT_SOURCE_DIR}/tests/support/sanitizerDefaults.cpp)
 endif()
@@ -57,6 +60,22 @@ function(orvex_data)
         configure_file(${name} ${ORVEX_BIN_DIR}/${arg_FOLDER}/${leaf} COPYONLY)
         install(FILES ${name} DESTINATION ${ORVEX_INSTALL_DATA}/${arg_FOLDER})
     endforeach()
+endfunction()
+
+function(orvex_compressed file destination)
+    cmake_path(ABSOLUTE_PATH file)
+    cmake_path(GET file FILENAME name)
+    string(APPEND name .gz)
+    if(ARGC GREATER 2)
+        set(name ${ARGV2})
+    endif()
+    set(result ${CMAKE_CURRENT_BINARY_DIR}/${name})
+    add_custom_command(OUTPUT ${result}
+        COMMAND gzip --best --no-name --stdout ${file} > ${result}
+        DEPENDS ${file}
+        COMMENT "Compressing ${name}" VERBATIM)
+    add_custom_target(compressed_${name} ALL DEPENDS ${result})
+    install(FILES ${result} DESTINATION ${destination})
 endfunction()
 
 # The module and the resource libraries are opened at run time; whoever builds a program or a test wants them too.

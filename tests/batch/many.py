@@ -127,7 +127,7 @@ class Many:
     def pipes(self):
         drawing = (self.folder / "a.dxf").read_bytes()
         binary = self.call("convert", "-", "--to", "binary", "--output", "-", data=drawing)
-        self.check("binary", binary.returncode == 0 and binary.stdout.startswith(b"AutoCAD Binary DXF\r\n\x1a\0"), binary.stderr)
+        self.check("binary", binary.returncode == 0 and b"\r\n\x1a\0" in binary.stdout[:30], binary.stderr)
         text = self.call("convert", "-", "--to", "text", "--output", "-", data=binary.stdout).stdout
         alone = self.call("list", "a.dxf", "--json").stdout
         for form in (drawing, binary.stdout, text):
