@@ -92,8 +92,10 @@ std::optional<Failure> saveDrawing(DrawingFile& drawing, const std::string& outp
         return failure;
     }
     AtomicFile target = resultFile(output);
-    return withMemory(FailureCause::unwritableOutput, target.path(),
-                      [&] { return drawing.save(target); });
+    auto failure = withMemory(FailureCause::unwritableOutput, target.path(),
+                              [&] { return drawing.save(target); });
+    printWarnings(target.path(), drawing.savingWarnings());
+    return failure;
 }
 
 std::optional<Failure> flushOutput() {

@@ -10,8 +10,8 @@ std::string Verb::outputEnding(const std::string& drawing) const {
 
 std::vector<std::unique_ptr<Verb>> makeVerbs() {
     std::vector<std::unique_ptr<Verb>> verbs;
-    for (const auto make :
-         {makeRunVerb, makeShowVerb, makeListVerb, makeJoinVerb, makeAuditVerb, makeConvertVerb}) {
+    for (const auto make : {makeRunVerb, makeShowVerb, makeListVerb, makeJoinVerb, makeAuditVerb,
+                            makeConvertVerb, makeExportVerb}) {
         verbs.push_back(make());
     }
     return verbs;

@@ -13,6 +13,7 @@ std::unique_ptr<Verb> makeListVerb();
 std::unique_ptr<Verb> makeJoinVerb();
 std::unique_ptr<Verb> makeAuditVerb();
 std::unique_ptr<Verb> makeConvertVerb();
+std::unique_ptr<Verb> makeExportVerb();
 
 // All of them, as --help lists them.
 std::vector<std::unique_ptr<Verb>> makeVerbs();

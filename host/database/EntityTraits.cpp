@@ -9,8 +9,8 @@ namespace orvex {
 
 bool sameTraits(const EntityTraits& a, const EntityTraits& b) {
     return sameBits(a.linetypeScale, b.linetypeScale) && a.layer == b.layer &&
-           a.linetype == b.linetype && a.color == b.color && a.visible == b.visible &&
-           a.inPaperSpace == b.inPaperSpace;
+           a.linetype == b.linetype && a.lineweight == b.lineweight && a.color == b.color &&
+           a.visible == b.visible && a.inPaperSpace == b.inPaperSpace;
 }
 
 std::shared_ptr<const EntityTraits> shareTraits(const EntityTraits& traits) {

@@ -7,12 +7,20 @@
 
 namespace orvex {
 
+// Line weights are hundredths of millimetres on paper, or one of these.
+enum Lineweight : int {
+    kLineweightByLayer = -1,
+    kLineweightByBlock = -2,
+    kLineweightDefault = -3,
+};
+
 // What all entities have. Most entities of a drawing share a few such values.
 struct EntityTraits {
     std::wstring layer = L"0";
     std::wstring linetype = L"ByLayer";
     KdCmColor color;
     double linetypeScale = 1.0;
+    int lineweight = kLineweightByLayer;
     bool visible = true;
     bool inPaperSpace = false;
 

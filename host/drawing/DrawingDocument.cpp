@@ -73,6 +73,28 @@ KdDbStub* DrawingDocument::findObject(std::uint64_t handle) const {
     return found != objects.end() ? found->second : nullptr;
 }
 
+const ObjectRecords& DrawingDocument::objectRecords() const {
+    if (m_objectRecords) {
+        return *m_objectRecords;
+    }
+    ObjectRecords& found = m_objectRecords.emplace();
+    for (const RecordRun& run : sections) {
+        if (run.name != "OBJECTS") {
+            continue;
+        }
+        for (std::uint32_t i = run.begin; i < run.end; ++i) {
+            const Record& record = cut.records[i];
+            found.byHandle.try_emplace(record.handle, i);
+            if (record.kind == RecordKind::group) {
+                found.groups.push_back(i);
+            } else if (record.kind == RecordKind::sortTable) {
+                found.sortTables.push_back(i);
+            }
+        }
+    }
+    return found;
+}
+
 std::unique_ptr<KdDbObject> DrawingDocument::load(const KdDbStub& stub) {
     const RecordContext here = context(*stub.database);
     const RecordSpan place = span(stub.record);

@@ -32,6 +32,13 @@ struct RecordRun {
     BlockEntities* block = nullptr;
 };
 
+// The records of OBJECTS that may name entities, and all of them by handle.
+struct ObjectRecords {
+    std::vector<std::uint32_t> groups;
+    std::vector<std::uint32_t> sortTables;
+    std::unordered_map<std::uint64_t, std::uint32_t> byHandle;
+};
+
 // The file's bytes, cut into records, with what they stand for. Made once by DrawingReader; never
 // changed by an edit, so that what is saved always starts from the bytes that were opened.
 class DrawingDocument final : public ObjectSource {
@@ -66,6 +73,9 @@ public:
     [[nodiscard]] const RecordRun* findTable(std::string_view kind) const;
     [[nodiscard]] KdDbStub* findObject(std::uint64_t handle) const;
 
+    // Found at the first question.
+    [[nodiscard]] const ObjectRecords& objectRecords() const;
+
     [[nodiscard]] std::unique_ptr<KdDbObject> load(const KdDbStub& stub) override;
     [[nodiscard]] EntityShape shapeOf(const KdDbStub& stub) const override;
     [[nodiscard]] std::optional<KdDbObjectId> styleOf(const KdDbStub& stub) const override;
@@ -75,6 +85,7 @@ private:
                                                              const RecordSpan& span) const;
     // Of the named styles; looked up at the first question, when all objects are known.
     mutable std::vector<KdDbObjectId> m_namedStyles;
+    mutable std::optional<ObjectRecords> m_objectRecords;
     MlineParser m_parser; // lends its memory to one multiline after the other
 };
 

@@ -4,6 +4,7 @@
 #include "BinaryDrawing.h"
 #include "DatabaseCore.h"
 #include "DrawingDocument.h"
+#include "DrawingExport.h"
 #include "DrawingReader.h"
 #include "DrawingWriter.h"
 #include "ObjectTable.h"
@@ -97,8 +98,12 @@ const std::string& DrawingFile::openedBytes() const {
     return m_binary != nullptr ? m_binary->bytes() : m_document->bytes;
 }
 
-Result<std::vector<FileEdit>> DrawingFile::edits() {
-    std::vector<FileEdit> ofText = collectEdits(*m_document, m_database->core());
+Result<std::vector<FileEdit>> DrawingFile::edits(std::vector<DrawingWarning>& warnings) {
+    warnings.clear();
+    return inOpenedForm(collectEdits(*m_document, m_database->core(), &warnings));
+}
+
+Result<std::vector<FileEdit>> DrawingFile::inOpenedForm(std::vector<FileEdit> ofText) {
     if (m_binary == nullptr) {
         return ofText;
     }
@@ -111,7 +116,17 @@ std::optional<Failure> DrawingFile::save(const std::string& path) {
 }
 
 std::optional<Failure> DrawingFile::save(AtomicFile& target) {
-    const auto changes = edits();
+    return write(target, edits(m_savingWarnings));
+}
+
+std::optional<Failure> DrawingFile::saveExported(AtomicFile& target, const MlineExport& how) {
+    m_savingWarnings.clear();
+    return write(target,
+                 inOpenedForm(exportEdits(*m_document, m_database->core(), how, m_savingWarnings)));
+}
+
+std::optional<Failure> DrawingFile::write(AtomicFile& target,
+                                          const Result<std::vector<FileEdit>>& changes) {
     if (!changes) {
         Failure failure = changes.failure();
         failure.file = target.path();
@@ -129,7 +144,8 @@ std::optional<Failure> DrawingFile::save(AtomicFile& target) {
 }
 
 std::string DrawingFile::bytes() {
-    const auto changes = edits();
+    std::vector<DrawingWarning> warnings;
+    const auto changes = edits(warnings);
     std::string result;
     if (!changes) {
         return result;

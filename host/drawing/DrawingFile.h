@@ -16,6 +16,7 @@ class AtomicFile;
 class BinaryDrawing;   // the bytes of a file in the binary form
 class DrawingDocument; // the file's bytes and their table of records
 struct FileEdit;
+struct MlineExport;
 
 // Something odd in a file that opens all the same.
 struct DrawingWarning {
@@ -50,6 +51,13 @@ public:
     // no room for are a failure.
     [[nodiscard]] std::optional<Failure> save(const std::string& path);
     [[nodiscard]] std::optional<Failure> save(AtomicFile& target); // not open yet
+    // What the last save had to leave as it was although it isn't right any more.
+    [[nodiscard]] const std::vector<DrawingWarning>& savingWarnings() const {
+        return m_savingWarnings;
+    }
+    // Writes the drawing as it was opened, with plain entities for its multilines. Saved like by
+    // save.
+    [[nodiscard]] std::optional<Failure> saveExported(AtomicFile& target, const MlineExport& how);
     // The bytes that save would write; none when it would fail.
     [[nodiscard]] std::string bytes();
     // Distinguishes contents: while it is the same, save would write the same bytes. Costs nothing
@@ -58,10 +66,14 @@ public:
 
 private:
     DrawingFile();
-    [[nodiscard]] Result<std::vector<FileEdit>> edits();
+    [[nodiscard]] Result<std::vector<FileEdit>> edits(std::vector<DrawingWarning>& warnings);
+    [[nodiscard]] Result<std::vector<FileEdit>> inOpenedForm(std::vector<FileEdit> ofText);
+    [[nodiscard]] std::optional<Failure> write(AtomicFile& target,
+                                               const Result<std::vector<FileEdit>>& changes);
     [[nodiscard]] const std::string& openedBytes() const;
 
     std::vector<DrawingWarning> m_warnings;
+    std::vector<DrawingWarning> m_savingWarnings;
     std::unique_ptr<BinaryDrawing> m_binary; // null for a file in the text form
     std::shared_ptr<DrawingDocument> m_document;
     std::unique_ptr<KdDbDatabase> m_database;

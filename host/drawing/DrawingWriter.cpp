@@ -5,12 +5,15 @@
 #include "DatabaseCore.h"
 #include "DictionaryRecord.h"
 #include "FileLayout.h"
+#include "GoneReferences.h"
 #include "HeaderRecord.h"
 #include "KdDbDictionary.h"
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineRecord.h"
 #include "ObjectTable.h"
+#include "PlainEntity.h"
+#include "PlainRecord.h"
 #include "StyleRecord.h"
 #include "TableRecords.h"
 #include "WellKnownObjects.h"
@@ -40,10 +43,10 @@ const Content* contentOf(const KdDbStub& stub) {
 class DrawingWriter {
 public:
     DrawingWriter(const DrawingDocument& document, DatabaseCore& core)
-        : m_document(document), m_core(core), m_context(document.context(core)),
-          m_layout(document) {}
+        : m_document(document), m_core(core), m_context(document.context(core)), m_layout(document),
+          m_gone(document, core) {}
 
-    std::vector<FileEdit> run();
+    std::vector<FileEdit> run(std::vector<DrawingWarning>& warnings);
 
 private:
     void collect(KdDbStub& stub);
@@ -58,6 +61,7 @@ private:
     void add(KdDbStub& stub);
     void requireDictionary(KdDbStub* stub);
     void requireMline(const MlineContent& content);
+    void requireTraits(const EntityTraits* traits);
     void requireStyle(const MlineStyleContent& content);
     void requireTable(KdDbStub* stub);
 
@@ -75,6 +79,7 @@ private:
     DatabaseCore& m_core;
     RecordContext m_context;
     FileLayout m_layout;
+    GoneReferences m_gone;
     std::vector<KdDbStub*> m_new;                // in the order in which they were met
     std::unordered_set<const KdDbStub*> m_known; // those and the dictionaries below
     std::vector<KdDbStub*> m_dictionaries;       // that the file has and that may change
@@ -82,7 +87,7 @@ private:
     VariableChanges m_variables;
 };
 
-std::vector<FileEdit> DrawingWriter::run() {
+std::vector<FileEdit> DrawingWriter::run(std::vector<DrawingWarning>& warnings) {
     for (KdDbStub* const stub : m_core.changes().changedStubs()) {
         collect(*stub);
     }
@@ -93,6 +98,7 @@ std::vector<FileEdit> DrawingWriter::run() {
     writeEntities();
     writeObjects();
     writeHeader();
+    m_gone.settle(m_layout, warnings);
     return m_layout.takeEdits();
 }
 
@@ -150,6 +156,8 @@ void DrawingWriter::drop(const KdDbStub& stub) {
         {records.begin(stub.record), records.begin(records.skipParts(stub.record + 1))}, {});
     if (stub.kind == ObjectKind::layer || stub.kind == ObjectKind::linetype) {
         m_droppedTableRecords.push_back(&stub);
+    } else if (stub.kind == ObjectKind::mline || stub.kind == ObjectKind::entity) {
+        m_gone.note(stub.record);
     }
 }
 
@@ -177,6 +185,12 @@ void DrawingWriter::require(KdDbStub* stub) {
         add(*stub);
         if (const auto* const content = contentOf<MlineContent>(*stub)) {
             requireMline(*content);
+        }
+        break;
+    case ObjectKind::entity:
+        if (const auto* const content = contentOf<PlainContent>(*stub)) {
+            add(*stub);
+            requireTraits(content->traits.get());
         }
         break;
     case ObjectKind::mlineStyle:
@@ -236,9 +250,13 @@ void DrawingWriter::requireDictionary(KdDbStub* stub) {
 
 void DrawingWriter::requireMline(const MlineContent& content) {
     require(content.style.stub());
-    if (content.traits != nullptr) {
-        require(m_core.wellKnown().findLayer(content.traits->layer));
-        require(m_core.wellKnown().findLinetype(content.traits->linetype));
+    requireTraits(content.traits.get());
+}
+
+void DrawingWriter::requireTraits(const EntityTraits* traits) {
+    if (traits != nullptr) {
+        require(m_core.wellKnown().findLayer(traits->layer));
+        require(m_core.wellKnown().findLinetype(traits->linetype));
     }
 }
 
@@ -333,15 +351,21 @@ void DrawingWriter::writeTables() {
 
 void DrawingWriter::writeEntities() {
     for (KdDbStub* const stub : m_new) {
-        const auto* const content = contentOf<MlineContent>(*stub);
-        BlockEntities* const block = m_core.blocks().blockOf(*stub);
-        if (stub->kind != ObjectKind::mline || content == nullptr || block == nullptr) {
+        const auto* const mline = contentOf<MlineContent>(*stub);
+        const auto* const plain = contentOf<PlainContent>(*stub);
+        if (mline == nullptr && plain == nullptr) {
             continue;
         }
-        TagText text(m_layout.formatOfBlock(*block));
-        writeMline(text, m_context, *content, stub->handle, ownerHandle(block->record),
-                   m_layout.isActivePaperSpace(*block));
-        m_layout.addEntity(*block, text.text());
+        BlockEntities& block = *m_core.blocks().blockOf(*stub);
+        const EntityPlace place{stub->handle, ownerHandle(block.record),
+                                m_layout.isActivePaperSpace(block)};
+        TagText text(m_layout.formatOfBlock(block));
+        if (mline != nullptr) {
+            writeMline(text, m_context, *mline, place);
+        } else {
+            writePlain(text, m_context, *plain, place);
+        }
+        m_layout.addEntity(block, text.text());
     }
 }
 
@@ -378,8 +402,10 @@ void DrawingWriter::writeHeader() {
 
 } // namespace
 
-std::vector<FileEdit> collectEdits(const DrawingDocument& document, DatabaseCore& core) {
-    return DrawingWriter(document, core).run();
+std::vector<FileEdit> collectEdits(const DrawingDocument& document, DatabaseCore& core,
+                                   std::vector<DrawingWarning>* warnings) {
+    std::vector<DrawingWarning> ignored;
+    return DrawingWriter(document, core).run(warnings != nullptr ? *warnings : ignored);
 }
 
 bool writeEdited(std::string_view bytes, const std::vector<FileEdit>& edits, bool hasLines,

@@ -19,8 +19,10 @@ struct FileEdit {
 
 // What makes the file's bytes those of the drawing as it is now, in the order of the file. Costs
 // nothing for objects that nobody touched. What is written for the first time has a handle then.
+// What has to stay as it is although it names what was erased is told in `warnings`.
 [[nodiscard]] std::vector<FileEdit> collectEdits(const DrawingDocument& document,
-                                                 DatabaseCore& core);
+                                                 DatabaseCore& core,
+                                                 std::vector<DrawingWarning>* warnings = nullptr);
 
 // Hands out the bytes with the edits in them, in large pieces. Stops when `sink` gives false. In
 // files of lines what is put in starts on a new one.

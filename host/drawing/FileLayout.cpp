@@ -167,6 +167,7 @@ std::vector<FileEdit> FileLayout::takeEdits() {
         insertSection(0, "HEADER", m_header);
     }
     fillSection("TABLES", before({"BLOCKS", "ENTITIES", "OBJECTS"}), m_tables);
+    fillSection("BLOCKS", before({"ENTITIES", "OBJECTS"}), m_newBlocks);
     fillSection("ENTITIES", before({"OBJECTS"}), m_entities);
     if (const RecordRun* const objects = m_document.findSection("OBJECTS")) {
         insert(objects->begin + 1, m_root);

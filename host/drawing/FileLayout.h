@@ -26,6 +26,7 @@ public:
 
     void replace(const RecordSpan& span, std::string text);
     void addEntity(const BlockEntities& block, std::string_view text);
+    void addBlocks(std::string text) { m_newBlocks = std::move(text); }
     // The root dictionary comes first.
     void addObjects(std::string root, std::string others);
     // `change` is by how many entries the table's count differs.
@@ -53,6 +54,7 @@ private:
     // What is going to be put in, by its place.
     std::string m_header;
     std::string m_tables;
+    std::string m_newBlocks;
     std::string m_entities; // of model and paper space
     std::string m_objects;
     std::string m_root;

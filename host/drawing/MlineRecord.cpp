@@ -163,17 +163,9 @@ std::optional<std::string> editMline(const RecordContext& context, const RecordS
 }
 
 void writeMline(TagText& target, const RecordContext& context, const MlineContent& content,
-                std::uint64_t handle, std::uint64_t owner, bool inPaperSpace) {
-    EntityTraits traits = content.traits != nullptr ? *content.traits : EntityTraits();
-    traits.inPaperSpace = inPaperSpace;
+                const EntityPlace& place) {
     ensureHandle(context, content.style);
-    target.add(0, "MLINE");
-    target.addHandle(5, handle);
-    if (owner != 0) {
-        target.addHandle(330, owner);
-    }
-    target.add(100, "AcDbEntity");
-    addFields(target, traitsFields(traits, context.text));
+    writeCommonPart(target, context, "MLINE", content.traits.get(), place);
     target.add(100, "AcDbMline");
     addFields(target, mlineFields(context, content, 0));
     writeVertices(target, content);

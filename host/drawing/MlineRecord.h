@@ -3,6 +3,7 @@
 #include "MlineContent.h"
 #include "RecordContext.h"
 #include "TagText.h"
+#include "TraitsRecord.h"
 
 #include <memory>
 #include <optional>
@@ -24,9 +25,8 @@ class MlineParser;
 [[nodiscard]] std::optional<std::string>
 editMline(const RecordContext& context, const RecordSpan& span, const MlineContent& content);
 
-// A record for a multiline that the file has not had. `owner` is a block record's handle, 0 when
-// the file has no such record.
+// A record for a multiline that the file has not had.
 void writeMline(TagText& target, const RecordContext& context, const MlineContent& content,
-                std::uint64_t handle, std::uint64_t owner, bool inPaperSpace);
+                const EntityPlace& place);
 
 } // namespace orvex

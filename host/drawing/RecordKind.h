@@ -24,6 +24,8 @@ enum class RecordKind : std::uint8_t {
     // objects
     dictionary,
     mlineStyle,
+    group,
+    sortTable,
     // entities
     mline,
     line,

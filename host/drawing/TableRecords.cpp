@@ -146,6 +146,13 @@ void writeLinetype(TagText& target, const RecordContext& context,
     }
 }
 
+void writeBlockRecord(TagText& target, const RecordContext& context, std::string_view name,
+                      std::uint64_t handle, std::uint64_t owner) {
+    writeEntry(target, context, "BLOCK_RECORD", "AcDbBlockTableRecord", handle, owner);
+    target.add(2, name);
+    target.addHandle(340, 0); // no layout
+}
+
 void writeTable(TagText& target, const RecordContext& context, std::string_view kind,
                 std::uint64_t handle, int count, std::string_view entries) {
     target.add(0, "TABLE");

@@ -28,6 +28,10 @@ void writeLinetype(TagText& target, const RecordContext& context,
                    std::uint64_t owner);
 
 // A table's first record and its end, around `entries`.
+// A block's record; `name` as the file has texts.
+void writeBlockRecord(TagText& target, const RecordContext& context, std::string_view name,
+                      std::uint64_t handle, std::uint64_t owner);
+
 void writeTable(TagText& target, const RecordContext& context, std::string_view kind,
                 std::uint64_t handle, int count, std::string_view entries);
 // The table's first record with `added` entries counted in; nothing when it didn't count its

@@ -36,6 +36,9 @@ void readTrait(const Tag& tag, const DrawingText& text, EntityTraits& traits) {
     case 48:
         traits.linetypeScale = parseReal(tag.value).value_or(traits.linetypeScale);
         break;
+    case 370:
+        traits.lineweight = parseInteger(tag.value).value_or(traits.lineweight);
+        break;
     case 60:
         traits.visible = parseInteger(tag.value) != 1;
         break;
@@ -84,8 +87,27 @@ Fields traitsFields(const EntityTraits& traits, const DrawingText& text) {
     fields.push_back({6, byLayer ? std::nullopt : std::optional(text.encode(traits.linetype))});
     addColorFields(fields, traits.color, text, false);
     fields.push_back({48, traits.linetypeScale == 1.0 ? std::nullopt : real(traits.linetypeScale)});
+    fields.push_back({370, traits.lineweight == kLineweightByLayer
+                               ? std::nullopt
+                               : std::optional(std::to_string(traits.lineweight))});
     fields.push_back({60, traits.visible ? std::nullopt : std::optional<std::string>("1")});
     return fields;
+}
+
+void writeCommonPart(TagText& target, const RecordContext& context, std::string_view kind,
+                     const EntityTraits* traits, const EntityPlace& place) {
+    EntityTraits here = traits != nullptr ? *traits : EntityTraits();
+    here.inPaperSpace = place.inPaperSpace;
+    target.add(0, kind);
+    target.addHandle(5, place.handle);
+    if (place.owner != 0) {
+        target.addHandle(330, place.owner);
+    }
+    // Multilines name their classes in drawings of any age.
+    if (!context.isOld || kind == "MLINE") {
+        target.add(100, "AcDbEntity");
+    }
+    addFields(target, traitsFields(here, context.text));
 }
 
 bool readColor(const Tag& tag, const DrawingText& text, KdCmColor& color) {

@@ -2,6 +2,7 @@
 
 #include "DrawingText.h"
 #include "EntityTraits.h"
+#include "RecordContext.h"
 #include "RecordEdit.h"
 #include "TagText.h"
 
@@ -13,6 +14,17 @@ namespace orvex {
                                       const DrawingText& text);
 
 [[nodiscard]] Fields traitsFields(const EntityTraits& traits, const DrawingText& text);
+
+// Where a new entity stands.
+struct EntityPlace {
+    std::uint64_t handle = 0;
+    std::uint64_t owner = 0; // of a block record; 0 when the file has no such record
+    bool inPaperSpace = false;
+};
+// The beginning of a new record, up to where the values of its own class begin. Without traits
+// they are the usual ones.
+void writeCommonPart(TagText& target, const RecordContext& context, std::string_view kind,
+                     const EntityTraits* traits, const EntityPlace& place);
 
 // Index of the first tag that is not of the common part.
 [[nodiscard]] std::size_t commonPartEnd(const std::vector<Tag>& tags);

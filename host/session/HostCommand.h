@@ -56,6 +56,8 @@ void changeCommand(Session& session);
 void restyleCommand(Session& session);
 // A pick, one point or two: parts a multiline, without what lies between.
 void breakCommand(Session& session);
+// A selection: multilines become lines, arcs and filled areas that look the same.
+void explodeCommand(Session& session);
 // Two picks: makes one multiline of two whose ends meet.
 void connectCommand(Session& session);
 // A selection: tells what its multilines are.

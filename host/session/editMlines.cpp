@@ -56,14 +56,19 @@ void tellCount(std::size_t count, std::size_t all, const std::string& done) {
     kdutPrintf(L"%ls", widen(line).c_str());
 }
 
-KdDbStub& addMline(const KdDbStub& original, MlineContent content) {
+KdDbStub& addEntity(const KdDbStub& original, std::unique_ptr<KdDbEntity> entity) {
     DatabaseCore& core = *original.database;
-    auto mline = std::make_unique<KdDbMline>();
-    mline->setContent(std::make_shared<MlineContent>(std::move(content)));
     BlockEntities& block = *core.blocks().blockOf(original);
-    KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, block.record);
+    const ObjectKind kind = kindOf(*entity);
+    KdDbStub& stub = core.adopt(std::move(entity), kind, block.record);
     core.blocks().appendEntity(block, stub);
     return stub;
+}
+
+KdDbStub& addMline(const KdDbStub& original, MlineContent content) {
+    auto mline = std::make_unique<KdDbMline>();
+    mline->setContent(std::make_shared<MlineContent>(std::move(content)));
+    return addEntity(original, std::move(mline));
 }
 
 std::optional<PickedMline> pickMline(const wchar_t* prompt) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+class KdDbEntity;
 struct KdDbStub;
 
 namespace orvex {
@@ -28,7 +29,8 @@ void tellRefusal(const KdDbStub& mline, const std::string& why);
 // "2 of 3 multilines moved."
 void tellCount(std::size_t count, std::size_t all, const std::string& done);
 
-// A new entity in the block of `original`.
+// A new entity in the block of `original`, drawn last.
+KdDbStub& addEntity(const KdDbStub& original, std::unique_ptr<KdDbEntity> entity);
 KdDbStub& addMline(const KdDbStub& original, MlineContent content);
 
 struct PickedMline {

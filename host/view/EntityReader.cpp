@@ -3,6 +3,7 @@
 #include "DatabaseCore.h"
 #include "KdDbMline.h"
 #include "ObjectTable.h"
+#include "PlainEntity.h"
 
 namespace orvex {
 
@@ -16,9 +17,18 @@ std::shared_ptr<const MlineContent> mlineContent(const KdDbEntity& mline) {
     return std::static_pointer_cast<const MlineContent>(mline.content());
 }
 
+// An entity that the host made; null for any other.
+const PlainEntity* plainOf(const KdDbEntity& entity) {
+    return entity.isKindOf(PlainEntity::desc()) ? static_cast<const PlainEntity*>(&entity)
+                                                : nullptr;
+}
+
 EntityGeometry geometryOf(const KdDbStub& stub, const KdDbEntity& entity) {
     if (isMline(entity)) {
         return mlineContent(entity);
+    }
+    if (const auto* const plain = plainOf(entity)) {
+        return plain->plain().shape;
     }
     const ObjectSource* source = stub.database->objects().source();
     const bool inFile = source != nullptr && stub.record != kNoRecord;

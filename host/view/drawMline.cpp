@@ -1,5 +1,7 @@
 #include "drawMline.h"
 
+#include "arcs.h"
+#include "geometry.h"
 #include "mlineParts.h"
 
 namespace orvex {
@@ -26,6 +28,13 @@ void drawElements(const MlineChain& chain, MlineSink& sink) {
 }
 
 } // namespace
+
+void MlineSink::halfCircle(const KdGePoint3d& center, const KdGeVector3d& radius,
+                           const KdGeVector3d& top, unsigned first, unsigned second) {
+    std::vector<KdGePoint3d> arc;
+    appendArc(arc, center, radius, top, 0.0, kPi);
+    crossing(arc, StrokeRole::cap, first, second);
+}
 
 void drawMline(const MlineContent& mline, const MlineStyleContent* style, MlineSink& sink) {
     const MlineChain chain(mline);

@@ -21,6 +21,10 @@ public:
     // middle, belongs to the one, the second half to the other.
     virtual void crossing(std::span<const KdGePoint3d> chain, StrokeRole role, unsigned first,
                           unsigned second) = 0;
+    // A cap that is half a circle, from centre + radius by centre + top to centre - radius. Comes
+    // as a chain where it isn't taken as it is.
+    virtual void halfCircle(const KdGePoint3d& center, const KdGeVector3d& radius,
+                            const KdGeVector3d& top, unsigned first, unsigned second);
 };
 
 // What a multiline looks like: its fill, the stretches of its elements, caps, and joints, as its

@@ -1,4 +1,3 @@
-#include "arcs.h"
 #include "geometry.h"
 #include "mlineParts.h"
 
@@ -59,9 +58,7 @@ void drawHalfCircle(const MlineChain& chain, const ChainEnd& end, unsigned first
         return;
     }
     top = top * (size / topSize);
-    std::vector<KdGePoint3d> arc;
-    appendArc(arc, center, radius, top, 0.0, kPi);
-    sink.crossing(arc, StrokeRole::cap, first, second);
+    sink.halfCircle(center, radius, top, first, second);
 }
 
 // Line, inner arcs and outer arc of one end; each flag as the style has it at that end.

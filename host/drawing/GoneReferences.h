@@ -1,0 +1,46 @@
+#pragma once
+
+#include "DrawingDocument.h"
+#include "FileLayout.h"
+
+#include <cstdint>
+#include <map>
+#include <unordered_set>
+#include <vector>
+
+namespace orvex {
+
+// What names entities that leave the file: groups and tables of drawing order lose the name, a
+// group that is left without members goes, and so does what belonged to such an entity alone, its
+// extension dictionary. Costs nothing as long as nothing leaves.
+class GoneReferences {
+public:
+    GoneReferences(const DrawingDocument& document, DatabaseCore& core)
+        : m_document(document), m_core(core) {}
+
+    // Of an entity that is taken out of the file.
+    void note(std::uint32_t record);
+    // Puts the changes of all records that name what was noted into the layout. Records that
+    // can't be read stay and are told.
+    void settle(FileLayout& layout, std::vector<DrawingWarning>& warnings);
+
+private:
+    enum class Reading : std::uint8_t { unconcerned, edited, unreadable };
+
+    void dropOwned(std::uint32_t record, FileLayout& layout);
+    void dropDictionary(std::uint64_t handle, std::uint64_t owner, FileLayout& layout);
+    [[nodiscard]] Reading settleGroup(std::uint32_t record, FileLayout& layout);
+    [[nodiscard]] Reading settleSortTable(std::uint32_t record, FileLayout& layout);
+    void dropGroup(std::uint32_t record, FileLayout& layout);
+    void dropEntries(FileLayout& layout);
+    [[nodiscard]] bool isGone(std::uint64_t handle) const { return m_gone.contains(handle); }
+
+    const DrawingDocument& m_document;
+    DatabaseCore& m_core;
+    std::vector<std::uint32_t> m_entities;
+    std::unordered_set<std::uint64_t> m_gone;
+    // Of dictionaries, by record: the handles that go.
+    std::map<std::uint32_t, std::unordered_set<std::uint64_t>> m_entries;
+};
+
+} // namespace orvex
