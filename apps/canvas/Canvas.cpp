@@ -54,6 +54,7 @@ void Canvas::setSession(Session* session) {
     s.aim = {};
     s.shownPoint.reset();
     s.guided.reset();
+    s.hints = {};
     s.picture.setScene(session != nullptr ? &session->scene() : nullptr);
     s.updateCursorShape();
     s.startWork();
@@ -117,6 +118,19 @@ void Canvas::setMarks(std::vector<CanvasMark> marks) {
 
 const std::vector<CanvasMark>& Canvas::marks() const {
     return m_state->overlay.marks();
+}
+
+void Canvas::setHints(CanvasHints hints) {
+    m_state->hints = std::move(hints);
+    update();
+}
+
+const CanvasHints& Canvas::hints() const {
+    return m_state->hints;
+}
+
+void Canvas::setPickFinder(std::function<PickTarget(PlanPoint place)> finder) {
+    m_state->pickFinder = std::move(finder);
 }
 
 const Aim& Canvas::aim() const {

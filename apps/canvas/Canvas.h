@@ -1,10 +1,12 @@
 #pragma once
 
 #include "Aim.h"
+#include "CanvasHints.h"
 #include "CanvasOverlay.h"
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 namespace orvex {
@@ -51,6 +53,13 @@ public:
     void setMarks(std::vector<CanvasMark> marks);
     [[nodiscard]] const std::vector<CanvasMark>& marks() const;
 
+    // Shown until they are set anew, or the session is.
+    void setHints(CanvasHints hints);
+    [[nodiscard]] const CanvasHints& hints() const;
+    // Who decides what a pick at a place means; null: what is nearest there. Asked when the cursor
+    // has moved.
+    void setPickFinder(std::function<PickTarget(PlanPoint place)> finder);
+
     // Something in the drawing changed or was hidden: paints what is different, soon.
     void refresh();
     // The view was changed by a command.
@@ -70,6 +79,8 @@ public:
 signals:
     void cursorMoved(double worldX, double worldY); // where a click would go
     void cursorLeft();
+    // What a pick at the cursor would find was looked up; null for nothing.
+    void hovered(KdDbStub* entity);
     // A click while the aim is entity or point; an exact place isn't to be rounded.
     void clicked(double worldX, double worldY, bool isExact);
     // While the aim is selection: a click on an entity, and two corners of a window.

@@ -4,6 +4,7 @@
 #include "KdDbDatabase.h"
 #include "KdDbEntity.h"
 #include "canvasMarks.h"
+#include "hintMarks.h"
 
 #include <QPainter>
 
@@ -178,24 +179,33 @@ void Canvas::State::dropHighlight() {
     }
 }
 
+PickTarget Canvas::State::targetAt(PlanPoint place) const {
+    const double reach = aim.pickBox * view().unitsPerPixel();
+    const PlanBox square{{place.x - reach, place.y - reach}, {place.x + reach, place.y + reach}};
+    if (session->scene().entitiesIn(square).size() > kMostUnderCursor) {
+        return {};
+    }
+    if (pickFinder) {
+        return pickFinder(place);
+    }
+    return {session->scene().entityAt({place.x, place.y, 0.0}, aim.pickBox), {}};
+}
+
 // What a pick would find. The scene is up to date.
 void Canvas::State::updateHighlight() {
     isHighlightStale = false;
-    KdDbStub* found = nullptr;
+    PickTarget target;
     if (aim.kind != AimKind::point && cursor && !panFrom && !drawsWindow()) {
-        const PlanPoint at = planAtCursor();
-        const double reach = aim.pickBox * view().unitsPerPixel();
-        const PlanBox square{{at.x - reach, at.y - reach}, {at.x + reach, at.y + reach}};
-        if (session->scene().entitiesIn(square).size() <= kMostUnderCursor) {
-            found = session->scene().entityAt({at.x, at.y, 0.0}, aim.pickBox);
-        }
+        target = targetAt(planAtCursor());
     }
-    if (found == nullptr) {
+    targetWords = target.words;
+    if (target.entity == nullptr) {
         dropHighlight();
-        return;
+    } else {
+        highlight = {target.entity, session->scene().appearance(*target.entity)};
+        canvas.update();
     }
-    highlight = {found, session->scene().appearance(*found)};
-    canvas.update();
+    emit canvas.hovered(target.entity);
 }
 
 void Canvas::State::updateCursorShape() {
@@ -233,7 +243,9 @@ void Canvas::State::paintMarks(QPainter& painter) {
     overlay.paint(painter, session->scene(), view(), canvas.devicePixelRatioF());
     paintAxes(painter, canvas.size(), userAxis(database, "UCSXDIR", {1.0, 0.0, 0.0}),
               userAxis(database, "UCSYDIR", {0.0, 1.0, 0.0}));
-    if (highlight.entity != nullptr) {
+    paintTool(painter, view(), hints);
+    // On what changes it would hide the difference.
+    if (highlight.entity != nullptr && !hints.changesTarget) {
         paintHighlight(painter, view(), highlight.appearance);
     }
     if (aim.kind == AimKind::point) {
@@ -250,6 +262,19 @@ void Canvas::State::paintMarks(QPainter& painter) {
         return;
     }
     paintAim(painter);
+    paintHints(painter);
+}
+
+void Canvas::State::paintHints(QPainter& painter) const {
+    if (hints.flashes) {
+        paintPickFlash(painter, *cursor, aim.pickBox);
+    }
+    const bool isRefusal = !hints.words.isEmpty();
+    const QString& words = isRefusal ? hints.words : targetWords;
+    if (!words.isEmpty() && !selectionFrom) {
+        paintWords(painter, *cursor, canvas.size(), words,
+                   isRefusal ? WordsKind::refusal : WordsKind::note);
+    }
 }
 
 void Canvas::State::paintAim(QPainter& painter) {

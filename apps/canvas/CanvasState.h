@@ -38,6 +38,9 @@ struct Canvas::State {
     std::optional<PlanPoint> shownPoint; // in place of the cursor's
     Highlight highlight;
     bool isHighlightStale = false;
+    std::function<PickTarget(PlanPoint place)> pickFinder;
+    QString targetWords; // of what is highlighted
+    CanvasHints hints;
 
     // What the guide made of the cursor's place the last time.
     struct Guided {
@@ -103,6 +106,8 @@ struct Canvas::State {
     void moveTo(const ViewState& state, bool sameMovement);
     void zoomToExtents();
     void updateHighlight();
+    [[nodiscard]] PickTarget targetAt(PlanPoint place) const;
+    void paintHints(QPainter& painter) const;
     void dropHighlight();
     void updateCursorShape();
     void endWindow(const QPoint& corner);

@@ -72,6 +72,7 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
       m_menus(*this, [this](const DeskAct& act) { perform(act); }),
       m_join(new JoinDesk(*this, *m_canvas, m_runner, m_prompts)),
       m_drawBar(new DrawBar(*this, m_runner, m_prompts)), m_status(*statusBar()),
+      m_tool(new ToolDesk(*this, *m_canvas, m_runner, m_prompts, m_status)),
       m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
     setAcceptDrops(true);
@@ -115,8 +116,11 @@ void MainWindow::connectCommandLine() {
     connect(&m_prompts, &DeskPrompts::printed, m_commandLine, &CommandLine::print);
     connect(&m_prompts, &DeskPrompts::asked, this, &MainWindow::showQuestion);
     connect(&m_prompts, &DeskPrompts::answered, this, &MainWindow::showIdle);
-    connect(&m_runner, &CommandRunner::commandStarted, this,
-            [this](const QString& name) { m_commandLine->print(tr("Command: %1").arg(name)); });
+    connect(&m_runner, &CommandRunner::commandStarted, this, [this](const QString& name) {
+        if (!ToolDesk::announces(name)) {
+            m_commandLine->print(tr("Command: %1").arg(name));
+        }
+    });
     connect(&m_prompts, &DeskPrompts::toolChosen, &m_runner, [this](const QString& keyword) {
         m_runner.repeatAs(QStringLiteral("-MLEDIT"), {keyword});
     });
@@ -131,6 +135,9 @@ void MainWindow::connectCommandLine() {
 
 void MainWindow::connectCanvas() {
     connect(m_canvas, &Canvas::clicked, this, [this](double x, double y, bool isExact) {
+        if (m_tool->answerPick({x, y})) {
+            return;
+        }
         m_prompts.answerPoint(isExact ? exactPoint(x, y)
                                       : clickedPoint(x, y, session()->view().unitsPerPixel()));
     });
@@ -149,8 +156,7 @@ void MainWindow::connectCanvas() {
 void MainWindow::connectSelection() {
     connect(m_canvas, &Canvas::picked, this, [this](double x, double y, bool takesAway) {
         const auto& progress = session()->selectionMemory().progress;
-        const KdDbStub* const found =
-            session()->scene().entityAt({x, y, 0.0}, PromptSession::current().pickBox);
+        const KdDbStub* const found = m_tool->take({x, y});
         if (progress && found != nullptr) {
             m_prompts.answerLines(pickLines(*progress, {x, y}, found->handle, takesAway,
                                             session()->view().unitsPerPixel()));
@@ -213,6 +219,7 @@ void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& p
     m_drawing.replace(std::move(file), path, m_canvas->width(), m_canvas->height());
     m_join->setSession(*session());
     m_drawBar->setSession(*session());
+    m_tool->setSession(*session());
     session()->display().setRepaint([this] { m_canvas->refresh(); });
     m_runner.setSession(session());
     m_canvas->setSession(session());
@@ -300,7 +307,7 @@ void MainWindow::escape() {
 void MainWindow::showQuestion() {
     const PromptRequest& request = *m_prompts.request();
     CommandLine::Question question;
-    question.text = toQt(request.text).trimmed();
+    question.text = m_tool->promptPrefix() + toQt(request.text).trimmed();
     question.keywords = keywordButtons(request, palette());
     question.completions = toQt(request.keywords) + toQt(request.completions);
     const bool isText = request.kind == PromptKind::text;

@@ -11,6 +11,7 @@
 #include "RecentFiles.h"
 #include "SessionChoices.h"
 #include "StatusLine.h"
+#include "ToolDesk.h"
 
 #include <QMainWindow>
 
@@ -87,6 +88,7 @@ private:
     JoinDesk* m_join;
     DrawBar* m_drawBar;
     StatusLine m_status;
+    ToolDesk* m_tool;
     RecentFiles m_recent;
     bool m_mayClose = false;
     bool m_isPartlyDrawnReported = false;

@@ -21,7 +21,8 @@ QLabel* addLabel(QStatusBar& bar, const char* name, int characters) {
 } // namespace
 
 StatusLine::StatusLine(QStatusBar& bar)
-    : QObject(&bar), m_cursor(addLabel(bar, "statusCursor", 26)),
+    : QObject(&bar), m_tool(addLabel(bar, "statusTool", 0)),
+      m_hovered(addLabel(bar, "statusHovered", 0)), m_cursor(addLabel(bar, "statusCursor", 26)),
       m_style(addLabel(bar, "statusStyle", 0)) {}
 
 void StatusLine::showCursor(double x, double y, double unitsPerPixel) {
@@ -32,6 +33,14 @@ void StatusLine::showCursor(double x, double y, double unitsPerPixel) {
 
 void StatusLine::clearCursor() {
     m_cursor->clear();
+}
+
+void StatusLine::showTool(const QString& tool) {
+    m_tool->setText(tool);
+}
+
+void StatusLine::showHovered(const QString& hovered) {
+    m_hovered->setText(hovered);
 }
 
 void StatusLine::showStyle(const QString& style) {

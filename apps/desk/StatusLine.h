@@ -19,8 +19,12 @@ public:
     void showCursor(double x, double y, double unitsPerPixel);
     void clearCursor();
     void showStyle(const QString& style);
+    void showTool(const QString& tool);       // that runs; empty for none
+    void showHovered(const QString& hovered); // what a pick at the cursor would find
 
 private:
+    QLabel* m_tool;
+    QLabel* m_hovered;
     QLabel* m_cursor;
     QLabel* m_style;
 };

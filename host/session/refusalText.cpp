@@ -27,7 +27,7 @@ constexpr std::array kRows = std::to_array<RefusalRow>({
      L"both picks have to lie on the first one"},
     {PickRefusal::noCrossing, L"these two don't cross where they were picked",
      L"pick where their chains meet"},
-    {PickRefusal::noMatch, L"no line is matched here: an earlier pick would be used",
+    {PickRefusal::noMatch, L"no line is matched here, an earlier pick would be used",
      L"pick further from the multiline's end"},
     {PickRefusal::nothingChanged, L"nothing changed", L""},
 });

@@ -1,8 +1,10 @@
 #include "CWnd.h"
 
 #include "CDataExchange.h"
+#include "CDialog.h"
 #include "SilentScope.h"
 #include "WindowState.h"
+#include "buttonListener.h"
 #include "iconHandles.h"
 #include "widgetText.h"
 #include "withoutThrowing.h"
@@ -13,6 +15,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
 
 using orvex::SilentScope;
 using orvex::WindowState;
@@ -35,6 +38,24 @@ QMetaObject::Connection hookClicks(QCheckBox& box, int number,
     });
 }
 
+orvex::ButtonListener& buttonListener() {
+    static orvex::ButtonListener listener;
+    return listener;
+}
+
+// A press may end the dialog; it still is the user's.
+QMetaObject::Connection reportPresses(QPushButton& button, int number,
+                                      const std::shared_ptr<WindowState>& state) {
+    const std::weak_ptr<WindowState> window = state;
+    return QObject::connect(&button, &QPushButton::clicked, &button, [window, number] {
+        const auto alive = window.lock();
+        const auto* const dialog = alive ? dynamic_cast<CDialog*>(alive->owner) : nullptr;
+        if (dialog != nullptr && buttonListener()) {
+            orvex::withoutThrowing([&] { buttonListener()(dialog->resourceNumber(), number); });
+        }
+    });
+}
+
 bool enable(QWidget* widget, bool on) {
     if (widget == nullptr) {
         return false;
@@ -47,6 +68,10 @@ bool enable(QWidget* widget, bool on) {
 }
 
 } // namespace
+
+orvex::ButtonListener orvex::setButtonListener(ButtonListener listener) {
+    return std::exchange(buttonListener(), std::move(listener));
+}
 
 CWnd::CWnd() : m_state(std::make_shared<WindowState>()) {
     m_state->owner = this;
@@ -122,6 +147,7 @@ void CWnd::SetDlgItem(int number, QWidget* widget) {
     if (auto* box = qobject_cast<QCheckBox*>(widget)) {
         item.clicks = hookClicks(*box, number, m_state);
     } else if (auto* button = qobject_cast<QPushButton*>(widget)) {
+        item.clicks = reportPresses(*button, number, m_state);
         button->setAutoDefault(false);
         if (number == 1) {
             button->setDefault(true);
