@@ -6,7 +6,9 @@ the others come out as they do one by one. FLAT is a plan with walls to join.
 """
 
 import json
+import os
 import pathlib
+import pty
 import resource
 import shutil
 import signal
@@ -158,6 +160,19 @@ class Many:
         self.check("layers", "W\\U+0007X" in names and not any("\a" in each for each in names), names)
         self.check("layers", b"\a" not in self.call("list", "-", data=layered).stdout)
 
+    # A bar on a terminal, gone at the end; what is printed and reported is the same.
+    def progress(self):
+        ours, theirs = pty.openpty()
+        call = [self.program, "list", "a.dxf", "bad.dxf", "b.dxf", "--json", "--keep-going"]
+        run = subprocess.run(call, stdout=subprocess.PIPE, stderr=theirs, cwd=self.folder, timeout=60)
+        shown = os.read(ours, 65536).decode()
+        os.close(theirs)
+        os.close(ours)
+        self.check("bar", "] 3 of 3, 1 failed" in shown and shown.endswith("\r\x1b[K"), repr(shown))
+        self.check("bar", shown.count("orvex-batch: ") == 1 and "\x1b[Korvex-batch: bad.dxf:1:" in shown, repr(shown))
+        self.check("bar", run.stdout == self.call(*call[1:]).stdout)
+        self.check("no bar", b"\x1b" not in self.call(*call[1:]).stderr)
+
     # A process that dies, and one that has no room, cost their own drawings only.
     def failing_jobs(self):
         process = subprocess.Popen([self.program, "list", "a.dxf", "-", "b.dxf", "--keep-going", "--report", "r.jsonl"],
@@ -207,10 +222,10 @@ class Many:
 
 def main():
     with tempfile.TemporaryDirectory() as scratch:
-        many = Many(sys.argv[1], sys.argv[2], pathlib.Path(scratch))
+        many = Many(pathlib.Path(sys.argv[1]).resolve(), sys.argv[2], pathlib.Path(scratch))
         many.refusals()
         many.as_one_by_one(int(sys.argv[3]) if len(sys.argv) > 3 else 40)
-        for test in (many.stops, many.pipes, many.odd_names, many.failing_jobs, many.signals):
+        for test in (many.stops, many.pipes, many.odd_names, many.progress, many.failing_jobs, many.signals):
             test()
         many.report.finish()
 
