@@ -1,6 +1,9 @@
 // The verb show: a drawing as a picture.
 
+#include "DatabaseCore.h"
+#include "KdDbDatabase.h"
 #include "Scene.h"
+#include "ShowOptions.h"
 #include "batchFiles.h"
 #include "partlyDrawnText.h"
 #include "pictureWriter.h"
@@ -9,7 +12,6 @@
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
 
-#include <charconv>
 #include <cstdlib>
 
 namespace orvex {
@@ -23,29 +25,6 @@ void ignoreWarnings(QtMsgType kind, const QMessageLogContext& /*context*/, const
     }
 }
 
-// "WxH" in pixels.
-std::optional<PictureSize> parseSize(const std::string& text) {
-    const auto number = [](const char* first, const char* last) {
-        int value = 0;
-        const auto result = std::from_chars(first, last, value);
-        return result.ec == std::errc() && result.ptr == last ? value : 0;
-    };
-    const std::size_t cross = text.find('x');
-    if (cross == std::string::npos) {
-        return std::nullopt;
-    }
-    const int width = number(text.data(), text.data() + cross);
-    const int height = number(text.data() + cross + 1, text.data() + text.size());
-    if (width <= 0 || height <= 0) {
-        return std::nullopt;
-    }
-    return PictureSize{width, height};
-}
-
-std::string checkSize(const std::string& text) {
-    return parseSize(text) ? std::string() : "the size is two numbers of pixels, as in 1600x1200";
-}
-
 class ShowVerb final : public Verb {
 public:
     ShowVerb()
@@ -53,13 +32,7 @@ public:
     }
 
     void addOptions(CLI::App& options) override {
-        options
-            .add_option_function<std::string>(
-                "--size", [this](const std::string& text) { m_size = *parseSize(text); },
-                "Its size in pixels")
-            ->type_name("WxH")
-            ->default_str("1600x1200")
-            ->check(checkSize);
+        m_options.add(options);
         options
             .add_option_function<std::string>(
                 "--type",
@@ -83,7 +56,7 @@ public:
         if (m_kind && *m_kind != *kind) {
             return wrongCall(*task.output, "--type and the name of the picture contradict");
         }
-        auto failure = checkPicture(*kind, m_size);
+        auto failure = m_options.check(*kind);
         return failure ? wrongCall(*task.output, failure->text) : failure;
     }
 
@@ -121,21 +94,33 @@ private:
     [[nodiscard]] std::optional<Failure> draw(KdDbDatabase& database,
                                               const DrawingTask& task) const {
         Scene scene(database);
-        const auto picture = makePicture(scene, *kindOf(task), m_size);
+        const auto options = m_options.apply(scene, database.core());
+        if (!options) {
+            return wrongCall(inputName(task.drawing), options.failure().text);
+        }
+        const auto picture = makePicture(scene, *kindOf(task), *options);
         AtomicFile target = resultFile(*task.output);
         if (!picture) {
             Failure failure = picture.failure();
             failure.file = target.path();
             return failure;
         }
-        auto failure = saveFile(target, *picture);
-        if (const auto partlyDrawn = scene.partlyDrawn(); !failure && !partlyDrawn.empty()) {
-            complain(inputName(task.drawing) + ": warning: " + partlyDrawnText(partlyDrawn));
+        if (auto failure = saveFile(target, picture->bytes)) {
+            return failure;
         }
-        return failure;
+        const auto warn = [&](const std::string& text) {
+            complain(inputName(task.drawing) + ": warning: " + text);
+        };
+        if (picture->isCut) {
+            warn("the drawing is larger than the paper at this scale; its middle is shown");
+        }
+        if (const auto partlyDrawn = scene.partlyDrawn(); !partlyDrawn.empty()) {
+            warn(partlyDrawnText(partlyDrawn));
+        }
+        return std::nullopt;
     }
 
-    PictureSize m_size;
+    ShowOptions m_options;
     std::string m_type; // as given; empty without
     std::optional<PictureKind> m_kind;
 };

@@ -122,12 +122,15 @@ void SvgPicture::addStroke(const Stroke& stroke, const Appearance& appearance) {
 
 std::string SvgPicture::strokeAttributes(const Stroke& stroke, const Appearance& appearance) const {
     std::string attributes = "stroke=\"" + color(paintedRgb(stroke.rgb, m_settings)) + '"';
+    const double width = paintedWidth(stroke, m_settings);
+    if (width != m_settings.lineWidth) {
+        attributes += " stroke-width=\"" + decimal(width) + '"';
+    }
     if (stroke.dashes == 0 || stroke.dashes > appearance.dashPatterns.size()) {
         return attributes;
     }
-    const DashCycle cycle =
-        dashCycle(appearance.dashPatterns[stroke.dashes - 1], 1.0 / m_view.unitsPerPixel(),
-                  m_settings.lineWidth, kLeastPeriod);
+    const DashCycle cycle = dashCycle(appearance.dashPatterns[stroke.dashes - 1],
+                                      1.0 / m_view.unitsPerPixel(), width, kLeastPeriod);
     if (cycle.lengths.empty()) {
         return attributes;
     }
@@ -167,18 +170,35 @@ void SvgPicture::addLabel(const Label& label) {
     m_labels += '>' + escaped(label.text) + "</text>\n";
 }
 
-std::string SvgPicture::text() {
+void SvgPicture::addMark(const Appearance& appearance, const PaintSettings& settings) {
+    SvgPicture marks(m_view, settings);
+    marks.add(appearance);
+    marks.endPath();
+    if (!marks.m_lines.empty()) {
+        m_marks += lineGroup(marks.m_lines, settings.lineWidth);
+    }
+    m_labels += marks.m_labels;
+}
+
+std::string SvgPicture::lineGroup(const std::string& lines, double width) {
+    return "<g fill=\"none\" stroke-width=\"" + decimal(width) +
+           "\" stroke-linecap=\"round\" stroke-linejoin=\"round\">\n" + lines + "</g>\n";
+}
+
+std::string SvgPicture::text(const SvgPage& page) {
     endPath();
-    const std::string width = std::to_string(m_view.width());
-    const std::string height = std::to_string(m_view.height());
-    return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + width + "\" height=\"" + height +
-           "\" viewBox=\"0 0 " + width + ' ' + height +
-           "\">\n"
-           "<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n"
-           "<g>\n" +
-           m_fills + "</g>\n<g fill=\"none\" stroke-width=\"" + decimal(m_settings.lineWidth) +
-           "\" stroke-linecap=\"round\" stroke-linejoin=\"round\">\n" + m_lines +
-           "</g>\n<g font-family=\"DejaVu Sans, sans-serif\">\n" + m_labels + "</g>\n</svg>\n";
+    const auto length = [&](int pixels) {
+        return page.pixelsPerMillimetre > 0.0 ? decimal(pixels / page.pixelsPerMillimetre) + "mm"
+                                              : std::to_string(pixels);
+    };
+    const std::string ground = page.ground ? "<rect width=\"100%\" height=\"100%\" fill=\"" +
+                                                 color(*page.ground) + "\"/>\n"
+                                           : std::string();
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + length(m_view.width()) +
+           "\" height=\"" + length(m_view.height()) + "\" viewBox=\"0 0 " +
+           std::to_string(m_view.width()) + ' ' + std::to_string(m_view.height()) + "\">\n" +
+           ground + "<g>\n" + m_fills + "</g>\n" + lineGroup(m_lines, m_settings.lineWidth) +
+           m_marks + "<g font-family=\"DejaVu Sans, sans-serif\">\n" + m_labels + "</g>\n</svg>\n";
 }
 
 } // namespace orvex

@@ -63,21 +63,21 @@ public:
     }
 
     void stroke(const Stroke& stroke, const Appearance& appearance) {
-        QPen pen(color(stroke.rgb), m_settings.lineWidth, Qt::SolidLine, Qt::RoundCap,
-                 Qt::RoundJoin);
+        const double width = paintedWidth(stroke, m_settings);
+        QPen pen(color(stroke.rgb), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
         DashCycle cycle;
         if (stroke.dashes > 0 && stroke.dashes <= appearance.dashPatterns.size()) {
             cycle = dashCycle(appearance.dashPatterns[stroke.dashes - 1],
-                              1.0 / m_view.unitsPerPixel(), m_settings.lineWidth, kLeastPeriod);
+                              1.0 / m_view.unitsPerPixel(), width, kLeastPeriod);
         }
         if (!cycle.lengths.empty()) {
             pen.setCapStyle(Qt::FlatCap);
-            pen.setDashPattern(inPenWidths(cycle));
+            pen.setDashPattern(inPenWidths(cycle, width));
         }
         for (const ChainPart& run : clipChain(toPixels(stroke.points, m_view), m_frame)) {
             if (!cycle.lengths.empty()) {
                 const double offset = std::fmod(run.before + cycle.offset, cycle.period());
-                pen.setDashOffset(offset / m_settings.lineWidth);
+                pen.setDashOffset(offset / width);
             }
             m_painter.setPen(pen);
             m_painter.drawPolyline(polygonOf(run.points));
@@ -120,10 +120,10 @@ private:
     [[nodiscard]] QColor color(std::uint32_t rgb) const {
         return QColor::fromRgb(paintedRgb(rgb, m_settings));
     }
-    [[nodiscard]] QVector<qreal> inPenWidths(const DashCycle& cycle) const {
+    [[nodiscard]] static QVector<qreal> inPenWidths(const DashCycle& cycle, double width) {
         QVector<qreal> pattern;
         for (const double length : cycle.lengths) {
-            pattern << length / m_settings.lineWidth;
+            pattern << length / width;
         }
         return pattern;
     }
@@ -135,6 +135,15 @@ private:
 };
 
 } // namespace
+
+double paintedWidth(const Stroke& stroke, const PaintSettings& settings) {
+    constexpr double kThinnest = 0.5; // pixels
+    constexpr double kWeightsPerMillimetre = 100.0;
+    return settings.pixelsPerMillimetre > 0.0
+               ? std::max(kThinnest,
+                          stroke.weight / kWeightsPerMillimetre * settings.pixelsPerMillimetre)
+               : settings.lineWidth;
+}
 
 std::uint32_t paintedRgb(std::uint32_t rgb, const PaintSettings& settings) {
     constexpr std::uint32_t kWhite = 0xFFFFFF;

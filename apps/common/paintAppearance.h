@@ -10,12 +10,16 @@ class QPainter;
 namespace orvex {
 
 struct PaintSettings {
-    double lineWidth = 1.0; // pixels
-    bool onPaper = false;   // on white, where what is white on a dark ground is drawn black
+    double lineWidth = 1.0;           // pixels
+    double pixelsPerMillimetre = 0.0; // of line weights; 0: all lines have the one width
+    bool onPaper = false; // on white, where what is white on a dark ground is drawn black
 };
 
 // What to paint of an appearance; fills of many entities may go below all their lines.
 enum class PaintParts : std::uint8_t { all, fills, linesAndLabels };
+
+// Pixels, by the line's weight where weights are shown.
+double paintedWidth(const Stroke& stroke, const PaintSettings& settings);
 
 // 0xRRGGBB as it is painted.
 std::uint32_t paintedRgb(std::uint32_t rgb, const PaintSettings& settings);

@@ -29,6 +29,7 @@ HeaderVariables::HeaderVariables()
           {"EXTMIN", KdGePoint3d{1e20, 1e20, 1e20}},
           {"EXTMAX", KdGePoint3d{-1e20, -1e20, -1e20}},
           {"HANDSEED", HeaderHandle{1}},
+          {"INSUNITS", 0},
           {"LTSCALE", 1.0},
           {"MEASUREMENT", 0},
           {"UCSORG", KdGePoint3d{}},

@@ -30,6 +30,11 @@ void KdDbLayerTableRecord::setLinetype(const wchar_t* name) {
     m_linetype = name != nullptr ? name : L"";
 }
 
+void KdDbLayerTableRecord::setLineweight(int lineweight) {
+    aboutToChange();
+    m_lineweight = lineweight;
+}
+
 void KdDbLayerTableRecord::setIsOff(bool off) {
     aboutToChange();
     m_off = off;
@@ -50,8 +55,8 @@ namespace orvex {
 bool LayerContent::equals(const ObjectContent& other) const {
     const auto* const that = dynamic_cast<const LayerContent*>(&other);
     return that != nullptr && name == that->name && color == that->color &&
-           linetype == that->linetype && off == that->off && frozen == that->frozen &&
-           locked == that->locked;
+           linetype == that->linetype && lineweight == that->lineweight && off == that->off &&
+           frozen == that->frozen && locked == that->locked;
 }
 
 } // namespace orvex
@@ -61,6 +66,7 @@ std::shared_ptr<const orvex::ObjectContent> KdDbLayerTableRecord::content() cons
     content->name = name();
     content->color = m_color;
     content->linetype = m_linetype;
+    content->lineweight = m_lineweight;
     content->off = m_off;
     content->frozen = m_frozen;
     content->locked = m_locked;
@@ -77,6 +83,7 @@ KdDbLayerTableRecord::setContent(const std::shared_ptr<const orvex::ObjectConten
     storeName(typed->name);
     m_color = typed->color;
     m_linetype = typed->linetype;
+    m_lineweight = typed->lineweight;
     m_off = typed->off;
     m_frozen = typed->frozen;
     m_locked = typed->locked;

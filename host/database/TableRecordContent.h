@@ -13,6 +13,7 @@ struct LayerContent final : ObjectContent {
     std::wstring name;
     KdCmColor color;
     std::wstring linetype;
+    int lineweight = -3; // hundredths of a millimetre on paper, or one of Lineweight
     bool off = false;
     bool frozen = false;
     bool locked = false;

@@ -22,10 +22,11 @@ struct Row {
 
 // What a variable's value is follows from its code; 10 stands for a point.
 constexpr std::array kRows{
-    Row{"ACADVER", 1},      Row{"CECOLOR", 62}, Row{"CELTSCALE", 40}, Row{"CELTYPE", 6},
-    Row{"CLAYER", 8},       Row{"CMLJUST", 70}, Row{"CMLSCALE", 40},  Row{"CMLSTYLE", 2},
-    Row{"EXTMAX", 10},      Row{"EXTMIN", 10},  Row{"HANDSEED", 5},   Row{"LTSCALE", 40},
-    Row{"MEASUREMENT", 70}, Row{"UCSORG", 10},  Row{"UCSXDIR", 10},   Row{"UCSYDIR", 10},
+    Row{"ACADVER", 1},  Row{"CECOLOR", 62},     Row{"CELTSCALE", 40}, Row{"CELTYPE", 6},
+    Row{"CLAYER", 8},   Row{"CMLJUST", 70},     Row{"CMLSCALE", 40},  Row{"CMLSTYLE", 2},
+    Row{"EXTMAX", 10},  Row{"EXTMIN", 10},      Row{"HANDSEED", 5},   Row{"INSUNITS", 70},
+    Row{"LTSCALE", 40}, Row{"MEASUREMENT", 70}, Row{"UCSORG", 10},    Row{"UCSXDIR", 10},
+    Row{"UCSYDIR", 10},
 };
 
 const Row* findRow(std::string_view name) {

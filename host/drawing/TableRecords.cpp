@@ -22,6 +22,9 @@ void readLayerTag(const Tag& tag, const DrawingText& text, KdDbLayerTableRecord&
     case 6:
         layer.setLinetype(text.decode(trimBlanks(tag.value)).c_str());
         break;
+    case 370:
+        layer.setLineweight(parseInteger(tag.value).value_or(layer.lineweight()));
+        break;
     case 70:
         if (const auto flags = parseInteger(tag.value)) {
             layer.setIsFrozen((*flags & kFrozen) != 0);
@@ -121,6 +124,9 @@ void writeLayer(TagText& target, const RecordContext& context, const KdDbLayerTa
     }
     addFields(target, color);
     target.add(6, context.text.encode(layer.linetype()));
+    if (layer.lineweight() != kLineweightDefault) {
+        target.add(370, layer.lineweight());
+    }
 }
 
 void writeLinetype(TagText& target, const RecordContext& context,

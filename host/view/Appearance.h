@@ -29,11 +29,15 @@ struct PlanBox {
 // What a line is for. Only drawn lines are picked.
 enum class StrokeRole : std::uint8_t { line, cap, joint };
 
+// Of lines on paper, in hundredths of a millimetre, where nothing else is said.
+constexpr std::int16_t kUsualWeight = 25;
+
 // A chain of straight pieces in one colour; arcs come as chains.
 struct Stroke {
     std::vector<PlanPoint> points; // one point is a dot
     std::uint32_t rgb = 0xFFFFFF;
     StrokeRole role = StrokeRole::line;
+    std::int16_t weight = kUsualWeight; // hundredths of a millimetre on paper
     std::uint32_t dashes = 0; // index into Appearance::dashPatterns plus 1; 0 is continuous
 };
 

@@ -2,7 +2,8 @@
 
 #include "BlockList.h"
 #include "DatabaseCore.h"
-#include "EntityDrawer.h"
+
+#include <algorithm>
 
 namespace orvex {
 
@@ -27,10 +28,15 @@ bool AppearanceMaker::draw(const KdDbStub& entity, DrawSink& sink) {
 }
 
 bool AppearanceMaker::draw(const EntityReading& reading, DrawSink& sink, bool& isPartial) {
-    const bool isTired = m_walkWork > kMostWalkWork;
-    EntityDrawer drawer(m_table, m_blocks, sink,
-                        isTired ? DrawLimit::beginnings : DrawLimit::repetitions);
+    constexpr std::int64_t kPointsOfRepeated = 20;
+    DrawLimit limit;
+    limit.onlyBeginning = m_walkWork > kMostWalkWork;
+    limit.repeatedEntities =
+        std::min(m_mostInInsert, std::max<std::int64_t>(m_mostInWalk - m_walkRepeated, 0));
+    limit.repeatedPoints = limit.repeatedEntities * kPointsOfRepeated;
+    EntityDrawer drawer(m_table, m_blocks, sink, limit);
     const bool seen = drawer.draw(reading);
+    m_walkRepeated += drawer.repeatedEntities();
     m_walkWork += drawer.insertWork();
     isPartial = drawer.isPartial();
     return seen;

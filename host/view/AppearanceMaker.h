@@ -2,10 +2,14 @@
 
 #include "Appearance.h"
 #include "BlockContents.h"
+#include "EntityDrawer.h"
 #include "SharedTraits.h"
 
 #include <cstdint>
+#include <limits>
 #include <set>
+#include <string>
+#include <vector>
 
 struct KdDbStub;
 
@@ -24,7 +28,17 @@ public:
     [[nodiscard]] PlanBox box(const KdDbStub& entity);
 
     // Before many appearances or boxes are made: what their inserts may cost together begins anew.
-    void startWalk() { m_walkWork = 0; }
+    void startWalk() {
+        m_walkWork = 0;
+        m_walkRepeated = 0;
+    }
+    // How many entities blocks inside of inserts may repeat in one of them, and in a walk.
+    void limitRepetitions(std::int64_t inInsert, std::int64_t inWalk) {
+        m_mostInInsert = inInsert;
+        m_mostInWalk = inWalk;
+    }
+    // Nothing else is seen from now on; all is when there are none.
+    void showOnlyLayers(const std::vector<std::wstring>& names) { m_table.showOnly(names); }
 
     // True when the change of an object may change the appearance of entities other than itself.
     [[nodiscard]] bool isShared(const KdDbStub& changed) const;
@@ -40,6 +54,9 @@ private:
 
     DatabaseCore& m_core;
     std::int64_t m_walkWork = 0;
+    std::int64_t m_walkRepeated = 0; // entities
+    std::int64_t m_mostInInsert = DrawLimit().repeatedEntities;
+    std::int64_t m_mostInWalk = std::numeric_limits<std::int64_t>::max();
     SharedTraits m_table;
     BlockContents m_blocks;
     std::set<std::uint64_t> m_partlyDrawn;

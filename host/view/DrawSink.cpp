@@ -61,6 +61,7 @@ void AppearanceSink::takeStroke(std::span<const PlanPoint> points, StrokeRole ro
     m_appearance.strokes.push_back({.points = {points.begin(), points.end()},
                                     .rgb = pen.rgb,
                                     .role = role,
+                                    .weight = pen.weight,
                                     .dashes = dashesOf(pen)});
 }
 

@@ -14,6 +14,7 @@ struct Pen {
     std::uint32_t rgb = 0xFFFFFF;
     const std::vector<double>* dashes = nullptr; // of a line type at scale 1; null is continuous
     double dashScale = 1.0;
+    std::int16_t weight = kUsualWeight;
 
     friend bool operator==(const Pen&, const Pen&) = default;
 };

@@ -12,9 +12,12 @@ namespace {
 
 // What one insert, with all that is in it, may come to.
 constexpr std::size_t kDeepestInsert = 32;
-constexpr std::int64_t kMostRepeated = 50'000;
-constexpr std::size_t kMostPointsRepeated = 1'000'000;
 constexpr std::int64_t kFewEntities = 100;
+
+bool isInsert(const EntityReading& entity) {
+    const auto* const shape = std::get_if<EntityShape>(&entity.geometry);
+    return shape != nullptr && std::holds_alternative<InsertShape>(*shape);
+}
 
 } // namespace
 
@@ -27,13 +30,15 @@ bool EntityDrawer::draw(const EntityReading& entity, const Context& context, Pla
     const EntityTraits& traits = entity.traits();
     const bool inherits = context.insertLayer != nullptr && traits.layer == L"0";
     const LayerTraits& layer = inherits ? *context.insertLayer : m_table.layer(traits.layer);
-    if (!traits.visible || !layer.seen) {
+    // An insert on a layer that isn't listed still shows what lies on listed ones.
+    if (!traits.visible || !layer.seen || (!layer.listed && !isInsert(entity))) {
         return false;
     }
     Means means{layer, {}, traits.linetypeScale};
     if (m_sink.wantsPens()) {
         means.pen = m_table.pen(traits.color, traits.linetype, traits.linetypeScale, layer,
                                 context.byBlock);
+        means.pen.weight = SharedTraits::weight(traits.lineweight, layer, context.byBlock);
     }
     if (const auto* mline = std::get_if<std::shared_ptr<const MlineContent>>(&entity.geometry)) {
         if (*mline != nullptr) {
@@ -46,7 +51,9 @@ bool EntityDrawer::draw(const EntityReading& entity, const Context& context, Pla
         if constexpr (std::is_same_v<Shape, InsertShape>) {
             drawInsert(shape, means, sink);
             for (const TextShape& attribute : shape.attributes) {
-                paintShape(attribute, means.pen, sink);
+                if (layer.listed) {
+                    paintShape(attribute, means.pen, sink);
+                }
             }
         } else if constexpr (!std::is_same_v<Shape, NoShape>) {
             paintShape(shape, means.pen, sink);
@@ -62,7 +69,9 @@ void EntityDrawer::drawMultiline(const MlineContent& mline, const Means& means, 
     if (m_sink.wantsPens()) {
         // By block means by the multiline: it is to its elements what an insert is to a block.
         const auto penOf = [&](const KdCmColor& color, const std::wstring& linetype) {
-            return m_table.pen(color, linetype, means.linetypeScale, means.layer, means.pen);
+            Pen pen = m_table.pen(color, linetype, means.linetypeScale, means.layer, means.pen);
+            pen.weight = means.pen.weight;
+            return pen;
         };
         pens.own = means.pen;
         if (style != nullptr) {
@@ -124,9 +133,9 @@ void EntityDrawer::drawRepeatable(const EntityReading& entity, const Context& co
     draw(entity, context, sink);
     if (isRepeated) {
         ++m_entitiesRepeated;
-        const auto* const shape = std::get_if<EntityShape>(&entity.geometry);
-        const bool isInsert = shape != nullptr && std::holds_alternative<InsertShape>(*shape);
-        m_pointsRepeated += isInsert ? 0 : m_sink.pointCount() - before; // counted inside of it
+        // Those of inserts are counted inside of them.
+        m_pointsRepeated +=
+            isInsert(entity) ? 0 : static_cast<std::int64_t>(m_sink.pointCount() - before);
     }
 }
 
@@ -137,11 +146,11 @@ std::int64_t EntityDrawer::insertWork() const {
 }
 
 bool EntityDrawer::isExhausted(bool isRepeated) const {
-    if (m_limit == DrawLimit::beginnings && m_entitiesDrawn >= kFewEntities) {
+    if (m_limit.onlyBeginning && m_entitiesDrawn >= kFewEntities) {
         return true;
     }
-    return isRepeated &&
-           (m_entitiesRepeated >= kMostRepeated || m_pointsRepeated >= kMostPointsRepeated);
+    return isRepeated && (m_entitiesRepeated >= m_limit.repeatedEntities ||
+                          m_pointsRepeated >= m_limit.repeatedPoints);
 }
 
 } // namespace orvex

@@ -13,9 +13,11 @@
 namespace orvex {
 
 // How much one insert may draw.
-enum class DrawLimit : std::uint8_t {
-    repetitions, // each block once, however large; repetitions of them up to a limit
-    beginnings,  // the first few entities
+struct DrawLimit {
+    // Each block once, however large; of repetitions inside of it so many entities and points.
+    std::int64_t repeatedEntities = 50'000;
+    std::int64_t repeatedPoints = 1'000'000;
+    bool onlyBeginning = false; // the first few entities of it all
 };
 
 // Draws one entity of model space, with all that it inserts. A block that is inserted once costs
@@ -24,7 +26,7 @@ enum class DrawLimit : std::uint8_t {
 class EntityDrawer {
 public:
     EntityDrawer(SharedTraits& table, BlockContents& blocks, DrawSink& sink,
-                 DrawLimit limit = DrawLimit::repetitions)
+                 const DrawLimit& limit = {})
         : m_table(table), m_blocks(blocks), m_sink(sink), m_limit(limit) {}
 
     // False, with nothing drawn, when the entity isn't seen for its layer or by itself.
@@ -32,6 +34,8 @@ public:
 
     // What inserts have cost so far, about in points.
     [[nodiscard]] std::int64_t insertWork() const;
+    // What blocks inside of inserts have repeated.
+    [[nodiscard]] std::int64_t repeatedEntities() const { return m_entitiesRepeated; }
     // True when a limit left something out.
     [[nodiscard]] bool isPartial() const { return m_isPartial; }
 
@@ -65,7 +69,7 @@ private:
     bool m_isPartial = false;
     std::int64_t m_entitiesDrawn = 0; // by inserts
     std::int64_t m_entitiesRepeated = 0;
-    std::size_t m_pointsRepeated = 0;
+    std::int64_t m_pointsRepeated = 0;
 };
 
 } // namespace orvex

@@ -361,6 +361,18 @@ std::vector<std::uint64_t> Scene::partlyDrawn() const {
     return {handles.begin(), handles.end()};
 }
 
+void Scene::showOnlyLayers(const std::vector<std::wstring>& names) {
+    m_state->maker.showOnlyLayers(names);
+    m_state->cache.clear();
+    m_state->rebuild();
+}
+
+void Scene::limitRepetitions(std::int64_t inInsert, std::int64_t inAll) {
+    m_state->maker.limitRepetitions(inInsert, inAll);
+    m_state->cache.clear();
+    m_state->rebuild();
+}
+
 void Scene::hide(KdDbStub& entity) {
     if (m_state->hidden.insert(&entity).second) {
         m_state->shownOrHidden.push_back(&entity);

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 class KdDbDatabase;
@@ -64,6 +65,11 @@ public:
     // Handles of the entities that are drawn in part, in ascending order, as far as boxes or
     // appearances were made: their blocks insert each other too often for all of it.
     [[nodiscard]] std::vector<std::uint64_t> partlyDrawn() const;
+
+    // Entities on other layers are neither drawn nor found; all are again without names.
+    void showOnlyLayers(const std::vector<std::wstring>& names);
+    // How many entities blocks within blocks may repeat in one insert, and in all of them together.
+    void limitRepetitions(std::int64_t inInsert, std::int64_t inAll);
 
     // Hidden entities are neither drawn nor found.
     void hide(KdDbStub& entity);

@@ -1,11 +1,14 @@
 #include "SharedTraits.h"
 
 #include "DatabaseCore.h"
+#include "EntityTraits.h"
 #include "KdDbLayerTable.h"
 #include "KdDbLinetypeTable.h"
 #include "KdDbMlineStyle.h"
 #include "WellKnownObjects.h"
 #include "textCodec.h"
+
+#include <algorithm>
 
 namespace orvex {
 
@@ -22,6 +25,12 @@ const T* readObject(DatabaseCore& core, KdDbStub* stub) {
     return fits ? static_cast<const T*>(object) : nullptr;
 }
 
+std::int16_t absoluteWeight(int lineweight) {
+    constexpr int kHeaviest = 211;
+    return lineweight >= 0 ? static_cast<std::int16_t>(std::min(lineweight, kHeaviest))
+                           : kUsualWeight;
+}
+
 } // namespace
 
 const LayerTraits& SharedTraits::layer(const std::wstring& name) {
@@ -32,10 +41,12 @@ const LayerTraits& SharedTraits::layer(const std::wstring& name) {
     KdDbStub* const stub = m_core.wellKnown().findLayer(name);
     if (const auto* record = readObject<KdDbLayerTableRecord>(m_core, stub)) {
         appearance.pen.rgb = record->color().rgb();
+        appearance.pen.weight = absoluteWeight(record->lineweight());
         appearance.seen = !record->isOff() && !record->isFrozen();
         const Linetype& own = linetype(record->linetype());
         appearance.pen.dashes = own.dashes.empty() ? nullptr : &own.dashes;
     }
+    appearance.listed = m_listed.empty() || m_listed.contains(foldCase(name));
     m_missedOne = m_missedOne || stub == nullptr;
     m_covered.insert(stub);
     return m_layers.emplace(name, appearance).first->second;
@@ -100,6 +111,20 @@ Pen SharedTraits::pen(const KdCmColor& color, const std::wstring& linetype, doub
     }
     pen.dashScale = m_scale * (scale > 0.0 ? scale : 1.0);
     return pen;
+}
+
+std::int16_t SharedTraits::weight(int lineweight, const LayerTraits& layer, const Pen& byBlock) {
+    return lineweight == kLineweightByLayer   ? layer.pen.weight
+           : lineweight == kLineweightByBlock ? byBlock.weight
+                                              : absoluteWeight(lineweight);
+}
+
+void SharedTraits::showOnly(const std::vector<std::wstring>& layers) {
+    forget();
+    m_listed.clear();
+    for (const std::wstring& name : layers) {
+        m_listed.insert(foldCase(name));
+    }
 }
 
 std::wstring SharedTraits::linetypeName(const StyleElement& element) {

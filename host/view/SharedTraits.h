@@ -18,7 +18,8 @@ class DatabaseCore;
 // What a layer gives its entities.
 struct LayerTraits {
     Pen pen;
-    bool seen = true; // neither frozen nor off
+    bool seen = true;   // neither frozen nor off
+    bool listed = true; // among the layers to be shown
 };
 
 // Looks up what entities share: layers, line types, styles. What was looked up is kept until
@@ -35,6 +36,11 @@ public:
     // entity's line type scale; the drawing's own comes on top.
     Pen pen(const KdCmColor& color, const std::wstring& linetype, double scale,
             const LayerTraits& layer, const Pen& byBlock);
+    // The same for a line weight, in hundredths of a millimetre.
+    [[nodiscard]] static std::int16_t weight(int lineweight, const LayerTraits& layer,
+                                             const Pen& byBlock);
+    // From now on these layers alone are listed; all when there are none.
+    void showOnly(const std::vector<std::wstring>& layers);
     // The name of an element's line type.
     std::wstring linetypeName(const StyleElement& element);
 
@@ -55,6 +61,7 @@ private:
     std::unordered_map<std::wstring, LayerTraits> m_layers;
     std::unordered_map<std::wstring, Linetype> m_linetypes;
     std::unordered_set<const KdDbStub*> m_covered;
+    std::unordered_set<std::wstring> m_listed; // in one case; empty for all
     bool m_missedOne = false; // a name was asked for that a new object might now have
     double m_scale = 0.0;     // 0 until a line type is scaled
 };

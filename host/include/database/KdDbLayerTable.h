@@ -19,6 +19,9 @@ public:
     void setColor(const KdCmColor& color);
     [[nodiscard]] const std::wstring& linetype() const { return m_linetype; }
     void setLinetype(const wchar_t* name);
+    // Hundredths of a millimetre on paper; -3 for the usual one.
+    [[nodiscard]] int lineweight() const { return m_lineweight; }
+    void setLineweight(int lineweight);
     [[nodiscard]] bool isOff() const { return m_off; }
     void setIsOff(bool off);
     [[nodiscard]] bool isFrozen() const { return m_frozen; }
@@ -32,6 +35,7 @@ public:
 private:
     KdCmColor m_color;
     std::wstring m_linetype = L"Continuous";
+    int m_lineweight = -3;
     bool m_off = false;
     bool m_frozen = false;
     bool m_locked = false;
