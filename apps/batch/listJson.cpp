@@ -7,122 +7,188 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <array>
+#include <cmath>
 #include <cstdio>
 #include <span>
+#include <string>
 
 namespace orvex {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+using Json = nlohmann::json;
 
-template <class Triple>
-Json tripleJson(const Triple& triple) {
-    Json json = Json::array();
-    json.push_back(triple.x);
-    json.push_back(triple.y);
-    json.push_back(triple.z);
-    return json;
-}
-
-Json listJson(std::span<const double> values) {
-    Json json = Json::array();
-    for (const double value : values) {
-        json.push_back(value);
+// Writes JSON as it comes, without a tree of it: a large drawing's list is millions of numbers.
+// Strings and numbers look as the library prints them.
+class JsonText {
+public:
+    void open(char bracket) {
+        separate();
+        m_text += bracket;
+        m_isFirst = true;
     }
-    return json;
-}
+    void close(char bracket) {
+        m_text += bracket;
+        m_isFirst = false;
+    }
+    // A member's name; its value has to follow.
+    JsonText& key(const char* name) {
+        separate();
+        m_text += '"';
+        m_text += name;
+        m_text += "\":";
+        m_isFirst = true;
+        return *this;
+    }
+    void value(double number) {
+        separate();
+        if (!std::isfinite(number)) {
+            m_text += "null";
+            return;
+        }
+        std::array<char, 64> digits{};
+        const char* const end =
+            nlohmann::detail::to_chars(digits.data(), digits.data() + digits.size(), number);
+        m_text.append(static_cast<const char*>(digits.data()), end);
+    }
+    void value(int number) {
+        separate();
+        m_text += std::to_string(number);
+    }
+    void value(const std::string& text) {
+        separate();
+        const bool isPlain = std::ranges::all_of(
+            text, [](char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; });
+        m_text += isPlain ? '"' + text + '"' : Json(text).dump();
+    }
+    template <class Triple>
+    void triple(const char* name, const Triple& triple) {
+        key(name).open('[');
+        value(triple.x);
+        value(triple.y);
+        value(triple.z);
+        close(']');
+    }
+    void numbers(const char* name, std::span<const double> values) {
+        key(name).open('[');
+        for (const double each : values) {
+            value(each);
+        }
+        close(']');
+    }
+    template <class Value>
+    void member(const char* name, const Value& content) {
+        key(name).value(content);
+    }
 
-Json colorJson(const KdCmColor& color) {
-    Json json;
-    json["index"] = color.colorIndex();
+    // Prints what was written, and begins anew.
+    void print() {
+        std::fwrite(m_text.data(), 1, m_text.size(), stdout);
+        m_text.clear();
+        m_isFirst = true;
+    }
+
+private:
+    void separate() {
+        if (!m_isFirst) {
+            m_text += ',';
+        }
+        m_isFirst = false;
+    }
+
+    std::string m_text;
+    bool m_isFirst = true; // nothing stands before what comes next in its array or object
+};
+
+void writeColor(JsonText& json, const char* name, const KdCmColor& color) {
+    json.key(name).open('{');
+    json.member("index", static_cast<int>(color.colorIndex()));
     if (color.colorMethod() == KdCmColor::byColor) {
         char text[8];
         std::snprintf(text, sizeof text, "#%06X", color.color() & 0xFFFFFFU);
-        json["rgb"] = text;
+        json.member("rgb", std::string(text));
     }
     if (color.hasColorName()) {
         std::wstring key(static_cast<std::size_t>(color.dictionaryKeyLength()) + 1, L'\0');
         color.getDictionaryKey(key.data());
-        json["book"] = printableText(narrow(key.c_str()));
+        json.member("book", printableText(narrow(key.c_str())));
     }
-    return json;
+    json.close('}');
 }
 
-// Entries are moved in one by one: a list in braces would copy each of them.
-Json vertexJson(const MlineContent& content, unsigned vertex) {
+void writeVertex(JsonText& json, const MlineContent& content, unsigned vertex) {
     const ChainVertex& place = content.vertices[vertex];
-    Json json;
-    json["position"] = tripleJson(place.position);
-    json["axis"] = tripleJson(place.axis);
-    json["miter"] = tripleJson(place.miter);
-    Json elements = Json::array();
+    json.open('{');
+    json.triple("position", place.position);
+    json.triple("axis", place.axis);
+    json.triple("miter", place.miter);
+    json.key("elements").open('[');
     for (unsigned i = 0; i < content.lists.elementCount(vertex); ++i) {
-        Json element;
-        element["line"] = listJson(content.lists.line(vertex, i));
-        element["area"] = listJson(content.lists.area(vertex, i));
-        elements.push_back(std::move(element));
+        json.open('{');
+        json.numbers("line", content.lists.line(vertex, i));
+        json.numbers("area", content.lists.area(vertex, i));
+        json.close('}');
     }
-    json["elements"] = std::move(elements);
-    return json;
+    json.close(']');
+    json.close('}');
 }
 
-Json mlineJson(const ListedMline& mline) {
+void writeMline(JsonText& json, const ListedMline& mline) {
     const MlineContent& content = *mline.content;
-    Json json;
-    json["handle"] = mline.handle;
-    json["block"] = mline.block;
-    json["layer"] = mline.layer;
-    json["style"] = mline.style;
-    json["scale"] = content.scale;
-    json["justification"] = content.justification;
-    json["flags"] = mline.flags;
-    json["normal"] = tripleJson(content.normal);
-    Json vertices = Json::array();
+    json.open('{');
+    json.member("handle", mline.handle);
+    json.member("block", mline.block);
+    json.member("layer", mline.layer);
+    json.member("style", mline.style);
+    json.member("scale", content.scale);
+    json.member("justification", content.justification);
+    json.member("flags", mline.flags);
+    json.triple("normal", content.normal);
+    json.key("vertices").open('[');
     for (unsigned i = 0; i < content.vertices.size(); ++i) {
-        vertices.push_back(vertexJson(content, i));
+        writeVertex(json, content, i);
     }
-    json["vertices"] = std::move(vertices);
-    return json;
+    json.close(']');
+    json.close('}');
 }
 
-Json styleJson(const ListedStyle& style) {
-    Json json;
-    json["handle"] = style.handle;
-    json["name"] = style.name;
-    json["description"] = style.description;
-    json["flags"] = style.flags;
-    json["startAngle"] = style.startAngle;
-    json["endAngle"] = style.endAngle;
-    json["fill"] = colorJson(style.fill);
-    Json elements = Json::array();
+void writeStyle(JsonText& json, const ListedStyle& style) {
+    json.open('{');
+    json.member("handle", style.handle);
+    json.member("name", style.name);
+    json.member("description", style.description);
+    json.member("flags", style.flags);
+    json.member("startAngle", style.startAngle);
+    json.member("endAngle", style.endAngle);
+    writeColor(json, "fill", style.fill);
+    json.key("elements").open('[');
     for (const ListedElement& each : style.elements) {
-        Json element;
-        element["offset"] = each.offset;
-        element["color"] = colorJson(each.color);
-        element["linetype"] = each.linetype;
-        elements.push_back(std::move(element));
+        json.open('{');
+        json.member("offset", each.offset);
+        writeColor(json, "color", each.color);
+        json.member("linetype", each.linetype);
+        json.close('}');
     }
-    json["elements"] = std::move(elements);
-    return json;
+    json.close(']');
+    json.close('}');
 }
 
-// Prints the entries of an array one by one: a large drawing's list is never held as a whole.
-class ArrayPrinter {
+// Begins the next entry of an array.
+class EntrySeparator {
 public:
-    explicit ArrayPrinter(const char* separator) : m_separator(separator) {}
+    explicit EntrySeparator(const char* lineEnd) : m_lineEnd(lineEnd) {}
 
-    void print(const Json& entry) {
+    void print() {
         std::fputs(m_count == 0 ? "" : ",", stdout);
-        std::fputs(m_separator, stdout);
+        std::fputs(m_lineEnd, stdout);
         ++m_count;
-        const std::string text = entry.dump();
-        std::fwrite(text.data(), 1, text.size(), stdout);
     }
     [[nodiscard]] std::size_t count() const { return m_count; }
 
 private:
-    const char* m_separator;
+    const char* m_lineEnd;
     std::size_t m_count = 0;
 };
 
@@ -130,16 +196,23 @@ private:
 
 ListCounts printListAsJson(KdDbDatabase& database, const DrawingTask& task) {
     // An object a line where there are several, else an entry a line.
-    const char* const separator = task.isOneOfMany ? "" : "\n";
+    const char* const lineEnd = task.isOneOfMany ? "" : "\n";
+    JsonText json;
     std::printf("{%s\"multilines\":[", drawingMember(task).c_str());
-    ArrayPrinter mlines(separator);
-    forEachMline(database, [&](const ListedMline& mline) { mlines.print(mlineJson(mline)); });
-    std::printf("%s],\"styles\":[", separator);
-    ArrayPrinter styles(separator);
+    EntrySeparator mlines(lineEnd);
+    forEachMline(database, [&](const ListedMline& mline) {
+        mlines.print();
+        writeMline(json, mline);
+        json.print();
+    });
+    std::printf("%s],\"styles\":[", lineEnd);
+    EntrySeparator styles(lineEnd);
     for (const ListedStyle& style : listStyles(database)) {
-        styles.print(styleJson(style));
+        styles.print();
+        writeStyle(json, style);
+        json.print();
     }
-    std::printf("%s]}\n", separator);
+    std::printf("%s]}\n", lineEnd);
     return {mlines.count(), styles.count()};
 }
 
