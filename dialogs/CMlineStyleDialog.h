@@ -6,6 +6,9 @@
 #include "CStatic.h"
 #include "KdDbObjectId.h"
 
+#include <cstdint>
+#include <memory>
+
 class KdDbMlineStyle;
 
 // The style manager: lists the styles of the open drawing and makes, changes, renames, deletes,
@@ -62,4 +65,8 @@ private:
     CStdStr<wchar_t> m_currentStyle; // as the label shows it, which CMLSTYLE need not hold
     long m_dictionaryName[2] = {0, 0};
     KdDbObjectId m_dictionaryId; // null where the drawing has no dictionary of styles
+    // The interface fixes the two. Nothing sets them; what the first points to goes with the
+    // dialog.
+    std::unique_ptr<CDialog> m_owned;
+    [[maybe_unused]] std::uint64_t m_ownedWord = 0;
 };

@@ -3,6 +3,7 @@
 #include "CMlineStyleDialog.h"
 #include "controlNumbers.h"
 #include "dialogWindow.h"
+#include "elidedLabel.h"
 #include "ui_CMlineStyleDialog.h"
 
 using namespace mledit;
@@ -12,6 +13,7 @@ namespace VOUI {
 CMlineStyleDialog::CMlineStyleDialog(QWidget* parent, CWnd* logic)
     : QBaseDialog(parent), m_layout(std::make_unique<Ui_CMlineStyleDialog>()) {
     m_layout->setupUi(this); // connects the slot of the close button by its name
+    elideLabel(*m_layout->labelCurrentMultilineStyleResult);
     connectWidgets();
     auto* const dialog = dynamic_cast<::CMlineStyleDialog*>(logic);
     if (dialog == nullptr) {

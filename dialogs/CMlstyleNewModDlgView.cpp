@@ -24,8 +24,7 @@ CMlstyleNewModDlg::CMlstyleNewModDlg(QWidget* parent, CWnd* logic)
 
 CMlstyleNewModDlg::~CMlstyleNewModDlg() = default;
 
-void CMlstyleNewModDlg::showEvent(QShowEvent* event) {
-    QBaseDialog::showEvent(event);
+void CMlstyleNewModDlg::prepareShown() {
     // The scroll bar of a long table comes last. The last column takes what is left of the width,
     // but never less than its own.
     QHeaderView& headings = *m_layout->listWidget->horizontalHeader();
@@ -39,6 +38,7 @@ void CMlstyleNewModDlg::showEvent(QShowEvent* event) {
 void CMlstyleNewModDlg::connectWidgets() {
     using View = CMlstyleNewModDlg;
     const Ui_CMlstyleNewModDlg& ui = *m_layout;
+    connect(this, &QBaseDialog::shown, this, &View::prepareShown);
     connect(ui.chkBoxOpen, &QCheckBox::clicked, this, &View::OnOpenCloseFill);
     connect(ui.listWidget, &QTableWidget::itemClicked, this, &View::OnClickList);
     connect(ui.pBtnAdd, &QPushButton::clicked, this, &View::OnAddElement);

@@ -24,9 +24,6 @@ public slots:
     void OnOK() override;
     void OnCancel() override;
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private slots:
     void OnOpenCloseFill();
     void OnClickList();
@@ -41,6 +38,7 @@ private slots:
 
 private:
     void connectWidgets();
+    void prepareShown();
     void registerWidgets(::CMlstyleNewModDlg& logic);
     void notify(void (::CMlstyleNewModDlg::*handler)());
 

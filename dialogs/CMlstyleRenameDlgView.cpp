@@ -3,6 +3,7 @@
 #include "CMlstyleRenameDlg.h"
 #include "controlNumbers.h"
 #include "dialogWindow.h"
+#include "elidedLabel.h"
 #include "ui_CMlstyleRenameDlg.h"
 
 using namespace mledit;
@@ -13,6 +14,7 @@ CMlstyleRenameDlg::CMlstyleRenameDlg(QWidget* parent, CWnd* logic)
     : QBaseDialog(parent), m_layout(std::make_unique<Ui_CMlstyleRenameDlg>()) {
     m_layout->setupUi(this);
     m_layout->renameComBo->hide();
+    elideLabel(*m_layout->labelOldStyleNameResult);
     connect(m_layout->pBtnOK, &QPushButton::clicked, this, &CMlstyleRenameDlg::OnOK);
     connect(m_layout->pBtnCancel, &QPushButton::clicked, this, &CMlstyleRenameDlg::OnCancle);
     connect(m_layout->lineEditNewStyleName, &QLineEdit::textChanged, this,

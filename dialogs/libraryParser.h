@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CStdStr.h"
+#include "byteOrderMark.h"
 
 #include <cstdint>
 #include <functional>
@@ -14,10 +15,11 @@ namespace mledit {
 
 // The lines of a library as the readers see them: wide, without the line feed, and at most 2047
 // characters long; the rest of a longer one comes as a further line. A carriage return stays in
-// the line. Invalid UTF-8 is replaced.
+// the line. Invalid UTF-8 is replaced, a byte-order mark at the front left out.
 class LibraryLines {
 public:
-    explicit LibraryLines(std::string_view bytes) : m_bytes(bytes) {} // has to outlive the lines
+    // The bytes have to outlive the lines.
+    explicit LibraryLines(std::string_view bytes) : m_bytes(orvex::withoutByteOrderMark(bytes)) {}
 
     std::optional<std::wstring> next(); // nothing at the end
 

@@ -4,6 +4,7 @@
 #include "KdDbLinetypeTable.h"
 #include "KdDbMlineStyle.h"
 #include "KdString.h"
+#include "byteOrderMark.h"
 #include "colorTexts.h"
 #include "fieldNumbers.h"
 #include "kddbObjects.h"
@@ -181,9 +182,10 @@ std::vector<std::string> styleBlockLines(const KdDbMlineStyle& style) {
 
 std::string withStyleBlock(std::string_view library, std::wstring_view name,
                            const std::vector<std::string>& block) {
-    const Lines lines = linesOf(library);
+    const std::string_view text = orvex::withoutByteOrderMark(library);
+    const Lines lines = linesOf(text);
     const Range old = findBlock(lines, oneLine(std::wstring(name)));
-    std::string result;
+    std::string result(library.substr(0, library.size() - text.size())); // the mark stays
     append(result, lines, 0, old.begin);
     append(result, block, 0, block.size());
     append(result, lines, old.end, lines.size());

@@ -55,7 +55,6 @@ int showWindow(const DeskCall& call, int argc, char** argv) {
     qInstallMessageHandler(before);
     QApplication::setApplicationName(QStringLiteral("orvex-desk"));
     QApplication::setApplicationVersion(QStringLiteral(ORVEX_VERSION));
-    QApplication::setApplicationDisplayName(QStringLiteral("Orvex"));
     QGuiApplication::setDesktopFileName(QStringLiteral("orvex-desk"));
     if (loadResourceDll(L"ORVEXRes.dll") != nullptr) {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/ORVEXRes/128.svg")));

@@ -1,5 +1,6 @@
 #include "LinetypeFile.h"
 
+#include "byteOrderMark.h"
 #include "textCodec.h"
 
 #include <charconv>
@@ -88,10 +89,7 @@ std::optional<std::vector<double>> toDashes(std::string_view line) {
 
 std::optional<LinetypeDefinition> findLinetypeDefinition(std::string_view text,
                                                          std::wstring_view name) {
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(kByteOrderMark)) {
-        text.remove_prefix(kByteOrderMark.size());
-    }
+    text = withoutByteOrderMark(text);
     const std::wstring wanted = foldCase(name);
     std::string_view line;
     while (nextLine(text, line)) {

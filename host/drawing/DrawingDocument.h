@@ -6,6 +6,7 @@
 #include "ObjectSource.h"
 #include "RecordContext.h"
 #include "RecordTable.h"
+#include "byteOrderMark.h"
 
 #include <memory>
 #include <string>
@@ -19,7 +20,6 @@ struct BlockEntities;
 
 // The first version with multilines.
 constexpr std::string_view kOldestVersion = "AC1012";
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // A run of records, from the one that opens it to the one that closes it.
 struct RecordRun {

@@ -2,6 +2,7 @@
 
 #include "answerFromText.h"
 #include "blanks.h"
+#include "byteOrderMark.h"
 #include "textCodec.h"
 #include "typedAnswer.h"
 
@@ -11,7 +12,6 @@ namespace orvex {
 
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::wstring_view kCancel = L"*CANCEL*";
 
 // Length of the UTF-8 character at the beginning of a text that isn't empty; 0 when it is none.
@@ -43,9 +43,7 @@ std::size_t characterLength(std::string_view text) {
 } // namespace
 
 ScriptSource::ScriptSource(std::string_view utf8, Printer printer) : m_printer(std::move(printer)) {
-    if (utf8.starts_with(kByteOrderMark)) {
-        utf8.remove_prefix(kByteOrderMark.size());
-    }
+    utf8 = withoutByteOrderMark(utf8);
     for (std::size_t number = 1; !utf8.empty(); ++number) {
         const std::size_t end = utf8.find('\n');
         std::string_view line = utf8.substr(0, end);

@@ -83,18 +83,25 @@ void QBaseDialog::enter() {
     }
 }
 
+// Over the window that was active, unless it has a place.
+void QBaseDialog::place(QWidget& below, bool isPlaced) {
+    if (windowHandle() != nullptr) {
+        windowHandle()->setTransientParent(below.windowHandle());
+    }
+    if (!isPlaced) {
+        adjustPosition(&below);
+        setAttribute(Qt::WA_Moved, false); // nobody asked for this very place
+    }
+}
+
 void QBaseDialog::showEvent(QShowEvent* event) {
     const bool isPlaced = testAttribute(Qt::WA_Moved);
     QDialog::showEvent(event);
-    QWidget* const below = parentWidget() == nullptr ? windowBelow(*this) : nullptr;
-    if (event->spontaneous() || below == nullptr) {
+    if (event->spontaneous()) {
         return;
     }
-    if (windowHandle() != nullptr) {
-        windowHandle()->setTransientParent(below->windowHandle());
+    if (QWidget* const below = parentWidget() == nullptr ? windowBelow(*this) : nullptr) {
+        place(*below, isPlaced);
     }
-    if (!isPlaced) {
-        adjustPosition(below);
-        setAttribute(Qt::WA_Moved, false); // nobody asked for this very place
-    }
+    emit shown();
 }

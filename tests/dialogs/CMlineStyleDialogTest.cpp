@@ -10,10 +10,12 @@
 #include "styleSample.h"
 #include "systemVariables.h"
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTextEdit>
+#include <QToolTip>
 
 #include <gmock/gmock.h>
 
@@ -102,6 +104,21 @@ TEST_F(StyleManager, enablesTheButtonsOfWhatMayBeDone) {
         use("Wall");
         use("STANDARD");
     }
+}
+
+TEST_F(StyleManager, keepsItsSizeWhateverTheNameOfTheCurrentStyle) {
+    const std::string longName(255, 'W');
+    addStyle(std::wstring(255, L'W').c_str());
+    makeCurrent(longName.c_str());
+    manage([&] {
+        EXPECT_EQ(m_dialog->GetSafeHwnd()->size(), QSize(520, 500));
+        EXPECT_EQ(current(), longName);
+        auto& name = child<QLabel>(*m_dialog, "labelCurrentMultilineStyleResult");
+        QHelpEvent asks(QEvent::ToolTip, QPoint(1, 1), name.mapToGlobal(QPoint(1, 1)));
+        QCoreApplication::sendEvent(&name, &asks);
+        EXPECT_TRUE(QToolTip::text().contains(QString::fromStdString(longName)));
+        close();
+    });
 }
 
 TEST_F(StyleManager, showsTheCurrentStyleFirstAndTextsAsTheyAre) {

@@ -186,6 +186,7 @@ TEST_F(StyleLibrary, replacesABlockInItsPlace) {
         {"MLSTYLE\nMLSTYLE\n2\n wall\n0\n", "MLSTYLE\nMLSTYLE\n2\n wall\n0\n" + text},
         {"MLSTYLE\n2\n A\nMLSTYLE\n2\n wall\n0\nMLSTYLE\n2\n wall\n0\n",
          "MLSTYLE\n2\n A\n" + text + "MLSTYLE\n2\n wall\n0\n"},
+        {"\xEF\xBB\xBFMLSTYLE\n2\n wall\n0\nx\n", "\xEF\xBB\xBF" + text + "x\n"},
     };
     for (const auto& each : cases) {
         EXPECT_EQ(withStyleBlock(each.before, L"Wall", block), each.after) << each.before;
@@ -239,6 +240,7 @@ TEST_F(StyleLibrary, findsABlockByItsThreeLines) {
         {"MLSTYLE\n2\n A\n3\n", L"A", false}, // no value
         {"MLSTYLE\n2\n A\n9", L"A", true},    // the end of the file in a line is an end
         {"MLSTYLE\n2\n B\n0\nx", L"A", true},
+        {"\xEF\xBB\xBFMLSTYLE\n2\n A\n0\n", L"A", true},
     };
     for (const auto& each : cases) {
         KdDbMlineStyle style;

@@ -20,10 +20,14 @@ public:
 
     void reject() override;
 
+signals:
+    void shown(); // each time, once it is placed
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void enter();
+    void place(QWidget& below, bool isPlaced);
 };
