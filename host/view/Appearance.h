@@ -32,13 +32,23 @@ enum class StrokeRole : std::uint8_t { line, cap, joint };
 // Of lines on paper, in hundredths of a millimetre, where nothing else is said.
 constexpr std::int16_t kUsualWeight = 25;
 
-// A chain of straight pieces in one colour; arcs come as chains.
+// Points of a stroke that stand for an arc, from its one end to its other.
+struct ArcSpan {
+    std::uint32_t first = 0;
+    std::uint32_t last = 0;
+
+    friend bool operator==(const ArcSpan&, const ArcSpan&) = default;
+};
+
+// A chain of straight pieces in one colour; arcs come as chains. Points that aren't within an arc
+// are the entity's own, to the bit.
 struct Stroke {
     std::vector<PlanPoint> points; // one point is a dot
     std::uint32_t rgb = 0xFFFFFF;
     StrokeRole role = StrokeRole::line;
     std::int16_t weight = kUsualWeight; // hundredths of a millimetre on paper
-    std::uint32_t dashes = 0; // index into Appearance::dashPatterns plus 1; 0 is continuous
+    std::uint32_t dashes = 0;    // index into Appearance::dashPatterns plus 1; 0 is continuous
+    std::vector<ArcSpan> arcs{}; // in ascending order
 };
 
 struct Fill {
@@ -63,6 +73,7 @@ struct Appearance {
     std::vector<Stroke> strokes; // a multiline's element lines, then caps and joints
     std::vector<Label> labels;
     std::vector<std::vector<double>> dashPatterns; // drawing units, line type scales applied
+    std::vector<std::vector<PlanPoint>> chains;    // of multilines, not drawn; closed ones return
     bool seen = true; // false on frozen or switched-off layers, and for invisible entities
 
     [[nodiscard]] PlanBox box() const;

@@ -11,7 +11,11 @@ std::size_t bytesOf(const Appearance& appearance) {
     constexpr std::size_t kBlock = 32;
     std::size_t bytes = sizeof(Appearance) + 2 * kBlock;
     for (const Stroke& stroke : appearance.strokes) {
-        bytes += sizeof(Stroke) + kBlock + stroke.points.size() * sizeof(PlanPoint);
+        bytes += sizeof(Stroke) + kBlock + stroke.points.size() * sizeof(PlanPoint) +
+                 stroke.arcs.size() * sizeof(ArcSpan);
+    }
+    for (const auto& chain : appearance.chains) {
+        bytes += sizeof(chain) + kBlock + chain.size() * sizeof(PlanPoint);
     }
     for (const Fill& fill : appearance.fills) {
         bytes += sizeof(Fill) + kBlock + fill.outline.size() * sizeof(PlanPoint);

@@ -33,10 +33,17 @@ bool isUsablePattern(const std::vector<double>& dashes, double scale) {
 
 } // namespace
 
-void DrawSink::stroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) {
+void DrawSink::stroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen,
+                      std::span<const ArcSpan> arcs) {
     m_pointCount += points.size();
     if (!points.empty() && isDrawable(points)) {
-        takeStroke(points, role, pen);
+        takeStroke(points, role, pen, arcs);
+    }
+}
+
+void DrawSink::chain(std::span<const PlanPoint> points) {
+    if (!points.empty() && isDrawable(points)) {
+        takeChain(points);
     }
 }
 
@@ -56,13 +63,18 @@ void DrawSink::label(const Label& label) {
     }
 }
 
-void AppearanceSink::takeStroke(std::span<const PlanPoint> points, StrokeRole role,
-                                const Pen& pen) {
+void AppearanceSink::takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen,
+                                std::span<const ArcSpan> arcs) {
     m_appearance.strokes.push_back({.points = {points.begin(), points.end()},
                                     .rgb = pen.rgb,
                                     .role = role,
                                     .weight = pen.weight,
-                                    .dashes = dashesOf(pen)});
+                                    .dashes = dashesOf(pen),
+                                    .arcs = {arcs.begin(), arcs.end()}});
+}
+
+void AppearanceSink::takeChain(std::span<const PlanPoint> points) {
+    m_appearance.chains.emplace_back(points.begin(), points.end());
 }
 
 void AppearanceSink::takeFill(std::span<const PlanPoint> outline, std::uint32_t rgb) {
@@ -89,7 +101,8 @@ std::uint32_t AppearanceSink::dashesOf(const Pen& pen) {
     return static_cast<std::uint32_t>(found - known.begin() + 1);
 }
 
-void BoxSink::takeStroke(std::span<const PlanPoint> points, StrokeRole, const Pen&) {
+void BoxSink::takeStroke(std::span<const PlanPoint> points, StrokeRole, const Pen&,
+                         std::span<const ArcSpan>) {
     for (const PlanPoint& point : points) {
         m_box.include(point);
     }

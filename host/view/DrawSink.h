@@ -28,7 +28,10 @@ public:
     DrawSink& operator=(const DrawSink&) = delete;
     virtual ~DrawSink() = default;
 
-    void stroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen);
+    void stroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen,
+                std::span<const ArcSpan> arcs = {});
+    // Of a multiline; nothing is drawn of it.
+    void chain(std::span<const PlanPoint> points);
     void fill(std::span<const PlanPoint> outline, std::uint32_t rgb);
     void label(const Label& label);
 
@@ -38,7 +41,9 @@ public:
     [[nodiscard]] virtual bool wantsPens() const = 0;
 
 private:
-    virtual void takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) = 0;
+    virtual void takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen,
+                            std::span<const ArcSpan> arcs) = 0;
+    virtual void takeChain(std::span<const PlanPoint> /*points*/) {}
     virtual void takeFill(std::span<const PlanPoint> outline, std::uint32_t rgb) = 0;
     virtual void takeLabel(const Label& label) = 0;
 
@@ -53,7 +58,9 @@ public:
     [[nodiscard]] bool wantsPens() const override { return true; }
 
 private:
-    void takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) override;
+    void takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen,
+                    std::span<const ArcSpan> arcs) override;
+    void takeChain(std::span<const PlanPoint> points) override;
     void takeFill(std::span<const PlanPoint> outline, std::uint32_t rgb) override;
     void takeLabel(const Label& label) override;
     std::uint32_t dashesOf(const Pen& pen);
@@ -69,7 +76,8 @@ public:
     [[nodiscard]] bool wantsPens() const override { return false; }
 
 private:
-    void takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen) override;
+    void takeStroke(std::span<const PlanPoint> points, StrokeRole role, const Pen& pen,
+                    std::span<const ArcSpan> arcs) override;
     void takeFill(std::span<const PlanPoint> outline, std::uint32_t rgb) override;
     void takeLabel(const Label& label) override;
 

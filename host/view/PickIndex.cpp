@@ -82,6 +82,21 @@ std::vector<std::uint32_t> PickIndex::query(const PlanBox& area) const {
     return numbers;
 }
 
+std::vector<std::uint32_t> PickIndex::nearest(const PlanBox& area, const PlanPoint& place,
+                                              std::size_t most) const {
+    std::vector<std::uint32_t> numbers;
+    if (area.isEmpty() || most == 0) {
+        return numbers;
+    }
+    const auto note = [&numbers](const TreeEntry& entry) { numbers.push_back(entry.second); };
+    m_tree->entries.query(
+        bgi::intersects(treeBox(area)) &&
+            bgi::nearest(TreePoint(place.x, place.y), static_cast<unsigned>(most)),
+        boost::make_function_output_iterator(note));
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+}
+
 const PlanBox& PickIndex::box(std::uint32_t number) const {
     static const PlanBox kEmpty;
     return number < m_boxes.size() ? m_boxes[number] : kEmpty;

@@ -24,6 +24,9 @@ public:
 
     // The numbers of all boxes that meet the area, edges included, in ascending order.
     [[nodiscard]] std::vector<std::uint32_t> query(const PlanBox& area) const;
+    // The same of at most `most` boxes, those nearest to the place.
+    [[nodiscard]] std::vector<std::uint32_t> nearest(const PlanBox& area, const PlanPoint& place,
+                                                     std::size_t most) const;
     [[nodiscard]] PlanBox bounds() const;
     [[nodiscard]] const PlanBox& box(std::uint32_t number) const;     // empty for an unknown number
     [[nodiscard]] std::size_t size() const { return m_boxes.size(); } // empty boxes count

@@ -2,9 +2,15 @@
 
 namespace orvex {
 
-void PlacedSink::stroke(std::span<const KdGePoint3d> chain, StrokeRole role, const Pen& pen) {
-    project(chain);
-    m_sink.stroke(m_plan, role, pen);
+void PlacedSink::stroke(std::span<const KdGePoint3d> points, StrokeRole role, const Pen& pen,
+                        std::span<const ArcSpan> arcs) {
+    project(points);
+    m_sink.stroke(m_plan, role, pen, arcs);
+}
+
+void PlacedSink::chain(std::span<const KdGePoint3d> points) {
+    project(points);
+    m_sink.chain(m_plan);
 }
 
 void PlacedSink::fill(std::span<const KdGePoint3d> outline, std::uint32_t rgb) {

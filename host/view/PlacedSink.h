@@ -17,7 +17,9 @@ public:
     PlacedSink(DrawSink& sink, const Placement& placement)
         : m_sink(sink), m_placement(placement), m_placed(true) {}
 
-    void stroke(std::span<const KdGePoint3d> chain, StrokeRole role, const Pen& pen);
+    void stroke(std::span<const KdGePoint3d> points, StrokeRole role, const Pen& pen,
+                std::span<const ArcSpan> arcs = {});
+    void chain(std::span<const KdGePoint3d> points);
     void fill(std::span<const KdGePoint3d> outline, std::uint32_t rgb);
     void label(const Label& label) { m_sink.label(label); } // in the plan already
 

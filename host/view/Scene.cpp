@@ -218,6 +218,15 @@ void Scene::visit(const PlanBox& area,
     }
 }
 
+void Scene::visitNearest(const PlanBox& area, PlanPoint place, std::size_t most,
+                         const std::function<void(KdDbStub&, const Appearance&)>& visitor) {
+    m_state->prepare();
+    for (const std::uint32_t index : m_state->pickIndex.nearest(area, place, most)) {
+        KdDbStub& entity = *m_state->entities()[index];
+        visitor(entity, m_state->appearance(entity));
+    }
+}
+
 void Scene::visitAll(const std::function<void(KdDbStub&, const Appearance&)>& visitor) {
     m_state->settle();
     for (KdDbStub* entity : m_state->entities()) {

@@ -39,6 +39,9 @@ public:
     // Visits every seen entity whose box meets `area`, in drawing order.
     void visit(const PlanBox& area,
                const std::function<void(KdDbStub&, const Appearance&)>& visitor);
+    // The same of at most `most` entities, those whose boxes are nearest to the place.
+    void visitNearest(const PlanBox& area, PlanPoint place, std::size_t most,
+                      const std::function<void(KdDbStub&, const Appearance&)>& visitor);
     // Every seen entity in drawing order.
     void visitAll(const std::function<void(KdDbStub&, const Appearance&)>& visitor);
 

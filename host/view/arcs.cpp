@@ -63,7 +63,7 @@ std::vector<KdGePoint3d> conicChain(const ConicShape& conic) {
     return chain;
 }
 
-std::vector<KdGePoint3d> polylineChain(const PolylineShape& polyline) {
+std::vector<KdGePoint3d> polylineChain(const PolylineShape& polyline, std::vector<ArcSpan>* arcs) {
     const auto& vertices = polyline.vertices;
     std::vector<KdGePoint3d> chain;
     if (vertices.empty()) {
@@ -76,7 +76,13 @@ std::vector<KdGePoint3d> polylineChain(const PolylineShape& polyline) {
     const std::size_t pieces = polyline.closed ? vertices.size() : vertices.size() - 1;
     for (std::size_t i = 0; i < pieces; ++i) {
         const auto& next = vertices[(i + 1) % vertices.size()];
+        const std::size_t first = chain.size() - 1;
         appendBulge(chain, vertices[i].position, next.position, vertices[i].bulge, normal);
+        chain[first] = vertices[i].position;
+        if (arcs != nullptr && chain.size() - first > 2) {
+            arcs->push_back(
+                {static_cast<std::uint32_t>(first), static_cast<std::uint32_t>(chain.size() - 1)});
+        }
     }
     return chain;
 }

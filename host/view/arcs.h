@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Appearance.h"
 #include "EntityShape.h"
 #include "KdGePoint3d.h"
 
@@ -19,7 +20,9 @@ void appendArc(std::vector<KdGePoint3d>& chain, const KdGePoint3d& center,
 // starts goes all the way round.
 std::vector<KdGePoint3d> conicChain(const ConicShape& conic);
 
-// A polyline with its bulges rounded out, back to its first vertex when it is closed.
-std::vector<KdGePoint3d> polylineChain(const PolylineShape& polyline);
+// A polyline with its bulges rounded out, back to its first vertex when it is closed. Appends to
+// `arcs`, unless null, which points those are.
+std::vector<KdGePoint3d> polylineChain(const PolylineShape& polyline,
+                                       std::vector<ArcSpan>* arcs = nullptr);
 
 } // namespace orvex

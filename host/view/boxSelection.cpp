@@ -23,30 +23,16 @@ double side(const PlanPoint& a, const PlanPoint& b, const PlanPoint& p) {
     return (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
 }
 
-// A piece misses a box whose span it meets only where all corners lie on one side of it.
-bool pieceTouches(const PlanPoint& a, const PlanPoint& b, const PlanBox& box) {
-    PlanBox span;
-    span.include(a);
-    span.include(b);
-    if (!meets(span, box)) {
-        return false;
-    }
-    const std::array<double, 4> sides{side(a, b, box.low), side(a, b, {box.high.x, box.low.y}),
-                                      side(a, b, box.high), side(a, b, {box.low.x, box.high.y})};
-    const auto [least, most] = std::minmax_element(sides.begin(), sides.end());
-    return *least <= 0.0 && *most >= 0.0;
-}
-
 bool chainTouches(const std::vector<PlanPoint>& points, const PlanBox& box, bool closed) {
     if (points.size() == 1) {
         return holds(box, points.front());
     }
     for (std::size_t i = 1; i < points.size(); ++i) {
-        if (pieceTouches(points[i - 1], points[i], box)) {
+        if (touches(points[i - 1], points[i], box)) {
             return true;
         }
     }
-    return closed && points.size() > 2 && pieceTouches(points.back(), points.front(), box);
+    return closed && points.size() > 2 && touches(points.back(), points.front(), box);
 }
 
 // By the crossings of a ray to the right.
@@ -67,6 +53,20 @@ bool isInside(const PlanPoint& point, const std::vector<PlanPoint>& outline) {
 
 bool contains(const PlanBox& box, const PlanBox& other) {
     return !box.isEmpty() && !other.isEmpty() && holds(box, other.low) && holds(box, other.high);
+}
+
+// A line misses a box whose span it meets only where all corners lie on one side of it.
+bool touches(const PlanPoint& a, const PlanPoint& b, const PlanBox& box) {
+    PlanBox span;
+    span.include(a);
+    span.include(b);
+    if (!meets(span, box)) {
+        return false;
+    }
+    const std::array<double, 4> sides{side(a, b, box.low), side(a, b, {box.high.x, box.low.y}),
+                                      side(a, b, box.high), side(a, b, {box.low.x, box.high.y})};
+    const auto [least, most] = std::minmax_element(sides.begin(), sides.end());
+    return *least <= 0.0 && *most >= 0.0;
 }
 
 bool touches(const Appearance& appearance, const PlanBox& box) {

@@ -41,6 +41,15 @@ void paintMline(const MlineContent& mline, const MlineStyleContent* style, const
                 PlacedSink& sink) {
     PaintingSink painting(pens, sink);
     drawMline(mline, style, painting);
+    std::vector<KdGePoint3d> chain;
+    chain.reserve(mline.vertices.size() + 1);
+    for (const ChainVertex& vertex : mline.vertices) {
+        chain.push_back(vertex.position);
+    }
+    if (mline.closed && chain.size() > 1) {
+        chain.push_back(chain.front());
+    }
+    sink.chain(chain);
 }
 
 } // namespace orvex

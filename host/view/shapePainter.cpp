@@ -32,11 +32,17 @@ void paintShape(const LineShape& line, const Pen& pen, PlacedSink& sink) {
 }
 
 void paintShape(const PolylineShape& polyline, const Pen& pen, PlacedSink& sink) {
-    sink.stroke(polylineChain(polyline), StrokeRole::line, pen);
+    std::vector<ArcSpan> arcs;
+    const std::vector<KdGePoint3d> chain = polylineChain(polyline, &arcs);
+    sink.stroke(chain, StrokeRole::line, pen, arcs);
 }
 
 void paintShape(const ConicShape& conic, const Pen& pen, PlacedSink& sink) {
-    sink.stroke(conicChain(conic), StrokeRole::line, pen);
+    const std::vector<KdGePoint3d> chain = conicChain(conic);
+    if (!chain.empty()) {
+        const ArcSpan all{0, static_cast<std::uint32_t>(chain.size() - 1)};
+        sink.stroke(chain, StrokeRole::line, pen, {&all, 1});
+    }
 }
 
 void paintShape(const TextShape& text, const Pen& pen, PlacedSink& sink) {
