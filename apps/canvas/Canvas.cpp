@@ -232,6 +232,7 @@ void Canvas::resizeEvent(QResizeEvent* /*event*/) {
 
 void Canvas::mousePressEvent(QMouseEvent* event) {
     State& s = *m_state;
+    s.isCrossOn = s.isCrossOn && s.isCrossActing;
     s.cursor = event->pos();
     s.heldKeys = event->modifiers();
     if (s.session == nullptr || !s.isShown || s.panFrom) {
@@ -252,6 +253,7 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
 void Canvas::mouseMoveEvent(QMouseEvent* event) {
     State& s = *m_state;
     s.cursor = event->pos();
+    s.crossTarget.reset();
     s.heldKeys = event->modifiers();
     if (s.session == nullptr || !s.isShown) {
         return;
@@ -334,17 +336,34 @@ void Canvas::wheelEvent(QWheelEvent* event) {
 }
 
 void Canvas::leaveEvent(QEvent* /*event*/) {
-    m_state->cursor.reset();
-    m_state->dropHighlight();
-    update();
-    emit cursorLeft();
+    if (!m_state->isCrossOn) {
+        m_state->dropCursor();
+    }
+}
+
+void Canvas::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    if (std::exchange(m_state->isCrossOn, false) && !underMouse()) {
+        m_state->dropCursor();
+    }
+}
+
+void Canvas::startCross() {
+    setFocus(Qt::ShortcutFocusReason);
+    m_state->startCross();
+}
+
+bool Canvas::isCrossOn() const {
+    return m_state->isCrossOn;
 }
 
 void Canvas::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && dropWindow()) {
         return;
     }
-    emit keyTyped(event);
+    if (!m_state->isCrossOn || !m_state->takeCrossKey(*event)) {
+        emit keyTyped(event);
+    }
 }
 
 } // namespace orvex

@@ -47,6 +47,11 @@ public:
     // Drawing units; 0 without a session.
     [[nodiscard]] double unitsPerPixel() const;
 
+    // Takes the focus. Until it is lost or the mouse is pressed, arrows move the cross, with Shift
+    // by 10, with Ctrl to the next target; Enter clicks.
+    void startCross();
+    [[nodiscard]] bool isCrossOn() const;
+
     // Shown until they are set anew, or the session is. Entities have to live as long.
     void setSelected(std::vector<KdDbStub*> entities);
     [[nodiscard]] const std::vector<KdDbStub*>& selected() const;
@@ -102,6 +107,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     struct State;

@@ -11,6 +11,9 @@ namespace orvex {
 // Asked once for the same place, so that a click gives what was shown. The guide looks at the
 // scene; until that is up to date, the place itself is the answer.
 GuidedPoint Canvas::State::guidedAt(PlanPoint place, Qt::KeyboardModifiers held) {
+    if (crossTarget && cursor && place == planAtCursor()) {
+        return *crossTarget;
+    }
     if (aim.kind != AimKind::point || !aim.guide || !session->scene().prepareSome({})) {
         return {.at = place};
     }
@@ -35,10 +38,10 @@ void Canvas::State::updateGuide() {
 // is shown, so that points that were given are seen wherever the mouse is.
 void Canvas::State::paintPointAim(QPainter& painter) {
     std::optional<PlanPoint> end = shownPoint;
+    std::optional<GuidedPoint> guide;
     if (!end && cursor && !panFrom && windowStep == WindowStep::off) {
-        const GuidedPoint point = guidedAtCursor();
-        paintGuide(painter, view(), point);
-        end = point.at;
+        guide = guidedAtCursor();
+        end = guide->at;
     } else {
         end = end ? end : aim.base;
         if (end) {
@@ -49,6 +52,9 @@ void Canvas::State::paintPointAim(QPainter& painter) {
         paintPreview(painter, view(), aim.preview(*end));
     } else if (end && aim.base) {
         paintRubberLine(painter, view(), *aim.base, *end);
+    }
+    if (guide) {
+        paintGuide(painter, view(), *guide);
     }
 }
 

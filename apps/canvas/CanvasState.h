@@ -49,6 +49,11 @@ struct Canvas::State {
         GuidedPoint point;
     };
     std::optional<Guided> guided;
+    // The keyboard moves the cross; where it was sent to, until it is moved on; and it is the
+    // keyboard that presses or moves the mouse just now.
+    bool isCrossOn = false;
+    std::optional<GuidedPoint> crossTarget;
+    bool isCrossActing = false;
     bool isGuideStale = false; // and nobody was notified of where the cursor is
     Qt::KeyboardModifiers heldKeys = Qt::NoModifier; // at the last look
 
@@ -84,6 +89,13 @@ struct Canvas::State {
     GuidedPoint guidedAt(PlanPoint place, Qt::KeyboardModifiers held);
     GuidedPoint guidedAtCursor() { return guidedAt(planAtCursor(), heldKeys); }
     void updateGuide();
+    void dropCursor();
+
+    void startCross();
+    bool takeCrossKey(const QKeyEvent& key); // false for one of no use
+    void moveCross(const QPoint& pixel);
+    void sendCross(QPoint direction);
+    void clickAtCross(Qt::KeyboardModifiers modifiers);
     void paintPointAim(QPainter& painter);
 
     void pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifiers);

@@ -19,6 +19,10 @@ public:
     static constexpr const wchar_t* kGeometry = L"Geometry";
     static constexpr const wchar_t* kState = L"State";
     static constexpr const wchar_t* kDrawingFolder = L"DrawingFolder";
+    static constexpr const wchar_t* kSnap = L"Snap"; // ON or OFF
+    static constexpr const wchar_t* kSnapModes = L"SnapModes";
+    static constexpr const wchar_t* kSnapAperture = L"SnapAperture"; // pixels
+    static constexpr const wchar_t* kAngleStep = L"AngleStep";       // degrees
     static constexpr const wchar_t* kPictureFolder = L"PictureFolder";
 };
 

@@ -73,6 +73,7 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
       m_join(new JoinDesk(*this, *m_canvas, m_runner, m_prompts)),
       m_drawBar(new DrawBar(*this, m_runner, m_prompts)), m_status(*statusBar()),
       m_tool(new ToolDesk(*this, *m_canvas, m_runner, m_prompts, m_status)),
+      m_snap(new SnapDesk(*this, *m_canvas, m_prompts, m_settings)),
       m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
     setAcceptDrops(true);
@@ -106,6 +107,8 @@ void MainWindow::makeCommandDock() {
     m_menus.view->addAction(m_menus.editTools.bar->toggleViewAction());
     m_menus.view->addAction(m_drawBar->bar()->toggleViewAction());
     m_menus.view->addAction(m_join->toggleAction());
+    m_menus.view->addSeparator();
+    m_menus.view->addActions(m_snap->actions());
 }
 
 void MainWindow::connectCommandLine() {
@@ -113,6 +116,7 @@ void MainWindow::connectCommandLine() {
     connect(m_commandLine, &CommandLine::cancelled, this, &MainWindow::escape);
     connect(m_drawBar, &DrawBar::printed, m_commandLine, &CommandLine::print);
     connect(m_drawBar, &DrawBar::left, m_commandLine, [this] { m_commandLine->setFocus(); });
+    connect(m_snap, &SnapDesk::canvasLeft, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(&m_prompts, &DeskPrompts::printed, m_commandLine, &CommandLine::print);
     connect(&m_prompts, &DeskPrompts::asked, this, &MainWindow::showQuestion);
     connect(&m_prompts, &DeskPrompts::answered, this, &MainWindow::showIdle);
@@ -218,6 +222,7 @@ void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& p
     m_runner.setSession(nullptr);
     m_drawing.replace(std::move(file), path, m_canvas->width(), m_canvas->height());
     m_join->setSession(*session());
+    m_snap->setSession(*session());
     m_drawBar->setSession(*session());
     m_tool->setSession(*session());
     session()->display().setRepaint([this] { m_canvas->refresh(); });
@@ -283,7 +288,9 @@ void MainWindow::perform(WindowAct act) {
 
 void MainWindow::enterLine(const QString& line) {
     if (m_prompts.request() != nullptr) {
-        m_prompts.answerText(line);
+        if (!m_snap->takeWord(line)) {
+            m_prompts.answerText(line);
+        }
     } else if (!m_runner.isBusy()) { // else a dialog of a command is open
         if (line.isEmpty()) {
             m_runner.repeat();
@@ -294,7 +301,7 @@ void MainWindow::enterLine(const QString& line) {
 }
 
 void MainWindow::escape() {
-    if (m_canvas->dropWindow()) {
+    if (m_canvas->dropWindow() || m_snap->dropWord()) {
         return;
     }
     if (m_prompts.request() != nullptr) {
@@ -319,7 +326,11 @@ void MainWindow::showQuestion() {
     m_commandLine->setQuestion(question);
     showDuringCommand();
     const auto& progress = session()->selectionMemory().progress;
-    m_canvas->setAim(aimOf(request, session()->scene(), progress));
+    Aim aim = aimOf(request, session()->scene(), progress);
+    if (aim.kind == AimKind::point) {
+        aim.guide = m_snap->guide({.base = aim.base});
+    }
+    m_canvas->setAim(std::move(aim));
     m_canvas->setSelected(progress ? progress->entities : std::vector<KdDbStub*>());
 }
 

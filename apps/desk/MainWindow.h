@@ -10,6 +10,7 @@
 #include "JoinDesk.h"
 #include "RecentFiles.h"
 #include "SessionChoices.h"
+#include "SnapDesk.h"
 #include "StatusLine.h"
 #include "ToolDesk.h"
 
@@ -89,6 +90,7 @@ private:
     DrawBar* m_drawBar;
     StatusLine m_status;
     ToolDesk* m_tool;
+    SnapDesk* m_snap;
     RecentFiles m_recent;
     bool m_mayClose = false;
     bool m_isPartlyDrawnReported = false;

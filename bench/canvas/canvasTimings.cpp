@@ -17,6 +17,7 @@
 #include "PlanPicture.h"
 #include "Session.h"
 #include "WellKnownObjects.h"
+#include "findSnap.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -28,6 +29,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <functional>
 #include <malloc.h>
 #include <string>
@@ -246,6 +248,36 @@ void measurePainting(Session& session, int multilines) {
                 fullRepaint(session.scene(), hundredInView(multilines)));
 }
 
+// The search of a move of the mouse while a point is asked: the mean and the longest of many, in
+// the processor's time, in places where nothing was looked at before.
+void measureSnap(Session& session, const char* name, const PlanView& view) {
+    constexpr int kSide = 20;
+    SnapQuery query;
+    query.unitsPerPixel = view.unitsPerPixel();
+    double sum = 0.0;
+    double longest = 0.0;
+    for (int i = 0; i < kSide * kSide; ++i) {
+        query.cursor =
+            view.toPlan({(i % kSide + 0.5) * kWidth / kSide, (i / kSide + 0.5) * kHeight / kSide});
+        query.base = view.center();
+        const std::clock_t begin = std::clock();
+        query.held = findSnap(session.scene(), query);
+        const double time = 1e3 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+        sum += time;
+        longest = std::max(longest, time);
+    }
+    std::printf("%-28s %9.3f %9.3f\n", name, sum / (kSide * kSide), longest);
+}
+
+void measureSnaps(Session& session, int multilines) {
+    PlanView view(kWidth, kHeight);
+    view.zoomTo(session.scene().extents());
+    measureSnap(session, "snap at extents", view);
+    view.setView(view.center(), 100.0 * view.viewHeight());
+    measureSnap(session, "snap far out", view);
+    measureSnap(session, "snap among 100 multilines", hundredInView(multilines));
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -269,6 +301,7 @@ int main(int argc, char** argv) {
     canvas.show();
     QCoreApplication::processEvents();
     const int multilines = std::atoi(argv[2]);
+    measureSnaps(session, multilines);
     measurePhases(canvas, session, multilines);
     measurePainting(session, multilines);
     canvas.setSession(nullptr);

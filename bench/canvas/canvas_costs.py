@@ -50,11 +50,15 @@ def main():
     for name in small:
         cells = ("".join(f"{value:10.2f}" for value in column[name]).ljust(20) for column in (small, large))
         print(f"{name:28}{' '.join(cells)}")
-    pauses = {name: values[1] for name, values in large.items() if len(values) > 1}
+    pauses = {name: values[1] for name, values in large.items() if len(values) > 1 and "snap" not in name}
     worst = max(pauses, key=pauses.get)
     print(f"longest pause, large: {pauses[worst]:.1f} ms ({worst})")
     panning = max(pauses[name] for name in pauses if name.startswith("pan"))
     print(f"longest step of a pan, large: {panning:.1f} ms")
+    snaps = [name for name in large if name.startswith("snap")]
+    print(f"longest search of a snap, large: {max(large[name][1] for name in snaps):.2f} ms")
+    ratio = large["snap among 100 multilines"][0] / small["snap among 100 multilines"][0]
+    print(f"snap among 100 multilines, large compared with small: {ratio:.2f}")
     repaint, plain = large["repaint at extents"][0], large["plain calls, smooth"][0]
     print(f"repaint at extents compared with plain calls, large: {repaint / plain:.2f}")
     ratio = large["repaint of 100 multilines"][0] / small["repaint of 100 multilines"][0]

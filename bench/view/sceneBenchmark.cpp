@@ -1,5 +1,6 @@
-// What the view of a drawing of walls costs: building its index, a pick, and a pick after an edit.
-// The number of walls is the argument; a pick should cost about the same for all of them.
+// What the view of a drawing of walls costs: building its index, a pick, a pick after an edit, and
+// a move of the mouse while a point is asked. The number of walls is the first argument; all but
+// the index should cost about the same for all of them.
 
 #include "BlockList.h"
 #include "DatabaseCore.h"
@@ -8,7 +9,10 @@
 #include "MlineContent.h"
 #include "Scene.h"
 #include "WellKnownObjects.h"
+#include "findSnap.h"
 
+#include <algorithm>
+#include <chrono>
 #include <cmath>
 
 #include <benchmark/benchmark.h>
@@ -109,6 +113,39 @@ void editAndPick(benchmark::State& state) {
     }
 }
 BENCHMARK(editAndPick)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMicrosecond);
+
+// At a scale of so many walls to a hundred pixels, in places all over the drawing, near a corner.
+void snap(benchmark::State& state) {
+    Walls walls(state.range(0));
+    Scene scene(walls.database);
+    benchmark::DoNotOptimize(scene.extents());
+    SnapQuery query;
+    query.unitsPerPixel = kGrid * static_cast<double>(state.range(1)) / 100.0;
+    std::int64_t i = 0;
+    double slowest = 0.0;
+    for ([[maybe_unused]] auto _ : state) {
+        const std::int64_t wall = scattered(i++, state.range(0));
+        query.cursor = {walls.column(wall) + 2.0 * query.unitsPerPixel, walls.row(wall)};
+        query.base = PlanPoint{walls.column(wall) - 300.0, walls.row(wall) + 200.0};
+        const auto begin = std::chrono::steady_clock::now();
+        query.held = findSnap(scene, query);
+        slowest = std::max(slowest, std::chrono::duration<double, std::milli>(
+                                        std::chrono::steady_clock::now() - begin)
+                                        .count());
+        if (!query.held) {
+            state.SkipWithError("nothing was found beside a wall");
+        }
+    }
+    state.counters["slowest_ms"] = slowest;
+}
+BENCHMARK(snap)
+    ->ArgNames({"walls", "wallsIn100px"})
+    ->Args({1'000, 1})
+    ->Args({100'000, 1})
+    ->Args({100'000, 10})
+    ->Args({100'000, 100})
+    ->Args({100'000, 1000})
+    ->Unit(benchmark::kMicrosecond);
 
 } // namespace
 } // namespace orvex

@@ -35,8 +35,8 @@ std::wstring wanted(PromptKind kind) {
 
 // These are for a cursor, which a script has not.
 bool isSnapWord(const std::wstring& text) {
-    constexpr std::array<std::wstring_view, 6> kWords{L"END", L"MID", L"INT",
-                                                      L"PER", L"NEA", L"NON"};
+    constexpr std::array<std::wstring_view, 9> kWords{L"END", L"MID", L"INT", L"PER", L"NEA",
+                                                      L"VER", L"ELE", L"CRO", L"NON"};
     return std::ranges::find(kWords, foldCase(text)) != kWords.end();
 }
 

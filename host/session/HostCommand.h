@@ -23,6 +23,8 @@ std::vector<std::wstring> hostCommandNames();
 void zoomCommand(Session& session);
 // A variable's name, then its value; an empty answer keeps the value.
 void setVariableCommand(Session& session);
+// Words of snap modes, or OFF: what a window's points are drawn to.
+void snapCommand(Session& session);
 // A new multiline in the current style.
 void mlineCommand(Session& session);
 // A selection, all when it is empty; then Look or Repair: tells multilines that contradict their

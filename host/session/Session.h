@@ -9,6 +9,7 @@
 #include "SelectionMemory.h"
 #include "SessionContexts.h"
 #include "SessionDisplay.h"
+#include "SnapMemory.h"
 #include "StepMemory.h"
 #include "ToolWatch.h"
 
@@ -55,6 +56,7 @@ public:
 
     // What was selected, for the commands that ask for a selection.
     [[nodiscard]] SelectionMemory& selectionMemory() { return m_selectionMemory; }
+    [[nodiscard]] SnapMemory& snapMemory() { return m_snapMemory; }
 
     // What is known of the editing tool that runs.
     [[nodiscard]] ToolWatch& toolWatch() { return m_toolWatch; }
@@ -100,6 +102,7 @@ private:
     bool m_viewStarted = false;
     Scene m_scene;
     SelectionMemory m_selectionMemory;
+    SnapMemory m_snapMemory;
     StepMemory m_stepMemory;
     SessionContexts m_contexts;
     SessionDisplay m_display;

@@ -32,6 +32,7 @@ constexpr std::array kCommands = {
     HostCommand{L"STRETCH", stretchCommand},
     HostCommand{L"ROTATE", rotateCommand},
     HostCommand{L"SETVAR", setVariableCommand},
+    HostCommand{L"SNAP", snapCommand},
     HostCommand{L"ZOOM", zoomCommand},
 };
 
