@@ -53,6 +53,7 @@ void Canvas::setSession(Session* session) {
     s.overlay.clear();
     s.aim = {};
     s.shownPoint.reset();
+    s.crossTarget.reset();
     s.guided.reset();
     s.hints = {};
     s.picture.setScene(session != nullptr ? &session->scene() : nullptr);

@@ -72,7 +72,7 @@ void keepExact(PlanPoint& point, const SnapLine& line, double along) {
 // The distance of a point from the line as it goes on beyond its ends, with the direction in
 // which it grows.
 struct Offset {
-    double distance;
+    double distance = 0.0;
     PlanPoint gradient;
 };
 
