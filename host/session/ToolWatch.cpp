@@ -109,7 +109,7 @@ void ToolWatch::printed(const std::wstring& /*text*/) {
     refuse(isClosed ? PickRefusal::closedMultiline : PickRefusal::noCrossing, m_lastPicked, true);
 }
 
-void ToolWatch::startCycle(std::vector<KdDbStub*> mlines) {
+void ToolWatch::startCycle(const std::vector<KdDbStub*>& mlines) {
     for (KdDbStub* const mline : mlines) {
         m_cycle.push_back({mline, contentOf(*mline)});
     }

@@ -69,7 +69,7 @@ private:
         std::shared_ptr<const MlineContent> content;
     };
 
-    void startCycle(std::vector<KdDbStub*> mlines);
+    void startCycle(const std::vector<KdDbStub*>& mlines);
     void endCycle();
     void refuse(PickRefusal reason, const KdDbStub* entity, bool isTold);
 
