@@ -211,7 +211,7 @@ class Exports:
                     for text in differences(mline, style, found.get(mline.dxf.layer, [])):
                         self.report.check(False, f"{seed}, {mline.dxf.layer}: {text}")
             done = self.out.read_bytes()
-            for after, bytes_ in (("U\n", path.read_bytes()), ("U\n" + script, done)):
+            for after, bytes_ in (("U\n", path.read_bytes()), ("U\nREDO\n", done)):
                 play(self.program, path, script + after, self.out)
                 self.expect(f"{seed}: bytes after {after!r}", self.out.read_bytes() == bytes_, True)
 
