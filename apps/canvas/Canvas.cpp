@@ -108,6 +108,12 @@ void Canvas::setSelected(std::vector<KdDbStub*> entities) {
     update();
 }
 
+void Canvas::setGround(std::uint32_t rgb) {
+    m_state->picture.setGround(rgb);
+    m_state->startWork();
+    update();
+}
+
 const std::vector<KdDbStub*>& Canvas::selected() const {
     return m_state->overlay.selected();
 }
@@ -205,6 +211,8 @@ bool Canvas::isSettled() const {
 
 void Canvas::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
+    // What marks are painted on, for their colours.
+    painter.setBackground(QColor::fromRgb(m_state->picture.ground()));
     const double ratio = devicePixelRatioF();
     const QRect exposed = event->rect();
     painter.save();

@@ -52,6 +52,9 @@ public:
     void startCross();
     [[nodiscard]] bool isCrossOn() const;
 
+    // The ground of the plan, 0xRRGGBB. Colours that can't be read on it are changed here only.
+    void setGround(std::uint32_t rgb);
+
     // Shown until they are set anew, or the session is. Entities have to live as long.
     void setSelected(std::vector<KdDbStub*> entities);
     [[nodiscard]] const std::vector<KdDbStub*>& selected() const;

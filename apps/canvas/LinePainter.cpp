@@ -36,14 +36,20 @@ double covered(int pixel, double low, double high) {
 
 } // namespace
 
-LinePainter::LinePainter(QImage& image, const QRect& clip, int lineWidth)
+LinePainter::LinePainter(QImage& image, const QRect& clip, int lineWidth,
+                         std::optional<std::uint32_t> ground)
     : m_pixels(reinterpret_cast<std::uint32_t*>(image.bits())), m_stride(image.bytesPerLine() / 4),
       m_left(clip.left()), m_top(clip.top()), m_right(clip.right() + 1),
-      m_bottom(clip.bottom() + 1), m_width(std::max(lineWidth, 1)) {}
+      m_bottom(clip.bottom() + 1), m_width(std::max(lineWidth, 1)) {
+    if (ground) {
+        m_colors.emplace(*ground);
+    }
+}
 
 void LinePainter::chain(std::span<const PlanPoint> points, std::uint32_t rgb) {
+    rgb = painted(rgb);
     if (points.size() == 1) {
-        dot(points.front(), rgb);
+        paintDot(points.front(), rgb);
     }
     for (std::size_t i = 0; i + 1 < points.size(); ++i) {
         line(points[i], points[i + 1], rgb, true);
@@ -52,6 +58,7 @@ void LinePainter::chain(std::span<const PlanPoint> points, std::uint32_t rgb) {
 
 void LinePainter::dashedChain(std::span<const PlanPoint> points, std::uint32_t rgb,
                               const DashCycle& cycle) {
+    rgb = painted(rgb);
     const double period = cycle.period();
     double before = cycle.offset;
     for (std::size_t i = 0; i + 1 < points.size(); ++i) {
@@ -100,6 +107,10 @@ void LinePainter::dashes(PlanPoint from, PlanPoint to, double before, std::uint3
 }
 
 void LinePainter::dot(PlanPoint point, std::uint32_t rgb) {
+    paintDot(point, painted(rgb));
+}
+
+void LinePainter::paintDot(PlanPoint point, std::uint32_t rgb) {
     if (!isUsable(point)) {
         return;
     }
@@ -113,6 +124,7 @@ void LinePainter::area(std::span<const PlanPoint> outline, std::uint32_t rgb) {
     if (!std::all_of(outline.begin(), outline.end(), isUsable) || outline.size() < 3) {
         return;
     }
+    rgb = painted(rgb);
     const auto [top, bottom] =
         std::minmax_element(outline.begin(), outline.end(),
                             [](const PlanPoint& a, const PlanPoint& b) { return a.y < b.y; });

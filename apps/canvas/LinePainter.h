@@ -2,11 +2,13 @@
 
 #include "Appearance.h"
 #include "dashCycle.h"
+#include "readableColor.h"
 
 #include <QImage>
 #include <QRect>
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -20,7 +22,9 @@ namespace orvex {
 class LinePainter {
 public:
     // Draws only within `clip`, which lies within the image.
-    LinePainter(QImage& image, const QRect& clip, int lineWidth);
+    // With a ground, colours that can't be read on it are changed (readableRgb).
+    LinePainter(QImage& image, const QRect& clip, int lineWidth,
+                std::optional<std::uint32_t> ground = std::nullopt);
 
     void chain(std::span<const PlanPoint> points, std::uint32_t rgb);
     void dashedChain(std::span<const PlanPoint> points, std::uint32_t rgb, const DashCycle& cycle);
@@ -30,6 +34,10 @@ public:
     void area(std::span<const PlanPoint> outline, std::uint32_t rgb);
 
 private:
+    void paintDot(PlanPoint point, std::uint32_t rgb);
+    [[nodiscard]] std::uint32_t painted(std::uint32_t rgb) {
+        return m_colors ? (*m_colors)(rgb) : rgb;
+    }
     void line(PlanPoint from, PlanPoint to, std::uint32_t rgb, bool squareEnds);
     void alongAxis(double from, double to, double across, bool upright, std::uint32_t rgb,
                    bool squareEnds);
@@ -55,6 +63,7 @@ private:
     int m_right; // excluded, as the bottom
     int m_bottom;
     int m_width;
+    std::optional<ReadableColors> m_colors;
 };
 
 } // namespace orvex

@@ -72,6 +72,13 @@ PlanPicture::Tile* PlanPicture::find(const TileKey& key) {
     return const_cast<Tile*>(std::as_const(*this).find(key));
 }
 
+void PlanPicture::setGround(std::uint32_t ground) {
+    m_ground = ground;
+    m_tiles.clear();
+    m_painting.reset();
+    m_former = QImage();
+}
+
 bool PlanPicture::isComplete() const {
     return m_scene == nullptr || !m_hasView ||
            std::all_of(m_visible.begin(), m_visible.end(), [this](const TileKey& key) {
@@ -103,13 +110,13 @@ bool PlanPicture::startPainting() {
     }
     for (const TileKey& key : m_visible) {
         if (const Tile* tile = find(key); tile != nullptr && !tile->stale.isEmpty()) {
-            m_painting.emplace(*m_scene, m_grid, key, tile->image, *tile->stale.begin());
+            m_painting.emplace(*m_scene, m_grid, key, tile->image, *tile->stale.begin(), m_ground);
             return true;
         }
     }
     for (const TileKey& key : m_visible) {
         if (find(key) == nullptr) {
-            m_painting.emplace(*m_scene, m_grid, key, QImage(), kWholeTile);
+            m_painting.emplace(*m_scene, m_grid, key, QImage(), kWholeTile, m_ground);
             return true;
         }
     }
@@ -152,7 +159,7 @@ QImage PlanPicture::composed() const {
 }
 
 void PlanPicture::draw(QPainter& painter, const QRect& exposed) const {
-    painter.fillRect(exposed, QColor::fromRgb(kGroundRgb));
+    painter.fillRect(exposed, QColor::fromRgb(m_ground));
     const bool hasGap = std::any_of(m_visible.begin(), m_visible.end(), [&](const TileKey& key) {
         return exposed.intersects(kWholeTile.translated(m_grid.tileOrigin(key))) &&
                find(key) == nullptr;

@@ -4,6 +4,7 @@
 #include "PixelGrid.h"
 #include "Scene.h"
 #include "TilePainting.h"
+#include "readableColor.h"
 
 #include <QImage>
 #include <QRegion>
@@ -22,6 +23,9 @@ class PlanPicture {
 public:
     // Null: nothing but the ground. Not owned.
     void setScene(Scene* scene);
+    // 0xRRGGBB; everything is painted anew.
+    void setGround(std::uint32_t ground);
+    [[nodiscard]] std::uint32_t ground() const { return m_ground; }
     // What is seen from now on.
     void setView(const PlanView& view, double devicePixelRatio);
     // Makes tiles stale where the scene looks different; what they show stays until it is replaced.
@@ -48,6 +52,7 @@ private:
     [[nodiscard]] QImage composed() const;
 
     Scene* m_scene = nullptr;
+    std::uint32_t m_ground = kDarkGround;
     PixelGrid m_grid;
     QSize m_size;
     bool m_hasView = false;

@@ -22,14 +22,14 @@ constexpr std::size_t kEntitiesBetweenClockReads = 8;
 } // namespace
 
 TilePainting::TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, QImage before,
-                           const QRect& pixels)
+                           const QRect& pixels, std::uint32_t ground)
     : m_scene(&scene), m_grid(grid), m_tile(tile), m_pixels(pixels), m_image(std::move(before)),
-      m_entities(scene.entitiesIn(grid.planOf(tile, pixels))) {
+      m_ground(ground), m_entities(scene.entitiesIn(grid.planOf(tile, pixels))) {
     if (m_image.isNull()) {
         m_image = QImage(PixelGrid::kTileSide, PixelGrid::kTileSide, QImage::Format_RGB32);
     }
     QPainter painter(&m_image);
-    painter.fillRect(pixels, QColor::fromRgb(kGroundRgb));
+    painter.fillRect(pixels, QColor::fromRgb(m_ground));
 }
 
 // All fills go below all lines, so that none hides a line.
@@ -60,7 +60,7 @@ bool TilePainting::paintFills(Deadline deadline) {
     QPainter painter(&m_image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(m_pixels);
-    LinePainter lines(m_image, m_pixels, m_grid.lineWidth());
+    LinePainter lines(m_image, m_pixels, m_grid.lineWidth(), m_ground);
     for (; m_next < m_entities.size(); ++m_next) {
         if (mustPause(deadline)) {
             return false;
@@ -68,7 +68,8 @@ bool TilePainting::paintFills(Deadline deadline) {
         const std::uint32_t entity = m_entities[m_next];
         const double side = sideOf(entity);
         if (side > kCompactSide) {
-            paintAppearance(painter, m_scene->appearanceAt(entity), view, {}, PaintParts::fills);
+            paintAppearance(painter, m_scene->appearanceAt(entity), view, {.ground = m_ground},
+                            PaintParts::fills);
         } else if (side > kDotSide) {
             paintAreas(m_scene->compactAppearanceAt(entity), m_scene->boxAt(entity), lines);
         }
@@ -78,7 +79,7 @@ bool TilePainting::paintFills(Deadline deadline) {
 
 bool TilePainting::paintLines(Deadline deadline) {
     const PlanView view = m_grid.viewOf(m_tile);
-    LinePainter lines(m_image, m_pixels, m_grid.lineWidth());
+    LinePainter lines(m_image, m_pixels, m_grid.lineWidth(), m_ground);
     for (; m_next < m_entities.size(); ++m_next) {
         if (mustPause(deadline)) {
             return false;
@@ -96,7 +97,8 @@ bool TilePainting::paintLines(Deadline deadline) {
             QPainter painter(&m_image);
             painter.setRenderHint(QPainter::Antialiasing);
             painter.setClipRect(m_pixels);
-            paintAppearance(painter, labels, view, {}, PaintParts::linesAndLabels);
+            paintAppearance(painter, labels, view, {.ground = m_ground},
+                            PaintParts::linesAndLabels);
         }
     }
     return true;

@@ -13,17 +13,15 @@
 
 namespace orvex {
 
-// What the ground of the plan is painted with, 0xRRGGBB.
-inline constexpr std::uint32_t kGroundRgb = 0x1E2127;
-
 // Paints a tile, or a rectangle of one, in steps. What comes out doesn't depend on the rectangle:
 // a tile that is painted piece by piece is the same as one painted at once.
 class TilePainting {
 public:
     // The scene has to stay as it is until the end. `before` is what the tile showed, of no size
     // when it is painted for the first time; only `pixels` of it change.
+    // `ground` is painted below, and colours are changed to be read on it.
     TilePainting(Scene& scene, const PixelGrid& grid, const TileKey& tile, QImage before,
-                 const QRect& pixels);
+                 const QRect& pixels, std::uint32_t ground);
 
     // True when it is done.
     bool advance(Deadline deadline);
@@ -48,6 +46,7 @@ private:
     TileKey m_tile;
     QRect m_pixels;
     QImage m_image;
+    std::uint32_t m_ground;
     std::vector<std::uint32_t> m_entities;
     std::size_t m_next = 0;
     Pass m_pass = Pass::fills;

@@ -1,6 +1,7 @@
 #include "canvasMarks.h"
 
 #include "paintAppearance.h"
+#include "readableColor.h"
 
 #include <QColor>
 #include <QPainter>
@@ -24,9 +25,14 @@ constexpr double kHighlightWidth = 3.0; // pixels
 constexpr int kAxisLength = 36;         // pixels
 constexpr int kAxisMargin = 16;
 
-// Halfway to white.
-std::uint32_t brighter(std::uint32_t rgb) {
-    return ((rgb & 0xFEFEFEU) >> 1U) + 0x7F7F7FU;
+std::uint32_t groundOf(const QPainter& painter) {
+    return painter.background().color().rgb() & 0xFFFFFFU;
+}
+
+// Halfway to white on a dark ground, else to black.
+std::uint32_t livelier(std::uint32_t rgb, std::uint32_t ground) {
+    const std::uint32_t half = (rgb & 0xFEFEFEU) >> 1U;
+    return isDark(ground) ? half + 0x7F7F7FU : half;
 }
 
 void drawAxis(QPainter& painter, const QPointF& origin, const KdGeVector3d& axis,
@@ -52,8 +58,12 @@ void drawAxis(QPainter& painter, const QPointF& origin, const KdGeVector3d& axis
 
 } // namespace
 
+QColor onGround(const QPainter& painter, const QColor& color) {
+    return QColor::fromRgb(readableRgb(color.rgb(), groundOf(painter)));
+}
+
 void paintCrosshair(QPainter& painter, const QPoint& cursor, const QSize& view, int pickBox) {
-    painter.setPen(kCrosshairColor);
+    painter.setPen(onGround(painter, kCrosshairColor));
     const int gap = pickBox + 1;
     painter.drawLine(0, cursor.y(), cursor.x() - gap, cursor.y());
     painter.drawLine(cursor.x() + gap, cursor.y(), view.width(), cursor.y());
@@ -65,14 +75,15 @@ void paintCrosshair(QPainter& painter, const QPoint& cursor, const QSize& view, 
 }
 
 void paintPickBox(QPainter& painter, const QPoint& cursor, int pickBox) {
-    painter.setPen(kPickBoxColor);
+    painter.setPen(onGround(painter, kPickBoxColor));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(cursor.x() - pickBox, cursor.y() - pickBox, 2 * pickBox, 2 * pickBox);
 }
 
 void paintRubberLine(QPainter& painter, const PlanView& view, PlanPoint base, PlanPoint end) {
     Appearance appearance;
-    appearance.strokes.push_back({.points = {base, end}, .rgb = kRubberColor.rgb()});
+    appearance.strokes.push_back(
+        {.points = {base, end}, .rgb = onGround(painter, kRubberColor).rgb()});
     painter.setRenderHint(QPainter::Antialiasing);
     paintAppearance(painter, appearance, view, {});
     painter.setRenderHint(QPainter::Antialiasing, false);
@@ -81,7 +92,7 @@ void paintRubberLine(QPainter& painter, const PlanView& view, PlanPoint base, Pl
 void paintRubberWindow(QPainter& painter, const QPoint& oneCorner, const QPoint& otherCorner) {
     QColor fill = kRubberColor;
     fill.setAlpha(40);
-    painter.setPen(kRubberColor);
+    painter.setPen(onGround(painter, kRubberColor));
     painter.setBrush(fill);
     painter.drawRect(QRect(oneCorner, otherCorner).normalized());
     painter.setBrush(Qt::NoBrush);
@@ -93,7 +104,7 @@ void paintSelectionWindow(QPainter& painter, const QPoint& first, const QPoint& 
     const QColor color = isCrossing ? kTouchedColor : kWithinColor;
     QColor fill = color;
     fill.setAlpha(kWindowOpacity);
-    painter.setPen(QPen(color, 1.0, isCrossing ? Qt::DashLine : Qt::SolidLine));
+    painter.setPen(QPen(onGround(painter, color), 1.0, isCrossing ? Qt::DashLine : Qt::SolidLine));
     painter.setBrush(fill);
     painter.drawPolygon(
         QPolygon({first, {second.x(), first.y()}, second, {first.x(), second.y()}}));
@@ -109,15 +120,16 @@ void paintSelectionWindow(QPainter& painter, const QPoint& first, const QPoint& 
 }
 
 void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& appearance) {
+    const std::uint32_t ground = groundOf(painter);
     Appearance bright;
     bright.strokes = appearance.strokes;
     bright.dashPatterns = appearance.dashPatterns;
     bright.labels = appearance.labels;
     for (Stroke& stroke : bright.strokes) {
-        stroke.rgb = brighter(stroke.rgb);
+        stroke.rgb = livelier(readableRgb(stroke.rgb, ground), ground);
     }
     for (Label& label : bright.labels) {
-        label.rgb = brighter(label.rgb);
+        label.rgb = livelier(readableRgb(label.rgb, ground), ground);
     }
     painter.setRenderHint(QPainter::Antialiasing);
     paintAppearance(painter, bright, view, {.lineWidth = kHighlightWidth},
@@ -127,7 +139,7 @@ void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& a
 
 void paintPreview(QPainter& painter, const PlanView& view, const Appearance& appearance) {
     painter.setRenderHint(QPainter::Antialiasing);
-    paintAppearance(painter, appearance, view, {});
+    paintAppearance(painter, appearance, view, {.ground = groundOf(painter)});
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 

@@ -4,6 +4,7 @@
 #include "KdGeVector3d.h"
 #include "PlanView.h"
 
+#include <QColor>
 #include <QPoint>
 #include <QSize>
 #include <QString>
@@ -17,7 +18,11 @@ inline bool isCrossingWindow(double firstX, double secondX) {
     return secondX < firstX;
 }
 
-// What moves over the picture of the plan. Painters have the view's pixels as coordinates.
+// What moves over the picture of the plan. Painters have the view's pixels as coordinates and the
+// plan's ground as background, on which every mark has to be seen.
+
+// The colour as it can be read on the painter's background.
+QColor onGround(const QPainter& painter, const QColor& color);
 
 // Across the whole view, with the pick box in the middle unless `pickBox` is negative.
 void paintCrosshair(QPainter& painter, const QPoint& cursor, const QSize& view, int pickBox);

@@ -6,8 +6,8 @@
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "KdDbStub.h"
+#include "LinePainter.h"
 #include "MlineContent.h"
-#include "TilePainting.h"
 #include "drawStrokes.h"
 #include "mlinePainter.h"
 #include "newChain.h"
@@ -103,7 +103,7 @@ QPixmap styleSwatch(const KdDbMlineStyle& style, const QSize& size, double devic
     if (image.isNull()) {
         return {};
     }
-    image.fill(QColor::fromRgb(kGroundRgb));
+    image.fill(QColor::fromRgb(kDarkGround));
     const Appearance appearance = swatchAppearance(style, pixels.width(), pixels.height());
     PlanView view(pixels.width(), pixels.height());
     view.setView({pixels.width() / 2.0, pixels.height() / 2.0}, pixels.height());

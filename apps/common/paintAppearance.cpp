@@ -4,6 +4,7 @@
 #include "dashCycle.h"
 #include "geometry.h"
 #include "labelBox.h"
+#include "readableColor.h"
 
 #include <algorithm>
 #include <cmath>
@@ -147,6 +148,9 @@ double paintedWidth(const Stroke& stroke, const PaintSettings& settings) {
 
 std::uint32_t paintedRgb(std::uint32_t rgb, const PaintSettings& settings) {
     constexpr std::uint32_t kWhite = 0xFFFFFF;
+    if (settings.ground) {
+        return readableRgb(rgb, *settings.ground);
+    }
     return settings.onPaper && (rgb & kWhite) == kWhite ? 0U : rgb & kWhite;
 }
 

@@ -4,6 +4,7 @@
 #include "PlanView.h"
 
 #include <cstdint>
+#include <optional>
 
 class QPainter;
 
@@ -13,6 +14,7 @@ struct PaintSettings {
     double lineWidth = 1.0;           // pixels
     double pixelsPerMillimetre = 0.0; // of line weights; 0: all lines have the one width
     bool onPaper = false; // on white, where what is white on a dark ground is drawn black
+    std::optional<std::uint32_t> ground{}; // colours that can't be read on it are changed
 };
 
 // What to paint of an appearance; fills of many entities may go below all their lines.

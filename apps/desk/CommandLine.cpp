@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include "readableColor.h"
+
 #include "keyText.h"
 
 #include <QCoreApplication>
@@ -8,6 +10,8 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 namespace orvex {
@@ -16,6 +20,8 @@ namespace {
 
 constexpr int kMostLines = 5000;
 constexpr int kMargin = 4; // pixels
+const QColor kDarkRed(0xB0, 0x20, 0x18);
+const QColor kLightRed(0xFF, 0x90, 0x80);
 
 bool isModifier(int key) {
     return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt ||
@@ -77,8 +83,41 @@ void CommandLine::setQuestion(const Question& question) {
 }
 
 void CommandLine::print(const QString& line) {
-    m_history->appendPlainText(line);
+    // What is asked steps back, what was answered stands out.
+    const int answer = line.lastIndexOf(QLatin1String(": ")) + 2;
+    if (answer > 1) {
+        append(line.left(answer), mixed(0.45), true);
+        append(line.mid(answer), palette().color(QPalette::Text), false);
+    } else {
+        append(line, palette().color(QPalette::Text), true);
+    }
     showLatest();
+}
+
+void CommandLine::complain(const QString& line) {
+    append(line, isDark(palette().color(QPalette::Base).rgb() & 0xFFFFFFU) ? kLightRed : kDarkRed,
+           true);
+    showLatest();
+}
+
+// Of the text's colour, so much of the way to the ground's.
+QColor CommandLine::mixed(double part) const {
+    const QColor text = palette().color(QPalette::Text);
+    const QColor ground = palette().color(QPalette::Base);
+    return QColor::fromRgbF(text.redF() + (ground.redF() - text.redF()) * part,
+                            text.greenF() + (ground.greenF() - text.greenF()) * part,
+                            text.blueF() + (ground.blueF() - text.blueF()) * part);
+}
+
+void CommandLine::append(const QString& text, const QColor& color, bool startsLine) {
+    QTextCursor cursor(m_history->document());
+    cursor.movePosition(QTextCursor::End);
+    if (startsLine && !m_history->document()->isEmpty()) {
+        cursor.insertBlock();
+    }
+    QTextCharFormat format;
+    format.setForeground(color);
+    cursor.insertText(text, format);
 }
 
 void CommandLine::showLatest() {

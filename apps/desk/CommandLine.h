@@ -28,8 +28,10 @@ public:
         bool takesLengths = false; // Ctrl with an arrow gives the one typed a direction
     };
     void setQuestion(const Question& question);
-    // Said below everything said before.
+    // Said below everything said before: a question with its answer after ": ", or a remark.
     void print(const QString& line);
+    // The same of something that went wrong.
+    void complain(const QString& line);
     [[nodiscard]] QString history() const;
 
     [[nodiscard]] QString typed() const { return m_input->text(); }
@@ -51,6 +53,8 @@ protected:
 
 private:
     void showLatest();
+    [[nodiscard]] QColor mixed(double part) const;
+    void append(const QString& text, const QColor& color, bool startsLine);
 
     QPlainTextEdit* m_history;
     KeywordBar* m_keywords;

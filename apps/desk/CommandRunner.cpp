@@ -61,7 +61,7 @@ void CommandRunner::run(const QString& name, const QStringList& answers, Repeat 
         m_last = m_running;
     }
     if (failure) {
-        m_prompts.print(widen(messageOf(*failure)));
+        m_prompts.reject(widen(messageOf(*failure)));
     }
     emit commandEnded();
 }

@@ -64,6 +64,15 @@ void DeskPrompts::print(const std::wstring& line) {
     emit printed(toQt(line));
 }
 
+// A script's failure goes on after the place of its line; here it stands alone.
+void DeskPrompts::reject(const std::wstring& reason) {
+    QString line = toQt(reason);
+    if (!line.isEmpty()) {
+        line[0] = line[0].toUpper();
+    }
+    emit complained(line);
+}
+
 std::optional<std::wstring> DeskPrompts::chooseFile(const std::wstring& title,
                                                     const std::wstring& defaultPath,
                                                     const std::wstring& extension, int flags) {
@@ -106,7 +115,7 @@ std::optional<PromptAnswer> DeskPrompts::understand(const PromptRequest& request
     const std::wstring wide = toWide(typed);
     const std::wstring text(trimBlanks(wide));
     print(std::wstring(trimBlanks(request.text)) + L' ' + text);
-    print(complaintAbout(request, text, reading));
+    reject(complaintAbout(request, text, reading));
     if (const auto* const wrong = std::get_if<BrokenPoint>(&reading)) {
         emit broken(toQt(text), static_cast<int>(wrong->place));
     }

@@ -25,6 +25,7 @@ public:
 
     PromptAnswer ask(const PromptRequest& request) override;
     void print(const std::wstring& line) override;
+    void reject(const std::wstring& reason) override;
     std::optional<std::wstring> chooseFile(const std::wstring& title,
                                            const std::wstring& defaultPath,
                                            const std::wstring& extension, int flags) override;
@@ -62,6 +63,7 @@ signals:
     void printed(const QString& line);
     // A typed coordinate is broken at the character with this index; the user was notified.
     void broken(const QString& typed, int place);
+    void complained(const QString& line);
     void toolChosen(const QString& keyword); // where the module asked which one
 
 private:

@@ -186,8 +186,8 @@ void DrawBar::enterScale() {
     const QString typed = m_scale->text().trimmed();
     const std::optional<double> scale = parseReal(toWide(typed));
     if (!scale || *scale == 0.0) {
-        emit printed(scale ? tr("A scale of 0 would put all lines in one place.")
-                           : tr("'%1' is no scale.").arg(typed));
+        emit complained(scale ? tr("A scale of 0 would put all lines in one place.")
+                              : tr("'%1' is no scale.").arg(typed));
         m_scale->selectAll();
         return;
     }

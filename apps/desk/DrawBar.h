@@ -31,7 +31,7 @@ public:
     [[nodiscard]] QToolBar* bar() const { return m_bar; }
 
 signals:
-    void printed(const QString& line);
+    void complained(const QString& line);
     // A field was used, and the keys belong to the command line again.
     void left();
 

@@ -20,7 +20,7 @@ public:
     [[nodiscard]] QLayoutItem* itemAt(int index) const override;
     QLayoutItem* takeAt(int index) override; // the caller's from then on
     [[nodiscard]] Qt::Orientations expandingDirections() const override { return {}; }
-    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    // Not by Qt's hasHeightForWidth, which docks take for a wish to be tall: the widget asks.
     [[nodiscard]] int heightForWidth(int width) const override;
     [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
     [[nodiscard]] QSize minimumSize() const override;

@@ -52,9 +52,6 @@ KeywordBar::KeywordBar(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("commandKeywords"));
     auto* const flow = new FlowLayout(this, kSpacing);
     flow->setContentsMargins(kMargin, 0, kMargin, 0);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    policy.setHeightForWidth(true);
-    setSizePolicy(policy);
     hide();
 }
 
@@ -79,7 +76,16 @@ void KeywordBar::setKeywords(const std::vector<KeywordButton>& keywords) {
         layout()->addWidget(button);
     }
     setVisible(!keywords.empty());
-    updateGeometry();
+    fitHeight();
+}
+
+void KeywordBar::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    fitHeight();
+}
+
+void KeywordBar::fitHeight() {
+    setFixedHeight(layout()->heightForWidth(width()));
 }
 
 } // namespace orvex

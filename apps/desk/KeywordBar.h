@@ -31,6 +31,12 @@ public:
 
 signals:
     void chosen(const QString& keyword);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void fitHeight();
 };
 
 } // namespace orvex

@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "KdDbEntity.h"
 #include "KdDbStub.h"
+#include "LookDesk.h"
 #include "PointTyping.h"
 #include "clickedPoint.h"
 #include "commandNames.h"
@@ -97,12 +98,15 @@ MainWindow::~MainWindow() {
 void MainWindow::makeCommandDock() {
     auto* const dock = new QDockWidget(tr("Command line"), this);
     dock->setObjectName(QStringLiteral("commandDock"));
-    dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
+    dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable |
+                      QDockWidget::DockWidgetClosable);
     dock->setAllowedAreas(Qt::TopDockWidgetArea | Qt::BottomDockWidgetArea);
     dock->setWidget(m_commandLine);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
     resizeDocks({dock}, {kFirstCommandHeight}, Qt::Vertical);
     m_menus.view->addSeparator();
+    new LookDesk(*m_menus.view, *m_canvas, m_settings);
+    m_menus.view->addAction(dock->toggleViewAction());
     m_menus.view->addAction(m_menus.tools->toggleViewAction());
     m_menus.view->addAction(m_menus.editTools.bar->toggleViewAction());
     m_menus.view->addAction(m_drawBar->bar()->toggleViewAction());
@@ -114,10 +118,11 @@ void MainWindow::makeCommandDock() {
 void MainWindow::connectCommandLine() {
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::enterLine);
     connect(m_commandLine, &CommandLine::cancelled, this, &MainWindow::escape);
-    connect(m_drawBar, &DrawBar::printed, m_commandLine, &CommandLine::print);
+    connect(m_drawBar, &DrawBar::complained, m_commandLine, &CommandLine::complain);
     connect(m_drawBar, &DrawBar::left, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(m_snap, &SnapDesk::canvasLeft, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(&m_prompts, &DeskPrompts::printed, m_commandLine, &CommandLine::print);
+    connect(&m_prompts, &DeskPrompts::complained, m_commandLine, &CommandLine::complain);
     connect(&m_prompts, &DeskPrompts::asked, this, &MainWindow::showQuestion);
     connect(&m_prompts, &DeskPrompts::answered, this, &MainWindow::showIdle);
     connect(&m_runner, &CommandRunner::commandStarted, this, [this](const QString& name) {

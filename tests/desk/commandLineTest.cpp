@@ -26,7 +26,7 @@ TEST_F(DeskFixture, anAnswerThatFitsNoQuestionIsToldAndAskedAgain) {
         type("SETVAR"),
         type("NOTHING"),
         [this] {
-            EXPECT_EQ(lastLine(), "there is no variable 'NOTHING'");
+            EXPECT_EQ(lastLine(), "There is no variable 'NOTHING'");
             EXPECT_EQ(prompt(), "Command:");
         },
     });
