@@ -14,7 +14,7 @@ namespace {
 
 // What is looked at in one search at most. Where more lies under the cursor nobody can tell it
 // apart, and the answer may be coarse but not late.
-constexpr std::size_t kMostEntities = 40;
+constexpr std::size_t kMostEntities = 24;
 constexpr std::size_t kMostPieces = 2000;
 constexpr std::size_t kMostPoints = 200'000;
 
