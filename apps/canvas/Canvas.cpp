@@ -49,7 +49,7 @@ void Canvas::setSession(Session* session) {
     s.waitingClick.reset();
     s.press.reset();
     s.selectionFrom.reset();
-    s.windowStep = State::WindowStep::off;
+    s.setWindowStep(State::WindowStep::off);
     s.overlay.clear();
     s.aim = {};
     s.shownPoint.reset();
@@ -174,7 +174,7 @@ void Canvas::zoomBy(double factor) {
 
 void Canvas::startZoomWindow() {
     if (m_state->session != nullptr && m_state->isShown) {
-        m_state->windowStep = State::WindowStep::first;
+        m_state->setWindowStep(State::WindowStep::first);
         m_state->dropHighlight();
         update();
     }

@@ -96,6 +96,8 @@ signals:
     void windowDrawn(PlanPoint first, PlanPoint second, bool takesAway);
     // The right button, which ends a prompt as Enter does.
     void rightClicked();
+    // Which corner of a zoom window is awaited, 1 or 2; 0 when none is any more.
+    void zoomCornerAwaited(int corner);
     // A key that the canvas has no use for, so that one can type wherever the focus is.
     void keyTyped(QKeyEvent* event);
     void settled();

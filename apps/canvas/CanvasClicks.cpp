@@ -25,7 +25,7 @@ void Canvas::State::pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifie
         // A pan with Ctrl, else a window, if it goes on as a drag.
         press = {pixel, modifiers};
     } else if (windowStep == WindowStep::first) {
-        windowStep = WindowStep::second;
+        setWindowStep(WindowStep::second);
         windowCorner = pixel;
     } else if (windowStep == WindowStep::second) {
         endWindow(pixel);

@@ -229,8 +229,15 @@ void Canvas::State::endWindow(const QPoint& corner) {
     }
 }
 
+void Canvas::State::setWindowStep(WindowStep step) {
+    if (windowStep != step) {
+        windowStep = step;
+        emit canvas.zoomCornerAwaited(static_cast<int>(step));
+    }
+}
+
 void Canvas::State::stopWindow() {
-    windowStep = WindowStep::off;
+    setWindowStep(WindowStep::off);
     selectionFrom.reset();
     press.reset();
     isHighlightStale = true;

@@ -124,6 +124,7 @@ struct Canvas::State {
     void updateCursorShape();
     void endWindow(const QPoint& corner);
     void stopWindow();
+    void setWindowStep(WindowStep step);
     void paintMarks(QPainter& painter);
     void paintAim(QPainter& painter);
 };

@@ -75,11 +75,22 @@ CommandLine::CommandLine(QWidget* parent)
 }
 
 void CommandLine::setQuestion(const Question& question) {
-    m_prompt->setText(question.text);
+    m_question = question.text;
+    showPrompt();
     m_input->setBlankKey(question.blank);
     m_input->setTakesLengths(question.takesLengths);
     m_input->setCompletions(question.completions);
     m_keywords->setKeywords(question.keywords);
+}
+
+void CommandLine::setNotice(const QString& notice) {
+    m_notice = notice;
+    showPrompt();
+}
+
+void CommandLine::showPrompt() {
+    m_prompt->setText(m_notice.isEmpty() ? m_question
+                                         : m_notice + QLatin1String("  ") + m_question);
 }
 
 void CommandLine::print(const QString& line) {

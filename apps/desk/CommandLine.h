@@ -28,6 +28,8 @@ public:
         bool takesLengths = false; // Ctrl with an arrow gives the one typed a direction
     };
     void setQuestion(const Question& question);
+    // Stands before the question until it is empty again.
+    void setNotice(const QString& notice);
     // Said below everything said before: a question with its answer after ": ", or a remark.
     void print(const QString& line);
     // The same of something that went wrong.
@@ -53,12 +55,15 @@ protected:
 
 private:
     void showLatest();
+    void showPrompt();
     [[nodiscard]] QColor mixed(double part) const;
     void append(const QString& text, const QColor& color, bool startsLine);
 
     QPlainTextEdit* m_history;
     KeywordBar* m_keywords;
     QLabel* m_prompt;
+    QString m_question;
+    QString m_notice;
     CommandInput* m_input;
 };
 

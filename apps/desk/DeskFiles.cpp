@@ -31,15 +31,10 @@ QString suffixOf(const QString& filter) {
 } // namespace
 
 void DeskFiles::newDrawing() {
-    if (mayLeave()) {
-        m_take(DrawingFile::create(), QString());
-    }
+    m_take(DrawingFile::create(), QString());
 }
 
 void DeskFiles::askAndOpen() {
-    if (!mayLeave()) {
-        return;
-    }
     const QString path = QFileDialog::getOpenFileName(&m_window, tr("Open a drawing"),
                                                       m_settings.text(DeskSettings::kDrawingFolder),
                                                       drawingFilter());
@@ -150,9 +145,9 @@ void DeskFiles::exportPicture() {
     }
 }
 
-bool DeskFiles::mayLeave() {
-    if (!m_drawing.isChanged()) {
-        return true;
+Leave DeskFiles::askLeave(bool willChange) {
+    if (!willChange && !m_drawing.isChanged()) {
+        return Leave::discard;
     }
     QMessageBox box(QMessageBox::Warning, tr("Orvex"),
                     tr("%1 has changes that aren't saved.").arg(m_drawing.name()),
@@ -161,7 +156,14 @@ bool DeskFiles::mayLeave() {
     box.setInformativeText(tr("Do you want to save them?"));
     box.setDefaultButton(QMessageBox::Save);
     const int answer = box.exec();
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
+    return answer == QMessageBox::Save      ? Leave::save
+           : answer == QMessageBox::Discard ? Leave::discard
+                                            : Leave::stay;
+}
+
+bool DeskFiles::mayLeave() {
+    const Leave answer = askLeave();
+    return answer == Leave::discard || (answer == Leave::save && save());
 }
 
 void DeskFiles::report(const QString& what, const QString& why) {

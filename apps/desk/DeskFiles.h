@@ -10,6 +10,9 @@
 
 namespace orvex {
 
+// What a user wants to become of changes that no file holds.
+enum class Leave { stay, save, discard };
+
 // What the menu File does with the drawing in the window: asks for names, asks about changes,
 // opens, saves, reports what went wrong.
 class DeskFiles final : public QObject {
@@ -24,6 +27,7 @@ public:
         : m_window(window), m_drawing(drawing), m_settings(settings), m_take(std::move(take)),
           m_opener(window) {}
 
+    // These three let the drawing go; whether it may has been asked.
     void newDrawing();
     void askAndOpen();
     void open(const QString& path);
@@ -31,7 +35,10 @@ public:
     bool saveAs();
     void exportPicture();
 
-    // Asks about changes that no file holds. True when the drawing may go.
+    // Asks about changes that no file holds, or that are about to be made. Where there are none,
+    // nobody is asked: discard.
+    [[nodiscard]] Leave askLeave(bool willChange = false);
+    // The same, with the save. True when the drawing may go.
     [[nodiscard]] bool mayLeave();
 
     [[nodiscard]] DrawingOpener& opener() { return m_opener; }

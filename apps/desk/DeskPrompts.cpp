@@ -23,6 +23,15 @@ PromptAnswer cancelled() {
     return answer;
 }
 
+PromptAnswer givenUp(const PromptRequest& request) {
+    PromptAnswer answer = cancelled();
+    if (request.keepsOnEscape) {
+        answer.kind = PromptAnswer::Kind::empty;
+        answer.echo.clear();
+    }
+    return answer;
+}
+
 } // namespace
 
 const PromptRequest* DeskPrompts::request() const {
@@ -40,7 +49,7 @@ PromptAnswer DeskPrompts::ask(const PromptRequest& request) {
 PromptAnswer DeskPrompts::answerTo(const PromptRequest& request) {
     // Within a question nobody can ask another one.
     if (m_cancelsAll || m_loop != nullptr) {
-        return cancelled();
+        return givenUp(request);
     }
     if (!m_ahead.isEmpty()) {
         if (const auto answer = understand(request, m_ahead.takeFirst())) {
@@ -157,7 +166,7 @@ void DeskPrompts::answerLines(QStringList lines) {
 void DeskPrompts::cancel() {
     m_ahead.clear();
     if (m_loop != nullptr) {
-        finish(cancelled());
+        finish(givenUp(*m_request));
     }
 }
 

@@ -51,9 +51,10 @@ public:
     void answerPoint(const KdGePoint3d& point);
     // Lines as if they were typed one by one, at this question and those that follow.
     void answerLines(QStringList lines);
+    // Keeps what the question says is kept, as an empty line does.
     void cancel();
 
-    // Answers this question and all that follow by a cancel, until `allow`.
+    // The same for this question and all that follow, until `allow`.
     void cancelAll();
     void allow() { m_cancelsAll = false; }
 

@@ -32,6 +32,14 @@ void DeskSettings::setText(const wchar_t* key, const QString& value) {
     profile().setText(kSection, key, toWide(value));
 }
 
+int DeskSettings::integer(const wchar_t* key, int fallback) const {
+    return profile().integer(kSection, key, fallback);
+}
+
+void DeskSettings::setInteger(const wchar_t* key, int value) {
+    profile().setInteger(kSection, key, value);
+}
+
 int HostProfileStore::integer(const std::wstring& section, const std::wstring& key,
                               int fallback) const {
     return profile().integer(section, key, fallback);

@@ -16,6 +16,9 @@ public:
     [[nodiscard]] QString text(const wchar_t* key) const;
     void setText(const wchar_t* key, const QString& value);
 
+    [[nodiscard]] int integer(const wchar_t* key, int fallback) const;
+    void setInteger(const wchar_t* key, int value);
+
     static constexpr const wchar_t* kGeometry = L"Geometry";
     static constexpr const wchar_t* kState = L"State";
     static constexpr const wchar_t* kDrawingFolder = L"DrawingFolder";
@@ -24,6 +27,7 @@ public:
     static constexpr const wchar_t* kSnapAperture = L"SnapAperture"; // pixels
     static constexpr const wchar_t* kAngleStep = L"AngleStep";       // degrees
     static constexpr const wchar_t* kPictureFolder = L"PictureFolder";
+    static constexpr const wchar_t* kUndoMemory = L"UndoMemory"; // MiB
 };
 
 // Lets the dialogs of modules keep theirs in the same profile.

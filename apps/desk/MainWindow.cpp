@@ -69,9 +69,11 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
               [this](std::unique_ptr<DrawingFile> file, const QString& path) {
                   takeDrawing(std::move(file), path);
               }),
-      m_canvas(new Canvas(this)), m_commandLine(new CommandLine(this)),
+      m_leave(m_files, m_runner, m_prompts), m_canvas(new Canvas(this)),
+      m_commandLine(new CommandLine(this)),
       m_menus(*this, [this](const DeskAct& act) { perform(act); }),
       m_join(new JoinDesk(*this, *m_canvas, m_runner, m_prompts)),
+      m_undo(new UndoDesk(*this, *m_canvas, m_runner, m_prompts, m_settings)),
       m_drawBar(new DrawBar(*this, m_runner, m_prompts)), m_status(*statusBar()),
       m_tool(new ToolDesk(*this, *m_canvas, m_runner, m_prompts, m_status)),
       m_snap(new SnapDesk(*this, *m_canvas, m_prompts, m_settings)),
@@ -121,6 +123,7 @@ void MainWindow::connectCommandLine() {
     connect(m_drawBar, &DrawBar::complained, m_commandLine, &CommandLine::complain);
     connect(m_drawBar, &DrawBar::left, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(m_snap, &SnapDesk::canvasLeft, m_commandLine, [this] { m_commandLine->setFocus(); });
+    connect(m_undo, &UndoDesk::printed, m_commandLine, &CommandLine::print);
     connect(&m_prompts, &DeskPrompts::printed, m_commandLine, &CommandLine::print);
     connect(&m_prompts, &DeskPrompts::complained, m_commandLine, &CommandLine::complain);
     connect(&m_prompts, &DeskPrompts::asked, this, &MainWindow::showQuestion);
@@ -157,6 +160,11 @@ void MainWindow::connectCanvas() {
             [this](QKeyEvent* event) { m_commandLine->takeKey(*event); });
     connect(m_canvas, &Canvas::cursorMoved, this, [this](double x, double y) {
         m_status.showCursor(x, y, session()->view().unitsPerPixel());
+    });
+    connect(m_canvas, &Canvas::zoomCornerAwaited, this, [this](int corner) {
+        m_commandLine->setNotice(corner == 0   ? QString()
+                                 : corner == 1 ? tr("(first corner of the zoom window)")
+                                               : tr("(opposite corner of the zoom window)"));
     });
     connect(m_canvas, &Canvas::cursorLeft, &m_status, &StatusLine::clearCursor);
     connect(m_canvas, &Canvas::settled, this, &MainWindow::reportPartlyDrawn);
@@ -202,11 +210,7 @@ void MainWindow::loadModule(const std::vector<std::string>& files) {
 }
 
 void MainWindow::open(const QString& path) {
-    post([this, path] {
-        if (m_files.mayLeave()) {
-            m_files.open(path);
-        }
-    });
+    m_leave.then([this, path] { m_files.open(path); });
 }
 
 void MainWindow::start(const QString& command, const QStringList& answers) {
@@ -230,6 +234,7 @@ void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& p
     m_snap->setSession(*session());
     m_drawBar->setSession(*session());
     m_tool->setSession(*session());
+    m_undo->setSession(*session());
     session()->display().setRepaint([this] { m_canvas->refresh(); });
     m_runner.setSession(session());
     m_canvas->setSession(session());
@@ -264,9 +269,9 @@ void MainWindow::perform(WindowAct act) {
     constexpr double kZoomStep = 1.5;
     switch (act) {
     case WindowAct::newDrawing:
-        return post([this] { m_files.newDrawing(); });
+        return m_leave.then([this] { m_files.newDrawing(); });
     case WindowAct::open:
-        return post([this] { m_files.askAndOpen(); });
+        return m_leave.then([this] { m_files.askAndOpen(); });
     case WindowAct::save:
         return post([this] { m_files.save(); });
     case WindowAct::saveAs:
@@ -276,6 +281,12 @@ void MainWindow::perform(WindowAct act) {
     case WindowAct::exit:
         close();
         return;
+    case WindowAct::undo:
+        return m_undo->undo();
+    case WindowAct::redo:
+        return m_undo->redo();
+    case WindowAct::undoMemory:
+        return m_undo->askMemory();
     case WindowAct::zoomExtents:
         return m_canvas->zoomExtents();
     case WindowAct::zoomWindow:
@@ -292,6 +303,9 @@ void MainWindow::perform(WindowAct act) {
 }
 
 void MainWindow::enterLine(const QString& line) {
+    if (m_undo->takeLine(line)) {
+        return;
+    }
     if (m_prompts.request() != nullptr) {
         if (!m_snap->takeWord(line)) {
             m_prompts.answerText(line);
@@ -388,13 +402,20 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         return; // the user changed his mind
     }
     m_files.opener().cancel();
-    m_runner.post([this] {
-        if (m_files.mayLeave()) {
-            m_mayClose = true;
-            close();
-            m_mayClose = false;
-        }
-    });
+    const auto leave = [this] {
+        m_mayClose = true;
+        close();
+        m_mayClose = false;
+    };
+    if (m_files.opener().isOpening()) {
+        m_runner.post([this, leave] {
+            if (m_files.mayLeave()) {
+                leave();
+            }
+        });
+    } else {
+        m_leave.then(leave);
+    }
 }
 
 // Whatever has the focus, one types into the command line.

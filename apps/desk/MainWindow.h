@@ -3,6 +3,7 @@
 #include "CommandRunner.h"
 #include "DeskDrawing.h"
 #include "DeskFiles.h"
+#include "DeskLeave.h"
 #include "DeskMenus.h"
 #include "DeskPrompts.h"
 #include "DeskSettings.h"
@@ -13,6 +14,7 @@
 #include "SnapDesk.h"
 #include "StatusLine.h"
 #include "ToolDesk.h"
+#include "UndoDesk.h"
 
 #include <QMainWindow>
 
@@ -83,10 +85,12 @@ private:
     CommandRunner m_runner;
     DeskDrawing m_drawing;
     DeskFiles m_files;
+    DeskLeave m_leave;
     Canvas* m_canvas;
     CommandLine* m_commandLine;
     DeskMenus m_menus;
     JoinDesk* m_join;
+    UndoDesk* m_undo;
     DrawBar* m_drawBar;
     StatusLine m_status;
     ToolDesk* m_tool;

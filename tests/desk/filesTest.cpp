@@ -94,13 +94,13 @@ TEST_F(FilesOfDesk, changesAreAskedAboutBeforeTheyAreLost) {
         trigger("new"),
         answer(QMessageBox::Cancel),
         [this] { EXPECT_EQ(titleOf(*window), "plan.dxf"); },
-        // Closing while a command asks: the command goes first.
+        // Closing while a command asks: it waits for the answer.
         trigger("toolCC"),
         trigger("exit"),
         answer(QMessageBox::Cancel),
         [this] {
             EXPECT_TRUE(window->isVisible());
-            EXPECT_EQ(prompt(), "Command:");
+            EXPECT_EQ(canvas()->aim().kind, AimKind::entity);
         },
         trigger("exit"),
         answer(QMessageBox::Save),

@@ -1,0 +1,223 @@
+#include "UndoDesk.h"
+
+#include "Canvas.h"
+#include "ChangeLog.h"
+#include "CommandRunner.h"
+#include "DatabaseCore.h"
+#include "DeskPrompts.h"
+#include "DeskSettings.h"
+#include "KdDbDatabase.h"
+#include "Session.h"
+#include "UndoLog.h"
+#include "qtWide.h"
+
+#include <QAction>
+#include <QInputDialog>
+#include <QMainWindow>
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+namespace orvex {
+
+namespace {
+
+using Stage = ToolWatch::Stage;
+
+constexpr const wchar_t* kUndo = L"Undo";
+constexpr const wchar_t* kToolsUndo = L"UNDO";
+constexpr int kMebibyte = 20;                                             // a power of two
+constexpr int kDefaultMemory = UndoLog::kDefaultMemoryLimit >> kMebibyte; // MiB
+constexpr int kLeastMemory = 1;
+constexpr int kMostMemory = 1 << 20;
+
+bool offers(const PromptRequest& request, const wchar_t* keyword) {
+    return std::find(request.keywords.begin(), request.keywords.end(), keyword) !=
+           request.keywords.end();
+}
+
+ChangeLog& changesOf(Session& session) {
+    return session.database().core().changes();
+}
+
+QString counted(std::size_t count, const QString& one, const QString& many) {
+    return count == 1 ? one : many.arg(count);
+}
+
+// "Undo MOVE, 12 multilines", with the access key.
+QString nameOf(const QString& verb, const StepName* step) {
+    if (step == nullptr || step->command.empty()) {
+        return verb;
+    }
+    QString name = verb + ' ' + toQt(step->command).replace('&', QLatin1String("&&"));
+    if (step->multilines > 0) {
+        name += QLatin1String(", ") + counted(step->multilines, UndoDesk::tr("1 multiline"),
+                                              UndoDesk::tr("%1 multilines"));
+    } else if (step->entities > 0) {
+        name += QLatin1String(", ") +
+                counted(step->entities, UndoDesk::tr("1 entity"), UndoDesk::tr("%1 entities"));
+    }
+    return name;
+}
+
+} // namespace
+
+UndoDesk::UndoDesk(QMainWindow& window, Canvas& canvas, CommandRunner& runner, DeskPrompts& prompts,
+                   DeskSettings& settings)
+    : QObject(&window), m_window(window), m_canvas(canvas), m_runner(runner), m_prompts(prompts),
+      m_settings(settings) {
+    connect(&m_prompts, &DeskPrompts::asked, this, &UndoDesk::questionAsked);
+    connect(&m_runner, &CommandRunner::commandEnded, this, &UndoDesk::commandEnded);
+}
+
+void UndoDesk::setSession(Session& session) {
+    m_session = &session;
+    m_areDroppedTold = false;
+    applyMemory();
+    showNames();
+}
+
+void UndoDesk::undo() {
+    if (m_canvas.dropWindow() ||
+        std::any_of(m_holds.begin(), m_holds.end(), [](const auto& letGo) { return letGo(); })) {
+        return;
+    }
+    if (const PromptRequest* const request = m_prompts.request()) {
+        undoAtQuestion(*request);
+    } else if (!m_runner.isBusy()) {
+        m_runner.start(QStringLiteral("U"), {}, CommandRunner::Repeat::before);
+    }
+}
+
+void UndoDesk::redo() {
+    if (const PromptRequest* const request = m_prompts.request()) {
+        if (m_session->toolWatch().stage() == Stage::first) {
+            redoCycle(*request);
+        }
+    } else if (!m_runner.isBusy()) {
+        m_runner.start(QStringLiteral("REDO"), {}, CommandRunner::Repeat::before);
+    }
+}
+
+bool UndoDesk::takeLine(const QString& line) {
+    if (line.trimmed().compare(QLatin1String("U"), Qt::CaseInsensitive) != 0) {
+        return false;
+    }
+    const PromptRequest* const request = m_prompts.request();
+    if (request != nullptr &&
+        (request->kind == PromptKind::text || matchKeyword(request->keywords, L"U").has_value())) {
+        return false; // an answer like any other
+    }
+    undo();
+    return true;
+}
+
+void UndoDesk::undoAtQuestion(const PromptRequest& request) {
+    if (offers(request, kUndo)) {
+        m_prompts.answerText(toQt(std::wstring(kUndo)));
+        return;
+    }
+    switch (m_session->toolWatch().stage()) {
+    case Stage::first:
+        return undoCycle(request);
+    case Stage::second:
+        return beginToolAnew();
+    case Stage::none:
+        return m_prompts.cancelAll();
+    }
+}
+
+void UndoDesk::undoCycle(const PromptRequest& request) {
+    if (!changesOf(*m_session).rollBackToMark()) {
+        m_prompts.cancelAll();
+        return;
+    }
+    m_canvas.refresh();
+    const bool isToolsToo = std::exchange(m_isCycleLast, false);
+    if (!offers(request, kToolsUndo)) {
+        emit printed(tr("; the cycle before is taken back, too"));
+    } else if (isToolsToo) {
+        m_awaitsToolsUndo = true;
+        m_prompts.answerText(toQt(std::wstring(kToolsUndo)));
+    } else {
+        emit printed(tr("; the last cycle is taken back"));
+        beginToolAnew();
+    }
+}
+
+void UndoDesk::redoCycle(const PromptRequest& request) {
+    if (!changesOf(*m_session).rollForward()) {
+        return;
+    }
+    m_canvas.refresh();
+    m_isCycleLast = false;
+    emit printed(tr("; the cycle is there again"));
+    if (offers(request, kToolsUndo)) {
+        beginToolAnew();
+    }
+}
+
+// The tool knows nothing of what it did before; all of it stays one step.
+void UndoDesk::beginToolAnew() {
+    const ToolKind* const tool = m_session->toolWatch().tool();
+    if (tool == nullptr) {
+        m_prompts.cancelAll();
+        return;
+    }
+    m_session->followWith(L"-MLEDIT");
+    m_prompts.cancel();
+    m_prompts.answerAhead({toQt(std::wstring(tool->keyword))});
+}
+
+void UndoDesk::questionAsked() {
+    const bool wasToolsUndo = std::exchange(m_awaitsToolsUndo, false);
+    m_isCycleLast = false;
+    if (m_session == nullptr || m_session->toolWatch().stage() != Stage::first) {
+        return;
+    }
+    if (wasToolsUndo) {
+        changesOf(*m_session).restoreMark(); // whatever the tool made of its keyword
+    }
+    m_isCycleLast = changesOf(*m_session).mark();
+}
+
+void UndoDesk::commandEnded() {
+    showNames();
+    const std::size_t dropped = changesOf(*m_session).steps().droppedSteps();
+    if (dropped > 0 && !m_areDroppedTold) {
+        m_areDroppedTold = true;
+        emit printed(tr("The memory for undo is used up; the oldest steps can't be taken back any "
+                        "more (Edit, Undo Memory)."));
+    }
+}
+
+void UndoDesk::showNames() {
+    const ChangeLog& changes = changesOf(*m_session);
+    for (const auto& [action, verb, step] : {std::tuple("undo", tr("&Undo"), changes.nextUndo()),
+                                             std::tuple("redo", tr("&Redo"), changes.nextRedo())}) {
+        if (auto* const entry = m_window.findChild<QAction*>(QLatin1String(action))) {
+            entry->setText(nameOf(verb, step));
+        }
+    }
+}
+
+void UndoDesk::applyMemory() {
+    const int mebibytes = std::clamp(m_settings.integer(DeskSettings::kUndoMemory, kDefaultMemory),
+                                     kLeastMemory, kMostMemory);
+    changesOf(*m_session).steps().setMemoryLimit(static_cast<std::size_t>(mebibytes) << kMebibyte);
+}
+
+void UndoDesk::askMemory() {
+    bool isChosen = false;
+    const int now = m_settings.integer(DeskSettings::kUndoMemory, kDefaultMemory);
+    const int mebibytes = QInputDialog::getInt(
+        &m_window, tr("Undo memory"), tr("Memory that steps may hold until the oldest go, in MiB:"),
+        now, kLeastMemory, kMostMemory, 1, &isChosen);
+    if (isChosen) {
+        m_settings.setInteger(DeskSettings::kUndoMemory, mebibytes);
+        applyMemory();
+    }
+}
+
+} // namespace orvex

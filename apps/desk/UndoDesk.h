@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class QMainWindow;
+
+namespace orvex {
+
+class Canvas;
+class CommandRunner;
+class DeskPrompts;
+class DeskSettings;
+class Session;
+struct PromptRequest;
+
+// What undo and redo mean in each state of the window, whether by key, button or a typed U:
+//
+// | state                              | undo                                                    |
+// |------------------------------------|---------------------------------------------------------|
+// | a window is being drawn            | it ends                                                 |
+// | something is held, such as a grip  | it is let go                                            |
+// | a question that offers Undo        | that is the answer                                      |
+// | the first pick of an editing tool  | the last cycle is taken back, the tool goes on; where   |
+// |                                    | none is left, the command is cancelled                  |
+// | its second pick                    | the first one is dropped, the tool goes on              |
+// | any other question                 | the command is cancelled                                |
+// | no command runs                    | the last command is taken back                          |
+//
+// Redo brings back the last command, or during a tool its last cycle, until something new is done.
+// What was finished before a command began is never touched while that runs.
+//
+// A tool's own keyword UNDO reaches one cycle back and may hit another multiline after a refused
+// pick. So cycles are taken back by marks of the database, and the keyword is answered only where
+// both are the same, else the tool begins anew, so that it offers nothing that isn't so any more.
+class UndoDesk final : public QObject {
+    Q_OBJECT
+
+public:
+    // All outlive it.
+    UndoDesk(QMainWindow& window, Canvas& canvas, CommandRunner& runner, DeskPrompts& prompts,
+             DeskSettings& settings);
+
+    void setSession(Session& session);
+    // Asked before anything of a command is taken back: lets go what is held; false for nothing.
+    void addHold(std::function<bool()> letGo) { m_holds.push_back(std::move(letGo)); }
+
+    void undo();
+    void redo();
+    // A line that was typed. False when it isn't for undo.
+    bool takeLine(const QString& line);
+    // Asks for the memory that steps may hold.
+    void askMemory();
+
+signals:
+    void printed(const QString& line);
+
+private:
+    void undoAtQuestion(const PromptRequest& request);
+    void undoCycle(const PromptRequest& request);
+    void redoCycle(const PromptRequest& request);
+    void beginToolAnew();
+    void questionAsked();
+    void commandEnded();
+    void showNames();
+    void applyMemory();
+
+    QMainWindow& m_window;
+    Canvas& m_canvas;
+    CommandRunner& m_runner;
+    DeskPrompts& m_prompts;
+    DeskSettings& m_settings;
+    Session* m_session = nullptr;
+    std::vector<std::function<bool()>> m_holds;
+    bool m_isCycleLast = false;     // what a tool's keyword would take back is the last cycle
+    bool m_awaitsToolsUndo = false; // the keyword was answered for the user
+    bool m_areDroppedTold = false;
+};
+
+} // namespace orvex
