@@ -60,6 +60,7 @@ void CommandRunner::run(const QString& name, const QStringList& answers, Repeat 
     if (!failure && repeat == Repeat::itself) {
         m_last = m_running;
     }
+    m_running = {};
     if (failure) {
         m_prompts.reject(widen(messageOf(*failure)));
     }

@@ -37,6 +37,11 @@ public:
     void post(std::function<void()> task);
 
     [[nodiscard]] bool isBusy() const { return m_working; }
+    // The command that runs: after what was answered at its first prompts its name, in capitals.
+    [[nodiscard]] QStringList running() const {
+        return m_running.name.isEmpty() ? QStringList()
+                                        : m_running.answers + QStringList{m_running.name.toUpper()};
+    }
 
 signals:
     void commandStarted(const QString& name);

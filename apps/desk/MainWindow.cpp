@@ -77,7 +77,7 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
       m_drawBar(new DrawBar(*this, m_runner, m_prompts)), m_status(*statusBar()),
       m_tool(new ToolDesk(*this, *m_canvas, m_runner, m_prompts, m_status)),
       m_snap(new SnapDesk(*this, *m_canvas, m_prompts, m_settings)),
-      m_recent(*m_menus.recent, m_settings) {
+      m_help(new HelpWindow(this)), m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
     setAcceptDrops(true);
     makeCommandDock();
@@ -297,6 +297,8 @@ void MainWindow::perform(WindowAct act) {
         return m_canvas->zoomBy(kZoomStep);
     case WindowAct::zoomOut:
         return m_canvas->zoomBy(1.0 / kZoomStep);
+    case WindowAct::help:
+        return m_help->showTopic(m_runner.running());
     case WindowAct::about:
         return about();
     }

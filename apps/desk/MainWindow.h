@@ -8,6 +8,7 @@
 #include "DeskPrompts.h"
 #include "DeskSettings.h"
 #include "DrawBar.h"
+#include "HelpWindow.h"
 #include "JoinDesk.h"
 #include "RecentFiles.h"
 #include "SessionChoices.h"
@@ -95,6 +96,7 @@ private:
     StatusLine m_status;
     ToolDesk* m_tool;
     SnapDesk* m_snap;
+    HelpWindow* m_help;
     RecentFiles m_recent;
     bool m_mayClose = false;
     bool m_isPartlyDrawnReported = false;

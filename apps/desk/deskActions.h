@@ -25,6 +25,7 @@ enum class WindowAct : std::uint8_t {
     zoomPrevious,
     zoomIn,
     zoomOut,
+    help,
     about,
 };
 
