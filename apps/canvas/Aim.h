@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Appearance.h"
+#include "GroupGhost.h"
 #include "GuidedPoint.h"
 
 #include <cstdint>
@@ -13,7 +14,7 @@ namespace orvex {
 
 // What a click on the canvas is taken for.
 enum class AimKind : std::uint8_t {
-    none,      // nothing asks: crosshair, the entity under it is highlighted
+    none,      // nothing asks: crosshair, the entity under it is highlighted, a click selects
     entity,    // a pick is asked for: the cursor is the pick box
     point,     // a point is asked for: crosshair
     selection, // picks and windows are asked for: the cursor is the pick box
@@ -26,6 +27,8 @@ struct Aim {
     std::optional<PlanPoint> base{}; // a line from here to the guided point
     // What that point would make, drawn in place of the line; null draws the line.
     std::function<Appearance(PlanPoint point)> preview{};
+    // What moves as one with that point, drawn beside the line.
+    AimGroup group{};
     // Where a click of the aim `point` goes; null takes the cursor's place.
     Guide guide{};
     // Of a selection: what counts in a window; null counts everything.

@@ -19,6 +19,7 @@ namespace {
 constexpr double kZoomOfNotch = 1.2;
 constexpr double kAnglesOfNotch = 120.0; // eighths of a degree
 constexpr int kDragDistance = 3;         // pixels; less is a click
+constexpr int kMoveDistance = 10;        // more than a click that slipped moves what is selected
 constexpr int kPauseOfWheel = 600;       // milliseconds; what comes later is a new movement
 
 } // namespace
@@ -52,6 +53,10 @@ void Canvas::setSession(Session* session) {
     s.setWindowStep(State::WindowStep::off);
     s.overlay.clear();
     s.aim = {};
+    s.ghost.setGroup({});
+    s.grips.setPlaces({});
+    s.isGripDragged = false;
+    s.waitingDrop.reset();
     s.shownPoint.reset();
     s.crossTarget.reset();
     s.guided.reset();
@@ -68,6 +73,13 @@ void Canvas::setAim(Aim aim) {
     m_state->selectionFrom.reset();
     m_state->press.reset();
     m_state->isHighlightStale = true;
+    m_state->ghost.setGroup(m_state->aim.group);
+    if (m_state->aim.kind == AimKind::point && m_state->waitingDrop) {
+        m_state->waitingClick = std::exchange(m_state->waitingDrop, std::nullopt);
+    } else if (m_state->aim.kind != AimKind::point) {
+        m_state->waitingDrop.reset();
+        m_state->isGripDragged = false;
+    }
     guideChanged();
 }
 
@@ -116,6 +128,15 @@ void Canvas::setGround(std::uint32_t rgb) {
 
 const std::vector<KdDbStub*>& Canvas::selected() const {
     return m_state->overlay.selected();
+}
+
+void Canvas::setGrips(std::vector<PlanPoint> places) {
+    m_state->grips.setPlaces(std::move(places));
+    update();
+}
+
+const std::vector<PlanPoint>& Canvas::grips() const {
+    return m_state->grips.places();
 }
 
 void Canvas::setMarks(std::vector<CanvasMark> marks) {
@@ -250,7 +271,10 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) {
         s.startPan(event->pos(), event->button());
     } else if (event->button() == Qt::RightButton) {
-        if (!dropWindow()) {
+        const auto grip = s.gripAt(event->pos());
+        if (grip) {
+            emit gripMenuWanted(static_cast<int>(*grip), event->globalPos());
+        } else if (!dropWindow()) {
             emit rightClicked();
         }
     } else if (event->button() == Qt::LeftButton) {
@@ -267,7 +291,8 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
     if (s.session == nullptr || !s.isShown) {
         return;
     }
-    if (s.press && (event->pos() - s.press->at).manhattanLength() >= kDragDistance) {
+    if (s.press && (event->pos() - s.press->at).manhattanLength() >=
+                       (s.press->isOnSelected && !s.press->grip ? kMoveDistance : kDragDistance)) {
         s.startDrag(*std::exchange(s.press, std::nullopt));
     }
     if (s.selectionFrom) {
@@ -302,9 +327,13 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event) {
         s.isHighlightStale = true;
         if (s.selectionFrom) {
             s.endSelectionWindow((press.modifiers & Qt::ShiftModifier) != 0);
+        } else if (press.grip) {
+            s.takeGrip(*press.grip, false);
         } else if (s.windowStep == State::WindowStep::off) {
             s.click({s.planAt(press.at), press.modifiers});
         }
+    } else if (event->button() == Qt::LeftButton && s.isGripDragged) {
+        s.dropGrip({s.planAt(event->pos()), event->modifiers()});
     } else if (event->button() == Qt::LeftButton && s.selectionFrom && s.isSelectionDragged) {
         s.endSelectionWindow((event->modifiers() & Qt::ShiftModifier) != 0);
     } else if (s.panFrom && event->button() == s.panButton) {

@@ -58,6 +58,9 @@ public:
     // Shown until they are set anew, or the session is. Entities have to live as long.
     void setSelected(std::vector<KdDbStub*> entities);
     [[nodiscard]] const std::vector<KdDbStub*>& selected() const;
+    // Shown, and to be taken hold of, while nothing asks.
+    void setGrips(std::vector<PlanPoint> places);
+    [[nodiscard]] const std::vector<PlanPoint>& grips() const;
     void setMarks(std::vector<CanvasMark> marks);
     [[nodiscard]] const std::vector<CanvasMark>& marks() const;
 
@@ -91,9 +94,15 @@ signals:
     void hovered(KdDbStub* entity);
     // A click while the aim is entity or point; an exact place isn't to be rounded.
     void clicked(double worldX, double worldY, bool isExact);
-    // While the aim is selection: a click on an entity, and two corners of a window.
+    // While the aim is selection or none: a click on an entity, and two corners of a window.
     void picked(double worldX, double worldY, bool takesAway);
     void windowDrawn(PlanPoint first, PlanPoint second, bool takesAway);
+    // A grip was clicked, or a drag of it began, which ends as a click of the aim `point`; the
+    // right button on one. Its index.
+    void gripTaken(int grip);
+    // A drag of a selected entity began at a place; it ends like that of a grip.
+    void selectionDragged(double worldX, double worldY);
+    void gripMenuWanted(int grip, const QPoint& at); // of the screen
     // The right button, which ends a prompt as Enter does.
     void rightClicked();
     // Which corner of a zoom window is awaited, 1 or 2; 0 when none is any more.

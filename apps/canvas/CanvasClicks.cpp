@@ -1,4 +1,4 @@
-// What the left button does while something asks: clicks, drags, windows of a selection.
+// What the left button does: clicks, drags, windows of a selection.
 
 #include "CanvasState.h"
 #include "canvasMarks.h"
@@ -20,10 +20,12 @@ void Canvas::State::pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifie
     const bool takesAway = (modifiers & Qt::ShiftModifier) != 0;
     const bool awaitsCorner =
         windowStep == WindowStep::first || windowStep == WindowStep::second || selectionFrom;
-    const bool selects = aim.kind == AimKind::selection && !awaitsCorner;
+    const bool selects = takesSelection() && !awaitsCorner;
     if ((modifiers & Qt::ControlModifier) != 0 || selects) {
         // A pan with Ctrl, else a window, if it goes on as a drag.
-        press = {pixel, modifiers};
+        const bool isPlain = modifiers == Qt::NoModifier;
+        press = {pixel, modifiers, isPlain ? gripAt(pixel) : std::nullopt,
+                 isPlain && isSelectedAt(pixel)};
     } else if (windowStep == WindowStep::first) {
         setWindowStep(WindowStep::second);
         windowCorner = pixel;
@@ -38,13 +40,10 @@ void Canvas::State::pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifie
 
 // Whoever takes a click may do anything.
 void Canvas::State::click(const Click& click) {
-    if (aim.kind == AimKind::none) {
-        return;
-    }
     if ((aim.kind != AimKind::point || aim.guide) && !session->scene().prepareSome({})) {
         waitingClick = click; // a pick would take as long as the rest of the index
         startWork();
-    } else if (aim.kind != AimKind::selection) {
+    } else if (!takesSelection()) {
         const GuidedPoint point = guidedAt(click.at, click.modifiers);
         emit canvas.clicked(point.at.x, point.at.y, point.isExact);
     } else if (session->scene().entityAt({click.at.x, click.at.y, 0.0}, aim.pickBox) != nullptr) {
@@ -57,8 +56,51 @@ void Canvas::State::click(const Click& click) {
 void Canvas::State::startDrag(const Press& from) {
     if ((from.modifiers & Qt::ControlModifier) != 0) {
         startPan(from.at, Qt::LeftButton);
+    } else if (from.grip) {
+        takeGrip(*from.grip, true);
+    } else if (from.isOnSelected) {
+        isGripDragged = true;
+        waitingDrop.reset();
+        dropHighlight();
+        const PlanPoint at = planAt(from.at);
+        emit canvas.selectionDragged(at.x, at.y);
     } else {
         startSelectionWindow(planAt(from.at), true);
+    }
+}
+
+// Only while nothing asks: then a click is a pick.
+std::optional<std::size_t> Canvas::State::gripAt(const QPoint& pixel) {
+    if (aim.kind != AimKind::none || !isShown || windowStep != WindowStep::off || selectionFrom) {
+        return std::nullopt;
+    }
+    return grips.at(view(), QPointF(pixel) + QPointF(0.5, 0.5));
+}
+
+bool Canvas::State::isSelectedAt(const QPoint& pixel) const {
+    if (aim.kind != AimKind::none || overlay.selected().empty() ||
+        !session->scene().prepareSome({})) {
+        return false;
+    }
+    const PlanPoint at = planAt(pixel);
+    const KdDbStub* const found = session->scene().entityAt({at.x, at.y, 0.0}, aim.pickBox);
+    const std::vector<KdDbStub*>& selected = overlay.selected();
+    return found != nullptr && std::find(selected.begin(), selected.end(), found) != selected.end();
+}
+
+void Canvas::State::takeGrip(std::size_t grip, bool isDragged) {
+    isGripDragged = isDragged;
+    waitingDrop.reset();
+    dropHighlight();
+    emit canvas.gripTaken(static_cast<int>(grip));
+}
+
+void Canvas::State::dropGrip(const Click& drop) {
+    isGripDragged = false;
+    if (aim.kind == AimKind::point) {
+        click(drop);
+    } else {
+        waitingDrop = drop;
     }
 }
 

@@ -48,6 +48,9 @@ void Canvas::State::paintPointAim(QPainter& painter) {
             paintTypedPoint(painter, view(), *end);
         }
     }
+    if (end && !ghost.isEmpty()) {
+        ghost.paint(painter, session->scene(), view(), canvas.devicePixelRatioF(), *end);
+    }
     if (end && aim.preview) {
         paintPreview(painter, view(), aim.preview(*end));
     } else if (end && aim.base) {

@@ -195,7 +195,7 @@ PickTarget Canvas::State::targetAt(PlanPoint place) const {
 void Canvas::State::updateHighlight() {
     isHighlightStale = false;
     PickTarget target;
-    if (aim.kind != AimKind::point && cursor && !panFrom && !drawsWindow()) {
+    if (aim.kind != AimKind::point && cursor && !panFrom && !drawsWindow() && !gripAt(*cursor)) {
         target = targetAt(planAtCursor());
     }
     targetWords = target.words;
@@ -248,6 +248,11 @@ void Canvas::State::stopWindow() {
 void Canvas::State::paintMarks(QPainter& painter) {
     KdDbDatabase& database = session->database();
     overlay.paint(painter, session->scene(), view(), canvas.devicePixelRatioF());
+    if (aim.kind == AimKind::none) {
+        grips.paint(painter, view(),
+                    cursor && !panFrom ? std::optional(QPointF(*cursor) + QPointF(0.5, 0.5))
+                                       : std::nullopt);
+    }
     paintAxes(painter, canvas.size(), userAxis(database, "UCSXDIR", {1.0, 0.0, 0.0}),
               userAxis(database, "UCSYDIR", {0.0, 1.0, 0.0}));
     paintTool(painter, view(), hints);
@@ -285,18 +290,17 @@ void Canvas::State::paintHints(QPainter& painter) const {
 }
 
 void Canvas::State::paintAim(QPainter& painter) {
+    if (selectionFrom) {
+        const PlanPoint corner = view().toPixels(*selectionFrom);
+        paintSelectionWindow(
+            painter,
+            {static_cast<int>(std::floor(corner.x)), static_cast<int>(std::floor(corner.y))},
+            *cursor, windowWords());
+        paintCrosshair(painter, *cursor, canvas.size(), -1);
+        return;
+    }
     switch (aim.kind) {
     case AimKind::selection:
-        if (selectionFrom) {
-            const PlanPoint corner = view().toPixels(*selectionFrom);
-            paintSelectionWindow(
-                painter,
-                {static_cast<int>(std::floor(corner.x)), static_cast<int>(std::floor(corner.y))},
-                *cursor, windowWords());
-            paintCrosshair(painter, *cursor, canvas.size(), -1);
-            break;
-        }
-        [[fallthrough]];
     case AimKind::entity:
         paintPickBox(painter, *cursor, aim.pickBox);
         break;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "Canvas.h"
+#include "CanvasGrips.h"
+#include "GroupGhost.h"
 #include "PlanPicture.h"
 #include "Session.h"
 #include "viewChange.h"
@@ -33,7 +35,9 @@ struct Canvas::State {
     QTimer work; // ticks between all other events while there is something to be done
 
     CanvasOverlay overlay;
+    CanvasGrips grips;
     Aim aim;
+    GroupGhost ghost; // of the aim's group
     std::optional<QPoint> cursor;
     std::optional<PlanPoint> shownPoint; // in place of the cursor's
     Highlight highlight;
@@ -68,8 +72,13 @@ struct Canvas::State {
     struct Press {
         QPoint at;
         Qt::KeyboardModifiers modifiers;
+        std::optional<std::size_t> grip{}; // that was hit
+        bool isOnSelected = false;         // while nothing asks
     };
     std::optional<Press> press;
+    // A grip is in hand and the button down: where it is let go answers the question that follows.
+    bool isGripDragged = false;
+    std::optional<Click> waitingDrop; // it was let go before the question
     // A window of a selection: its first corner, and whether it ends as the button is let go.
     std::optional<PlanPoint> selectionFrom;
     bool isSelectionDragged = false;
@@ -98,6 +107,13 @@ struct Canvas::State {
     void clickAtCross(Qt::KeyboardModifiers modifiers);
     void paintPointAim(QPainter& painter);
 
+    [[nodiscard]] bool takesSelection() const {
+        return aim.kind == AimKind::selection || aim.kind == AimKind::none;
+    }
+    [[nodiscard]] std::optional<std::size_t> gripAt(const QPoint& pixel);
+    [[nodiscard]] bool isSelectedAt(const QPoint& pixel) const;
+    void takeGrip(std::size_t grip, bool isDragged);
+    void dropGrip(const Click& click);
     void pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifiers);
     void click(const Click& click);
     void startPan(const QPoint& pixel, Qt::MouseButton button);

@@ -35,6 +35,17 @@ std::uint32_t livelier(std::uint32_t rgb, std::uint32_t ground) {
     return isDark(ground) ? half + 0x7F7F7FU : half;
 }
 
+QRect wordsBox(const QPainter& painter, const QString& words) {
+    return painter.fontMetrics().boundingRect(words).adjusted(-4, -2, 4, 2);
+}
+
+void paintWordsIn(QPainter& painter, const QRect& place, const QString& words,
+                  const QColor& color) {
+    painter.fillRect(place, QColor(0, 0, 0, 160));
+    painter.setPen(color);
+    painter.drawText(place, Qt::AlignCenter, words);
+}
+
 void drawAxis(QPainter& painter, const QPointF& origin, const KdGeVector3d& axis,
               const QColor& color, const QString& name) {
     const QPointF direction(axis.x * kAxisLength, -axis.y * kAxisLength);
@@ -111,12 +122,15 @@ void paintSelectionWindow(QPainter& painter, const QPoint& first, const QPoint& 
     painter.setBrush(Qt::NoBrush);
     const QPoint corner(second.x() + (isCrossing ? -kWordsMargin : kWordsMargin),
                         second.y() + (second.y() < first.y() ? -kWordsMargin : kWordsMargin));
-    const QRect box = painter.fontMetrics().boundingRect(words).adjusted(-4, -2, 4, 2);
-    const QRect place(corner.x() - (isCrossing ? box.width() : 0), corner.y() - box.height() / 2,
-                      box.width(), box.height());
-    painter.fillRect(place, QColor(0, 0, 0, 160));
-    painter.setPen(color);
-    painter.drawText(place, Qt::AlignCenter, words);
+    const QRect box = wordsBox(painter, words);
+    paintWordsIn(painter,
+                 {corner.x() - (isCrossing ? box.width() : 0), corner.y() - box.height() / 2,
+                  box.width(), box.height()},
+                 words, color);
+}
+
+void paintWords(QPainter& painter, const QPointF& corner, const QString& words) {
+    paintWordsIn(painter, {corner.toPoint(), wordsBox(painter, words).size()}, words, kRubberColor);
 }
 
 void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& appearance) {

@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QPoint>
+#include <QPointF>
 #include <QSize>
 #include <QString>
 
@@ -34,6 +35,7 @@ void paintRubberWindow(QPainter& painter, const QPoint& oneCorner, const QPoint&
 // stand at the second.
 void paintSelectionWindow(QPainter& painter, const QPoint& first, const QPoint& second,
                           const QString& words);
+void paintWords(QPainter& painter, const QPointF& corner, const QString& words);
 // An appearance on top of the picture: thicker and brighter than it is there, or as it would be.
 void paintHighlight(QPainter& painter, const PlanView& view, const Appearance& appearance);
 void paintPreview(QPainter& painter, const PlanView& view, const Appearance& appearance);

@@ -28,9 +28,11 @@ void CommandInput::setCompletions(const QStringList& words) {
 bool CommandInput::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto* const key = static_cast<const QKeyEvent*>(event);
-        // In an empty field these belong to the window: they undo commands, not letters, and
-        // export pictures rather than go to the end of nothing.
-        if (text().isEmpty() && (key->modifiers() & Qt::ControlModifier) != 0 && !typesText(*key)) {
+        // In an empty field these belong to the window: they undo commands, not letters, erase
+        // what is selected, and export pictures rather than go to the end of nothing.
+        if (text().isEmpty() &&
+            (((key->modifiers() & Qt::ControlModifier) != 0 && !typesText(*key)) ||
+             key->key() == Qt::Key_Delete)) {
             event->ignore();
             return true;
         }

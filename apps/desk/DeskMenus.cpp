@@ -68,8 +68,8 @@ QAction* makeAction(QMainWindow& window, QMenu& menu, const DeskAction& row) {
 } // namespace
 
 DeskMenus::DeskMenus(QMainWindow& window, const Starter& start)
-    : recent(new QMenu(&window)), tools(window.addToolBar(shown(kToolBarTitle))),
-      editTools(window, start) {
+    : recent(new QMenu(&window)), styles(new QMenu(&window)), layers(new QMenu(&window)),
+      tools(window.addToolBar(shown(kToolBarTitle))), editTools(window, start) {
     std::map<DeskMenu, QMenu*> menus = makeMenus(*window.menuBar());
     view = menus[DeskMenu::view];
     tools->setObjectName(QStringLiteral("toolBar"));
@@ -82,7 +82,10 @@ DeskMenus::DeskMenus(QMainWindow& window, const Starter& start)
         }
         QAction* const action = makeAction(window, menu, row);
         if (const auto* const submenu = std::get_if<Submenu>(&row.act)) {
-            action->setMenu(*submenu == Submenu::recent ? recent : editTools.menu);
+            action->setMenu(*submenu == Submenu::recent   ? recent
+                            : *submenu == Submenu::styles ? styles
+                            : *submenu == Submenu::layers ? layers
+                                                          : editTools.menu);
         } else {
             onTriggered(window, *action, start, row.act);
         }

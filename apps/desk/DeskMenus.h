@@ -19,6 +19,8 @@ struct DeskMenus {
     DeskMenus(QMainWindow& window, const Starter& start);
 
     QMenu* recent = nullptr;
+    QMenu* styles = nullptr; // of the drawing, to select by
+    QMenu* layers = nullptr;
     QMenu* view = nullptr;
     QToolBar* tools = nullptr;
     ToolBar editTools;

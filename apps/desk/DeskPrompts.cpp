@@ -6,8 +6,10 @@
 #include "fileQuestion.h"
 #include "qtWide.h"
 #include "typedAnswer.h"
+#include "userFrame.h"
 
 #include <QEventLoop>
+#include <QLocale>
 
 #include <utility>
 
@@ -143,6 +145,12 @@ void DeskPrompts::answerText(const QString& typed) {
 }
 
 void DeskPrompts::answerPoint(const KdGePoint3d& point) {
+    if (m_loop != nullptr && m_request->kind == PromptKind::real && m_request->base) {
+        // An angle: that of the way from the base to the point.
+        answerText(QLocale::c().toString(userDegrees(*m_request->base, userToWorld(point)), 'g',
+                                         QLocale::FloatingPointShortest));
+        return;
+    }
     const bool wantsPoint = m_loop != nullptr && (m_request->kind == PromptKind::entity ||
                                                   m_request->kind == PromptKind::point);
     if (!wantsPoint) {

@@ -6,11 +6,11 @@
 #include "KdDbStub.h"
 #include "LookDesk.h"
 #include "PointTyping.h"
+#include "aimOf.h"
 #include "clickedPoint.h"
 #include "commandNames.h"
 #include "partlyDrawnText.h"
 #include "qtWide.h"
-#include "selectionLines.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>
@@ -33,33 +33,6 @@ constexpr QSize kFirstSize(1200, 800);
 constexpr double kMostOfScreen = 0.9;    // the rest is left to the window's frame
 constexpr int kFirstCommandHeight = 170; // pixels
 
-// What a click on the canvas means to a question. Valid as long as the question is.
-Aim aimOf(const PromptRequest& request, Scene& scene,
-          const std::optional<SelectionProgress>& progress) {
-    Aim aim;
-    aim.pickBox = PromptSession::current().pickBox;
-    if (request.kind == PromptKind::entity) {
-        aim.kind = AimKind::entity;
-    } else if (request.kind == PromptKind::point) {
-        aim.kind = AimKind::point;
-    } else if (request.kind == PromptKind::selection && progress) {
-        aim.kind = AimKind::selection;
-        aim.takes = [takesMlines = progress->takesMlines](const KdDbStub& entity) {
-            return !takesMlines || entity.kind == ObjectKind::mline;
-        };
-    }
-    if (request.base) {
-        aim.base = PlanPoint{request.base->x, request.base->y};
-    }
-    if (request.preview) {
-        aim.preview = [preview = request.preview, &scene](PlanPoint cursor) {
-            const auto entity = preview({cursor.x, cursor.y, 0.0});
-            return entity != nullptr ? scene.appearanceOf(*entity) : Appearance();
-        };
-    }
-    return aim;
-}
-
 } // namespace
 
 MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& moduleFiles)
@@ -74,17 +47,21 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
       m_menus(*this, [this](const DeskAct& act) { perform(act); }),
       m_join(new JoinDesk(*this, *m_canvas, m_runner, m_prompts)),
       m_undo(new UndoDesk(*this, *m_canvas, m_runner, m_prompts, m_settings)),
-      m_drawBar(new DrawBar(*this, m_runner, m_prompts)), m_status(*statusBar()),
+      m_drawBar(new DrawBar(*this, m_runner, m_prompts)),
+      m_select(new SelectDesk(*this, *m_canvas, m_runner, m_prompts)),
+      m_grips(new GripDesk(*this, *m_canvas, m_runner, *m_select, m_settings)),
+      m_properties(new PropertyDesk(*this, *m_select)), m_status(*statusBar()),
       m_tool(new ToolDesk(*this, *m_canvas, m_runner, m_prompts, m_status)),
-      m_snap(new SnapDesk(*this, *m_canvas, m_prompts, m_settings)),
-      m_help(new HelpWindow(this)), m_recent(*m_menus.recent, m_settings) {
+      m_snap(new SnapDesk(*this, *m_canvas, m_prompts, m_settings)), m_help(new HelpWindow(this)),
+      m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
     setAcceptDrops(true);
     makeCommandDock();
     connectCommandLine();
     connectCanvas();
     new PointTyping(*m_canvas, *m_commandLine, m_prompts);
-    connectSelection();
+    m_select->setPicker([this](PlanPoint place) { return m_tool->take(place); });
+    m_select->fillMenus(*m_menus.styles, *m_menus.layers);
     connectFiles();
     restorePlace();
     takeDrawing(DrawingFile::create(), QString());
@@ -113,6 +90,7 @@ void MainWindow::makeCommandDock() {
     m_menus.view->addAction(m_menus.editTools.bar->toggleViewAction());
     m_menus.view->addAction(m_drawBar->bar()->toggleViewAction());
     m_menus.view->addAction(m_join->toggleAction());
+    m_menus.view->addAction(m_properties->toggleAction());
     m_menus.view->addSeparator();
     m_menus.view->addActions(m_snap->actions());
 }
@@ -137,7 +115,6 @@ void MainWindow::connectCommandLine() {
         m_runner.repeatAs(QStringLiteral("-MLEDIT"), {keyword});
     });
     connect(&m_runner, &CommandRunner::commandEnded, this, [this] {
-        m_canvas->setSelected({});
         m_canvas->viewChanged();
         m_canvas->refresh();
         showIdle();
@@ -154,6 +131,9 @@ void MainWindow::connectCanvas() {
                                       : clickedPoint(x, y, session()->view().unitsPerPixel()));
     });
     connect(m_canvas, &Canvas::rightClicked, this, [this] {
+        if (m_select->showContextMenu(QCursor::pos())) {
+            return;
+        }
         m_commandLine->takeKey(QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier));
     });
     connect(m_canvas, &Canvas::keyTyped, this,
@@ -168,24 +148,6 @@ void MainWindow::connectCanvas() {
     });
     connect(m_canvas, &Canvas::cursorLeft, &m_status, &StatusLine::clearCursor);
     connect(m_canvas, &Canvas::settled, this, &MainWindow::reportPartlyDrawn);
-}
-
-void MainWindow::connectSelection() {
-    connect(m_canvas, &Canvas::picked, this, [this](double x, double y, bool takesAway) {
-        const auto& progress = session()->selectionMemory().progress;
-        const KdDbStub* const found = m_tool->take({x, y});
-        if (progress && found != nullptr) {
-            m_prompts.answerLines(pickLines(*progress, {x, y}, found->handle, takesAway,
-                                            session()->view().unitsPerPixel()));
-        }
-    });
-    connect(m_canvas, &Canvas::windowDrawn, this,
-            [this](PlanPoint first, PlanPoint second, bool takesAway) {
-                if (const auto& progress = session()->selectionMemory().progress) {
-                    m_prompts.answerLines(windowLines(*progress, first, second, takesAway,
-                                                      session()->view().unitsPerPixel()));
-                }
-            });
 }
 
 void MainWindow::connectFiles() {
@@ -235,6 +197,9 @@ void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& p
     m_drawBar->setSession(*session());
     m_tool->setSession(*session());
     m_undo->setSession(*session());
+    m_select->setSession(*session());
+    m_grips->setSession(*session());
+    m_properties->setSession(*session());
     session()->display().setRepaint([this] { m_canvas->refresh(); });
     m_runner.setSession(session());
     m_canvas->setSession(session());
@@ -261,6 +226,8 @@ void MainWindow::perform(const DeskAct& act) {
                                        : QStringList());
     } else if (const auto* const own = std::get_if<WindowAct>(&act)) {
         perform(*own);
+    } else if (const auto* const select = std::get_if<SelectAct>(&act)) {
+        m_select->perform(*select);
     }
 }
 
@@ -327,7 +294,7 @@ void MainWindow::escape() {
     }
     if (m_prompts.request() != nullptr) {
         m_prompts.cancel();
-    } else if (!m_runner.isBusy()) {
+    } else if (!m_runner.isBusy() && !m_select->clear()) {
         m_commandLine->print(tr("Command: *Cancel*"));
     }
 }
@@ -352,7 +319,7 @@ void MainWindow::showQuestion() {
         aim.guide = m_snap->guide({.base = aim.base});
     }
     m_canvas->setAim(std::move(aim));
-    m_canvas->setSelected(progress ? progress->entities : std::vector<KdDbStub*>());
+    m_select->show();
 }
 
 void MainWindow::showIdle() {

@@ -8,9 +8,12 @@
 #include "DeskPrompts.h"
 #include "DeskSettings.h"
 #include "DrawBar.h"
+#include "GripDesk.h"
 #include "HelpWindow.h"
 #include "JoinDesk.h"
+#include "PropertyDesk.h"
 #include "RecentFiles.h"
+#include "SelectDesk.h"
 #include "SessionChoices.h"
 #include "SnapDesk.h"
 #include "StatusLine.h"
@@ -59,7 +62,6 @@ private:
     void makeCommandDock();
     void connectCommandLine();
     void connectCanvas();
-    void connectSelection();
     void connectFiles();
     void loadModule(const std::vector<std::string>& files);
     void restorePlace();
@@ -93,6 +95,9 @@ private:
     JoinDesk* m_join;
     UndoDesk* m_undo;
     DrawBar* m_drawBar;
+    SelectDesk* m_select;
+    GripDesk* m_grips;
+    PropertyDesk* m_properties;
     StatusLine m_status;
     ToolDesk* m_tool;
     SnapDesk* m_snap;

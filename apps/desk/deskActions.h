@@ -29,16 +29,20 @@ enum class WindowAct : std::uint8_t {
     about,
 };
 
+// What selects by hand, and takes what is selected away.
+enum class SelectAct : std::uint8_t { all, previous, none, erase };
+
 // What is typed for the user.
 struct TypedCommand {
     const char* command = "";
     const char* answer = nullptr; // at the command's first prompt; null for none
 };
 
-// Menus that are filled from elsewhere: recent drawings, the editing tools.
-enum class Submenu : std::uint8_t { recent, tools };
+// Menus that are filled from elsewhere: recent drawings, the editing tools, the styles and layers
+// of the drawing.
+enum class Submenu : std::uint8_t { recent, tools, styles, layers };
 
-using DeskAct = std::variant<WindowAct, TypedCommand, Submenu>;
+using DeskAct = std::variant<WindowAct, SelectAct, TypedCommand, Submenu>;
 
 // One entry of a menu. Texts are shown through Qt's translation, "&" marks the access key.
 struct DeskAction {

@@ -1,5 +1,7 @@
 #include "breakLists.h"
 
+#include "geometry.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -9,6 +11,7 @@ namespace orvex {
 namespace {
 
 constexpr double kReachTolerance = 1e-9; // of 1 drawing unit or of the track's length
+constexpr double kStraightBack = 1e-6;   // there is nothing halfway
 constexpr double kOpenEnd = std::numeric_limits<double>::infinity();
 
 std::vector<MlineStretch> stretchesOf(std::span<const double> list) {
@@ -51,7 +54,14 @@ private:
     [[nodiscard]] double measured(double distance) const {
         const KdGeVector3d way = m_move.before.at(distance) - m_move.after.start;
         const KdGeVector3d& direction = m_move.after.direction;
-        return way.x * direction.x + way.y * direction.y + way.z * direction.z;
+        if (m_move.measure == GapMeasure::halfway && !(direction == m_move.before.direction)) {
+            const KdGeVector3d middle = direction + m_move.before.direction;
+            const double along = dot(direction, middle); // 1 plus the cosine between both
+            if (along > kStraightBack) {
+                return dot(way, middle) / along;
+            }
+        }
+        return dot(way, direction);
     }
     [[nodiscard]] double atBegin(double old) const {
         if (std::abs(old) <= m_tolerance) {

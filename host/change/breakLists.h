@@ -3,6 +3,7 @@
 #include "KdMLSegment.h"
 #include "mlineTrack.h"
 
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -17,6 +18,12 @@ double reachTolerance(double trackLength);
 // By how much a distance may lie beyond the end of its track before that is a fault, drawing units.
 inline constexpr double kReachBeyond = 1e-7;
 
+// Where a place on an old track lies on the new one.
+enum class GapMeasure : std::uint8_t {
+    square,  // at its foot
+    halfway, // square to the middle between both directions, so that going back leads back
+};
+
 // How a track moves under a list that is to stay where it lies in the drawing.
 struct TrackMove {
     MlineTrack before;
@@ -25,9 +32,10 @@ struct TrackMove {
     // go on doing so. Otherwise they are cut off there.
     bool mayBeginBefore = false;
     bool mayEndAfter = false;
+    GapMeasure measure = GapMeasure::square;
 };
 
-// The list with its distances measured on the new track, square to it. What began or ended with the
+// The list with its distances measured on the new track. What began or ended with the
 // old track does so with the new one; the position is kept.
 std::vector<double> remeasured(std::span<const double> list, const TrackMove& move);
 

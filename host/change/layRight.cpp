@@ -1,7 +1,6 @@
 #include "layRight.h"
 
 #include "ChainFrame.h"
-#include "breakLists.h"
 
 #include <algorithm>
 #include <cmath>
@@ -105,11 +104,11 @@ bool isSameTrack(const MlineTrack& a, const MlineTrack& b) {
 }
 
 std::vector<double> remeasuredList(std::span<const double> list, const MlineTrack& before,
-                                   const MlineTrack& after, bool inJoint) {
+                                   const MlineTrack& after, bool inJoint, GapMeasure measure) {
     if (isSameTrack(before, after)) {
         return {list.begin(), list.end()};
     }
-    return remeasured(list, {before, after, true, inJoint});
+    return remeasured(list, {before, after, true, inJoint, measure});
 }
 
 std::vector<double> repairedList(std::vector<double> list, double length, bool inJoint) {
@@ -137,7 +136,7 @@ MlineTrack shifted(const MlineTrack& track, std::span<const KdGeVector3d> shifts
 
 // The breaks, once the positions are where they belong.
 void layBreaks(MlineContent& laid, const MlineContent& old,
-               std::span<const KdGeVector3d> shifts = {}) {
+               std::span<const KdGeVector3d> shifts = {}, GapMeasure measure = GapMeasure::square) {
     const MlineChain oldChain(old);
     const MlineContent positioned = laid;
     const MlineChain chain(positioned);
@@ -149,16 +148,18 @@ void layBreaks(MlineContent& laid, const MlineContent& old,
             KdMLSegment& element = record[static_cast<int>(e)];
             const MlineTrack track = chain.track(s, e);
             const auto line = chain.line(s, e);
-            const std::vector<double> freshLine = repairedList(
-                remeasuredList(line, shifted(oldChain.track(s, e), shifts, s), track, inJoint),
-                track.length, inJoint);
+            const std::vector<double> freshLine =
+                repairedList(remeasuredList(line, shifted(oldChain.track(s, e), shifts, s), track,
+                                            inJoint, measure),
+                             track.length, inJoint);
             if (!isSameList(line, freshLine)) {
                 element.m_lineParams = toParameters(freshLine);
                 changed = true;
             }
             const auto area = chain.area(s, e);
-            const std::vector<double> freshArea = remeasuredList(
-                area, shifted(oldChain.areaTrack(s, e), shifts, s), chain.areaTrack(s, e), true);
+            const std::vector<double> freshArea =
+                remeasuredList(area, shifted(oldChain.areaTrack(s, e), shifts, s),
+                               chain.areaTrack(s, e), true, measure);
             if (!isSameList(area, freshArea)) {
                 element.m_areaParams = toParameters(freshArea);
                 changed = true;
@@ -185,7 +186,8 @@ Result<MlineContent> layRight(const MlineContent& mline, const StyleLayout& styl
 }
 
 Result<MlineContent> laidAnew(MlineContent changed, const MlineContent& old,
-                              const StyleLayout& style, std::span<const KdGeVector3d> shifts) {
+                              const StyleLayout& style, std::span<const KdGeVector3d> shifts,
+                              GapMeasure measure) {
     const Result<ChainFrame> oldFrame = chainFrameOf(old, style);
     if (!oldFrame) {
         return oldFrame.failure();
@@ -197,7 +199,7 @@ Result<MlineContent> laidAnew(MlineContent changed, const MlineContent& old,
     }
     layDirections(changed, *frame);
     layPositions(changed, old, *frame, *oldFrame, true);
-    layBreaks(changed, old, shifts);
+    layBreaks(changed, old, shifts, measure);
     return changed;
 }
 

@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "MlineContent.h"
 #include "StyleLayout.h"
+#include "breakLists.h"
 
 #include <span>
 
@@ -20,6 +21,7 @@ Result<MlineContent> layRight(const MlineContent& mline, const StyleLayout& styl
 // Gaps stay where they lie in the drawing as far as their segments still hold them; those of a
 // segment for which there is a shift are taken along by it.
 Result<MlineContent> laidAnew(MlineContent changed, const MlineContent& old,
-                              const StyleLayout& style, std::span<const KdGeVector3d> shifts = {});
+                              const StyleLayout& style, std::span<const KdGeVector3d> shifts = {},
+                              GapMeasure measure = GapMeasure::square);
 
 } // namespace orvex

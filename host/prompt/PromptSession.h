@@ -57,7 +57,10 @@ struct PromptSession {
     std::wstring lastKeyword;
     std::vector<std::wstring> completions; // go with the next question, and with it alone
     bool keepsOnEscape = false;            // the same
-    PromptPreview preview; // goes with each question for a point; set by PreviewScope
+    // These go with each question that a point answers; set by PreviewScope.
+    PromptPreview preview;
+    PromptPreviews previews;
+    PromptMotion motion;
 
     static PromptSession& current();
 };
@@ -68,7 +71,17 @@ public:
     explicit PreviewScope(PromptPreview preview) {
         PromptSession::current().preview = std::move(preview);
     }
-    ~PreviewScope() { PromptSession::current().preview = nullptr; }
+    explicit PreviewScope(PromptPreviews previews) {
+        PromptSession::current().previews = std::move(previews);
+    }
+    explicit PreviewScope(PromptMotion motion) {
+        PromptSession::current().motion = std::move(motion);
+    }
+    ~PreviewScope() {
+        PromptSession::current().preview = nullptr;
+        PromptSession::current().previews = nullptr;
+        PromptSession::current().motion = {};
+    }
     PreviewScope(const PreviewScope&) = delete;
     PreviewScope& operator=(const PreviewScope&) = delete;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KdGePoint3d.h"
+#include "PlanMap.h"
 
 #include <cstdint>
 #include <functional>
@@ -10,6 +11,7 @@
 #include <vector>
 
 class KdDbEntity;
+struct KdDbStub;
 
 namespace orvex {
 
@@ -20,16 +22,28 @@ enum class PromptKind { command, keyword, entity, selection, point, real, text }
 // The entity that a point at the cursor (world) would make, not in any drawing; null for nothing.
 using PromptPreview = std::function<std::unique_ptr<KdDbEntity>(const KdGePoint3d& cursor)>;
 
+// The same of several entities.
+using PromptPreviews =
+    std::function<std::vector<std::unique_ptr<KdDbEntity>>(const KdGePoint3d& cursor)>;
+// Entities of the drawing that a point at the cursor would move as one; the map gives nothing where
+// it can't.
+struct PromptMotion {
+    std::vector<KdDbStub*> entities;
+    std::function<std::optional<PlanMap>(const KdGePoint3d& cursor)> map;
+};
+
 // A question to the user.
 struct PromptRequest {
     PromptKind kind = PromptKind::text;
     std::wstring text;
-    std::vector<std::wstring> keywords; // armed for this prompt, as the list spells them
+    std::vector<std::wstring> keywords;    // armed for this prompt, as the list spells them
     std::vector<std::wstring> completions; // texts that would do; others may, too
-    std::optional<KdGePoint3d> base;    // world; a window draws a line from it
+    std::optional<KdGePoint3d> base;       // world; a window draws a line from it
     // A window draws its entity instead of the line. Null where the command shows nothing; it lives
     // no longer than the question.
     PromptPreview preview;
+    PromptPreviews previews; // alike
+    PromptMotion motion;     // alike
     // Whoever gives up by hand keeps what was answered so far, as an empty answer does. A script's
     // cancel is a cancel all the same.
     bool keepsOnEscape = false;

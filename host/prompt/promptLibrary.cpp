@@ -33,8 +33,10 @@ PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
     request.completions = std::exchange(session.completions, {});
     request.base = base;
     request.keepsOnEscape = std::exchange(session.keepsOnEscape, false);
-    if (kind == PromptKind::point) {
+    if (kind == PromptKind::point || (kind == PromptKind::real && base)) {
         request.preview = session.preview;
+        request.previews = session.previews;
+        request.motion = session.motion;
     }
 
     PromptAnswer answer;

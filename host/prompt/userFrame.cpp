@@ -1,7 +1,10 @@
 #include "userFrame.h"
 
 #include "coordinateFrames.h"
+#include "geometry.h"
 #include "resbuf.h"
+
+#include <cmath>
 
 namespace orvex {
 
@@ -33,6 +36,13 @@ KdGePoint3d worldToUser(const KdGePoint3d& point) {
 
 KdGeVector3d userDirectionToWorld(const KdGeVector3d& direction) {
     return converted(KdGePoint3d() + direction, kUser, kWorld, true) - KdGePoint3d();
+}
+
+double userDegrees(const KdGePoint3d& from, const KdGePoint3d& to) {
+    constexpr double kStep = 1e-9;
+    const KdGeVector3d way = worldToUser(to) - worldToUser(from);
+    const double degrees = toDegrees(std::atan2(way.y, way.x));
+    return std::round(degrees / kStep) * kStep + 0.0;
 }
 
 } // namespace orvex

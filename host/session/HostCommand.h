@@ -56,12 +56,16 @@ void reverseCommand(Session& session);
 void changeCommand(Session& session);
 // Two names: all multilines of the one style take the other.
 void restyleCommand(Session& session);
+// A style's name: copies it, opens the dialog of styles, then gives all that use it the copy.
+void styleInUseCommand(Session& session);
 // A pick, one point or two: parts a multiline, without what lies between.
 void breakCommand(Session& session);
 // A selection: multilines become lines, arcs and filled areas that look the same.
 void explodeCommand(Session& session);
 // Two picks: makes one multiline of two whose ends meet.
 void connectCommand(Session& session);
+// Multilines with a vertex each, then Move, Add with a place, or Remove.
+void vertexCommand(Session& session);
 // A selection: tells what its multilines are.
 void listCommand(Session& session);
 // A pick of the bar, one of its lines, picks near ends until an empty line: moves ends to it.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <vector>
 
 struct KdDbStub;
@@ -19,7 +20,10 @@ struct SelectionProgress {
 struct SelectionMemory {
     // Selected by hand while no command runs; the next command that wants a selection takes it
     // without asking. Always empty where a script answers.
-    std::vector<KdDbStub*> chosen;
+    std::vector<KdDbStub*> chosen; // in drawing order
+    // What a script answers to have the same selected. Empty: the handles say so.
+    std::vector<std::wstring> chosenLines;
+    std::vector<KdDbStub*> inUse;              // of the command that runs
     std::vector<KdDbStub*> previous;           // of the last command that had one
     std::optional<SelectionProgress> progress; // while a question for a selection stands
 };

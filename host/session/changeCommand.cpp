@@ -19,6 +19,7 @@
 #include "nameQuestions.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
+#include "restyle.h"
 #include "selection.h"
 #include "textCodec.h"
 
@@ -165,8 +166,19 @@ void changeAll(const std::vector<KdDbStub*>& mlines, const AskedChange& asked) {
     }
 }
 
-// Wherever they stand, but for those on locked layers.
-std::vector<KdDbStub*> mlinesOf(DatabaseCore& core, KdDbObjectId style) {
+} // namespace
+
+void changeCommand(Session& session) {
+    const std::optional<Selection> selection = askSelection(session, SelectionKind::mlines);
+    if (!selection || selection->entities.empty()) {
+        return;
+    }
+    if (const auto asked = askChange(session.database().core())) {
+        changeAll(selection->entities, *asked);
+    }
+}
+
+std::vector<KdDbStub*> mlinesOfStyle(DatabaseCore& core, KdDbObjectId style) {
     std::vector<KdDbStub*> found;
     std::size_t locked = 0;
     for (KdDbStub& stub : core.objects().stubs()) {
@@ -186,15 +198,11 @@ std::vector<KdDbStub*> mlinesOf(DatabaseCore& core, KdDbObjectId style) {
     return found;
 }
 
-} // namespace
-
-void changeCommand(Session& session) {
-    const std::optional<Selection> selection = askSelection(session, SelectionKind::mlines);
-    if (!selection || selection->entities.empty()) {
-        return;
-    }
-    if (const auto asked = askChange(session.database().core())) {
-        changeAll(selection->entities, *asked);
+void restyle(const std::vector<KdDbStub*>& mlines, KdDbObjectId style) {
+    AskedChange asked;
+    if (const Opened<KdDbMlineStyle> opened(style, kForRead); opened) {
+        asked.change.style = {style, layoutOf(opened->values())};
+        changeAll(mlines, asked);
     }
 }
 
@@ -209,10 +217,9 @@ void restyleCommand(Session& session) {
         return;
     }
     const auto oldStyle = styleCalled(core, *oldName);
-    AskedChange asked;
-    asked.change.style = styleCalled(core, *newName);
-    if (oldStyle && asked.change.style && oldStyle->id != asked.change.style->id) {
-        changeAll(mlinesOf(core, oldStyle->id), asked);
+    const auto newStyle = styleCalled(core, *newName);
+    if (oldStyle && newStyle && oldStyle->id != newStyle->id) {
+        restyle(mlinesOfStyle(core, oldStyle->id), newStyle->id);
     }
 }
 

@@ -2,17 +2,23 @@
 
 #include "BlockList.h"
 #include "DatabaseCore.h"
+#include "HostCommand.h"
 #include "KdDbMline.h"
 #include "PromptSession.h"
 #include "PromptWatcher.h"
 #include "commandOutput.h"
 #include "handleText.h"
 #include "kddbObjects.h"
+#include "lockedLayers.h"
 #include "mlineEdits.h"
+#include "promptExchange.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "textCodec.h"
 #include "userFrame.h"
+
+#include <cmath>
+#include <limits>
 
 namespace orvex {
 
@@ -94,6 +100,58 @@ std::optional<PickedMline> pickMline(const wchar_t* prompt) {
         return std::nullopt;
     }
     return picked;
+}
+
+std::optional<NamedMline> askMlineToChange(const wchar_t* prompt) {
+    const PromptAnswer answer = askUser(PromptKind::selection, prompt);
+    const bool isPlace = answer.kind == PromptAnswer::Kind::point;
+    if (!isPlace && answer.kind != PromptAnswer::Kind::handle) {
+        return std::nullopt;
+    }
+    KdDbStub* const found = entityOf(answer);
+    NamedMline named{found, found != nullptr ? contentOf(*found) : nullptr, {}};
+    if (named.content == nullptr || named.content->vertices.empty()) {
+        kdutPrintf(L"No multiline found there.");
+        return std::nullopt;
+    }
+    if (isOnLockedLayer(*found)) {
+        kdutPrintf(L"The multiline lies on a locked layer.");
+        return std::nullopt;
+    }
+    if (isPlace) {
+        named.place = userToWorld(answer.point);
+    }
+    return named;
+}
+
+std::optional<unsigned> askIndex(const wchar_t* prompt, bool* isEmpty) {
+    double number = 0.0;
+    const int status = kdedGetReal(prompt, &number);
+    if (isEmpty != nullptr) {
+        *isEmpty = status == kPromptNone;
+    }
+    if (status != kPromptNormal) {
+        return std::nullopt;
+    }
+    if (number < 0.0 || number > std::numeric_limits<int>::max() || std::trunc(number) != number) {
+        rejectAnswer(L"that is no whole number from 0 on");
+        return std::nullopt;
+    }
+    return static_cast<unsigned>(number);
+}
+
+std::unique_ptr<KdDbEntity> freeMline(MlineContent content) {
+    auto mline = std::make_unique<KdDbMline>();
+    mline->setContent(std::make_shared<MlineContent>(std::move(content)));
+    return mline;
+}
+
+void tellLostGaps(std::size_t count) {
+    if (count > 0) {
+        kdutPrintf(L"%ls", (std::to_wstring(count) + (count == 1 ? L" gap" : L" gaps") +
+                            L" cut or gone: the segments don't hold them any more.")
+                               .c_str());
+    }
 }
 
 std::optional<KdGePoint3d> askPoint(const wchar_t* prompt, const std::optional<KdGePoint3d>& base) {

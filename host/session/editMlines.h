@@ -43,6 +43,25 @@ std::optional<PickedMline> pickMline(const wchar_t* prompt);
 // Whether the last pick found nothing that could be used; otherwise the user wants no more.
 bool hasMissed();
 
+// A multiline that may be changed, by its handle or by a pick.
+struct NamedMline {
+    KdDbStub* stub = nullptr;
+    std::shared_ptr<const MlineContent> content; // never null
+    std::optional<KdGePoint3d> place;            // world; nothing where a handle named it
+};
+// Nothing for a cancel, and where there is none, which is told.
+std::optional<NamedMline> askMlineToChange(const wchar_t* prompt);
+
+// A whole number from 0 on; nothing when the user gives up. `isEmpty` may be null and tells an
+// empty answer.
+std::optional<unsigned> askIndex(const wchar_t* prompt, bool* isEmpty = nullptr);
+
+// A multiline that is part of no drawing, for a preview.
+std::unique_ptr<KdDbEntity> freeMline(MlineContent content);
+
+// "2 gaps no longer fit into their segments."; nothing for none.
+void tellLostGaps(std::size_t count);
+
 // In world coordinates; a window draws a line from `base`. Nothing for an empty line or a cancel.
 std::optional<KdGePoint3d> askPoint(const wchar_t* prompt,
                                     const std::optional<KdGePoint3d>& base = std::nullopt);

@@ -31,6 +31,8 @@ constexpr std::array kCommands = {
     HostCommand{L"REVERSE", reverseCommand},
     HostCommand{L"STRETCH", stretchCommand},
     HostCommand{L"ROTATE", rotateCommand},
+    HostCommand{L"MLSTYLEINUSE", styleInUseCommand},
+    HostCommand{L"MLVERTEX", vertexCommand},
     HostCommand{L"SETVAR", setVariableCommand},
     HostCommand{L"SNAP", snapCommand},
     HostCommand{L"ZOOM", zoomCommand},

@@ -2,12 +2,12 @@
 
 #include "HostCommand.h"
 #include "KdDbStub.h"
+#include "PromptSession.h"
 #include "commandOutput.h"
 #include "editMlines.h"
 #include "mlineEdits.h"
 #include "planMotion.h"
-#include "promptLibrary.h"
-#include "promptStatus.h"
+#include "promptExchange.h"
 #include "selection.h"
 #include "textCodec.h"
 #include "userFrame.h"
@@ -47,6 +47,20 @@ void copyAll(const std::vector<KdDbStub*>& mlines, const PlanMotion& motion) {
     tellCount(count, mlines.size(), "copied");
 }
 
+PlanMap planMapOf(const PlanMotion& motion) {
+    PlanMap map{motion.x.x, motion.y.x, motion.x.y, motion.y.y, 0.0, 0.0};
+    map.dx = motion.base.x - map.xx * motion.base.x - map.xy * motion.base.y + motion.shift.x;
+    map.dy = motion.base.y - map.yx * motion.base.x - map.yy * motion.base.y + motion.shift.y;
+    return map;
+}
+
+// A picture of them goes with the cursor.
+PromptMotion shiftFrom(const std::vector<KdDbStub*>& mlines, const KdGePoint3d& base) {
+    return {mlines, [base](const KdGePoint3d& cursor) -> std::optional<PlanMap> {
+                return PlanMap{.dx = cursor.x - base.x, .dy = cursor.y - base.y};
+            }};
+}
+
 KdGeVector3d userNormal() {
     return userDirectionToWorld({0.0, 0.0, 1.0});
 }
@@ -56,8 +70,11 @@ KdGeVector3d userNormal() {
 void moveCommand(Session& session) {
     const std::vector<KdDbStub*> mlines = askMlines(session);
     const auto base = mlines.empty() ? std::nullopt : askPoint(L"Base point: ");
-    const auto second = base ? askPoint(L"Second point: ", base) : std::nullopt;
-    if (second) {
+    if (!base) {
+        return;
+    }
+    const PreviewScope preview(shiftFrom(mlines, *base));
+    if (const auto second = askPoint(L"Second point: ", base)) {
         moveAll(mlines, shiftBy(*second - *base), "moved");
     }
 }
@@ -68,6 +85,7 @@ void copyCommand(Session& session) {
     if (!base) {
         return;
     }
+    const PreviewScope preview(shiftFrom(mlines, *base));
     while (const auto second = askPoint(L"Second point: ", base)) {
         copyAll(mlines, shiftBy(*second - *base));
     }
@@ -76,9 +94,16 @@ void copyCommand(Session& session) {
 void rotateCommand(Session& session) {
     const std::vector<KdDbStub*> mlines = askMlines(session);
     const auto base = mlines.empty() ? std::nullopt : askPoint(L"Base point: ");
-    double degrees = 0.0;
-    if (base && kdedGetReal(L"Degrees counter-clockwise: ", &degrees) == kPromptNormal) {
-        moveAll(mlines, turnAbout(*base, userNormal(), degrees), "rotated");
+    if (!base) {
+        return;
+    }
+    const PreviewScope preview(
+        PromptMotion{mlines, [base = *base](const KdGePoint3d& cursor) -> std::optional<PlanMap> {
+                         return planMapOf(turnAbout(base, userNormal(), userDegrees(base, cursor)));
+                     }});
+    const PromptAnswer answer = askUser(PromptKind::real, L"Degrees counter-clockwise: ", base);
+    if (answer.kind == PromptAnswer::Kind::number) {
+        moveAll(mlines, turnAbout(*base, userNormal(), answer.number), "rotated");
     }
 }
 
@@ -86,7 +111,15 @@ void mirrorCommand(Session& session) {
     const std::vector<KdDbStub*> mlines = askMlines(session);
     const auto first =
         mlines.empty() ? std::nullopt : askPoint(L"First point of the mirror line: ");
-    const auto second = first ? askPoint(L"Second point: ", first) : std::nullopt;
+    if (!first) {
+        return;
+    }
+    const PreviewScope preview(
+        PromptMotion{mlines, [first = *first](const KdGePoint3d& cursor) -> std::optional<PlanMap> {
+                         const Result<PlanMotion> motion = mirrorAt(first, cursor, userNormal());
+                         return motion ? std::optional(planMapOf(*motion)) : std::nullopt;
+                     }});
+    const auto second = askPoint(L"Second point: ", first);
     if (!second) {
         return;
     }

@@ -3,9 +3,11 @@
 #include "DatabaseCore.h"
 #include "HostCommand.h"
 #include "KdDbDatabase.h"
+#include "KdDbEntity.h"
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
 #include "Opened.h"
+#include "PromptSession.h"
 #include "Session.h"
 #include "commandOutput.h"
 #include "editMlines.h"
@@ -16,30 +18,11 @@
 #include "reverse.h"
 #include "selection.h"
 #include "stretch.h"
+#include "vertexEdits.h"
 
 namespace orvex {
 
 namespace {
-
-struct StretchBox {
-    PlanBox box; // world
-    KdGePoint3d base;
-    KdGePoint3d second;
-};
-
-std::optional<StretchBox> askStretch() {
-    const auto first = askPoint(L"First corner: ");
-    const auto corner = first ? askPoint(L"Opposite corner: ", first) : std::nullopt;
-    const auto base = corner ? askPoint(L"Base point: ") : std::nullopt;
-    const auto second = base ? askPoint(L"Second point: ", base) : std::nullopt;
-    if (!second) {
-        return std::nullopt;
-    }
-    StretchBox asked{{}, *base, *second};
-    asked.box.include(PlanPoint{first->x, first->y});
-    asked.box.include(PlanPoint{corner->x, corner->y});
-    return asked;
-}
 
 void tellLeft(std::size_t count, const wchar_t* what) {
     if (count > 0) {
@@ -56,6 +39,50 @@ std::vector<KdDbStub*> mlinesTouching(Session& session, const PlanBox& box) {
     tellLeft(std::erase_if(found, [](KdDbStub* stub) { return isOnLockedLayer(*stub); }),
              L" on locked layers left out.");
     return found;
+}
+
+std::optional<PlanBox> askBox() {
+    const auto first = askPoint(L"First corner: ");
+    const auto corner = first ? askPoint(L"Opposite corner: ", first) : std::nullopt;
+    if (!corner) {
+        return std::nullopt;
+    }
+    PlanBox box;
+    box.include(PlanPoint{first->x, first->y});
+    box.include(PlanPoint{corner->x, corner->y});
+    return box;
+}
+
+Result<MlineContent> stretchedIn(const PlanBox& box, const MlineContent& mline,
+                                 const KdGeVector3d& shift) {
+    const std::optional<StyleLayout> style = styleLayoutOf(mline);
+    if (!style) {
+        return impossible("its style is missing");
+    }
+    const auto isWithin = [&box](const KdGePoint3d& point) {
+        return point.x >= box.low.x && point.x <= box.high.x && point.y >= box.low.y &&
+               point.y <= box.high.y;
+    };
+    return stretched(mline, *style, isWithin, shift);
+}
+
+// By the edit itself, of as many as can follow the cursor.
+PromptPreviews stretchPreviews(const std::vector<KdDbStub*>& mlines, const PlanBox& box,
+                               const KdGePoint3d& base) {
+    constexpr std::size_t kMostShown = 300;
+    return [&mlines, box, base](const KdGePoint3d& cursor) {
+        std::vector<std::unique_ptr<KdDbEntity>> shown;
+        for (KdDbStub* const mline : mlines) {
+            const auto content = shown.size() < kMostShown ? contentOf(*mline) : nullptr;
+            if (content == nullptr) {
+                continue;
+            }
+            if (Result<MlineContent> result = stretchedIn(box, *content, cursor - base)) {
+                shown.push_back(freeMline(std::move(*result)));
+            }
+        }
+        return shown;
+    };
 }
 
 // What the style draws at an end, by the flags of the start.
@@ -79,25 +106,32 @@ bool hasSameCaps(const MlineContent& mline) {
 } // namespace
 
 void stretchCommand(Session& session) {
-    const std::optional<StretchBox> asked = askStretch();
-    if (!asked) {
+    const std::optional<PlanBox> box = askBox();
+    if (!box) {
         return;
     }
-    const std::vector<KdDbStub*> mlines = mlinesTouching(session, asked->box);
-    const auto isWithin = [&box = asked->box](const KdGePoint3d& point) {
-        return point.x >= box.low.x && point.x <= box.high.x && point.y >= box.low.y &&
-               point.y <= box.high.y;
-    };
+    const std::vector<KdDbStub*> mlines = mlinesTouching(session, *box);
+    const auto base = askPoint(L"Base point: ");
+    if (!base) {
+        return;
+    }
+    const PreviewScope preview(stretchPreviews(mlines, *box, *base));
+    const auto second = askPoint(L"Second point: ", base);
+    if (!second) {
+        return;
+    }
+    std::size_t lostGaps = 0;
     editEach(
         mlines,
-        [&](const MlineContent& mline) -> Result<MlineContent> {
-            const std::optional<StyleLayout> style = styleLayoutOf(mline);
-            if (!style) {
-                return impossible("its style is missing");
-            }
-            return stretched(mline, *style, isWithin, asked->second - asked->base);
+        [&](const MlineContent& mline) {
+            Result<MlineContent> result = stretchedIn(*box, mline, *second - *base);
+            const std::size_t had = heldGaps(mline);
+            const std::size_t has = result ? heldGaps(*result) : had;
+            lostGaps += had > has ? had - has : 0;
+            return result;
         },
         "stretched");
+    tellLostGaps(lostGaps);
 }
 
 void reverseCommand(Session& session) {

@@ -10,6 +10,7 @@
 #include "Session.h"
 #include "WellKnownObjects.h"
 #include "commandOutput.h"
+#include "handleText.h"
 #include "lockedLayers.h"
 #include "nameQuestions.h"
 #include "promptExchange.h"
@@ -69,15 +70,11 @@ std::optional<Entities> askStyle(Session& session) {
     if (kdedGetString(L"Style name: ", name) != kPromptNormal) {
         return std::nullopt;
     }
-    KdDbStub* const style = session.database().core().wellKnown().findStyle(name);
-    if (style == nullptr) {
+    auto found = seenOfStyle(session, name);
+    if (!found) {
         rejectAnswer(L"there is no style '" + std::wstring(name) + L"'");
-        return std::nullopt;
     }
-    const KdDbObjectId id(style);
-    return seenWith(session, [id](KdDbStub& entity) {
-        return entity.kind == ObjectKind::mline && KdDbMline::styleOf(KdDbObjectId(&entity)) == id;
-    });
+    return found;
 }
 
 std::wstring layerOf(const KdDbStub& entity) {
@@ -91,13 +88,11 @@ std::optional<Entities> askLayer(Session& session) {
     if (kdedGetString(L"Layer name: ", name) != kPromptNormal) {
         return std::nullopt;
     }
-    const std::wstring folded = foldCase(name);
-    if (session.database().core().wellKnown().findLayer(name) == nullptr) {
+    auto found = seenOnLayer(session, name);
+    if (!found) {
         rejectAnswer(L"there is no layer '" + std::wstring(name) + L"'");
-        return std::nullopt;
     }
-    return seenWith(
-        session, [&folded](const KdDbStub& entity) { return foldCase(layerOf(entity)) == folded; });
+    return found;
 }
 
 // A selection while it is made.
@@ -110,14 +105,10 @@ public:
 
     // False for a cancel.
     bool ask() {
-        const wchar_t* const what = m_kind == SelectionKind::mlines ? L"multilines" : L"entities";
         for (;;) {
             publish();
             kdedInitGet(0, kKeywords);
-            const std::wstring prompt =
-                (m_removes ? L"Remove " : L"Select ") + std::wstring(what) +
-                L" or [ALL/Window/Crossing/STYLE/LAYER/Previous/Remove/Add]: ";
-            const PromptAnswer answer = askUser(PromptKind::selection, prompt.c_str());
+            const PromptAnswer answer = askUser(PromptKind::selection, prompt().c_str());
             switch (answer.kind) {
             case PromptAnswer::Kind::empty:
                 return true;
@@ -134,6 +125,25 @@ public:
                 return false;
             }
         }
+    }
+
+    // What was selected by hand, as if it had been answered.
+    void takeChosen() {
+        SelectionMemory& memory = m_session.selectionMemory();
+        const Entities chosen = std::exchange(memory.chosen, {});
+        std::vector<std::wstring> lines = std::exchange(memory.chosenLines, {});
+        if (lines.empty() && chosen == memory.previous) {
+            lines = {L"Previous"};
+        } else if (lines.empty()) {
+            for (const KdDbStub* const entity : chosen) {
+                lines.push_back(widen('#' + handleText(entity->handle)));
+            }
+        }
+        lines.emplace_back();
+        for (const std::wstring& line : lines) {
+            printLines(prompt() + line);
+        }
+        take(chosen);
     }
 
     void take(const Entities& entities) {
@@ -156,6 +166,11 @@ public:
     }
 
 private:
+    [[nodiscard]] std::wstring prompt() const {
+        return std::wstring(m_removes ? L"Remove " : L"Select ") +
+               (m_kind == SelectionKind::mlines ? L"multilines" : L"entities") +
+               L" or [ALL/Window/Crossing/STYLE/LAYER/Previous/Remove/Add]: ";
+    }
     bool takeKeyword(std::wstring_view keyword) {
         std::optional<Entities> found;
         if (keyword == L"Remove" || keyword == L"Add") {
@@ -257,7 +272,7 @@ std::optional<Selection> askSelection(Session& session, SelectionKind kind, bool
     SelectionInProgress progress(session, kind);
     SelectionMemory& memory = session.selectionMemory();
     if (!memory.chosen.empty()) {
-        progress.take(std::exchange(memory.chosen, {}));
+        progress.takeChosen();
     } else if (!progress.ask()) {
         return std::nullopt;
     }
@@ -266,10 +281,31 @@ std::optional<Selection> askSelection(Session& session, SelectionKind kind, bool
     selection.entities = Sieve(session.database().core())(progress.entities(), kind, true);
     if (!selection.entities.empty()) {
         memory.previous = selection.entities;
+        memory.inUse = selection.entities;
     } else if (!emptyMeansAll || !selection.isEmptyAnswer) {
         kdutPrintf(L"Nothing selected.");
     }
     return selection;
+}
+
+std::optional<std::vector<KdDbStub*>> seenOfStyle(Session& session, const std::wstring& name) {
+    KdDbStub* const style = session.database().core().wellKnown().findStyle(name);
+    if (style == nullptr) {
+        return std::nullopt;
+    }
+    const KdDbObjectId id(style);
+    return seenWith(session, [id](KdDbStub& entity) {
+        return entity.kind == ObjectKind::mline && KdDbMline::styleOf(KdDbObjectId(&entity)) == id;
+    });
+}
+
+std::optional<std::vector<KdDbStub*>> seenOnLayer(Session& session, const std::wstring& name) {
+    if (session.database().core().wellKnown().findLayer(name) == nullptr) {
+        return std::nullopt;
+    }
+    const std::wstring folded = foldCase(name);
+    return seenWith(
+        session, [&folded](const KdDbStub& entity) { return foldCase(layerOf(entity)) == folded; });
 }
 
 Selection selectAll(Session& session, SelectionKind kind) {

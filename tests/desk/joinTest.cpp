@@ -1,4 +1,4 @@
-#include "DeskFixture.h"
+#include "WallsFixture.h"
 
 #include <QCheckBox>
 #include <QListWidget>
@@ -11,62 +11,8 @@ namespace orvex::testing {
 
 namespace {
 
-// Walls drawn by hand: a cross, a tee that is short, and one wall twice.
-class JoinFixture : public DeskFixture {
+class JoinFixture : public WallsFixture {
 protected:
-    static constexpr const char* kWalls = "MLINE\nS\n20\n0,0\n400,0\n\n"
-                                          "MLINE\n100,-100\n100,100\n\n"
-                                          "MLINE\n300,100\n300,4\n\n"
-                                          "MLINE\n600,0\n700,0\n\nMLINE\n600,0\n700,0\n\n";
-
-    std::deque<Step> drawWalls() {
-        std::deque<Step> all{trigger("new")};
-        const QStringList lines = QString(kWalls).split('\n');
-        for (int i = 0; i + 1 < lines.size(); ++i) {
-            all.push_back(type(lines[i]));
-        }
-        all.push_back([this] { showPlan(); });
-        return all;
-    }
-    std::deque<Step> then(std::deque<Step> all, std::deque<Step> more) {
-        all.insert(all.end(), more.begin(), more.end());
-        return all;
-    }
-    void showPlan() {
-        window->session()->view().setView({350.0, 0.0}, 800.0);
-        canvas()->viewChanged();
-    }
-
-    [[nodiscard]] QPoint pixelAt(double x, double y) const {
-        const PlanPoint pixel = window->session()->view().toPixels({x, y});
-        return {static_cast<int>(pixel.x), static_cast<int>(pixel.y)};
-    }
-    Step click(const char* name) {
-        return [this, name] {
-            auto* const button = window->findChild<QAbstractButton*>(name);
-            ASSERT_NE(button, nullptr) << name;
-            EXPECT_TRUE(button->isEnabled()) << name;
-            QTest::mouseClick(button, Qt::LeftButton);
-        };
-    }
-    Step clickAt(double x, double y, Qt::KeyboardModifiers modifiers = {}) {
-        return [this, x, y, modifiers] {
-            QTest::mouseClick(canvas(), Qt::LeftButton, modifiers, pixelAt(x, y));
-        };
-    }
-    Step drag(PlanPoint from, PlanPoint to, Qt::KeyboardModifiers modifiers = {}) {
-        return [this, from, to, modifiers] {
-            QTest::mousePress(canvas(), Qt::LeftButton, modifiers, pixelAt(from.x, from.y));
-            const QPoint end = pixelAt(to.x, to.y);
-            QMouseEvent move(QEvent::MouseMove, end, canvas()->mapToGlobal(end), Qt::NoButton,
-                             Qt::LeftButton, modifiers);
-            QCoreApplication::sendEvent(canvas(), &move);
-            QTest::mouseRelease(canvas(), Qt::LeftButton, modifiers, end);
-        };
-    }
-    Step selects(std::size_t count) {
-        return [this, count] { EXPECT_EQ(canvas()->selected().size(), count); };
-    }
     [[nodiscard]] QString summary() const {
         return window->findChild<QLabel*>("joinSummary")->text();
     }
@@ -77,27 +23,10 @@ protected:
         }
         return counts;
     }
-    [[nodiscard]] std::string bytes() const { return window->session()->drawing().bytes(); }
     // What was typed and clicked, without what was said.
     [[nodiscard]] std::string commands() const {
         QString text = QString::fromStdString(script()).replace("*Cancel*", "*CANCEL*");
         return text.remove(QRegularExpression("left, [^\n]*\n")).toStdString();
-    }
-    std::string bytesOfNewByScript(const std::string& text) {
-        window.reset();
-        ScriptSource source(text, [](const std::wstring&) {});
-        SessionSetup setup;
-        setup.drawing = DrawingFile::create();
-        setup.source = &source;
-        Session session(std::move(setup), modules);
-        while (!source.atEnd()) {
-            const std::wstring command = session.askCommand();
-            if (!command.empty()) {
-                EXPECT_FALSE(session.run(command)) << narrow(command);
-            }
-        }
-        EXPECT_FALSE(source.failure()) << (source.failure() ? source.failure()->text : "");
-        return session.drawing().bytes();
     }
 };
 
@@ -121,7 +50,7 @@ TEST_F(JoinFixture, clicksAndWindowsSelectWhatTheirScriptSelects) {
                   key(Qt::Key_Escape),
                   [this] { EXPECT_EQ(canvas()->aim().kind, AimKind::selection); },
                   key(Qt::Key_Return),
-                  selects(0),
+                  selects(4),
                   key(Qt::Key_Return),
                   [this] { EXPECT_TRUE(history().contains("1 joined, 1 left")); },
                   type("MLJOIN"),

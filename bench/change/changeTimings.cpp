@@ -1,0 +1,117 @@
+// Times changes of a drawing by selection, inside one process.
+//
+//   change_timings DRAWING MOVE RESTYLE OUTPUT
+//
+// Plays the script MOVE, which selects by a window and moves, as a hand does once the drawing is
+// shown; then drags a vertex of a multiline through 200 places and makes what is shown of it; then
+// plays RESTYLE and saves to OUTPUT. Prints seconds: of the first script, of one place, of the
+// second script, of the save.
+
+#include "DrawingFile.h"
+#include "KdDbEntity.h"
+#include "KdDbMline.h"
+#include "ModuleLoader.h"
+#include "ScriptSource.h"
+#include "Session.h"
+#include "mlineEdits.h"
+#include "vertexEdits.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+[[noreturn]] void giveUp(const std::string& why) {
+    std::fprintf(stderr, "change_timings: %s\n", why.c_str());
+    std::exit(1);
+}
+
+template <class Work>
+double secondsOf(Work&& work) {
+    const auto start = Clock::now();
+    work();
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+void play(orvex::Session& session, const std::string& path) {
+    std::ifstream stream(path, std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(stream), {}};
+    orvex::ScriptSource script(text, [](const std::wstring& line) {
+        if (line.find(L" of ") != std::wstring::npos) {
+            std::fprintf(stderr, "%ls\n", line.c_str());
+        }
+    });
+    session.setSource(&script);
+    while (!script.atEnd()) {
+        const std::wstring command = session.askCommand();
+        if (!command.empty() && session.run(command)) {
+            giveUp("can't play " + path);
+        }
+    }
+    session.setSource(nullptr);
+    if (text.empty() || script.failure()) {
+        giveUp("an answer in " + path + " fits no prompt");
+    }
+}
+
+// What a window does for each move of the mouse while a vertex is in hand.
+double secondsOfGhost(orvex::Session& session) {
+    constexpr int kPlaces = 200;
+    KdDbStub* const stub = session.scene().allSeen().front();
+    const auto content = orvex::contentOf(*stub);
+    const auto style = content != nullptr ? orvex::styleLayoutOf(*content) : std::nullopt;
+    if (!style) {
+        giveUp("the first entity isn't a multiline with a style");
+    }
+    const KdGePoint3d end = content->vertices.back().position;
+    const double seconds = secondsOf([&] {
+        for (int i = 1; i <= kPlaces; ++i) {
+            auto edit = orvex::withVertexMoved(*content, *style,
+                                               static_cast<unsigned>(content->vertices.size()) - 1,
+                                               end + KdGeVector3d{1.0 * i, 0.5 * i, 0.0});
+            if (!edit) {
+                giveUp(edit.failure().text);
+            }
+            KdDbMline ghost;
+            ghost.setContent(std::make_shared<orvex::MlineContent>(std::move(edit->mline)));
+            if (session.scene().appearanceOf(ghost).strokes.empty()) {
+                giveUp("nothing to be shown");
+            }
+        }
+    });
+    return seconds / kPlaces;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 5) {
+        giveUp("usage: change_timings DRAWING MOVE RESTYLE OUTPUT");
+    }
+    auto opened = orvex::DrawingFile::open(argv[1]);
+    if (!opened) {
+        giveUp("can't open the drawing");
+    }
+    orvex::ModuleLoader modules;
+    orvex::SessionSetup setup;
+    setup.drawing = std::move(*opened);
+    orvex::Session session(std::move(setup), modules);
+    (void)session.view(); // the drawing is shown
+
+    const double move = secondsOf([&] { play(session, argv[2]); });
+    const double ghost = secondsOfGhost(session);
+    const double restyle = secondsOf([&] { play(session, argv[3]); });
+    const double save = secondsOf([&] {
+        if (session.drawing().save(argv[4])) {
+            giveUp("can't save");
+        }
+    });
+    std::printf("%.9f %.9f %.9f %.9f\n", move, ghost, restyle, save);
+    return 0;
+}

@@ -1,0 +1,169 @@
+#include "WallsFixture.h"
+
+#include <QComboBox>
+#include <QMenu>
+
+namespace orvex::testing {
+
+namespace {
+
+class GripFixture : public WallsFixture {
+protected:
+    Step grips(std::size_t count) {
+        return [this, count] { EXPECT_EQ(canvas()->grips().size(), count); };
+    }
+    Step box(const char* name, const QString& text) {
+        return [this, name, text] {
+            auto* const box = window->findChild<QComboBox*>(name);
+            ASSERT_GE(box->findText(text), 0) << text.toStdString();
+            box->setCurrentIndex(box->findText(text));
+            emit box->activated(box->currentIndex());
+        };
+    }
+    [[nodiscard]] QString shown(const char* name) const {
+        return window->findChild<QComboBox*>(name)->currentText();
+    }
+};
+
+// A vertex by a drag, by two clicks, and by typing; what is seen while it is hot is what comes out.
+TEST_F(GripFixture, gripsMoveVerticesAsTheirScriptDoes) {
+    play(then(drawWalls(),
+              {
+                  clickAt(200, 0),
+                  grips(2),
+                  drag({400, 0}, {450, 60}),
+                  grips(2),
+                  [this] {
+                      EXPECT_NEAR(canvas()->grips()[1].x, 450, 2);
+                      EXPECT_EQ(canvas()->selected().size(), 1U);
+                  },
+                  clickAt(0, 0),
+                  [this] {
+                      EXPECT_EQ(canvas()->aim().kind, AimKind::point);
+                      EXPECT_FALSE(canvas()->aim().preview({0, 50}).strokes.empty());
+                  },
+                  type("-20,30"),
+                  clickAt(-20, 30),
+                  key(Qt::Key_Escape), // lets go
+                  [this] { EXPECT_EQ(prompt(), "Command:"); },
+                  [this] { QTest::mouseClick(canvas(), Qt::RightButton, {}, pixelAt(-20, 30)); },
+                  [this] {
+                      auto* const menu = window->findChild<QMenu*>("gripMenu");
+                      ASSERT_NE(menu, nullptr);
+                      menu->actions()[1]->trigger();
+                      menu->close();
+                  },
+                  clickAt(200, 120),
+                  grips(3),
+                  // A drag of what is selected is a move from the nearest grip.
+                  drag({40, 54.5}, {220, 160}),
+                  [this] { EXPECT_TRUE(history().contains("Command: MOVE")); },
+                  trigger("selectPrevious"),
+                  grips(3),
+                  key(Qt::Key_Escape),
+                  grips(0),
+              }));
+    const std::string byHand = bytes();
+    EXPECT_EQ(byHand,
+              bytesOfNewByScript(
+                  QString::fromStdString(script()).replace("*Cancel*", "*CANCEL*").toStdString()));
+}
+
+TEST_F(GripFixture, commonVerticesMoveTogetherWhereTheUserSaysSo) {
+    auto all =
+        then(drawWalls(), {clickAt(650, 0), trigger("selectAll"), drag({600, 0}, {600, 80})});
+    all.push_back([this] {
+        EXPECT_FALSE(history().contains(": Together"));
+        auto* const together = window->findChild<QAction*>("moveTogether");
+        together->setChecked(true);
+    });
+    all.push_back(drag({700, 0}, {700, 80}));
+    all.push_back([this] {
+        EXPECT_TRUE(history().contains(": Together"));
+        window->findChild<QAction*>("moveTogether")->setChecked(false);
+    });
+    play(std::move(all));
+}
+
+// Fields show what is common and apply to all as one step; the selection stays.
+TEST_F(GripFixture, thePanelChangesAllThatIsSelected) {
+    std::string before;
+    play(then(drawWalls(), {
+                               trigger("properties"),
+                               clickAt(200, 0),
+                               clickAt(100, 50),
+                               [this] {
+                                   EXPECT_EQ(shown("propertyJustification"), "Top");
+                                   EXPECT_EQ(shown("propertyClosed"), "Open");
+                               },
+                               box("propertyJustification", "Bottom"),
+                               [this, &before] {
+                                   EXPECT_EQ(canvas()->selected().size(), 2U);
+                                   EXPECT_EQ(shown("propertyJustification"), "Bottom");
+                                   before = bytes();
+                                   auto& scale = *window->findChild<QLineEdit*>("propertyScale");
+                                   EXPECT_EQ(scale.text(), "20");
+                                   scale.setText("0");
+                                   QTest::keyClick(&scale, Qt::Key_Return);
+                                   EXPECT_EQ(scale.text(), "20");           // no scale at all
+                                   QTest::keyClick(&scale, Qt::Key_Return); // nothing edited
+                               },
+                               [this, &before] {
+                                   EXPECT_EQ(bytes(), before);
+                                   auto& scale = *window->findChild<QLineEdit*>("propertyScale");
+                                   scale.setText("30");
+                                   QTest::keyClick(&scale, Qt::Key_Return);
+                               },
+                               [this] { EXPECT_EQ(canvas()->selected().size(), 2U); },
+                               clickAt(300, 50), // of another scale
+                               [this] {
+                                   EXPECT_EQ(window->findChild<QLineEdit*>("propertyScale")->text(),
+                                             "");
+                                   EXPECT_EQ(shown("propertyStyle").toUpper(), "STANDARD");
+                               },
+                           }));
+    const std::string byHand = bytes();
+    EXPECT_EQ(byHand, bytesOfNewByScript(script()));
+}
+
+// ROTATE takes its angle from a click, and shows what goes with the cursor.
+TEST_F(GripFixture, movingCommandsShowWhatTheyMove) {
+    play(
+        then(drawWalls(), {
+                              clickAt(200, 0),
+                              type("ROTATE"),
+                              type("0,0"),
+                              [this] {
+                                  const Aim& aim = canvas()->aim();
+                                  ASSERT_EQ(aim.kind, AimKind::point);
+                                  ASSERT_EQ(aim.group.entities.size(), 1U);
+                                  const auto map = aim.group.map({0, 50});
+                                  ASSERT_TRUE(map);
+                                  EXPECT_NEAR(map->xy, -1.0, 1e-12);
+                              },
+                              clickAt(0, 200),
+                              trigger("selectPrevious"),
+                              type("MIRROR"),
+                              type("50,0"),
+                              [this] {
+                                  EXPECT_FALSE(canvas()->aim().group.map({50, 0}));
+                                  EXPECT_TRUE(canvas()->aim().group.map({50, 10}));
+                              },
+                              type("50,100"),
+                              clickAt(300, 50),
+                              type("STRETCH"),
+                              clickAt(250, 150),
+                              clickAt(350, 60),
+                              type("300,100"),
+                              [this] {
+                                  EXPECT_FALSE(canvas()->aim().preview({320, 130}).strokes.empty());
+                              },
+                              type("@20,30"),
+                          }));
+    const std::string byHand = bytes();
+    EXPECT_EQ(byHand, bytesOfNewByScript(script()));
+}
+
+} // namespace
+
+} // namespace orvex::testing

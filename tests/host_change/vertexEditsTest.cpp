@@ -1,0 +1,147 @@
+#include "vertexEdits.h"
+#include "DrawnPlaces.h"
+#include "RandomMline.h"
+#include "auditMline.h"
+#include "geometry.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+using namespace orvex;
+using orvex::testing::drawnPlaces;
+using orvex::testing::farthest;
+using orvex::testing::RandomMline;
+
+constexpr unsigned kMlines = 2000;
+
+KdGePoint3d nearTo(const KdGePoint3d& place, RandomMline& random, double reach) {
+    return place + KdGeVector3d{random.between(-reach, reach), random.between(-reach, reach), 0.0};
+}
+
+// Elements keep their offsets, and gaps of segments that don't turn stay to the last digit; those
+// of segments that do lie on the line square to the middle of both directions.
+TEST(VertexMoved, keepsOffsetsAndGapsAndLeadsBack) {
+    RandomMline random(41);
+    for (unsigned i = 0; i < kMlines; ++i) {
+        const StyleLayout style = random.style();
+        const MlineContent mline = random.mline(style);
+        const unsigned vertex = random.upTo(static_cast<unsigned>(mline.vertices.size()) - 1);
+        const KdGePoint3d from = mline.vertices[vertex].position;
+        KdGePoint3d to = nearTo(from, random, 8.0);
+        to.z += random.between(-5.0, 5.0); // the chain stays in its plane
+        const auto result = withVertexMoved(mline, style, vertex, to);
+        ASSERT_TRUE(result) << i;
+        ASSERT_EQ(result->lostGaps, 0U);
+        ASSERT_THAT(auditMline(result->mline, &style), ::testing::IsEmpty()) << i;
+        const MlineChain was(mline);
+        const MlineChain is(result->mline);
+        for (unsigned s = 0; s < was.segmentCount(); ++s) {
+            const bool turns = s == vertex || was.next(s) == vertex;
+            ASSERT_TRUE(s == vertex || is.vertex(s).position == was.vertex(s).position);
+            for (unsigned e = 0; e < was.elementCount(); ++e) {
+                const auto before = was.line(s, e);
+                const auto after = is.line(s, e);
+                ASSERT_EQ(before.size(), after.size()) << i;
+                const MlineTrack old = was.track(s, e);
+                const MlineTrack track = is.track(s, e);
+                for (std::size_t g = 2; g < before.size(); ++g) {
+                    const KdGeVector3d off = track.at(after[g]) - old.at(before[g]);
+                    ASSERT_NEAR(dot(off, track.direction + old.direction), 0.0, 1e-9) << i;
+                    ASSERT_TRUE(turns || off.length() < 1e-9) << i;
+                }
+            }
+        }
+        const auto back = withVertexMoved(result->mline, style, vertex, from);
+        ASSERT_TRUE(back);
+        ASSERT_LT(farthest(drawnPlaces(back->mline), drawnPlaces(mline)), 1e-9) << i;
+    }
+}
+
+// A vertex on its segment changes nothing that is seen; away from it and removed leads back.
+TEST(VertexAdded, andRemovedLeadsBack) {
+    RandomMline random(42);
+    for (unsigned i = 0; i < kMlines; ++i) {
+        const StyleLayout style = random.style();
+        const MlineContent mline = random.mline(style);
+        const MlineChain chain(mline);
+        const unsigned segment = random.upTo(chain.segmentCount() - 1);
+        const KdGePoint3d start = chain.vertex(segment).position;
+        const KdGeVector3d way = chain.vertex(chain.next(segment)).position - start;
+        const KdGePoint3d middle = start + way * random.between(0.1, 0.9);
+        const auto added = withVertexAdded(mline, style, segment, nearTo(middle, random, 5.0));
+        ASSERT_TRUE(added) << i;
+        ASSERT_EQ(added->mline.vertices.size(), mline.vertices.size() + 1);
+        ASSERT_EQ(added->mline.closed, mline.closed);
+        ASSERT_THAT(auditMline(added->mline, &style), ::testing::IsEmpty()) << i;
+        const auto removed = withVertexRemoved(added->mline, style, segment + 1);
+        ASSERT_TRUE(removed) << i;
+        ASSERT_THAT(auditMline(removed->mline, &style), ::testing::IsEmpty()) << i;
+        ASSERT_LT(farthest(drawnPlaces(removed->mline), drawnPlaces(mline)), 1e-9) << i;
+    }
+}
+
+TEST(VertexRemoved, laysRightWhatIsLeft) {
+    RandomMline random(43);
+    unsigned refused = 0;
+    for (unsigned i = 0; i < kMlines; ++i) {
+        const StyleLayout style = random.style();
+        const MlineContent mline = random.mline(style);
+        const auto count = static_cast<unsigned>(mline.vertices.size());
+        const unsigned vertex = random.upTo(count - 1);
+        const auto result = withVertexRemoved(mline, style, vertex);
+        refused += result ? 0 : 1;
+        ASSERT_EQ(bool(result), !mline.closed || count > 3) << i;
+        if (result) {
+            ASSERT_EQ(result->mline.vertices.size(), count - 1);
+            ASSERT_THAT(auditMline(result->mline, &style), ::testing::IsEmpty()) << i;
+            ASSERT_LE(heldGaps(result->mline) + result->lostGaps, heldGaps(mline));
+        }
+    }
+    EXPECT_GT(refused, 0U);
+}
+
+TEST(VertexEdits, refuseWhatHasNoShape) {
+    RandomMline random(44);
+    StyleLayout style = random.style();
+    MlineContent mline = random.mline(style);
+    while (mline.closed) {
+        mline = random.mline(style);
+    }
+    const KdGePoint3d next = mline.vertices[1].position;
+    EXPECT_FALSE(withVertexMoved(mline, style, 0, next));
+    EXPECT_FALSE(withVertexMoved(mline, style, 2, next));
+    EXPECT_FALSE(withVertexMoved(mline, style, 99, {}));
+    EXPECT_FALSE(withVertexMoved(mline, style, 0, {std::nan(""), 0, 0}));
+    EXPECT_FALSE(withVertexAdded(mline, style, 0, next));
+    EXPECT_FALSE(withVertexAdded(mline, style, 0, mline.vertices[0].position));
+    MlineContent contradictory = mline;
+    VoVector<KdMLSegment> record = mline.lists.nested(0);
+    VoVector<double>& list = record[0].m_lineParams;
+    for (const double value : {40.0, 30.0, 20.0}) {
+        list.append(value);
+    }
+    contradictory.lists.setNested(0, record);
+    EXPECT_FALSE(withVertexMoved(contradictory, style, 0, {1, 1, 5}));
+
+    // A gap that a shorter segment doesn't hold any more is told: [15, 20] to [22, 30] are they.
+    unsigned lost = 0;
+    for (unsigned i = 0; i < 100; ++i) {
+        style = random.style();
+        mline = random.mline(style);
+        const KdGePoint3d start = mline.vertices[0].position;
+        const KdGeVector3d way = mline.vertices[1].position - start;
+        const KdGePoint3d near = start + way * (21.0 / way.length());
+        const auto shorter = withVertexMoved(mline, style, 1, near);
+        ASSERT_TRUE(shorter);
+        lost += static_cast<unsigned>(shorter->lostGaps);
+        const auto held = static_cast<unsigned>(heldGaps(mline));
+        ASSERT_EQ(shorter->lostGaps, held - heldGaps(shorter->mline));
+    }
+    EXPECT_GT(lost, 50U);
+}
+
+} // namespace
