@@ -13,7 +13,7 @@ namespace orvex {
 
 namespace {
 
-constexpr int kDiffer = -1; // no entry: the placeholder is shown
+constexpr int kDiffer = -1; // no entry of the field's own
 
 QString scaleText(double scale) {
     return QLocale::c().toString(scale, 'g', QLocale::FloatingPointShortest);
@@ -54,6 +54,9 @@ QComboBox* PropertyPanel::addChoice(const char* name, const QString& label, cons
     static_cast<QFormLayout*>(layout())->addRow(label, box);
     connect(box, qOverload<int>(&QComboBox::activated), this,
             [this, box, keyword, answers](int index) {
+                if (box->itemData(index).toBool()) {
+                    return; // differing stays differing
+                }
                 QStringList lines;
                 if (!keyword.isEmpty()) {
                     lines << keyword;
@@ -71,6 +74,14 @@ void PropertyPanel::setChoices(QComboBox& box, const QStringList& texts) {
 
 void PropertyPanel::showChoice(QComboBox& box, int index) {
     const QSignalBlocker silent(box);
+    const int last = box.count() - 1;
+    if (box.itemData(last).toBool()) {
+        box.removeItem(last);
+    }
+    if (index == kDiffer && box.isEnabled()) { // a placeholder isn't shown by every style
+        box.addItem(tr("(differ)"), true);
+        index = box.count() - 1;
+    }
     box.setCurrentIndex(index);
 }
 
@@ -79,7 +90,6 @@ void PropertyPanel::showFacts(const SelectionFacts& facts, const QStringList& st
     const bool isAny = facts.mlines > 0;
     for (QComboBox* const box : findChildren<QComboBox*>()) {
         box->setEnabled(isAny);
-        box->setPlaceholderText(isAny ? tr("(differ)") : QString());
     }
     setChoices(*m_style, styles);
     setChoices(*m_layer, layers);
@@ -100,7 +110,8 @@ void PropertyPanel::showFacts(const SelectionFacts& facts, const QStringList& st
     } else if (facts.locked > 0) {
         m_foot->setText(tr("%1 of %2 are locked.").arg(facts.locked).arg(facts.mlines));
     } else {
-        m_foot->setText(tr("%1 multilines", nullptr).arg(facts.mlines));
+        m_foot->setText(facts.mlines == 1 ? tr("1 multiline")
+                                          : tr("%1 multilines").arg(facts.mlines));
     }
 }
 

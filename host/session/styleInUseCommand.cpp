@@ -123,8 +123,14 @@ void styleInUseCommand(Session& session) {
     }
     restyle(uses, KdDbObjectId(copy));
     const auto newName = askName(L"Its name", copyName);
-    if (newName && *newName != copyName && !renameStyle(core, *copy, *newName)) {
+    if (!newName || *newName == copyName) {
+        return;
+    }
+    const bool isCurrent = variableText(L"CMLSTYLE") == copyName;
+    if (!renameStyle(core, *copy, *newName)) {
         printLine(L"There is a style of that name already; it stays '" + copyName + L"'.");
+    } else if (isCurrent) {
+        setVariableText(L"CMLSTYLE", *newName);
     }
 }
 

@@ -1,6 +1,9 @@
 #include "WallsFixture.h"
 
+#include "selectionFacts.h"
+
 #include <QComboBox>
+#include <QDialog>
 #include <QMenu>
 
 namespace orvex::testing {
@@ -119,6 +122,7 @@ TEST_F(GripFixture, thePanelChangesAllThatIsSelected) {
                                [this] {
                                    EXPECT_EQ(window->findChild<QLineEdit*>("propertyScale")->text(),
                                              "");
+                                   EXPECT_EQ(shown("propertyJustification"), "(differ)");
                                    EXPECT_EQ(shown("propertyStyle").toUpper(), "STANDARD");
                                },
                            }));
@@ -162,6 +166,32 @@ TEST_F(GripFixture, movingCommandsShowWhatTheyMove) {
                           }));
     const std::string byHand = bytes();
     EXPECT_EQ(byHand, bytesOfNewByScript(script()));
+}
+
+// A copy that is free to be modified takes the place of a style in use, in one step.
+TEST_F(GripFixture, aStyleInUseGivesWayToItsCopy) {
+    std::string before;
+    const auto styleOf = [this](std::size_t index) {
+        std::vector<KdDbStub*> seen = window->session()->scene().allSeen();
+        return factsOf({seen[index]}).style.value_or("").toUpper();
+    };
+    play(then(drawWalls(), {
+                               [&] { before = bytes(); },
+                               type("MLSTYLEINUSE"),
+                               key(Qt::Key_Return), // the current one
+                               inDialog<QDialog>([](QDialog& dialog) { dialog.reject(); }),
+                               [this] { EXPECT_TRUE(prompt().startsWith("Shall all 5")); },
+                               key(Qt::Key_Return),
+                               type("WALLS"),
+                               [&] {
+                                   EXPECT_EQ(styleOf(0), "WALLS");
+                                   EXPECT_EQ(styleOf(4), "WALLS");
+                                   EXPECT_EQ(window->findChild<QLabel*>("statusStyle")->text(),
+                                             "Style: WALLS");
+                               },
+                               trigger("undo"),
+                               [&] { EXPECT_EQ(bytes(), before); },
+                           }));
 }
 
 } // namespace
