@@ -1,5 +1,6 @@
 #include "CommandInput.h"
 
+#include "PastedLines.h"
 #include "keyText.h"
 #include "qtWide.h"
 #include "typedAnswer.h"
@@ -11,6 +12,12 @@
 
 namespace orvex {
 
+namespace {
+
+constexpr int kMostCharacters = 1 << 20; // of a script that is pasted
+
+} // namespace
+
 CommandInput::CommandInput(QWidget* parent)
     : QLineEdit(parent), m_completer(new QCompleter(this)), m_words(new QStringListModel(this)) {
     setFrame(false);
@@ -18,6 +25,8 @@ CommandInput::CommandInput(QWidget* parent)
     m_completer->setCaseSensitivity(Qt::CaseInsensitive);
     m_completer->setCompletionMode(QCompleter::PopupCompletion);
     setCompleter(m_completer);
+    setMaxLength(kMostCharacters);
+    connect(this, &QLineEdit::textChanged, this, &CommandInput::takePasted);
 }
 
 void CommandInput::setCompletions(const QStringList& words) {
@@ -51,8 +60,8 @@ bool CommandInput::isEnter(const QKeyEvent& event) const {
     case Qt::Key_Enter:
         return true;
     case Qt::Key_Space:
-        return m_blank == BlankKey::enters ||
-               (m_blank == BlankKey::entersUnlessXy && !text().contains(','));
+        return lineCount() == 1 && (m_blank == BlankKey::enters ||
+                                    (m_blank == BlankKey::entersUnlessXy && !text().contains(',')));
     default:
         return false;
     }
@@ -103,7 +112,29 @@ QString CommandInput::chosenOrTyped() const {
     return text();
 }
 
+// However it came here, by keys, from a menu or by the mouse.
+void CommandInput::takePasted() {
+    if (text().contains('\n') || text().contains('\r')) {
+        const QString line = onOneLine(text());
+        selectAll();
+        insert(line); // can be taken back, as typing can
+    }
+}
+
+int CommandInput::lineCount() const {
+    return linesIn(text()).size();
+}
+
 void CommandInput::enter() {
+    if (const QStringList lines = linesIn(text()); lines.size() != 1) {
+        hideList();
+        clear();
+        for (const QString& line : lines) {
+            m_history.add(line);
+        }
+        emit linesEntered(lines);
+        return;
+    }
     const QString line = chosenOrTyped().trimmed();
     hideList();
     clear();

@@ -27,9 +27,12 @@ public:
     void setBlankKey(BlankKey blank) { m_blank = blank; }
     void setTakesLengths(bool takes) { m_takesLengths = takes; }
     void setCompletions(const QStringList& words);
+    [[nodiscard]] int lineCount() const; // several ones only where they were pasted
 
 signals:
-    void entered(const QString& line); // the field is empty again
+    // The field is empty again.
+    void entered(const QString& line);
+    void linesEntered(const QStringList& lines); // several that were pasted
     void cancelled();
     // Ctrl with an arrow, while the field held a number; x and y are 0, 1 or -1.
     void steered(double length, int x, int y);
@@ -43,6 +46,7 @@ private:
     // The word chosen in the list, or what is typed.
     [[nodiscard]] QString chosenOrTyped() const;
     void enter();
+    void takePasted();
     bool steer(const QKeyEvent& event);
     void complete();
     void hideList();

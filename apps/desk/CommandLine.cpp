@@ -43,7 +43,7 @@ QPlainTextEdit* makeHistory(QWidget* parent) {
 
 CommandLine::CommandLine(QWidget* parent)
     : QWidget(parent), m_history(makeHistory(this)), m_keywords(new KeywordBar(this)),
-      m_prompt(new QLabel(this)), m_input(new CommandInput(this)) {
+      m_prompt(new QLabel(this)), m_input(new CommandInput(this)), m_lineCount(new QLabel(this)) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_input->setObjectName(QStringLiteral("commandInput"));
     m_prompt->setObjectName(QStringLiteral("commandPrompt"));
@@ -56,6 +56,10 @@ CommandLine::CommandLine(QWidget* parent)
     fieldRow->setContentsMargins(kMargin, 2, kMargin, 2);
     fieldRow->addWidget(m_prompt);
     fieldRow->addWidget(m_input, 1);
+    m_lineCount->setObjectName(QStringLiteral("lineCount"));
+    m_lineCount->setContentsMargins(3 * kMargin, 0, 0, 0);
+    m_lineCount->hide();
+    fieldRow->addWidget(m_lineCount);
 
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -69,6 +73,8 @@ CommandLine::CommandLine(QWidget* parent)
     m_history->viewport()->installEventFilter(this);
     connect(m_keywords, &KeywordBar::chosen, this, &CommandLine::entered);
     connect(m_input, &CommandInput::entered, this, &CommandLine::entered);
+    connect(m_input, &CommandInput::linesEntered, this, &CommandLine::linesEntered);
+    connect(m_input, &CommandInput::textChanged, this, &CommandLine::showLineCount);
     connect(m_input, &CommandInput::cancelled, this, &CommandLine::cancelled);
     connect(m_input, &CommandInput::textChanged, this, &CommandLine::edited);
     connect(m_input, &CommandInput::steered, this, &CommandLine::steered);
@@ -91,6 +97,12 @@ void CommandLine::setNotice(const QString& notice) {
 void CommandLine::showPrompt() {
     m_prompt->setText(m_notice.isEmpty() ? m_question
                                          : m_notice + QLatin1String("  ") + m_question);
+}
+
+void CommandLine::showLineCount() {
+    const int count = m_input->lineCount();
+    m_lineCount->setText(tr("%1 lines, Enter plays them").arg(count));
+    m_lineCount->setVisible(count > 1);
 }
 
 void CommandLine::print(const QString& line) {

@@ -45,6 +45,7 @@ public:
 
 signals:
     void entered(const QString& line); // typed, or a keyword's button
+    void linesEntered(const QStringList& lines);
     void cancelled();
     void edited(); // `typed` is different
     // A length that was typed goes along an axis: x and y are 0, 1 or -1.
@@ -56,6 +57,7 @@ protected:
 private:
     void showLatest();
     void showPrompt();
+    void showLineCount();
     [[nodiscard]] QColor mixed(double part) const;
     void append(const QString& text, const QColor& color, bool startsLine);
 
@@ -65,6 +67,7 @@ private:
     QString m_question;
     QString m_notice;
     CommandInput* m_input;
+    QLabel* m_lineCount;
 };
 
 } // namespace orvex

@@ -31,6 +31,19 @@ void CommandRunner::post(std::function<void()> task) {
     }
 }
 
+void CommandRunner::postCommands(std::function<void(Session&)> task) {
+    post([this, task = std::move(task)] {
+        if (m_session == nullptr) {
+            return;
+        }
+        waitForPickIndex();
+        if (!m_task) {
+            task(*m_session);
+            emit commandEnded();
+        }
+    });
+}
+
 void CommandRunner::work() {
     if (m_working) {
         return; // whoever works goes on with it

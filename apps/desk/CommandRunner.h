@@ -35,8 +35,12 @@ public:
     void repeatAs(const QString& name, const QStringList& answers) { m_running = {name, answers}; }
     // Something else that mustn't run during a command. Of what is waiting the latest wins.
     void post(std::function<void()> task);
+    // The same for a task that runs commands of the session.
+    void postCommands(std::function<void(Session&)> task);
 
     [[nodiscard]] bool isBusy() const { return m_working; }
+    // Something was started that waits until what runs has ended.
+    [[nodiscard]] bool isAwaited() const { return static_cast<bool>(m_task); }
     // The command that runs: after what was answered at its first prompts its name, in capitals.
     [[nodiscard]] QStringList running() const {
         return m_running.name.isEmpty() ? QStringList()

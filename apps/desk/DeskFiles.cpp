@@ -23,6 +23,12 @@ QString withSuffix(const QString& path, const QString& suffix) {
     return path.isEmpty() || !QFileInfo(path).suffix().isEmpty() ? path : path + '.' + suffix;
 }
 
+// What follows a point of "plan.v2" doesn't make it a drawing's name.
+QString asDrawingName(const QString& path) {
+    const QLatin1String suffix(".dxf");
+    return path.endsWith(suffix, Qt::CaseInsensitive) ? path : path + suffix;
+}
+
 // The suffix that a filter of the dialog begins with, as in "SVG (*.svg)".
 QString suffixOf(const QString& filter) {
     return filter.section(QLatin1String("*."), 1).section(')', 0, 0);
@@ -87,9 +93,23 @@ bool DeskFiles::saveAs() {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return false;
     }
-    const QString path = dialog.selectedFiles().front();
+    const QString chosen = dialog.selectedFiles().front();
+    const QString path = asDrawingName(chosen);
+    if (path != chosen && QFileInfo::exists(path) && !mayReplace(path)) {
+        return false; // the chooser asked about another name
+    }
     m_settings.setText(DeskSettings::kDrawingFolder, QFileInfo(path).absolutePath());
     return saveInto(path);
+}
+
+bool DeskFiles::mayReplace(const QString& path) {
+    QMessageBox box(QMessageBox::Warning, tr("Orvex"),
+                    tr("%1 exists already.").arg(QFileInfo(path).fileName()),
+                    QMessageBox::Save | QMessageBox::Cancel, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("Do you want to replace it?"));
+    box.setDefaultButton(QMessageBox::Cancel);
+    return box.exec() == QMessageBox::Save;
 }
 
 // Two windows on one file would else undo each other's work without a word.

@@ -52,6 +52,7 @@ signals:
 private:
     bool saveInto(const QString& path);
     bool mayOverwrite();
+    bool mayReplace(const QString& path);
     void reportWarnings(const DrawingFile& file, const QString& path);
     void report(const QString& what, const QString& why);
 

@@ -1,10 +1,13 @@
 #include "MainWindow.h"
 
 #include "Canvas.h"
+#include "CommandDock.h"
 #include "CommandLine.h"
 #include "KdDbEntity.h"
 #include "KdDbStub.h"
 #include "LookDesk.h"
+#include "PastedLines.h"
+#include "PlayScript.h"
 #include "PointTyping.h"
 #include "aimOf.h"
 #include "clickedPoint.h"
@@ -13,7 +16,6 @@
 #include "qtWide.h"
 
 #include <QCloseEvent>
-#include <QDockWidget>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
@@ -30,8 +32,7 @@ namespace orvex {
 namespace {
 
 constexpr QSize kFirstSize(1200, 800);
-constexpr double kMostOfScreen = 0.9;    // the rest is left to the window's frame
-constexpr int kFirstCommandHeight = 170; // pixels
+constexpr double kMostOfScreen = 0.9; // the rest is left to the window's frame
 
 } // namespace
 
@@ -47,6 +48,9 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
       m_menus(*this, [this](const DeskAct& act) { perform(act); }),
       m_join(new JoinDesk(*this, *m_canvas, m_runner, m_prompts)),
       m_undo(new UndoDesk(*this, *m_canvas, m_runner, m_prompts, m_settings)),
+      m_play(new PlayScript(*this, m_runner, m_settings)),
+      m_pasted(new PastedLines(this, m_runner, m_prompts,
+                               [this](const QString& line) { enterLine(line); })),
       m_drawBar(new DrawBar(*this, m_runner, m_prompts)),
       m_select(new SelectDesk(*this, *m_canvas, m_runner, m_prompts)),
       m_grips(new GripDesk(*this, *m_canvas, m_runner, *m_select, m_settings)),
@@ -75,14 +79,7 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::makeCommandDock() {
-    auto* const dock = new QDockWidget(tr("Command line"), this);
-    dock->setObjectName(QStringLiteral("commandDock"));
-    dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable |
-                      QDockWidget::DockWidgetClosable);
-    dock->setAllowedAreas(Qt::TopDockWidgetArea | Qt::BottomDockWidgetArea);
-    dock->setWidget(m_commandLine);
-    addDockWidget(Qt::BottomDockWidgetArea, dock);
-    resizeDocks({dock}, {kFirstCommandHeight}, Qt::Vertical);
+    const auto* const dock = new CommandDock(*this, *m_commandLine);
     m_menus.view->addSeparator();
     new LookDesk(*m_menus.view, *m_canvas, m_settings);
     m_menus.view->addAction(dock->toggleViewAction());
@@ -103,6 +100,10 @@ void MainWindow::connectCommandLine() {
     connect(m_snap, &SnapDesk::canvasLeft, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(m_undo, &UndoDesk::printed, m_commandLine, &CommandLine::print);
     connect(&m_prompts, &DeskPrompts::printed, m_commandLine, &CommandLine::print);
+    connect(m_play, &PlayScript::printed, m_commandLine, &CommandLine::print);
+    connect(m_play, &PlayScript::complained, m_commandLine, &CommandLine::complain);
+    connect(m_pasted, &PastedLines::complained, m_commandLine, &CommandLine::complain);
+    connect(m_commandLine, &CommandLine::linesEntered, m_pasted, &PastedLines::play);
     connect(&m_prompts, &DeskPrompts::complained, m_commandLine, &CommandLine::complain);
     connect(&m_prompts, &DeskPrompts::asked, this, &MainWindow::showQuestion);
     connect(&m_prompts, &DeskPrompts::answered, this, &MainWindow::showIdle);
@@ -245,6 +246,8 @@ void MainWindow::perform(WindowAct act) {
         return post([this] { m_files.saveAs(); });
     case WindowAct::exportPicture:
         return post([this] { m_files.exportPicture(); });
+    case WindowAct::playScript:
+        return m_play->askAndPlay();
     case WindowAct::exit:
         close();
         return;
@@ -289,11 +292,14 @@ void MainWindow::enterLine(const QString& line) {
 }
 
 void MainWindow::escape() {
+    m_pasted->stop();
     if (m_canvas->dropWindow() || m_snap->dropWord()) {
         return;
     }
     if (m_prompts.request() != nullptr) {
         m_prompts.cancel();
+    } else if (m_play->isPlaying()) {
+        m_play->stop();
     } else if (!m_runner.isBusy() && !m_select->clear()) {
         m_commandLine->print(tr("Command: *Cancel*"));
     }
@@ -333,7 +339,7 @@ void MainWindow::showIdle() {
 }
 
 void MainWindow::showChange() {
-    setWindowTitle(m_drawing.name() + tr("[*] - Orvex"));
+    setWindowTitle(m_drawing.name() + tr("[*] \u2014 Orvex"));
     setWindowModified(m_drawing.isChanged());
     setWindowFilePath(m_drawing.path());
     m_drawBar->showValues();

@@ -30,6 +30,8 @@ namespace orvex {
 
 class Canvas;
 class CommandLine;
+class PastedLines;
+class PlayScript;
 
 // The window of orvex-desk: a drawing on a canvas, a command line below it, menus around.
 class MainWindow final : public QMainWindow {
@@ -94,6 +96,8 @@ private:
     DeskMenus m_menus;
     JoinDesk* m_join;
     UndoDesk* m_undo;
+    PlayScript* m_play;
+    PastedLines* m_pasted;
     DrawBar* m_drawBar;
     SelectDesk* m_select;
     GripDesk* m_grips;

@@ -16,6 +16,7 @@ enum class WindowAct : std::uint8_t {
     save,
     saveAs,
     exportPicture,
+    playScript,
     exit,
     undo,
     redo,

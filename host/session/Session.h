@@ -62,6 +62,9 @@ public:
     [[nodiscard]] ToolWatch& toolWatch() { return m_toolWatch; }
 
     void setSource(PromptSource* source);
+    [[nodiscard]] PromptSource* source() const { return m_setup.source; }
+    // Whether commands with dialogs may run; false while a script plays.
+    void setHasWindow(bool hasWindow) { m_setup.hasWindow = hasWindow; }
 
     // Asks the source for a command's name; empty for an empty line or a cancel.
     [[nodiscard]] std::wstring askCommand();

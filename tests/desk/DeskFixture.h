@@ -2,6 +2,7 @@
 
 #include "Canvas.h"
 #include "CommandLine.h"
+#include "DeskSettings.h"
 #include "MainWindow.h"
 #include "ScriptSource.h"
 #include "TestPaths.h"
@@ -44,11 +45,19 @@ protected:
     DeskFixture() {
         std::filesystem::copy_file(sourceDir() / "samples/floorplan.dxf", plan,
                                    std::filesystem::copy_options::overwrite_existing);
-        ApplicationProfile::instance().setText(L"Desk", L"RecentFiles", L"");
+        forgetSettings();
         makeWindow();
         window->resize(1000, 800);
     }
 
+    // What a test before this one in the same process left in the profile.
+    static void forgetSettings() {
+        for (const wchar_t* const key :
+             {L"RecentFiles", DeskSettings::kSnap, DeskSettings::kSnapModes,
+              DeskSettings::kSnapAperture, DeskSettings::kAngleStep, DeskSettings::kUndoMemory}) {
+            ApplicationProfile::instance().setText(L"Desk", key, L"");
+        }
+    }
     void makeWindow() {
         window.reset();
         window = std::make_unique<MainWindow>(
@@ -110,6 +119,14 @@ protected:
             const PlanPoint pixel = view.toPixels({x, y});
             QTest::mouseClick(canvas(), Qt::LeftButton, {},
                               {static_cast<int>(pixel.x), static_cast<int>(pixel.y)});
+        };
+    }
+    // Waits for what goes on by itself.
+    Step until(std::function<bool()> isReached) {
+        return [this, isReached] {
+            if (!isReached()) {
+                steps.push_front(until(isReached));
+            }
         };
     }
     // Does something to the dialog that is open then.

@@ -2,6 +2,7 @@
 
 #include "InputHistory.h"
 
+#include <QClipboard>
 #include <QMenu>
 
 namespace orvex::testing {
@@ -125,6 +126,46 @@ TEST_F(DeskFixture, namesAreCompletedAndFormerInputsFetched) {
             QTest::keyClick(&input(), Qt::Key_Down);
             EXPECT_EQ(input().text(), "");
         },
+    });
+}
+
+TEST_F(DeskFixture, pastedLinesPlayAfterEnterUntilOneFails) {
+    const auto paste = [this](const char* lines) {
+        return [this, lines] {
+            QApplication::clipboard()->setText(QString::fromLatin1(lines));
+            input().paste();
+        };
+    };
+    const auto count = [this] {
+        const auto* const label = window->findChild<QLabel*>("lineCount");
+        return label->isVisible() ? label->text().section(' ', 0, 0).toInt() : 1;
+    };
+    play({
+        paste("MLINE\n"),
+        [&] {
+            EXPECT_EQ(input().text(), "MLINE");
+            EXPECT_EQ(count(), 1);
+            input().clear();
+        },
+        paste("MLINE\n0,0\n1000,0\n\nMLINE\r\n0,500\r\n; up\n1000,500\n\n"),
+        [&] {
+            EXPECT_EQ(count(), 8);
+            EXPECT_EQ(prompt(), "Command:");
+            QTest::keyClick(&input(), Qt::Key_Return);
+        },
+        until([this] { return prompt() == "Command:" && history().contains(": 1000,500\n"); }),
+        trigger("undo"),
+        [&] {
+            EXPECT_EQ(count(), 1);
+            EXPECT_TRUE(window->isWindowModified()) << "each command is a step";
+        },
+        trigger("undo"),
+        [this] { EXPECT_FALSE(window->isWindowModified()); },
+        paste("MLINE\nnonsense\n0,0\n1000,0\n"),
+        [this] { QTest::keyClick(&input(), Qt::Key_Return); },
+        until([this] { return lastLine().endsWith("left out: 2."); }),
+        [this] { EXPECT_TRUE(prompt().startsWith("Start point")); },
+        key(Qt::Key_Escape),
     });
 }
 

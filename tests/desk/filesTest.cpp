@@ -1,5 +1,6 @@
 #include "DeskFixture.h"
 
+#include "PlayScript.h"
 #include "fileQuestion.h"
 
 #include <QFileDialog>
@@ -29,6 +30,12 @@ protected:
     }
     Step answer(QMessageBox::StandardButton button) {
         return inDialog<QMessageBox>([button](QMessageBox& box) { box.button(button)->click(); });
+    }
+    Step choose(const fs::path& path) {
+        return inDialog<QFileDialog>([path](QFileDialog& dialog) {
+            dialog.selectFile(QString::fromStdString(path.string()));
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
     }
     QMenu* recentMenu() const { return window->findChild<QAction*>("recent")->menu(); }
 };
@@ -148,12 +155,6 @@ TEST_F(FilesOfDesk, aFileThatSomebodyElseWroteIsNotOverwrittenUnasked) {
 TEST_F(FilesOfDesk, savingAsAndExportingAskForAFileAndTellWhatFails) {
     const fs::path copy = fs::temp_directory_path() / "copy.dxf";
     const fs::path picture = fs::temp_directory_path() / "copy.svg";
-    const auto choose = [this](const fs::path& path) {
-        return inDialog<QFileDialog>([path](QFileDialog& dialog) {
-            dialog.selectFile(QString::fromStdString(path.string()));
-            QMetaObject::invokeMethod(&dialog, "accept");
-        });
-    };
     play({
         openPlan(),
         trigger("saveAs"),
@@ -174,10 +175,52 @@ TEST_F(FilesOfDesk, savingAsAndExportingAskForAFileAndTellWhatFails) {
         [this] { EXPECT_FALSE(window->isWindowModified()); },
         trigger("export"),
         choose(picture),
+        trigger("saveAs"),
+        choose(fs::temp_directory_path() / "plan.v2"),
+        [this] { EXPECT_EQ(titleOf(*window), "plan.v2.dxf"); },
     });
     EXPECT_NE(readFile(copy), original);
     EXPECT_THAT(readFile(picture), ::testing::HasSubstr("<svg"));
     EXPECT_EQ(readFile(plan), original);
+}
+
+TEST_F(FilesOfDesk, aScriptPlaysUntilItFailsOrIsStopped) {
+    const fs::path path = fs::temp_directory_path() / "walls.scr";
+    const std::string walls = "MLINE\n0,0\n1000,0\n\nMLINE\n0,500\n1000,500\n\n";
+    writeFile(path, walls + "MLEDIT\n" + walls);
+    play({
+        openPlan(),
+        type("MLINE"),
+        trigger("playScript"),
+        [this] { EXPECT_TRUE(lastLine().endsWith("at the command prompt only.")); },
+        key(Qt::Key_Escape),
+        trigger("playScript"),
+        choose(path),
+        [&] {
+            EXPECT_THAT(lastLine().toStdString(),
+                        ::testing::HasSubstr(path.string() + ":9: the command 'MLEDIT' needs"));
+            EXPECT_EQ(prompt(), "Command:");
+        },
+        trigger("undo"),
+        [this] { EXPECT_TRUE(window->isWindowModified()) << "each command is a step"; },
+        trigger("undo"),
+        [this] { EXPECT_FALSE(window->isWindowModified()); },
+        [this] {
+            auto* const player = window->findChild<PlayScript*>();
+            QObject::connect(player, &PlayScript::printed, &input(), [this](const QString& line) {
+                if (line.endsWith(": 1000,0")) {
+                    QTest::keyClick(&input(), Qt::Key_Escape);
+                }
+            });
+        },
+        trigger("playScript"),
+        choose(path),
+        [this] { EXPECT_TRUE(lastLine().endsWith("stopped after line 4.")) << "what runs ends"; },
+        trigger("undo"),
+        [this] { EXPECT_FALSE(window->isWindowModified()); },
+        type("MLSTYLE"), // dialogs are allowed again
+        inDialog<QDialog>([](QDialog& dialog) { dialog.reject(); }),
+    });
 }
 
 // What the dialogs of styles ask for, and where they begin.
