@@ -67,17 +67,19 @@ std::optional<Failure> RecordCutter::run(const Progress& progress) {
         }
     }
     endRecord();
+    const bool isDrawing = !m_result.records.m_records.empty();
     m_result.records.m_records.push_back(
         {m_reader.position(), 0, RecordKind::other, false, false, 0});
     m_result.lineCount = 2 * m_reader.tagCount();
     m_result.lineEnds = {m_result.lineCount, m_reader.carriageReturns()};
-    if (read == TagReader::Result::badCode) {
-        return Failure{FailureCause::unreadableInput, {}, line(), "a group code is no integer"};
+    if (read != TagReader::Result::badCode && read != TagReader::Result::noValue) {
+        return std::nullopt;
     }
-    if (read == TagReader::Result::noValue) {
-        return Failure{FailureCause::unreadableInput, {}, line(), "a group code has no value"};
-    }
-    return std::nullopt;
+    // Whatever else the user took, a picture or a text.
+    std::string text = isDrawing ? "" : "this is no drawing: ";
+    text += read == TagReader::Result::badCode ? "a group code is no integer"
+                                               : "a group code has no value";
+    return Failure{FailureCause::unreadableInput, {}, line(), text};
 }
 
 void RecordCutter::startRecord(const Tag& tag) {

@@ -29,13 +29,15 @@ TEST(Opening, isRefusedWithTheLine) {
         const char* text;
     } files[] = {
         {std::string("Drawing in bytes  \r\n\x1A\0\0\0SECTION", 31), 0, "at byte 0: "},
-        {"  0\nSECTION\n  x\nHEADER\n", 3, "no integer"},
+        {"  0\nSECTION\n  x\nHEADER\n", 3, "a group code is no integer"},
         {"  0\nSECTION\n\nHEADER\n", 3, "no integer"},
         {"  0\nSECTION\n 2 2\nHEADER\n", 3, "no integer"},
         {std::string("  0\nSECTION\n  2\0\nHEADER\n", 23), 3, "no integer"},
         {"  0\nSECTION\n  2\nHEADER\n  0\n", 5, "no value"},
         {"  0\nSECTION\n  2\nHEADER\n  0", 5, "no value"},
-        {"\xFF\xFE\x30", 1, "no integer"},
+        {"\xFF\xFE\x30", 1, "this is no drawing: a group code is no integer"},
+        {"\x89PNG\r\n\x1A\n", 1, "this is no drawing: "},
+        {"12\nwords\nmore words\n", 3, "this is no drawing: "},
     };
     for (const auto& file : files) {
         const Failure failure = openFailing(file.bytes);
