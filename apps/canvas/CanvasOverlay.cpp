@@ -1,9 +1,9 @@
 #include "CanvasOverlay.h"
 
 #include "Scene.h"
+#include "canvasMarks.h"
 #include "paintAppearance.h"
 
-#include <QColor>
 #include <QPainter>
 #include <QPen>
 
@@ -35,19 +35,20 @@ Appearance outlineOf(const PlanBox& box) {
     return outline;
 }
 
-Appearance glowOf(const Appearance& appearance) {
+Appearance glowOf(const Appearance& appearance, const QColor& color) {
     Appearance glow;
     glow.strokes = appearance.strokes;
     for (Stroke& stroke : glow.strokes) {
         stroke.dashes = 0;
-        stroke.rgb = kSelectedColor.rgb() & 0xFFFFFFU;
+        stroke.rgb = color.rgb() & 0xFFFFFFU;
     }
     return glow;
 }
 
 // A ring where something is to be done, a ring with a cross where it couldn't.
 void drawMark(QPainter& painter, const QPointF& at, MarkKind kind) {
-    painter.setPen(QPen(kind == MarkKind::left ? kLeftColor : kPlannedColor, 2.0));
+    painter.setPen(
+        QPen(onGround(painter, kind == MarkKind::left ? kLeftColor : kPlannedColor), 2.0));
     painter.drawEllipse(at, kMarkRadius, kMarkRadius);
     if (kind == MarkKind::left) {
         const double reach = kMarkRadius * 0.7;
@@ -78,32 +79,36 @@ void CanvasOverlay::paint(QPainter& painter, Scene& scene, const PlanView& view,
         return;
     }
     const QSize size(view.width(), view.height());
-    if (m_isStale || stateOf(view) != m_shown || m_picture.size() != size * ratio ||
-        m_picture.devicePixelRatio() != ratio) {
-        render(scene, view, ratio);
+    const QColor ground = painter.background().color();
+    if (m_isStale || stateOf(view) != m_shown || ground != m_ground ||
+        m_picture.size() != size * ratio || m_picture.devicePixelRatio() != ratio) {
+        render(scene, view, ratio, ground);
     }
     painter.drawPixmap(0, 0, m_picture);
 }
 
-void CanvasOverlay::render(Scene& scene, const PlanView& view, double ratio) {
+void CanvasOverlay::render(Scene& scene, const PlanView& view, double ratio, const QColor& ground) {
     m_isStale = false;
+    m_ground = ground;
     m_shown = stateOf(view);
     const QSize size(view.width(), view.height());
     m_picture = QPixmap(size * ratio);
     m_picture.setDevicePixelRatio(ratio);
     m_picture.fill(Qt::transparent);
     QPainter painter(&m_picture);
+    painter.setBackground(ground);
     painter.setRenderHint(QPainter::Antialiasing);
     PlanBox seen;
     seen.include(view.toPlan({-kGlowWidth, -kGlowWidth}));
     seen.include(view.toPlan({size.width() + kGlowWidth, size.height() + kGlowWidth}));
     painter.setOpacity(kGlowOpacity);
+    const QColor glow = onGround(painter, kSelectedColor);
     const bool byBoxes = m_selected.size() > kMostGlowing;
     for (KdDbStub* const entity : m_selected) {
         const Appearance& appearance = scene.appearance(*entity);
         const PlanBox box = appearance.box();
         if (meets(box, seen)) {
-            paintAppearance(painter, glowOf(byBoxes ? outlineOf(box) : appearance), view,
+            paintAppearance(painter, glowOf(byBoxes ? outlineOf(box) : appearance, glow), view,
                             {.lineWidth = kGlowWidth}, PaintParts::linesAndLabels);
         }
     }

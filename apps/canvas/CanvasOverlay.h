@@ -3,6 +3,7 @@
 #include "PlanView.h"
 #include "viewChange.h"
 
+#include <QColor>
 #include <QPixmap>
 
 #include <cstdint>
@@ -36,16 +37,17 @@ public:
     [[nodiscard]] const std::vector<KdDbStub*>& selected() const { return m_selected; }
     [[nodiscard]] const std::vector<CanvasMark>& marks() const { return m_marks; }
 
-    // `ratio` is device pixels to one of the view's.
+    // `ratio` is device pixels to one of the view's; the painter's background is the ground.
     void paint(QPainter& painter, Scene& scene, const PlanView& view, double ratio);
 
 private:
-    void render(Scene& scene, const PlanView& view, double ratio);
+    void render(Scene& scene, const PlanView& view, double ratio, const QColor& ground);
 
     std::vector<KdDbStub*> m_selected;
     std::vector<CanvasMark> m_marks;
     QPixmap m_picture;
     ViewState m_shown;
+    QColor m_ground; // of the picture's colours
     bool m_isStale = true;
 };
 

@@ -41,7 +41,7 @@ QRect wordsBox(const QPainter& painter, const QString& words) {
 
 void paintWordsIn(QPainter& painter, const QRect& place, const QString& words,
                   const QColor& color) {
-    painter.fillRect(place, QColor(0, 0, 0, 160));
+    painter.fillRect(place, kWordsGround);
     painter.setPen(color);
     painter.drawText(place, Qt::AlignCenter, words);
 }
@@ -56,13 +56,14 @@ void drawAxis(QPainter& painter, const QPointF& origin, const KdGeVector3d& axis
     const QPointF tip = origin + direction;
     const QPointF along = direction / length;
     const QPointF across(-along.y(), along.x());
-    painter.setPen(QPen(color, 1.5));
+    const QColor shown = onGround(painter, color);
+    painter.setPen(QPen(shown, 1.5));
     painter.drawLine(origin, tip);
-    painter.setBrush(color);
+    painter.setBrush(shown);
     painter.setPen(Qt::NoPen);
     painter.drawPolygon(
         QPolygonF{{tip, tip - along * 8.0 + across * 3.0, tip - along * 8.0 - across * 3.0}});
-    painter.setPen(color);
+    painter.setPen(shown);
     painter.drawText(QRectF(tip + along * 9.0 - QPointF(8, 8), QSizeF(16, 16)), Qt::AlignCenter,
                      name);
 }

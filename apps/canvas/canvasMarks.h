@@ -22,6 +22,9 @@ inline bool isCrossingWindow(double firstX, double secondX) {
 // What moves over the picture of the plan. Painters have the view's pixels as coordinates and the
 // plan's ground as background, on which every mark has to be seen.
 
+// Below words over the plan, whatever its ground.
+inline const QColor kWordsGround(0, 0, 0, 200);
+
 // The colour as it can be read on the painter's background.
 QColor onGround(const QPainter& painter, const QColor& color);
 

@@ -1,5 +1,7 @@
 #include "guideMarks.h"
 
+#include "canvasMarks.h"
+
 #include <QColor>
 #include <QPainter>
 #include <QPen>
@@ -74,7 +76,7 @@ void drawName(QPainter& painter, const PlanView& view, const QPointF& at, const 
     if (box.top() < 0.0) {
         box.moveTop(at.y() + kNameMargin);
     }
-    painter.fillRect(box, QColor(0, 0, 0, 160));
+    painter.fillRect(box, kWordsGround);
     painter.setPen(kMarkerColor);
     painter.drawText(box, Qt::AlignCenter, name);
 }
@@ -86,7 +88,7 @@ void drawRay(QPainter& painter, const QPointF& from, const QPointF& through) {
     if (!(length > 0.0 && length < kFarAway)) {
         return;
     }
-    painter.setPen(QPen(kRayColor, 1.0, Qt::DotLine));
+    painter.setPen(QPen(onGround(painter, kRayColor), 1.0, Qt::DotLine));
     painter.drawLine(from, from + along * (length + 4000.0) / length);
 }
 
@@ -104,11 +106,11 @@ void paintGuide(QPainter& painter, const PlanView& view, const GuidedPoint& poin
         drawRay(painter, pixelOf(view, *point.rayFrom), at);
     }
     if (point.attractor) {
-        painter.setPen(QPen(kMarkerColor, 1.0, Qt::DashLine));
+        painter.setPen(QPen(onGround(painter, kMarkerColor), 1.0, Qt::DashLine));
         painter.drawLine(pixelOf(view, *point.attractor), at);
     }
     if (point.marker) {
-        painter.setPen(QPen(kMarkerColor, 2.0));
+        painter.setPen(QPen(onGround(painter, kMarkerColor), 2.0));
         drawMarker(painter, at, *point.marker);
     }
     if (!point.name.isEmpty()) {
@@ -122,7 +124,7 @@ void paintTypedPoint(QPainter& painter, const PlanView& view, PlanPoint point) {
     if (!(std::abs(at.x()) < kFarAway && std::abs(at.y()) < kFarAway)) {
         return;
     }
-    painter.setPen(QPen(kMarkerColor, 1.0));
+    painter.setPen(QPen(onGround(painter, kMarkerColor), 1.0));
     painter.drawLine(at - QPointF(kReach, 0), at + QPointF(kReach, 0));
     painter.drawLine(at - QPointF(0, kReach), at + QPointF(0, kReach));
 }

@@ -1,5 +1,6 @@
 #include "hintMarks.h"
 
+#include "canvasMarks.h"
 #include "paintAppearance.h"
 
 #include <QColor>
@@ -30,9 +31,10 @@ void paintLines(QPainter& painter, const PlanView& view, const Appearance& appea
                 const QColor& color, double width) {
     Appearance lines;
     lines.strokes = appearance.strokes;
+    const std::uint32_t rgb = onGround(painter, color).rgb() & 0xFFFFFFU;
     for (Stroke& stroke : lines.strokes) {
         stroke.dashes = 0;
-        stroke.rgb = color.rgb() & 0xFFFFFFU;
+        stroke.rgb = rgb;
     }
     paintAppearance(painter, lines, view, {.lineWidth = width}, PaintParts::linesAndLabels);
 }
@@ -41,7 +43,7 @@ void paintLines(QPainter& painter, const PlanView& view, const Appearance& appea
 void paintFirstPoint(QPainter& painter, const PlanView& view, PlanPoint place) {
     const PlanPoint pixel = view.toPixels(place);
     const QPointF at(pixel.x, pixel.y);
-    painter.setPen(QPen(kLitColor, 2.0));
+    painter.setPen(QPen(onGround(painter, kLitColor), 2.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(at, kPointReach, kPointReach);
     painter.drawLine(at - QPointF(kPointReach, 0), at + QPointF(kPointReach, 0));
@@ -81,14 +83,14 @@ void paintWords(QPainter& painter, const QPoint& cursor, const QSize& view, cons
         box.moveBottom(cursor.y() - kWordsMargin);
     }
     box.moveLeft(std::max(box.left(), 0));
-    painter.fillRect(box, QColor(0, 0, 0, 190));
+    painter.fillRect(box, kWordsGround);
     painter.setPen(kind == WordsKind::refusal ? kRefusalColor : kNoteColor);
     painter.drawText(box, Qt::AlignCenter, words);
 }
 
 void paintPickFlash(QPainter& painter, const QPoint& cursor, int pickBox) {
     const int reach = pickBox + kFlashReach;
-    painter.setPen(QPen(kRefusalColor, 2.0));
+    painter.setPen(QPen(onGround(painter, kRefusalColor), 2.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(cursor.x() - reach, cursor.y() - reach, 2 * reach, 2 * reach);
 }
