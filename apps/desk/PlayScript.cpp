@@ -79,6 +79,9 @@ void PlayScript::playText(Session& session, const std::string& text, const QStri
     m_isPlaying = true;
     m_isStopped = false;
     emit printed(tr("Playing %1").arg(path));
+    // A script selects by its own lines.
+    session.selectionMemory().chosen.clear();
+    session.selectionMemory().chosenLines.clear();
     ScriptSource script(text, [this](const std::wstring& line) { emit printed(toQt(line)); });
     {
         const SourceScope scope(session, script);
