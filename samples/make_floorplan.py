@@ -172,6 +172,7 @@ before and after.
 | `tour.scr` | all twelve tools, each where the plan has a use for it |
 | `undo.scr` | cuts and takes everything back: the drawing comes out as it went in |
 | `empty.scr` | nothing: opened and saved, a drawing stays the same byte for byte |
+| `drawn_flat.scr` | a flat of 20 walls drawn in the window by hand, slips taken back, joined, doors cut; begins with `drawn_flat.dxf`, a new drawing with three wall styles |
 | `play` | the script behind `./run --script`: plays the tour, joins the flat, draws, undoes |
 | `runs.txt` | runs that every build has to play alike |
 
