@@ -17,7 +17,7 @@ namespace orvex {
 
 namespace {
 
-constexpr const wchar_t* kCancelEcho = L"*Cancel*";
+constexpr const wchar_t* kCancelEcho = L"*CANCEL*"; // as scripts have it
 
 PromptAnswer cancelled() {
     PromptAnswer answer;

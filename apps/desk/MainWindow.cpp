@@ -301,7 +301,7 @@ void MainWindow::escape() {
     } else if (m_play->isPlaying()) {
         m_play->stop();
     } else if (!m_runner.isBusy() && !m_select->clear()) {
-        m_commandLine->print(tr("Command: *Cancel*"));
+        m_commandLine->print(tr("Command: %1").arg(QLatin1String("*CANCEL*")));
     }
 }
 

@@ -11,13 +11,18 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvex {
 
 namespace {
 
-// Over all elements at the start, drawing units.
+// Over all elements at the start, square to the chain, drawing units. The lists measure along the
+// miter, which lies slanting at closed chains and where a style's ends do.
 double widthOf(const MlineContent& mline) {
+    if (mline.vertices.empty()) {
+        return 0.0;
+    }
     double low = 0.0;
     double high = 0.0;
     for (unsigned element = 0; element < mline.elementCount(); ++element) {
@@ -26,7 +31,11 @@ double widthOf(const MlineContent& mline) {
         low = element == 0 ? offset : std::min(low, offset);
         high = element == 0 ? offset : std::max(high, offset);
     }
-    return high - low;
+    const KdGeVector3d& axis = mline.vertices.front().axis;
+    const KdGeVector3d& miter = mline.vertices.front().miter;
+    return (high - low) * std::hypot(axis.y * miter.z - axis.z * miter.y,
+                                     axis.z * miter.x - axis.x * miter.z,
+                                     axis.x * miter.y - axis.y * miter.x);
 }
 
 QString styleOf(const MlineContent& mline) {

@@ -25,7 +25,7 @@ protected:
     }
     // What was typed and clicked, without what was said.
     [[nodiscard]] std::string commands() const {
-        QString text = QString::fromStdString(script()).replace("*Cancel*", "*CANCEL*");
+        QString text = QString::fromStdString(script());
         return text.remove(QRegularExpression("left, [^\n]*\n")).toStdString();
     }
 };

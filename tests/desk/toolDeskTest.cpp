@@ -1,10 +1,13 @@
 #include "DeskFixture.h"
 
+#include "hoverText.h"
 #include "toolGhost.h"
 
 #include <QDialog>
 #include <QMouseEvent>
 #include <QThread>
+
+#include <tuple>
 
 namespace orvex::testing {
 
@@ -47,6 +50,20 @@ protected:
 const QStringList kWalls{"MLINE", "s",     "20",     "j",     "z",    "0,0",   "100,0",
                          "",      "MLINE", "50,-50", "50,50", "",     "MLINE", "50,-50",
                          "50,50", "",      "ZOOM",   "c",     "50,0", "200"};
+
+// Where the chain is closed or its ends are cut slanting, the lists measure along a slanting miter.
+TEST_F(ToolDeskTest, tellsHowWideAWallIsSquareToItself) {
+    play({openPlan(), [this] {
+              Scene& scene = window->session()->scene();
+              for (const auto& [x, y, width] : {std::tuple{2200.0, 0.0, "365 wide"},
+                                                {8000.0, 8920.0, "60 wide"},
+                                                {5025.0, 4000.0, "150 wide"}}) {
+                  KdDbStub* const wall = scene.pick({x, y}, 10);
+                  ASSERT_NE(wall, nullptr) << x;
+                  EXPECT_THAT(hoverText(*wall).toStdString(), ::testing::HasSubstr(width));
+              }
+          }});
+}
 
 TEST_F(ToolDeskTest, showsWhatAClickWillDoAndWhatWasPicked) {
     std::deque<Step> all;
