@@ -107,7 +107,13 @@ public:
         if (!drawing) {
             return drawing.failure();
         }
-        const std::vector<KdDbStub*> mlines = mlinesOf((*drawing)->database().core());
+        return withMemory(FailureCause::unplayableScript, inputName(task.drawing),
+                          [&] { return audit(**drawing, task, counts); });
+    }
+
+private:
+    std::optional<Failure> audit(DrawingFile& drawing, const DrawingTask& task, Counts& counts) {
+        const std::vector<KdDbStub*> mlines = mlinesOf(drawing.database().core());
         const std::vector<AuditedMline> audited = auditMlines(mlines, task.output.has_value());
         counts = countsOf(audited, mlines.size());
         if (m_asJson) {
@@ -115,10 +121,9 @@ public:
         } else {
             printText(audited, mlines.size());
         }
-        return task.output ? saveDrawing(**drawing, *task.output) : std::nullopt;
+        return task.output ? saveDrawing(drawing, *task.output) : std::nullopt;
     }
 
-private:
     bool m_asJson = false;
 };
 

@@ -3,6 +3,7 @@
 #include "batchFiles.h"
 
 #include <exception>
+#include <new>
 
 namespace orvex {
 
@@ -13,6 +14,9 @@ std::optional<Failure> guarded(const std::function<std::optional<Failure>()>& ac
     try {
         auto failure = action();
         return failure ? failure : flushOutput();
+    } catch (const std::bad_alloc&) {
+        // Where a result is made or saved, withMemory knows better.
+        return Failure{FailureCause::unreadableInput, {}, 0, "not enough memory"};
     } catch (const std::exception& error) {
         return Failure{FailureCause::programFault, {}, 0, error.what()};
     } catch (...) {

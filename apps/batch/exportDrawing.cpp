@@ -35,22 +35,27 @@ public:
         if (!drawing) {
             return drawing.failure();
         }
-        MlineExploder exploder((*drawing)->database().core());
+        AtomicFile target = resultFile(*task.output);
+        auto failure = withMemory(FailureCause::unwritableOutput, target.path(),
+                                  [&] { return save(**drawing, target, counts); });
+        printWarnings(task.drawing, (*drawing)->savingWarnings());
+        return failure;
+    }
+
+private:
+    std::optional<Failure> save(DrawingFile& drawing, AtomicFile& target, Counts& counts) const {
+        MlineExploder exploder(drawing.database().core());
         std::size_t exported = 0;
         const MlineExport how{m_form, [&](const MlineContent& mline) {
                                   auto parts = exploder.explode(mline);
                                   exported += parts ? 1 : 0;
                                   return parts;
                               }};
-        AtomicFile target = resultFile(*task.output);
-        auto failure = withMemory(FailureCause::unwritableOutput, target.path(),
-                                  [&] { return (*drawing)->saveExported(target, how); });
-        printWarnings(task.drawing, (*drawing)->savingWarnings());
+        auto failure = drawing.saveExported(target, how);
         counts = {{"multilines", exported}};
         return failure;
     }
 
-private:
     ExportForm m_form = ExportForm::lines;
 };
 

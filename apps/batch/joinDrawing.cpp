@@ -102,6 +102,8 @@ public:
     std::optional<Failure> carryOut(const DrawingTask& task, Counts& counts) override;
 
 private:
+    std::optional<Failure> join(std::unique_ptr<DrawingFile> drawing, const DrawingTask& task,
+                                Counts& counts);
     // The script goes to standard output, and all else that is printed to standard error.
     [[nodiscard]] bool printsScript() const { return m_saveScript == "-"; }
     [[nodiscard]] std::optional<Failure> print(const JoinRun& join, const DrawingTask& task) const;
@@ -170,26 +172,31 @@ std::optional<Failure> JoinVerb::carryOut(const DrawingTask& task, Counts& count
     if (!drawing) {
         return drawing.failure();
     }
+    return withMemory(FailureCause::unplayableScript, inputName(task.drawing),
+                      [&] { return join(std::move(*drawing), task, counts); });
+}
+
+std::optional<Failure> JoinVerb::join(std::unique_ptr<DrawingFile> drawing, const DrawingTask& task,
+                                      Counts& counts) {
     ModuleLoader modules;
     SessionSetup setup;
-    setup.drawing = std::move(*drawing);
+    setup.drawing = std::move(drawing);
     setup.moduleFiles = moduleFiles(m_module);
     Session session(std::move(setup), modules);
     auto mlines = chosenMlines(session, task.drawing, m_layers);
     if (!mlines) {
         return mlines.failure();
     }
-    JoinRun join(session, std::move(*mlines), m_options);
-    if (auto failure = withMemory(FailureCause::unplayableScript, inputName(task.drawing),
-                                  [&] { return join.play(); })) {
+    JoinRun run(session, std::move(*mlines), m_options);
+    if (auto failure = run.play()) {
         return failure;
     }
-    counts = joinCounts(join);
-    if (auto failure = print(join, task)) {
+    counts = joinCounts(run);
+    if (auto failure = print(run, task)) {
         return failure;
     }
     return withMemory(FailureCause::unwritableOutput, task.output.value_or(""),
-                      [&] { return save(session, join, task); });
+                      [&] { return save(session, run, task); });
 }
 
 // Before the save: a call that can't print what it did leaves nothing behind.

@@ -128,18 +128,24 @@ public:
         if (!drawing) {
             return drawing.failure();
         }
+        return withMemory(FailureCause::unplayableScript, inputName(m_script),
+                          [&] { return play(std::move(*drawing), task, counts); });
+    }
+
+private:
+    std::optional<Failure> play(std::unique_ptr<DrawingFile> drawing, const DrawingTask& task,
+                                Counts& counts) const {
         ScriptSource script(m_text, printLine);
         ModuleLoader modules;
         SessionSetup setup;
-        setup.drawing = std::move(*drawing);
+        setup.drawing = std::move(drawing);
         setup.source = &script;
         setup.moduleFiles = moduleFiles(m_module);
         Session session(std::move(setup), modules);
         const std::string name = inputName(m_script);
         const MissedPicks missed(session, script, name);
         std::size_t commands = 0;
-        auto failure = withMemory(FailureCause::unplayableScript, name,
-                                  [&] { return playToTheEnd(session, script, name, commands); });
+        auto failure = playToTheEnd(session, script, name, commands);
         counts = {{"commands", commands}, {"missed", missed.count()}};
         if (failure) {
             return failure;
@@ -151,7 +157,6 @@ public:
         return task.output ? saveDrawing(session.drawing(), *task.output) : std::nullopt;
     }
 
-private:
     std::string m_script;                // "-" is standard input
     std::optional<std::string> m_module; // else beside the program or in the library folder
     bool m_isStrict = false;             // a missed pick is a failure, and nothing is saved

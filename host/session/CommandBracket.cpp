@@ -6,6 +6,7 @@
 #include "SessionDisplay.h"
 #include "resourceLibrary.h"
 
+#include <new>
 #include <utility>
 
 namespace orvex {
@@ -17,10 +18,21 @@ CommandBracket::CommandBracket(std::wstring name, DatabaseCore& core, SessionDis
     m_core.changes().beginCommand(std::move(name));
 }
 
+void CommandBracket::end() {
+    if (!m_isEnded) {
+        m_isEnded = true;
+        m_core.closeAll();
+        m_core.changes().endCommand();
+    }
+}
+
 CommandBracket::~CommandBracket() {
-    m_core.closeAll();
-    m_core.changes().endCommand();
-    m_display.showAll();
+    try {
+        end();
+        m_display.showAll();
+    } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch)
+        // The command has failed already, mostly for the same reason.
+    }
     AfxSetResourceHandle(m_resources);
     PromptSession::current().armedKeywords.clear();
 }

@@ -21,11 +21,15 @@ public:
     CommandBracket(const CommandBracket&) = delete;
     CommandBracket& operator=(const CommandBracket&) = delete;
 
+    // Makes the step. Throws std::bad_alloc where there is no memory for it; then there is none.
+    void end();
+
 private:
     DatabaseCore& m_core;
     SessionDisplay& m_display;
     ModuleLoader::Use m_use;
     HINSTANCE m_resources;
+    bool m_isEnded = false;
 };
 
 } // namespace orvex

@@ -15,6 +15,7 @@
 #include "textCodec.h"
 
 #include <exception>
+#include <new>
 
 namespace orvex {
 
@@ -34,9 +35,17 @@ public:
     ScratchBracket(DatabaseCore& core, ModuleLoader& modules) : m_core(core), m_use(modules) {
         m_core.changes().beginCommand();
     }
-    ~ScratchBracket() { m_core.changes().endCommand(); }
+    ~ScratchBracket() {
+        try {
+            m_core.changes().endCommand();
+        } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch)
+            // The command has failed already, mostly for the same reason.
+        }
+    }
     ScratchBracket(const ScratchBracket&) = delete;
     ScratchBracket& operator=(const ScratchBracket&) = delete;
+
+    void end() { m_core.changes().endCommand(); }
 
 private:
     DatabaseCore& m_core;
@@ -147,8 +156,11 @@ std::optional<Failure> ScratchSession::run(const std::wstring& command, PromptSo
     setActiveDocContext(&m_view);
     std::optional<Failure> failure;
     try {
-        const ScratchBracket bracket(core(), m_session.modules());
+        ScratchBracket bracket(core(), m_session.modules());
         (*function)();
+        bracket.end();
+    } catch (const std::bad_alloc&) {
+        failure = Failure{FailureCause::unplayableScript, {}, 0, "not enough memory"};
     } catch (const std::exception& error) {
         failure = Failure{FailureCause::programFault,
                           {},

@@ -142,9 +142,10 @@ std::optional<Failure> Session::runInBracket(const std::wstring& name,
     std::optional<Failure> failure;
     const std::string what = "the command '" + narrow(name) + "' failed";
     try {
-        const CommandBracket bracket(foldCase(name), database().core(), m_display, m_modules);
+        CommandBracket bracket(foldCase(name), database().core(), m_display, m_modules);
         command();
         runFollowers();
+        bracket.end();
     } catch (const std::bad_alloc&) {
         failure = Failure{FailureCause::unplayableScript, {}, 0, what + ": not enough memory"};
     } catch (const std::exception& error) {
