@@ -33,10 +33,32 @@ Result<std::unique_ptr<DrawingFile>> openUnguarded(const std::string& path) {
     return opened;
 }
 
+bool beginsCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
+// What a message quotes may be as long as a file. Any file's name and the end stay.
+std::string shortened(const std::string& text) {
+    constexpr std::size_t kHead = 5000;
+    constexpr std::size_t kTail = 300;
+    if (text.size() <= kHead + kTail) {
+        return text;
+    }
+    std::size_t head = kHead;
+    std::size_t tail = text.size() - kTail;
+    while (!beginsCharacter(text[head])) {
+        --head;
+    }
+    while (!beginsCharacter(text[tail])) {
+        ++tail;
+    }
+    return text.substr(0, head) + " ... " + text.substr(tail);
+}
+
 } // namespace
 
 std::string complaint(const std::string& text) {
-    return kComplaintStart + printableText(text) + '\n';
+    return kComplaintStart + printableText(shortened(text)) + '\n';
 }
 
 void complain(const std::string& text) {

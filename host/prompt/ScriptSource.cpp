@@ -6,6 +6,7 @@
 #include "textCodec.h"
 #include "typedAnswer.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace orvex {
@@ -42,21 +43,27 @@ std::size_t characterLength(std::string_view text) {
 
 } // namespace
 
-ScriptSource::ScriptSource(std::string_view utf8, Printer printer) : m_printer(std::move(printer)) {
-    utf8 = withoutByteOrderMark(utf8);
-    for (std::size_t number = 1; !utf8.empty(); ++number) {
-        const std::size_t end = utf8.find('\n');
-        std::string_view line = utf8.substr(0, end);
-        utf8.remove_prefix(end == std::string_view::npos ? utf8.size() : end + 1);
+ScriptSource::ScriptSource(std::string_view utf8, Printer printer)
+    : m_text(withoutByteOrderMark(utf8)), m_printer(std::move(printer)) {
+    findNext();
+}
+
+// Goes on to the next line that is no comment.
+void ScriptSource::findNext() {
+    do {
+        m_hasNext = m_rest < m_text.size();
+        if (!m_hasNext) {
+            return;
+        }
+        const std::size_t end = std::min(m_text.find('\n', m_rest), m_text.size());
+        std::string_view line = std::string_view(m_text).substr(m_rest, end - m_rest);
         while (line.ends_with('\r')) {
             line.remove_suffix(1);
         }
-        const std::wstring wide = widen(line);
-        const std::wstring_view text = trimBlanks(wide);
-        if (!text.starts_with(L';')) {
-            m_lines.push_back({number, std::wstring(text)});
-        }
-    }
+        m_next = trimBlanks(line);
+        m_rest = end + 1;
+        ++m_nextNumber;
+    } while (m_next.starts_with(';'));
 }
 
 std::optional<std::size_t> ScriptSource::firstLineThatIsNoUtf8(std::string_view text) {
@@ -80,10 +87,11 @@ PromptAnswer ScriptSource::ask(const PromptRequest& request) {
         end.echo = kCancel;
         return end;
     }
-    const Line& line = m_lines[m_next++];
-    m_line = line.number;
-    PromptAnswer answer = answerTo(request, line.text);
-    answer.echo = line.text;
+    const std::wstring text = widen(m_next);
+    m_line = m_nextNumber;
+    findNext();
+    PromptAnswer answer = answerTo(request, text);
+    answer.echo = text;
     return answer;
 }
 

@@ -8,7 +8,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace orvex {
 
@@ -21,6 +20,8 @@ public:
     using Printer = std::function<void(const std::wstring&)>;
 
     ScriptSource(std::string_view utf8, Printer printer);
+    ScriptSource(const ScriptSource&) = delete;
+    ScriptSource& operator=(const ScriptSource&) = delete;
 
     // The line (from 1) of the first byte that makes the text no UTF-8; nothing when it is.
     static std::optional<std::size_t> firstLineThatIsNoUtf8(std::string_view text);
@@ -29,19 +30,19 @@ public:
     void print(const std::wstring& line) override { m_printer(line); }
     void reject(const std::wstring& reason) override;
 
-    [[nodiscard]] bool atEnd() const { return m_failure || m_next == m_lines.size(); }
+    [[nodiscard]] bool atEnd() const { return m_failure || !m_hasNext; }
     [[nodiscard]] const std::optional<Failure>& failure() const { return m_failure; }
     [[nodiscard]] std::size_t line() const { return m_line; } // of the last answer, from 1
 
 private:
-    struct Line {
-        std::size_t number = 0;
-        std::wstring text;
-    };
     PromptAnswer answerTo(const PromptRequest& request, const std::wstring& text);
+    void findNext();
 
-    std::vector<Line> m_lines; // without comments
-    std::size_t m_next = 0;
+    std::string m_text;     // as it was given: widened it would take four times as much
+    std::size_t m_rest = 0; // where the line after the next one begins
+    bool m_hasNext = false;
+    std::string_view m_next; // without blanks, in m_text
+    std::size_t m_nextNumber = 0;
     std::size_t m_line = 0;
     Printer m_printer;
     std::optional<Failure> m_failure;
