@@ -60,10 +60,12 @@ void ScriptSource::findNext() {
         while (line.ends_with('\r')) {
             line.remove_suffix(1);
         }
-        m_next = trimBlanks(line);
+        line = trimBlanks(line);
+        m_nextAt = static_cast<std::size_t>(line.data() - m_text.data());
+        m_nextSize = line.size();
         m_rest = end + 1;
         ++m_nextNumber;
-    } while (m_next.starts_with(';'));
+    } while (m_nextSize > 0 && m_text[m_nextAt] == ';');
 }
 
 std::optional<std::size_t> ScriptSource::firstLineThatIsNoUtf8(std::string_view text) {
@@ -87,7 +89,7 @@ PromptAnswer ScriptSource::ask(const PromptRequest& request) {
         end.echo = kCancel;
         return end;
     }
-    const std::wstring text = widen(m_next);
+    const std::wstring text = widen(std::string_view(m_text).substr(m_nextAt, m_nextSize));
     m_line = m_nextNumber;
     findNext();
     PromptAnswer answer = answerTo(request, text);

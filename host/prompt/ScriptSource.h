@@ -20,8 +20,6 @@ public:
     using Printer = std::function<void(const std::wstring&)>;
 
     ScriptSource(std::string_view utf8, Printer printer);
-    ScriptSource(const ScriptSource&) = delete;
-    ScriptSource& operator=(const ScriptSource&) = delete;
 
     // The line (from 1) of the first byte that makes the text no UTF-8; nothing when it is.
     static std::optional<std::size_t> firstLineThatIsNoUtf8(std::string_view text);
@@ -41,7 +39,8 @@ private:
     std::string m_text;     // as it was given: widened it would take four times as much
     std::size_t m_rest = 0; // where the line after the next one begins
     bool m_hasNext = false;
-    std::string_view m_next; // without blanks, in m_text
+    std::size_t m_nextAt = 0; // in m_text, without blanks
+    std::size_t m_nextSize = 0;
     std::size_t m_nextNumber = 0;
     std::size_t m_line = 0;
     Printer m_printer;
