@@ -134,9 +134,7 @@ void SelectDesk::commandEnded() {
     if (!m_kept.empty()) {
         memory.chosen = std::exchange(m_kept, {});
     }
-    const auto isGone = [](const KdDbStub* entity) { return entity->erased; };
-    std::erase_if(memory.chosen, isGone);
-    std::erase_if(memory.previous, isGone);
+    std::erase_if(memory.chosen, [](const KdDbStub* entity) { return entity->erased; });
     memory.chosenLines.clear(); // they might select others by now
     show();
     emit chosenChanged();

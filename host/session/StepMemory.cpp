@@ -9,13 +9,12 @@ namespace {
 struct Remembered {
     KdGePoint3d lastPoint;
     std::vector<KdDbStub*> chosen;
-    std::vector<KdDbStub*> previous;
 };
 
 } // namespace
 
 std::any StepMemory::state() const {
-    return Remembered{PromptSession::current().lastPoint, m_selection.chosen, m_selection.previous};
+    return Remembered{PromptSession::current().lastPoint, m_selection.chosen};
 }
 
 void StepMemory::restore(const std::any& state) {
@@ -25,10 +24,7 @@ void StepMemory::restore(const std::any& state) {
     }
     PromptSession::current().lastPoint = remembered->lastPoint;
     m_selection.chosen = remembered->chosen;
-    m_selection.previous = remembered->previous;
-    for (auto* const entities : {&m_selection.chosen, &m_selection.previous}) {
-        std::erase_if(*entities, [](const KdDbStub* entity) { return entity->erased; });
-    }
+    std::erase_if(m_selection.chosen, [](const KdDbStub* entity) { return entity->erased; });
 }
 
 } // namespace orvex

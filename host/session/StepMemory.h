@@ -5,8 +5,9 @@
 
 namespace orvex {
 
-// LASTPOINT and the selection go back and forth with the steps of undo; of a selection only what
-// the drawing has then.
+// LASTPOINT and what is selected go back and forth with the steps of undo; of a selection only what
+// the drawing has then. What the last command was given stays at hand as the previous selection, so
+// that it can be given to another one after an undo.
 class StepMemory final : public UndoCompanion {
 public:
     explicit StepMemory(SelectionMemory& selection) : m_selection(selection) {}
