@@ -73,16 +73,16 @@ std::optional<double> parseScale(const std::string& text) {
 }
 
 std::optional<double> unitMillimetres(const std::string& name) {
-    const auto found = std::find_if(kUnits.begin(), kUnits.end(),
-                                    [&](const Unit& unit) { return unit.name == name; });
+    const auto* const found = std::find_if(kUnits.begin(), kUnits.end(),
+                                           [&](const Unit& unit) { return unit.name == name; });
     return found != kUnits.end() && !name.empty() ? std::optional(found->millimetres)
                                                   : std::nullopt;
 }
 
 double unitMillimetres(int drawingUnit) {
-    const auto found = std::find_if(kUnits.begin(), kUnits.end(), [drawingUnit](const Unit& unit) {
-        return unit.number == drawingUnit;
-    });
+    const auto* const found =
+        std::find_if(kUnits.begin(), kUnits.end(),
+                     [drawingUnit](const Unit& unit) { return unit.number == drawingUnit; });
     return found != kUnits.end() ? found->millimetres : 1.0;
 }
 

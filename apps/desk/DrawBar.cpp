@@ -132,6 +132,7 @@ void DrawBar::fillBoxes() {
     });
     m_justification->setChoices([] {
         std::vector<ChoiceBox::Choice> choices;
+        choices.reserve(std::size(kJustifications));
         for (const Justification& each : kJustifications) {
             choices.push_back(plain(tr(each.text), QLatin1String(each.value)));
         }

@@ -21,10 +21,10 @@ QString scaleText(double scale) {
 
 } // namespace
 
-PropertyPanel::PropertyPanel(QWidget* parent) : QWidget(parent) {
+PropertyPanel::PropertyPanel(QWidget* parent)
+    : QWidget(parent), m_scale(new QLineEdit(this)), m_foot(new QLabel(this)) {
     auto* const form = new QFormLayout(this);
     m_style = addChoice("propertyStyle", tr("&Style"), QStringLiteral("STyle"), {}, {});
-    m_scale = new QLineEdit(this);
     m_scale->setObjectName(QStringLiteral("propertyScale"));
     form->addRow(tr("S&cale"), m_scale);
     connect(m_scale, &QLineEdit::editingFinished, this, &PropertyPanel::applyScale);
@@ -37,7 +37,6 @@ PropertyPanel::PropertyPanel(QWidget* parent) : QWidget(parent) {
                        {"None", "Start", "End", "Both"});
     m_closed = addChoice("propertyClosed", tr("C&hain"), QString(), {tr("Open"), tr("Closed")},
                          {"Open", "CLose"});
-    m_foot = new QLabel(this);
     m_foot->setObjectName(QStringLiteral("propertyFoot"));
     m_foot->setWordWrap(true);
     form->addRow(m_foot);

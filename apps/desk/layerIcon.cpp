@@ -13,7 +13,7 @@ QIcon layerIcon(const LayerChoice& layer, const QPalette& palette, double device
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor ink =
+    const QColor& ink =
         palette.color(layer.isHidden ? QPalette::Disabled : QPalette::Active, QPalette::WindowText);
     painter.setPen(QPen(ink, 1.0));
     painter.setBrush(QColor::fromRgb(layer.rgb));
