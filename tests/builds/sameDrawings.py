@@ -3,7 +3,7 @@
 
 usage: sameDrawings.py LIST PROGRAM PROGRAM...
 
-Each line of LIST names a drawing and a script, relative to the current folder; '#' begins a comment. The first program
+Each line of LIST names a drawing and a script, relative to LIST's folder; '#' begins a comment. The first program
 is the one that the others are compared with. A program has to say and to write the same, and to end alike.
 """
 
@@ -19,7 +19,7 @@ def read_list(path):
         words = line.split("#")[0].split()
         if words:
             drawing, script = words
-            runs.append((pathlib.Path(drawing), pathlib.Path(script)))
+            runs.append((path.parent / drawing, path.parent / script))
     return runs
 
 
