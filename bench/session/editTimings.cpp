@@ -9,56 +9,15 @@
 
 #include "DrawingFile.h"
 #include "ModuleLoader.h"
-#include "ScriptSource.h"
-#include "Session.h"
+#include "phases.h"
 
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <unistd.h>
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-[[noreturn]] void giveUp(const std::string& why) {
-    std::fprintf(stderr, "edit_timings: %s\n", why.c_str());
-    std::exit(1);
-}
-
-std::string contentOf(const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) {
-        giveUp("can't read " + path);
-    }
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-template <class Work>
-double secondsOf(Work&& work) {
-    const auto start = Clock::now();
-    work();
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-void play(orvex::Session& session, const std::string& path) {
-    orvex::ScriptSource script(contentOf(path), [](const std::wstring&) {});
-    session.setSource(&script);
-    while (!script.atEnd()) {
-        const std::wstring command = session.askCommand();
-        if (!command.empty() && session.run(command)) {
-            giveUp("can't play " + path);
-        }
-    }
-    session.setSource(nullptr);
-    if (script.failure()) {
-        giveUp("an answer in " + path + " fits no prompt");
-    }
-}
+using namespace orvex::bench;
 
 void writeAndFlush(const std::string& path, const std::string& bytes) {
     const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);

@@ -11,52 +11,18 @@
 #include "KdDbEntity.h"
 #include "KdDbMline.h"
 #include "ModuleLoader.h"
-#include "ScriptSource.h"
-#include "Session.h"
 #include "mlineEdits.h"
+#include "phases.h"
 #include "vertexEdits.h"
-
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
-#include <string>
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using namespace orvex::bench;
 
-[[noreturn]] void giveUp(const std::string& why) {
-    std::fprintf(stderr, "change_timings: %s\n", why.c_str());
-    std::exit(1);
-}
-
-template <class Work>
-double secondsOf(Work&& work) {
-    const auto start = Clock::now();
-    work();
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-void play(orvex::Session& session, const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(stream), {}};
-    orvex::ScriptSource script(text, [](const std::wstring& line) {
-        if (line.find(L" of ") != std::wstring::npos) {
-            std::fprintf(stderr, "%ls\n", line.c_str());
-        }
-    });
-    session.setSource(&script);
-    while (!script.atEnd()) {
-        const std::wstring command = session.askCommand();
-        if (!command.empty() && session.run(command)) {
-            giveUp("can't play " + path);
-        }
-    }
-    session.setSource(nullptr);
-    if (text.empty() || script.failure()) {
-        giveUp("an answer in " + path + " fits no prompt");
+// What the commands say of how many multilines they changed.
+void printCounts(const std::wstring& line) {
+    if (line.find(L" of ") != std::wstring::npos) {
+        std::fprintf(stderr, "%ls\n", line.c_str());
     }
 }
 
@@ -104,9 +70,9 @@ int main(int argc, char** argv) {
     orvex::Session session(std::move(setup), modules);
     (void)session.view(); // the drawing is shown
 
-    const double move = secondsOf([&] { play(session, argv[2]); });
+    const double move = secondsOf([&] { play(session, argv[2], printCounts); });
     const double ghost = secondsOfGhost(session);
-    const double restyle = secondsOf([&] { play(session, argv[3]); });
+    const double restyle = secondsOf([&] { play(session, argv[3], printCounts); });
     const double save = secondsOf([&] {
         if (session.drawing().save(argv[4])) {
             giveUp("can't save");
