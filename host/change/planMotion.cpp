@@ -92,13 +92,12 @@ PlanMotion turnAbout(const KdGePoint3d& base, const KdGeVector3d& axis, double d
 
 Result<PlanMotion> mirrorAt(const KdGePoint3d& first, const KdGePoint3d& second,
                             const KdGeVector3d& normal) {
-    KdGeVector3d way = second - first;
-    const double length = way.length();
-    if (!std::isfinite(length) || way.isZeroLength()) {
+    KdGeVector3d across = cross(normal, second - first);
+    const double length = across.length();
+    if (!std::isfinite(length) || across.isZeroLength()) {
         return impossible("the mirror line has no length");
     }
-    way = way * (1.0 / length);
-    const KdGeVector3d across = cross(normal, way);
+    across = across * (1.0 / length);
     const auto mirror = [&across](const KdGeVector3d& v) {
         return withPlainZeros(v - across * (2.0 * dot(across, v)));
     };

@@ -20,7 +20,7 @@ PlanMotion shiftBy(const KdGeVector3d& shift);
 // axis.
 PlanMotion turnAbout(const KdGePoint3d& base, const KdGeVector3d& axis, double degrees);
 // In the plane through two points along `normal`, which has length 1. Refuses a line without
-// length.
+// length, seen along it.
 Result<PlanMotion> mirrorAt(const KdGePoint3d& first, const KdGePoint3d& second,
                             const KdGeVector3d& normal);
 

@@ -45,9 +45,18 @@ std::optional<Failure> objectionTo(const MlineContent& mline, const StyleLayout&
     return frame ? std::nullopt : std::optional(frame.failure());
 }
 
+// Above or below the place, so that it is where the plan shows it; in a plane that stands upright
+// the nearest one.
 KdGePoint3d inPlaneOf(const MlineContent& mline, const KdGePoint3d& place) {
+    constexpr double kUpright = 1e-6; // sine
     const double height = dot(place - mline.vertices.front().position, mline.normal);
-    return height == 0.0 ? place : place + mline.normal * -height;
+    if (height == 0.0) {
+        return place;
+    }
+    if (std::abs(mline.normal.z) < kUpright) {
+        return place + mline.normal * -height;
+    }
+    return {place.x, place.y, place.z - height / mline.normal.z};
 }
 
 bool isWithin(double begin, double end, double length) {

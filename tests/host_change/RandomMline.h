@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geometry.h"
 #include "newChain.h"
 
 #include <cmath>
@@ -8,7 +9,7 @@
 namespace orvex::testing {
 
 // Random multilines that lie right: open and closed, bent by 20 degrees and more, with gaps, any
-// justification, style angles and normals, near and far from the origin.
+// justification, style angles and normals (up, down, tilted), near and far from the origin.
 class RandomMline {
 public:
     explicit RandomMline(unsigned seed) : m_random(seed) {}
@@ -39,9 +40,9 @@ public:
         content.scale = settings.scale;
         content.justification = settings.justification;
         content.closed = upTo(2) == 0;
-        content.normal = {0.0, 0.0, upTo(1) == 0 ? 1.0 : -1.0};
-        const NewChain chain =
-            makeNewChain(points(content.closed), content.closed, content.normal, settings);
+        content.normal = normal();
+        const NewChain chain = makeNewChain(points(content.closed, content.normal), content.closed,
+                                            content.normal, settings);
         content.vertices = chain.vertices;
         for (unsigned v = 0; v < chain.vertices.size(); ++v) {
             VoVector<KdMLSegment> record;
@@ -54,8 +55,39 @@ public:
         return content;
     }
 
+    // Up to `reach` along both axes of the multiline's plane.
+    KdGeVector3d inPlaneOf(const MlineContent& mline, double reach) {
+        const PlaneAxes axes = arbitraryAxes(mline.normal);
+        return axes.x * between(-reach, reach) + axes.y * between(-reach, reach);
+    }
+
 private:
-    std::vector<KdGePoint3d> points(bool closed) {
+    KdGeVector3d normal() {
+        switch (upTo(3)) {
+        case 0:
+            return KdGeVector3d{between(-1.0, 1.0), between(-1.0, 1.0), between(0.2, 1.0)}
+                .normalize();
+        case 1:
+            return {0.0, 0.0, -1.0};
+        default:
+            return {0.0, 0.0, 1.0};
+        }
+    }
+
+    // At height 5 over the origin, in the plane square to the normal.
+    std::vector<KdGePoint3d> points(bool closed, const KdGeVector3d& normal) {
+        std::vector<KdGePoint3d> flat = flatPoints(closed);
+        if (std::abs(normal.z) == 1.0) {
+            return flat;
+        }
+        const PlaneAxes axes = arbitraryAxes(normal);
+        for (KdGePoint3d& point : flat) {
+            point = KdGePoint3d() + axes.x * point.x + axes.y * point.y + normal * point.z;
+        }
+        return flat;
+    }
+
+    std::vector<KdGePoint3d> flatPoints(bool closed) {
         const double far = upTo(1) == 0 ? 0.0 : 1e5;
         const unsigned count = 3 + upTo(3);
         if (closed) { // around a middle, so that no corner is too acute

@@ -3,6 +3,7 @@
 #include "DrawnPlaces.h"
 #include "RandomMline.h"
 #include "auditMline.h"
+#include "geometry.h"
 
 #include <gmock/gmock.h>
 
@@ -27,8 +28,7 @@ std::vector<double> gapEnds(const MlineContent& mline, unsigned segments) {
             const auto list = chain.line(s, e);
             for (std::size_t i = 2; i < list.size(); ++i) {
                 const KdGeVector3d way = track.at(list[i]) - chain.vertex(s).position;
-                const KdGeVector3d& axis = chain.vertex(s).axis;
-                ends.push_back(way.x * axis.x + way.y * axis.y);
+                ends.push_back(dot(way, chain.vertex(s).axis));
             }
         }
     }

@@ -74,7 +74,7 @@ TEST(LayRight, putsRightWhatWasDisturbedAndLeavesGapsWhereTheyLie) {
         const bool isInner = mline.closed || (vertex > 0 && vertex + 1 < mline.vertices.size());
         if (isInner) {
             KdGeVector3d& miter = damaged.vertices[vertex].miter;
-            miter = {miter.x - 0.1 * miter.y, miter.y + 0.1 * miter.x, 0.0};
+            miter = miter + cross(mline.normal, miter) * 0.1;
         }
         const auto findings = auditMline(damaged, &style);
         const auto isAt = [&](FindingCode code, std::optional<unsigned> at) {

@@ -23,17 +23,18 @@ struct ThereAndBack {
     PlanMotion back;
 };
 
-ThereAndBack randomMotion(RandomMline& random, unsigned kind) {
+ThereAndBack randomMotion(RandomMline& random, unsigned kind, const KdGeVector3d& normal) {
     const KdGePoint3d base{random.between(-50, 50), random.between(-50, 50), 0.0};
-    const KdGePoint3d other{random.between(60, 150), random.between(60, 150), 0.0};
+    const KdGePoint3d other{random.between(60, 150), random.between(60, 150),
+                            random.between(-20, 20)};
     const double degrees = random.between(-400, 400);
     if (kind == 0) {
         return {shiftBy(other - base), shiftBy(base - other)};
     }
     if (kind == 1) {
-        return {turnAbout(base, kUp, degrees), turnAbout(base, kUp, -degrees)};
+        return {turnAbout(base, normal, degrees), turnAbout(base, normal, -degrees)};
     }
-    return {*mirrorAt(base, other, kUp), *mirrorAt(other, base, kUp)};
+    return {*mirrorAt(base, other, normal), *mirrorAt(other, base, normal)};
 }
 
 // Where a motion takes a point, by the definition of the three.
@@ -47,7 +48,7 @@ TEST(PlanMotion, takesAllThatIsDrawnAlongAndBack) {
     for (unsigned i = 0; i < kMlines; ++i) {
         const StyleLayout style = random.style();
         const MlineContent mline = random.mline(style);
-        const ThereAndBack motion = randomMotion(random, i % 3);
+        const ThereAndBack motion = randomMotion(random, i % 3, mline.normal);
         const auto moved = movedBy(mline, motion.there);
         ASSERT_TRUE(moved) << i;
         ASSERT_THAT(auditMline(*moved, &style), ::testing::IsEmpty()) << i;
@@ -102,6 +103,7 @@ TEST(PlanMotion, isExactForWholeNumbersAndQuarters) {
 TEST(PlanMotion, isRefusedWhereNothingWouldBeLeftOfTheShape) {
     const MlineContent mline = plain();
     EXPECT_FALSE(mirrorAt({1, 1, 0}, {1, 1, 0}, kUp));
+    EXPECT_FALSE(mirrorAt({1, 1, 0}, {1, 1, 7}, kUp));
     EXPECT_FALSE(movedBy(mline, shiftBy({1e300, 0, 0})));
     EXPECT_FALSE(movedBy(mline, shiftBy({std::numeric_limits<double>::infinity(), 0, 0})));
     EXPECT_FALSE(movedBy(mline, turnAbout({0, 0, 0}, {1, 0, 0}, 90.0)));

@@ -1,6 +1,7 @@
 #include "DrawnPlaces.h"
 #include "RandomMline.h"
 #include "auditMline.h"
+#include "geometry.h"
 #include "reverse.h"
 #include "stretch.h"
 
@@ -16,7 +17,7 @@ using orvex::testing::RandomMline;
 constexpr unsigned kMlines = 2000;
 
 bool isBefore(const KdGePoint3d& a, const KdGePoint3d& b) {
-    return a.x != b.x ? a.x < b.x : a.y < b.y;
+    return a.x != b.x ? a.x < b.x : a.y != b.y ? a.y < b.y : a.z < b.z;
 }
 
 TEST(Reverse, looksTheSameAndLeadsBack) {
@@ -54,7 +55,7 @@ TEST(Stretch, keepsOffsetsAndTakesOnlyGapsOfWholeSegmentsAlong) {
             }
             return false;
         };
-        const KdGeVector3d shift{random.between(-8, 8), random.between(-8, 8), 0.0};
+        const KdGeVector3d shift = random.inPlaneOf(mline, 8);
         const auto result = stretched(mline, style, isChosen, shift);
         ASSERT_TRUE(result) << i;
         ASSERT_THAT(auditMline(*result, &style), ::testing::IsEmpty()) << i;
@@ -72,8 +73,7 @@ TEST(Stretch, keepsOffsetsAndTakesOnlyGapsOfWholeSegmentsAlong) {
                 for (std::size_t g = 2; g < before.size(); ++g) {
                     const KdGeVector3d off =
                         track.at(after[g]) - (was.track(s, e).at(before[g]) + moved);
-                    const double along = off.x * track.direction.x + off.y * track.direction.y;
-                    ASSERT_NEAR(along, 0.0, 1e-9) << i << " segment " << s;
+                    ASSERT_NEAR(dot(off, track.direction), 0.0, 1e-9) << i << " segment " << s;
                 }
             }
         }

@@ -18,10 +18,6 @@ using orvex::testing::RandomMline;
 
 constexpr unsigned kMlines = 2000;
 
-KdGePoint3d nearTo(const KdGePoint3d& place, RandomMline& random, double reach) {
-    return place + KdGeVector3d{random.between(-reach, reach), random.between(-reach, reach), 0.0};
-}
-
 // Elements keep their offsets, and gaps of segments that don't turn stay to the last digit; those
 // of segments that do lie on the line square to the middle of both directions.
 TEST(VertexMoved, keepsOffsetsAndGapsAndLeadsBack) {
@@ -31,11 +27,14 @@ TEST(VertexMoved, keepsOffsetsAndGapsAndLeadsBack) {
         const MlineContent mline = random.mline(style);
         const unsigned vertex = random.upTo(static_cast<unsigned>(mline.vertices.size()) - 1);
         const KdGePoint3d from = mline.vertices[vertex].position;
-        KdGePoint3d to = nearTo(from, random, 8.0);
-        to.z += random.between(-5.0, 5.0); // the chain stays in its plane
+        const KdGePoint3d inPlane = from + random.inPlaneOf(mline, 8.0);
+        KdGePoint3d to = inPlane;
+        to.z +=
+            random.between(-5.0, 5.0); // it stays in its plane, in the place that the plan shows
         const auto result = withVertexMoved(mline, style, vertex, to);
         ASSERT_TRUE(result) << i;
         ASSERT_EQ(result->lostGaps, 0U);
+        ASSERT_LT((result->mline.vertices[vertex].position - inPlane).length(), 1e-9) << i;
         ASSERT_THAT(auditMline(result->mline, &style), ::testing::IsEmpty()) << i;
         const MlineChain was(mline);
         const MlineChain is(result->mline);
@@ -72,7 +71,8 @@ TEST(VertexAdded, andRemovedLeadsBack) {
         const KdGePoint3d start = chain.vertex(segment).position;
         const KdGeVector3d way = chain.vertex(chain.next(segment)).position - start;
         const KdGePoint3d middle = start + way * random.between(0.1, 0.9);
-        const auto added = withVertexAdded(mline, style, segment, nearTo(middle, random, 5.0));
+        const auto added =
+            withVertexAdded(mline, style, segment, middle + random.inPlaneOf(mline, 5.0));
         ASSERT_TRUE(added) << i;
         ASSERT_EQ(added->mline.vertices.size(), mline.vertices.size() + 1);
         ASSERT_EQ(added->mline.closed, mline.closed);
