@@ -42,7 +42,7 @@ bool PlainContent::equals(const ObjectContent& other) const {
         return true;
     }
     const auto* const that = dynamic_cast<const PlainContent*>(&other);
-    if (that == nullptr || shape.index() != that->shape.index() ||
+    if (that == nullptr || shape.index() != that->shape.index() || replaces != that->replaces ||
         !sameOptionalTraits(traits.get(), that->traits.get())) {
         return false;
     }

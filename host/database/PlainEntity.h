@@ -3,6 +3,7 @@
 #include "EntityShape.h"
 #include "EntityTraits.h"
 #include "KdDbEntity.h"
+#include "KdDbObjectId.h"
 #include "ObjectContent.h"
 
 #include <memory>
@@ -16,6 +17,9 @@ struct PlainContent final : ObjectContent {
     // a SolidShape.
     EntityShape shape;
     KdGeVector3d normal{0.0, 0.0, 1.0}; // unit; of the plane that arcs and areas lie in
+    // What it was made of; once that is erased, this is in its groups and its place of the drawing
+    // order. May be null.
+    KdDbObjectId replaces;
 
     [[nodiscard]] bool equals(const ObjectContent& other) const override;
     [[nodiscard]] std::size_t memoryUse() const override;

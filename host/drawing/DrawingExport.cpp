@@ -64,7 +64,9 @@ public:
 
 private:
     void exportMline(const KdDbStub& mline, const MlineContent& content);
-    void addParts(TagText& text, std::vector<PlainContent>& parts, EntityPlace place);
+    // `gone` is what they stand for themselves; null where an insert does.
+    void addParts(TagText& text, std::vector<PlainContent>& parts, EntityPlace place,
+                  const KdDbStub* gone);
     void addInsert(TagText& text, const KdDbStub& mline, const EntityTraits& traits,
                    std::vector<PlainContent>& parts, EntityPlace place);
     std::string addBlock(const KdDbStub& mline, std::vector<PlainContent>& parts);
@@ -128,7 +130,7 @@ void DrawingExporter::exportMline(const KdDbStub& mline, const MlineContent& con
     const RecordSpan span = m_document.span(mline.record);
     TagText text(TagFormat::of(m_document.bytes, span.begin));
     if (m_how.form == ExportForm::lines) {
-        addParts(text, *parts, place);
+        addParts(text, *parts, place, &mline);
     } else {
         addInsert(text, mline, *content.traits, *parts, place);
     }
@@ -137,10 +139,14 @@ void DrawingExporter::exportMline(const KdDbStub& mline, const MlineContent& con
     ++m_exported;
 }
 
-void DrawingExporter::addParts(TagText& text, std::vector<PlainContent>& parts, EntityPlace place) {
+void DrawingExporter::addParts(TagText& text, std::vector<PlainContent>& parts, EntityPlace place,
+                               const KdDbStub* gone) {
     for (const PlainContent& part : parts) {
         place.handle = m_handles.take();
         writePlain(text, m_context, part, place);
+        if (gone != nullptr) {
+            m_gone.noteReplacement(gone->handle, place.handle, place.owner);
+        }
     }
 }
 
@@ -148,6 +154,7 @@ void DrawingExporter::addInsert(TagText& text, const KdDbStub& mline, const Enti
                                 std::vector<PlainContent>& parts, EntityPlace place) {
     const std::string name = addBlock(mline, parts);
     place.handle = m_handles.take();
+    m_gone.noteReplacement(mline.handle, place.handle, place.owner);
     writeCommonPart(text, m_context, "INSERT", &traits, place);
     if (!m_context.isOld) {
         text.add(100, "AcDbBlockReference");
@@ -183,7 +190,7 @@ std::string DrawingExporter::addBlock(const KdDbStub& mline, std::vector<PlainCo
         traits.visible = true;
         part.traits = shareTraits(traits);
     }
-    addParts(m_blocks, parts, {0, record, false});
+    addParts(m_blocks, parts, {0, record, false}, nullptr);
     writeCommonPart(m_blocks, m_context, "ENDBLK", &onLayer, {m_handles.take(), record, false});
     if (!m_context.isOld) {
         m_blocks.add(100, "AcDbBlockEnd");

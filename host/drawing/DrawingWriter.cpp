@@ -53,6 +53,7 @@ private:
     void collectVariables();
     void edit(KdDbStub& stub);
     void drop(const KdDbStub& stub);
+    void noteReplacements();
     [[nodiscard]] bool isUntouched(const KdDbStub& stub) const;
     void replace(const KdDbStub& stub, const std::optional<std::string>& text);
 
@@ -98,6 +99,7 @@ std::vector<FileEdit> DrawingWriter::run(std::vector<DrawingWarning>& warnings) 
     writeEntities();
     writeObjects();
     writeHeader();
+    noteReplacements();
     m_gone.settle(m_layout, warnings);
     return m_layout.takeEdits();
 }
@@ -158,6 +160,18 @@ void DrawingWriter::drop(const KdDbStub& stub) {
         m_droppedTableRecords.push_back(&stub);
     } else if (stub.kind == ObjectKind::mline || stub.kind == ObjectKind::entity) {
         m_gone.note(stub.record);
+    }
+}
+
+// Once what is new has its handle.
+void DrawingWriter::noteReplacements() {
+    for (KdDbStub* const stub : m_new) {
+        const auto* const plain = contentOf<PlainContent>(*stub);
+        const KdDbStub* const gone = plain != nullptr ? plain->replaces.stub() : nullptr;
+        if (gone != nullptr && gone->erased && gone->record != kNoRecord) {
+            m_gone.noteReplacement(gone->handle, stub->handle,
+                                   ownerHandle(m_core.blocks().blockOf(*stub)->record));
+        }
     }
 }
 

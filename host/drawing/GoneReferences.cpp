@@ -43,6 +43,19 @@ void GoneReferences::note(std::uint32_t record) {
     }
 }
 
+void GoneReferences::noteReplacement(std::uint64_t gone, std::uint64_t replacement,
+                                     std::uint64_t block) {
+    Replacements& replacements = m_replacements[gone];
+    replacements.block = block;
+    replacements.entities.push_back(replacement);
+}
+
+const std::vector<std::uint64_t>& GoneReferences::replacementsOf(std::uint64_t gone) const {
+    static const std::vector<std::uint64_t> kNone;
+    const auto found = m_replacements.find(gone);
+    return found != m_replacements.end() ? found->second.entities : kNone;
+}
+
 void GoneReferences::settle(FileLayout& layout, std::vector<DrawingWarning>& warnings) {
     if (m_entities.empty()) {
         return;
@@ -99,8 +112,8 @@ GoneReferences::Reading GoneReferences::settleGroup(std::uint32_t record, FileLa
     const RecordSpan span = m_document.span(record);
     RecordEdit edit(m_document.bytes, span.begin, span.end);
     const std::vector<Tag>& tags = edit.tags();
-    std::size_t members = 0;
-    std::size_t removed = 0;
+    std::size_t left = 0;
+    bool isConcerned = false;
     bool isReadable = true;
     for (std::size_t i = 1; i < tags.size(); i = skipGroup(tags, i)) {
         if (tags[i].code != kMember) {
@@ -108,19 +121,24 @@ GoneReferences::Reading GoneReferences::settleGroup(std::uint32_t record, FileLa
         }
         const auto member = parseHandle(tags[i].value);
         isReadable = isReadable && member.has_value();
-        ++members;
-        if (member && isGone(*member)) {
-            edit.remove(i);
-            ++removed;
+        if (!member || !isGone(*member)) {
+            ++left;
+            continue;
+        }
+        isConcerned = true;
+        edit.remove(i);
+        for (const std::uint64_t replacement : replacementsOf(*member)) {
+            edit.insertAfter(i, edit.lines(i, handleText(replacement)));
+            ++left;
         }
     }
-    if (removed == 0) {
+    if (!isConcerned) {
         return Reading::unconcerned;
     }
     if (!isReadable) {
         return Reading::unreadable;
     }
-    if (removed < members) {
+    if (left > 0) {
         layout.replace(span, edit.text());
     } else {
         dropGroup(record, layout);
@@ -157,27 +175,52 @@ void GoneReferences::dropEntries(FileLayout& layout) {
     }
 }
 
+// An entity that the table doesn't name has the place that its own handle gives it; entities may
+// share a place.
 GoneReferences::Reading GoneReferences::settleSortTable(std::uint32_t record, FileLayout& layout) {
     constexpr int kEntity = 331;
     constexpr int kPlace = 5;
+    constexpr int kBlock = 330;
     const RecordSpan span = m_document.span(record);
     RecordEdit edit(m_document.bytes, span.begin, span.end);
     const std::vector<Tag>& tags = edit.tags();
     bool isConcerned = false;
     bool isReadable = true;
+    std::uint64_t block = 0; // the last such handle; the one before is the table's owner
+    std::size_t lastPair = 0;
+    std::unordered_set<std::uint64_t> placed;
+    const auto insert = [&](std::size_t pair, std::uint64_t gone, std::string_view place) {
+        for (const std::uint64_t replacement : replacementsOf(gone)) {
+            edit.insertAfter(pair + 1, edit.lines(pair, handleText(replacement)) +
+                                           edit.lines(pair + 1, place));
+        }
+    };
     for (std::size_t i = 1; i < tags.size(); i = skipGroup(tags, i)) {
+        if (tags[i].code == kBlock) {
+            block = parseHandle(tags[i].value).value_or(0);
+        }
         if (tags[i].code != kEntity) {
             continue;
         }
         const auto entity = parseHandle(tags[i].value);
         const bool isPair = i + 1 < tags.size() && tags[i + 1].code == kPlace;
         isReadable = isReadable && entity && isPair;
+        lastPair = isPair ? i : lastPair;
         if (entity && isGone(*entity)) {
             isConcerned = true;
             edit.remove(i);
             if (isPair) {
                 edit.remove(i + 1);
+                insert(i, *entity, tags[i + 1].value);
+                placed.insert(*entity);
             }
+        }
+    }
+    for (const auto& [gone, replacements] : m_replacements) {
+        if (lastPair != 0 && block != 0 && replacements.block == block && isGone(gone) &&
+            !placed.contains(gone)) {
+            isConcerned = true;
+            insert(lastPair, gone, handleText(gone));
         }
     }
     if (!isConcerned) {

@@ -27,6 +27,7 @@ bool explode(KdDbStub& mline, MlineExploder& exploder) {
         return false;
     }
     for (PlainContent& part : *parts) {
+        part.replaces = KdDbObjectId(&mline);
         auto entity = std::make_unique<PlainEntity>();
         entity->setContent(std::make_shared<PlainContent>(std::move(part)));
         addEntity(mline, std::move(entity));

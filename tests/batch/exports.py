@@ -181,10 +181,14 @@ class Exports:
         return path, mlines
 
     # All multilines of the plan stand for themselves as entities on their layers, in each of three spaces.
+    # Every other plan is a binary one.
     def random_plans(self, seeds):
         for seed in seeds:
             path, mlines = self.random_plan(seed)
             first = int(re.search(r"\$HANDSEED\s+5\s+(\w+)", path.read_text()).group(1), 16)
+            if seed % 2:
+                text, path = path, path.with_stem(f"binary{seed}")
+                self.expect("converted", call(self.program, "convert", text, "--to", "binary", "--output", path).returncode, 0)
             for form in ("lines", "blocks"):
                 run = call(self.program, "export", path, "--output", self.out, "--as", form)
                 self.expect(f"status of {seed}, {form}: {run.stderr}", (run.returncode, run.stderr), (0, ""))
@@ -224,29 +228,36 @@ class Exports:
         self.expect("gone", gone, {"MLINE", "SECTION"})
         self.expect("new", new - {"ARC"}, {"LINE", "SOLID", "SECTION"})
 
-    # Groups, tables of drawing order and extension dictionaries don't name what was erased.
+    # Groups, tables of drawing order and extension dictionaries don't name what was erased, but what stands for it.
     def references(self):
         path = self.folder / "references.dxf"
         document = ezdxf.new("R2000")
         space = document.modelspace()
-        first, second = space.add_mline([(0, 0), (10, 0)]), space.add_mline([(0, 5), (10, 5)])
+        first, second = (space.add_mline([(0, y), (10, y)], dxfattribs={"layer": f"Y{y}"}) for y in (0, 5))
         other = space.add_line((0, 9), (10, 9))
         document.groups.new("BOTH").extend([first, other])
         document.groups.new("ALONE").extend([first])
         space.set_redraw_order([(first.dxf.handle, "FF"), (other.dxf.handle, "FE")])
         second.new_extension_dict().add_xrecord("MINE")
         document.saveas(path)
-        for arguments in (("run", path, "--script", "-", "--output", self.out), ("export", path, "--output", self.out),
-                          ("export", path, "--output", self.out, "--as", "blocks")):
-            run = call(self.program, *arguments, script="ERASE\nSTYLE\nStandard\n\n" if arguments[0] == "run" else None)
+        script, many = ("run", path, "--script", "-"), "STYLE\nStandard\n\n"
+        for arguments, lines in ((script, "ERASE\n" + many), (script, "MLEXPLODE\n" + many), (("export", path), None),
+                                 (("export", path, "--as", "blocks"), None)):
+            run = call(self.program, *arguments, "--output", self.out, script=lines)
             self.expect(f"{arguments[0]}", (run.returncode, run.stderr), (0, ""))
             result = ezdxf.readfile(self.out)
             self.expect(f"audit after {arguments[0]}", audited(result), 0)
-            self.expect("groups", [name for name, _ in result.groups], ["BOTH"])
+            parts = [[part.dxf.handle for part in result.modelspace() if part.dxf.layer == f"Y{y}"] for y in (0, 5)]
+            self.expect("parts", all(parts), lines is None or not lines.startswith("ERASE"))
+            groups = {"BOTH": [*parts[0], other.dxf.handle], "ALONE": parts[0]}
+            self.expect("groups", {name: sorted(member.dxf.handle for member in group) for name, group in result.groups},
+                        {name: sorted(members) for name, members in groups.items() if members})
             text = self.out.read_text()
             for handle in (first.dxf.handle, second.dxf.handle):
                 self.expect(f"names of {handle}", re.findall(rf"(?m)^(?:340|331|330)\n{handle}$", text), [])
-            self.expect("order", re.findall(r"(?m)^331\n(\w+)\n  5\n(\w+)$", text), [(other.dxf.handle, "FE")])
+            order = [*((part, "FF") for part in parts[0]), (other.dxf.handle, "FE"),
+                     *((part, second.dxf.handle) for part in parts[1])]
+            self.expect("order", re.findall(r"(?m)^331\n(\w+)\n  5\n(\w+)$", text), order)
         play(self.program, path, "ERASE\nALL\n\nU\n", self.out)
         self.expect("bytes after U", self.out.read_bytes() == path.read_bytes(), True)
         broken = self.folder / "broken.dxf"
