@@ -8,6 +8,8 @@
 
 #include <QPixmap>
 
+#include <algorithm>
+
 using namespace mledit;
 
 namespace VOUI {
@@ -18,6 +20,7 @@ CMLEditDialog::CMLEditDialog(QWidget* parent, CWnd* logic)
     for (const ToolRow& row : kTools) {
         findChild<QPushButton*>(row.button)->setIcon(QPixmap(row.picture));
     }
+    widenColumns();
     connectButtons();
     if (auto* const palette = dynamic_cast<::CMLEditDialog*>(logic)) {
         palette->SetHandle(this);
@@ -27,6 +30,36 @@ CMLEditDialog::CMLEditDialog(QWidget* parent, CWnd* logic)
 }
 
 CMLEditDialog::~CMLEditDialog() = default;
+
+// Captions of equal width, with the gaps between them, stand under their pictures. What a large
+// font adds to a caption is added to the gaps between the pictures, and a half at both ends.
+void CMLEditDialog::widenColumns() {
+    const QList<QLabel*> captions = m_layout->groupBox->findChildren<QLabel*>();
+    int more = 0;
+    for (const QLabel* const caption : captions) {
+        more = std::max(more, caption->sizeHint().width() - caption->minimumWidth());
+    }
+    more += more % 2;
+    for (QLabel* const caption : captions) {
+        caption->setMinimumWidth(caption->minimumWidth() + more);
+    }
+    for (QHBoxLayout* const pictures :
+         {m_layout->horizontalLayout, m_layout->horizontalLayout_3, m_layout->horizontalLayout_5}) {
+        for (int index = 0; index < pictures->count(); index += 2) {
+            QSpacerItem& gap = *pictures->itemAt(index)->spacerItem();
+            const bool isEnd = index == 0 || index == pictures->count() - 1;
+            gap.changeSize(gap.sizeHint().width() + (isEnd ? more / 2 : more), 0,
+                           isEnd ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+        }
+        pictures->invalidate();
+    }
+    // Nor is the sentence above them any wider.
+    const int width = m_layout->groupBox->sizeHint().width();
+    if (m_layout->label->sizeHint().width() > width) {
+        m_layout->label->setWordWrap(true);
+        m_layout->label->setFixedWidth(width);
+    }
+}
 
 void CMLEditDialog::connectButtons() {
     const auto onClick = [this](QPushButton* button, void (CMLEditDialog::*slot)()) {

@@ -36,6 +36,7 @@ private slots:
     void OnClose();
 
 private:
+    void widenColumns();
     void connectButtons();
     void registerButtons(::CMLEditDialog& logic);
     void notify(void (::CMLEditDialog::*handler)());

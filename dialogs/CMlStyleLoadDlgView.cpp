@@ -3,6 +3,7 @@
 #include "CMlStyleLoadDlg.h"
 #include "controlNumbers.h"
 #include "dialogWindow.h"
+#include "roomForText.h"
 #include "ui_CMlStyleLoadDlg.h"
 
 using namespace mledit;
@@ -12,6 +13,7 @@ namespace VOUI {
 CMlStyleLoadDlg::CMlStyleLoadDlg(QWidget* parent, CWnd* logic)
     : QBaseDialog(parent), m_layout(std::make_unique<Ui_CMlStyleLoadDlg>()) {
     m_layout->setupUi(this);
+    makeRoomForText(*this);
     connect(m_layout->pBtnFile, &QPushButton::clicked, this, &CMlStyleLoadDlg::OnLoadFileStyle);
     connect(m_layout->listWidget, &QListWidget::itemDoubleClicked, this,
             &CMlStyleLoadDlg::OnDbClick);

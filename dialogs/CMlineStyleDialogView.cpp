@@ -4,6 +4,7 @@
 #include "controlNumbers.h"
 #include "dialogWindow.h"
 #include "elidedLabel.h"
+#include "roomForText.h"
 #include "ui_CMlineStyleDialog.h"
 
 using namespace mledit;
@@ -14,6 +15,7 @@ CMlineStyleDialog::CMlineStyleDialog(QWidget* parent, CWnd* logic)
     : QBaseDialog(parent), m_layout(std::make_unique<Ui_CMlineStyleDialog>()) {
     m_layout->setupUi(this); // connects the slot of the close button by its name
     elideLabel(*m_layout->labelCurrentMultilineStyleResult);
+    makeRoomForText(*this);
     connectWidgets();
     auto* const dialog = dynamic_cast<::CMlineStyleDialog*>(logic);
     if (dialog == nullptr) {

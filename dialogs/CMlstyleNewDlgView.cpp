@@ -3,7 +3,10 @@
 #include "CMlstyleNewDlg.h"
 #include "controlNumbers.h"
 #include "dialogWindow.h"
+#include "roomForText.h"
 #include "ui_CMlstyleNewDlg.h"
+
+#include <algorithm>
 
 using namespace mledit;
 
@@ -12,6 +15,8 @@ namespace VOUI {
 CMlstyleNewDlg::CMlstyleNewDlg(QWidget* parent, CWnd* logic)
     : QBaseDialog(parent), m_layout(std::make_unique<Ui_CMlstyleNewDlg>()) {
     m_layout->setupUi(this); // which connects the buttons by the names of their slots
+    widenCaptions();
+    makeRoomForText(*this);
     connect(m_layout->lineEditNewStyleName, &QLineEdit::textChanged, this,
             &CMlstyleNewDlg::OnEnterName);
 
@@ -28,6 +33,22 @@ CMlstyleNewDlg::CMlstyleNewDlg(QWidget* parent, CWnd* logic)
 }
 
 CMlstyleNewDlg::~CMlstyleNewDlg() = default;
+
+// Both are drawn with the same fixed width, in which they take two lines at most.
+void CMlstyleNewDlg::widenCaptions() {
+    QLabel* const captions[] = {m_layout->labelNewStyleName, m_layout->labelStartWith};
+    int width = captions[0]->minimumWidth();
+    for (const QLabel* const caption : captions) {
+        const QFontMetrics metrics = caption->fontMetrics();
+        if (2 * caption->heightForWidth(caption->minimumWidth()) > 5 * metrics.lineSpacing()) {
+            width = std::max(width, metrics.horizontalAdvance(caption->text()) + 1);
+        }
+    }
+    resize(this->width() + width - captions[0]->minimumWidth(), height());
+    for (QLabel* const caption : captions) {
+        caption->setFixedWidth(width);
+    }
+}
 
 void CMlstyleNewDlg::OnEnterName() {
     if (auto* const logic = logicOf<::CMlstyleNewDlg>(this)) {

@@ -24,6 +24,7 @@ private slots:
     void on_pBtnContinue_clicked(); // the logic's OnOK
 
 private:
+    void widenCaptions();
     std::unique_ptr<Ui_CMlstyleNewDlg> m_layout;
 };
 

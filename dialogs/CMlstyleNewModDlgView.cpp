@@ -3,6 +3,8 @@
 #include "CMlstyleNewModDlg.h"
 #include "controlNumbers.h"
 #include "dialogWindow.h"
+#include "kddbObjects.h"
+#include "roomForText.h"
 #include "ui_CMlstyleNewModDlg.h"
 
 #include <QHeaderView>
@@ -11,9 +13,22 @@ using namespace mledit;
 
 namespace VOUI {
 
+namespace {
+
+// Pictures of choices, pixels.
+constexpr int kSwatchWidth = 20;
+constexpr int kSampleWidth = 28;
+
+} // namespace
+
 CMlstyleNewModDlg::CMlstyleNewModDlg(QWidget* parent, CWnd* logic)
     : QBaseDialog(parent), m_layout(std::make_unique<Ui_CMlstyleNewModDlg>()) {
     m_layout->setupUi(this);
+    const QString byLayer = QString::fromWCharArray(kddbGetReservedString(0, true));
+    makeRoomForChoice(*m_layout->cbBoxFillColor, byLayer, kSwatchWidth);
+    makeRoomForChoice(*m_layout->cbBoxColor, byLayer, kSwatchWidth);
+    makeRoomForChoice(*m_layout->cbBoxLinetype, byLayer, kSampleWidth);
+    makeRoomForText(*this);
     connectWidgets();
     if (auto* const dialog = dynamic_cast<::CMlstyleNewModDlg*>(logic)) {
         dialog->SetHandle(this);
@@ -31,7 +46,7 @@ void CMlstyleNewModDlg::prepareShown() {
     headings.setStretchLastSection(true);
     headings.resizeSection(headings.count() - 1, headings.minimumSectionSize());
     // Wider samples of line types would leave no room for a name.
-    m_layout->cbBoxLinetype->setIconSize(QSize(32, 12));
+    m_layout->cbBoxLinetype->setIconSize(QSize(kSampleWidth, 12));
     m_layout->lEditDescription->home(false); // a long one is read from its beginning
 }
 

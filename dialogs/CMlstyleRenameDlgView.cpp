@@ -4,6 +4,7 @@
 #include "controlNumbers.h"
 #include "dialogWindow.h"
 #include "elidedLabel.h"
+#include "roomForText.h"
 #include "ui_CMlstyleRenameDlg.h"
 
 using namespace mledit;
@@ -13,6 +14,7 @@ namespace VOUI {
 CMlstyleRenameDlg::CMlstyleRenameDlg(QWidget* parent, CWnd* logic)
     : QBaseDialog(parent), m_layout(std::make_unique<Ui_CMlstyleRenameDlg>()) {
     m_layout->setupUi(this);
+    makeRoomForText(*this);
     m_layout->renameComBo->hide();
     elideLabel(*m_layout->labelOldStyleNameResult);
     connect(m_layout->pBtnOK, &QPushButton::clicked, this, &CMlstyleRenameDlg::OnOK);

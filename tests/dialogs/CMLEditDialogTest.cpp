@@ -10,8 +10,10 @@
 
 using mledit::ToolRow;
 using orvex::testing::child;
+using orvex::testing::kLargeTextSize;
 using orvex::testing::press;
 using orvex::testing::runDialog;
+using orvex::testing::TextSize;
 
 namespace {
 
@@ -62,6 +64,18 @@ TEST_F(Palette, eachButtonShowsItsToolAndGivesItsNumber) {
         EXPECT_TRUE(drawn.LoadBitmaps((name + L"_UP").c_str(), (name + L"_DOWN").c_str(),
                                       (name + L"_FOCUS").c_str()));
     }
+}
+
+TEST_F(Palette, captionsOfALargeFontStandUnderTheirPictures) {
+    const TextSize large(kLargeTextSize);
+    CMLEditDialog dialog(nullptr);
+    runDialog(dialog, [&] {
+        for (int number = 1; number <= 12; ++number) {
+            auto& button = child<QPushButton>(dialog, mledit::findTool(number)->button);
+            EXPECT_EQ(captionBelow(button), button.accessibleName().toStdString());
+        }
+        press(*dialog.GetSafeHwnd(), "closeBtn");
+    });
 }
 
 TEST_F(Palette, keysAndTheCloseControlEndIt) {

@@ -21,8 +21,10 @@
 #include <functional>
 
 using orvex::testing::child;
+using orvex::testing::kUsualTextSize;
 using orvex::testing::runDialog;
 using orvex::testing::StyleWorld;
+using orvex::testing::TextSize;
 using testing::ElementsAre;
 
 namespace {
@@ -150,6 +152,7 @@ TEST_F(ModifyDialog, showsAStyleRoundedAndOkWritesWhatItShows) {
     dropLeading.restype = kResultShort;
     dropLeading.resval.rint = 4; // neither of the rules that the dialog writes its numbers by
     kdedSetVar(L"DIMZIN", &dropLeading);
+    const TextSize usual(kUsualTextSize); // at which everything has the size it was drawn with
     modify(L"wall", [this] {
         const QWidget& view = *m_dialog->GetSafeHwnd();
         EXPECT_EQ(view.windowTitle(), "Modify Multiline Style: wall");

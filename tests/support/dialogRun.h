@@ -17,6 +17,24 @@
 
 namespace orvex::testing {
 
+// What is made while it lives has text of that size.
+class TextSize {
+public:
+    explicit TextSize(int points) {
+        QFont font = m_before;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+    }
+    ~TextSize() { QApplication::setFont(m_before); }
+    TextSize(const TextSize&) = delete;
+    TextSize& operator=(const TextSize&) = delete;
+
+private:
+    QFont m_before = QApplication::font();
+};
+inline constexpr int kUsualTextSize = 9; // points
+inline constexpr int kLargeTextSize = 18;
+
 // A widget of the dialog by its object name; a test that asks for a missing one ends.
 template <class Widget>
 Widget& child(const QWidget& dialog, const char* name) {
