@@ -101,7 +101,7 @@ void HelpWindow::showTopic(const QStringList& topics) {
 
 void HelpWindow::showPage(const QString& page) {
     if (helpText(page).isEmpty()) {
-        m_browser->setPlainText(tr("The pages of the help can't be found."));
+        m_browser->setPlainText(tr("The pages of the help can't be found.") + '\n' + helpRefusal());
     } else if (m_browser->source() != helpAddress(page)) {
         m_browser->setSource(helpAddress(page), QTextDocument::HtmlResource);
     }

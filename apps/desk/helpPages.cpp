@@ -1,5 +1,6 @@
 #include "helpPages.h"
 
+#include "ResourceLibraries.h"
 #include "resourceLibrary.h"
 
 #include <QFile>
@@ -15,9 +16,14 @@ namespace {
 const QString kFolder = QStringLiteral("/docs/");
 
 // A picture of the help may be asked for by the widget alone, so the library stays open.
-bool isLibraryOpen() {
-    static const HINSTANCE library = loadResourceDll(L"ORVEXHelp.dll");
-    return library != nullptr;
+struct Library {
+    HINSTANCE handle = loadResourceDll(L"ORVEXHelp.dll");
+    QString refusal = QString::fromStdString(ResourceLibraries::instance().takeRefusal());
+};
+
+const Library& library() {
+    static const Library opened;
+    return opened;
 }
 
 bool beginsRowOrSection(const QTextBlock& block) {
@@ -49,8 +55,13 @@ QString pageAt(const QUrl& address) {
 
 QString helpText(const QString& page) {
     QFile file(':' + kFolder + page);
-    return isLibraryOpen() && file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll())
-                                                             : QString();
+    return library().handle != nullptr && file.open(QIODevice::ReadOnly)
+               ? QString::fromUtf8(file.readAll())
+               : QString();
+}
+
+QString helpRefusal() {
+    return library().refusal;
 }
 
 int topicPlace(const QTextDocument& page, const QString& topic) {

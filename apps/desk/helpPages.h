@@ -15,6 +15,8 @@ QUrl helpAddress(const QString& page);
 QString pageAt(const QUrl& address);
 // Empty where the library or the page is missing.
 QString helpText(const QString& page);
+// Why the library was refused, with its file; empty where it wasn't.
+QString helpRefusal();
 
 // Where a page tells of a topic, a command's name or a tool's keyword: the position of the heading
 // or of the table's row that begins with it. -1 for nowhere.

@@ -2,6 +2,7 @@
 
 #include "DeskCall.h"
 #include "MainWindow.h"
+#include "ResourceLibraries.h"
 #include "moduleFiles.h"
 #include "resourceLibrary.h"
 
@@ -58,6 +59,9 @@ int showWindow(const DeskCall& call, int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("orvex-desk"));
     if (loadResourceDll(L"ORVEXRes.dll") != nullptr) {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/ORVEXRes/128.svg")));
+    }
+    if (const auto refusal = ResourceLibraries::instance().takeRefusal(); !refusal.empty()) {
+        complain(refusal);
     }
     ModuleLoader modules;
     MainWindow window(modules, moduleFiles(call.module));

@@ -3,6 +3,7 @@
 #include "KdRxDictionary.h"
 #include "KdRxDynamicLinker.h"
 #include "LoadedModules.h"
+#include "ResourceLibraries.h"
 #include "kdrxRegistry.h"
 #include "moduleEntry.h"
 #include "moduleFile.h"
@@ -123,10 +124,13 @@ std::optional<Failure> ModuleLoader::load(const std::string& path) {
     }
     module->handle = addModuleHandle(module->path);
     module->dllMain(module->handle, kReasonAttach, nullptr);
+    (void)ResourceLibraries::instance().takeRefusal(); // of what the module didn't ask for
     if (module->entryPoint(kMessageLoad, module.get()) == kLoadFailed) {
         module->dllMain(module->handle, kReasonDetach, nullptr);
         dropModuleHandle(module->handle);
-        return unloadable(module->path, "the module or its texts can't be loaded");
+        const std::string refusal = ResourceLibraries::instance().takeRefusal();
+        return unloadable(module->path, "the module or its texts can't be loaded" +
+                                            (refusal.empty() ? refusal : " (" + refusal + ')'));
     }
     m_modules.push_back(std::move(module));
     return std::nullopt;

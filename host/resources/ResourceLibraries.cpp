@@ -1,11 +1,20 @@
 #include "ResourceLibraries.h"
 
+#include "readFile.h"
+#include "resourceFile.h"
+
 #include <QFile>
 #include <QResource>
 
 namespace orvex {
 
 namespace {
+
+constexpr std::uint64_t kLargestLibrary = 256UL << 20;
+
+const uchar* bytesOf(const QByteArray& library) {
+    return reinterpret_cast<const uchar*>(library.constData());
+}
 
 QByteArray readEntry(const QString& name) {
     QFile file(name);
@@ -22,18 +31,29 @@ ResourceLibraries& ResourceLibraries::instance() {
     return libraries;
 }
 
+bool ResourceLibraries::refuse(const Library& library, const std::string& why) {
+    m_refusal = locatedText(library.path, 0, why);
+    return false;
+}
+
+// Qt is given the bytes that were checked: the file may change, or be cut, under its reader.
 bool ResourceLibraries::load(Library& library) {
-    const QString file = QString::fromStdString(library.path);
+    const auto read = readRegularFile(library.path, {}, kLargestLibrary);
+    if (!read) {
+        return refuse(library, read.failure().text);
+    }
+    if (const auto fault = findFaultOfResourceFile(*read)) {
+        return refuse(library, "the file is damaged: " + *fault);
+    }
+    library.bytes = QByteArray(read->data(), static_cast<int>(read->size()));
     // Several libraries have a table of texts, so each is read under a root of its own first.
     const QString privateRoot = QStringLiteral("/orvex-texts");
-    if (!QResource::registerResource(file, privateRoot)) {
-        return false;
+    if (!QResource::registerResource(bytesOf(library.bytes), privateRoot)) {
+        return refuse(library, "the file is compressed in a way that can't be read here");
     }
     const QByteArray texts = readEntry(QStringLiteral(":/orvex-texts/texts.txt"));
-    QResource::unregisterResource(file, privateRoot);
-    if (!QResource::registerResource(file)) {
-        return false;
-    }
+    QResource::unregisterResource(bytesOf(library.bytes), privateRoot);
+    QResource::registerResource(bytesOf(library.bytes));
     library.texts = parseTextTable({texts.constData(), static_cast<std::size_t>(texts.size())});
     return true;
 }
@@ -64,7 +84,10 @@ bool ResourceLibraries::release(HINSTANCE handle) {
         return false;
     }
     if (--library->openings == 0) {
-        QResource::unregisterResource(QString::fromStdString(library->path));
+        if (!QResource::unregisterResource(bytesOf(library->bytes))) {
+            m_stillUsed.push_back(library->bytes);
+        }
+        library->bytes.clear();
         library->texts.clear();
     }
     return true;

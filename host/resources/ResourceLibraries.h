@@ -3,8 +3,11 @@
 #include "HINSTANCE.h"
 #include "textTable.h"
 
+#include <QByteArray>
+
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace orvex {
@@ -17,8 +20,11 @@ public:
     static ResourceLibraries& instance();
     ~ResourceLibraries();
 
-    // One opening of the file; null when it is no resource file. `path` in UTF-8.
+    // One opening of the file; null when it is no sound resource file. `path` in UTF-8.
     HINSTANCE open(const std::string& path);
+    // The file that was refused last, and why, to be shown; empty when none was since the last
+    // call.
+    [[nodiscard]] std::string takeRefusal() { return std::exchange(m_refusal, {}); }
     // False for a handle that has no opening left.
     bool release(HINSTANCE handle);
 
@@ -32,17 +38,21 @@ private:
     struct Library {
         std::string path;
         int openings = 0;
+        QByteArray bytes; // Qt reads in them as long as they are registered
         TextTable texts;
     };
 
     ResourceLibraries();
     [[nodiscard]] Library* find(HINSTANCE handle) const;
-    static bool load(Library& library);
+    bool load(Library& library);
+    bool refuse(const Library& library, const std::string& why);
 
     // Closed ones stay, so that a handle is never given to another file: a look-up in a released
     // handle finds a closed library, not a foreign one.
     std::vector<std::unique_ptr<Library>> m_libraries;
+    std::vector<QByteArray> m_stillUsed; // of closed ones, by files that somebody holds open
     HINSTANCE m_current = nullptr;
+    std::string m_refusal;
 };
 
 } // namespace orvex

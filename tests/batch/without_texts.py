@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""The module without its resource library can't be loaded: without_texts.py PROGRAM"""
+"""The module without its resource library, or with a damaged one, can't be loaded: without_texts.py PROGRAM"""
 
 import pathlib
 import shutil
@@ -25,7 +25,12 @@ def main():
         report.check("standard input:3:" in run.stderr and "libOmxMLStyle.omx" in run.stderr, run.stderr)
         report.check("CC" not in run.stdout, run.stdout)
 
-        shutil.copy(program.parent / "OmxMLStyleRes.dll", folder)
+        library = (program.parent / "OmxMLStyleRes.dll").read_bytes()
+        (folder / "OmxMLStyleRes.dll").write_bytes(library[: len(library) // 2])
+        run = call(copy, "run", drawing, "--script", "-", script="-MLEDIT\nCC\n")
+        report.check(run.returncode == 5 and f"({folder}/OmxMLStyleRes.dll: the file is damaged: " in run.stderr, run.stderr)
+
+        (folder / "OmxMLStyleRes.dll").write_bytes(library)
         run = call(copy, "run", drawing, "--script", "-", script="-MLEDIT\nCC\n")
         report.check(run.returncode == 0, run.stderr)
     report.finish()
