@@ -1,6 +1,6 @@
 # The packages everything is built on, all from Debian 12; tools/setup installs them.
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Svg)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Svg LinguistTools)
 find_package(Boost 1.74 REQUIRED)
 find_package(CLI11 2.1 REQUIRED)
 find_package(nlohmann_json 3.11 REQUIRED)

@@ -75,7 +75,7 @@ void CommandInput::keyPressEvent(QKeyEvent* event) {
         enter();
         return;
     }
-    if (isKeypadComma(*event)) {
+    if (isKeypadComma(*event) && !m_takesPoints) {
         insert(QStringLiteral("."));
         return;
     }

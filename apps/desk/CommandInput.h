@@ -26,6 +26,7 @@ public:
 
     void setBlankKey(BlankKey blank) { m_blank = blank; }
     void setTakesLengths(bool takes) { m_takesLengths = takes; }
+    void setTakesPoints(bool takes) { m_takesPoints = takes; }
     void setCompletions(const QStringList& words);
     [[nodiscard]] int lineCount() const; // several ones only where they were pasted
 
@@ -56,6 +57,7 @@ private:
     InputHistory m_history;
     BlankKey m_blank = BlankKey::enters;
     bool m_takesLengths = false;
+    bool m_takesPoints = false;
 };
 
 } // namespace orvex

@@ -85,6 +85,7 @@ void CommandLine::setQuestion(const Question& question) {
     showPrompt();
     m_input->setBlankKey(question.blank);
     m_input->setTakesLengths(question.takesLengths);
+    m_input->setTakesPoints(question.takesPoints);
     m_input->setCompletions(question.completions);
     m_keywords->setKeywords(question.keywords);
 }

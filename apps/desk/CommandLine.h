@@ -26,6 +26,7 @@ public:
         QStringList completions; // what the field offers
         BlankKey blank = BlankKey::enters;
         bool takesLengths = false; // Ctrl with an arrow gives the one typed a direction
+        bool takesPoints = false;  // the keypad's comma parts coordinates
     };
     void setQuestion(const Question& question);
     // Stands before the question until it is empty again.

@@ -14,20 +14,20 @@ namespace orvex {
 
 namespace {
 
-constexpr const char* kToolBarTitle = QT_TRANSLATE_NOOP("deskActions", "Tools");
+constexpr const char* kToolBarTitle = QT_TRANSLATE_NOOP("orvex", "Tools");
 
 QString shown(const char* text) {
-    return QCoreApplication::translate("deskActions", text);
+    return QCoreApplication::translate("orvex", text);
 }
 
 std::map<DeskMenu, QMenu*> makeMenus(QMenuBar& bar) {
     constexpr std::pair<DeskMenu, const char*> kTitles[] = {
-        {DeskMenu::file, QT_TRANSLATE_NOOP("deskActions", "&File")},
-        {DeskMenu::edit, QT_TRANSLATE_NOOP("deskActions", "&Edit")},
-        {DeskMenu::view, QT_TRANSLATE_NOOP("deskActions", "&View")},
-        {DeskMenu::draw, QT_TRANSLATE_NOOP("deskActions", "&Draw")},
-        {DeskMenu::modify, QT_TRANSLATE_NOOP("deskActions", "&Modify")},
-        {DeskMenu::help, QT_TRANSLATE_NOOP("deskActions", "&Help")},
+        {DeskMenu::file, QT_TRANSLATE_NOOP("orvex", "&File")},
+        {DeskMenu::edit, QT_TRANSLATE_NOOP("orvex", "&Edit")},
+        {DeskMenu::view, QT_TRANSLATE_NOOP("orvex", "&View")},
+        {DeskMenu::draw, QT_TRANSLATE_NOOP("orvex", "&Draw")},
+        {DeskMenu::modify, QT_TRANSLATE_NOOP("orvex", "&Modify")},
+        {DeskMenu::help, QT_TRANSLATE_NOOP("orvex", "&Help")},
     };
     std::map<DeskMenu, QMenu*> menus;
     for (const auto& [menu, title] : kTitles) {

@@ -5,6 +5,7 @@
 #include "DatabaseCore.h"
 #include "DeskPrompts.h"
 #include "KdDbDatabase.h"
+#include "KeypadPoint.h"
 #include "Session.h"
 #include "StyleButton.h"
 #include "layerChoices.h"
@@ -95,6 +96,7 @@ DrawBar::DrawBar(QMainWindow& window, CommandRunner& runner, DeskPrompts& prompt
     m_bar->addWidget(new QLabel(tr(" Scale "), m_bar));
     m_scale->setMaximumWidth(m_scale->fontMetrics().averageCharWidth() * (kScaleCharacters + 2));
     m_scale->setFocusPolicy(Qt::ClickFocus);
+    markNumberField(*m_scale);
     m_scale->installEventFilter(this);
     m_bar->addWidget(m_scale);
     m_bar->addWidget(m_justification);
@@ -188,7 +190,7 @@ void DrawBar::enterScale() {
     const std::optional<double> scale = parseReal(toWide(typed));
     if (!scale || *scale == 0.0) {
         emit complained(scale ? tr("A scale of 0 would put all lines in one place.")
-                              : tr("'%1' is no scale.").arg(typed));
+                              : numberComplaint(typed));
         m_scale->selectAll();
         return;
     }

@@ -1,5 +1,6 @@
 #include "JoinPanel.h"
 
+#include "KeypadPoint.h"
 #include "joinPictures.h"
 #include "strokeIcon.h"
 
@@ -12,6 +13,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QToolButton>
+#include <QToolTip>
 
 namespace orvex {
 
@@ -91,6 +93,7 @@ void JoinPanel::addTolerance(QGridLayout& grid, int row) {
     grid.addWidget(new QLabel(tr("Tolerance"), m_choices), row, 0);
     m_tolerance = new QLineEdit(m_choices);
     m_tolerance->setObjectName(QStringLiteral("joinTolerance"));
+    markNumberField(*m_tolerance);
     m_tolerance->setPlaceholderText(tr("automatic: half the narrower wall"));
     m_tolerance->setToolTip(tr("How far an end may lie short of a wall or over it, drawing units"));
     grid.addWidget(m_tolerance, row, 1, 1, 4);
@@ -198,6 +201,9 @@ void JoinPanel::giveTolerance() {
     const double value = text.toDouble(&isNumber);
     if (!text.isEmpty() && (!isNumber || !(value >= 0.0))) {
         m_tolerance->setText(before);
+        QToolTip::showText(m_tolerance->mapToGlobal(m_tolerance->rect().bottomLeft()),
+                           isNumber ? tr("A tolerance is 0 or more.") : numberComplaint(text),
+                           m_tolerance);
         return;
     }
     emit answered(

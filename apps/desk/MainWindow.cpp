@@ -5,6 +5,8 @@
 #include "CommandLine.h"
 #include "KdDbEntity.h"
 #include "KdDbStub.h"
+#include "KeypadPoint.h"
+#include "LanguageDesk.h"
 #include "LookDesk.h"
 #include "PastedLines.h"
 #include "PlayScript.h"
@@ -63,6 +65,7 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
     makeCommandDock();
     connectCommandLine();
     connectCanvas();
+    new KeypadPoint(this);
     new PointTyping(*m_canvas, *m_commandLine, m_prompts);
     m_select->setPicker([this](PlanPoint place) { return m_tool->take(place); });
     m_select->fillMenus(*m_menus.styles, *m_menus.layers);
@@ -82,6 +85,8 @@ void MainWindow::makeCommandDock() {
     const auto* const dock = new CommandDock(*this, *m_commandLine);
     m_menus.view->addSeparator();
     new LookDesk(*m_menus.view, *m_canvas, m_settings);
+    const auto* const language = new LanguageDesk(*m_menus.view, m_settings);
+    connect(language, &LanguageDesk::printed, m_commandLine, &CommandLine::print);
     m_menus.view->addAction(dock->toggleViewAction());
     m_menus.view->addAction(m_menus.tools->toggleViewAction());
     m_menus.view->addAction(m_menus.editTools.bar->toggleViewAction());
@@ -317,6 +322,7 @@ void MainWindow::showQuestion() {
                      : isPick ? BlankKey::entersUnlessXy
                               : BlankKey::enters;
     question.takesLengths = request.kind == PromptKind::point;
+    question.takesPoints = question.takesLengths || isPick;
     m_commandLine->setQuestion(question);
     showDuringCommand();
     const auto& progress = session()->selectionMemory().progress;

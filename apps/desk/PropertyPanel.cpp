@@ -1,5 +1,7 @@
 #include "PropertyPanel.h"
 
+#include "KeypadPoint.h"
+
 #include <QComboBox>
 #include <QFormLayout>
 #include <QKeyEvent>
@@ -26,6 +28,7 @@ PropertyPanel::PropertyPanel(QWidget* parent)
     auto* const form = new QFormLayout(this);
     m_style = addChoice("propertyStyle", tr("&Style"), QStringLiteral("STyle"), {}, {});
     m_scale->setObjectName(QStringLiteral("propertyScale"));
+    markNumberField(*m_scale);
     form->addRow(tr("S&cale"), m_scale);
     connect(m_scale, &QLineEdit::editingFinished, this, &PropertyPanel::applyScale);
     m_justification =
@@ -129,7 +132,7 @@ void PropertyPanel::applyScale() {
     bool isNumber = false;
     const double scale = QLocale::c().toDouble(text, &isNumber);
     if (!isNumber || !std::isfinite(scale) || scale == 0.0) {
-        m_foot->setText(tr("'%1' is no scale.").arg(text));
+        m_foot->setText(isNumber ? tr("'%1' is no scale.").arg(text) : numberComplaint(text));
         m_scale->setText(m_shownScale);
         return;
     }

@@ -59,7 +59,7 @@ const EditTool* findEditTool(const QString& keyword) {
 }
 
 QString toolMenuText(const EditTool& tool) {
-    return QCoreApplication::translate("editTools", tool.text);
+    return QCoreApplication::translate("orvex", tool.text);
 }
 
 QString toolName(const EditTool& tool) {
@@ -67,7 +67,7 @@ QString toolName(const EditTool& tool) {
 }
 
 QString toolHelp(const EditTool& tool) {
-    return QCoreApplication::translate("editTools", tool.help);
+    return QCoreApplication::translate("orvex", tool.help);
 }
 
 bool isToolQuestion(const PromptRequest& request) {

@@ -1,8 +1,10 @@
 // orvex-desk: the host with a window.
 
 #include "DeskCall.h"
+#include "DeskSettings.h"
 #include "MainWindow.h"
 #include "ResourceLibraries.h"
+#include "deskLanguage.h"
 #include "moduleFiles.h"
 #include "resourceLibrary.h"
 
@@ -57,6 +59,7 @@ int showWindow(const DeskCall& call, int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("orvex-desk"));
     QApplication::setApplicationVersion(QStringLiteral(ORVEX_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("orvex-desk"));
+    startLanguage(DeskSettings());
     if (loadResourceDll(L"ORVEXRes.dll") != nullptr) {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/ORVEXRes/128.svg")));
     }

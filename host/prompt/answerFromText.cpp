@@ -40,6 +40,15 @@ bool isSnapWord(const std::wstring& text) {
     return std::ranges::find(kWords, foldCase(text)) != kWords.end();
 }
 
+std::wstring withPoint(std::wstring text) {
+    std::ranges::replace(text, L',', L'.');
+    return text;
+}
+
+bool hasDecimalComma(const std::wstring& text) {
+    return std::ranges::count(text, L',') == 1 && parseReal(withPoint(text)).has_value();
+}
+
 TextReading readPointAnswer(const PromptRequest& request, const std::wstring& text) {
     const bool isPick = request.kind != PromptKind::point;
     PointReading reading = readPoint(text, worldToUser(PromptSession::current().lastPoint));
@@ -126,6 +135,9 @@ std::wstring complaintAbout(const PromptRequest& request, const std::wstring& te
         message.back() = L')';
     } else if (request.kind == PromptKind::keyword) {
         message += L" on offer";
+    }
+    if (request.kind == PromptKind::real && hasDecimalComma(text)) {
+        message += L": decimals follow a point, " + withPoint(text);
     }
     return message;
 }

@@ -3,8 +3,10 @@
 #include "readFile.h"
 #include "resourceFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QResource>
+#include <QTranslator>
 
 namespace orvex {
 
@@ -22,6 +24,22 @@ QByteArray readEntry(const QString& name) {
 }
 
 } // namespace
+
+// Does nothing in a program without an application of Qt's, which shows no captions.
+class ResourceLibraries::Captions {
+public:
+    explicit Captions(QByteArray compiled) : m_compiled(std::move(compiled)) {
+        const auto* const bytes = reinterpret_cast<const uchar*>(m_compiled.constData());
+        if (QCoreApplication::instance() != nullptr &&
+            m_translator.load(bytes, m_compiled.size())) {
+            QCoreApplication::installTranslator(&m_translator); // removed by its destructor
+        }
+    }
+
+private:
+    QByteArray m_compiled; // read by the translator
+    QTranslator m_translator;
+};
 
 ResourceLibraries::ResourceLibraries() = default;
 ResourceLibraries::~ResourceLibraries() = default;
@@ -46,15 +64,19 @@ bool ResourceLibraries::load(Library& library) {
         return refuse(library, "the file is damaged: " + *fault);
     }
     library.bytes = QByteArray(read->data(), static_cast<int>(read->size()));
-    // Several libraries have a table of texts, so each is read under a root of its own first.
+    // Several libraries have these entries, so each is read under a root of its own first.
     const QString privateRoot = QStringLiteral("/orvex-texts");
     if (!QResource::registerResource(bytesOf(library.bytes), privateRoot)) {
         return refuse(library, "the file is compressed in a way that can't be read here");
     }
     const QByteArray texts = readEntry(QStringLiteral(":/orvex-texts/texts.txt"));
+    QByteArray captions = readEntry(QStringLiteral(":/orvex-texts/captions.qm"));
     QResource::unregisterResource(bytesOf(library.bytes), privateRoot);
     QResource::registerResource(bytesOf(library.bytes));
     library.texts = parseTextTable({texts.constData(), static_cast<std::size_t>(texts.size())});
+    if (!captions.isEmpty()) {
+        library.captions = std::make_unique<Captions>(std::move(captions));
+    }
     return true;
 }
 
@@ -89,6 +111,7 @@ bool ResourceLibraries::release(HINSTANCE handle) {
         }
         library->bytes.clear();
         library->texts.clear();
+        library->captions.reset();
     }
     return true;
 }

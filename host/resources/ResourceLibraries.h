@@ -14,7 +14,8 @@ namespace orvex {
 
 // The resource libraries of the process: binary Qt resource files, registered with their pictures
 // under ":/" at the first opening and dropped at the last. The texts stand in the entry
-// "texts.txt" (see textTable.h).
+// "texts.txt" (see textTable.h). Captions of windows, where they aren't those in the code, are Qt
+// translations in the entry "captions.qm", installed for the same time.
 class ResourceLibraries {
 public:
     static ResourceLibraries& instance();
@@ -35,11 +36,13 @@ public:
     void setCurrent(HINSTANCE handle) { m_current = handle; }
 
 private:
+    class Captions;
     struct Library {
         std::string path;
         int openings = 0;
         QByteArray bytes; // Qt reads in them as long as they are registered
         TextTable texts;
+        std::unique_ptr<Captions> captions;
     };
 
     ResourceLibraries();

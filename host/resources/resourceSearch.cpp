@@ -1,8 +1,7 @@
 #include "resourceSearch.h"
 
 #include "dataFolder.h"
-
-#include <QLocale>
+#include "userLanguage.h"
 
 #include <dlfcn.h>
 
@@ -14,18 +13,35 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::string& chosenLanguage() {
+    static std::string language;
+    return language;
+}
+
 void addWithLanguages(std::vector<std::string>& folders, const std::string& folder) {
     if (folder.empty()) {
         return;
     }
-    const std::string territory = QLocale::system().name().toStdString(); // "de_AT"
+    const std::string& territory = userLanguage(); // "de_AT"
     const std::string language = territory.substr(0, territory.find('_'));
-    folders.push_back(folder + '/' + territory);
-    folders.push_back(folder + '/' + language);
+    if (language != territory) {
+        folders.push_back(folder + '/' + territory);
+    }
+    if (!language.empty()) {
+        folders.push_back(folder + '/' + language);
+    }
     folders.push_back(folder);
 }
 
 } // namespace
+
+void setUserLanguage(const std::string& language) {
+    chosenLanguage() = language;
+}
+
+const std::string& userLanguage() {
+    return chosenLanguage();
+}
 
 std::string folderOfCode(const void* address) {
     Dl_info info{};

@@ -176,6 +176,39 @@ TEST_F(PointTypingTest, keysAreJudgedByTheirText) {
         EXPECT_EQ(input().text(), "@@1.5,");
         input().clear();
     }
+    // Where coordinates are asked for the comma parts them; at a number a point is meant.
+    const auto typeKeypad = [this] {
+        press(input(), Qt::Key_1, Qt::KeypadModifier, "1");
+        press(input(), Qt::Key_Comma, Qt::KeypadModifier, ",");
+        press(input(), Qt::Key_5, Qt::KeypadModifier, "5");
+    };
+    play({
+        openPlan(),
+        type("MLINE"),
+        type("S"),
+        typeKeypad,
+        [this] { EXPECT_EQ(input().text(), "1.5"); },
+        [this] { input().clear(); },
+        type("1,5"),
+        [this] { EXPECT_TRUE(lastLine().endsWith("decimals follow a point, 1.5")); },
+        key(Qt::Key_Return),
+        typeKeypad,
+        [this] { EXPECT_EQ(input().text(), "1,5"); },
+        key(Qt::Key_Escape),
+        [this] {
+            auto* const scale = window->findChild<QLineEdit*>("scaleField");
+            scale->clear();
+            press(*scale, Qt::Key_2, Qt::KeypadModifier, "2");
+            press(*scale, Qt::Key_Comma, Qt::KeypadModifier, ",");
+            EXPECT_EQ(scale->text(), "2.");
+            press(*scale, Qt::Key_Comma, Qt::NoModifier, ",");
+            QTest::keyClick(scale, Qt::Key_Return);
+            EXPECT_EQ(lastLine(), "'2.,' is no number.");
+            scale->setText("2,5");
+            QTest::keyClick(scale, Qt::Key_Return);
+            EXPECT_TRUE(lastLine().endsWith("decimals follow a point, 2.5."));
+        },
+    });
 }
 
 } // namespace

@@ -3,9 +3,9 @@
 #include "CStdStr.h"
 #include "ResourceLibraries.h"
 #include "resourceSearch.h"
+#include "userLanguage.h"
 
 #include <QFile>
-#include <QLocale>
 #include <QResource>
 
 #include <gmock/gmock.h>
@@ -87,10 +87,17 @@ TEST_F(ResourceLibrary, isNullWhenItIsMissingOrNoLibrary) {
 }
 
 TEST(ResourceFolders, putTheLanguageBeforeThePlainFolder) {
+    // A program that says nothing is an English one, wherever it runs.
+    setenv("LANG", "de_DE.UTF-8", 1);
+    EXPECT_EQ(orvex::resourceFolders("/some/module").front(), "/some/module");
+
+    orvex::setUserLanguage("de_AT");
     const auto folders = orvex::resourceFolders("/some/module");
     ASSERT_GE(folders.size(), 3U);
-    EXPECT_EQ(folders[0], "/some/module/" + QLocale::system().name().toStdString());
+    EXPECT_EQ(folders[0], "/some/module/de_AT");
+    EXPECT_EQ(folders[1], "/some/module/de");
     EXPECT_EQ(folders[2], "/some/module");
+    orvex::setUserLanguage({});
 }
 
 TEST(HostText, isTheDefaultWhereTheHostHasNone) {
