@@ -1,10 +1,10 @@
 #!/usr/bin/python3
-"""Draw the guide's pictures of the twelve tools, and the flat before and after joining.
+"""Draw the guide's pictures of the twelve tools and of some commands, and plans before and after.
 
     drawPictures.py ORVEX_BATCH [--check]
 
-Each tool's picture shows its multilines twice: left as they are, with the picks numbered, right after the tool was
-played there. The results go to pictures/ next to this script and are kept there. With --check nothing is written, and
+Each tool's picture shows its multilines twice: left as they are, with the points given numbered, right after the tool
+was played there. The results go to pictures/ next to this script and are kept there. With --check nothing is written, and
 the exit status is 1 when a picture would change.
 """
 
@@ -44,6 +44,24 @@ TOOLS = {
     "WA": ([BAR], [((-500, 0), (500, 0))], [(-700, 0), (700, 0)]),
 }
 
+# Commands: the chains, and the answers, points among them.
+COMMANDS = {
+    "EXTEND": ([BAR, ([(100, 900), (100, 450)], "WALL4", False)], [(-900, 0), "Outer", (160, 500), ""]),
+    "TRIM": ([BAR, ([(100, 900), (100, -800)], "WALL4", False)], [(-900, 0), "Axis", (160, -650), ""]),
+    "MLBREAK": ([BAR], [(-900, 0), (-350, 0), (450, 0)]),
+    "MLCONNECT": ([([(-1200, -500), (500, -500)], "WALL3", False), ([(500, -500), (500, 800)], "WALL3", False)],
+                  [(-900, -500), (500, 400)]),
+    "MLVERTEX": ([BEND], [(-150, 375), "", "Move", (500, -300)]),
+}
+
+
+def chains_and_points(name):
+    if name in TOOLS:
+        chains, _, picks = TOOLS[name]
+        return chains, picks
+    chains, answers = COMMANDS[name]
+    return chains, [answer for answer in answers if isinstance(answer, tuple)]
+
 
 def make_drawing(path, keyword):
     document = ezdxf.new("R2000")
@@ -54,14 +72,14 @@ def make_drawing(path, keyword):
         for offset in offsets:
             style.elements.append(offset)
     space = document.modelspace()
-    chains, _, picks = TOOLS[keyword]
+    chains, picks = chains_and_points(keyword)
     for shift in (0, SHIFT):
         for points, style, closed in chains:
             space.add_mline([(x + shift, y) for x, y in points], close=closed,
                             dxfattribs={"style_name": style, "justification": 1})
     for number, (x, y) in enumerate(picks, 1):
         space.add_circle((x, y), 55, dxfattribs={"layer": "NOTE"})
-        space.add_text(str(number), height=190, dxfattribs={"layer": "NOTE"}).set_placement((x - 200, y + 150) if keyword == "DV" else (x + 80, y + 150))
+        space.add_text(str(number), height=190, dxfattribs={"layer": "NOTE"}).set_placement((x - 200, y + 150) if keyword in ("DV", "MLVERTEX") else (x + 80, y + 150))
     arrow = SHIFT / 2
     space.add_line((arrow - 150, 0), (arrow + 150, 0), dxfattribs={"layer": "NOTE"})
     space.add_line((arrow + 150, 0), (arrow + 60, 60), dxfattribs={"layer": "NOTE"})
@@ -70,8 +88,12 @@ def make_drawing(path, keyword):
 
 
 def tool_script(keyword):
-    _, gaps, picks = TOOLS[keyword]
     lines = ["ZOOM", "C", f"{SHIFT},0", "3000"]
+    if keyword in COMMANDS:
+        answers = [f"{answer[0] + SHIFT},{answer[1]}" if isinstance(answer, tuple) else answer
+                   for answer in COMMANDS[keyword][1]]
+        return "\n".join([*lines, keyword, *answers]) + "\n"
+    _, gaps, picks = TOOLS[keyword]
     for start, stop in gaps:
         for shift in (0, SHIFT):
             lines += ["-MLEDIT", "CA", f"{start[0] + shift},{start[1]}", f"{stop[0] + shift},{stop[1]}", ""]
@@ -103,6 +125,15 @@ def draw_flat(program, folder):
     return [before, after]
 
 
+def draw_changes(program, folder):
+    changed, before, after = folder / "house.dxf", folder / "house-before.png", folder / "house-after.png"
+    plan = SAMPLES / "floorplan.dxf"
+    call(program, "run", plan, "--script", SAMPLES / "changes.scr", "--output", changed, "--strict")
+    for drawing, picture in ((plan, before), (changed, after)):
+        call(program, "show", drawing, "--output", picture, "--size", "1000x700", "--window", "-7500,-6000,24500,16000")
+    return [before, after]
+
+
 def main():
     parser = argparse.ArgumentParser(description="Draw the guide's pictures")
     parser.add_argument("program", type=pathlib.Path)
@@ -111,8 +142,8 @@ def main():
     PICTURES.mkdir(exist_ok=True)
     with tempfile.TemporaryDirectory() as scratch:
         folder = pathlib.Path(scratch)
-        drawn = [draw_tool(settings.program, keyword, folder) for keyword in TOOLS]
-        drawn += draw_flat(settings.program, folder)
+        drawn = [draw_tool(settings.program, keyword, folder) for keyword in (*TOOLS, *COMMANDS)]
+        drawn += draw_flat(settings.program, folder) + draw_changes(settings.program, folder)
         other = [picture.name for picture in drawn
                  if not (PICTURES / picture.name).is_file()
                  or (PICTURES / picture.name).read_bytes() != picture.read_bytes()]

@@ -173,6 +173,7 @@ before and after.
 | `undo.scr` | cuts and takes everything back: the drawing comes out as it went in |
 | `empty.scr` | nothing: opened and saved, a drawing stays the same byte for byte |
 | `drawn_flat.scr` | a flat of 20 walls drawn in the window by hand, slips taken back, joined, doors cut; begins with `drawn_flat.dxf`, a new drawing with three wall styles |
+| `changes.scr` | the house rebuilt: walls moved, stretched, given other styles and ends, a pipe parted, bent and connected again, the road exploded; gaps stay |
 | `play` | the script behind `./run --script`: plays the tour, joins the flat, draws, undoes |
 | `runs.txt` | runs that every build has to play alike |
 

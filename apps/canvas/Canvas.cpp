@@ -3,6 +3,7 @@
 #include "CanvasState.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -381,9 +382,25 @@ void Canvas::leaveEvent(QEvent* /*event*/) {
 
 void Canvas::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
+    if (event->reason() == Qt::PopupFocusReason) {
+        return; // a menu, and then as before
+    }
     if (std::exchange(m_state->isCrossOn, false) && !underMouse()) {
         m_state->dropCursor();
     }
+}
+
+// The button, or its key, came before.
+void Canvas::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+}
+
+bool Canvas::focusNextPrevChild(bool next) {
+    if (m_state->isCrossOn) {
+        m_state->sendCrossToGrip(next);
+        return true;
+    }
+    return QWidget::focusNextPrevChild(next);
 }
 
 void Canvas::startCross() {
@@ -398,6 +415,10 @@ bool Canvas::isCrossOn() const {
 void Canvas::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && dropWindow()) {
         return;
+    }
+    if (event->key() == Qt::Key_Menu ||
+        (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)) {
+        return m_state->wantMenu();
     }
     if (!m_state->isCrossOn || !m_state->takeCrossKey(*event)) {
         emit keyTyped(event);

@@ -103,6 +103,8 @@ signals:
     // A drag of a selected entity began at a place; it ends like that of a grip.
     void selectionDragged(double worldX, double worldY);
     void gripMenuWanted(int grip, const QPoint& at); // of the screen
+    // The context menu was asked for by its key; at a place of the screen.
+    void menuWanted(const QPoint& at);
     // The right button, which ends a prompt as Enter does.
     void rightClicked();
     // Which corner of a zoom window is awaited, 1 or 2; 0 when none is any more.
@@ -122,6 +124,9 @@ protected:
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    // From grip to grip as long as keys move the cross.
+    bool focusNextPrevChild(bool next) override;
 
 private:
     struct State;

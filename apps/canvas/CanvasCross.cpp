@@ -102,12 +102,38 @@ void Canvas::State::sendCross(QPoint direction) {
     if (!target) {
         return;
     }
-    const PlanPoint pixel = view().toPixels(target->at);
-    moveCross({static_cast<int>(std::floor(pixel.x)), static_cast<int>(std::floor(pixel.y))});
+    moveCross(pixelOf(target->at));
     crossTarget = {.at = target->at,
                    .isExact = true,
                    .marker = target->mode,
                    .name = QCoreApplication::translate("snap", snapName(target->mode))};
+}
+
+void Canvas::State::sendCrossToGrip(bool forward) {
+    if (session == nullptr || !isShown || aim.kind != AimKind::none) {
+        return;
+    }
+    std::vector<std::size_t> inSight;
+    for (const std::size_t grip : grips.shown(view())) {
+        if (canvas.rect().contains(pixelOf(grips.places()[grip]))) {
+            inSight.push_back(grip);
+        }
+    }
+    if (inSight.empty()) {
+        return;
+    }
+    const auto here = cursor ? gripAt(*cursor) : std::nullopt;
+    const auto at = here ? std::find(inSight.begin(), inSight.end(), *here) : inSight.end();
+    std::size_t next = forward ? 0 : inSight.size() - 1;
+    if (at != inSight.end()) {
+        next = static_cast<std::size_t>(at - inSight.begin()) + (forward ? 1 : inSight.size() - 1);
+    }
+    moveCross(pixelOf(grips.places()[inSight[next % inSight.size()]]));
+}
+
+QPoint Canvas::State::pixelOf(PlanPoint place) const {
+    const PlanPoint pixel = session->view().toPixels(place);
+    return {static_cast<int>(std::floor(pixel.x)), static_cast<int>(std::floor(pixel.y))};
 }
 
 void Canvas::State::clickAtCross(Qt::KeyboardModifiers modifiers) {
@@ -119,6 +145,17 @@ void Canvas::State::clickAtCross(Qt::KeyboardModifiers modifiers) {
     canvas.mouseReleaseEvent(&up);
     isCrossActing = false;
     crossTarget.reset();
+}
+
+// Of the grip under the cross, else of what is selected.
+void Canvas::State::wantMenu() {
+    const QPoint pixel = cursor.value_or(canvas.rect().center());
+    const QPoint at = canvas.mapToGlobal(pixel);
+    if (const auto grip = gripAt(pixel)) {
+        emit canvas.gripMenuWanted(static_cast<int>(*grip), at);
+    } else {
+        emit canvas.menuWanted(at);
+    }
 }
 
 } // namespace orvex

@@ -19,6 +19,11 @@ public:
     void setPlaces(std::vector<PlanPoint> places);
     [[nodiscard]] const std::vector<PlanPoint>& places() const { return m_places; }
 
+    // Those that are, as indexes among the places.
+    [[nodiscard]] const std::vector<std::size_t>& shown(const PlanView& view) {
+        sift(view);
+        return m_shown;
+    }
     // The nearest grip within reach of a pixel, as its index among the places.
     [[nodiscard]] std::optional<std::size_t> at(const PlanView& view, const QPointF& pixel);
     // That under the cursor is filled.

@@ -105,6 +105,9 @@ struct Canvas::State {
     void moveCross(const QPoint& pixel);
     void sendCross(QPoint direction);
     void clickAtCross(Qt::KeyboardModifiers modifiers);
+    void sendCrossToGrip(bool forward); // where there is one to be taken hold of
+    void wantMenu();
+    [[nodiscard]] QPoint pixelOf(PlanPoint place) const;
     void paintPointAim(QPainter& painter);
 
     [[nodiscard]] bool takesSelection() const {

@@ -2,13 +2,17 @@
 
 #include "Canvas.h"
 #include "DeskPrompts.h"
+#include "KdDbEntity.h"
 #include "KdDbStub.h"
 #include "OverlapPicks.h"
+#include "PickTrial.h"
+#include "PromptSource.h"
 #include "Session.h"
 #include "clickedPoint.h"
 #include "qtWide.h"
 #include "refusalText.h"
 #include "toolGhost.h"
+#include "userFrame.h"
 
 #include <algorithm>
 #include <chrono>
@@ -48,13 +52,17 @@ bool GhostDesk::changes(const KdDbStub* entity) const {
     return std::find(m_changed.begin(), m_changed.end(), entity) != m_changed.end();
 }
 
-bool GhostDesk::isToolAsking() const {
+bool GhostDesk::isPickTried() const {
+    return PickTrialScope::current() != nullptr && m_prompts.request()->kind == PromptKind::entity;
+}
+
+bool GhostDesk::isAsking() const {
     return m_session != nullptr && m_prompts.request() != nullptr &&
-           m_session->toolWatch().stage() != ToolWatch::Stage::none;
+           (isPickTried() || m_session->toolWatch().stage() != ToolWatch::Stage::none);
 }
 
 void GhostDesk::moved(PlanPoint place) {
-    if (!isToolAsking()) {
+    if (!isAsking()) {
         return;
     }
     const PlanPoint pixel = m_session->view().toPixels(place);
@@ -72,7 +80,7 @@ void GhostDesk::moved(PlanPoint place) {
 }
 
 void GhostDesk::ask() {
-    if (m_waitsForMove || !isToolAsking()) {
+    if (m_waitsForMove || !isAsking()) {
         return;
     }
     Session& session = *m_session;
@@ -91,14 +99,24 @@ void GhostDesk::ask() {
     if (m_asked == now) {
         return;
     }
-    const auto ghost = toolGhost(session, *entity, point);
     m_asked = now;
     m_changed.clear();
     m_before.clear();
     m_after.clear();
     m_words.clear();
+    if (isPickTried()) {
+        tryPick(*entity, userToWorld(point));
+    } else {
+        askTool(*entity, point);
+    }
+    emit changed();
+}
+
+void GhostDesk::askTool(KdDbStub& entity, const KdGePoint3d& point) {
+    Session& session = *m_session;
+    const auto ghost = toolGhost(session, entity, point);
     if (ghost && ghost->refusal) {
-        m_words = toQt(refusalText(*ghost->refusal, entity));
+        m_words = toQt(refusalText(*ghost->refusal, &entity));
     } else if (ghost) {
         for (const ToolGhost::Outcome& outcome : ghost->changed) {
             m_changed.push_back(outcome.mline);
@@ -106,7 +124,17 @@ void GhostDesk::ask() {
             m_after.push_back(appearanceOf(session, outcome));
         }
     }
-    emit changed();
+}
+
+void GhostDesk::tryPick(KdDbStub& entity, const KdGePoint3d& place) {
+    const auto result = PickTrialScope::current()(entity, place);
+    if (!result) {
+        m_words = QString::fromStdString(result.failure().text);
+        return;
+    }
+    m_changed.push_back(&entity);
+    m_before.push_back(m_session->scene().appearance(entity));
+    m_after.push_back(m_session->scene().appearanceOf(**result));
 }
 
 // Nothing is asked again before the mouse has moved: after a click it still rests on the result.

@@ -21,7 +21,7 @@ class OverlapPicks;
 class Session;
 
 // What a click would do, as soon as the mouse is slow enough to be read: the multilines that a tool
-// would change, or why it wouldn't. Gone before the click itself shows.
+// or a command would change, or why it wouldn't. Gone before the click itself shows.
 class GhostDesk final : public QObject {
     Q_OBJECT
 
@@ -54,7 +54,10 @@ private:
     void moved(PlanPoint place);
     void ask();
     void drop();
-    [[nodiscard]] bool isToolAsking() const;
+    void askTool(KdDbStub& entity, const KdGePoint3d& point);
+    void tryPick(KdDbStub& entity, const KdGePoint3d& place); // world
+    [[nodiscard]] bool isPickTried() const;                   // by the command itself
+    [[nodiscard]] bool isAsking() const;
 
     DeskPrompts& m_prompts;
     OverlapPicks& m_overlaps;

@@ -29,7 +29,7 @@ constexpr double kSamePlace = 1e-9;     // drawing units
 constexpr const wchar_t* kTogetherKey = L"MoveCommonVertices";
 
 struct GripPlace {
-    KdGePoint3d place;
+    PlanPoint place;
     KdDbStub* mline = nullptr;
     unsigned vertex = 0;
 };
@@ -47,7 +47,8 @@ std::vector<GripPlace> gripPlaces(const std::vector<KdDbStub*>& entities) {
             return {};
         }
         for (unsigned v = 0; v < count; ++v) {
-            places.push_back({content->vertices[v].position, entity, v});
+            const KdGePoint3d& place = content->vertices[v].position;
+            places.push_back({{place.x, place.y}, entity, v});
         }
     }
     return places;
@@ -81,15 +82,14 @@ void GripDesk::setSession(Session& session) {
 void GripDesk::makeGrips() {
     m_grips.clear();
     std::vector<PlanPoint> places;
-    std::vector<KdGePoint3d> known;
     for (const GripPlace& each : gripPlaces(m_select.chosen())) {
-        std::size_t index = 0;
-        while (index < known.size() && (known[index] - each.place).length() > kSamePlace) {
-            ++index;
-        }
-        if (index == known.size()) {
-            known.push_back(each.place);
-            places.push_back({each.place.x, each.place.y});
+        const auto isThere = [&each](const PlanPoint& place) {
+            return std::hypot(place.x - each.place.x, place.y - each.place.y) <= kSamePlace;
+        };
+        const auto index = static_cast<std::size_t>(
+            std::find_if(places.begin(), places.end(), isThere) - places.begin());
+        if (index == places.size()) {
+            places.push_back(each.place);
             m_grips.emplace_back();
         }
         m_grips[index].push_back({each.mline, each.vertex});

@@ -36,7 +36,7 @@ private:
         KdDbStub* mline = nullptr;
         unsigned index = 0;
     };
-    using Grip = std::vector<Vertex>; // all in one place
+    using Grip = std::vector<Vertex>; // all in one place of the plan
 
     void makeGrips();
     void start(int grip, const QString& act);

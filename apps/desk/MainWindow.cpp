@@ -103,6 +103,8 @@ void MainWindow::connectCommandLine() {
     connect(m_drawBar, &DrawBar::complained, m_commandLine, &CommandLine::complain);
     connect(m_drawBar, &DrawBar::left, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(m_snap, &SnapDesk::canvasLeft, m_commandLine, [this] { m_commandLine->setFocus(); });
+    connect(m_properties, &PropertyDesk::left, m_commandLine,
+            [this] { m_commandLine->setFocus(); });
     connect(m_undo, &UndoDesk::printed, m_commandLine, &CommandLine::print);
     connect(&m_prompts, &DeskPrompts::printed, m_commandLine, &CommandLine::print);
     connect(m_play, &PlayScript::printed, m_commandLine, &CommandLine::print);
@@ -142,6 +144,7 @@ void MainWindow::connectCanvas() {
         }
         m_commandLine->takeKey(QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier));
     });
+    connect(m_canvas, &Canvas::menuWanted, m_select, &SelectDesk::showContextMenu);
     connect(m_canvas, &Canvas::keyTyped, this,
             [this](QKeyEvent* event) { m_commandLine->takeKey(*event); });
     connect(m_canvas, &Canvas::cursorMoved, this, [this](double x, double y) {

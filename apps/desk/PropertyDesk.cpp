@@ -26,6 +26,14 @@ PropertyDesk::PropertyDesk(QMainWindow& window, SelectDesk& select)
             show();
         }
     });
+    connect(toggleAction(), &QAction::triggered, this, [this](bool isOpened) {
+        if (isOpened) {
+            m_panel->setFocus(Qt::ShortcutFocusReason);
+        } else {
+            emit left();
+        }
+    });
+    connect(m_panel, &PropertyPanel::left, this, &PropertyDesk::left);
     connect(m_panel, &PropertyPanel::edited, this, [this](const QStringList& answers) {
         m_select.startKeeping(QStringLiteral("MLCHANGE"), answers + QStringList{QString()});
     });

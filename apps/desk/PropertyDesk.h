@@ -24,6 +24,10 @@ public:
     void setSession(Session& session);
     [[nodiscard]] QAction* toggleAction() const;
 
+signals:
+    // The focus isn't needed there any more.
+    void left();
+
 private:
     void show();
 

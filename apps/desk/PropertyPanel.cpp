@@ -17,6 +17,25 @@ namespace {
 
 constexpr int kDiffer = -1; // no entry of the field's own
 
+// Keys open the list, and only what is taken from it there is a choice; a wheel that happens to
+// turn over the field is none.
+class FieldBox final : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const int key = event->key();
+        if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Return ||
+            key == Qt::Key_Enter || key == Qt::Key_Space) {
+            showPopup();
+        } else {
+            event->ignore();
+        }
+    }
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
 QString scaleText(double scale) {
     return QLocale::c().toString(scale, 'g', QLocale::FloatingPointShortest);
 }
@@ -43,13 +62,16 @@ PropertyPanel::PropertyPanel(QWidget* parent)
     m_foot->setObjectName(QStringLiteral("propertyFoot"));
     m_foot->setWordWrap(true);
     form->addRow(m_foot);
+    setTabOrder(m_style, m_scale);
+    setTabOrder(m_scale, m_justification);
+    setFocusProxy(m_style);
     showFacts({}, {}, {});
 }
 
 // Without answers of their own the texts are the answers, after the keyword where there is one.
 QComboBox* PropertyPanel::addChoice(const char* name, const QString& label, const QString& keyword,
                                     const QStringList& texts, const QStringList& answers) {
-    auto* const box = new QComboBox(this);
+    auto* const box = new FieldBox(this);
     box->setObjectName(QLatin1String(name));
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->addItems(texts);
@@ -119,7 +141,10 @@ void PropertyPanel::showFacts(const SelectionFacts& facts, const QStringList& st
 
 // An Enter that ended a field isn't one for the command line.
 void PropertyPanel::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    if (event->key() == Qt::Key_Escape) {
+        m_scale->setText(m_shownScale);
+        emit left();
+    } else if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QWidget::keyPressEvent(event);
     }
 }

@@ -25,6 +25,8 @@ public:
 signals:
     // The answers of MLCHANGE that say it.
     void edited(const QStringList& answers);
+    // Escape: the focus belongs elsewhere.
+    void left();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -30,23 +30,6 @@ bool areFinite(std::span<const double> values) {
                        [](double value) { return std::isfinite(value); });
 }
 
-bool isFinite(const MlineContent& mline) {
-    const MlineChain chain(mline);
-    for (unsigned v = 0; v < chain.vertexCount(); ++v) {
-        const ChainVertex& vertex = chain.vertex(v);
-        if (!isFinite(vertex.position - KdGePoint3d()) || !isFinite(vertex.axis) ||
-            !isFinite(vertex.miter)) {
-            return false;
-        }
-        for (unsigned e = 0; e < mline.lists.elementCount(v); ++e) {
-            if (!areFinite(chain.line(v, e)) || !areFinite(chain.area(v, e))) {
-                return false;
-            }
-        }
-    }
-    return isFinite(mline.normal) && std::isfinite(mline.scale);
-}
-
 // Nothing when the chain can be judged.
 std::optional<std::string> objectionTo(const MlineContent& mline, const ChainFrame& frame) {
     const KdGeVector3d normal = mline.normal;
@@ -80,6 +63,23 @@ Miter storedOrStyleMiter(const KdGeVector3d& stored, const VertexFrame& frame,
 }
 
 } // namespace
+
+bool isFinite(const MlineContent& mline) {
+    const MlineChain chain(mline);
+    for (unsigned v = 0; v < chain.vertexCount(); ++v) {
+        const ChainVertex& vertex = chain.vertex(v);
+        if (!isFinite(vertex.position - KdGePoint3d()) || !isFinite(vertex.axis) ||
+            !isFinite(vertex.miter)) {
+            return false;
+        }
+        for (unsigned e = 0; e < mline.lists.elementCount(v); ++e) {
+            if (!areFinite(chain.line(v, e)) || !areFinite(chain.area(v, e))) {
+                return false;
+            }
+        }
+    }
+    return isFinite(mline.normal) && std::isfinite(mline.scale);
+}
 
 Result<ChainFrame> chainFrameOf(const MlineContent& mline, const StyleLayout& style) {
     const MlineChain chain(mline);

@@ -29,6 +29,9 @@ struct ChainFrame {
 // without length, not in one plane square to the normal, or with numbers that aren't finite.
 Result<ChainFrame> chainFrameOf(const MlineContent& mline, const StyleLayout& style);
 
+// Whether all numbers of a multiline are finite.
+bool isFinite(const MlineContent& mline);
+
 // The sine of the angle between a stored miter and the line that it should lie on; 1 for one
 // without length. Its sense doesn't matter.
 double miterDeviation(const KdGeVector3d& stored, const VertexFrame& frame);

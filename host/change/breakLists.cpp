@@ -1,5 +1,7 @@
 #include "breakLists.h"
 
+#include "impossible.h"
+
 #include "geometry.h"
 
 #include <algorithm>
@@ -104,6 +106,18 @@ std::vector<double> remeasured(std::span<const double> list, const TrackMove& mo
 
 bool ascends(std::span<const double> list) {
     return list.empty() || std::is_sorted(list.begin() + 1, list.end());
+}
+
+std::optional<Failure> gapContradiction(const MlineContent& mline) {
+    const MlineChain chain(mline);
+    for (unsigned s = 0; s < chain.segmentCount(); ++s) {
+        for (unsigned e = 0; e < mline.lists.elementCount(s); ++e) {
+            if (!ascends(chain.line(s, e)) || !ascends(chain.area(s, e))) {
+                return impossible("its gaps contradict each other");
+            }
+        }
+    }
+    return std::nullopt;
 }
 
 std::vector<double> inOrder(std::span<const double> list) {

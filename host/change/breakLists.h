@@ -1,9 +1,11 @@
 #pragma once
 
+#include "Failure.h"
 #include "KdMLSegment.h"
 #include "mlineTrack.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -41,6 +43,8 @@ std::vector<double> remeasured(std::span<const double> list, const TrackMove& mo
 
 // Whether no distance lies before the one in front of it.
 bool ascends(std::span<const double> list);
+// Why no edit can keep the gaps: a list of some segment doesn't ascend.
+std::optional<Failure> gapContradiction(const MlineContent& mline);
 // The same drawn stretches in order, those that overlap as one.
 std::vector<double> inOrder(std::span<const double> list);
 // Without what lies after the end of the track.

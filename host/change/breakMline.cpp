@@ -216,6 +216,9 @@ Result<std::vector<MlineContent>> broken(const MlineContent& mline, const KdGePo
     if (const auto frame = chainFrameOf(mline, {}); !frame) {
         return frame.failure();
     }
+    if (const auto contradiction = gapContradiction(mline)) {
+        return *contradiction;
+    }
     const Breaker breaker(mline);
     const ChainPlace place = breaker.placeNear(first);
     const Breaker::Gap gap =
@@ -236,6 +239,9 @@ Result<MlineContent> connected(const MlineContent& first, const MlineContent& se
         }
         if (each->closed) {
             return impossible("a closed one has no ends");
+        }
+        if (const auto contradiction = gapContradiction(*each)) {
+            return *contradiction;
         }
     }
     if (first.style != second.style || first.justification != second.justification ||

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace orvex {
 
@@ -32,13 +33,8 @@ std::optional<std::string> objectionTo(const MlineContent& mline, const StyleLay
     if (change.keepsLines && (change.style || change.scale || change.closed)) {
         return "its lines can be kept under another justification only";
     }
-    const MlineChain chain(mline);
-    for (unsigned s = 0; s < chain.segmentCount(); ++s) {
-        for (unsigned e = 0; e < chain.elementCount(); ++e) {
-            if (!ascends(chain.line(s, e)) || !ascends(chain.area(s, e))) {
-                return "its gaps contradict each other";
-            }
-        }
+    if (const auto contradiction = gapContradiction(mline)) {
+        return contradiction->text;
     }
     return std::nullopt;
 }
@@ -142,6 +138,34 @@ Result<MlineContent> keepingLines(const MlineContent& mline, const StyleLayout& 
     return moved;
 }
 
+// Ends at the angles of one style get those of another; an end that was cut otherwise stays as it
+// is.
+Result<MlineContent> withEndsOf(const MlineContent& mline, const StyleLayout& before,
+                                const StyleLayout& after) {
+    if (mline.closed ||
+        (before.startAngle == after.startAngle && before.endAngle == after.endAngle)) {
+        return mline;
+    }
+    constexpr double kSameAngle = 1e-9; // sine
+    const Result<ChainFrame> frame = chainFrameOf(mline, before);
+    if (!frame) {
+        return frame.failure();
+    }
+    MlineContent turned = mline;
+    const std::size_t last = mline.vertices.size() - 1;
+    for (const auto& [end, old, fresh] :
+         {std::tuple(std::size_t{0}, before.startAngle, after.startAngle),
+          std::tuple(last, before.endAngle, after.endAngle)}) {
+        const KdGeVector3d& axis = frame->vertices[end].axis;
+        KdGeVector3d& miter = turned.vertices[end].miter;
+        const KdGeVector3d styled = endMiter(axis, mline.normal, old).direction;
+        if (cross(styled, miter).length() <= kSameAngle * styled.length() * miter.length()) {
+            miter = endMiter(axis, mline.normal, fresh).direction;
+        }
+    }
+    return laidAnew(std::move(turned), mline, before);
+}
+
 Result<MlineContent> withTopology(const MlineContent& mline, const StyleLayout& style,
                                   const MlineChange& change) {
     if (!change.closed || *change.closed == mline.closed) {
@@ -157,6 +181,10 @@ Result<ChangedMline> relaid(const MlineContent& mline, const StyleLayout* style,
         return impossible(*objection);
     }
     Result<MlineContent> chain = withTopology(mline, *newStyle, change);
+    if (chain && change.style && style != nullptr && chain->closed == mline.closed &&
+        style->offsets.size() == chain->elementCount()) {
+        chain = withEndsOf(*chain, *style, *newStyle);
+    }
     if (!chain) {
         return chain.failure();
     }
@@ -192,6 +220,9 @@ Result<ChangedMline> relaid(const MlineContent& mline, const StyleLayout* style,
             return laid.failure();
         }
         result.mline = std::move(*laid);
+    }
+    if (!isFinite(result.mline)) {
+        return impossible("a number in it would be too large");
     }
     return result;
 }

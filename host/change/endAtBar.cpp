@@ -76,6 +76,9 @@ Result<MlineContent> endAtBar(const MlineContent& mline, MlineEnd end, const Mli
             return frame.failure();
         }
     }
+    if (const auto contradiction = gapContradiction(mline)) {
+        return *contradiction;
+    }
     if (mline.closed) {
         return impossible("it is closed and has no ends");
     }

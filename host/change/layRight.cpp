@@ -1,6 +1,7 @@
 #include "layRight.h"
 
 #include "ChainFrame.h"
+#include "impossible.h"
 
 #include <algorithm>
 #include <cmath>
@@ -200,6 +201,9 @@ Result<MlineContent> laidAnew(MlineContent changed, const MlineContent& old,
     layDirections(changed, *frame);
     layPositions(changed, old, *frame, *oldFrame, true);
     layBreaks(changed, old, shifts, measure);
+    if (!isFinite(changed)) {
+        return impossible("a number in it would be too large");
+    }
     return changed;
 }
 

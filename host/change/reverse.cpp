@@ -115,6 +115,9 @@ Result<MlineContent> reversed(const MlineContent& mline) {
     if (mline.vertices.size() < 2) {
         return impossible("it has fewer than two vertices");
     }
+    if (const auto contradiction = gapContradiction(mline)) {
+        return *contradiction;
+    }
     return Reverser(mline).run();
 }
 

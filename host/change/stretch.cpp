@@ -1,6 +1,6 @@
 #include "stretch.h"
 
-#include "impossible.h"
+#include "breakLists.h"
 #include "layRight.h"
 #include "mlineTrack.h"
 #include "planMotion.h"
@@ -22,6 +22,9 @@ Result<MlineContent> stretched(const MlineContent& mline, const StyleLayout& sty
     }
     if (static_cast<std::size_t>(count) == goes.size()) {
         return movedBy(mline, shiftBy(shift));
+    }
+    if (const auto contradiction = gapContradiction(mline)) {
+        return *contradiction;
     }
     const MlineChain chain(mline);
     MlineContent changed = mline;

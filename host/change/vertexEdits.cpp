@@ -20,26 +20,14 @@ namespace {
 constexpr unsigned kFewestClosed = 3;
 constexpr unsigned kFewestOpen = 2;
 
-bool listsAscend(const MlineContent& mline) {
-    const MlineChain chain(mline);
-    for (unsigned s = 0; s < chain.segmentCount(); ++s) {
-        for (unsigned e = 0; e < mline.lists.elementCount(s); ++e) {
-            if (!ascends(chain.line(s, e)) || !ascends(chain.area(s, e))) {
-                return false;
-            }
-        }
-    }
-    return true;
-}
-
 // Nothing when the vertex can be edited.
 std::optional<Failure> objectionTo(const MlineContent& mline, const StyleLayout& style,
                                    unsigned vertex) {
     if (vertex >= mline.vertices.size()) {
         return impossible("it has no vertex " + std::to_string(vertex));
     }
-    if (!listsAscend(mline)) {
-        return impossible("its gaps contradict each other");
+    if (const auto contradiction = gapContradiction(mline)) {
+        return contradiction;
     }
     const Result<ChainFrame> frame = chainFrameOf(mline, style);
     return frame ? std::nullopt : std::optional(frame.failure());

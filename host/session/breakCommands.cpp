@@ -2,9 +2,12 @@
 
 #include "DatabaseCore.h"
 #include "HostCommand.h"
+#include "KdDbEntity.h"
 #include "KdDbStub.h"
+#include "PickTrial.h"
 #include "breakMline.h"
 #include "editMlines.h"
+#include "impossible.h"
 #include "mlineEdits.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -13,6 +16,14 @@
 namespace orvex {
 
 namespace {
+
+Result<MlineContent> connectedWith(const PickedMline& first, const KdDbStub& second,
+                                   const MlineContent& content) {
+    if (first.stub == &second) {
+        return impossible("it was picked twice");
+    }
+    return connected(*first.content, content);
+}
 
 // False for a cancel; an empty line leaves the point open.
 bool askSecond(const KdGePoint3d& first, std::optional<KdGePoint3d>& second) {
@@ -48,15 +59,27 @@ void breakCommand(Session& /*session*/) {
 
 void connectCommand(Session& /*session*/) {
     const auto first = pickMline(L"First multiline: ");
-    const auto second = first ? pickMline(L"Second multiline: ") : std::nullopt;
+    if (!first) {
+        return;
+    }
+    const PickTrialScope trial(
+        [&first](KdDbStub& entity,
+                 const KdGePoint3d& /*place*/) -> Result<std::unique_ptr<KdDbEntity>> {
+            const auto content = contentOf(entity);
+            if (content == nullptr || content->vertices.empty()) {
+                return impossible("no multiline");
+            }
+            Result<MlineContent> one = connectedWith(*first, entity, *content);
+            if (!one) {
+                return one.failure();
+            }
+            return freeMline(std::move(*one));
+        });
+    const auto second = pickMline(L"Second multiline: ");
     if (!second) {
         return;
     }
-    if (first->stub == second->stub) {
-        tellRefusal(*first->stub, "it was picked twice");
-        return;
-    }
-    Result<MlineContent> one = connected(*first->content, *second->content);
+    Result<MlineContent> one = connectedWith(*first, *second->stub, *second->content);
     if (!one) {
         tellRefusal(*first->stub, one.failure().text);
         return;

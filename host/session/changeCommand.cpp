@@ -22,6 +22,9 @@
 #include "restyle.h"
 #include "selection.h"
 #include "textCodec.h"
+#include "vertexEdits.h"
+
+#include <algorithm>
 
 namespace orvex {
 
@@ -145,6 +148,7 @@ void putOnLayer(MlineContent& mline, const std::wstring& layer) {
 
 void changeAll(const std::vector<KdDbStub*>& mlines, const AskedChange& asked) {
     std::size_t moved = 0;
+    std::size_t lostGaps = 0;
     editEach(
         mlines,
         [&](const MlineContent& mline) -> Result<MlineContent> {
@@ -154,6 +158,11 @@ void changeAll(const std::vector<KdDbStub*>& mlines, const AskedChange& asked) {
                 return result.failure();
             }
             moved += result->hasMovedGaps ? 1 : 0;
+            if (mline.elementCount() == result->mline.elementCount()) {
+                const std::size_t had = heldGaps(mline);
+                const std::size_t has = heldGaps(result->mline);
+                lostGaps += had > has ? had - has : 0;
+            }
             if (asked.layer) {
                 putOnLayer(result->mline, *asked.layer);
             }
@@ -164,6 +173,12 @@ void changeAll(const std::vector<KdDbStub*>& mlines, const AskedChange& asked) {
         printLine(L"In " + std::to_wstring(moved) +
                   L" of them gaps of single elements went to the nearest element.");
     }
+    tellLostGaps(lostGaps);
+}
+
+bool uses(KdDbStub& stub, KdDbObjectId style) {
+    return stub.kind == ObjectKind::mline && !stub.erased &&
+           KdDbMline::styleOf(KdDbObjectId(&stub)) == style;
 }
 
 } // namespace
@@ -182,8 +197,7 @@ std::vector<KdDbStub*> mlinesOfStyle(DatabaseCore& core, KdDbObjectId style) {
     std::vector<KdDbStub*> found;
     std::size_t locked = 0;
     for (KdDbStub& stub : core.objects().stubs()) {
-        if (stub.kind != ObjectKind::mline || stub.erased ||
-            KdDbMline::styleOf(KdDbObjectId(&stub)) != style) {
+        if (!uses(stub, style)) {
             continue;
         }
         if (isOnLockedLayer(stub)) {
@@ -196,6 +210,12 @@ std::vector<KdDbStub*> mlinesOfStyle(DatabaseCore& core, KdDbObjectId style) {
         printLine(std::to_wstring(locked) + L" on locked layers left out.");
     }
     return found;
+}
+
+bool isStyleUsed(DatabaseCore& core, KdDbObjectId style) {
+    auto& stubs = core.objects().stubs();
+    return std::any_of(stubs.begin(), stubs.end(),
+                       [style](KdDbStub& stub) { return uses(stub, style); });
 }
 
 void restyle(const std::vector<KdDbStub*>& mlines, KdDbObjectId style) {

@@ -1,9 +1,13 @@
 // EXTEND and TRIM: bring ends of multilines to another one without joining them.
 
 #include "HostCommand.h"
+#include "KdDbEntity.h"
 #include "KdDbStub.h"
+#include "PickTrial.h"
 #include "editMlines.h"
 #include "endAtBar.h"
+#include "impossible.h"
+#include "lockedLayers.h"
 #include "mlineEdits.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -20,9 +24,41 @@ MlineEnd endNear(const MlineContent& mline, const KdGePoint3d& place) {
     return isStart ? MlineEnd::start : MlineEnd::end;
 }
 
+struct Bar {
+    KdDbStub* stub = nullptr;
+    std::shared_ptr<const MlineContent> content;
+    BarLine line = BarLine::axis;
+};
+
+Result<MlineContent> ended(const KdDbStub& stub, const MlineContent& mline,
+                           const KdGePoint3d& place, const Bar& bar, EndChange change) {
+    if (&stub == bar.stub) {
+        return impossible("it is what the others are to end at");
+    }
+    return endAtBar(mline, endNear(mline, place), *bar.content, bar.line, change);
+}
+
+PickTrial trialOf(const Bar& bar, EndChange change) {
+    return [&bar, change](KdDbStub& entity,
+                          const KdGePoint3d& place) -> Result<std::unique_ptr<KdDbEntity>> {
+        const auto content = contentOf(entity);
+        if (content == nullptr || content->vertices.empty()) {
+            return impossible("no multiline");
+        }
+        if (isOnLockedLayer(entity)) {
+            return impossible("on a locked layer");
+        }
+        Result<MlineContent> result = ended(entity, *content, place, bar, change);
+        if (!result) {
+            return result.failure();
+        }
+        return freeMline(std::move(*result));
+    };
+}
+
 void bringEnds(EndChange change) {
-    const auto bar = pickMline(L"Multiline to end at: ");
-    if (!bar) {
+    const auto pickedBar = pickMline(L"Multiline to end at: ");
+    if (!pickedBar) {
         return;
     }
     wchar_t word[kPromptTextSize] = L"";
@@ -30,10 +66,12 @@ void bringEnds(EndChange change) {
     if (kdedGetKword(L"To its [Axis/Outer]: ", word) != kPromptNormal) {
         return;
     }
-    const BarLine line = std::wstring_view(word) == L"Axis" ? BarLine::axis : BarLine::outer;
+    const Bar bar{pickedBar->stub, pickedBar->content,
+                  std::wstring_view(word) == L"Axis" ? BarLine::axis : BarLine::outer};
     const wchar_t* const prompt = change == EndChange::extend
                                       ? L"Pick near an end to extend, Enter to stop: "
                                       : L"Pick near an end to trim, Enter to stop: ";
+    const PickTrialScope trial(trialOf(bar, change));
     for (;;) {
         const auto picked = pickMline(prompt);
         if (!picked) {
@@ -42,13 +80,8 @@ void bringEnds(EndChange change) {
             }
             return;
         }
-        if (picked->stub == bar->stub) {
-            tellRefusal(*picked->stub, "it is what the others are to end at");
-            continue;
-        }
         Result<MlineContent> moved =
-            endAtBar(*picked->content, endNear(*picked->content, picked->place), *bar->content,
-                     line, change);
+            ended(*picked->stub, *picked->content, picked->place, bar, change);
         if (moved) {
             storeContent(*picked->stub, std::move(*moved));
         } else {

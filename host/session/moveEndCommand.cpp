@@ -1,6 +1,7 @@
 // MLEND: moves an open end of a multiline along its own segment.
 
 #include "HostCommand.h"
+#include "breakLists.h"
 #include "commandOutput.h"
 #include "kddbObjects.h"
 #include "mlineEdits.h"
@@ -66,8 +67,11 @@ void moveEndCommand(Session& /*session*/) {
     if (kdedGetPoint(from, L"New point: ", point) != kPromptNormal) {
         return;
     }
-    Result<MlineContent> moved = moveEnd(*picked.content, isStart ? MlineEnd::start : MlineEnd::end,
-                                         userToWorld({point[0], point[1], point[2]}));
+    const auto contradiction = gapContradiction(*picked.content);
+    Result<MlineContent> moved =
+        contradiction ? Result<MlineContent>(*contradiction)
+                      : moveEnd(*picked.content, isStart ? MlineEnd::start : MlineEnd::end,
+                                userToWorld({point[0], point[1], point[2]}));
     if (!moved) {
         kdutPrintf(L"%ls", widen("The end stays: " + moved.failure().text).c_str());
         return;

@@ -80,6 +80,33 @@ bool renameStyle(DatabaseCore& core, KdDbStub& stub, const std::wstring& name) {
     return true;
 }
 
+// The copy may take the name of the old style, which goes once nothing uses it.
+void nameCopy(DatabaseCore& core, KdDbStub& old, KdDbStub& copy) {
+    const std::wstring oldName = core.wellKnown().nameOfStyle(old);
+    const std::wstring copyName = core.wellKnown().nameOfStyle(copy);
+    const bool isOldFree = !isStyleUsed(core, KdDbObjectId(&old));
+    const auto newName = askName(
+        isOldFree ? L"Its name, '" + oldName + L"' to replace that style" : L"Its name", copyName);
+    if (!newName || *newName == copyName) {
+        return;
+    }
+    const bool replacesOld = core.wellKnown().findStyle(*newName) == &old;
+    if (replacesOld && !isOldFree) {
+        printLine(L"'" + oldName + L"' is still in use; the copy stays '" + copyName + L"'.");
+        return;
+    }
+    const bool isCurrent = variableText(L"CMLSTYLE") == copyName;
+    if (replacesOld) {
+        core.erase(old);
+    }
+    const std::wstring& name = replacesOld ? oldName : *newName;
+    if (!renameStyle(core, copy, name)) {
+        printLine(L"There is a style of that name already; it stays '" + copyName + L"'.");
+    } else if (isCurrent) {
+        setVariableText(L"CMLSTYLE", name);
+    }
+}
+
 bool askWhetherAll(std::size_t count, const std::wstring& from, const std::wstring& to) {
     const std::wstring question = L"Shall all " + std::to_wstring(count) + L" that use '" + from +
                                   L"' take '" + to + L"' [Yes/No] <Yes>: ";
@@ -122,16 +149,7 @@ void styleInUseCommand(Session& session) {
         return;
     }
     restyle(uses, KdDbObjectId(copy));
-    const auto newName = askName(L"Its name", copyName);
-    if (!newName || *newName == copyName) {
-        return;
-    }
-    const bool isCurrent = variableText(L"CMLSTYLE") == copyName;
-    if (!renameStyle(core, *copy, *newName)) {
-        printLine(L"There is a style of that name already; it stays '" + copyName + L"'.");
-    } else if (isCurrent) {
-        setVariableText(L"CMLSTYLE", *newName);
-    }
+    nameCopy(core, *old, *copy);
 }
 
 } // namespace orvex

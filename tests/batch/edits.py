@@ -10,8 +10,11 @@ import sys
 import tempfile
 
 import ezdxf
+from ezdxf.math import OCS, Vec3
 
 from program import Report, call, listed, make_drawing, play
+
+SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
 
 
 def chain(mline):
@@ -190,6 +193,43 @@ class Edits:
         self.report.check(f"multiline {self.handles[0]}: style Standard, scale 1, zero, open, layer 0, 2 vertices, length 100"
                           in told and "2 other than multilines" in told, told)
 
+    # What has no shape afterwards, or none before, stays as it is and is told.
+    def refusing(self):
+        path = self.out.with_name("odd.dxf")
+        document = ezdxf.new("R2000")
+        space, at_zero = document.modelspace(), {"justification": 1}
+        many = document.mline_styles.new("MANY")
+        for number in range(17):
+            many.elements.append(number / 10)
+        odd = space.add_mline([(0, 0), (100, 0)], dxfattribs=at_zero)
+        odd.vertices[0].line_params = [(0.5, 0.0, 60.0, 20.0, 40.0, 10.0), (-0.5, 0.0)]
+        sharp = space.add_mline([(0, 50), (100, 50), (0, 51)], dxfattribs=at_zero)
+        ring = space.add_mline([(200, 0), (300, 0), (300, 50)], close=True, dxfattribs=at_zero)
+        tilt = Vec3(0.3, 0.2, 1).normalize()
+        steep = space.add_mline(list(OCS(tilt).points_to_wcs(Vec3.generate([(0, 90), (100, 90), (100, 150)]))),
+                                dxfattribs={**at_zero, "extrusion": tilt})
+        space.add_mline([(150, -50), (150, 60)], dxfattribs=at_zero)
+        document.saveas(path)
+        odd, sharp, ring, steep, bar = (mline["handle"] for mline in listed(self.program, path)["multilines"])
+        contradiction = "contradict each other"
+        for script, word in ((f"STRETCH\n90,-9\n110,9\n0,0\n9,3\n", contradiction),
+                             (f"MLBREAK\n50,0 #{odd}\n55,0\n\n", contradiction), (f"REVERSE\n#{odd}\n\n", contradiction),
+                             (f"MLEND\n98,0 #{odd}\n120,0\n", contradiction),
+                             (f"EXTEND\n150,9 #{bar}\nA\n98,0 #{odd}\n\n", contradiction),
+                             (f"MLCONNECT\n98,0 #{odd}\n2,50 #{sharp}\n", contradiction),
+                             (f"MLVERTEX\n#{odd}\n1\nM\n9,9\n", contradiction),
+                             (f"MLCHANGE\n#{odd}\n\nSC\n2\n\n", contradiction),
+                             (f"MLCHANGE\n#{sharp}\n\nSC\n1e307\n\n", "too large"),
+                             (f"MLCHANGE\n#{ring}\n\nST\nMANY\n\n", "1 to 16 elements"),
+                             (f"MLVERTEX\n#{ring}\n1\nRemove\n", "three vertices or more"),
+                             (f"MLVERTEX\n#{sharp}\n0\nMove\n100,50\n", "its neighbour"),
+                             (f"EXTEND\n150,9 #{bar}\nA\n2,90 #{steep}\n\n", "the plane of the bar"),
+                             (f"ROTATE\n#{steep}\n\n0,0\n30\n", "leave its plane"),
+                             (f"MIRROR\n#{steep}\n\n0,0\n30,1\n", "leave its plane")):
+            run = play(self.program, path, script, self.out)
+            self.report.check(word in run.stdout, f"{script!r} prints {run.stdout}, expected {word!r}")
+            self.expect(f"bytes after {script!r}", self.out.read_bytes() == path.read_bytes(), True)
+
     # Bars of width 10 at x = 100 and x = 200, a wall from 20 to 80 and one from 20 to 130 below it.
     def bars(self):
         path = self.out.with_name("bars.dxf")
@@ -213,6 +253,20 @@ class Edits:
             play(self.program, path, script + ("U\n" if ends != (80, 130) or start in script else ""), self.out)
             self.expect(f"bytes after {script!r} and U", self.out.read_bytes() == path.read_bytes(), True)
 
+    # The sample's house rebuilt: nothing missed, nothing that contradicts itself, and all of it can be taken back.
+    def sample(self):
+        plan, script = SAMPLES / "floorplan.dxf", (SAMPLES / "changes.scr").read_text()
+        run = call(self.program, "run", plan, "--script", SAMPLES / "changes.scr", "--output", self.out, "--strict")
+        self.expect(f"status ({run.stderr})", run.returncode, 0)
+        refused = [line for line in run.stdout.splitlines() if "left as it is" in line or "Nothing" in line or "gone" in line]
+        self.expect("refused", refused, [])
+        self.expect("findings", json.loads(call(self.program, "audit", self.out, "--json").stdout)["findings"], [])
+        self.expect("faults", self.errors_of(self.out), self.errors_of(plan))
+        before, after = (len(listed(self.program, path)["multilines"]) for path in (plan, self.out))
+        self.expect("multilines", after, before)  # a copy and a half more; one erased, one exploded
+        play(self.program, plan, script + "U\n" * 40, self.out)
+        self.expect("bytes after all U", self.out.read_bytes() == plan.read_bytes(), True)
+
 
 def main():
     with tempfile.TemporaryDirectory() as folder:
@@ -224,6 +278,8 @@ def main():
         edits.closing()
         edits.parting()
         edits.bars()
+        edits.refusing()
+        edits.sample()
         edits.report.finish()
 
 

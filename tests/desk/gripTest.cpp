@@ -1,5 +1,6 @@
 #include "WallsFixture.h"
 
+#include "drawingNames.h"
 #include "selectionFacts.h"
 
 #include <QComboBox>
@@ -189,7 +190,72 @@ TEST_F(GripFixture, aStyleInUseGivesWayToItsCopy) {
                                },
                                trigger("undo"),
                                [&] { EXPECT_EQ(bytes(), before); },
+                               // The copy in place of the old style, which goes.
+                               type("MLSTYLEINUSE"),
+                               key(Qt::Key_Return),
+                               inDialog<QDialog>([](QDialog& dialog) { dialog.reject(); }),
+                               key(Qt::Key_Return),
+                               type("standard"),
+                               [&] {
+                                   EXPECT_EQ(styleOf(4), "STANDARD");
+                                   EXPECT_EQ(styleNames(window->session()->database()).size(), 1);
+                                   EXPECT_NE(bytes(), before);
+                               },
+                               trigger("undo"),
+                               [&] { EXPECT_EQ(bytes(), before); },
                            }));
+}
+
+// What EXTEND will make of an end is seen before the click, or why it won't.
+TEST_F(GripFixture, extendShowsTheEndAsItWillBe) {
+    const auto hover = [this](double x, double y) {
+        return Step([this, x, y] {
+            QMouseEvent move(QEvent::MouseMove, pixelAt(x, y), Qt::NoButton, Qt::NoButton, {});
+            QCoreApplication::sendEvent(canvas(), &move);
+        });
+    };
+    const auto hints = [this]() -> const CanvasHints& { return canvas()->hints(); };
+    play(then(drawWalls(), {
+                               type("EXTEND"),
+                               clickAt(200, 0),
+                               type("Axis"),
+                               hover(300, 30),
+                               until([=] { return !hints().after.empty(); }),
+                               [=] { EXPECT_TRUE(hints().changesTarget); },
+                               hover(650, 0),
+                               until([=] { return !hints().words.isEmpty(); }),
+                               [=] { EXPECT_TRUE(hints().after.empty()); },
+                               key(Qt::Key_Escape),
+                           }));
+}
+
+// From grip to grip by Tab, a vertex moved, another added by the menu.
+TEST_F(GripFixture, gripsAreReachedByKeysAlone) {
+    const auto onCanvas = [this](Qt::Key which, Qt::KeyboardModifiers modifiers = {}) {
+        return Step([this, which, modifiers] { QTest::keyClick(canvas(), which, modifiers); });
+    };
+    play(then(drawWalls(), {
+                               clickAt(200, 0),
+                               trigger("crossByKeys"),
+                               onCanvas(Qt::Key_Tab),
+                               onCanvas(Qt::Key_Tab),
+                               onCanvas(Qt::Key_Return),
+                               [this] { EXPECT_TRUE(history().contains("MLVERTEX")); },
+                               type("450,60"),
+                               [this] { EXPECT_NEAR(canvas()->grips()[1].x, 450, 1e-9); },
+                               onCanvas(Qt::Key_Tab, Qt::ShiftModifier),
+                               onCanvas(Qt::Key_F10, Qt::ShiftModifier),
+                               [this] {
+                                   auto* const menu = window->findChild<QMenu*>("gripMenu");
+                                   ASSERT_NE(menu, nullptr);
+                                   menu->actions()[1]->trigger();
+                                   menu->close();
+                               },
+                               type("200,90"),
+                               grips(3),
+                           }));
+    const std::string byHand = bytes();
+    EXPECT_EQ(byHand, bytesOfNewByScript(script()));
 }
 
 } // namespace

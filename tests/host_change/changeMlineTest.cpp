@@ -48,9 +48,21 @@ TEST(ChangeMline, laysRightAndLeavesGapsWhereTheyLie) {
         if (random.upTo(1) == 0) {
             change.closed = mline.closed ? random.upTo(1) == 0 : false;
         }
+        StyleLayout other = random.style();
+        if (other.offsets.size() == style.offsets.size()) {
+            change.style = MlineChange::Style{KdDbObjectId(), other};
+        } else {
+            other = style;
+        }
         const auto result = changed(mline, &style, change);
         ASSERT_TRUE(result) << i;
-        ASSERT_THAT(auditMline(result->mline, &style), ::testing::IsEmpty()) << i;
+        ASSERT_THAT(auditMline(result->mline, &other), ::testing::IsEmpty()) << i;
+        if (!result->mline.closed) { // the ends are cut as the style wants it
+            const ChainVertex& start = result->mline.vertices.front();
+            const ChainVertex& end = result->mline.vertices.back();
+            ASSERT_NEAR(dot(start.miter, start.axis), std::cos(other.startAngle), 1e-9) << i;
+            ASSERT_NEAR(dot(end.miter, end.axis), std::cos(other.endAngle), 1e-9) << i;
+        }
         const unsigned segments = MlineChain(result->mline).segmentCount();
         const auto was = gapEnds(mline, segments);
         const auto is = gapEnds(result->mline, segments);
