@@ -46,7 +46,7 @@ void Canvas::State::click(const Click& click) {
     } else if (!takesSelection()) {
         const GuidedPoint point = guidedAt(click.at, click.modifiers);
         emit canvas.clicked(point.at.x, point.at.y, point.isExact);
-    } else if (session->scene().entityAt({click.at.x, click.at.y, 0.0}, aim.pickBox) != nullptr) {
+    } else if (entityAt(click.at) != nullptr) {
         emit canvas.picked(click.at.x, click.at.y, (click.modifiers & Qt::ShiftModifier) != 0);
     } else {
         startSelectionWindow(click.at, false);
@@ -83,7 +83,7 @@ bool Canvas::State::isSelectedAt(const QPoint& pixel) const {
         return false;
     }
     const PlanPoint at = planAt(pixel);
-    const KdDbStub* const found = session->scene().entityAt({at.x, at.y, 0.0}, aim.pickBox);
+    const KdDbStub* const found = entityAt(at);
     const std::vector<KdDbStub*>& selected = overlay.selected();
     return found != nullptr && std::find(selected.begin(), selected.end(), found) != selected.end();
 }

@@ -111,7 +111,7 @@ bool Canvas::State::startView() {
     const bool isFirst = !session->isViewStarted();
     fitWidget();
     if (isFirst) {
-        view().zoomTo(session->scene().extents());
+        view().zoomTo(session->planToSee());
         isAtExtents = true;
     }
     shown = {};
@@ -161,10 +161,32 @@ void Canvas::State::moveTo(const ViewState& viewState, bool sameMovement) {
     showView();
 }
 
+// Also what is being drawn, as far as its points are given.
+PlanBox Canvas::State::planToSee() {
+    PlanBox drawn;
+    if (aim.kind == AimKind::point && aim.base) {
+        drawn.include(*aim.base);
+        if (aim.preview) {
+            for (const Stroke& stroke : aim.preview(*aim.base).strokes) {
+                for (const PlanPoint& point : stroke.points) {
+                    drawn.include(point);
+                }
+            }
+        }
+    }
+    const bool isLong = !drawn.isEmpty() && drawn.low != drawn.high;
+    PlanBox box = isLong ? session->scene().extents() : session->planToSee();
+    if (!drawn.isEmpty()) {
+        box.include(drawn.low);
+        box.include(drawn.high);
+    }
+    return box;
+}
+
 void Canvas::State::zoomToExtents() {
     wantsExtents = false;
     const ViewState before = stateOf(view());
-    view().zoomTo(session->scene().extents());
+    view().zoomTo(planToSee());
     if (stateOf(view()) != before) {
         history.leave(before, isAtExtents);
     }
@@ -179,6 +201,11 @@ void Canvas::State::dropHighlight() {
     }
 }
 
+// As it is seen, which isn't how commands measure.
+KdDbStub* Canvas::State::entityAt(PlanPoint place) const {
+    return session->scene().pick(place, aim.pickBox * view().unitsPerPixel());
+}
+
 PickTarget Canvas::State::targetAt(PlanPoint place) const {
     const double reach = aim.pickBox * view().unitsPerPixel();
     const PlanBox square{{place.x - reach, place.y - reach}, {place.x + reach, place.y + reach}};
@@ -188,7 +215,7 @@ PickTarget Canvas::State::targetAt(PlanPoint place) const {
     if (pickFinder) {
         return pickFinder(place);
     }
-    return {session->scene().entityAt({place.x, place.y, 0.0}, aim.pickBox), {}};
+    return {entityAt(place), {}};
 }
 
 // What a pick would find. The scene is up to date.

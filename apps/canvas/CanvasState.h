@@ -135,8 +135,10 @@ struct Canvas::State {
     void showView();
     void fitWidget();
     void moveTo(const ViewState& state, bool sameMovement);
+    [[nodiscard]] PlanBox planToSee();
     void zoomToExtents();
     void updateHighlight();
+    [[nodiscard]] KdDbStub* entityAt(PlanPoint place) const;
     [[nodiscard]] PickTarget targetAt(PlanPoint place) const;
     void paintHints(QPainter& painter) const;
     void dropHighlight();

@@ -10,16 +10,13 @@
 
 namespace orvex {
 
-void DeskDrawing::replace(std::unique_ptr<DrawingFile> file, const QString& path, int viewWidth,
-                          int viewHeight) {
+void DeskDrawing::replace(std::unique_ptr<DrawingFile> file, const QString& path) {
     m_edits.reset();
     m_session.reset(); // there is one at a time
     SessionSetup setup;
     setup.drawing = std::move(file);
     setup.source = &m_source;
     setup.hasWindow = true;
-    setup.viewWidth = std::max(viewWidth, 1);
-    setup.viewHeight = std::max(viewHeight, 1);
     setup.moduleFiles = m_moduleFiles;
     m_session = std::make_unique<Session>(std::move(setup), m_modules);
     m_edits = std::make_unique<ChangeFeed>(m_session->database().core());

@@ -25,8 +25,7 @@ public:
         : m_modules(modules), m_source(source), m_moduleFiles(std::move(moduleFiles)) {}
 
     // Lets the drawing go that was there, with its session. An empty path: it has no file yet.
-    void replace(std::unique_ptr<DrawingFile> file, const QString& path, int viewWidth,
-                 int viewHeight);
+    void replace(std::unique_ptr<DrawingFile> file, const QString& path);
 
     [[nodiscard]] Session* session() const { return m_session.get(); } // null before `replace`
     [[nodiscard]] const QString& path() const { return m_path; }       // absolute

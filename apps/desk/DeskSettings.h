@@ -26,6 +26,7 @@ public:
     static constexpr const wchar_t* kSnapModes = L"SnapModes";
     static constexpr const wchar_t* kSnapAperture = L"SnapAperture"; // pixels
     static constexpr const wchar_t* kAngleStep = L"AngleStep";       // degrees
+    static constexpr const wchar_t* kDirection = L"Direction";       // ORTHO, POLAR or ANY
     static constexpr const wchar_t* kPictureFolder = L"PictureFolder";
     static constexpr const wchar_t* kUndoMemory = L"UndoMemory"; // MiB
     static constexpr const wchar_t* kLanguage = L"Language"; // "de"; empty for the system's

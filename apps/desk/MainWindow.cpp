@@ -200,7 +200,7 @@ void MainWindow::post(std::function<void()> task) {
 void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& path) {
     m_canvas->setSession(nullptr);
     m_runner.setSession(nullptr);
-    m_drawing.replace(std::move(file), path, m_canvas->width(), m_canvas->height());
+    m_drawing.replace(std::move(file), path);
     m_join->setSession(*session());
     m_snap->setSession(*session());
     m_drawBar->setSession(*session());
@@ -256,6 +256,8 @@ void MainWindow::perform(WindowAct act) {
         return post([this] { m_files.exportPicture(); });
     case WindowAct::playScript:
         return m_play->askAndPlay();
+    case WindowAct::saveHistory:
+        return post([this] { m_play->askAndSave(*session(), m_drawing.name()); });
     case WindowAct::exit:
         close();
         return;

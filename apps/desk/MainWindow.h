@@ -48,6 +48,7 @@ public:
     void start(const QString& command, const QStringList& answers = {});
 
     [[nodiscard]] Session* session() const { return m_drawing.session(); }
+    [[nodiscard]] bool isBusy() const { return m_runner.isBusy(); }
     // Nothing runs, or a command asks something.
     [[nodiscard]] bool waitsForUser() const {
         return !m_runner.isBusy() || m_prompts.request() != nullptr;

@@ -1,13 +1,16 @@
 #include "PlayScript.h"
 
+#include "AtomicFile.h"
 #include "CommandRunner.h"
 #include "DeskSettings.h"
 #include "ScriptSource.h"
 #include "Session.h"
+#include "printableText.h"
 #include "qtWide.h"
 #include "readFile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -54,6 +57,33 @@ void PlayScript::askAndPlay() {
     if (!path.isEmpty()) {
         m_settings.setText(DeskSettings::kScriptFolder, QFileInfo(path).absolutePath());
         play(path);
+    }
+}
+
+void PlayScript::askAndSave(Session& session, const QString& drawing) {
+    const QString name = QFileInfo(drawing).completeBaseName() + QLatin1String(".scr");
+    const QString path = QFileDialog::getSaveFileName(
+        &m_window, tr("Save the history as a script"),
+        QDir(m_settings.text(DeskSettings::kScriptFolder)).filePath(name),
+        tr("Scripts (*.scr *.SCR);;All files (*)"));
+    if (!path.isEmpty()) {
+        m_settings.setText(DeskSettings::kScriptFolder, QFileInfo(path).absolutePath());
+        save(session, drawing, path);
+    }
+}
+
+void PlayScript::save(Session& session, const QString& drawing, const QString& path) {
+    const ScriptRecord& record = session.record();
+    const std::string text =
+        "; what was done to " + printableText(drawing.toStdString()) + '\n' + record.text();
+    if (const auto failure = saveFile(path.toStdString(), text)) {
+        emit complained(QString::fromStdString(messageOf(*failure)));
+        return;
+    }
+    emit printed(tr("Written into %1").arg(path));
+    if (!record.isWhole()) {
+        emit complained(tr("What was changed in dialogs of styles is in no script: played, it "
+                           "won't give the same drawing."));
     }
 }
 

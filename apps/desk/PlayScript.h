@@ -12,9 +12,9 @@ class DeskSettings;
 class ScriptSource;
 class Session;
 
-// Plays the lines of a script in the window's drawing as orvex-batch does: each command is a step
-// of its own, none may show a dialog, and the first failure ends it with the line; what was done
-// stays.
+// Scripts in the window: writes what was done as one, and plays the lines of one in the window's
+// drawing as orvex-batch does: each command is a step of its own, none may show a dialog, and the
+// first failure ends it with the line; what was done stays.
 class PlayScript final : public QObject {
     Q_OBJECT
 
@@ -26,6 +26,9 @@ public:
     // At the command prompt only; else it says so.
     void askAndPlay();
     void play(const QString& path);
+    // Writes what was done in a drawing of this name since it was opened.
+    void askAndSave(Session& session, const QString& drawing);
+    void save(Session& session, const QString& drawing, const QString& path);
     // After the command that runs.
     void stop() { m_isStopped = true; }
     [[nodiscard]] bool isPlaying() const { return m_isPlaying; }

@@ -3,11 +3,13 @@
 #include "Session.h"
 #include "clickedPoint.h"
 #include "geometry.h"
+#include "roundNumber.h"
 #include "snapWords.h"
 #include "userFrame.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -79,7 +81,10 @@ GuidedPoint PointGuide::onRay(PlanPoint base, PlanPoint ray, PlanPoint cursor,
     const PlanPoint way{cursor.x - base.x, cursor.y - base.y};
     const double length = roundedLength(dot(way, ray), unitsPerPixel);
     GuidedPoint point{
-        .at = {base.x + ray.x * length, base.y + ray.y * length}, .isExact = true, .rayFrom = base};
+        .at = {withoutNoise(base.x + ray.x * length, std::max(std::abs(base.x), length)),
+               withoutNoise(base.y + ray.y * length, std::max(std::abs(base.y), length))},
+        .isExact = true,
+        .rayFrom = base};
     if (direction == PointDirection::steps) {
         const double degrees = std::atan2(ray.y, ray.x) * 180.0 / kPi;
         point.name =

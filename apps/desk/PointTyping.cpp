@@ -5,6 +5,7 @@
 #include "DeskPrompts.h"
 #include "PromptSession.h"
 #include "qtWide.h"
+#include "roundNumber.h"
 #include "userFrame.h"
 
 #include <cmath>
@@ -15,6 +16,10 @@ namespace {
 
 KdGePoint3d baseOf(const PromptRequest& request) { // world
     return request.base.value_or(PromptSession::current().lastPoint);
+}
+
+KdGePoint3d beside(const KdGePoint3d& user, double x, double y) {
+    return {withoutNoise(user.x + x, user.x), withoutNoise(user.y + y, user.y), user.z};
 }
 
 PointReading typedAt(const KdGePoint3d& user) {
@@ -61,8 +66,8 @@ PointReading PointTyping::alongMouse(const PromptRequest& request, double length
     if (!m_direction) {
         return BrokenPoint{0, L"a length needs a direction: move the mouse over the drawing"};
     }
-    return typedAt(worldToUser(
-        baseOf(request) + KdGeVector3d{m_direction->x * length, m_direction->y * length, 0.0}));
+    const KdGePoint3d base = baseOf(request);
+    return typedAt(worldToUser(beside(base, m_direction->x * length, m_direction->y * length)));
 }
 
 void PointTyping::showWhatEnterDoes() {
@@ -86,9 +91,8 @@ void PointTyping::answerAlongAxis(double length, int x, int y) {
         return;
     }
     const PointReading reading =
-        length == 0.0
-            ? alongMouse(*request, length)
-            : typedAt(worldToUser(baseOf(*request)) + KdGeVector3d{x * length, y * length, 0.0});
+        length == 0.0 ? alongMouse(*request, length)
+                      : typedAt(beside(worldToUser(baseOf(*request)), x * length, y * length));
     if (const auto* const typed = std::get_if<TypedPoint>(&reading)) {
         m_prompts.answerPoint(typed->point);
     } else {

@@ -32,6 +32,9 @@ constexpr double kSteps[] = {5.0, 10.0, 15.0, 22.5, 30.0, 45.0, 60.0};
 
 constexpr const wchar_t* kOff = L"OFF";
 
+// In the order of PointDirection.
+constexpr const char* kDirections[] = {"ANY", "ORTHO", "POLAR"};
+
 } // namespace
 
 SnapDesk::SnapDesk(QMainWindow& window, Canvas& canvas, DeskPrompts& prompts,
@@ -47,6 +50,11 @@ SnapDesk::SnapDesk(QMainWindow& window, Canvas& canvas, DeskPrompts& prompts,
     if (const double step = settings.text(DeskSettings::kAngleStep).toDouble();
         std::count(std::begin(kSteps), std::end(kSteps), step) > 0) {
         m_guide.step = step;
+    }
+    const auto* const direction = std::find(std::begin(kDirections), std::end(kDirections),
+                                            settings.text(DeskSettings::kDirection));
+    if (direction != std::end(kDirections)) {
+        m_guide.direction = static_cast<PointDirection>(direction - std::begin(kDirections));
     }
     m_word = new QLabel(&window);
     m_word->setObjectName(QStringLiteral("snapWord"));
@@ -83,7 +91,8 @@ void SnapDesk::setSession(Session& session) {
 
 Guide SnapDesk::guide(const PointContext& context) {
     m_guide.letGo();
-    return [this, context](PlanPoint cursor, Qt::KeyboardModifiers modifiers) {
+    return [this, context = PointContext{context.base, m_session->snapMemory().inHand}](
+               PlanPoint cursor, Qt::KeyboardModifiers modifiers) {
         return m_guide.point(*m_session, context, cursor, modifiers);
     };
 }
@@ -219,6 +228,8 @@ void SnapDesk::changed() {
     m_settings.setText(DeskSettings::kSnapModes, toQt(snapWordsOf(m_guide.modes)));
     m_settings.setText(DeskSettings::kSnapAperture, QString::number(m_guide.aperture));
     m_settings.setText(DeskSettings::kAngleStep, QString::number(m_guide.step));
+    m_settings.setText(DeskSettings::kDirection,
+                       QLatin1String(kDirections[static_cast<int>(m_guide.direction)]));
     show();
 }
 

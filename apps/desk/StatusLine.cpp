@@ -18,6 +18,15 @@ QLabel* addLabel(QStatusBar& bar, const char* name, int characters) {
     return label;
 }
 
+// A zero has no sign.
+QString numberText(double value, int decimals) {
+    QString text = QString::number(value, 'f', decimals);
+    if (text.startsWith('-') && text.toDouble() == 0.0) {
+        text.remove(0, 1);
+    }
+    return text;
+}
+
 } // namespace
 
 StatusLine::StatusLine(QStatusBar& bar)
@@ -27,8 +36,7 @@ StatusLine::StatusLine(QStatusBar& bar)
 
 void StatusLine::showCursor(double x, double y, double unitsPerPixel) {
     const int decimals = worthwhileDecimals(unitsPerPixel);
-    m_cursor->setText(QString::number(x, 'f', decimals) + QLatin1String(", ") +
-                      QString::number(y, 'f', decimals));
+    m_cursor->setText(numberText(x, decimals) + QLatin1String(", ") + numberText(y, decimals));
 }
 
 void StatusLine::clearCursor() {

@@ -11,6 +11,7 @@
 #include "editTools.h"
 #include "handleText.h"
 #include "hoverText.h"
+#include "pickScale.h"
 #include "qtWide.h"
 #include "refusalText.h"
 #include "userFrame.h"
@@ -109,6 +110,8 @@ void ToolDesk::chosen(unsigned dialog, int button) {
     const QString keyword = QLatin1String(kButtonTools[index]);
     m_session->toolWatch().chooseTool(toWide(keyword));
     m_runner.repeatAs(QStringLiteral("-MLEDIT"), {keyword});
+    m_session->record().begin(L"-MLEDIT", true);
+    m_session->record().line(toWide(keyword));
     m_prompts.print(toWide(tr("Command: %1").arg(QLatin1String("-MLEDIT"))));
     m_prompts.print(toWide(tr("Editing tool: %1").arg(keyword)));
 }
@@ -172,10 +175,15 @@ bool ToolDesk::answerPick(PlanPoint place) {
         return false;
     }
     const OverlapPicks::Choice choice = m_overlaps.take(*m_session, place);
-    if (choice.count < 2) {
-        return false;
-    }
     const KdGePoint3d point = clickedPoint(place.x, place.y, m_session->view().unitsPerPixel());
+    KdDbStub* const named = choice.count > 1 ? choice.entity : nullptr;
+    for (const QString& line : measureAsSeen(*m_session, *request, point, named)) {
+        m_prompts.print(toWide(line));
+    }
+    if (named == nullptr) {
+        m_prompts.answerPoint(point);
+        return true;
+    }
     m_prompts.answerLines({toQt(pointText(point)) + QLatin1String(" #") +
                            QString::fromStdString(handleText(choice.entity->handle))});
     return true;

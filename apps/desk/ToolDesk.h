@@ -39,8 +39,8 @@ public:
 
     // What a click takes, the next each time in the same place.
     KdDbStub* take(PlanPoint place);
-    // Answers a pick prompt where several entities lie together, by the one that is meant. False,
-    // and nothing was answered, anywhere else.
+    // Answers a pick prompt, where several entities lie together by the one that is meant. False,
+    // and nothing was answered, at any other question.
     bool answerPick(PlanPoint place);
 
 private:

@@ -17,7 +17,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <utility>
 
 namespace orvex {
 
@@ -26,7 +25,6 @@ namespace {
 using Stage = ToolWatch::Stage;
 
 constexpr const wchar_t* kUndo = L"Undo";
-constexpr const wchar_t* kToolsUndo = L"UNDO";
 constexpr int kMebibyte = 20;                                             // a power of two
 constexpr int kDefaultMemory = UndoLog::kDefaultMemoryLimit >> kMebibyte; // MiB
 constexpr int kLeastMemory = 1;
@@ -67,7 +65,6 @@ UndoDesk::UndoDesk(QMainWindow& window, Canvas& canvas, CommandRunner& runner, D
                    DeskSettings& settings)
     : QObject(&window), m_window(window), m_canvas(canvas), m_runner(runner), m_prompts(prompts),
       m_settings(settings) {
-    connect(&m_prompts, &DeskPrompts::asked, this, &UndoDesk::questionAsked);
     connect(&m_runner, &CommandRunner::commandEnded, this, &UndoDesk::commandEnded);
 }
 
@@ -92,8 +89,8 @@ void UndoDesk::undo() {
 
 void UndoDesk::redo() {
     if (const PromptRequest* const request = m_prompts.request()) {
-        if (m_session->toolWatch().stage() == Stage::first) {
-            redoCycle(*request);
+        if (!request->isWithin && m_session->toolWatch().stage() == Stage::first) {
+            m_prompts.answerText(QStringLiteral("'REDO"));
         }
     } else if (!m_runner.isBusy()) {
         m_runner.start(QStringLiteral("REDO"), {}, CommandRunner::Repeat::before);
@@ -114,72 +111,15 @@ bool UndoDesk::takeLine(const QString& line) {
 }
 
 void UndoDesk::undoAtQuestion(const PromptRequest& request) {
-    if (offers(request, kUndo)) {
+    if (request.isWithin) {
+        m_prompts.cancel(); // the transparent command only
+    } else if (offers(request, kUndo)) {
         m_prompts.answerText(toQt(std::wstring(kUndo)));
-        return;
-    }
-    switch (m_session->toolWatch().stage()) {
-    case Stage::first:
-        return undoCycle(request);
-    case Stage::second:
-        return beginToolAnew();
-    case Stage::none:
-        return m_prompts.cancelAll();
-    }
-}
-
-void UndoDesk::undoCycle(const PromptRequest& request) {
-    if (!changesOf(*m_session).rollBackToMark()) {
-        m_prompts.cancelAll();
-        return;
-    }
-    m_canvas.refresh();
-    const bool isToolsToo = std::exchange(m_isCycleLast, false);
-    if (!offers(request, kToolsUndo)) {
-        emit printed(tr("; the cycle before is taken back, too"));
-    } else if (isToolsToo) {
-        m_awaitsToolsUndo = true;
-        m_prompts.answerText(toQt(std::wstring(kToolsUndo)));
+    } else if (m_session->toolWatch().stage() != Stage::none) {
+        m_prompts.answerText(QStringLiteral("'U"));
     } else {
-        emit printed(tr("; the last cycle is taken back"));
-        beginToolAnew();
-    }
-}
-
-void UndoDesk::redoCycle(const PromptRequest& request) {
-    if (!changesOf(*m_session).rollForward()) {
-        return;
-    }
-    m_canvas.refresh();
-    m_isCycleLast = false;
-    emit printed(tr("; the cycle is there again"));
-    if (offers(request, kToolsUndo)) {
-        beginToolAnew();
-    }
-}
-
-// The tool knows nothing of what it did before; all of it stays one step.
-void UndoDesk::beginToolAnew() {
-    const ToolKind* const tool = m_session->toolWatch().tool();
-    if (tool == nullptr) {
         m_prompts.cancelAll();
-        return;
     }
-    m_session->followWith(L"-MLEDIT");
-    m_prompts.cancel();
-    m_prompts.answerAhead({toQt(std::wstring(tool->keyword))});
-}
-
-void UndoDesk::questionAsked() {
-    const bool wasToolsUndo = std::exchange(m_awaitsToolsUndo, false);
-    m_isCycleLast = false;
-    if (m_session == nullptr || m_session->toolWatch().stage() != Stage::first) {
-        return;
-    }
-    if (wasToolsUndo) {
-        changesOf(*m_session).restoreMark(); // whatever the tool made of its keyword
-    }
-    m_isCycleLast = changesOf(*m_session).mark();
 }
 
 void UndoDesk::commandEnded() {

@@ -33,9 +33,7 @@ struct PromptRequest;
 // Redo brings back the last command, or during a tool its last cycle, until something new is done.
 // What was finished before a command began is never touched while that runs.
 //
-// A tool's own keyword UNDO reaches one cycle back and may hit another multiline after a refused
-// pick. So cycles are taken back by marks of the database, and the keyword is answered only where
-// both are the same, else the tool begins anew, so that it offers nothing that isn't so any more.
+// All of it is answered by lines that a script has, too: 'U and 'REDO in a tool.
 class UndoDesk final : public QObject {
     Q_OBJECT
 
@@ -60,10 +58,6 @@ signals:
 
 private:
     void undoAtQuestion(const PromptRequest& request);
-    void undoCycle(const PromptRequest& request);
-    void redoCycle(const PromptRequest& request);
-    void beginToolAnew();
-    void questionAsked();
     void commandEnded();
     void showNames();
     void applyMemory();
@@ -75,8 +69,6 @@ private:
     DeskSettings& m_settings;
     Session* m_session = nullptr;
     std::vector<std::function<bool()>> m_holds;
-    bool m_isCycleLast = false;     // what a tool's keyword would take back is the last cycle
-    bool m_awaitsToolsUndo = false; // the keyword was answered for the user
     bool m_areDroppedTold = false;
 };
 

@@ -17,6 +17,7 @@ enum class WindowAct : std::uint8_t {
     saveAs,
     exportPicture,
     playScript,
+    saveHistory,
     exit,
     undo,
     redo,

@@ -13,6 +13,8 @@ struct KdDbStub;
 namespace orvex {
 
 class PromptWatcher;
+class ScriptRecord;
+class TransparentCommands;
 
 // Finds what a pick means. Implemented by the view.
 class EntityFinder {
@@ -37,8 +39,9 @@ public:
     // The window on the plan, drawing units, for VIEWCTR and VIEWSIZE.
     virtual KdGePoint3d viewCenter() const = 0;
     virtual double viewHeight() const = 0;
-    // A height that isn't finite and above 0 changes nothing.
-    virtual void setView(const KdGePoint3d& center, double height) = 0;
+    // What isn't finite, or no height above 0, changes nothing.
+    virtual void setViewCenter(const KdGePoint3d& center) = 0;
+    virtual void setViewHeight(double height) = 0;
 };
 
 // What the prompt library works with at the moment. One a process; pointers aren't owned and may
@@ -48,6 +51,8 @@ struct PromptSession {
     EntityFinder* finder = nullptr;
     DisplayListener* display = nullptr;
     PromptWatcher* watcher = nullptr;
+    TransparentCommands* transparent = nullptr; // null: there are none
+    ScriptRecord* record = nullptr;             // of all answers; null: nobody wants it
 
     int pickBox = 3;       // PICKBOX, pixels to each side; not stored in the drawing
     int errorNumber = 0;   // ERRNO
@@ -57,6 +62,7 @@ struct PromptSession {
     std::wstring lastKeyword;
     std::vector<std::wstring> completions; // go with the next question, and with it alone
     bool keepsOnEscape = false;            // the same
+    bool isWithin = false;                 // a transparent command runs
     // These go with each question that a point answers; set by PreviewScope.
     PromptPreview preview;
     PromptPreviews previews;

@@ -47,11 +47,22 @@ struct PromptRequest {
     // Whoever gives up by hand keeps what was answered so far, as an empty answer does. A script's
     // cancel is a cancel all the same.
     bool keepsOnEscape = false;
+    // A transparent command asks, in the middle of a question that waits.
+    bool isWithin = false;
 };
 
 // The answer, before the prompt library has judged it.
 struct PromptAnswer {
-    enum class Kind { cancel, empty, keyword, point, handle, number, text } kind = Kind::cancel;
+    enum class Kind {
+        cancel,
+        empty,
+        keyword,
+        point,
+        handle,
+        number,
+        text,
+        transparent, // a command in the middle of this one; `text` is its name
+    } kind = Kind::cancel;
     std::wstring keyword; // as the list spells it
     KdGePoint3d point;    // current user coordinate system
     double number = 0.0;
@@ -68,6 +79,9 @@ public:
     virtual ~PromptSource() = default;
 
     virtual PromptAnswer ask(const PromptRequest& request) = 0;
+    // False where nobody will take back what a tool did while it runs, so that nothing has to be
+    // kept for that.
+    [[nodiscard]] virtual bool mayTakeBack() const { return true; }
     // A line of text for the command line, without its line end.
     virtual void print(const std::wstring& line) = 0;
     // The last answer was understood but can't be taken, and why. A script can't go on then; others

@@ -13,8 +13,6 @@ namespace orvex {
 
 namespace {
 
-constexpr std::wstring_view kCancel = L"*CANCEL*";
-
 // Length of the UTF-8 character at the beginning of a text that isn't empty; 0 when it is none.
 std::size_t characterLength(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(text[i]); };
@@ -44,7 +42,8 @@ std::size_t characterLength(std::string_view text) {
 } // namespace
 
 ScriptSource::ScriptSource(std::string_view utf8, Printer printer)
-    : m_text(withoutByteOrderMark(utf8)), m_printer(std::move(printer)) {
+    : m_text(withoutByteOrderMark(utf8)), m_mayTakeBack(m_text.find('\'') != std::string::npos),
+      m_printer(std::move(printer)) {
     findNext();
 }
 

@@ -19,12 +19,15 @@ class ScriptSource final : public PromptSource {
 public:
     using Printer = std::function<void(const std::wstring&)>;
 
+    static constexpr const wchar_t* kCancel = L"*CANCEL*";
+
     ScriptSource(std::string_view utf8, Printer printer);
 
     // The line (from 1) of the first byte that makes the text no UTF-8; nothing when it is.
     static std::optional<std::size_t> firstLineThatIsNoUtf8(std::string_view text);
 
     PromptAnswer ask(const PromptRequest& request) override;
+    [[nodiscard]] bool mayTakeBack() const override { return m_mayTakeBack; }
     void print(const std::wstring& line) override { m_printer(line); }
     void reject(const std::wstring& reason) override;
 
@@ -43,6 +46,7 @@ private:
     std::size_t m_nextSize = 0;
     std::size_t m_nextNumber = 0;
     std::size_t m_line = 0;
+    bool m_mayTakeBack; // a transparent command stands in it
     Printer m_printer;
     std::optional<Failure> m_failure;
 };

@@ -1,6 +1,7 @@
 #include "answerFromText.h"
 
 #include "PromptSession.h"
+#include "TransparentCommands.h"
 #include "textCodec.h"
 #include "typedAnswer.h"
 #include "userFrame.h"
@@ -84,6 +85,12 @@ TextReading answerFromText(const PromptRequest& request, const std::wstring& tex
     if (const auto keyword = matchKeyword(request.keywords, text)) {
         answer.kind = Kind::keyword;
         answer.keyword = *keyword;
+        return answer;
+    }
+    const bool isText = request.kind == PromptKind::command || request.kind == PromptKind::text;
+    if (const auto name = transparentCommand(text); name && !isText && !request.isWithin) {
+        answer.kind = Kind::transparent;
+        answer.text = *name;
         return answer;
     }
     switch (request.kind) {

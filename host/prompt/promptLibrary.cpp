@@ -7,6 +7,8 @@
 #include "ObjectTable.h"
 #include "PromptSession.h"
 #include "PromptWatcher.h"
+#include "ScriptRecord.h"
+#include "TransparentCommands.h"
 #include "boundedCopy.h"
 #include "coordinateFrames.h"
 #include "kddbObjects.h"
@@ -20,6 +22,51 @@
 
 namespace orvex {
 
+namespace {
+
+// Runs a transparent command, which leaves nothing in the prompts but the answer that it may give.
+std::optional<PromptAnswer> runTransparent(const std::wstring& name, const PromptRequest& request) {
+    PromptSession& session = PromptSession::current();
+    const PromptSession before = session;
+    session.watcher = nullptr;
+    session.preview = nullptr;
+    session.previews = nullptr;
+    session.motion = {};
+    session.isWithin = true;
+    auto answer = session.transparent->run(name, request);
+    session = before;
+    return answer;
+}
+
+// By the source, or what a transparent command said before.
+PromptAnswer answerOf(const PromptRequest& request) {
+    PromptSession& session = PromptSession::current();
+    if (session.transparent != nullptr) {
+        if (auto ahead = session.transparent->answerAhead(request)) {
+            return std::move(*ahead);
+        }
+    }
+    for (;;) {
+        PromptAnswer answer = session.source->ask(request);
+        const bool needsBlank = !request.text.empty() && !request.text.ends_with(L' ');
+        printLines(request.text + (needsBlank ? L" " : L"") + answer.echo);
+        if (session.record != nullptr && request.kind != PromptKind::command) {
+            session.record->answer(answer);
+        }
+        if (answer.kind != PromptAnswer::Kind::transparent) {
+            return answer;
+        }
+        if (session.transparent == nullptr) {
+            return {};
+        }
+        if (auto instead = runTransparent(answer.text, request)) {
+            return std::move(*instead);
+        }
+    }
+}
+
+} // namespace
+
 PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
                      const std::optional<KdGePoint3d>& base) {
     PromptSession& session = PromptSession::current();
@@ -32,6 +79,7 @@ PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
     request.keywords = splitKeywords(std::exchange(session.armedKeywords, {}));
     request.completions = std::exchange(session.completions, {});
     request.base = base;
+    request.isWithin = session.isWithin;
     request.keepsOnEscape = std::exchange(session.keepsOnEscape, false);
     if (kind == PromptKind::point || (kind == PromptKind::real && base)) {
         request.preview = session.preview;
@@ -46,9 +94,7 @@ PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
     if (session.watcher != nullptr) {
         session.watcher->asking(request);
     }
-    answer = session.source->ask(request);
-    const bool needsBlank = !request.text.empty() && !request.text.ends_with(L' ');
-    printLines(request.text + (needsBlank ? L" " : L"") + answer.echo);
+    answer = answerOf(request);
     if (answer.kind == PromptAnswer::Kind::keyword) {
         const auto keyword = matchKeyword(request.keywords, answer.keyword);
         session.lastKeyword = keyword.value_or(L"");

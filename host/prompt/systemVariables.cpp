@@ -194,12 +194,12 @@ bool store(const VariableRow& row, const Value& value) {
         return true;
     case VariableHome::viewHeight:
         if (display != nullptr) {
-            display->setView(display->viewCenter(), std::get<double>(value));
+            display->setViewHeight(std::get<double>(value));
         }
         return display != nullptr;
     case VariableHome::viewCenter:
         if (display != nullptr) {
-            display->setView(std::get<KdGePoint3d>(value), display->viewHeight());
+            display->setViewCenter(std::get<KdGePoint3d>(value));
         }
         return display != nullptr;
     case VariableHome::lastPoint:

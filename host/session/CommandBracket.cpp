@@ -18,12 +18,13 @@ CommandBracket::CommandBracket(std::wstring name, DatabaseCore& core, SessionDis
     m_core.changes().beginCommand(std::move(name));
 }
 
-void CommandBracket::end() {
-    if (!m_isEnded) {
-        m_isEnded = true;
-        m_core.closeAll();
-        m_core.changes().endCommand();
+bool CommandBracket::end() {
+    if (m_isEnded) {
+        return false;
     }
+    m_isEnded = true;
+    m_core.closeAll();
+    return m_core.changes().endCommand();
 }
 
 CommandBracket::~CommandBracket() {

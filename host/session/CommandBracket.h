@@ -22,7 +22,8 @@ public:
     CommandBracket& operator=(const CommandBracket&) = delete;
 
     // Makes the step. Throws std::bad_alloc where there is no memory for it; then there is none.
-    void end();
+    // False when nothing changed.
+    bool end();
 
 private:
     DatabaseCore& m_core;

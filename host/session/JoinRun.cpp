@@ -82,7 +82,7 @@ JoinPair JoinRun::pairOf(const JoinPlace& place) const {
 
 void JoinRun::setView(double height) {
     m_viewHeight = height;
-    m_scratch.view().setView(m_session.view().center(), height);
+    m_scratch.view().setView(m_session.pickView().center(), height);
 }
 
 // The view that picks are measured in; it gets smaller where walls are finer.
@@ -93,7 +93,7 @@ void JoinRun::setAperture(double aperture, JoinScript& script) {
         return;
     }
     setView(height);
-    const PlanPoint center = m_session.view().center();
+    const PlanPoint center = m_session.pickView().center();
     script.view({center.x, center.y, 0.0}, height);
 }
 
@@ -273,7 +273,7 @@ std::string JoinRun::script() const {
     whole.comment("their own; the last lines bring the view and PICKBOX back.");
     whole.pickBox(kPickBox);
     whole.append(m_script);
-    const PlanView& view = m_session.view();
+    const PlanView& view = m_session.pickView();
     whole.comment("as before");
     whole.view({view.center().x, view.center().y, 0.0}, view.viewHeight());
     whole.pickBox(PromptSession::current().pickBox);

@@ -31,9 +31,10 @@ public:
         return {m_plan.center().x, m_plan.center().y, 0.0};
     }
     [[nodiscard]] double viewHeight() const override { return m_plan.viewHeight(); }
-    void setView(const KdGePoint3d& center, double height) override {
-        m_plan.setView({center.x, center.y}, height);
+    void setViewCenter(const KdGePoint3d& center) override {
+        m_plan.setView({center.x, center.y}, m_plan.viewHeight());
     }
+    void setViewHeight(double height) override { m_plan.setView(m_plan.center(), height); }
 
 private:
     PlanView m_plan{1600, 1200}; // pixels, as without a window

@@ -52,19 +52,22 @@ const KdEdCommand* findRegistered(const std::wstring& name) {
 
 Session::Session(SessionSetup setup, ModuleLoader& modules)
     : m_setup(std::move(setup)), m_modules(modules), m_document(&m_setup.drawing->database()),
-      m_view(m_setup.viewWidth, m_setup.viewHeight), m_scene(m_setup.drawing->database()),
+      m_view(m_setup.viewWidth, m_setup.viewHeight), m_pickView(m_view),
+      m_isSeen(m_setup.hasWindow), m_scene(m_setup.drawing->database()),
       m_stepMemory(m_selectionMemory), m_contexts(*this), m_display(*this), m_toolWatch(*this),
-      m_documentBefore(setCurrentDocument(&m_document)),
+      m_transparent(*this), m_documentBefore(setCurrentDocument(&m_document)),
       m_contextBefore(setActiveDocContext(&m_contexts)) {
     setSupportFileFinder(findSupportFile);
     database().core().changes().steps().setCompanion(&m_stepMemory);
-    m_scene.setUnitsPerPixel([this] { return view().unitsPerPixel(); });
+    m_scene.setUnitsPerPixel([this] { return pickView().unitsPerPixel(); });
     PromptSession& prompts = PromptSession::current();
     prompts = PromptSession();
     prompts.source = m_setup.source;
     prompts.finder = m_setup.finder != nullptr ? m_setup.finder : &m_scene;
     prompts.display = &m_display;
     prompts.watcher = &m_toolWatch;
+    prompts.transparent = &m_transparent;
+    prompts.record = m_setup.hasWindow ? &m_record : nullptr;
 }
 
 Session::~Session() {
@@ -77,9 +80,32 @@ Session::~Session() {
 PlanView& Session::view() {
     if (!m_viewStarted) {
         m_viewStarted = true;
-        m_view.zoomTo(m_scene.extents());
+        zoomToPlan();
     }
     return m_view;
+}
+
+PlanView& Session::pickView() {
+    PlanView& seen = view();
+    return m_isSeen ? m_pickView : seen;
+}
+
+void Session::setView(PlanPoint center, double height) {
+    view().setView(center, height);
+    pickView().setView(center, height);
+}
+
+PlanBox Session::planToSee() {
+    constexpr PlanBox kSheet{{0.0, 0.0}, {420.0 * 50.0, 297.0 * 50.0}};
+    const PlanBox extents = m_scene.extents();
+    return m_isSeen && extents.isEmpty() ? kSheet : extents;
+}
+
+void Session::zoomToPlan() {
+    view().zoomTo(planToSee());
+    if (m_isSeen) {
+        m_pickView.zoomTo(m_scene.extents());
+    }
 }
 
 void Session::setSource(PromptSource* source) {
@@ -96,20 +122,33 @@ std::optional<Failure> Session::run(const std::wstring& name) {
     if (m_running) {
         return unplayable(L"a command is running already");
     }
+    // A transparent one is like any other where nothing is asked.
+    const std::wstring plain = transparentCommand(name).value_or(name);
     // Outside of the bracket, since they are no steps of their own.
-    if (foldCase(name) == L"U") {
+    if (foldCase(plain) == L"U") {
+        recordCommand(name);
         undo();
         return std::nullopt;
     }
-    if (foldCase(name) == L"REDO") {
+    if (foldCase(plain) == L"REDO") {
+        recordCommand(name);
         redo();
         return std::nullopt;
     }
-    if (const HostCommand* const command = findHostCommand(name)) {
+    if (const HostCommand* const command = findHostCommand(plain)) {
+        recordCommand(name);
         return runInBracket(name, [this, command] { command->run(*this); });
     }
     const auto command = findModuleCommand(name);
-    return command ? runInBracket(name, *command) : command.failure();
+    if (!command) {
+        return command.failure();
+    }
+    recordCommand(name);
+    return runInBracket(name, *command);
+}
+
+void Session::recordCommand(const std::wstring& name) {
+    m_record.begin(name, !needsWindow(name) && foldCase(name) != L"MLSTYLEINUSE");
 }
 
 Result<Session::CommandFunction> Session::findModuleCommand(const std::wstring& name) {
@@ -145,7 +184,7 @@ std::optional<Failure> Session::runInBracket(const std::wstring& name,
         CommandBracket bracket(foldCase(name), database().core(), m_display, m_modules);
         command();
         runFollowers();
-        bracket.end();
+        m_record.end(bracket.end());
     } catch (const std::bad_alloc&) {
         failure = Failure{FailureCause::unplayableScript, {}, 0, what + ": not enough memory"};
     } catch (const std::exception& error) {
@@ -155,6 +194,7 @@ std::optional<Failure> Session::runInBracket(const std::wstring& name,
     }
     m_running = false;
     m_toolWatch.commandEnded();
+    m_transparent.commandEnded();
     m_follower.clear();
     return failure;
 }
@@ -168,7 +208,6 @@ void Session::runFollowers() {
         }
         database().core().closeAll();
         PromptSession::current().armedKeywords.clear();
-        printLines(L"Command: " + name);
         (*command)();
     }
 }

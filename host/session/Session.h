@@ -6,12 +6,14 @@
 #include "KdDocument.h"
 #include "PlanView.h"
 #include "Scene.h"
+#include "ScriptRecord.h"
 #include "SelectionMemory.h"
 #include "SessionContexts.h"
 #include "SessionDisplay.h"
 #include "SnapMemory.h"
 #include "StepMemory.h"
 #include "ToolWatch.h"
+#include "TransparentRun.h"
 
 #include <functional>
 #include <memory>
@@ -30,7 +32,7 @@ struct SessionSetup {
     PromptSource* source = nullptr;       // who answers prompts; may be set later
     EntityFinder* finder = nullptr;       // null: the session's own scene
     bool hasWindow = false;               // commands with dialogs may run
-    int viewWidth = 1600;                 // pixels
+    int viewWidth = 1600;                 // pixels, of what picks are measured in
     int viewHeight = 1200;
     std::vector<std::string> moduleFiles; // where the module may be, UTF-8, in order
 };
@@ -50,6 +52,16 @@ public:
     // Starts at the extents that the drawing has when the view is first needed, which is before
     // the first command at the latest.
     [[nodiscard]] PlanView& view();
+    // What commands measure picks in. Without a window that is the view; with one it is the view
+    // that a script has, which a window's user can't see and moves by what he types, as a script
+    // does. So picks that are played again find the same.
+    [[nodiscard]] PlanView& pickView();
+    // What a view of the whole plan is to show; of an empty drawing a window has room for a house,
+    // millimetres on a sheet of 420 by 297 at 1 to 50.
+    [[nodiscard]] PlanBox planToSee();
+    // Both views. A height that isn't finite and above 0 changes nothing.
+    void setView(PlanPoint center, double height);
+    void zoomToPlan();
     // Whether it has been. A window looks at the drawing in steps first.
     [[nodiscard]] bool isViewStarted() const { return m_viewStarted; }
     [[nodiscard]] SessionDisplay& display() { return m_display; }
@@ -75,6 +87,9 @@ public:
     // by an exception).
     std::optional<Failure> run(const std::wstring& name);
 
+    // What was done so far, as a script; only with a window.
+    [[nodiscard]] ScriptRecord& record() { return m_record; }
+
     // Has a command of a module run after the running one, as part of it: both are one step of
     // undo.
     void followWith(const std::wstring& name) { m_follower = name; }
@@ -93,6 +108,7 @@ public:
 private:
     std::optional<Failure> runInBracket(const std::wstring& name,
                                         const std::function<void()>& command);
+    void recordCommand(const std::wstring& name);
     void runFollowers();
     void undo();
     void redo();
@@ -102,6 +118,8 @@ private:
     ModuleLoader& m_modules;
     KdDocument m_document;
     PlanView m_view;
+    PlanView m_pickView; // with a window
+    bool m_isSeen;       // the view is a window's
     bool m_viewStarted = false;
     Scene m_scene;
     SelectionMemory m_selectionMemory;
@@ -110,6 +128,8 @@ private:
     SessionContexts m_contexts;
     SessionDisplay m_display;
     ToolWatch m_toolWatch;
+    TransparentRun m_transparent;
+    ScriptRecord m_record;
     bool m_running = false;
     std::wstring m_follower; // empty for none
     JoinWatcher m_joinWatcher;

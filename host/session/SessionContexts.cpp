@@ -5,7 +5,7 @@
 namespace orvex {
 
 RvexView* SessionContexts::activeView() {
-    return &m_session.view();
+    return &m_session.pickView();
 }
 
 } // namespace orvex

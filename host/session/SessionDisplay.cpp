@@ -43,8 +43,17 @@ double SessionDisplay::viewHeight() const {
     return m_session.view().viewHeight();
 }
 
-void SessionDisplay::setView(const KdGePoint3d& center, double height) {
-    m_session.view().setView({center.x, center.y}, height);
+void SessionDisplay::setViewCenter(const KdGePoint3d& center) {
+    for (PlanView* const view : {&m_session.view(), &m_session.pickView()}) {
+        view->setView({center.x, center.y}, view->viewHeight());
+    }
+    repaint();
+}
+
+void SessionDisplay::setViewHeight(double height) {
+    for (PlanView* const view : {&m_session.view(), &m_session.pickView()}) {
+        view->setView(view->center(), height);
+    }
     repaint();
 }
 

@@ -22,7 +22,8 @@ public:
     KdGePoint3d displayToWorld(const KdGePoint3d& display) const override;
     KdGePoint3d viewCenter() const override;
     double viewHeight() const override;
-    void setView(const KdGePoint3d& center, double height) override;
+    void setViewCenter(const KdGePoint3d& center) override;
+    void setViewHeight(double height) override;
 
     // What a command has hidden and not shown again.
     void showAll();

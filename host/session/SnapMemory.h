@@ -1,6 +1,7 @@
 #pragma once
 
 #include "SnapMode.h"
+#include "snapScan.h"
 
 #include <functional>
 
@@ -10,6 +11,7 @@ namespace orvex {
 struct SnapMemory {
     bool isOn = true;
     SnapModes modes = SnapModes::all();
+    SnapExclusion inHand;          // what moves with the point that is asked
     std::function<void()> changed; // by a command; a window follows. May be null
 };
 

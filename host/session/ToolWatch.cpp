@@ -1,5 +1,8 @@
 #include "ToolWatch.h"
 
+#include "ChangeLog.h"
+#include "DatabaseCore.h"
+#include "KdDbDatabase.h"
 #include "KdDbStub.h"
 #include "PromptSession.h"
 #include "Session.h"
@@ -38,8 +41,12 @@ bool ToolWatch::isLastPick() const {
            m_stage == (m_tool->picks == Picks::one ? Stage::first : Stage::second);
 }
 
+ToolPick ToolWatch::pickIn(const PlanView& view, KdDbStub& mline, const KdGePoint3d& userPoint) {
+    return {&mline, userPoint, view, PromptSession::current().pickBox};
+}
+
 ToolPick ToolWatch::pickAt(KdDbStub& mline, const KdGePoint3d& userPoint) const {
-    return {&mline, userPoint, m_session.view(), PromptSession::current().pickBox};
+    return pickIn(m_session.view(), mline, userPoint);
 }
 
 void ToolWatch::commandEnded() {
@@ -65,6 +72,10 @@ void ToolWatch::asking(const PromptRequest& request) {
     m_stage = isFirst ? Stage::first : Stage::second;
     if (isFirst) {
         m_first.reset();
+        const PromptSource* const source = m_session.source();
+        if (source != nullptr && source->mayTakeBack()) {
+            m_session.database().core().changes().mark();
+        }
     }
 }
 
@@ -82,7 +93,7 @@ void ToolWatch::picked(const PromptAnswer& answer, KdDbStub& entity) {
     if (entity.kind != ObjectKind::mline) {
         refuse(PickRefusal::noMultiline, &entity, false);
     } else if (m_stage == Stage::first) {
-        m_first = pickAt(entity, answer.point);
+        m_first = pickIn(m_session.pickView(), entity, answer.point);
         if (m_tool->picks == Picks::one) {
             startCycle({&entity});
         }

@@ -46,7 +46,7 @@ public:
     // Of the cycle at hand; nothing before the second pick is asked for.
     [[nodiscard]] const std::optional<ToolPick>& first() const { return m_first; }
     [[nodiscard]] bool isLastPick() const;
-    // What a click at a point would be, where there is a multiline.
+    // What a click at a point would be, where there is a multiline, measured in what is seen.
     [[nodiscard]] ToolPick pickAt(KdDbStub& mline, const KdGePoint3d& userPoint) const;
 
     // Told of each pick that did nothing, also of commands that are no tools, as soon as that is
@@ -69,6 +69,8 @@ private:
         std::shared_ptr<const MlineContent> content;
     };
 
+    [[nodiscard]] static ToolPick pickIn(const PlanView& view, KdDbStub& mline,
+                                         const KdGePoint3d& userPoint);
     void startCycle(const std::vector<KdDbStub*>& mlines);
     void endCycle();
     void refuse(PickRefusal reason, const KdDbStub* entity, bool isTold);

@@ -1,6 +1,7 @@
 #include "HostCommand.h"
 #include "PromptSession.h"
 #include "PromptSource.h"
+#include "ScriptRecord.h"
 #include "textCodec.h"
 
 #include <array>
@@ -61,6 +62,9 @@ const HostCommand* findHostCommand(const std::wstring& name) {
 void rejectAnswer(const std::wstring& reason) {
     if (PromptSource* const source = PromptSession::current().source) {
         source->reject(reason);
+    }
+    if (ScriptRecord* const record = PromptSession::current().record) {
+        record->refuseLast();
     }
 }
 

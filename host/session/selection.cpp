@@ -142,6 +142,7 @@ public:
         lines.emplace_back();
         for (const std::wstring& line : lines) {
             printLines(prompt() + line);
+            m_session.record().line(line);
         }
         take(chosen);
     }

@@ -4,6 +4,7 @@
 #include "KdDbMline.h"
 #include "KdDbStub.h"
 #include "PromptSession.h"
+#include "Session.h"
 #include "commandOutput.h"
 #include "editMlines.h"
 #include "handleText.h"
@@ -156,24 +157,51 @@ PromptPreviews previewsOf(const VertexTask& task) {
     };
 }
 
-std::optional<KdGePoint3d> askPlace(const VertexTask& task) {
+// Vertices that move with the cursor are nothing to snap to meanwhile.
+class InHand {
+public:
+    InHand(Session& session, const VertexTask& task) : m_session(session) {
+        for (const VertexTarget& target : task.targets) {
+            m_session.snapMemory().inHand.vertices.push_back({target.mline->handle, target.vertex});
+        }
+    }
+    ~InHand() { m_session.snapMemory().inHand = {}; }
+    InHand(const InHand&) = delete;
+    InHand& operator=(const InHand&) = delete;
+
+private:
+    Session& m_session;
+};
+
+// Relative points count from the vertex.
+std::optional<KdGePoint3d> askPlace(Session& session, const VertexTask& task) {
     const VertexTarget& first = task.targets.front();
     const KdGePoint3d base = contentOf(*first.mline)->vertices[first.vertex].position;
     const PreviewScope preview(previewsOf(task));
-    return askPoint(task.act == VertexAct::move ? L"New place of the vertex: "
-                                                : L"Place of the new vertex: ",
-                    base);
+    KdGePoint3d& lastPoint = PromptSession::current().lastPoint;
+    const KdGePoint3d lastBefore = std::exchange(lastPoint, base);
+    std::optional<InHand> inHand;
+    if (task.act == VertexAct::move) {
+        inHand.emplace(session, task);
+    }
+    const auto place = askPoint(task.act == VertexAct::move ? L"New place of the vertex: "
+                                                            : L"Place of the new vertex: ",
+                                base);
+    if (!place) {
+        lastPoint = lastBefore;
+    }
+    return place;
 }
 
 } // namespace
 
-void vertexCommand(Session& /*session*/) {
+void vertexCommand(Session& session) {
     const std::optional<VertexTask> task = askTask();
     if (!task) {
         return;
     }
     const std::optional<KdGePoint3d> place =
-        task->act == VertexAct::remove ? KdGePoint3d() : askPlace(*task);
+        task->act == VertexAct::remove ? KdGePoint3d() : askPlace(session, *task);
     if (!place) {
         return;
     }

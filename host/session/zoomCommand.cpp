@@ -23,7 +23,7 @@ void zoomToCenter(Session& session) {
         return;
     }
     const KdGePoint3d world = userToWorld({center[0], center[1], center[2]});
-    session.view().setView({world.x, world.y}, height);
+    session.setView({world.x, world.y}, height);
 }
 
 } // namespace
@@ -35,7 +35,7 @@ void zoomCommand(Session& session) {
         return;
     }
     if (std::wstring_view(keyword) == L"Extents") {
-        session.view().zoomTo(session.scene().extents());
+        session.zoomToPlan();
     } else {
         zoomToCenter(session);
     }

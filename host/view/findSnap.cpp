@@ -1,7 +1,10 @@
 #include "findSnap.h"
 
+#include "roundNumber.h"
+
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace orvex {
 
@@ -17,6 +20,15 @@ PlanBox squareAround(PlanPoint center, double reach) {
 
 bool isFinite(PlanPoint point) {
     return std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+// What was computed comes without the noise of it; vertices and ends are the drawing's own.
+SnapTarget cleaned(SnapTarget target) {
+    if (target.mode != SnapMode::vertex && target.mode != SnapMode::end) {
+        const double size = std::max(std::abs(target.at.x), std::abs(target.at.y));
+        target.at = {withoutNoise(target.at.x, size), withoutNoise(target.at.y, size)};
+    }
+    return target;
 }
 
 class Search {
@@ -73,7 +85,8 @@ private:
         return distance(point, m_query.cursor) / m_query.unitsPerPixel;
     }
     [[nodiscard]] bool isHeld(const SnapPoint& point) const {
-        return m_query.held && m_query.held->mode == point.mode && m_query.held->at == point.at;
+        return m_query.held && m_query.held->mode == point.mode &&
+               m_query.held->at == cleaned(SnapTarget{point.mode, point.at}).at;
     }
     // Of targets in the same place as the nearest the one whose mode comes first.
     [[nodiscard]] std::optional<SnapTarget> bestOf(const std::vector<SnapTarget>& near) const {
@@ -105,8 +118,11 @@ std::optional<SnapTarget> findSnap(Scene& scene, const SnapQuery& query) {
         return std::nullopt;
     }
     const Search search(scene, query);
-    const std::optional<SnapTarget> point = search.point();
-    return point ? point : search.line();
+    std::optional<SnapTarget> target = search.point();
+    if (!target) {
+        target = search.line();
+    }
+    return target ? std::optional(cleaned(std::move(*target))) : std::nullopt;
 }
 
 std::optional<SnapTarget> nextSnap(Scene& scene, PlanPoint from, PlanPoint direction,
@@ -129,7 +145,7 @@ std::optional<SnapTarget> nextSnap(Scene& scene, PlanPoint from, PlanPoint direc
             const bool isSeen = each.at.x >= area.low.x && each.at.x <= area.high.x &&
                                 each.at.y >= area.low.y && each.at.y <= area.high.y;
             if (isAhead && isSeen && (!best || pixels < best->pixels)) {
-                best = SnapTarget{each.mode, each.at, each.handles, {}, pixels, {}};
+                best = cleaned({each.mode, each.at, each.handles, {}, pixels, {}});
             }
         }
         if (best || !(reach < farthest)) {

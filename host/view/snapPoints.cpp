@@ -1,10 +1,21 @@
 #include "snapPoints.h"
 
+#include "roundNumber.h"
+
+#include <algorithm>
+#include <cmath>
+
 namespace orvex {
 
 namespace {
 
 constexpr std::size_t kMostCrossed = 64; // pieces, each with each
+
+// But for what rounding leaves.
+bool isSamePlace(PlanPoint a, PlanPoint b) {
+    const double size = std::max({std::abs(a.x), std::abs(a.y), std::abs(b.x), std::abs(b.y)});
+    return differsByNoise(a.x, b.x, size) && differsByNoise(a.y, b.y, size);
+}
 
 class Collector {
 public:
@@ -56,7 +67,7 @@ private:
     }
     // A second point in the place of the first is none.
     void add(SnapMode mode, PlanPoint at, std::uint64_t handle, std::uint64_t other = 0) {
-        if (m_modes.has(mode) && at != m_base) {
+        if (m_modes.has(mode) && !(m_base && isSamePlace(at, *m_base))) {
             points.push_back({mode, at, {handle, other}});
         }
     }

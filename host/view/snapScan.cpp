@@ -80,7 +80,9 @@ public:
         }
         m_handle = entity.handle;
         const std::size_t firstPiece = scan.pieces.size();
-        const bool isInHand = m_exclusion.vertex && m_exclusion.vertex->handle == entity.handle;
+        const bool isInHand =
+            std::any_of(m_exclusion.vertices.begin(), m_exclusion.vertices.end(),
+                        [&entity](const auto& vertex) { return vertex.handle == entity.handle; });
         if (!isInHand) {
             m_source = entity.kind == ObjectKind::mline ? SnapSource::element : SnapSource::line;
             for (const Stroke& stroke : appearance.strokes) {
@@ -165,7 +167,10 @@ private:
         const std::size_t vertices =
             chain.size() > 1 && chain.front() == chain.back() ? chain.size() - 1 : chain.size();
         const auto isHeld = [&](std::size_t i) {
-            return isInHand && i % vertices == m_exclusion.vertex->index;
+            return std::any_of(m_exclusion.vertices.begin(), m_exclusion.vertices.end(),
+                               [&](const auto& vertex) {
+                                   return vertex.handle == m_handle && vertex.index == i % vertices;
+                               });
         };
         for (std::size_t i = 0; i + 1 < chain.size(); ++i) {
             ++m_points;

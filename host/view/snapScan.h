@@ -14,12 +14,12 @@ class Scene;
 // What isn't to be found, since it moves with the point.
 struct SnapExclusion {
     std::vector<std::uint64_t> handles{};
-    // Of this multiline all but the other vertices of its chain.
+    // Of these multilines all but the other vertices of their chains.
     struct Vertex {
         std::uint64_t handle = 0;
         std::size_t index = 0;
     };
-    std::optional<Vertex> vertex{};
+    std::vector<Vertex> vertices{};
 };
 
 enum class SnapSource : std::uint8_t {

@@ -2,11 +2,10 @@
 
 #include "Canvas.h"
 #include "CommandLine.h"
-#include "DeskSettings.h"
 #include "MainWindow.h"
 #include "ScriptSource.h"
 #include "TestPaths.h"
-#include "applicationProfile.h"
+#include "forgetDeskSettings.h"
 #include "textCodec.h"
 
 #include <QAction>
@@ -45,19 +44,11 @@ protected:
     DeskFixture() {
         std::filesystem::copy_file(sourceDir() / "samples/floorplan.dxf", plan,
                                    std::filesystem::copy_options::overwrite_existing);
-        forgetSettings();
+        forgetDeskSettings();
         makeWindow();
         window->resize(1000, 800);
     }
 
-    // What a test before this one in the same process left in the profile.
-    static void forgetSettings() {
-        for (const wchar_t* const key :
-             {L"RecentFiles", DeskSettings::kSnap, DeskSettings::kSnapModes,
-              DeskSettings::kSnapAperture, DeskSettings::kAngleStep, DeskSettings::kUndoMemory}) {
-            ApplicationProfile::instance().setText(L"Desk", key, L"");
-        }
-    }
     void makeWindow() {
         window.reset();
         window = std::make_unique<MainWindow>(
@@ -150,31 +141,17 @@ protected:
     [[nodiscard]] QString history() const { return window->findChild<CommandLine*>()->history(); }
     [[nodiscard]] QString lastLine() const { return history().section('\n', -1); }
 
-    // What was typed and clicked, taken from the command line as a script.
-    [[nodiscard]] std::string script() const {
-        std::string text;
-        for (const QString& line : history().split('\n')) {
-            const int colon = line.lastIndexOf(QLatin1String(": "));
-            if (colon >= 0) {
-                text += line.mid(colon + 2).toStdString() + '\n';
-            }
-        }
-        return text;
-    }
+    // What was typed and clicked on the drawing, as a script.
+    [[nodiscard]] std::string script() const { return window->session()->record().text(); }
 
-    // The plan after a script, in a view as high as the canvas. There is one session at a time, so
-    // the window goes.
+    // The plan after a script. There is one session at a time, so the window goes.
     std::string bytesByScript(const std::string& script) {
-        const int width = canvas()->width();
-        const int height = canvas()->height();
         window.reset();
         ScriptSource source(script, [](const std::wstring&) {});
         SessionSetup setup;
         setup.drawing =
             std::move(*DrawingFile::openBytes(readFile(sourceDir() / "samples/floorplan.dxf")));
         setup.source = &source;
-        setup.viewWidth = width;
-        setup.viewHeight = height;
         Session session(std::move(setup), modules);
         while (!source.atEnd()) {
             const std::wstring command = session.askCommand();

@@ -45,8 +45,10 @@ TEST_F(GripFixture, gripsMoveVerticesAsTheirScriptDoes) {
                   [this] {
                       EXPECT_EQ(canvas()->aim().kind, AimKind::point);
                       EXPECT_FALSE(canvas()->aim().preview({0, 50}).strokes.empty());
+                      EXPECT_FALSE(canvas()->aim().guide({1, -19}, {}).marker) << "itself";
+                      EXPECT_TRUE(canvas()->aim().guide({301, 5}, {}).marker);
                   },
-                  type("-20,30"),
+                  type("@-20,30"), // from the grip
                   clickAt(-20, 30),
                   key(Qt::Key_Escape), // lets go
                   [this] { EXPECT_EQ(prompt(), "Command:"); },

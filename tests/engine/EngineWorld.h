@@ -48,7 +48,8 @@ public:
     KdGePoint3d displayToWorld(const KdGePoint3d& display) const override { return display; }
     KdGePoint3d viewCenter() const override { return {}; }
     double viewHeight() const override { return 1.0; }
-    void setView(const KdGePoint3d&, double) override {}
+    void setViewCenter(const KdGePoint3d&) override {}
+    void setViewHeight(double) override {}
 
     std::vector<KdDbStub*> known;
 

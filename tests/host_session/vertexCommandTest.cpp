@@ -41,6 +41,8 @@ TEST_F(VertexCommand, movesVerticesTogetherAndTellsLostGaps) {
     EXPECT_EQ(wall(0).vertices[1].position, (KdGePoint3d{450, 20, 0}));
     EXPECT_EQ(wall(1).vertices[0].position, (KdGePoint3d{450, 20, 0}));
     EXPECT_FALSE(wasTold(L"gaps"));
+    ASSERT_FALSE(play("U\nMLVERTEX\n" + m_names[0] + "\n1\nM\n@50,20\n"));
+    EXPECT_EQ(wall(0).vertices[1].position, (KdGePoint3d{450, 20, 0}));
     ASSERT_FALSE(play("U\n"));
     EXPECT_EQ(m_session->drawing().bytes(), before);
     ASSERT_FALSE(play("MLVERTEX\n" + m_names[0] + "\n1\nM\n150,0\n"));

@@ -116,7 +116,7 @@ TEST_F(FindSnap, whereTargetsLieTogetherTheOrderOfTheModesDecides) {
     EXPECT_EQ(find({200.2, kThird})->mode, SnapMode::vertex);
     query.exclusion.handles = {wall};
     EXPECT_EQ(find({200.2, kThird})->mode, SnapMode::end);
-    query.exclusion = {.vertex = SnapExclusion::Vertex{wall, 0}};
+    query.exclusion = {.vertices = {{wall, 0}}};
     EXPECT_EQ(find({200.2, kThird})->mode, SnapMode::end) << "the vertex in hand is no target";
     EXPECT_EQ(find({302, 3})->mode, SnapMode::vertex) << "its neighbour is";
     EXPECT_FALSE(find({250, -5})) << "its elements move with it";

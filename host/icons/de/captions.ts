@@ -614,6 +614,14 @@
         <source>Close the cuts of a multiline between two points</source>
         <translation>Die Lücken einer Multilinie zwischen zwei Punkten schließen</translation>
     </message>
+    <message>
+        <source>Save &amp;History as Script...</source>
+        <translation>&amp;Verlauf als Skript speichern...</translation>
+    </message>
+    <message>
+        <source>Write what was done in this drawing as a script that does it again</source>
+        <translation>Schreibt, was in dieser Zeichnung getan wurde, als Skript, das es noch einmal tut</translation>
+    </message>
 </context>
 <context>
     <name>orvex::Canvas</name>
@@ -1020,6 +1028,18 @@ Was nicht bearbeitet wird, wird Byte für Byte gespeichert.</translation>
         <source>The script was stopped after line %1.</source>
         <translation>Das Skript wurde nach Zeile %1 angehalten.</translation>
     </message>
+    <message>
+        <source>Save the history as a script</source>
+        <translation>Verlauf als Skript speichern</translation>
+    </message>
+    <message>
+        <source>Written into %1</source>
+        <translation>In %1 geschrieben</translation>
+    </message>
+    <message>
+        <source>What was changed in dialogs of styles is in no script: played, it won&apos;t give the same drawing.</source>
+        <translation>Was in den Dialogen der Stile geändert wurde, steht in keinem Skript: Abgespielt ergibt es nicht dieselbe Zeichnung.</translation>
+    </message>
 </context>
 <context>
     <name>orvex::PropertyDesk</name>
@@ -1247,18 +1267,6 @@ Was nicht bearbeitet wird, wird Byte für Byte gespeichert.</translation>
     <message>
         <source>%1 entities</source>
         <translation>%1 Objekte</translation>
-    </message>
-    <message>
-        <source>; the cycle before is taken back, too</source>
-        <translation>; auch der Durchgang davor ist zurückgenommen</translation>
-    </message>
-    <message>
-        <source>; the last cycle is taken back</source>
-        <translation>; der letzte Durchgang ist zurückgenommen</translation>
-    </message>
-    <message>
-        <source>; the cycle is there again</source>
-        <translation>; der Durchgang ist wieder da</translation>
     </message>
     <message>
         <source>The memory for undo is used up; the oldest steps can&apos;t be taken back any more (Edit, Undo Memory).</source>
