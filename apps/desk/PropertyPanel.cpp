@@ -159,6 +159,7 @@ void PropertyPanel::applyScale() {
     if (!isNumber || !std::isfinite(scale) || scale == 0.0) {
         m_foot->setText(isNumber ? tr("'%1' is no scale.").arg(text) : numberComplaint(text));
         m_scale->setText(m_shownScale);
+        m_scale->selectAll(); // what is typed next replaces it
         return;
     }
     m_shownScale = text; // losing the focus afterwards isn't another edit
