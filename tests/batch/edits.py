@@ -6,6 +6,7 @@ Each plan has other entities, a locked layer and a gap; each run is undone again
 
 import json
 import pathlib
+import re
 import sys
 import tempfile
 
@@ -49,7 +50,8 @@ class Edits:
         self.out = folder / "out.dxf"
         self.plan = make_plan(folder / "plan.dxf")
         self.bytes = self.plan.read_bytes()
-        self.handles = [mline["handle"] for mline in listed(program, self.plan)["multilines"]]
+        self.mlines = listed(program, self.plan)["multilines"]
+        self.handles = [mline["handle"] for mline in self.mlines]
         self.faults = self.errors_of(self.plan)
         self.report = Report()
 
@@ -73,9 +75,20 @@ class Edits:
         self.expect(f"findings after {script!r}", json.loads(audit.stdout)["findings"], [])
         self.expect(f"faults after {script!r}", self.errors_of(self.out), self.faults)
         found = listed(self.program, self.out)["multilines"]
+        self.others_keep_their_bytes(script, found)
         self.play(script + "U\n")
         self.expect(f"bytes after {script!r} and U", self.out.read_bytes() == self.bytes, True)
         return found
+
+    # The records that differ are those of multilines that list otherwise, and the header.
+    def others_keep_their_bytes(self, script, found):
+        before, after = ({mline["handle"]: mline for mline in mlines} for mlines in (self.mlines, found))
+        old, new = (set(re.split(r"(?m)^(?=  0\n)", path.read_text())) for path in (self.plan, self.out))
+        for gone, ours, theirs in ((old - new, before, after), (new - old, after, before)):
+            handles = {re.search(r"(?m)^  5\n(\w+)$", record)[1] for record in gone if record.split("\n")[1] == "MLINE"}
+            self.expect(f"records after {script!r}", handles, {each for each in ours if ours[each] != theirs.get(each)})
+        kinds = {record.split("\n")[1] for record in new - old}
+        self.expect(f"new records after {script!r}", kinds - {"MLINE", "SECTION"}, set())
 
     def unchanged(self, script, word):
         told = self.play(script)
@@ -163,6 +176,16 @@ class Edits:
         before, after = (listed(self.program, path)["multilines"][0] for path in (corner, self.out))
         ends = [[[round(value, 9) for value in vertex["miter"]] for vertex in mline["vertices"]] for mline in (before, after)]
         self.expect("opened again", (chain(after), after["flags"], ends[1]), (chain(before), before["flags"], ends[0]))
+
+    # A gap that its segment doesn't hold any more is told, and so is one whose segment goes.
+    def losing_gaps(self):
+        told = self.play("STRETCH\n95,-5\n105,5\n100,0\n35,0\n")
+        self.expect("stretched " + told, "1 gap cut or gone" in told, True)
+        ring = make_drawing(self.out.with_name("ring.dxf"), [(0, 0), (100, 0), (100, 50)])
+        handle = listed(self.program, ring)["multilines"][0]["handle"]
+        script = f"MLCHANGE\nALL\n\nCL\n\nMLSTOPS\n#{handle}\n2\n0\n0\n20\n30\n\nMLCHANGE\nALL\n\nO\n\n"
+        told = play(self.program, ring, script, self.out).stdout
+        self.expect("opened " + told, "1 gap cut or gone" in told, True)
 
     def parting(self):
         pick = f"MLBREAK\n50,0.5 #{self.handles[0]}\n"
@@ -276,6 +299,7 @@ def main():
         edits.reshaping()
         edits.settings()
         edits.closing()
+        edits.losing_gaps()
         edits.parting()
         edits.bars()
         edits.refusing()
