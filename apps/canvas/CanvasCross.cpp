@@ -106,7 +106,7 @@ void Canvas::State::sendCross(QPoint direction) {
     crossTarget = {.at = target->at,
                    .isExact = true,
                    .marker = target->mode,
-                   .name = QCoreApplication::translate("snap", snapName(target->mode))};
+                   .name = QCoreApplication::translate("orvex", snapName(target->mode))};
 }
 
 void Canvas::State::sendCrossToGrip(bool forward) {

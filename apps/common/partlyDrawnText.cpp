@@ -1,6 +1,7 @@
 #include "partlyDrawnText.h"
 
 #include "handleText.h"
+#include "hostText.h"
 
 #include <algorithm>
 
@@ -9,15 +10,16 @@ namespace orvex {
 std::string partlyDrawnText(const std::vector<std::uint64_t>& handles) {
     constexpr std::size_t kMostNamed = 5;
     const std::size_t named = std::min(handles.size(), kMostNamed);
-    std::string text = "blocks repeat too often to be drawn in full, in the insert";
-    text += handles.size() > 1 ? "s" : "";
+    std::string list;
     for (std::size_t i = 0; i < named; ++i) {
-        text += (i > 0 ? ", #" : " #") + handleText(handles[i]);
+        list += (i > 0 ? ", #" : "#") + handleText(handles[i]);
     }
     if (handles.size() > named) {
-        text += " and " + std::to_string(handles.size() - named) + " more";
+        list += hostText(" and %1 more", {std::to_string(handles.size() - named)});
     }
-    return text;
+    return handles.size() > 1
+               ? hostText("blocks repeat too often to be drawn in full, in the inserts %1", {list})
+               : hostText("blocks repeat too often to be drawn in full, in the insert %1", {list});
 }
 
 } // namespace orvex

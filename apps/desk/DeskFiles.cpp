@@ -1,5 +1,6 @@
 #include "DeskFiles.h"
 
+#include "hostText.h"
 #include "pictureWriter.h"
 
 #include <QApplication>
@@ -71,8 +72,8 @@ void DeskFiles::open(const QString& path) {
 
 void DeskFiles::reportWarnings(const DrawingFile& file, const QString& path) {
     for (const DrawingWarning& warning : file.warnings()) {
-        emit printed(QString::fromStdString(
-            locatedText(path.toStdString(), warning.line, "warning: " + warning.text)));
+        emit printed(QString::fromStdString(locatedText(path.toStdString(), warning.line,
+                                                        hostText("warning: %1", {warning.text}))));
     }
 }
 

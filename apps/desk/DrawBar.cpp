@@ -39,9 +39,9 @@ struct Justification {
     const char* value;   // of the variable
 };
 constexpr std::array kJustifications = std::to_array<Justification>({
-    {QT_TRANSLATE_NOOP("DrawBar", "Top"), "T", "0"},
-    {QT_TRANSLATE_NOOP("DrawBar", "Zero"), "Z", "1"},
-    {QT_TRANSLATE_NOOP("DrawBar", "Bottom"), "B", "2"},
+    {QT_TRANSLATE_NOOP("orvex::DrawBar", "Top"), "T", "0"},
+    {QT_TRANSLATE_NOOP("orvex::DrawBar", "Zero"), "Z", "1"},
+    {QT_TRANSLATE_NOOP("orvex::DrawBar", "Bottom"), "B", "2"},
 });
 
 QString current(const wchar_t* variable) {

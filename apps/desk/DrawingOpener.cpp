@@ -1,5 +1,7 @@
 #include "DrawingOpener.h"
 
+#include "hostText.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -75,7 +77,7 @@ Result<std::unique_ptr<DrawingFile>> DrawingOpener::open(const QString& path) {
         }
         return opened;
     } catch (const std::bad_alloc&) {
-        return Failure{FailureCause::unreadableInput, file, 0, "not enough memory"};
+        return Failure{FailureCause::unreadableInput, file, 0, hostText("not enough memory")};
     } catch (const std::exception& error) {
         return Failure{FailureCause::programFault, file, 0, error.what()};
     }

@@ -14,6 +14,7 @@
 #include "aimOf.h"
 #include "clickedPoint.h"
 #include "commandNames.h"
+#include "hostText.h"
 #include "partlyDrawnText.h"
 #include "qtWide.h"
 
@@ -224,7 +225,8 @@ void MainWindow::reportPartlyDrawn() {
     const std::vector<std::uint64_t> handles = session()->scene().partlyDrawn();
     if (!handles.empty()) {
         m_isPartlyDrawnReported = true;
-        m_commandLine->print(QString::fromStdString("warning: " + partlyDrawnText(handles)));
+        m_commandLine->print(
+            QString::fromStdString(hostText("warning: %1", {partlyDrawnText(handles)})));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "DeskSettings.h"
 #include "ScriptSource.h"
 #include "Session.h"
+#include "hostText.h"
 #include "printableText.h"
 #include "qtWide.h"
 #include "readFile.h"
@@ -99,7 +100,8 @@ void PlayScript::playFile(Session& session, const QString& path) {
     }
     if (const auto line = ScriptSource::firstLineThatIsNoUtf8(*text)) {
         emit complained(
-            located({FailureCause::unreadableInput, {}, 0, "the script isn't UTF-8"}, path, *line));
+            located({FailureCause::unreadableInput, {}, 0, hostText("the script isn't UTF-8")},
+                    path, *line));
         return;
     }
     playText(session, *text, path);

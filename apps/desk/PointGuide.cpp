@@ -20,7 +20,7 @@ namespace {
 constexpr double kFlat = 1e-9; // of an axis that may leave the plan
 
 QString shownName(SnapMode mode) {
-    return QCoreApplication::translate("snap", snapName(mode));
+    return QCoreApplication::translate("orvex", snapName(mode));
 }
 
 GuidedPoint guidedTo(const SnapTarget& target) {

@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "DeskPrompts.h"
 #include "PromptSession.h"
+#include "hostText.h"
 #include "qtWide.h"
 #include "roundNumber.h"
 #include "userFrame.h"
@@ -25,7 +26,7 @@ KdGePoint3d beside(const KdGePoint3d& user, double x, double y) {
 PointReading typedAt(const KdGePoint3d& user) {
     const bool isFinite = std::isfinite(user.x) && std::isfinite(user.y) && std::isfinite(user.z);
     return isFinite ? PointReading(TypedPoint{user, {}})
-                    : PointReading(BrokenPoint{0, L"the point is too far away"});
+                    : PointReading(BrokenPoint{0, wideHostText("the point is too far away")});
 }
 
 } // namespace
@@ -61,10 +62,11 @@ void PointTyping::lookAtMouse(const PromptRequest& request) {
 
 PointReading PointTyping::alongMouse(const PromptRequest& request, double length) const {
     if (length == 0.0) {
-        return BrokenPoint{0, L"a length of 0 leads nowhere"};
+        return BrokenPoint{0, wideHostText("a length of 0 leads nowhere")};
     }
     if (!m_direction) {
-        return BrokenPoint{0, L"a length needs a direction: move the mouse over the drawing"};
+        return BrokenPoint{
+            0, wideHostText("a length needs a direction: move the mouse over the drawing")};
     }
     const KdGePoint3d base = baseOf(request);
     return typedAt(worldToUser(beside(base, m_direction->x * length, m_direction->y * length)));

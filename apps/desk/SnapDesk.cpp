@@ -156,7 +156,7 @@ void SnapDesk::makeSnapButton(QMainWindow& window) {
     for (int i = 0; i < kSnapModeCount; ++i) {
         const auto mode = static_cast<SnapMode>(i);
         QAction* const action = menu->addAction(
-            QCoreApplication::translate("snap", snapName(mode)) + '\t' + toQt(snapWordOf(mode)));
+            QCoreApplication::translate("orvex", snapName(mode)) + '\t' + toQt(snapWordOf(mode)));
         action->setObjectName(QStringLiteral("snap") + toQt(snapWordOf(mode)));
         action->setCheckable(true);
         m_modes.append(action);

@@ -4,6 +4,7 @@
 #include "PromptSession.h"
 #include "Session.h"
 #include "clickedPoint.h"
+#include "hostText.h"
 #include "matchPick.h"
 #include "mlineEdits.h"
 #include "qtWide.h"
@@ -64,9 +65,9 @@ QStringList measureAsSeen(Session& session, const PromptRequest& request,
     const QStringList lines{QStringLiteral("'ZOOM"), QStringLiteral("Center"),
                             toQt(pointText(center)), height};
     QStringList shown{toQt(request.text).trimmed() + ' ' + lines.front()};
-    const QStringList questions{QStringLiteral("Extents or Center: "),
-                                QStringLiteral("Center point: "),
-                                QStringLiteral("Height of the view: ")};
+    const QStringList questions{toQt(wideHostText("Extents or Center: ")),
+                                toQt(wideHostText("Center point: ")),
+                                toQt(wideHostText("Height of the view: "))};
     for (int i = 0; i < lines.size(); ++i) {
         session.record().line(toWide(lines[i]));
         if (i > 0) {

@@ -34,4 +34,12 @@ std::wstring wideHostText(const char* english, std::initializer_list<std::wstrin
     return filled(QCoreApplication::translate("orvex", english).toStdWString(), values);
 }
 
+std::string filledText(const std::string& text, std::initializer_list<std::string> values) {
+    return filled(text, values);
+}
+
+std::wstring filledText(const std::wstring& text, std::initializer_list<std::wstring> values) {
+    return filled(text, values);
+}
+
 } // namespace orvex

@@ -1,5 +1,6 @@
 #include "ChainFrame.h"
 
+#include "hostText.h"
 #include "impossible.h"
 #include "mlineTrack.h"
 
@@ -34,15 +35,16 @@ bool areFinite(std::span<const double> values) {
 std::optional<std::string> objectionTo(const MlineContent& mline, const ChainFrame& frame) {
     const KdGeVector3d normal = mline.normal;
     if (std::abs(normal.length() - 1.0) > kFlatness) {
-        return "its normal has not the length 1";
+        return hostText("its normal has not the length 1");
     }
     for (std::size_t v = 0; v < frame.vertices.size(); ++v) {
         if (frame.vertices[v].axis.length() == 0.0 || frame.vertices[v].axis.isZeroLength()) {
-            return "segment " + std::to_string(v) + " has no length";
+            return hostText("segment %1 has no length", {std::to_string(v)});
         }
         const double height = dot(mline.vertices[v].position - mline.vertices[0].position, normal);
         if (std::abs(height) > kFlatness * std::max(frame.largest, 1.0)) {
-            return "vertex " + std::to_string(v) + " doesn't lie in the plane of the others";
+            return hostText("vertex %1 doesn't lie in the plane of the others",
+                            {std::to_string(v)});
         }
     }
     return std::nullopt;
@@ -85,12 +87,12 @@ Result<ChainFrame> chainFrameOf(const MlineContent& mline, const StyleLayout& st
     const MlineChain chain(mline);
     const unsigned count = chain.vertexCount();
     if (count < 2) {
-        return impossible("it has fewer than two vertices");
+        return impossible(hostText("it has fewer than two vertices"));
     }
     ChainFrame frame;
     frame.distances = elementDistances(style, mline.scale, mline.justification);
     if (!isFinite(mline) || !areFinite(frame.distances)) {
-        return impossible("a number in it isn't finite");
+        return impossible(hostText("a number in it isn't finite"));
     }
     std::vector<KdGePoint3d> points;
     points.reserve(count);

@@ -1,5 +1,6 @@
 #include "breakLists.h"
 
+#include "hostText.h"
 #include "impossible.h"
 
 #include "geometry.h"
@@ -113,7 +114,7 @@ std::optional<Failure> gapContradiction(const MlineContent& mline) {
     for (unsigned s = 0; s < chain.segmentCount(); ++s) {
         for (unsigned e = 0; e < mline.lists.elementCount(s); ++e) {
             if (!ascends(chain.line(s, e)) || !ascends(chain.area(s, e))) {
-                return impossible("its gaps contradict each other");
+                return impossible(hostText("its gaps contradict each other"));
             }
         }
     }

@@ -4,6 +4,7 @@
 #include "ChainPart.h"
 #include "breakLists.h"
 #include "geometry.h"
+#include "hostText.h"
 #include "impossible.h"
 #include "reverse.h"
 
@@ -174,7 +175,7 @@ Result<std::vector<MlineContent>> partsBeside(const MlineContent& mline, const B
         std::swap(gap.from, gap.to);
     }
     if (breaker.isEnd(gap.from) || breaker.isStart(gap.to)) {
-        return impossible("it ends there already");
+        return impossible(hostText("it ends there already"));
     }
     std::vector<MlineContent> parts;
     if (!breaker.isStart(gap.from)) {
@@ -184,7 +185,7 @@ Result<std::vector<MlineContent>> partsBeside(const MlineContent& mline, const B
         parts.push_back(breaker.from(gap.to));
     }
     if (parts.empty()) {
-        return impossible("nothing would be left of it");
+        return impossible(hostText("nothing would be left of it"));
     }
     return parts;
 }
@@ -226,7 +227,7 @@ Result<std::vector<MlineContent>> broken(const MlineContent& mline, const KdGePo
     Result<std::vector<MlineContent>> parts = partsBeside(mline, breaker, gap);
     for (std::size_t i = 0; parts && i < parts->size(); ++i) {
         if (!chainFrameOf((*parts)[i], {})) {
-            return impossible("a part would have no length");
+            return impossible(hostText("a part would have no length"));
         }
     }
     return parts;
@@ -238,7 +239,7 @@ Result<MlineContent> connected(const MlineContent& first, const MlineContent& se
             return frame.failure();
         }
         if (each->closed) {
-            return impossible("a closed one has no ends");
+            return impossible(hostText("a closed one has no ends"));
         }
         if (const auto contradiction = gapContradiction(*each)) {
             return *contradiction;
@@ -248,7 +249,7 @@ Result<MlineContent> connected(const MlineContent& first, const MlineContent& se
         std::abs(first.scale) != std::abs(second.scale) ||
         first.elementCount() != second.elementCount() ||
         (first.normal - second.normal).length() > kSameDirection) {
-        return impossible("style, scale and justification don't agree");
+        return impossible(hostText("style, scale and justification don't agree"));
     }
     MlineContent other = second;
     if (first.scale != second.scale) {
@@ -262,7 +263,8 @@ Result<MlineContent> connected(const MlineContent& first, const MlineContent& se
     }
     const bool meetOtherwise = meet(first.vertices.front(), other.vertices.front()) ||
                                meet(first.vertices.back(), other.vertices.back());
-    return impossible(meetOtherwise ? "they run against each other" : "their ends don't meet");
+    return impossible(meetOtherwise ? hostText("they run against each other")
+                                    : hostText("their ends don't meet"));
 }
 
 } // namespace orvex

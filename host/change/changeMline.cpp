@@ -4,6 +4,7 @@
 #include "breakLists.h"
 #include "elementMatch.h"
 #include "geometry.h"
+#include "hostText.h"
 #include "impossible.h"
 #include "layRight.h"
 
@@ -22,16 +23,16 @@ constexpr std::size_t kFewestForClosing = 3;
 std::optional<std::string> objectionTo(const MlineContent& mline, const StyleLayout* style,
                                        const MlineChange& change) {
     if (style == nullptr) {
-        return "its style is missing";
+        return hostText("its style is missing");
     }
     if (style->offsets.empty() || style->offsets.size() > kMostElements) {
-        return "a style has 1 to 16 elements";
+        return hostText("a style has 1 to 16 elements");
     }
     if (change.scale && (!std::isfinite(*change.scale) || *change.scale == 0.0)) {
-        return "a scale is a number other than 0";
+        return hostText("a scale is a number other than 0");
     }
     if (change.keepsLines && (change.style || change.scale || change.closed)) {
-        return "its lines can be kept under another justification only";
+        return hostText("its lines can be kept under another justification only");
     }
     if (const auto contradiction = gapContradiction(mline)) {
         return contradiction->text;
@@ -67,7 +68,7 @@ Result<MlineContent> closedChain(MlineContent mline) {
         mline.lists.dropLastVertex();
     }
     if (mline.vertices.size() < kFewestForClosing) {
-        return impossible("a closed chain has three vertices or more");
+        return impossible(hostText("a closed chain has three vertices or more"));
     }
     mline.closed = true;
     unbreakLast(mline);
@@ -78,7 +79,7 @@ Result<MlineContent> closedChain(MlineContent mline) {
 Result<MlineContent> openChain(MlineContent mline, const StyleLayout& style) {
     const std::size_t last = mline.vertices.size() - 1;
     if (last < 1) {
-        return impossible("it has fewer than two vertices");
+        return impossible(hostText("it has fewer than two vertices"));
     }
     mline.closed = false;
     unbreakLast(mline);
@@ -117,7 +118,7 @@ Result<MlineContent> withChainMoved(const MlineContent& mline, const ChainFrame&
     }
     for (std::size_t v = 0; v < result.vertices.size(); ++v) {
         if (dot(moved->vertices[v].axis, frame.vertices[v].axis) <= 0.0) {
-            return impossible("a segment is too short to keep its lines");
+            return impossible(hostText("a segment is too short to keep its lines"));
         }
     }
     return result;
@@ -222,7 +223,7 @@ Result<ChangedMline> relaid(const MlineContent& mline, const StyleLayout* style,
         result.mline = std::move(*laid);
     }
     if (!isFinite(result.mline)) {
-        return impossible("a number in it would be too large");
+        return impossible(hostText("a number in it would be too large"));
     }
     return result;
 }

@@ -1,6 +1,7 @@
 #include "elementBreaks.h"
 
 #include "breakLists.h"
+#include "hostText.h"
 #include "impossible.h"
 
 #include <algorithm>
@@ -13,20 +14,20 @@ Result<MlineContent> withBreaks(const MlineContent& mline, unsigned segment, uns
                                 std::span<const double> distances) {
     const MlineChain chain(mline);
     if (segment >= chain.segmentCount()) {
-        return impossible("it has no segment " + std::to_string(segment));
+        return impossible(hostText("it has no segment %1", {std::to_string(segment)}));
     }
     if (element >= mline.lists.elementCount(segment)) {
-        return impossible("it has no element " + std::to_string(element));
+        return impossible(hostText("it has no element %1", {std::to_string(element)}));
     }
     if (!std::all_of(distances.begin(), distances.end(),
                      [](double value) { return std::isfinite(value); })) {
-        return impossible("a distance isn't finite");
+        return impossible(hostText("a distance isn't finite"));
     }
     const auto old = chain.line(segment, element);
     std::vector<double> list{old.empty() ? 0.0 : old.front()};
     list.insert(list.end(), distances.begin(), distances.end());
     if (!ascends(list)) {
-        return impossible("the distances don't ascend");
+        return impossible(hostText("the distances don't ascend"));
     }
     MlineContent changed = mline;
     VoVector<KdMLSegment> record = mline.lists.nested(segment);

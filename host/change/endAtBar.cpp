@@ -3,6 +3,7 @@
 #include "ChainFrame.h"
 #include "breakLists.h"
 #include "geometry.h"
+#include "hostText.h"
 #include "impossible.h"
 
 #include <algorithm>
@@ -80,13 +81,13 @@ Result<MlineContent> endAtBar(const MlineContent& mline, MlineEnd end, const Mli
         return *contradiction;
     }
     if (mline.closed) {
-        return impossible("it is closed and has no ends");
+        return impossible(hostText("it is closed and has no ends"));
     }
     const KdGeVector3d lift = bar.vertices[0].position - mline.vertices[0].position;
     const double largest = std::max(1.0, lift.length());
     if (cross(mline.normal, bar.normal).length() > kSamePlane ||
         std::abs(dot(lift, mline.normal)) > kSamePlane * largest) {
-        return impossible("it doesn't lie in the plane of the bar");
+        return impossible(hostText("it doesn't lie in the plane of the bar"));
     }
     const EndRay ray = rayOf(mline, end);
     const MlineChain chain(bar);
@@ -104,8 +105,9 @@ Result<MlineContent> endAtBar(const MlineContent& mline, MlineEnd end, const Mli
         }
     }
     if (!best) {
-        return impossible(change == EndChange::extend ? "its end doesn't lead to the bar"
-                                                      : "its last segment doesn't cross the bar");
+        return impossible(change == EndChange::extend
+                              ? hostText("its end doesn't lead to the bar")
+                              : hostText("its last segment doesn't cross the bar"));
     }
     return moveEnd(mline, end, ray.from + ray.way * *best);
 }

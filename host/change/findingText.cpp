@@ -1,5 +1,7 @@
 #include "findingText.h"
 
+#include "hostText.h"
+
 #include <charconv>
 
 namespace orvex {
@@ -15,21 +17,21 @@ namespace {
 std::string what(const Finding& finding) {
     switch (finding.code) {
     case FindingCode::style:
-        return "its style is missing";
+        return hostText("its style is missing");
     case FindingCode::elements:
-        return "elements";
+        return hostText("elements");
     case FindingCode::chain:
-        return "its chain can't be judged";
+        return hostText("its chain can't be judged");
     case FindingCode::axis:
-        return "degrees between axis and segment";
+        return hostText("degrees between axis and segment");
     case FindingCode::miter:
-        return "degrees between axis and miter";
+        return hostText("degrees between axis and miter");
     case FindingCode::position:
-        return "distance from the chain";
+        return hostText("distance from the chain");
     case FindingCode::order:
-        return "distance";
+        return hostText("distance");
     case FindingCode::reach:
-        return "reach";
+        return hostText("reach");
     }
     return {};
 }
@@ -61,13 +63,17 @@ const char* nameOf(FindingCode code) {
 const char* nameOf(FindingResult result) {
     switch (result) {
     case FindingResult::found:
-        return "found";
+        return markedText("found");
     case FindingResult::repaired:
-        return "repaired";
+        return markedText("repaired");
     case FindingResult::left:
-        return "left";
+        return markedText("left");
     }
     return "";
+}
+
+std::string shownName(FindingResult result) {
+    return hostText(nameOf(result));
 }
 
 std::string textOf(const Finding& finding) {
@@ -76,17 +82,17 @@ std::string textOf(const Finding& finding) {
                          finding.code == FindingCode::elements ||
                          finding.code == FindingCode::chain;
     if (!isOfAll) {
-        place = "vertex " + std::to_string(finding.vertex);
-        if (finding.element) {
-            place += ", element " + std::to_string(*finding.element);
-        }
+        const std::string vertex = std::to_string(finding.vertex);
+        place = finding.element
+                    ? hostText("vertex %1, element %2", {vertex, std::to_string(*finding.element)})
+                    : hostText("vertex %1", {vertex});
         place += ": ";
     }
     if (!finding.was || !finding.should) {
         return place + what(finding);
     }
-    return place + what(finding) + " " + numberText(*finding.was) + ", should be " +
-           numberText(*finding.should);
+    return place + hostText("%1 %2, should be %3",
+                            {what(finding), numberText(*finding.was), numberText(*finding.should)});
 }
 
 } // namespace orvex

@@ -1,6 +1,7 @@
 #include "layRight.h"
 
 #include "ChainFrame.h"
+#include "hostText.h"
 #include "impossible.h"
 
 #include <algorithm>
@@ -202,7 +203,7 @@ Result<MlineContent> laidAnew(MlineContent changed, const MlineContent& old,
     layPositions(changed, old, *frame, *oldFrame, true);
     layBreaks(changed, old, shifts, measure);
     if (!isFinite(changed)) {
-        return impossible("a number in it would be too large");
+        return impossible(hostText("a number in it would be too large"));
     }
     return changed;
 }

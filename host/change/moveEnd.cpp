@@ -2,6 +2,7 @@
 
 #include "breakLists.h"
 #include "chainMiter.h"
+#include "hostText.h"
 #include "impossible.h"
 
 #include <cmath>
@@ -35,10 +36,10 @@ Result<MlineContent> moveEnd(const MlineContent& mline, MlineEnd end, const KdGe
     const MlineChain chain(mline);
     const unsigned count = chain.vertexCount();
     if (count < 2) {
-        return impossible("it has fewer than two vertices");
+        return impossible(hostText("it has fewer than two vertices"));
     }
     if (chain.isClosed()) {
-        return impossible("it is closed and has no ends");
+        return impossible(hostText("it is closed and has no ends"));
     }
     const unsigned movedVertex = end == MlineEnd::start ? 0 : count - 1;
     const unsigned fixedVertex = end == MlineEnd::start ? 1 : count - 2;
@@ -49,13 +50,13 @@ Result<MlineContent> moveEnd(const MlineContent& mline, MlineEnd end, const KdGe
     way.normalize();
     const double length = dot(target - fixed, way);
     if (!std::isfinite(oldLength) || !std::isfinite(length)) {
-        return impossible("a number in it isn't finite");
+        return impossible(hostText("a number in it isn't finite"));
     }
     if (KdGeVector3d(way * oldLength).isZeroLength()) {
-        return impossible("its last segment has no length");
+        return impossible(hostText("its last segment has no length"));
     }
     if (!(length > reachTolerance(oldLength))) {
-        return impossible("the place lies at or beyond the segment's other vertex");
+        return impossible(hostText("the place lies at or beyond the segment's other vertex"));
     }
     MlineContent moved = mline;
     // From the end's own place, so that an end moved to where it is stays there to the bit.

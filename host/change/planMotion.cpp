@@ -2,6 +2,7 @@
 
 #include "ChainFrame.h"
 #include "geometry.h"
+#include "hostText.h"
 #include "impossible.h"
 
 #include <cmath>
@@ -95,7 +96,7 @@ Result<PlanMotion> mirrorAt(const KdGePoint3d& first, const KdGePoint3d& second,
     KdGeVector3d across = cross(normal, second - first);
     const double length = across.length();
     if (!std::isfinite(length) || across.isZeroLength()) {
-        return impossible("the mirror line has no length");
+        return impossible(hostText("the mirror line has no length"));
     }
     across = across * (1.0 / length);
     const auto mirror = [&across](const KdGeVector3d& v) {
@@ -113,7 +114,7 @@ Result<PlanMotion> mirrorAt(const KdGePoint3d& first, const KdGePoint3d& second,
 Result<MlineContent> movedBy(const MlineContent& mline, const PlanMotion& motion) {
     const bool isShift = isPlainShift(motion);
     if (!isShift && (turned(motion, mline.normal) - mline.normal).length() > kSameNormal) {
-        return impossible("it would leave its plane");
+        return impossible(hostText("it would leave its plane"));
     }
     MlineContent result = mline;
     for (ChainVertex& vertex : result.vertices) {
@@ -127,7 +128,7 @@ Result<MlineContent> movedBy(const MlineContent& mline, const PlanMotion& motion
         switchSides(result);
     }
     if (!chainFrameOf(result, {}) && chainFrameOf(mline, {})) {
-        return impossible("its vertices would fall together");
+        return impossible(hostText("its vertices would fall together"));
     }
     return result;
 }

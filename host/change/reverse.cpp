@@ -1,6 +1,7 @@
 #include "reverse.h"
 
 #include "breakLists.h"
+#include "hostText.h"
 #include "impossible.h"
 
 #include <algorithm>
@@ -113,7 +114,7 @@ private:
 
 Result<MlineContent> reversed(const MlineContent& mline) {
     if (mline.vertices.size() < 2) {
-        return impossible("it has fewer than two vertices");
+        return impossible(hostText("it has fewer than two vertices"));
     }
     if (const auto contradiction = gapContradiction(mline)) {
         return *contradiction;

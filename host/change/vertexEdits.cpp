@@ -4,6 +4,7 @@
 #include "ChainPart.h"
 #include "breakLists.h"
 #include "chainMiter.h"
+#include "hostText.h"
 #include "impossible.h"
 #include "layRight.h"
 
@@ -24,7 +25,7 @@ constexpr unsigned kFewestOpen = 2;
 std::optional<Failure> objectionTo(const MlineContent& mline, const StyleLayout& style,
                                    unsigned vertex) {
     if (vertex >= mline.vertices.size()) {
-        return impossible("it has no vertex " + std::to_string(vertex));
+        return impossible(hostText("it has no vertex %1", {std::to_string(vertex)}));
     }
     if (const auto contradiction = gapContradiction(mline)) {
         return contradiction;
@@ -76,8 +77,8 @@ Result<MlineContent> moved(const MlineContent& mline, const StyleLayout& style, 
         const unsigned next = chain.next(s);
         if ((s == vertex || next == vertex) &&
             (mline.vertices[s == vertex ? next : s].position - place).isZeroLength()) {
-            return impossible("vertex " + std::to_string(vertex) +
-                              " would fall together with its neighbour");
+            return impossible(hostText("vertex %1 would fall together with its neighbour",
+                                       {std::to_string(vertex)}));
         }
     }
     MlineContent changed = mline;
@@ -245,8 +246,8 @@ Result<VertexEdit> withVertexRemoved(const MlineContent& mline, const StyleLayou
     const MlineChain chain(mline);
     const unsigned count = chain.vertexCount();
     if (count <= (chain.isClosed() ? kFewestClosed : kFewestOpen)) {
-        return impossible(chain.isClosed() ? "a closed chain has three vertices or more"
-                                           : "a chain has two vertices or more");
+        return impossible(chain.isClosed() ? hostText("a closed chain has three vertices or more")
+                                           : hostText("a chain has two vertices or more"));
     }
     if (!chain.isClosed() && (vertex == 0 || vertex + 1 == count)) {
         Result<MlineContent> shorter = withoutEnd(mline, style, vertex == 0);
@@ -258,7 +259,7 @@ Result<VertexEdit> withVertexRemoved(const MlineContent& mline, const StyleLayou
     const KdGePoint3d& before = mline.vertices[(vertex + count - 1) % count].position;
     const KdGePoint3d& after = mline.vertices[chain.next(vertex)].position;
     if ((after - before).isZeroLength()) {
-        return impossible("its neighbours lie in the same place");
+        return impossible(hostText("its neighbours lie in the same place"));
     }
     MlineContent chord = mline; // only to find the foot
     chord.vertices = {mline.vertices[(vertex + count - 1) % count],

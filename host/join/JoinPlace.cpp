@@ -1,6 +1,7 @@
 #include "JoinPlace.h"
 
 #include "handleText.h"
+#include "hostText.h"
 
 #include <array>
 #include <charconv>
@@ -12,35 +13,43 @@ namespace {
 struct ReasonWords {
     JoinReason reason;
     std::string_view code;
-    std::string_view text; // {has}, {needs}, {others}, {count} stand for the place's numbers
+    const char* text; // {has}, {needs}, {others}, {count} stand for the place's numbers
 };
 
 constexpr std::array kReasons{
-    ReasonWords{JoinReason::node, "node", "{count} walls meet here"},
-    ReasonWords{JoinReason::alongside, "alongside", "the walls run along each other"},
-    ReasonWords{JoinReason::duplicate, "duplicate", "the same wall stands here twice"},
-    ReasonWords{JoinReason::normal, "normal", "a wall's normal isn't +z"},
-    ReasonWords{JoinReason::plane, "plane", "the walls lie {has} apart in height"},
-    ReasonWords{JoinReason::gap, "gap", "a gap leaves no line to pick"},
-    ReasonWords{JoinReason::noPick, "no-pick", "a pick here would find another line of its wall"},
-    ReasonWords{JoinReason::style, "style", "a wall's style isn't in the drawing"},
+    ReasonWords{JoinReason::node, "node", markedText("{count} walls meet here")},
+    ReasonWords{JoinReason::alongside, "alongside", markedText("the walls run along each other")},
+    ReasonWords{JoinReason::duplicate, "duplicate", markedText("the same wall stands here twice")},
+    ReasonWords{JoinReason::normal, "normal", markedText("a wall's normal isn't +z")},
+    ReasonWords{JoinReason::plane, "plane", markedText("the walls lie {has} apart in height")},
+    ReasonWords{JoinReason::gap, "gap", markedText("a gap leaves no line to pick")},
+    ReasonWords{JoinReason::noPick, "no-pick",
+                markedText("a pick here would find another line of its wall")},
+    ReasonWords{JoinReason::style, "style", markedText("a wall's style isn't in the drawing")},
     ReasonWords{JoinReason::outerElements, "outer-elements",
-                "a wall's first and last element coincide or aren't the outermost"},
-    ReasonWords{JoinReason::singleElement, "single-element", "a wall has one element only"},
-    ReasonWords{JoinReason::tooFlat, "too-flat",
-                "nearly in one line: the corner would reach {has}, {needs} at most is allowed"},
+                markedText("a wall's first and last element coincide or aren't the outermost")},
+    ReasonWords{JoinReason::singleElement, "single-element",
+                markedText("a wall has one element only")},
+    ReasonWords{
+        JoinReason::tooFlat, "too-flat",
+        markedText("nearly in one line: the corner would reach {has}, {needs} at most is allowed")},
     ReasonWords{JoinReason::tooAcute, "too-acute",
-                "too acute: the corner would reach {has}, {needs} at most is allowed"},
+                markedText("too acute: the corner would reach {has}, {needs} at most is allowed")},
     ReasonWords{JoinReason::shortLeg, "short-leg",
-                "a leg of {has} is too short for the joint, which needs {needs}"},
-    ReasonWords{JoinReason::reach, "reach", "the joint reaches into the one of {others}"},
-    ReasonWords{JoinReason::bend, "bend", "the place lies on a bend"},
-    ReasonWords{JoinReason::bothEnds, "both-ends", "both ends of a wall lie at the place"},
-    ReasonWords{JoinReason::severalBars, "several-bars", "an end reaches several walls: {others}"},
-    ReasonWords{JoinReason::axis, "axis", "the chains don't cross where the walls do"},
-    ReasonWords{JoinReason::closing, "closing", "the closing segment of a ring can't be cut here"},
-    ReasonWords{JoinReason::refused, "refused", "the tool found nothing to join"},
-    ReasonWords{JoinReason::notRight, "not-right", "the joint came out wrong and was taken back"},
+                markedText("a leg of {has} is too short for the joint, which needs {needs}")},
+    ReasonWords{JoinReason::reach, "reach",
+                markedText("the joint reaches into the one of {others}")},
+    ReasonWords{JoinReason::bend, "bend", markedText("the place lies on a bend")},
+    ReasonWords{JoinReason::bothEnds, "both-ends",
+                markedText("both ends of a wall lie at the place")},
+    ReasonWords{JoinReason::severalBars, "several-bars",
+                markedText("an end reaches several walls: {others}")},
+    ReasonWords{JoinReason::axis, "axis", markedText("the chains don't cross where the walls do")},
+    ReasonWords{JoinReason::closing, "closing",
+                markedText("the closing segment of a ring can't be cut here")},
+    ReasonWords{JoinReason::refused, "refused", markedText("the tool found nothing to join")},
+    ReasonWords{JoinReason::notRight, "not-right",
+                markedText("the joint came out wrong and was taken back")},
 };
 
 template <std::size_t... I>
@@ -95,7 +104,7 @@ std::string joinReasonText(const JoinPlace& place, std::span<const JoinWall> wal
     if (place.reason == JoinReason::none) {
         return {};
     }
-    std::string text(kReasons[static_cast<std::size_t>(place.reason) - 1].text);
+    std::string text = hostText(kReasons[static_cast<std::size_t>(place.reason) - 1].text);
     replace(text, "{has}", number(place.has));
     replace(text, "{needs}", number(place.needs));
     replace(text, "{others}", handleList(place.others, walls));

@@ -2,6 +2,7 @@
 
 #include "PromptSession.h"
 #include "TransparentCommands.h"
+#include "hostText.h"
 #include "textCodec.h"
 #include "typedAnswer.h"
 #include "userFrame.h"
@@ -15,23 +16,23 @@ namespace orvex {
 
 namespace {
 
-std::wstring wanted(PromptKind kind) {
+std::wstring notWanted(PromptKind kind, const std::wstring& text) {
     switch (kind) {
     case PromptKind::keyword:
-        return L"a keyword";
+        return wideHostText("'%1' is not a keyword", {text});
     case PromptKind::entity:
-        return L"a pick";
+        return wideHostText("'%1' is not a pick", {text});
     case PromptKind::selection:
-        return L"a pick or #HANDLE";
+        return wideHostText("'%1' is not a pick or #HANDLE", {text});
     case PromptKind::point:
-        return L"a point";
+        return wideHostText("'%1' is not a point", {text});
     case PromptKind::real:
-        return L"a number";
+        return wideHostText("'%1' is not a number", {text});
     case PromptKind::command:
     case PromptKind::text:
         break;
     }
-    return L"an answer";
+    return wideHostText("'%1' is not an answer", {text});
 }
 
 // These are for a cursor, which a script has not.
@@ -61,10 +62,10 @@ TextReading readPointAnswer(const PromptRequest& request, const std::wstring& te
         return {};
     }
     if (isPick && text.starts_with(L'@')) {
-        return BrokenPoint{0, L"only points are counted from the last point"};
+        return BrokenPoint{0, wideHostText("only points are counted from the last point")};
     }
     if (!isPick && typed->handle) {
-        return BrokenPoint{text.find(L'#'), L"only picks have a handle"};
+        return BrokenPoint{text.find(L'#'), wideHostText("only picks have a handle")};
     }
     PromptAnswer answer;
     answer.kind = PromptAnswer::Kind::point;
@@ -124,27 +125,30 @@ TextReading answerFromText(const PromptRequest& request, const std::wstring& tex
 
 std::wstring complaintAbout(const PromptRequest& request, const std::wstring& text,
                             const TextReading& reading) {
-    std::wstring message = L"'" + text + L"' is not " + wanted(request.kind);
+    std::wstring message = notWanted(request.kind, text);
     if (const auto* const broken = std::get_if<BrokenPoint>(&reading)) {
-        return message + L": at character " + std::to_wstring(broken->place + 1) + L", " +
-               broken->reason;
+        return wideHostText("%1: at character %2, %3",
+                            {message, std::to_wstring(broken->place + 1), broken->reason});
     }
-    if (request.kind == PromptKind::point && (parseReal(text) || isSnapWord(text))) {
-        return message + L": " + (isSnapWord(text) ? L"a snap word" : L"a bare length") +
-               L" needs the cursor of a window";
+    if (request.kind == PromptKind::point && isSnapWord(text)) {
+        return wideHostText("%1: a snap word needs the cursor of a window", {message});
+    }
+    if (request.kind == PromptKind::point && parseReal(text)) {
+        return wideHostText("%1: a bare length needs the cursor of a window", {message});
     }
     if (!request.keywords.empty()) {
-        message +=
-            request.kind == PromptKind::keyword ? L" on offer (" : L" or one of the keywords (";
+        std::wstring list;
         for (const std::wstring& keyword : request.keywords) {
-            message += keyword + L' ';
+            list += (list.empty() ? L"" : L" ") + keyword;
         }
-        message.back() = L')';
+        message = request.kind == PromptKind::keyword
+                      ? wideHostText("%1 on offer (%2)", {message, list})
+                      : wideHostText("%1 or one of the keywords (%2)", {message, list});
     } else if (request.kind == PromptKind::keyword) {
-        message += L" on offer";
+        message = wideHostText("%1 on offer", {message});
     }
     if (request.kind == PromptKind::real && hasDecimalComma(text)) {
-        message += L": decimals follow a point, " + withPoint(text);
+        message = wideHostText("%1: decimals follow a point, %2", {message, withPoint(text)});
     }
     return message;
 }

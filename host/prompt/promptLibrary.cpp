@@ -11,6 +11,7 @@
 #include "TransparentCommands.h"
 #include "boundedCopy.h"
 #include "coordinateFrames.h"
+#include "hostText.h"
 #include "kddbObjects.h"
 #include "keywords.h"
 #include "lockedLayers.h"
@@ -100,7 +101,7 @@ PromptAnswer askUser(PromptKind kind, const wchar_t* prompt,
         session.lastKeyword = keyword.value_or(L"");
         answer.keyword = session.lastKeyword;
         if (!keyword) {
-            session.source->reject(L"the keyword isn't on offer");
+            session.source->reject(wideHostText("the keyword isn't on offer"));
             answer.kind = PromptAnswer::Kind::cancel;
         }
     }

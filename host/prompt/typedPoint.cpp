@@ -2,6 +2,7 @@
 
 #include "blanks.h"
 #include "geometry.h"
+#include "hostText.h"
 #include "typedAnswer.h"
 
 #include <algorithm>
@@ -45,14 +46,14 @@ public:
         }
         std::optional<TypedPoint> result;
         if (const auto point = readPlace(); point && !isFinite(*point)) {
-            fail(0, L"the point is too far away");
+            fail(0, wideHostText("the point is too far away"));
         } else if (point) {
             result = TypedPoint{*point, {}};
         }
         if (result && m_at < m_text.size()) { // at the sign of a handle
             result->handle = parseHandlePick(m_text.substr(m_at));
             if (!result->handle) {
-                fail(m_at, L"a hexadecimal handle has to follow '#'");
+                fail(m_at, wideHostText("a hexadecimal handle has to follow '#'"));
             }
         }
         return m_broken ? PointReading(*m_broken) : PointReading(*result);
@@ -81,11 +82,11 @@ private:
         }
         const wchar_t sign = m_at < m_text.size() ? m_text[m_at] : L'\0';
         if (sign != L',' && sign != L'<') {
-            return fail(m_at,
-                        isRelative ? L"a comma or '<' has to follow" : L"a comma has to follow");
+            return fail(m_at, isRelative ? wideHostText("a comma or '<' has to follow")
+                                         : wideHostText("a comma has to follow"));
         }
         if (sign == L'<' && !isRelative) {
-            return fail(start, L"a length with an angle begins with '@'");
+            return fail(start, wideHostText("a length with an angle begins with '@'"));
         }
         ++m_at;
         const auto second = readNumber();
@@ -94,7 +95,7 @@ private:
         }
         const bool hasThird = m_at < m_text.size() && m_text[m_at] != L'#';
         if (sign == L'<') {
-            return hasThird ? fail(m_at, L"nothing can follow the angle")
+            return hasThird ? fail(m_at, wideHostText("nothing can follow the angle"))
                             : std::optional(m_last + directionOf(*second) * *first);
         }
         const std::optional<double> third = hasThird ? readThird() : 0.0;
@@ -107,12 +108,12 @@ private:
 
     std::optional<double> readThird() {
         if (m_text[m_at] == L'<') {
-            return fail(m_at, L"an angle follows a length alone");
+            return fail(m_at, wideHostText("an angle follows a length alone"));
         }
         ++m_at;
         const auto z = readNumber();
         if (z && m_at < m_text.size() && m_text[m_at] != L'#') {
-            return fail(m_at, L"nothing can follow the third number");
+            return fail(m_at, wideHostText("nothing can follow the third number"));
         }
         return z;
     }
@@ -124,14 +125,14 @@ private:
         m_at = std::min(m_text.find_first_of(L",<@#", start), m_text.size());
         const std::wstring_view digits = trimBlanks(m_text.substr(start, m_at - start));
         if (digits.empty()) {
-            fail(start, L"a number is missing");
+            fail(start, wideHostText("a number is missing"));
             return std::nullopt;
         }
         const std::optional<double> number = parseReal(digits);
         if (!number) {
-            fail(start, L"'" + std::wstring(digits) + L"' is no number");
+            fail(start, wideHostText("'%1' is no number", {std::wstring(digits)}));
         } else if (m_at < m_text.size() && m_text[m_at] == L'@') {
-            fail(m_at, L"'@' belongs at the beginning");
+            fail(m_at, wideHostText("'@' belongs at the beginning"));
             return std::nullopt;
         }
         return number;

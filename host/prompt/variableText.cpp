@@ -1,6 +1,7 @@
 #include "variableText.h"
 
 #include "hostHeap.h"
+#include "hostText.h"
 #include "promptStatus.h"
 #include "systemVariables.h"
 #include "textCodec.h"
@@ -83,7 +84,7 @@ std::optional<std::wstring> variableText(const std::wstring& name) {
 std::optional<Failure> setVariableText(const std::wstring& name, const std::wstring& text) {
     const VariableRow* const row = findVariable(name);
     if (row == nullptr) {
-        return refusal(L"there is no variable '" + name + L"'");
+        return refusal(wideHostText("there is no variable '%1'", {name}));
     }
     std::optional<resbuf> value = parseValue(*row, text);
     if (value) {
@@ -95,7 +96,7 @@ std::optional<Failure> setVariableText(const std::wstring& name, const std::wstr
             return std::nullopt;
         }
     }
-    return refusal(L"'" + text + L"' is no value for " + name);
+    return refusal(wideHostText("'%1' is no value for %2", {text, name}));
 }
 
 } // namespace orvex

@@ -4,6 +4,7 @@
 #include "KdRxDynamicLinker.h"
 #include "LoadedModules.h"
 #include "ResourceLibraries.h"
+#include "hostText.h"
 #include "kdrxRegistry.h"
 #include "moduleEntry.h"
 #include "moduleFile.h"
@@ -43,7 +44,7 @@ Failure unloadable(const std::string& path, std::string text) {
 // The system's text begins with the file to blame, which may be a library that the module needs.
 std::string lastLinkerError(const std::string& path) {
     const char* const told = dlerror();
-    std::string text = told != nullptr ? told : "it can't be opened";
+    std::string text = told != nullptr ? told : hostText("it can't be opened");
     if (text.starts_with(path + ": ")) {
         text.erase(0, path.size() + 2);
     }
@@ -117,10 +118,10 @@ std::optional<Failure> ModuleLoader::load(const std::string& path) {
     module->entryPoint = entry<EntryPointFunction>(library, "kdrxEntryPoint");
     const auto apiVersion = entry<ApiVersionFunction>(library, "kdrxGetApiVersion");
     if (module->dllMain == nullptr || module->entryPoint == nullptr || apiVersion == nullptr) {
-        return unloadable(module->path, "it isn't a module");
+        return unloadable(module->path, hostText("it isn't a module"));
     }
     if (apiVersion(0) != kApiVersion) {
-        return unloadable(module->path, "the module is for another version of the host");
+        return unloadable(module->path, hostText("the module is for another version of the host"));
     }
     module->handle = addModuleHandle(module->path);
     module->dllMain(module->handle, kReasonAttach, nullptr);
@@ -129,7 +130,7 @@ std::optional<Failure> ModuleLoader::load(const std::string& path) {
         module->dllMain(module->handle, kReasonDetach, nullptr);
         dropModuleHandle(module->handle);
         const std::string refusal = ResourceLibraries::instance().takeRefusal();
-        return unloadable(module->path, "the module or its texts can't be loaded" +
+        return unloadable(module->path, hostText("the module or its texts can't be loaded") +
                                             (refusal.empty() ? refusal : " (" + refusal + ')'));
     }
     m_modules.push_back(std::move(module));

@@ -1,5 +1,7 @@
 #include "moduleFile.h"
 
+#include "hostText.h"
+
 #include <elf.h>
 
 #include <cstdint>
@@ -42,7 +44,7 @@ std::optional<std::string> findFaultOfModuleFile(const std::string& path) {
         return std::nullopt; // the loader says it in the user's language
     }
     if (!std::filesystem::is_regular_file(path, error)) {
-        return "it isn't a regular file";
+        return hostText("it isn't a regular file");
     }
     const std::uint64_t fileSize = std::filesystem::file_size(path, error);
     std::ifstream file(path, std::ios::binary);
@@ -51,7 +53,7 @@ std::optional<std::string> findFaultOfModuleFile(const std::string& path) {
     }
     Elf64_Ehdr header{};
     if (!readAt(file, 0, header)) {
-        return "it is too short for a module";
+        return hostText("it is too short for a module");
     }
     const bool isElf = std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0 &&
                        header.e_ident[EI_CLASS] == ELFCLASS64 &&
@@ -61,7 +63,7 @@ std::optional<std::string> findFaultOfModuleFile(const std::string& path) {
     }
     const std::uint64_t sections = std::uint64_t{header.e_shnum} * header.e_shentsize;
     if (!holds(fileSize, header.e_shoff, sections) || !holdsSegments(file, fileSize, header)) {
-        return "the file is cut short";
+        return hostText("the file is cut short");
     }
     return std::nullopt;
 }

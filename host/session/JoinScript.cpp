@@ -1,6 +1,7 @@
 #include "JoinScript.h"
 
 #include "handleText.h"
+#include "hostText.h"
 #include "userFrame.h"
 
 #include <array>
@@ -106,9 +107,20 @@ void JoinScript::stops(std::uint64_t entity, unsigned segment, unsigned element,
     endCommand();
 }
 
+namespace {
+
+// As codes have them, in the order of PlaceKind and PlaceResult.
+constexpr std::array kKindNames{markedText("cross"), markedText("tee"), markedText("corner"),
+                                markedText("node"), markedText("overlap")};
+constexpr std::array kResultNames{markedText("planned"), markedText("joined"),
+                                  markedText("already"), markedText("left"), markedText("unasked")};
+
+} // namespace
+
 std::string joinPlaceTitle(const JoinPlace& place, std::span<const JoinWall> walls) {
-    std::string text(placeKindWord(place.kind));
-    text += " at " + placeText(place.at) + " of";
+    std::string text =
+        hostText("%1 at %2 of",
+                 {hostText(kKindNames[static_cast<std::size_t>(place.kind)]), placeText(place.at)});
     for (const unsigned wall : place.walls) {
         text += ' ' + entityText(walls[wall].handle());
     }
@@ -117,7 +129,7 @@ std::string joinPlaceTitle(const JoinPlace& place, std::span<const JoinWall> wal
 
 std::string joinPlaceText(const JoinPlace& place, std::span<const JoinWall> walls) {
     std::string text = joinPlaceTitle(place, walls) + ": ";
-    text += placeResultWord(place.result);
+    text += hostText(kResultNames[static_cast<std::size_t>(place.result)]);
     if (place.result == PlaceResult::left) {
         text += ", " + joinReasonText(place, walls);
     }

@@ -12,6 +12,7 @@
 #include "Scene.h"
 #include "Session.h"
 #include "WellKnownObjects.h"
+#include "hostText.h"
 #include "textCodec.h"
 
 #include <exception>
@@ -160,12 +161,13 @@ std::optional<Failure> ScratchSession::run(const std::wstring& command, PromptSo
         (*function)();
         bracket.end();
     } catch (const std::bad_alloc&) {
-        failure = Failure{FailureCause::unplayableScript, {}, 0, "not enough memory"};
+        failure = Failure{FailureCause::unplayableScript, {}, 0, hostText("not enough memory")};
     } catch (const std::exception& error) {
-        failure = Failure{FailureCause::programFault,
-                          {},
-                          0,
-                          "the command '" + narrow(command) + "' failed: " + error.what()};
+        failure =
+            Failure{FailureCause::programFault,
+                    {},
+                    0,
+                    hostText("the command '%1' failed", {narrow(command)}) + ": " + error.what()};
     }
     m_prompts.pickBox = prompts.pickBox;
     return failure;

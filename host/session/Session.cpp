@@ -9,6 +9,7 @@
 #include "ModuleLoader.h"
 #include "commandOutput.h"
 #include "hostFolders.h"
+#include "hostText.h"
 #include "kdrxRegistry.h"
 #include "promptExchange.h"
 #include "supportFiles.h"
@@ -114,13 +115,13 @@ void Session::setSource(PromptSource* source) {
 }
 
 std::wstring Session::askCommand() {
-    const PromptAnswer answer = askUser(PromptKind::command, L"Command: ");
+    const PromptAnswer answer = askUser(PromptKind::command, wideHostText("Command: ").c_str());
     return answer.kind == PromptAnswer::Kind::text ? answer.text : std::wstring();
 }
 
 std::optional<Failure> Session::run(const std::wstring& name) {
     if (m_running) {
-        return unplayable(L"a command is running already");
+        return unplayable(wideHostText("a command is running already"));
     }
     // A transparent one is like any other where nothing is asked.
     const std::wstring plain = transparentCommand(name).value_or(name);
@@ -152,7 +153,8 @@ void Session::recordCommand(const std::wstring& name) {
 }
 
 Result<Session::CommandFunction> Session::findModuleCommand(const std::wstring& name) {
-    const Failure withoutWindow = unplayable(L"the command '" + name + L"' needs a window");
+    const Failure withoutWindow =
+        unplayable(wideHostText("the command '%1' needs a window", {name}));
     if (needsWindow(name) && !m_setup.hasWindow) {
         return withoutWindow;
     }
@@ -164,7 +166,7 @@ Result<Session::CommandFunction> Session::findModuleCommand(const std::wstring& 
         command = findRegistered(name);
     }
     if (command == nullptr) {
-        return unplayable(L"there is no command '" + name + L"'");
+        return unplayable(wideHostText("there is no command '%1'", {name}));
     }
     // A translated name is checked once it is known which command it names.
     if (needsWindow(command->globalName) && !m_setup.hasWindow) {
@@ -179,14 +181,15 @@ std::optional<Failure> Session::runInBracket(const std::wstring& name,
     (void)view();
     m_running = true;
     std::optional<Failure> failure;
-    const std::string what = "the command '" + narrow(name) + "' failed";
+    const std::string what = hostText("the command '%1' failed", {narrow(name)});
     try {
         CommandBracket bracket(foldCase(name), database().core(), m_display, m_modules);
         command();
         runFollowers();
         m_record.end(bracket.end());
     } catch (const std::bad_alloc&) {
-        failure = Failure{FailureCause::unplayableScript, {}, 0, what + ": not enough memory"};
+        failure = Failure{
+            FailureCause::unplayableScript, {}, 0, what + ": " + hostText("not enough memory")};
     } catch (const std::exception& error) {
         failure = Failure{FailureCause::programFault, {}, 0, what + ": " + error.what()};
     } catch (...) {
@@ -214,13 +217,13 @@ void Session::runFollowers() {
 
 void Session::undo() {
     if (!database().core().changes().undo()) {
-        kdutPrintf(L"There is nothing to undo.");
+        kdutPrintf(L"%ls", wideHostText("There is nothing to undo.").c_str());
     }
 }
 
 void Session::redo() {
     if (!database().core().changes().redo()) {
-        kdutPrintf(L"There is nothing to redo.");
+        kdutPrintf(L"%ls", wideHostText("There is nothing to redo.").c_str());
     }
 }
 
@@ -236,7 +239,7 @@ std::optional<Failure> Session::loadModule() {
     if (m_setup.moduleFiles.empty()) {
         return std::nullopt;
     }
-    return unloadable("the module " + m_setup.moduleFiles.front() + " can't be found");
+    return unloadable(hostText("the module %1 can't be found", {m_setup.moduleFiles.front()}));
 }
 
 } // namespace orvex

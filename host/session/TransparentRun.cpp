@@ -5,6 +5,7 @@
 #include "HostCommand.h"
 #include "KdDbDatabase.h"
 #include "Session.h"
+#include "hostText.h"
 #include "promptExchange.h"
 
 #include <algorithm>
@@ -73,7 +74,7 @@ std::optional<PromptAnswer> TransparentRun::redo(const PromptRequest& request) {
     if (isBetweenCycles && m_session.database().core().changes().rollForward()) {
         return afterCycle(request);
     }
-    printLines(L"There is nothing to redo.");
+    printLines(wideHostText("There is nothing to redo."));
     return std::nullopt;
 }
 

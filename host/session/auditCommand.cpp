@@ -3,6 +3,7 @@
 #include "HostCommand.h"
 #include "commandOutput.h"
 #include "drawingAudit.h"
+#include "hostText.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "selection.h"
@@ -22,7 +23,7 @@ void auditCommand(Session& session) {
     }
     wchar_t keyword[kPromptTextSize] = L"";
     kdedInitGet(0, L"Look Repair");
-    if (kdedGetKword(L"Look or Repair: ", keyword) != kPromptNormal) {
+    if (kdedGetKword(wideHostText("Look or Repair: ").c_str(), keyword) != kPromptNormal) {
         return;
     }
     const std::vector<AuditedMline> audited =

@@ -7,6 +7,7 @@
 #include "PickTrial.h"
 #include "breakMline.h"
 #include "editMlines.h"
+#include "hostText.h"
 #include "impossible.h"
 #include "mlineEdits.h"
 #include "promptLibrary.h"
@@ -20,7 +21,7 @@ namespace {
 Result<MlineContent> connectedWith(const PickedMline& first, const KdDbStub& second,
                                    const MlineContent& content) {
     if (first.stub == &second) {
-        return impossible("it was picked twice");
+        return impossible(hostText("it was picked twice"));
     }
     return connected(*first.content, content);
 }
@@ -30,7 +31,8 @@ bool askSecond(const KdGePoint3d& first, std::optional<KdGePoint3d>& second) {
     const KdGePoint3d base = worldToUser(first);
     const double from[3] = {base.x, base.y, base.z};
     double point[3] = {0.0, 0.0, 0.0};
-    const int status = kdedGetPoint(from, L"Second point, Enter for none: ", point);
+    const int status =
+        kdedGetPoint(from, wideHostText("Second point, Enter for none: ").c_str(), point);
     if (status == kPromptNormal) {
         second = userToWorld({point[0], point[1], point[2]});
     }
@@ -40,8 +42,8 @@ bool askSecond(const KdGePoint3d& first, std::optional<KdGePoint3d>& second) {
 } // namespace
 
 void breakCommand(Session& /*session*/) {
-    const auto picked = pickMline(L"Multiline to break: ");
-    const auto first = picked ? askPoint(L"Point: ") : std::nullopt;
+    const auto picked = pickMline(wideHostText("Multiline to break: ").c_str());
+    const auto first = picked ? askPoint(wideHostText("Point: ").c_str()) : std::nullopt;
     std::optional<KdGePoint3d> second;
     if (!first || !askSecond(*first, second)) {
         return;
@@ -58,7 +60,7 @@ void breakCommand(Session& /*session*/) {
 }
 
 void connectCommand(Session& /*session*/) {
-    const auto first = pickMline(L"First multiline: ");
+    const auto first = pickMline(wideHostText("First multiline: ").c_str());
     if (!first) {
         return;
     }
@@ -67,7 +69,7 @@ void connectCommand(Session& /*session*/) {
                  const KdGePoint3d& /*place*/) -> Result<std::unique_ptr<KdDbEntity>> {
             const auto content = contentOf(entity);
             if (content == nullptr || content->vertices.empty()) {
-                return impossible("no multiline");
+                return impossible(hostText("no multiline"));
             }
             Result<MlineContent> one = connectedWith(*first, entity, *content);
             if (!one) {
@@ -75,7 +77,7 @@ void connectCommand(Session& /*session*/) {
             }
             return freeMline(std::move(*one));
         });
-    const auto second = pickMline(L"Second multiline: ");
+    const auto second = pickMline(wideHostText("Second multiline: ").c_str());
     if (!second) {
         return;
     }

@@ -13,6 +13,7 @@
 #include "changeMline.h"
 #include "commandOutput.h"
 #include "editMlines.h"
+#include "hostText.h"
 #include "kddbObjects.h"
 #include "lockedLayers.h"
 #include "mlineEdits.h"
@@ -44,7 +45,8 @@ std::optional<MlineChange::Style> styleCalled(DatabaseCore& core, const std::wst
     KdDbStub* const stub = core.wellKnown().findStyle(name);
     const Opened<KdDbMlineStyle> style(KdDbObjectId(stub), kForRead);
     if (!style) {
-        printLine(L"There is no style '" + name + L"'" + namesThereAre(styleNames(core)) + L'.');
+        printLine(
+            wideHostText("There is no style '%1'%2.", {name, namesThereAre(styleNames(core))}));
         return std::nullopt;
     }
     return MlineChange::Style{KdDbObjectId(stub), layoutOf(style->values())};
@@ -66,9 +68,9 @@ std::optional<std::wstring> askKeyword(const wchar_t* prompt, const wchar_t* key
 
 void askLayer(DatabaseCore& core, AskedChange& asked) {
     offerNames(layerNames(core));
-    const auto name = askText(L"Layer name: ");
+    const auto name = askText(wideHostText("Layer name: ").c_str());
     if (name && core.wellKnown().findLayer(*name) == nullptr) {
-        printLine(L"There is no layer '" + *name + L"'.");
+        printLine(wideHostText("There is no layer '%1'.", {*name}));
         asked.isRefused = true;
     } else if (name) {
         asked.layer = name;
@@ -77,27 +79,29 @@ void askLayer(DatabaseCore& core, AskedChange& asked) {
 
 void askStyle(DatabaseCore& core, AskedChange& asked) {
     offerNames(styleNames(core));
-    if (const auto name = askText(L"Style name: ")) {
+    if (const auto name = askText(wideHostText("Style name: ").c_str())) {
         asked.change.style = styleCalled(core, *name);
         asked.isRefused = asked.isRefused || !asked.change.style;
     }
 }
 
 void askJustification(MlineChange& change) {
-    if (const auto word = askKeyword(L"Justification [Top/Zero/Bottom]: ", L"Top Zero Bottom")) {
+    if (const auto word = askKeyword(wideHostText("Justification [Top/Zero/Bottom]: ").c_str(),
+                                     L"Top Zero Bottom")) {
         change.justification = *word == L"Top" ? 0 : *word == L"Zero" ? 1 : 2;
     }
 }
 
 void askCaps(MlineChange& change) {
-    if (const auto word = askKeyword(L"Caps [Both/Start/End/None]: ", L"Both Start End None")) {
+    if (const auto word = askKeyword(wideHostText("Caps [Both/Start/End/None]: ").c_str(),
+                                     L"Both Start End None")) {
         change.caps = {*word == L"Both" || *word == L"Start", *word == L"Both" || *word == L"End"};
     }
 }
 
 void askScale(MlineChange& change) {
     double scale = 0.0;
-    if (kdedGetReal(L"Scale: ", &scale) == kPromptNormal) {
+    if (kdedGetReal(wideHostText("Scale: ").c_str(), &scale) == kPromptNormal) {
         change.scale = scale;
     }
 }
@@ -127,7 +131,9 @@ std::optional<AskedChange> askChange(DatabaseCore& core) {
         wchar_t what[kPromptTextSize] = L"";
         kdedInitGet(0, L"STyle SCale Justification LAyer CAps CLose Open KeepLines");
         switch (kdedGetKword(
-            L"Change [STyle/SCale/Justification/LAyer/CAps/CLose/Open/KeepLines], Enter to apply: ",
+            wideHostText("Change [STyle/SCale/Justification/LAyer/CAps/CLose/Open/KeepLines], "
+                         "Enter to apply: ")
+                .c_str(),
             what)) {
         case kPromptNormal:
             askOne(core, what, asked);
@@ -168,10 +174,10 @@ void changeAll(const std::vector<KdDbStub*>& mlines, const AskedChange& asked) {
             }
             return std::move(result->mline);
         },
-        "changed");
+        hostText("%1 of %2 multilines changed."));
     if (moved > 0) {
-        printLine(L"In " + std::to_wstring(moved) +
-                  L" of them gaps of single elements went to the nearest element.");
+        printLine(wideHostText("In %1 of them gaps of single elements went to the nearest element.",
+                               {std::to_wstring(moved)}));
     }
     tellLostGaps(lostGaps);
 }
@@ -207,7 +213,7 @@ std::vector<KdDbStub*> mlinesOfStyle(DatabaseCore& core, KdDbObjectId style) {
         }
     }
     if (locked > 0) {
-        printLine(std::to_wstring(locked) + L" on locked layers left out.");
+        printLine(wideHostText("%1 on locked layers left out.", {std::to_wstring(locked)}));
     }
     return found;
 }
@@ -230,9 +236,9 @@ void restyleCommand(Session& session) {
     DatabaseCore& core = session.database().core();
     const std::vector<std::wstring> names = styleNames(core);
     offerNames(names);
-    const auto oldName = askText(L"Style until now: ");
+    const auto oldName = askText(wideHostText("Style until now: ").c_str());
     offerNames(names);
-    const auto newName = oldName ? askText(L"New style: ") : std::nullopt;
+    const auto newName = oldName ? askText(wideHostText("New style: ").c_str()) : std::nullopt;
     if (!newName) {
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "KdDbStub.h"
 #include "handleText.h"
+#include "hostText.h"
 #include "layRight.h"
 #include "lockedLayers.h"
 #include "mlineEdits.h"
@@ -76,8 +77,9 @@ std::vector<AuditedMline> auditMlines(const std::vector<KdDbStub*>& mlines, bool
 std::vector<std::string> linesOf(const AuditedMline& audited) {
     std::vector<std::string> lines;
     for (const AuditedFinding& each : audited.findings) {
-        lines.push_back("multiline " + handleText(audited.mline->handle) + ", " +
-                        textOf(each.finding) + " (" + nameOf(each.result) + ")");
+        lines.push_back(
+            hostText("multiline %1, %2 (%3)", {handleText(audited.mline->handle),
+                                               textOf(each.finding), shownName(each.result)}));
     }
     return lines;
 }
@@ -87,8 +89,9 @@ std::string summaryOf(const std::vector<AuditedMline>& audited, std::size_t mlin
     for (const AuditedMline& each : audited) {
         count += each.findings.size();
     }
-    return std::to_string(count) + " findings in " + std::to_string(audited.size()) + " of " +
-           std::to_string(mlines) + " multilines.";
+    return hostText(
+        "%1 findings in %2 of %3 multilines.",
+        {std::to_string(count), std::to_string(audited.size()), std::to_string(mlines)});
 }
 
 } // namespace orvex

@@ -8,6 +8,7 @@
 #include "PromptWatcher.h"
 #include "commandOutput.h"
 #include "handleText.h"
+#include "hostText.h"
 #include "kddbObjects.h"
 #include "lockedLayers.h"
 #include "mlineEdits.h"
@@ -38,7 +39,7 @@ void editEach(const std::vector<KdDbStub*>& mlines, const MlineEdit& edit,
     for (KdDbStub* const mline : mlines) {
         const std::shared_ptr<const MlineContent> content = contentOf(*mline);
         if (content == nullptr) {
-            tellRefusal(*mline, "it can't be read");
+            tellRefusal(*mline, hostText("it can't be read"));
             continue;
         }
         Result<MlineContent> edited = edit(*content);
@@ -52,13 +53,13 @@ void editEach(const std::vector<KdDbStub*>& mlines, const MlineEdit& edit,
 }
 
 void tellRefusal(const KdDbStub& mline, const std::string& why) {
-    const std::string line = "multiline " + handleText(mline.handle) + " left as it is: " + why;
+    const std::string line =
+        hostText("multiline %1 left as it is: %2", {handleText(mline.handle), why});
     kdutPrintf(L"%ls", widen(line).c_str());
 }
 
 void tellCount(std::size_t count, std::size_t all, const std::string& done) {
-    const std::string line =
-        std::to_string(count) + " of " + std::to_string(all) + " multilines " + done + ".";
+    const std::string line = filledText(done, {std::to_string(count), std::to_string(all)});
     kdutPrintf(L"%ls", widen(line).c_str());
 }
 
@@ -83,7 +84,7 @@ std::optional<PickedMline> pickMline(const wchar_t* prompt) {
     const int status = kdedEntSel(prompt, name, point);
     if (status != kPromptNormal) {
         if (status == kPromptError) {
-            kdutPrintf(L"Nothing found there.");
+            kdutPrintf(L"%ls", wideHostText("Nothing found there.").c_str());
         }
         return std::nullopt;
     }
@@ -92,7 +93,7 @@ std::optional<PickedMline> pickMline(const wchar_t* prompt) {
     PickedMline picked{id.stub(), nullptr, userToWorld({point[0], point[1], point[2]})};
     picked.content = picked.stub != nullptr ? contentOf(*picked.stub) : nullptr;
     if (picked.content == nullptr || picked.content->vertices.empty()) {
-        kdutPrintf(L"That isn't a multiline with a chain.");
+        kdutPrintf(L"%ls", wideHostText("That isn't a multiline with a chain.").c_str());
         if (PromptWatcher* const watcher = PromptSession::current().watcher) {
             watcher->missed(PickRefusal::noMultiline, picked.stub, true);
         }
@@ -111,11 +112,11 @@ std::optional<NamedMline> askMlineToChange(const wchar_t* prompt) {
     KdDbStub* const found = entityOf(answer);
     NamedMline named{found, found != nullptr ? contentOf(*found) : nullptr, {}};
     if (named.content == nullptr || named.content->vertices.empty()) {
-        kdutPrintf(L"No multiline found there.");
+        kdutPrintf(L"%ls", wideHostText("No multiline found there.").c_str());
         return std::nullopt;
     }
     if (isOnLockedLayer(*found)) {
-        kdutPrintf(L"The multiline lies on a locked layer.");
+        kdutPrintf(L"%ls", wideHostText("The multiline lies on a locked layer.").c_str());
         return std::nullopt;
     }
     if (isPlace) {
@@ -134,7 +135,7 @@ std::optional<unsigned> askIndex(const wchar_t* prompt, bool* isEmpty) {
         return std::nullopt;
     }
     if (number < 0.0 || number > std::numeric_limits<int>::max() || std::trunc(number) != number) {
-        rejectAnswer(L"that is no whole number from 0 on");
+        rejectAnswer(wideHostText("that is no whole number from 0 on"));
         return std::nullopt;
     }
     return static_cast<unsigned>(number);
@@ -148,9 +149,15 @@ std::unique_ptr<KdDbEntity> freeMline(MlineContent content) {
 
 void tellLostGaps(std::size_t count) {
     if (count > 0) {
-        kdutPrintf(L"%ls", (std::to_wstring(count) + (count == 1 ? L" gap" : L" gaps") +
-                            L" cut or gone: the segments don't hold them any more.")
-                               .c_str());
+        const std::wstring number = std::to_wstring(count);
+        kdutPrintf(
+            L"%ls",
+            (count == 1
+                 ? wideHostText("%1 gap cut or gone: the segments don't hold them any more.",
+                                {number})
+                 : wideHostText("%1 gaps cut or gone: the segments don't hold them any more.",
+                                {number}))
+                .c_str());
     }
 }
 

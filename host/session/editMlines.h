@@ -20,7 +20,7 @@ namespace orvex {
 using MlineEdit = std::function<Result<MlineContent>(const MlineContent&)>;
 
 // Changes each, and tells those that the edit refuses, which stay as they are; at last how many of
-// how many are now what `done` says: "2 of 3 multilines moved."
+// how many by `done`: "%1 of %2 multilines moved."
 void editEach(const std::vector<KdDbStub*>& mlines, const MlineEdit& edit, const std::string& done);
 
 // "multiline 2F left as it is: why"

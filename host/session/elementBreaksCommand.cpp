@@ -4,6 +4,7 @@
 #include "commandOutput.h"
 #include "editMlines.h"
 #include "elementBreaks.h"
+#include "hostText.h"
 #include "mlineEdits.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -20,7 +21,7 @@ std::optional<std::vector<double>> askDistances() {
     std::vector<double> distances;
     for (;;) {
         double distance = 0.0;
-        switch (kdedGetReal(L"Next distance: ", &distance)) {
+        switch (kdedGetReal(wideHostText("Next distance: ").c_str(), &distance)) {
         case kPromptNormal:
             distances.push_back(distance);
             break;
@@ -35,13 +36,13 @@ std::optional<std::vector<double>> askDistances() {
 } // namespace
 
 void elementBreaksCommand(Session& /*session*/) {
-    const std::optional<NamedMline> mline = askMlineToChange(L"Multiline: ");
+    const std::optional<NamedMline> mline = askMlineToChange(wideHostText("Multiline: ").c_str());
     if (!mline) {
         return;
     }
-    const std::optional<unsigned> segment = askIndex(L"Segment: ");
+    const std::optional<unsigned> segment = askIndex(wideHostText("Segment: ").c_str());
     const std::optional<unsigned> element =
-        segment ? askIndex(L"Element: ") : std::optional<unsigned>();
+        segment ? askIndex(wideHostText("Element: ").c_str()) : std::optional<unsigned>();
     const std::optional<std::vector<double>> distances =
         element ? askDistances() : std::optional<std::vector<double>>();
     if (!distances) {
@@ -49,7 +50,8 @@ void elementBreaksCommand(Session& /*session*/) {
     }
     Result<MlineContent> changed = withBreaks(*mline->content, *segment, *element, *distances);
     if (!changed) {
-        kdutPrintf(L"%ls", widen("The breaks stay: " + changed.failure().text).c_str());
+        kdutPrintf(L"%ls",
+                   widen(hostText("The breaks stay: %1", {changed.failure().text})).c_str());
         return;
     }
     storeContent(*mline->stub, std::move(*changed));

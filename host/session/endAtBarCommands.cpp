@@ -6,6 +6,7 @@
 #include "PickTrial.h"
 #include "editMlines.h"
 #include "endAtBar.h"
+#include "hostText.h"
 #include "impossible.h"
 #include "lockedLayers.h"
 #include "mlineEdits.h"
@@ -33,7 +34,7 @@ struct Bar {
 Result<MlineContent> ended(const KdDbStub& stub, const MlineContent& mline,
                            const KdGePoint3d& place, const Bar& bar, EndChange change) {
     if (&stub == bar.stub) {
-        return impossible("it is what the others are to end at");
+        return impossible(hostText("it is what the others are to end at"));
     }
     return endAtBar(mline, endNear(mline, place), *bar.content, bar.line, change);
 }
@@ -43,10 +44,10 @@ PickTrial trialOf(const Bar& bar, EndChange change) {
                           const KdGePoint3d& place) -> Result<std::unique_ptr<KdDbEntity>> {
         const auto content = contentOf(entity);
         if (content == nullptr || content->vertices.empty()) {
-            return impossible("no multiline");
+            return impossible(hostText("no multiline"));
         }
         if (isOnLockedLayer(entity)) {
-            return impossible("on a locked layer");
+            return impossible(hostText("on a locked layer"));
         }
         Result<MlineContent> result = ended(entity, *content, place, bar, change);
         if (!result) {
@@ -57,23 +58,23 @@ PickTrial trialOf(const Bar& bar, EndChange change) {
 }
 
 void bringEnds(EndChange change) {
-    const auto pickedBar = pickMline(L"Multiline to end at: ");
+    const auto pickedBar = pickMline(wideHostText("Multiline to end at: ").c_str());
     if (!pickedBar) {
         return;
     }
     wchar_t word[kPromptTextSize] = L"";
     kdedInitGet(0, L"Axis Outer");
-    if (kdedGetKword(L"To its [Axis/Outer]: ", word) != kPromptNormal) {
+    if (kdedGetKword(wideHostText("To its [Axis/Outer]: ").c_str(), word) != kPromptNormal) {
         return;
     }
     const Bar bar{pickedBar->stub, pickedBar->content,
                   std::wstring_view(word) == L"Axis" ? BarLine::axis : BarLine::outer};
-    const wchar_t* const prompt = change == EndChange::extend
-                                      ? L"Pick near an end to extend, Enter to stop: "
-                                      : L"Pick near an end to trim, Enter to stop: ";
+    const std::wstring prompt = change == EndChange::extend
+                                    ? wideHostText("Pick near an end to extend, Enter to stop: ")
+                                    : wideHostText("Pick near an end to trim, Enter to stop: ");
     const PickTrialScope trial(trialOf(bar, change));
     for (;;) {
-        const auto picked = pickMline(prompt);
+        const auto picked = pickMline(prompt.c_str());
         if (!picked) {
             if (hasMissed()) {
                 continue;

@@ -6,6 +6,7 @@
 #include "KdDbDatabase.h"
 #include "Session.h"
 #include "commandOutput.h"
+#include "hostText.h"
 #include "selection.h"
 
 namespace orvex {
@@ -25,9 +26,11 @@ void eraseCommand(Session& session) {
         }
     }
     if (const std::size_t others = selection->entities.size() - count; others > 0) {
-        kdutPrintf(L"%ls", (std::to_wstring(others) + L" outside of model space left.").c_str());
+        kdutPrintf(
+            L"%ls",
+            wideHostText("%1 outside of model space left.", {std::to_wstring(others)}).c_str());
     }
-    kdutPrintf(L"%ls", (std::to_wstring(count) + L" erased.").c_str());
+    kdutPrintf(L"%ls", wideHostText("%1 erased.", {std::to_wstring(count)}).c_str());
 }
 
 } // namespace orvex

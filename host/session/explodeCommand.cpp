@@ -7,6 +7,7 @@
 #include "PlainEntity.h"
 #include "Session.h"
 #include "editMlines.h"
+#include "hostText.h"
 #include "mlineEdits.h"
 #include "selection.h"
 
@@ -18,7 +19,7 @@ namespace {
 bool explode(KdDbStub& mline, MlineExploder& exploder) {
     const std::shared_ptr<const MlineContent> content = contentOf(mline);
     if (content == nullptr) {
-        tellRefusal(mline, "it can't be read");
+        tellRefusal(mline, hostText("it can't be read"));
         return false;
     }
     Result<std::vector<PlainContent>> parts = exploder.explode(*content);
@@ -48,7 +49,7 @@ void explodeCommand(Session& session) {
     for (KdDbStub* const mline : selection->entities) {
         count += explode(*mline, exploder) ? 1 : 0;
     }
-    tellCount(count, selection->entities.size(), "exploded");
+    tellCount(count, selection->entities.size(), hostText("%1 of %2 multilines exploded."));
 }
 
 } // namespace orvex

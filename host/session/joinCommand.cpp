@@ -5,6 +5,7 @@
 #include "JoinRun.h"
 #include "Session.h"
 #include "commandOutput.h"
+#include "hostText.h"
 #include "joinMlines.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -47,7 +48,8 @@ void askKind(const wchar_t* prompt, JoinKind& kind) {
 void askTolerance(JoinOptions& options) {
     double tolerance = 0.0;
     kdedInitGet(0, L"Automatic");
-    const int status = kdedGetReal(L"Tolerance in drawing units or Automatic: ", &tolerance);
+    const int status =
+        kdedGetReal(wideHostText("Tolerance in drawing units or Automatic: ").c_str(), &tolerance);
     if (status == kPromptKeyword) {
         options.tolerance.reset();
     }
@@ -57,7 +59,7 @@ void askTolerance(JoinOptions& options) {
     if (tolerance >= 0.0) {
         options.tolerance = tolerance;
     } else {
-        rejectAnswer(L"a tolerance is 0 or more");
+        rejectAnswer(wideHostText("a tolerance is 0 or more"));
     }
 }
 
@@ -65,7 +67,8 @@ void askTolerance(JoinOptions& options) {
 bool askOption(JoinOptions& options, bool& go) {
     wchar_t answer[kPromptTextSize] = L"";
     kdedInitGet(0, L"Tolerance Cross Tee COrners");
-    const int status = kdedGetKword(L"Tolerance, Cross, Tee or COrners, Enter to join: ", answer);
+    const int status = kdedGetKword(
+        wideHostText("Tolerance, Cross, Tee or COrners, Enter to join: ").c_str(), answer);
     go = status == kPromptNone;
     if (status != kPromptNormal) {
         return false;
@@ -74,10 +77,11 @@ bool askOption(JoinOptions& options, bool& go) {
     if (option == L"Tolerance") {
         askTolerance(options);
     } else if (option == L"Cross") {
-        askKind(L"Crosses Closed, Open, Merged or None: ", options.cross);
+        askKind(wideHostText("Crosses Closed, Open, Merged or None: ").c_str(), options.cross);
     } else if (option == L"Tee") {
-        askKind(L"Tees Closed, Open, Merged or None: ", options.tee);
-    } else if (const auto word = askWord(L"Corners Yes or No: ", std::array{L"Yes", L"No"})) {
+        askKind(wideHostText("Tees Closed, Open, Merged or None: ").c_str(), options.tee);
+    } else if (const auto word = askWord(wideHostText("Corners Yes or No: ").c_str(),
+                                         std::array{L"Yes", L"No"})) {
         options.corners = *word == 0;
     }
     return true;
@@ -97,7 +101,7 @@ void printOutcome(const JoinReport& report) {
             print(joinPlaceText(place, report.walls));
         }
     }
-    print(std::to_string(joined) + " joined, " + std::to_string(left) + " left.");
+    print(hostText("%1 joined, %2 left.", {std::to_string(joined), std::to_string(left)}));
 }
 
 // Shows what the options would join, where somebody looks.

@@ -3,7 +3,9 @@
 #include "HostCommand.h"
 #include "KdDbStub.h"
 #include "commandOutput.h"
+#include "editMlines.h"
 #include "handleText.h"
+#include "hostText.h"
 #include "layRight.h"
 #include "mlineEdits.h"
 #include "selection.h"
@@ -17,11 +19,11 @@ namespace {
 std::optional<std::string> layOne(KdDbStub& mline, bool& changed) {
     const std::shared_ptr<const MlineContent> content = contentOf(mline);
     if (content == nullptr) {
-        return "it can't be read";
+        return hostText("it can't be read");
     }
     const std::optional<StyleLayout> style = styleLayoutOf(*content);
     if (!style) {
-        return "its style is missing";
+        return hostText("its style is missing");
     }
     Result<MlineContent> laid = layRight(*content, *style);
     if (!laid) {
@@ -42,16 +44,11 @@ void layRightCommand(Session& session) {
     for (KdDbStub* const mline : selection->entities) {
         bool changed = false;
         if (const auto refusal = layOne(*mline, changed)) {
-            const std::wstring line = L"multiline " + widen(handleText(mline->handle)) +
-                                      L" left as it is: " + widen(*refusal);
-            kdutPrintf(L"%ls", line.c_str());
+            tellRefusal(*mline, *refusal);
         }
         count += changed ? 1 : 0;
     }
-    const std::wstring total = std::to_wstring(count) + L" of " +
-                               std::to_wstring(selection->entities.size()) +
-                               L" multilines laid right.";
-    kdutPrintf(L"%ls", total.c_str());
+    tellCount(count, selection->entities.size(), hostText("%1 of %2 multilines laid right."));
 }
 
 } // namespace orvex

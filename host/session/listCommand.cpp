@@ -8,6 +8,7 @@
 #include "commandOutput.h"
 #include "findingText.h"
 #include "handleText.h"
+#include "hostText.h"
 #include "kddbObjects.h"
 #include "mlineEdits.h"
 #include "mlineTrack.h"
@@ -23,7 +24,7 @@ namespace {
 std::wstring styleNameOf(const MlineContent& mline) {
     const Opened<KdDbMlineStyle> style(mline.style, kForRead);
     if (!style) {
-        return mline.styleName + L" (missing)";
+        return wideHostText("%1 (missing)", {mline.styleName});
     }
     return style->values().name;
 }
@@ -38,16 +39,17 @@ double lengthOf(const MlineContent& mline) {
 }
 
 std::wstring textOf(const KdDbStub& stub, const MlineContent& mline) {
-    constexpr std::array kJustifications{L"top", L"zero", L"bottom"};
+    constexpr std::array kJustifications{markedText("top"), markedText("zero"),
+                                         markedText("bottom")};
     const auto justification = static_cast<std::size_t>(mline.justification);
-    return L"multiline " + widen(handleText(stub.handle)) + L": style " + styleNameOf(mline) +
-           L", scale " + widen(numberText(mline.scale)) + L", " +
-           (justification < kJustifications.size() ? kJustifications[justification]
-                                                   : L"unknown justification") +
-           L", " + (mline.closed ? L"closed" : L"open") + L", layer " +
-           (mline.traits != nullptr ? mline.traits->layer : L"0") + L", " +
-           std::to_wstring(mline.vertices.size()) + L" vertices, length " +
-           widen(numberText(lengthOf(mline)));
+    return wideHostText(
+        "multiline %1: style %2, scale %3, %4, %5, layer %6, %7 vertices, length %8",
+        {widen(handleText(stub.handle)), styleNameOf(mline), widen(numberText(mline.scale)),
+         justification < kJustifications.size() ? wideHostText(kJustifications[justification])
+                                                : wideHostText("unknown justification"),
+         mline.closed ? wideHostText("closed") : wideHostText("open"),
+         mline.traits != nullptr ? mline.traits->layer : L"0",
+         std::to_wstring(mline.vertices.size()), widen(numberText(lengthOf(mline)))});
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "PromptSession.h"
 #include "Session.h"
 #include "commandOutput.h"
+#include "hostText.h"
 #include "nameQuestions.h"
 #include "newMline.h"
 #include "promptLibrary.h"
@@ -28,9 +29,9 @@ namespace {
 constexpr std::size_t kFewestForClosing = 3;
 
 // Asks for a name and gives it to a variable; an empty answer keeps the value, "?" lists the names.
-void askName(const wchar_t* variable, const wchar_t* what, const std::wstring& question,
+void askName(const wchar_t* variable, const char* missing, const char* question,
              const std::vector<std::wstring>& names) {
-    const std::wstring prompt = question + L" <" + variableText(variable).value_or(L"") + L">: ";
+    const std::wstring prompt = wideHostText(question, {variableText(variable).value_or(L"")});
     wchar_t text[kPromptTextSize] = L"";
     offerNames(names);
     if (kdedGetString(prompt.c_str(), text) != kPromptNormal) {
@@ -41,19 +42,19 @@ void askName(const wchar_t* variable, const wchar_t* what, const std::wstring& q
             kdutPrintf(L"%ls", name.c_str());
         }
     } else if (setVariableText(variable, text)) {
-        rejectAnswer(L"there is no " + std::wstring(what) + L" '" + text + L"'" +
-                     namesThereAre(names));
+        rejectAnswer(wideHostText(missing, {text}) + namesThereAre(names));
     }
 }
 
 void askScale() {
-    const std::wstring prompt = L"Scale <" + variableText(L"CMLSCALE").value_or(L"") + L">: ";
+    const std::wstring prompt =
+        wideHostText("Scale <%1>: ", {variableText(L"CMLSCALE").value_or(L"")});
     double scale = 0.0;
     if (kdedGetReal(prompt.c_str(), &scale) != kPromptNormal) {
         return;
     }
     if (scale == 0.0) {
-        rejectAnswer(L"a scale of 0 would put all lines in one place");
+        rejectAnswer(wideHostText("a scale of 0 would put all lines in one place"));
     } else {
         resbuf value;
         value.restype = kResultReal;
@@ -65,7 +66,8 @@ void askScale() {
 void askJustification() {
     wchar_t keyword[kPromptTextSize] = L"";
     kdedInitGet(0, L"Top Zero Bottom");
-    if (kdedGetKword(L"Justification [Top/Zero/Bottom]: ", keyword) != kPromptNormal) {
+    if (kdedGetKword(wideHostText("Justification [Top/Zero/Bottom]: ").c_str(), keyword) !=
+        kPromptNormal) {
         return;
     }
     const std::wstring_view chosen = keyword;
@@ -78,9 +80,11 @@ void askSetting(DatabaseCore& core, std::wstring_view chosen) {
     } else if (chosen == L"Scale") {
         askScale();
     } else if (chosen == L"LAyer") {
-        askName(L"CLAYER", L"layer", L"Layer name", layerNames(core));
+        askName(L"CLAYER", markedText("there is no layer '%1'"), markedText("Layer name <%1>: "),
+                layerNames(core));
     } else {
-        askName(L"CMLSTYLE", L"style", L"Style name", styleNames(core));
+        askName(L"CMLSTYLE", markedText("there is no style '%1'"), markedText("Style name <%1>: "),
+                styleNames(core));
     }
 }
 
@@ -137,7 +141,8 @@ void dropLastPoint(Chain& chain) {
 
 int askStart(double* point) {
     kdedInitGet(0, L"Justification Scale STyle LAyer");
-    return kdedGetPoint(nullptr, L"Start point or [Justification/Scale/STyle/LAyer]: ", point);
+    return kdedGetPoint(
+        nullptr, wideHostText("Start point or [Justification/Scale/STyle/LAyer]: ").c_str(), point);
 }
 
 int askNext(const Chain& chain, double* point) {
@@ -146,8 +151,11 @@ int askNext(const Chain& chain, double* point) {
     const double base[3] = {last.x, last.y, last.z};
     PromptSession::current().keepsOnEscape = chain.points.size() > 1;
     kdedInitGet(0, mayClose ? L"Close Undo" : L"Undo");
-    return kdedGetPoint(
-        base, mayClose ? L"Next point or [Close/Undo]: " : L"Next point or [Undo]: ", point);
+    return kdedGetPoint(base,
+                        (mayClose ? wideHostText("Next point or [Close/Undo]: ")
+                                  : wideHostText("Next point or [Undo]: "))
+                            .c_str(),
+                        point);
 }
 
 enum class ChainStep : std::uint8_t { goesOn, isDone, isGivenUp };
@@ -176,7 +184,8 @@ ChainStep askPoint(DatabaseCore& core, Chain& chain) {
         if (appendPoint(chain, pointOf(point))) {
             chain.lastPoints.push_back(lastPoint);
         } else {
-            kdutPrintf(L"That is where the last point is. It is left out.");
+            kdutPrintf(L"%ls",
+                       wideHostText("That is where the last point is. It is left out.").c_str());
         }
         return ChainStep::goesOn;
     case kPromptKeyword:
@@ -210,7 +219,7 @@ void mlineCommand(Session& session) {
         return;
     }
     if (!hasCurrentElements(session.database())) {
-        kdutPrintf(L"The current style has no elements to draw.");
+        kdutPrintf(L"%ls", wideHostText("The current style has no elements to draw.").c_str());
     }
     DatabaseCore& core = session.database().core();
     if (auto mline = makeMline(session, *asked)) {
@@ -218,7 +227,9 @@ void mlineCommand(Session& session) {
         KdDbStub& stub = core.adopt(std::move(mline), ObjectKind::mline, space.record);
         core.blocks().appendEntity(space, stub);
     } else if (hasCurrentElements(session.database())) {
-        kdutPrintf(L"warning: all points lie in one place; there is nothing to draw.");
+        kdutPrintf(L"%ls",
+                   wideHostText("warning: all points lie in one place; there is nothing to draw.")
+                       .c_str());
     }
 }
 

@@ -5,6 +5,7 @@
 #include "PromptSession.h"
 #include "commandOutput.h"
 #include "editMlines.h"
+#include "hostText.h"
 #include "mlineEdits.h"
 #include "planMotion.h"
 #include "promptExchange.h"
@@ -33,7 +34,7 @@ void copyAll(const std::vector<KdDbStub*>& mlines, const PlanMotion& motion) {
     for (KdDbStub* const mline : mlines) {
         const auto content = contentOf(*mline);
         if (content == nullptr) {
-            tellRefusal(*mline, "it can't be read");
+            tellRefusal(*mline, hostText("it can't be read"));
             continue;
         }
         Result<MlineContent> moved = movedBy(*content, motion);
@@ -44,7 +45,7 @@ void copyAll(const std::vector<KdDbStub*>& mlines, const PlanMotion& motion) {
         addMline(*mline, std::move(*moved));
         ++count;
     }
-    tellCount(count, mlines.size(), "copied");
+    tellCount(count, mlines.size(), hostText("%1 of %2 multilines copied."));
 }
 
 PlanMap planMapOf(const PlanMotion& motion) {
@@ -69,31 +70,34 @@ KdGeVector3d userNormal() {
 
 void moveCommand(Session& session) {
     const std::vector<KdDbStub*> mlines = askMlines(session);
-    const auto base = mlines.empty() ? std::nullopt : askPoint(L"Base point: ");
+    const auto base =
+        mlines.empty() ? std::nullopt : askPoint(wideHostText("Base point: ").c_str());
     if (!base) {
         return;
     }
     const PreviewScope preview(shiftFrom(mlines, *base));
-    if (const auto second = askPoint(L"Second point: ", base)) {
-        moveAll(mlines, shiftBy(*second - *base), "moved");
+    if (const auto second = askPoint(wideHostText("Second point: ").c_str(), base)) {
+        moveAll(mlines, shiftBy(*second - *base), hostText("%1 of %2 multilines moved."));
     }
 }
 
 void copyCommand(Session& session) {
     const std::vector<KdDbStub*> mlines = askMlines(session);
-    const auto base = mlines.empty() ? std::nullopt : askPoint(L"Base point: ");
+    const auto base =
+        mlines.empty() ? std::nullopt : askPoint(wideHostText("Base point: ").c_str());
     if (!base) {
         return;
     }
     const PreviewScope preview(shiftFrom(mlines, *base));
-    while (const auto second = askPoint(L"Second point: ", base)) {
+    while (const auto second = askPoint(wideHostText("Second point: ").c_str(), base)) {
         copyAll(mlines, shiftBy(*second - *base));
     }
 }
 
 void rotateCommand(Session& session) {
     const std::vector<KdDbStub*> mlines = askMlines(session);
-    const auto base = mlines.empty() ? std::nullopt : askPoint(L"Base point: ");
+    const auto base =
+        mlines.empty() ? std::nullopt : askPoint(wideHostText("Base point: ").c_str());
     if (!base) {
         return;
     }
@@ -101,16 +105,19 @@ void rotateCommand(Session& session) {
         PromptMotion{mlines, [base = *base](const KdGePoint3d& cursor) -> std::optional<PlanMap> {
                          return planMapOf(turnAbout(base, userNormal(), userDegrees(base, cursor)));
                      }});
-    const PromptAnswer answer = askUser(PromptKind::real, L"Degrees counter-clockwise: ", base);
+    const PromptAnswer answer =
+        askUser(PromptKind::real, wideHostText("Degrees counter-clockwise: ").c_str(), base);
     if (answer.kind == PromptAnswer::Kind::number) {
-        moveAll(mlines, turnAbout(*base, userNormal(), answer.number), "rotated");
+        moveAll(mlines, turnAbout(*base, userNormal(), answer.number),
+                hostText("%1 of %2 multilines rotated."));
     }
 }
 
 void mirrorCommand(Session& session) {
     const std::vector<KdDbStub*> mlines = askMlines(session);
-    const auto first =
-        mlines.empty() ? std::nullopt : askPoint(L"First point of the mirror line: ");
+    const auto first = mlines.empty()
+                           ? std::nullopt
+                           : askPoint(wideHostText("First point of the mirror line: ").c_str());
     if (!first) {
         return;
     }
@@ -119,16 +126,17 @@ void mirrorCommand(Session& session) {
                          const Result<PlanMotion> motion = mirrorAt(first, cursor, userNormal());
                          return motion ? std::optional(planMapOf(*motion)) : std::nullopt;
                      }});
-    const auto second = askPoint(L"Second point: ", first);
+    const auto second = askPoint(wideHostText("Second point: ").c_str(), first);
     if (!second) {
         return;
     }
     const Result<PlanMotion> motion = mirrorAt(*first, *second, userNormal());
     if (!motion) {
-        kdutPrintf(L"%ls", widen("Nothing mirrored: " + motion.failure().text + ".").c_str());
+        kdutPrintf(L"%ls",
+                   widen(hostText("Nothing mirrored: %1.", {motion.failure().text})).c_str());
         return;
     }
-    moveAll(mlines, *motion, "mirrored");
+    moveAll(mlines, *motion, hostText("%1 of %2 multilines mirrored."));
 }
 
 } // namespace orvex

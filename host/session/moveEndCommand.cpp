@@ -3,6 +3,7 @@
 #include "HostCommand.h"
 #include "breakLists.h"
 #include "commandOutput.h"
+#include "hostText.h"
 #include "kddbObjects.h"
 #include "mlineEdits.h"
 #include "moveEnd.h"
@@ -26,11 +27,12 @@ struct PickedEnd {
 PickedEnd askEnd() {
     long name[2] = {0, 0};
     double point[3] = {0.0, 0.0, 0.0};
-    const int status = kdedEntSel(L"Pick a multiline near the end to move: ", name, point);
+    const int status =
+        kdedEntSel(wideHostText("Pick a multiline near the end to move: ").c_str(), name, point);
     PickedEnd picked;
     if (status != kPromptNormal) {
         if (status == kPromptError) {
-            kdutPrintf(L"Nothing found there.");
+            kdutPrintf(L"%ls", wideHostText("Nothing found there.").c_str());
         }
         return picked;
     }
@@ -41,7 +43,7 @@ PickedEnd askEnd() {
     picked.place = userToWorld({point[0], point[1], point[2]});
     if (picked.content == nullptr || picked.content->vertices.empty()) {
         picked.content = nullptr;
-        kdutPrintf(L"That isn't a multiline with ends.");
+        kdutPrintf(L"%ls", wideHostText("That isn't a multiline with ends.").c_str());
     }
     return picked;
 }
@@ -64,7 +66,7 @@ void moveEndCommand(Session& /*session*/) {
         worldToUser(isStart ? vertices.front().position : vertices.back().position);
     const double from[3] = {base.x, base.y, base.z};
     double point[3] = {0.0, 0.0, 0.0};
-    if (kdedGetPoint(from, L"New point: ", point) != kPromptNormal) {
+    if (kdedGetPoint(from, wideHostText("New point: ").c_str(), point) != kPromptNormal) {
         return;
     }
     const auto contradiction = gapContradiction(*picked.content);
@@ -73,7 +75,7 @@ void moveEndCommand(Session& /*session*/) {
                       : moveEnd(*picked.content, isStart ? MlineEnd::start : MlineEnd::end,
                                 userToWorld({point[0], point[1], point[2]}));
     if (!moved) {
-        kdutPrintf(L"%ls", widen("The end stays: " + moved.failure().text).c_str());
+        kdutPrintf(L"%ls", widen(hostText("The end stays: %1", {moved.failure().text})).c_str());
         return;
     }
     storeContent(*picked.mline, std::move(*moved));

@@ -10,6 +10,7 @@
 #include "Opened.h"
 #include "PromptSession.h"
 #include "WellKnownObjects.h"
+#include "hostText.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -120,9 +121,9 @@ std::vector<std::wstring> layerNames(DatabaseCore& core) {
 std::wstring namesThereAre(const std::vector<std::wstring>& names) {
     std::wstring text;
     for (std::size_t i = 0; i < std::min(names.size(), kMostListed); ++i) {
-        text += (i == 0 ? L"; there are " : L", ") + names[i];
+        text += (i == 0 ? wideHostText("; there are ") : L", ") + names[i];
     }
-    return text + (names.size() > kMostListed ? L" and others" : L"");
+    return text + (names.size() > kMostListed ? wideHostText(" and others") : L"");
 }
 
 void offerNames(std::vector<std::wstring> names) {

@@ -11,6 +11,7 @@
 #include "Session.h"
 #include "commandOutput.h"
 #include "editMlines.h"
+#include "hostText.h"
 #include "impossible.h"
 #include "kddbObjects.h"
 #include "lockedLayers.h"
@@ -24,9 +25,9 @@ namespace orvex {
 
 namespace {
 
-void tellLeft(std::size_t count, const wchar_t* what) {
+void tellLeft(std::size_t count, const char* what) {
     if (count > 0) {
-        kdutPrintf(L"%ls", (std::to_wstring(count) + what).c_str());
+        kdutPrintf(L"%ls", wideHostText(what, {std::to_wstring(count)}).c_str());
     }
 }
 
@@ -35,15 +36,16 @@ std::vector<KdDbStub*> mlinesTouching(Session& session, const PlanBox& box) {
     std::vector<KdDbStub*> found = session.scene().entitiesTouching(box);
     tellLeft(
         std::erase_if(found, [](const KdDbStub* stub) { return stub->kind != ObjectKind::mline; }),
-        L" other than multilines left out.");
+        markedText("%1 other than multilines left out."));
     tellLeft(std::erase_if(found, [](KdDbStub* stub) { return isOnLockedLayer(*stub); }),
-             L" on locked layers left out.");
+             markedText("%1 on locked layers left out."));
     return found;
 }
 
 std::optional<PlanBox> askBox() {
-    const auto first = askPoint(L"First corner: ");
-    const auto corner = first ? askPoint(L"Opposite corner: ", first) : std::nullopt;
+    const auto first = askPoint(wideHostText("First corner: ").c_str());
+    const auto corner =
+        first ? askPoint(wideHostText("Opposite corner: ").c_str(), first) : std::nullopt;
     if (!corner) {
         return std::nullopt;
     }
@@ -57,7 +59,7 @@ Result<MlineContent> stretchedIn(const PlanBox& box, const MlineContent& mline,
                                  const KdGeVector3d& shift) {
     const std::optional<StyleLayout> style = styleLayoutOf(mline);
     if (!style) {
-        return impossible("its style is missing");
+        return impossible(hostText("its style is missing"));
     }
     const auto isWithin = [&box](const KdGePoint3d& point) {
         return point.x >= box.low.x && point.x <= box.high.x && point.y >= box.low.y &&
@@ -111,12 +113,12 @@ void stretchCommand(Session& session) {
         return;
     }
     const std::vector<KdDbStub*> mlines = mlinesTouching(session, *box);
-    const auto base = askPoint(L"Base point: ");
+    const auto base = askPoint(wideHostText("Base point: ").c_str());
     if (!base) {
         return;
     }
     const PreviewScope preview(stretchPreviews(mlines, *box, *base));
-    const auto second = askPoint(L"Second point: ", base);
+    const auto second = askPoint(wideHostText("Second point: ").c_str(), base);
     if (!second) {
         return;
     }
@@ -130,7 +132,7 @@ void stretchCommand(Session& session) {
             lostGaps += had > has ? had - has : 0;
             return result;
         },
-        "stretched");
+        hostText("%1 of %2 multilines stretched."));
     tellLostGaps(lostGaps);
 }
 
@@ -143,11 +145,12 @@ void reverseCommand(Session& session) {
         selection->entities,
         [](const MlineContent& mline) -> Result<MlineContent> {
             if (!hasSameCaps(mline)) {
-                return impossible("its style has other caps at the start than at the end");
+                return impossible(
+                    hostText("its style has other caps at the start than at the end"));
             }
             return reversed(mline);
         },
-        "reversed");
+        hostText("%1 of %2 multilines reversed."));
 }
 
 } // namespace orvex

@@ -11,6 +11,7 @@
 #include "WellKnownObjects.h"
 #include "commandOutput.h"
 #include "handleText.h"
+#include "hostText.h"
 #include "lockedLayers.h"
 #include "nameQuestions.h"
 #include "promptExchange.h"
@@ -49,8 +50,8 @@ Entities inBox(Session& session, const PlanBox& box, bool isCrossing) {
 std::optional<Entities> askBox(Session& session, bool isCrossing) {
     double first[3] = {0.0, 0.0, 0.0};
     double second[3] = {0.0, 0.0, 0.0};
-    if (kdedGetPoint(nullptr, L"First corner: ", first) != kPromptNormal ||
-        kdedGetPoint(first, L"Opposite corner: ", second) != kPromptNormal) {
+    if (kdedGetPoint(nullptr, wideHostText("First corner: ").c_str(), first) != kPromptNormal ||
+        kdedGetPoint(first, wideHostText("Opposite corner: ").c_str(), second) != kPromptNormal) {
         return std::nullopt;
     }
     return inBox(session, boxOf({first[0], first[1], first[2]}, {second[0], second[1], second[2]}),
@@ -67,12 +68,12 @@ Entities seenWith(Session& session, Test&& test) {
 std::optional<Entities> askStyle(Session& session) {
     wchar_t name[kPromptTextSize] = L"";
     offerNames(styleNames(session.database().core()));
-    if (kdedGetString(L"Style name: ", name) != kPromptNormal) {
+    if (kdedGetString(wideHostText("Style name: ").c_str(), name) != kPromptNormal) {
         return std::nullopt;
     }
     auto found = seenOfStyle(session, name);
     if (!found) {
-        rejectAnswer(L"there is no style '" + std::wstring(name) + L"'");
+        rejectAnswer(wideHostText("there is no style '%1'", {name}));
     }
     return found;
 }
@@ -85,12 +86,12 @@ std::wstring layerOf(const KdDbStub& entity) {
 std::optional<Entities> askLayer(Session& session) {
     wchar_t name[kPromptTextSize] = L"";
     offerNames(layerNames(session.database().core()));
-    if (kdedGetString(L"Layer name: ", name) != kPromptNormal) {
+    if (kdedGetString(wideHostText("Layer name: ").c_str(), name) != kPromptNormal) {
         return std::nullopt;
     }
     auto found = seenOnLayer(session, name);
     if (!found) {
-        rejectAnswer(L"there is no layer '" + std::wstring(name) + L"'");
+        rejectAnswer(wideHostText("there is no layer '%1'", {name}));
     }
     return found;
 }
@@ -168,9 +169,13 @@ public:
 
 private:
     [[nodiscard]] std::wstring prompt() const {
-        return std::wstring(m_removes ? L"Remove " : L"Select ") +
-               (m_kind == SelectionKind::mlines ? L"multilines" : L"entities") +
-               L" or [ALL/Window/Crossing/STYLE/LAYER/Previous/Remove/Add]: ";
+        const bool takesMlines = m_kind == SelectionKind::mlines;
+        const std::wstring what = m_removes     ? (takesMlines ? wideHostText("Remove multilines")
+                                                               : wideHostText("Remove entities"))
+                                  : takesMlines ? wideHostText("Select multilines")
+                                                : wideHostText("Select entities");
+        return wideHostText("%1 or [ALL/Window/Crossing/STYLE/LAYER/Previous/Remove/Add]: ",
+                            {what});
     }
     bool takeKeyword(std::wstring_view keyword) {
         std::optional<Entities> found;
@@ -205,7 +210,7 @@ private:
         }
         if (found == nullptr) {
             m_isUntouched = false;
-            kdutPrintf(L"Nothing found there.");
+            kdutPrintf(L"%ls", wideHostText("Nothing found there.").c_str());
             return;
         }
         take({found});
@@ -243,16 +248,16 @@ public:
         const std::size_t usable = entities.size();
         std::erase_if(entities, [this](const KdDbStub* entity) { return isLocked(*entity); });
         if (tellsOthers) {
-            printCount(all - usable, L" other than multilines left out.");
+            printCount(all - usable, markedText("%1 other than multilines left out."));
         }
-        printCount(usable - entities.size(), L" on locked layers left out.");
+        printCount(usable - entities.size(), markedText("%1 on locked layers left out."));
         return entities;
     }
 
 private:
-    static void printCount(std::size_t count, const wchar_t* what) {
+    static void printCount(std::size_t count, const char* what) {
         if (count > 0) {
-            kdutPrintf(L"%ls", (std::to_wstring(count) + what).c_str());
+            kdutPrintf(L"%ls", wideHostText(what, {std::to_wstring(count)}).c_str());
         }
     }
     bool isLocked(const KdDbStub& entity) {
@@ -284,7 +289,7 @@ std::optional<Selection> askSelection(Session& session, SelectionKind kind, bool
         memory.previous = selection.entities;
         memory.inUse = selection.entities;
     } else if (!emptyMeansAll || !selection.isEmptyAnswer) {
-        kdutPrintf(L"Nothing selected.");
+        kdutPrintf(L"%ls", wideHostText("Nothing selected.").c_str());
     }
     return selection;
 }

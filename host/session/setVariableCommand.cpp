@@ -2,6 +2,7 @@
 #include "HostCommand.h"
 #include "KdDbDatabase.h"
 #include "Session.h"
+#include "hostText.h"
 #include "nameQuestions.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -25,16 +26,16 @@ void offerValues(DatabaseCore& core, const std::wstring& variable) {
 
 void setVariableCommand(Session& session) {
     wchar_t text[kPromptTextSize] = L"";
-    if (kdedGetString(L"Variable name: ", text) != kPromptNormal) {
+    if (kdedGetString(wideHostText("Variable name: ").c_str(), text) != kPromptNormal) {
         return;
     }
     const std::wstring name = foldCase(text);
     const std::optional<std::wstring> value = variableText(name);
     if (!value) {
-        rejectAnswer(L"there is no variable '" + name + L"'");
+        rejectAnswer(wideHostText("there is no variable '%1'", {name}));
         return;
     }
-    const std::wstring prompt = L"New value for " + name + L" <" + *value + L">: ";
+    const std::wstring prompt = wideHostText("New value for %1 <%2>: ", {name, *value});
     offerValues(session.database().core(), name);
     if (kdedGetString(prompt.c_str(), text) != kPromptNormal) {
         return;

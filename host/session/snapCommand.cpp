@@ -1,6 +1,7 @@
 #include "HostCommand.h"
 #include "Session.h"
 #include "blanks.h"
+#include "hostText.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "snapWords.h"
@@ -13,7 +14,7 @@ void snapCommand(Session& session) {
     SnapMemory& memory = session.snapMemory();
     const std::wstring now = memory.isOn ? snapWordsOf(memory.modes) : L"OFF";
     wchar_t text[kPromptTextSize] = L"";
-    if (kdedGetString((L"Snap modes, ALL, ON or OFF <" + now + L">: ").c_str(), text) !=
+    if (kdedGetString(wideHostText("Snap modes, ALL, ON or OFF <%1>: ", {now}).c_str(), text) !=
         kPromptNormal) {
         return;
     }
@@ -28,7 +29,7 @@ void snapCommand(Session& session) {
         memory.isOn = true;
         memory.modes = *modes;
     } else {
-        rejectAnswer(L"the snap modes are " + snapWordsOf(SnapModes::all()));
+        rejectAnswer(wideHostText("the snap modes are %1", {snapWordsOf(SnapModes::all())}));
         return;
     }
     if (memory.changed) {

@@ -10,6 +10,7 @@
 #include "Session.h"
 #include "WellKnownObjects.h"
 #include "commandOutput.h"
+#include "hostText.h"
 #include "kddbObjects.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
@@ -85,14 +86,16 @@ void nameCopy(DatabaseCore& core, KdDbStub& old, KdDbStub& copy) {
     const std::wstring oldName = core.wellKnown().nameOfStyle(old);
     const std::wstring copyName = core.wellKnown().nameOfStyle(copy);
     const bool isOldFree = !isStyleUsed(core, KdDbObjectId(&old));
-    const auto newName = askName(
-        isOldFree ? L"Its name, '" + oldName + L"' to replace that style" : L"Its name", copyName);
+    const auto newName =
+        askName(isOldFree ? wideHostText("Its name, '%1' to replace that style", {oldName})
+                          : wideHostText("Its name"),
+                copyName);
     if (!newName || *newName == copyName) {
         return;
     }
     const bool replacesOld = core.wellKnown().findStyle(*newName) == &old;
     if (replacesOld && !isOldFree) {
-        printLine(L"'" + oldName + L"' is still in use; the copy stays '" + copyName + L"'.");
+        printLine(wideHostText("'%1' is still in use; the copy stays '%2'.", {oldName, copyName}));
         return;
     }
     const bool isCurrent = variableText(L"CMLSTYLE") == copyName;
@@ -101,15 +104,17 @@ void nameCopy(DatabaseCore& core, KdDbStub& old, KdDbStub& copy) {
     }
     const std::wstring& name = replacesOld ? oldName : *newName;
     if (!renameStyle(core, copy, name)) {
-        printLine(L"There is a style of that name already; it stays '" + copyName + L"'.");
+        printLine(
+            wideHostText("There is a style of that name already; it stays '%1'.", {copyName}));
     } else if (isCurrent) {
         setVariableText(L"CMLSTYLE", name);
     }
 }
 
 bool askWhetherAll(std::size_t count, const std::wstring& from, const std::wstring& to) {
-    const std::wstring question = L"Shall all " + std::to_wstring(count) + L" that use '" + from +
-                                  L"' take '" + to + L"' [Yes/No] <Yes>: ";
+    const std::wstring question =
+        wideHostText("Shall all %1 that use '%2' take '%3' [Yes/No] <Yes>: ",
+                     {std::to_wstring(count), from, to});
     wchar_t word[kPromptTextSize] = L"";
     kdedInitGet(0, L"Yes No");
     const int status = kdedGetKword(question.c_str(), word);
@@ -125,22 +130,23 @@ void styleInUseCommand(Session& session) {
         return;
     }
     DatabaseCore& core = session.database().core();
-    const auto name = askName(L"Style to change", variableText(L"CMLSTYLE").value_or(L""));
+    const auto name =
+        askName(wideHostText("Style to change"), variableText(L"CMLSTYLE").value_or(L""));
     KdDbStub* const old = name ? core.wellKnown().findStyle(*name) : nullptr;
     if (old == nullptr) {
         if (name) {
-            printLine(L"There is no style '" + *name + L"'.");
+            printLine(wideHostText("There is no style '%1'.", {*name}));
         }
         return;
     }
     KdDbStub* const copy = copyStyle(core, *old, freeName(core, *name));
     if (copy == nullptr || setVariableText(L"CMLSTYLE", core.wellKnown().nameOfStyle(*copy))) {
-        printLine(L"The style can't be copied.");
+        printLine(wideHostText("The style can't be copied."));
         return;
     }
     (*edit)();
     if (copy->erased || old->erased) {
-        printLine(L"The copy was deleted; nothing takes it.");
+        printLine(wideHostText("The copy was deleted; nothing takes it."));
         return;
     }
     const std::wstring copyName = core.wellKnown().nameOfStyle(*copy);

@@ -8,6 +8,7 @@
 #include "commandOutput.h"
 #include "editMlines.h"
 #include "handleText.h"
+#include "hostText.h"
 #include "impossible.h"
 #include "mlineEdits.h"
 #include "promptLibrary.h"
@@ -54,21 +55,23 @@ unsigned nearestVertex(const MlineContent& mline, const KdGePoint3d& place) {
 
 // Nothing when the user gives up or names what there isn't, which has been told.
 std::optional<VertexTarget> askTarget() {
-    const std::optional<NamedMline> named = askMlineToChange(L"Multiline: ");
+    const std::optional<NamedMline> named = askMlineToChange(wideHostText("Multiline: ").c_str());
     if (!named) {
         return std::nullopt;
     }
     VertexTarget target{named->stub, 0};
     bool isEmptyAnswer = false;
     const bool hasNearest = named->place.has_value();
-    const std::optional<unsigned> vertex =
-        askIndex(hasNearest ? L"Vertex <nearest>: " : L"Vertex: ", &isEmptyAnswer);
+    const std::optional<unsigned> vertex = askIndex(
+        (hasNearest ? wideHostText("Vertex <nearest>: ") : wideHostText("Vertex: ")).c_str(),
+        &isEmptyAnswer);
     if (!vertex && !(isEmptyAnswer && hasNearest)) {
         return std::nullopt;
     }
     target.vertex = vertex ? *vertex : nearestVertex(*named->content, *named->place);
     if (target.vertex >= named->content->vertices.size()) {
-        kdutPrintf(L"It has no vertex %ls.", std::to_wstring(target.vertex).c_str());
+        kdutPrintf(L"%ls",
+                   wideHostText("It has no vertex %1.", {std::to_wstring(target.vertex)}).c_str());
         return std::nullopt;
     }
     return target;
@@ -84,8 +87,8 @@ std::optional<VertexTask> askTask() {
         task.targets.push_back(*target);
         wchar_t word[kPromptTextSize] = L"";
         kdedInitGet(0, L"Move Add Remove Together");
-        if (kdedGetKword(L"Vertex [Move/Add/Remove/Together with another]: ", word) !=
-            kPromptNormal) {
+        if (kdedGetKword(wideHostText("Vertex [Move/Add/Remove/Together with another]: ").c_str(),
+                         word) != kPromptNormal) {
             return std::nullopt;
         }
         const std::wstring_view chosen = word;
@@ -102,7 +105,7 @@ Result<VertexEdit> edited(const MlineContent& mline, unsigned vertex, VertexAct 
                           const KdGePoint3d& place) {
     const std::optional<StyleLayout> style = styleLayoutOf(mline);
     if (!style) {
-        return impossible("its style is missing");
+        return impossible(hostText("its style is missing"));
     }
     switch (act) {
     case VertexAct::move:
@@ -128,15 +131,15 @@ Result<EditedVertices> editedVertices(const VertexTask& task, const KdGePoint3d&
         if (all.mlines.empty() || all.mlines.back().first != target.mline) {
             const auto content = contentOf(*target.mline);
             if (content == nullptr) {
-                return impossible("it can't be read");
+                return impossible(hostText("it can't be read"));
             }
             all.mlines.emplace_back(target.mline, *content);
         }
         MlineContent& mline = all.mlines.back().second;
         Result<VertexEdit> result = edited(mline, target.vertex, task.act, place);
         if (!result) {
-            return impossible("multiline " + handleText(target.mline->handle) + ": " +
-                              result.failure().text);
+            return impossible(hostText("multiline %1: %2",
+                                       {handleText(target.mline->handle), result.failure().text}));
         }
         all.lostGaps += result->lostGaps;
         mline = std::move(result->mline);
@@ -184,9 +187,11 @@ std::optional<KdGePoint3d> askPlace(Session& session, const VertexTask& task) {
     if (task.act == VertexAct::move) {
         inHand.emplace(session, task);
     }
-    const auto place = askPoint(task.act == VertexAct::move ? L"New place of the vertex: "
-                                                            : L"Place of the new vertex: ",
-                                base);
+    const auto place =
+        askPoint((task.act == VertexAct::move ? wideHostText("New place of the vertex: ")
+                                              : wideHostText("Place of the new vertex: "))
+                     .c_str(),
+                 base);
     if (!place) {
         lastPoint = lastBefore;
     }
@@ -207,7 +212,8 @@ void vertexCommand(Session& session) {
     }
     Result<EditedVertices> result = editedVertices(*task, *place);
     if (!result) {
-        kdutPrintf(L"%ls", widen("Nothing changed. " + result.failure().text + ".").c_str());
+        kdutPrintf(L"%ls",
+                   widen(hostText("Nothing changed. %1.", {result.failure().text})).c_str());
         return;
     }
     for (auto& [stub, content] : result->mlines) {

@@ -1,5 +1,6 @@
 #include "HostCommand.h"
 #include "Session.h"
+#include "hostText.h"
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "userFrame.h"
@@ -14,12 +15,12 @@ namespace {
 void zoomToCenter(Session& session) {
     double center[3] = {0.0, 0.0, 0.0};
     double height = 0.0;
-    if (kdedGetPoint(nullptr, L"Center point: ", center) != kPromptNormal ||
-        kdedGetReal(L"Height of the view: ", &height) != kPromptNormal) {
+    if (kdedGetPoint(nullptr, wideHostText("Center point: ").c_str(), center) != kPromptNormal ||
+        kdedGetReal(wideHostText("Height of the view: ").c_str(), &height) != kPromptNormal) {
         return;
     }
     if (!(height > 0.0)) {
-        rejectAnswer(L"the height of a view has to be above 0");
+        rejectAnswer(wideHostText("the height of a view has to be above 0"));
         return;
     }
     const KdGePoint3d world = userToWorld({center[0], center[1], center[2]});
@@ -31,7 +32,7 @@ void zoomToCenter(Session& session) {
 void zoomCommand(Session& session) {
     wchar_t keyword[kPromptTextSize] = L"";
     kdedInitGet(0, L"Extents Center");
-    if (kdedGetKword(L"Extents or Center: ", keyword) != kPromptNormal) {
+    if (kdedGetKword(wideHostText("Extents or Center: ").c_str(), keyword) != kPromptNormal) {
         return;
     }
     if (std::wstring_view(keyword) == L"Extents") {

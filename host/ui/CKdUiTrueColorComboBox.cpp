@@ -4,6 +4,7 @@
 #include "MRUComboBox.h"
 #include "samplePictures.h"
 
+#include <QCoreApplication>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -102,7 +103,7 @@ void CKdUiTrueColorComboBox::PreSubclassWindow() {
     }
     // Only a box that asks before it notifies can have an entry that isn't a colour.
     if (auto* const asking = qobject_cast<VOUI::MRUComboBox*>(combo)) {
-        combo->addItem("More Colors...");
+        combo->addItem(QCoreApplication::translate("orvex", "More Colors..."));
         const std::weak_ptr<ColorList> alive = m_colors;
         asking->setChooser([this, alive](int index) { return alive.expired() || choose(index); });
     }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QCoreApplication>
 
 #include <utility>
 
@@ -40,8 +41,9 @@ KdCmColor fromRgb(std::uint32_t rgb) {
 
 std::optional<KdCmColor> DrawingChoices::askColor(const KdCmColor& before) const {
     offerPalette();
-    const QColor chosen = QColorDialog::getColor(QColor(before.rgb()), QApplication::activeWindow(),
-                                                 "Select Color", QColorDialog::DontUseNativeDialog);
+    const QColor chosen = QColorDialog::getColor(
+        QColor(before.rgb()), QApplication::activeWindow(),
+        QCoreApplication::translate("orvex", "Select Color"), QColorDialog::DontUseNativeDialog);
     if (!chosen.isValid()) {
         return std::nullopt;
     }

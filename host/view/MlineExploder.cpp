@@ -3,6 +3,7 @@
 #include "CStdStr.h"
 #include "drawMline.h"
 #include "geometry.h"
+#include "hostText.h"
 #include "impossible.h"
 
 #include <algorithm>
@@ -170,11 +171,11 @@ Result<std::vector<PlainContent>> MlineExploder::explode(const MlineContent& mli
     ExplodingSink sink(traits, unitNormal(mline));
     drawMline(mline, style, sink);
     if (sink.isOutOfRange()) {
-        return impossible("it reaches beyond the range of drawings");
+        return impossible(hostText("it reaches beyond the range of drawings"));
     }
     std::vector<PlainContent> parts = sink.take();
     if (parts.empty()) {
-        return impossible("nothing of it is drawn");
+        return impossible(hostText("nothing of it is drawn"));
     }
     return parts;
 }

@@ -1,5 +1,6 @@
 #include "snapWords.h"
 
+#include "hostText.h"
 #include "textCodec.h"
 
 #include <array>
@@ -18,14 +19,14 @@ struct ModeWords {
 };
 
 constexpr std::array<ModeWords, kSnapModeCount> kModes{{
-    {SnapMode::vertex, L"VER", L"VERTEX", "Vertex"},
-    {SnapMode::elementEnd, L"ELE", L"ELEMENT", "Element end"},
-    {SnapMode::end, L"END", L"ENDPOINT", "End"},
-    {SnapMode::axisCrossing, L"CRO", L"CROSSING", "Axis crossing"},
-    {SnapMode::intersection, L"INT", L"INTERSECTION", "Intersection"},
-    {SnapMode::middle, L"MID", L"MIDPOINT", "Middle"},
-    {SnapMode::perpendicular, L"PER", L"PERPENDICULAR", "Perpendicular"},
-    {SnapMode::nearest, L"NEA", L"NEAREST", "Nearest"},
+    {SnapMode::vertex, L"VER", L"VERTEX", markedText("Vertex")},
+    {SnapMode::elementEnd, L"ELE", L"ELEMENT", markedText("Element end")},
+    {SnapMode::end, L"END", L"ENDPOINT", markedText("End")},
+    {SnapMode::axisCrossing, L"CRO", L"CROSSING", markedText("Axis crossing")},
+    {SnapMode::intersection, L"INT", L"INTERSECTION", markedText("Intersection")},
+    {SnapMode::middle, L"MID", L"MIDPOINT", markedText("Middle")},
+    {SnapMode::perpendicular, L"PER", L"PERPENDICULAR", markedText("Perpendicular")},
+    {SnapMode::nearest, L"NEA", L"NEAREST", markedText("Nearest")},
 }};
 
 const ModeWords& wordsOf(SnapMode mode) {

@@ -99,11 +99,11 @@
     </message>
     <message>
         <source>New Style Name:</source>
-        <translation>Name des neuen Stils:</translation>
+        <translation>Neuer Name:</translation>
     </message>
     <message>
         <source>Start With:</source>
-        <translation>Ausgehend von:</translation>
+        <translation>Vorlage:</translation>
     </message>
     <message>
         <source>Cancel</source>

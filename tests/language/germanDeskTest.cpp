@@ -93,7 +93,7 @@ TEST_F(GermanDesk, showsTheModulesDialogsInGermanAndTheSettingForTheNextStart) {
 QString germanKey(const QKeySequence& key) {
     QString text = key.toString(QKeySequence::PortableText);
     for (const auto& [english, german] : {std::pair("Ctrl", "Strg"), std::pair("Shift", "Umschalt"),
-                                          std::pair("Backspace", "Rückschritt")}) {
+                                          std::pair("Backspace", "Rücktaste")}) {
         text.replace(english, QString::fromUtf8(german));
     }
     return text == "Del" ? QStringLiteral("Entf") : text;

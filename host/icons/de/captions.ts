@@ -9,21 +9,6 @@
     </message>
 </context>
 <context>
-    <name>DrawBar</name>
-    <message>
-        <source>Top</source>
-        <translation>Oben</translation>
-    </message>
-    <message>
-        <source>Zero</source>
-        <translation>Null</translation>
-    </message>
-    <message>
-        <source>Bottom</source>
-        <translation>Unten</translation>
-    </message>
-</context>
-<context>
     <name>QObject</name>
     <message>
         <source>Unnamed drawing</source>
@@ -615,12 +600,1200 @@
         <translation>Die Lücken einer Multilinie zwischen zwei Punkten schließen</translation>
     </message>
     <message>
+        <source>the point is too far away</source>
+        <translation>der Punkt ist zu weit weg</translation>
+    </message>
+    <message>
+        <source>it ends there already</source>
+        <translation>sie endet dort schon</translation>
+    </message>
+    <message>
+        <source>nothing would be left of it</source>
+        <translation>von ihr bliebe nichts übrig</translation>
+    </message>
+    <message>
+        <source>a part would have no length</source>
+        <translation>ein Teil hätte keine Länge</translation>
+    </message>
+    <message>
+        <source>a closed one has no ends</source>
+        <translation>eine geschlossene hat keine Enden</translation>
+    </message>
+    <message>
+        <source>style, scale and justification don&apos;t agree</source>
+        <translation>Stil, Maßstab und Ausrichtung stimmen nicht überein</translation>
+    </message>
+    <message>
+        <source>they run against each other</source>
+        <translation>sie laufen gegeneinander</translation>
+    </message>
+    <message>
+        <source>their ends don&apos;t meet</source>
+        <translation>ihre Enden treffen sich nicht</translation>
+    </message>
+    <message>
+        <source>its normal has not the length 1</source>
+        <translation>ihre Normale hat nicht die Länge 1</translation>
+    </message>
+    <message>
+        <source>it has fewer than two vertices</source>
+        <translation>sie hat weniger als zwei Scheitelpunkte</translation>
+    </message>
+    <message>
+        <source>a number in it isn&apos;t finite</source>
+        <translation>eine Zahl darin ist nicht endlich</translation>
+    </message>
+    <message>
+        <source>its style is missing</source>
+        <translation>ihr Stil fehlt</translation>
+    </message>
+    <message>
+        <source>a style has 1 to 16 elements</source>
+        <translation>ein Stil hat 1 bis 16 Elemente</translation>
+    </message>
+    <message>
+        <source>a scale is a number other than 0</source>
+        <translation>ein Maßstab ist eine andere Zahl als 0</translation>
+    </message>
+    <message>
+        <source>its lines can be kept under another justification only</source>
+        <translation>ihre Linien können nur unter einer anderen Ausrichtung bleiben</translation>
+    </message>
+    <message>
+        <source>its gaps contradict each other</source>
+        <translation>ihre Lücken widersprechen einander</translation>
+    </message>
+    <message>
+        <source>a closed chain has three vertices or more</source>
+        <translation>eine geschlossene Kette hat mindestens drei Scheitelpunkte</translation>
+    </message>
+    <message>
+        <source>a segment is too short to keep its lines</source>
+        <translation>ein Segment ist zu kurz, um seine Linien zu behalten</translation>
+    </message>
+    <message>
+        <source>a distance isn&apos;t finite</source>
+        <translation>ein Abstand ist nicht endlich</translation>
+    </message>
+    <message>
+        <source>the distances don&apos;t ascend</source>
+        <translation>die Abstände steigen nicht an</translation>
+    </message>
+    <message>
+        <source>it is closed and has no ends</source>
+        <translation>sie ist geschlossen und hat keine Enden</translation>
+    </message>
+    <message>
+        <source>it doesn&apos;t lie in the plane of the bar</source>
+        <translation>sie liegt nicht in der Ebene des Balkens</translation>
+    </message>
+    <message>
+        <source>its end doesn&apos;t lead to the bar</source>
+        <translation>ihr Ende führt nicht zum Balken</translation>
+    </message>
+    <message>
+        <source>its last segment doesn&apos;t cross the bar</source>
+        <translation>ihr letztes Segment kreuzt den Balken nicht</translation>
+    </message>
+    <message>
+        <source>elements</source>
+        <translation>Elemente</translation>
+    </message>
+    <message>
+        <source>its chain can&apos;t be judged</source>
+        <translation>ihre Kette ist nicht zu beurteilen</translation>
+    </message>
+    <message>
+        <source>degrees between axis and segment</source>
+        <translation>Grad zwischen Achse und Segment</translation>
+    </message>
+    <message>
+        <source>degrees between axis and miter</source>
+        <translation>Grad zwischen Achse und Gehrung</translation>
+    </message>
+    <message>
+        <source>distance from the chain</source>
+        <translation>Abstand von der Kette</translation>
+    </message>
+    <message>
+        <source>distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>reach</source>
+        <translation>Reichweite</translation>
+    </message>
+    <message>
+        <source>found</source>
+        <translation>gefunden</translation>
+    </message>
+    <message>
+        <source>repaired</source>
+        <translation>berichtigt</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>belassen</translation>
+    </message>
+    <message>
+        <source>its last segment has no length</source>
+        <translation>ihr letztes Segment hat keine Länge</translation>
+    </message>
+    <message>
+        <source>the place lies at or beyond the segment&apos;s other vertex</source>
+        <translation>die Stelle liegt am anderen Scheitelpunkt des Segments oder jenseits davon</translation>
+    </message>
+    <message>
+        <source>the mirror line has no length</source>
+        <translation>die Spiegellinie hat keine Länge</translation>
+    </message>
+    <message>
+        <source>it would leave its plane</source>
+        <translation>sie verließe ihre Ebene</translation>
+    </message>
+    <message>
+        <source>its vertices would fall together</source>
+        <translation>ihre Scheitelpunkte fielen zusammen</translation>
+    </message>
+    <message>
+        <source>a chain has two vertices or more</source>
+        <translation>eine Kette hat mindestens zwei Scheitelpunkte</translation>
+    </message>
+    <message>
+        <source>its neighbours lie in the same place</source>
+        <translation>seine Nachbarn liegen an derselben Stelle</translation>
+    </message>
+    <message>
+        <source>{count} walls meet here</source>
+        <translation>hier treffen sich {count} Wände</translation>
+    </message>
+    <message>
+        <source>the walls run along each other</source>
+        <translation>die Wände laufen aneinander entlang</translation>
+    </message>
+    <message>
+        <source>the same wall stands here twice</source>
+        <translation>dieselbe Wand steht hier zweimal</translation>
+    </message>
+    <message>
+        <source>a wall&apos;s normal isn&apos;t +z</source>
+        <translation>die Normale einer Wand ist nicht +z</translation>
+    </message>
+    <message>
+        <source>the walls lie {has} apart in height</source>
+        <translation>die Wände liegen in der Höhe {has} auseinander</translation>
+    </message>
+    <message>
+        <source>a gap leaves no line to pick</source>
+        <translation>eine Lücke lässt keine Linie zum Wählen</translation>
+    </message>
+    <message>
+        <source>a pick here would find another line of its wall</source>
+        <translation>eine Wahl hier fände eine andere Linie der Wand</translation>
+    </message>
+    <message>
+        <source>a wall&apos;s style isn&apos;t in the drawing</source>
+        <translation>der Stil einer Wand ist nicht in der Zeichnung</translation>
+    </message>
+    <message>
+        <source>a wall&apos;s first and last element coincide or aren&apos;t the outermost</source>
+        <translation>das erste und das letzte Element einer Wand fallen zusammen oder sind nicht die äußersten</translation>
+    </message>
+    <message>
+        <source>a wall has one element only</source>
+        <translation>eine Wand hat nur ein Element</translation>
+    </message>
+    <message>
+        <source>nearly in one line: the corner would reach {has}, {needs} at most is allowed</source>
+        <translation>fast in einer Linie: die Ecke reichte {has} weit, erlaubt sind höchstens {needs}</translation>
+    </message>
+    <message>
+        <source>too acute: the corner would reach {has}, {needs} at most is allowed</source>
+        <translation>zu spitz: die Ecke reichte {has} weit, erlaubt sind höchstens {needs}</translation>
+    </message>
+    <message>
+        <source>a leg of {has} is too short for the joint, which needs {needs}</source>
+        <translation>ein Schenkel von {has} ist zu kurz für die Verbindung, die {needs} braucht</translation>
+    </message>
+    <message>
+        <source>the joint reaches into the one of {others}</source>
+        <translation>die Verbindung reicht in die von {others} hinein</translation>
+    </message>
+    <message>
+        <source>the place lies on a bend</source>
+        <translation>die Stelle liegt auf einem Knick</translation>
+    </message>
+    <message>
+        <source>both ends of a wall lie at the place</source>
+        <translation>beide Enden einer Wand liegen an der Stelle</translation>
+    </message>
+    <message>
+        <source>an end reaches several walls: {others}</source>
+        <translation>ein Ende erreicht mehrere Wände: {others}</translation>
+    </message>
+    <message>
+        <source>the chains don&apos;t cross where the walls do</source>
+        <translation>die Ketten kreuzen sich nicht, wo die Wände es tun</translation>
+    </message>
+    <message>
+        <source>the closing segment of a ring can&apos;t be cut here</source>
+        <translation>das schließende Segment eines Rings kann hier nicht getrennt werden</translation>
+    </message>
+    <message>
+        <source>the tool found nothing to join</source>
+        <translation>das Werkzeug fand nichts zu verbinden</translation>
+    </message>
+    <message>
+        <source>the joint came out wrong and was taken back</source>
+        <translation>die Verbindung kam falsch heraus und wurde zurückgenommen</translation>
+    </message>
+    <message>
+        <source>only points are counted from the last point</source>
+        <translation>nur Punkte zählen vom letzten Punkt aus</translation>
+    </message>
+    <message>
+        <source>only picks have a handle</source>
+        <translation>nur eine Wahl hat ein Handle</translation>
+    </message>
+    <message>
+        <source>the keyword isn&apos;t on offer</source>
+        <translation>das Schlüsselwort wird hier nicht angeboten</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t a regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is too short for a module</source>
+        <translation>für ein Modul ist es zu kurz</translation>
+    </message>
+    <message>
+        <source>the file is cut short</source>
+        <translation>die Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be opened</source>
+        <translation>es kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Look or Repair: </source>
+        <translation>Look (ansehen) oder Repair (berichtigen): </translation>
+    </message>
+    <message>
+        <source>Second point, Enter for none: </source>
+        <translation>Zweiter Punkt, Eingabetaste für keinen: </translation>
+    </message>
+    <message>
+        <source>Multiline to break: </source>
+        <translation>Zu teilende Multilinie: </translation>
+    </message>
+    <message>
+        <source>Point: </source>
+        <translation>Punkt: </translation>
+    </message>
+    <message>
+        <source>First multiline: </source>
+        <translation>Erste Multilinie: </translation>
+    </message>
+    <message>
+        <source>Second multiline: </source>
+        <translation>Zweite Multilinie: </translation>
+    </message>
+    <message>
+        <source>it was picked twice</source>
+        <translation>sie wurde zweimal gewählt</translation>
+    </message>
+    <message>
+        <source>Layer name: </source>
+        <translation>Name des Layers: </translation>
+    </message>
+    <message>
+        <source>Style name: </source>
+        <translation>Name des Stils: </translation>
+    </message>
+    <message>
+        <source>Justification [Top/Zero/Bottom]: </source>
+        <translation>Ausrichtung [Top/Zero/Bottom]: </translation>
+    </message>
+    <message>
+        <source>Caps [Both/Start/End/None]: </source>
+        <translation>Abschlüsse [Both/Start/End/None]: </translation>
+    </message>
+    <message>
+        <source>Scale: </source>
+        <translation>Maßstab: </translation>
+    </message>
+    <message>
+        <source>Change [STyle/SCale/Justification/LAyer/CAps/CLose/Open/KeepLines], Enter to apply: </source>
+        <translation>Ändern [STyle/SCale/Justification/LAyer/CAps/CLose/Open/KeepLines], Eingabetaste wendet an: </translation>
+    </message>
+    <message>
+        <source>%1 of %2 multilines changed.</source>
+        <translation>%1 von %2 Multilinien geändert.</translation>
+    </message>
+    <message>
+        <source>%1 on locked layers left out.</source>
+        <translation>%1 auf gesperrten Layern ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Style until now: </source>
+        <translation>Bisheriger Stil: </translation>
+    </message>
+    <message>
+        <source>New style: </source>
+        <translation>Neuer Stil: </translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>sie kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Nothing found there.</source>
+        <translation>Dort ist nichts zu finden.</translation>
+    </message>
+    <message>
+        <source>That isn&apos;t a multiline with a chain.</source>
+        <translation>Das ist keine Multilinie mit einer Kette.</translation>
+    </message>
+    <message>
+        <source>No multiline found there.</source>
+        <translation>Dort ist keine Multilinie zu finden.</translation>
+    </message>
+    <message>
+        <source>The multiline lies on a locked layer.</source>
+        <translation>Die Multilinie liegt auf einem gesperrten Layer.</translation>
+    </message>
+    <message>
+        <source>that is no whole number from 0 on</source>
+        <translation>das ist keine ganze Zahl ab 0</translation>
+    </message>
+    <message>
+        <source>Next distance: </source>
+        <translation>Nächster Abstand: </translation>
+    </message>
+    <message>
+        <source>Multiline: </source>
+        <translation>Multilinie: </translation>
+    </message>
+    <message>
+        <source>Segment: </source>
+        <translation>Segment: </translation>
+    </message>
+    <message>
+        <source>Element: </source>
+        <translation>Element: </translation>
+    </message>
+    <message>
+        <source>Multiline to end at: </source>
+        <translation>Multilinie, an der Enden liegen sollen: </translation>
+    </message>
+    <message>
+        <source>To its [Axis/Outer]: </source>
+        <translation>Bis zu ihrer Achse oder Außenlinie [Axis/Outer]: </translation>
+    </message>
+    <message>
+        <source>Pick near an end to extend, Enter to stop: </source>
+        <translation>Nahe einem Ende wählen, das gedehnt wird, Eingabetaste beendet: </translation>
+    </message>
+    <message>
+        <source>Pick near an end to trim, Enter to stop: </source>
+        <translation>Nahe einem Ende wählen, das gestutzt wird, Eingabetaste beendet: </translation>
+    </message>
+    <message>
+        <source>it is what the others are to end at</source>
+        <translation>an ihr sollen die anderen enden</translation>
+    </message>
+    <message>
+        <source>%1 of %2 multilines exploded.</source>
+        <translation>%1 von %2 Multilinien zerlegt.</translation>
+    </message>
+    <message>
+        <source>Tolerance in drawing units or Automatic: </source>
+        <translation>Toleranz in Zeichnungseinheiten oder Automatic: </translation>
+    </message>
+    <message>
+        <source>a tolerance is 0 or more</source>
+        <translation>eine Toleranz ist 0 oder größer</translation>
+    </message>
+    <message>
+        <source>Tolerance, Cross, Tee or COrners, Enter to join: </source>
+        <translation>Tolerance, Cross, Tee oder COrners, Eingabetaste verbindet: </translation>
+    </message>
+    <message>
+        <source>Crosses Closed, Open, Merged or None: </source>
+        <translation>Kreuze Closed, Open, Merged oder None: </translation>
+    </message>
+    <message>
+        <source>Tees Closed, Open, Merged or None: </source>
+        <translation>T-Stöße Closed, Open, Merged oder None: </translation>
+    </message>
+    <message>
+        <source>Corners Yes or No: </source>
+        <translation>Ecken Yes oder No: </translation>
+    </message>
+    <message>
+        <source>cross</source>
+        <translation>Kreuz</translation>
+    </message>
+    <message>
+        <source>tee</source>
+        <translation>T-Stoß</translation>
+    </message>
+    <message>
+        <source>corner</source>
+        <translation>Ecke</translation>
+    </message>
+    <message>
+        <source>node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>overlap</source>
+        <translation>Überlappung</translation>
+    </message>
+    <message>
+        <source>planned</source>
+        <translation>geplant</translation>
+    </message>
+    <message>
+        <source>joined</source>
+        <translation>verbunden</translation>
+    </message>
+    <message>
+        <source>already</source>
+        <translation>schon verbunden</translation>
+    </message>
+    <message>
+        <source>unasked</source>
+        <translation>nicht gefragt</translation>
+    </message>
+    <message>
+        <source>%1 of %2 multilines laid right.</source>
+        <translation>%1 von %2 Multilinien ausgerichtet.</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>zero</source>
+        <translation>Null</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>unknown justification</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>geschlossen</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>a scale of 0 would put all lines in one place</source>
+        <translation>beim Maßstab 0 lägen alle Linien an einer Stelle</translation>
+    </message>
+    <message>
+        <source>there is no layer &apos;%1&apos;</source>
+        <translation>es gibt keinen Layer „%1“</translation>
+    </message>
+    <message>
+        <source>Layer name &lt;%1&gt;: </source>
+        <translation>Name des Layers &lt;%1&gt;: </translation>
+    </message>
+    <message>
+        <source>there is no style &apos;%1&apos;</source>
+        <translation>es gibt keinen Stil „%1“</translation>
+    </message>
+    <message>
+        <source>Style name &lt;%1&gt;: </source>
+        <translation>Name des Stils &lt;%1&gt;: </translation>
+    </message>
+    <message>
+        <source>Start point or [Justification/Scale/STyle/LAyer]: </source>
+        <translation>Startpunkt oder [Justification/Scale/STyle/LAyer]: </translation>
+    </message>
+    <message>
+        <source>Next point or [Close/Undo]: </source>
+        <translation>Nächster Punkt oder [Close/Undo]: </translation>
+    </message>
+    <message>
+        <source>Next point or [Undo]: </source>
+        <translation>Nächster Punkt oder [Undo]: </translation>
+    </message>
+    <message>
+        <source>That is where the last point is. It is left out.</source>
+        <translation>Dort liegt der letzte Punkt schon. Er wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>The current style has no elements to draw.</source>
+        <translation>Der aktuelle Stil hat keine Elemente zum Zeichnen.</translation>
+    </message>
+    <message>
+        <source>warning: all points lie in one place; there is nothing to draw.</source>
+        <translation>Warnung: alle Punkte liegen an einer Stelle; es gibt nichts zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 multilines copied.</source>
+        <translation>%1 von %2 Multilinien kopiert.</translation>
+    </message>
+    <message>
+        <source>Base point: </source>
+        <translation>Basispunkt: </translation>
+    </message>
+    <message>
+        <source>Second point: </source>
+        <translation>Zweiter Punkt: </translation>
+    </message>
+    <message>
+        <source>%1 of %2 multilines moved.</source>
+        <translation>%1 von %2 Multilinien verschoben.</translation>
+    </message>
+    <message>
+        <source>Degrees counter-clockwise: </source>
+        <translation>Grad gegen den Uhrzeigersinn: </translation>
+    </message>
+    <message>
+        <source>%1 of %2 multilines rotated.</source>
+        <translation>%1 von %2 Multilinien gedreht.</translation>
+    </message>
+    <message>
+        <source>First point of the mirror line: </source>
+        <translation>Erster Punkt der Spiegellinie: </translation>
+    </message>
+    <message>
+        <source>%1 of %2 multilines mirrored.</source>
+        <translation>%1 von %2 Multilinien gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Pick a multiline near the end to move: </source>
+        <translation>Multilinie nahe dem Ende wählen, das verschoben wird: </translation>
+    </message>
+    <message>
+        <source>That isn&apos;t a multiline with ends.</source>
+        <translation>Das ist keine Multilinie mit Enden.</translation>
+    </message>
+    <message>
+        <source>New point: </source>
+        <translation>Neuer Punkt: </translation>
+    </message>
+    <message>
+        <source>; there are </source>
+        <translation>; es gibt </translation>
+    </message>
+    <message>
+        <source> and others</source>
+        <translation> und andere</translation>
+    </message>
+    <message>
+        <source>nothing here</source>
+        <translation>hier ist nichts</translation>
+    </message>
+    <message>
+        <source>pick on a line of a multiline</source>
+        <translation>auf eine Linie einer Multilinie klicken</translation>
+    </message>
+    <message>
+        <source>on a locked layer</source>
+        <translation>auf einem gesperrten Layer</translation>
+    </message>
+    <message>
+        <source>unlock the layer first</source>
+        <translation>zuerst den Layer entsperren</translation>
+    </message>
+    <message>
+        <source>%1 is no multiline</source>
+        <translation>%1 ist keine Multilinie</translation>
+    </message>
+    <message>
+        <source>a closed multiline can&apos;t be used here</source>
+        <translation>eine geschlossene Multilinie ist hier nicht zu brauchen</translation>
+    </message>
+    <message>
+        <source>pick an open one</source>
+        <translation>eine offene wählen</translation>
+    </message>
+    <message>
+        <source>this is the same multiline</source>
+        <translation>das ist dieselbe Multilinie</translation>
+    </message>
+    <message>
+        <source>pick two that cross</source>
+        <translation>zwei wählen, die sich kreuzen</translation>
+    </message>
+    <message>
+        <source>this is another multiline</source>
+        <translation>das ist eine andere Multilinie</translation>
+    </message>
+    <message>
+        <source>both picks have to lie on the first one</source>
+        <translation>beide Punkte müssen auf der ersten liegen</translation>
+    </message>
+    <message>
+        <source>these two don&apos;t cross where they were picked</source>
+        <translation>diese beiden kreuzen sich nicht, wo sie gewählt wurden</translation>
+    </message>
+    <message>
+        <source>pick where their chains meet</source>
+        <translation>dort wählen, wo sich ihre Ketten treffen</translation>
+    </message>
+    <message>
+        <source>no line is matched here, an earlier pick would be used</source>
+        <translation>hier passt keine Linie, eine frühere Wahl würde gelten</translation>
+    </message>
+    <message>
+        <source>pick further from the multiline&apos;s end</source>
+        <translation>weiter vom Ende der Multilinie wählen</translation>
+    </message>
+    <message>
+        <source>nothing changed</source>
+        <translation>nichts hat sich geändert</translation>
+    </message>
+    <message>
+        <source>this</source>
+        <translation>dies</translation>
+    </message>
+    <message>
+        <source>%1 other than multilines left out.</source>
+        <translation>%1 andere als Multilinien ausgelassen.</translation>
+    </message>
+    <message>
+        <source>First corner: </source>
+        <translation>Erste Ecke: </translation>
+    </message>
+    <message>
+        <source>Opposite corner: </source>
+        <translation>Gegenüberliegende Ecke: </translation>
+    </message>
+    <message>
+        <source>its style has other caps at the start than at the end</source>
+        <translation>ihr Stil hat am Anfang andere Abschlüsse als am Ende</translation>
+    </message>
+    <message>
+        <source>Nothing selected.</source>
+        <translation>Nichts ist gewählt.</translation>
+    </message>
+    <message>
+        <source>Variable name: </source>
+        <translation>Name der Variablen: </translation>
+    </message>
+    <message>
+        <source>The style can&apos;t be copied.</source>
+        <translation>Der Stil kann nicht kopiert werden.</translation>
+    </message>
+    <message>
+        <source>The copy was deleted; nothing takes it.</source>
+        <translation>Die Kopie wurde gelöscht; nichts bekommt sie.</translation>
+    </message>
+    <message>
+        <source>Vertex &lt;nearest&gt;: </source>
+        <translation>Scheitelpunkt &lt;nächster&gt;: </translation>
+    </message>
+    <message>
+        <source>Vertex: </source>
+        <translation>Scheitelpunkt: </translation>
+    </message>
+    <message>
+        <source>Vertex [Move/Add/Remove/Together with another]: </source>
+        <translation>Scheitelpunkt [Move/Add/Remove/Together with another]: </translation>
+    </message>
+    <message>
+        <source>New place of the vertex: </source>
+        <translation>Neue Stelle des Scheitelpunkts: </translation>
+    </message>
+    <message>
+        <source>Place of the new vertex: </source>
+        <translation>Stelle des neuen Scheitelpunkts: </translation>
+    </message>
+    <message>
+        <source>Center point: </source>
+        <translation>Mittelpunkt: </translation>
+    </message>
+    <message>
+        <source>Height of the view: </source>
+        <translation>Höhe der Ansicht: </translation>
+    </message>
+    <message>
+        <source>the height of a view has to be above 0</source>
+        <translation>die Höhe einer Ansicht muss über 0 liegen</translation>
+    </message>
+    <message>
+        <source>Extents or Center: </source>
+        <translation>Extents (Grenzen) oder Center (Mitte): </translation>
+    </message>
+    <message>
+        <source>More Colors...</source>
+        <translation>Weitere Farben...</translation>
+    </message>
+    <message>
+        <source>Select Color</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Vertex</source>
+        <translation>Scheitelpunkt</translation>
+    </message>
+    <message>
+        <source>Element end</source>
+        <translation>Elementende</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Axis crossing</source>
+        <translation>Achsenkreuzung</translation>
+    </message>
+    <message>
+        <source>Intersection</source>
+        <translation>Schnittpunkt</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Perpendicular</source>
+        <translation>Lot</translation>
+    </message>
+    <message>
+        <source>Nearest</source>
+        <translation>Nächster</translation>
+    </message>
+    <message>
+        <source>not enough memory</source>
+        <translation>zu wenig Speicher</translation>
+    </message>
+    <message>
+        <source>the script isn&apos;t UTF-8</source>
+        <translation>das Skript ist nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>a length of 0 leads nowhere</source>
+        <translation>eine Länge von 0 führt nirgendwohin</translation>
+    </message>
+    <message>
+        <source>a length needs a direction: move the mouse over the drawing</source>
+        <translation>eine Länge braucht eine Richtung: die Maus über die Zeichnung bewegen</translation>
+    </message>
+    <message>
+        <source>a hexadecimal handle has to follow &apos;#&apos;</source>
+        <translation>auf „#“ muss ein hexadezimales Handle folgen</translation>
+    </message>
+    <message>
+        <source>a comma or &apos;&lt;&apos; has to follow</source>
+        <translation>ein Komma oder „&lt;“ muss folgen</translation>
+    </message>
+    <message>
+        <source>a comma has to follow</source>
+        <translation>ein Komma muss folgen</translation>
+    </message>
+    <message>
+        <source>a length with an angle begins with &apos;@&apos;</source>
+        <translation>eine Länge mit einem Winkel beginnt mit „@“</translation>
+    </message>
+    <message>
+        <source>nothing can follow the angle</source>
+        <translation>auf den Winkel kann nichts folgen</translation>
+    </message>
+    <message>
+        <source>an angle follows a length alone</source>
+        <translation>ein Winkel folgt auf eine Länge allein</translation>
+    </message>
+    <message>
+        <source>nothing can follow the third number</source>
+        <translation>auf die dritte Zahl kann nichts folgen</translation>
+    </message>
+    <message>
+        <source>a number is missing</source>
+        <translation>eine Zahl fehlt</translation>
+    </message>
+    <message>
+        <source>&apos;@&apos; belongs at the beginning</source>
+        <translation>„@“ gehört an den Anfang</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t a module</source>
+        <translation>es ist kein Modul</translation>
+    </message>
+    <message>
+        <source>the module is for another version of the host</source>
+        <translation>das Modul ist für eine andere Version des Hosts</translation>
+    </message>
+    <message>
+        <source>the module or its texts can&apos;t be loaded</source>
+        <translation>das Modul oder seine Texte können nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>a line</source>
+        <translation>eine Linie</translation>
+    </message>
+    <message>
+        <source>a polyline</source>
+        <translation>eine Polylinie</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>a block</source>
+        <translation>ein Block</translation>
+    </message>
+    <message>
+        <source>a solid</source>
+        <translation>eine Füllfläche</translation>
+    </message>
+    <message>
+        <source>a hatch</source>
+        <translation>eine Schraffur</translation>
+    </message>
+    <message>
+        <source>a point</source>
+        <translation>ein Punkt</translation>
+    </message>
+    <message>
+        <source>an ellipse</source>
+        <translation>eine Ellipse</translation>
+    </message>
+    <message>
+        <source>a circle</source>
+        <translation>ein Kreis</translation>
+    </message>
+    <message>
+        <source>an arc</source>
+        <translation>ein Bogen</translation>
+    </message>
+    <message>
+        <source>Remove multilines</source>
+        <translation>Multilinien wegnehmen</translation>
+    </message>
+    <message>
+        <source>Remove entities</source>
+        <translation>Objekte wegnehmen</translation>
+    </message>
+    <message>
+        <source>Select multilines</source>
+        <translation>Multilinien wählen</translation>
+    </message>
+    <message>
+        <source>Select entities</source>
+        <translation>Objekte wählen</translation>
+    </message>
+    <message>
+        <source>Command: </source>
+        <translation>Befehl: </translation>
+    </message>
+    <message>
+        <source>a command is running already</source>
+        <translation>ein Befehl läuft schon</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Es gibt nichts zurückzunehmen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo.</source>
+        <translation>Es gibt nichts zurückzuholen.</translation>
+    </message>
+    <message>
+        <source>it reaches beyond the range of drawings</source>
+        <translation>sie reicht über den Bereich von Zeichnungen hinaus</translation>
+    </message>
+    <message>
+        <source>nothing of it is drawn</source>
+        <translation>von ihr wird nichts gezeichnet</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> und %1 weiteren</translation>
+    </message>
+    <message>
+        <source>blocks repeat too often to be drawn in full, in the inserts %1</source>
+        <translation>Blöcke wiederholen sich zu oft, um ganz gezeichnet zu werden, in den Einfügungen %1</translation>
+    </message>
+    <message>
+        <source>blocks repeat too often to be drawn in full, in the insert %1</source>
+        <translation>Blöcke wiederholen sich zu oft, um ganz gezeichnet zu werden, in der Einfügung %1</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>segment %1 has no length</source>
+        <translation>Segment %1 hat keine Länge</translation>
+    </message>
+    <message>
+        <source>vertex %1 doesn&apos;t lie in the plane of the others</source>
+        <translation>Scheitelpunkt %1 liegt nicht in der Ebene der anderen</translation>
+    </message>
+    <message>
+        <source>it has no segment %1</source>
+        <translation>sie hat kein Segment %1</translation>
+    </message>
+    <message>
+        <source>it has no element %1</source>
+        <translation>sie hat kein Element %1</translation>
+    </message>
+    <message>
+        <source>vertex %1, element %2</source>
+        <translation>Scheitelpunkt %1, Element %2</translation>
+    </message>
+    <message>
+        <source>vertex %1</source>
+        <translation>Scheitelpunkt %1</translation>
+    </message>
+    <message>
+        <source>%1 %2, should be %3</source>
+        <translation>%1 %2, sollte %3 sein</translation>
+    </message>
+    <message>
+        <source>it has no vertex %1</source>
+        <translation>sie hat keinen Scheitelpunkt %1</translation>
+    </message>
+    <message>
+        <source>vertex %1 would fall together with its neighbour</source>
+        <translation>Scheitelpunkt %1 fiele mit seinem Nachbarn zusammen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a keyword</source>
+        <translation>„%1“ ist kein Schlüsselwort</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a pick</source>
+        <translation>„%1“ ist keine Wahl</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a pick or #HANDLE</source>
+        <translation>„%1“ ist weder eine Wahl noch #HANDLE</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a point</source>
+        <translation>„%1“ ist kein Punkt</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a number</source>
+        <translation>„%1“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an answer</source>
+        <translation>„%1“ ist keine Antwort</translation>
+    </message>
+    <message>
+        <source>%1: at character %2, %3</source>
+        <translation>%1: bei Zeichen %2, %3</translation>
+    </message>
+    <message>
+        <source>%1: a snap word needs the cursor of a window</source>
+        <translation>%1: ein Fangwort braucht den Cursor eines Fensters</translation>
+    </message>
+    <message>
+        <source>%1: a bare length needs the cursor of a window</source>
+        <translation>%1: eine bloße Länge braucht den Cursor eines Fensters</translation>
+    </message>
+    <message>
+        <source>%1 on offer (%2)</source>
+        <translation>%1, das hier angeboten wird (%2)</translation>
+    </message>
+    <message>
+        <source>%1 or one of the keywords (%2)</source>
+        <translation>%1 und keines der Schlüsselwörter (%2)</translation>
+    </message>
+    <message>
+        <source>%1 on offer</source>
+        <translation>%1, das hier angeboten wird</translation>
+    </message>
+    <message>
+        <source>%1: decimals follow a point, %2</source>
+        <translation>%1: Dezimalstellen stehen nach einem Punkt, %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number</source>
+        <translation>„%1“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>there is no variable &apos;%1&apos;</source>
+        <translation>es gibt keine Variable „%1“</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no value for %2</source>
+        <translation>„%1“ ist kein Wert für %2</translation>
+    </message>
+    <message>
+        <source>There is no style &apos;%1&apos;%2.</source>
+        <translation>Es gibt keinen Stil „%1“%2.</translation>
+    </message>
+    <message>
+        <source>There is no layer &apos;%1&apos;.</source>
+        <translation>Es gibt keinen Layer „%1“.</translation>
+    </message>
+    <message>
+        <source>In %1 of them gaps of single elements went to the nearest element.</source>
+        <translation>In %1 davon gingen Lücken einzelner Elemente an das nächste Element.</translation>
+    </message>
+    <message>
+        <source>multiline %1, %2 (%3)</source>
+        <translation>Multilinie %1, %2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1 findings in %2 of %3 multilines.</source>
+        <translation>%1 Befunde in %2 von %3 Multilinien.</translation>
+    </message>
+    <message>
+        <source>multiline %1 left as it is: %2</source>
+        <translation>Multilinie %1 bleibt, wie sie ist: %2</translation>
+    </message>
+    <message>
+        <source>%1 gap cut or gone: the segments don&apos;t hold them any more.</source>
+        <translation>%1 Lücke gekürzt oder weg: die Segmente fassen sie nicht mehr.</translation>
+    </message>
+    <message>
+        <source>%1 gaps cut or gone: the segments don&apos;t hold them any more.</source>
+        <translation>%1 Lücken gekürzt oder weg: die Segmente fassen sie nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The breaks stay: %1</source>
+        <translation>Die Unterbrechungen bleiben: %1</translation>
+    </message>
+    <message>
+        <source>%1 outside of model space left.</source>
+        <translation>%1 außerhalb des Modellbereichs belassen.</translation>
+    </message>
+    <message>
+        <source>%1 erased.</source>
+        <translation>%1 gelöscht.</translation>
+    </message>
+    <message>
+        <source>%1 joined, %2 left.</source>
+        <translation>%1 verbunden, %2 belassen.</translation>
+    </message>
+    <message>
+        <source>%1 at %2 of</source>
+        <translation>%1 bei %2 von</translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation>%1 (fehlt)</translation>
+    </message>
+    <message>
+        <source>multiline %1: style %2, scale %3, %4, %5, layer %6, %7 vertices, length %8</source>
+        <translation>Multilinie %1: Stil %2, Maßstab %3, Ausrichtung %4, %5, Layer %6, %7 Scheitelpunkte, Länge %8</translation>
+    </message>
+    <message>
+        <source>Scale &lt;%1&gt;: </source>
+        <translation>Maßstab &lt;%1&gt;: </translation>
+    </message>
+    <message>
+        <source>Nothing mirrored: %1.</source>
+        <translation>Nichts gespiegelt: %1.</translation>
+    </message>
+    <message>
+        <source>The end stays: %1</source>
+        <translation>Das Ende bleibt: %1</translation>
+    </message>
+    <message>
+        <source>the command &apos;%1&apos; failed</source>
+        <translation>der Befehl „%1“ ist gescheitert</translation>
+    </message>
+    <message>
+        <source>%1 or [ALL/Window/Crossing/STYLE/LAYER/Previous/Remove/Add]: </source>
+        <translation>%1 oder [ALL/Window/Crossing/STYLE/LAYER/Previous/Remove/Add]: </translation>
+    </message>
+    <message>
+        <source>the command &apos;%1&apos; needs a window</source>
+        <translation>der Befehl „%1“ braucht ein Fenster</translation>
+    </message>
+    <message>
+        <source>there is no command &apos;%1&apos;</source>
+        <translation>es gibt keinen Befehl „%1“</translation>
+    </message>
+    <message>
+        <source>the module %1 can&apos;t be found</source>
+        <translation>das Modul %1 ist nicht zu finden</translation>
+    </message>
+    <message>
+        <source>New value for %1 &lt;%2&gt;: </source>
+        <translation>Neuer Wert für %1 &lt;%2&gt;: </translation>
+    </message>
+    <message>
+        <source>Snap modes, ALL, ON or OFF &lt;%1&gt;: </source>
+        <translation>Fangarten, ALL, ON oder OFF &lt;%1&gt;: </translation>
+    </message>
+    <message>
+        <source>the snap modes are %1</source>
+        <translation>die Fangarten sind %1</translation>
+    </message>
+    <message>
+        <source>Shall all %1 that use &apos;%2&apos; take &apos;%3&apos; [Yes/No] &lt;Yes&gt;: </source>
+        <translation>Sollen alle %1, die „%2“ verwenden, „%3“ bekommen [Yes/No] &lt;Yes&gt;: </translation>
+    </message>
+    <message>
+        <source>There is no style &apos;%1&apos;.</source>
+        <translation>Es gibt keinen Stil „%1“.</translation>
+    </message>
+    <message>
+        <source>There is a style of that name already; it stays &apos;%1&apos;.</source>
+        <translation>Einen Stil dieses Namens gibt es schon; es bleibt bei „%1“.</translation>
+    </message>
+    <message>
+        <source>It has no vertex %1.</source>
+        <translation>Sie hat keinen Scheitelpunkt %1.</translation>
+    </message>
+    <message>
+        <source>multiline %1: %2</source>
+        <translation>Multilinie %1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing changed. %1.</source>
+        <translation>Nichts hat sich geändert. %1.</translation>
+    </message>
+    <message>
         <source>Save &amp;History as Script...</source>
-        <translation>&amp;Verlauf als Skript speichern...</translation>
+        <translation>Verlauf als Skript s&amp;ichern...</translation>
     </message>
     <message>
         <source>Write what was done in this drawing as a script that does it again</source>
-        <translation>Schreibt, was in dieser Zeichnung getan wurde, als Skript, das es noch einmal tut</translation>
+        <translation>Was in dieser Zeichnung getan wurde, als Skript schreiben, das es noch einmal tut</translation>
+    </message>
+    <message>
+        <source>a number in it would be too large</source>
+        <translation>eine Zahl darin würde zu groß</translation>
+    </message>
+    <message>
+        <source>no multiline</source>
+        <translation>keine Multilinie</translation>
+    </message>
+    <message>
+        <source>%1 of %2 multilines stretched.</source>
+        <translation>%1 von %2 Multilinien gestreckt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 multilines reversed.</source>
+        <translation>%1 von %2 Multilinien umgekehrt.</translation>
+    </message>
+    <message>
+        <source>Its name, &apos;%1&apos; to replace that style</source>
+        <translation>Ihr Name, „%1“ ersetzt diesen Stil</translation>
+    </message>
+    <message>
+        <source>Its name</source>
+        <translation>Ihr Name</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is still in use; the copy stays &apos;%2&apos;.</source>
+        <translation>„%1“ wird noch verwendet; die Kopie bleibt „%2“.</translation>
+    </message>
+    <message>
+        <source>Style to change</source>
+        <translation>Zu ändernder Stil</translation>
     </message>
 </context>
 <context>
@@ -780,6 +1953,18 @@
     <message>
         <source>A scale of 0 would put all lines in one place.</source>
         <translation>Beim Maßstab 0 lägen alle Linien an einer Stelle.</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Zero</source>
+        <translation>Null</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
     </message>
 </context>
 <context>
@@ -1038,7 +2223,7 @@ Was nicht bearbeitet wird, wird Byte für Byte gespeichert.</translation>
     </message>
     <message>
         <source>What was changed in dialogs of styles is in no script: played, it won&apos;t give the same drawing.</source>
-        <translation>Was in den Dialogen der Stile geändert wurde, steht in keinem Skript: Abgespielt ergibt es nicht dieselbe Zeichnung.</translation>
+        <translation>Was in Dialogen für Stile geändert wurde, steht in keinem Skript: abgespielt gibt es nicht dieselbe Zeichnung.</translation>
     </message>
 </context>
 <context>
