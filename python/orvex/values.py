@@ -9,6 +9,12 @@ from typing import Any
 Point = tuple[float, float, float]
 
 
+def point_of(numbers: list[float]) -> Point:
+    """A point as the program writes it."""
+    x, y, z = numbers
+    return x, y, z
+
+
 @dataclass(frozen=True)
 class Color:
     """``index`` as in the drawing; ``rgb`` ("#RRGGBB") and ``book`` where it has them."""
@@ -85,12 +91,12 @@ class Multiline:
     @classmethod
     def from_json(cls, data: dict[str, Any]) -> Multiline:
         vertices = tuple(
-            Vertex(tuple(each["position"]), tuple(each["axis"]), tuple(each["miter"]),
+            Vertex(point_of(each["position"]), point_of(each["axis"]), point_of(each["miter"]),
                    tuple(tuple(element["line"]) for element in each["elements"]),
                    tuple(tuple(element["area"]) for element in each["elements"]))
             for each in data["vertices"])
         return cls(data["handle"], data["block"], data["layer"], data["style"], data["scale"],
-                   data["justification"], data["flags"], tuple(data["normal"]), vertices)
+                   data["justification"], data["flags"], point_of(data["normal"]), vertices)
 
 
 @dataclass(frozen=True)
@@ -107,7 +113,7 @@ class Joint:
     @classmethod
     def from_json(cls, data: dict[str, Any]) -> Joint:
         reason = data.get("reason", {})
-        return cls(data["kind"], tuple(data["at"]), tuple(data["handles"]), data["result"], reason.get("code"),
+        return cls(data["kind"], point_of(data["at"]), tuple(data["handles"]), data["result"], reason.get("code"),
                    reason.get("text"))
 
 
