@@ -15,6 +15,9 @@ _orvex_batch() {
         --to) mapfile -t COMPREPLY < <(compgen -W $'text\nbinary' -- "$cur") ;;
         --type) mapfile -t COMPREPLY < <(compgen -W $'svg\npng\npdf' -- "$cur") ;;
         --as) mapfile -t COMPREPLY < <(compgen -W $'lines\nblocks' -- "$cur") ;;
+        --background) mapfile -t COMPREPLY < <(compgen -W $'dark\nlight\ntransparent' -- "$cur") ;;
+        --paper) mapfile -t COMPREPLY < <(compgen -W $'A0\nA1\nA2\nA3\nA4' -- "$cur") ;;
+        --unit) mapfile -t COMPREPLY < <(compgen -W $'mm\ncm\ndm\nm\nkm\nin\nft\nyd\nmi' -- "$cur") ;;
         --output-dir)
             compopt -o filenames
             mapfile -t COMPREPLY < <(compgen -d -- "$cur")
