@@ -98,6 +98,8 @@ function(orvex_library target)
     else()
         add_library(${target} SHARED)
         set_property(TARGET ${present_arg_ROOMS} PROPERTY ORVEX_LIBRARY ${target})
+        # Calls within the library go straight there: nobody is meant to replace its functions.
+        target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions)
     endif()
     target_link_libraries(${target} PRIVATE ${present_arg_ROOMS} ${present_arg_LINKS})
     cmake_path(GET arg_FILE STEM stem)
