@@ -12,6 +12,7 @@ namespace orvex {
 namespace {
 
 constexpr int kMostJobs = 1024;
+constexpr int kMostThreads = 1024;
 
 void addManyOptions(CLI::App& app, ManyOptions& many, bool hasOutput) {
     const char* const group = "Several drawings";
@@ -45,6 +46,10 @@ CLI::App& addVerb(CLI::App& app, Verb& verb, VerbCall& call) {
         options->add_option("--output", call.output,
                             traits.output + std::string("; - is standard output"));
     }
+    options
+        ->add_option("--threads", call.many.threads,
+                     "How many processors may work on one drawing; all that --jobs leaves")
+        ->check(CLI::Range(1, kMostThreads));
     addManyOptions(*options, call.many, traits.output != nullptr);
     verb.addOptions(*options);
     return *options;

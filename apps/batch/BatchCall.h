@@ -17,6 +17,7 @@ struct ManyOptions {
     bool overwrite = false;               // outputs may exist
     int jobs = 1;                         // processes at once
     bool keepGoing = false;               // after a failure
+    std::optional<int> threads;           // that work on one drawing; else as many as are free
     std::optional<std::string> report;    // a file
 };
 

@@ -6,6 +6,7 @@
 #include "carryOutTask.h"
 #include "endingSignals.h"
 #include "planTasks.h"
+#include "workThreads.h"
 
 #include <cstdio>
 
@@ -40,6 +41,8 @@ std::optional<Failure> carryOut(const VerbCall& call, int& status) {
     if (auto failure = call.verb->prepare()) {
         return failure;
     }
+    // Jobs share the processors.
+    setWorkThreads(call.many.threads.value_or(workThreads() / call.many.jobs));
     if (!call.isOfMany) {
         return carryOutOne(*call.verb, tasks->front());
     }

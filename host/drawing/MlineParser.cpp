@@ -21,6 +21,8 @@ enum Field : std::uint32_t {
     kNormal = 1U << 10U, // three bits
 };
 
+constexpr const char* kNoNumber = "a value is no finite number";
+
 constexpr unsigned kPlaces = 9; // position, axis and miter have three coordinates each
 constexpr unsigned kLastNeeded = 7;
 
@@ -59,6 +61,7 @@ void MlineParser::begin() {
     vertices.clear();
     counts.clear();
     values.clear();
+    m_vertexCount = 0;
     m_stage = Stage::fields;
     m_inGroup = false;
     m_seen = 0;
@@ -88,7 +91,6 @@ MlineRole MlineParser::feed(const Tag& tag) {
 
 MlineRole MlineParser::feedField(const Tag& tag) {
     std::uint32_t bit = 0;
-    double unused = 0.0;
     switch (tag.code) {
     case 2:
         bit = kStyleName;
@@ -133,7 +135,7 @@ MlineRole MlineParser::feedField(const Tag& tag) {
     case 20:
     case 30:
         bit = kStart << static_cast<unsigned>(tag.code / 10 - 1);
-        readReal(tag, unused); // the first vertex counts
+        judgeReal(tag); // the first vertex counts
         break;
     case 210:
         bit = kNormal;
@@ -204,7 +206,10 @@ MlineRole MlineParser::feedCoordinate(const Tag& tag, unsigned place) {
         if (m_stage != Stage::fields && !vertexIsComplete()) {
             fail("a vertex is not complete");
         }
-        vertices.emplace_back();
+        if (m_keepsVertices) {
+            vertices.emplace_back();
+        }
+        ++m_vertexCount;
         m_stage = Stage::coordinates;
         m_nextPlace = 0;
         m_elementsLeft = elementCount;
@@ -219,7 +224,11 @@ MlineRole MlineParser::feedCoordinate(const Tag& tag, unsigned place) {
         }
     }
     m_nextPlace = place + 1;
-    readReal(tag, coordinate(vertices.back(), place));
+    if (m_keepsVertices) {
+        readReal(tag, coordinate(vertices.back(), place));
+    } else {
+        judgeReal(tag);
+    }
     return MlineRole::vertex;
 }
 
@@ -238,7 +247,9 @@ MlineRole MlineParser::feedCount(const Tag& tag, bool areas) {
     m_stage = areas ? Stage::areas : Stage::lines;
     m_elementsLeft -= areas ? 1 : 0;
     m_valuesLeft = static_cast<std::uint32_t>(count);
-    counts.push_back(m_valuesLeft);
+    if (m_keepsVertices) {
+        counts.push_back(m_valuesLeft);
+    }
     return areas ? MlineRole::areaCount : MlineRole::lineCount;
 }
 
@@ -248,7 +259,11 @@ MlineRole MlineParser::feedValue(const Tag& tag, bool areas) {
         return MlineRole::extra;
     }
     --m_valuesLeft;
-    readReal(tag, values.emplace_back());
+    if (m_keepsVertices) {
+        readReal(tag, values.emplace_back());
+    } else {
+        judgeReal(tag);
+    }
     return areas ? MlineRole::area : MlineRole::line;
 }
 
@@ -256,7 +271,13 @@ void MlineParser::readReal(const Tag& tag, double& value) {
     if (const auto number = parseReal(tag.value)) {
         value = *number;
     } else {
-        fail("a value is no finite number");
+        fail(kNoNumber);
+    }
+}
+
+void MlineParser::judgeReal(const Tag& tag) {
+    if (!isReal(tag.value)) {
+        fail(kNoNumber);
     }
 }
 
@@ -282,7 +303,7 @@ std::optional<Failure> MlineParser::finish() {
         fail("a count is missing");
     } else if (m_stage != Stage::fields && !vertexIsComplete()) {
         fail("its last vertex is not complete");
-    } else if (vertices.size() != static_cast<std::size_t>(vertexCount)) {
+    } else if (m_vertexCount != static_cast<std::size_t>(vertexCount)) {
         fail("the number of its vertices is not what it says");
     }
     if (m_error == nullptr) {

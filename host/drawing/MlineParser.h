@@ -28,6 +28,13 @@ enum class MlineRole : std::uint8_t {
 // kept when it is there. One parser serves any number of records and keeps its memory.
 class MlineParser {
 public:
+    enum class Keeps : std::uint8_t { everything, fieldsOnly };
+
+    // Where the fields are all that is wanted, vertices and lists are judged alike, but their
+    // numbers aren't worked out.
+    explicit MlineParser(Keeps keeps = Keeps::everything)
+        : m_keepsVertices(keeps == Keeps::everything) {}
+
     void begin();
     MlineRole feed(const Tag& tag); // every tag after the record's code 0
     // Fails where something doesn't fit together; the result is then of no use.
@@ -55,6 +62,7 @@ private:
     MlineRole feedCount(const Tag& tag, bool areas);
     MlineRole feedValue(const Tag& tag, bool areas);
     void readReal(const Tag& tag, double& value);
+    void judgeReal(const Tag& tag);
     void readCount(const Tag& tag, int& value);
     [[nodiscard]] bool vertexIsComplete() const;
     void fail(const char* reason) {
@@ -63,6 +71,8 @@ private:
         }
     }
 
+    bool m_keepsVertices;
+    std::size_t m_vertexCount = 0; // so far
     Stage m_stage = Stage::fields;
     bool m_inGroup = false;         // between the braces of code 102
     std::uint32_t m_seen = 0;       // fields that came, a bit each

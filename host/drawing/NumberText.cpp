@@ -1,5 +1,6 @@
 #include "NumberText.h"
 
+#include "PlainDecimal.h"
 #include "blanks.h"
 
 #include <array>
@@ -33,9 +34,7 @@ std::errc parseAll(std::string_view text, Number& value, Format... format) {
     return stop != end ? std::errc::invalid_argument : error;
 }
 
-} // namespace
-
-std::optional<double> parseReal(std::string_view text) {
+std::optional<double> parseAnyReal(std::string_view text) {
     text = withoutPlus(trimBlanks(text));
     double number = 0.0;
     const std::errc error = parseAll(text, number);
@@ -45,7 +44,17 @@ std::optional<double> parseReal(std::string_view text) {
     return error == std::errc() && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
+} // namespace
+
+std::optional<double> parseReal(std::string_view text) {
+    const PlainDecimal plain(text);
+    return plain.isExact() ? plain.value() : parseAnyReal(text);
+}
+
 std::optional<int> parseInteger(std::string_view text) {
+    if (const PlainDecimal plain(text); plain.isShortInteger()) {
+        return plain.integer();
+    }
     int number = 0;
     const bool isInteger = parseAll(withoutPlus(trimBlanks(text)), number, 10) == std::errc();
     return isInteger ? std::optional(number) : std::nullopt;

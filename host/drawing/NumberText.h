@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PlainDecimal.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +12,10 @@ namespace orvex {
 // matter; any other text is nothing.
 
 std::optional<double> parseReal(std::string_view text); // finite ones only; too small ones are 0
+// Whether parseReal reads it, in a fraction of the time.
+inline bool isReal(std::string_view text) {
+    return PlainDecimal(text).isFinite() || parseReal(text).has_value();
+}
 std::optional<int> parseInteger(std::string_view text); // that fits 32 bits
 
 // The shortest text that reads back as the same double, always with a point or an exponent. A

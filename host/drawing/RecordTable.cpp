@@ -1,12 +1,6 @@
 #include "RecordTable.h"
 
-#include "MlineParser.h"
-#include "NumberText.h"
-#include "blanks.h"
-#include "handleText.h"
-
 #include <algorithm>
-#include <limits>
 #include <unordered_map>
 
 namespace orvex {
@@ -18,129 +12,39 @@ std::uint32_t RecordTable::skipParts(std::uint32_t index) const {
     return index;
 }
 
-class RecordCutter {
-public:
-    RecordCutter(std::string_view bytes, std::size_t start, CutDrawing& result)
-        : m_size(bytes.size()), m_reader(bytes, start, bytes.size()), m_result(result) {}
-
-    std::optional<Failure> run(const Progress& progress);
-
-private:
-    [[nodiscard]] std::size_t line() const { return 2 * m_reader.tagCount() + 1; }
-    void startRecord(const Tag& tag);
-    void endRecord();
-    void take(const Tag& tag);
-    void noteStyle(Record& record);
-
-    std::size_t m_size;
-    TagReader m_reader;
-    CutDrawing& m_result;
-    MlineParser m_mline;
-    RecordKind m_kind = RecordKind::other; // of the record at hand
-    bool m_hasHandle = false;
-    std::size_t m_recordLine = 0;
-    std::unordered_map<std::uint64_t, std::uint32_t> m_places; // of named styles by handle
-    std::uint32_t m_lastPlace = 0; // of the style that the multiline before names
-};
-
-std::optional<Failure> RecordCutter::run(const Progress& progress) {
-    constexpr std::size_t kStep = std::size_t{4} << 20U; // bytes between two calls of `progress`
-    std::size_t nextCall = kStep;
-    Tag tag;
-    TagReader::Result read = TagReader::Result::end;
-    while ((read = m_reader.next(tag)) == TagReader::Result::tag) {
-        if (tag.code != 0) {
-            take(tag);
-            continue;
-        }
-        startRecord(tag);
-        if (m_kind == RecordKind::endOfFile) {
-            m_result.hasEnd = true;
-            break;
-        }
-        if (tag.begin >= nextCall) {
-            nextCall = tag.begin + kStep;
-            if (progress &&
-                !progress(static_cast<double>(tag.begin) / static_cast<double>(m_size))) {
-                return Failure{FailureCause::interrupted, {}, line(), "interrupted"};
-            }
-        }
+void CutDrawing::append(CutDrawing&& other) {
+    std::unordered_map<std::uint64_t, std::uint32_t> placeOf; // by handle, from 1
+    for (const NamedStyle& style : namedStyles) {
+        placeOf.emplace(style.handle, static_cast<std::uint32_t>(placeOf.size() + 1));
     }
-    endRecord();
-    const bool isDrawing = !m_result.records.m_records.empty();
-    m_result.records.m_records.push_back(
-        {m_reader.position(), 0, RecordKind::other, false, false, 0});
-    m_result.lineCount = 2 * m_reader.tagCount();
-    m_result.lineEnds = {m_result.lineCount, m_reader.carriageReturns()};
-    if (read != TagReader::Result::badCode && read != TagReader::Result::noValue) {
-        return std::nullopt;
-    }
-    // Whatever else the user took, a picture or a text.
-    std::string text = isDrawing ? "" : "this is no drawing: ";
-    text += read == TagReader::Result::badCode ? "a group code is no integer"
-                                               : "a group code has no value";
-    return Failure{FailureCause::unreadableInput, {}, line(), text};
-}
-
-void RecordCutter::startRecord(const Tag& tag) {
-    endRecord();
-    m_kind = recordKind(trimBlanks(tag.value));
-    m_hasHandle = m_kind == RecordKind::section; // the header's code 5 names no section
-    m_recordLine = line() - 2;
-    m_result.records.m_records.push_back({tag.begin, 0, m_kind, false, false, 0});
-    if (m_kind == RecordKind::mline) {
-        m_mline.begin();
-    }
-}
-
-void RecordCutter::take(const Tag& tag) {
-    if (m_kind == RecordKind::mline) {
-        m_mline.feed(tag);
-    }
-    const bool isHandle = m_kind == RecordKind::dimStyle ? tag.code == 105 : tag.code == 5;
-    if (isHandle && !m_hasHandle && !m_result.records.m_records.empty()) {
-        m_hasHandle = true;
-        Record& record = m_result.records.m_records.back();
-        record.handle = parseHandle(tag.value).value_or(record.handle);
-        m_result.highestHandle = std::max(m_result.highestHandle, record.handle);
-    } else if (tag.code == 67 && !m_result.records.m_records.empty()) {
-        m_result.records.m_records.back().inPaperSpace = trimBlanks(tag.value) == "1";
-    }
-}
-
-void RecordCutter::endRecord() {
-    if (m_kind != RecordKind::mline) {
-        return;
-    }
-    m_kind = RecordKind::other;
-    if (const auto failure = m_mline.finish()) {
-        m_result.records.m_records.back().opaque = true;
-        m_result.warnings.push_back(
-            {m_recordLine, "a multiline contradicts itself, " + failure->text});
-    } else if (m_mline.style == 0) {
-        m_result.warnings.push_back({m_recordLine, "a multiline names its style by name alone"});
-    } else {
-        noteStyle(m_result.records.m_records.back());
-    }
-}
-
-void RecordCutter::noteStyle(Record& record) {
-    std::vector<NamedStyle>& styles = m_result.namedStyles;
-    // Most multilines have the style of the one before.
-    if (m_lastPlace == 0 || styles[m_lastPlace - 1].handle != m_mline.style) {
-        const auto next = static_cast<std::uint32_t>(styles.size() + 1);
-        const auto [place, isNew] = m_places.try_emplace(m_mline.style, next);
+    std::vector<std::uint32_t> places{0}; // here of its named styles
+    for (const NamedStyle& style : other.namedStyles) {
+        const auto next = static_cast<std::uint32_t>(placeOf.size() + 1);
+        const auto [place, isNew] = placeOf.try_emplace(style.handle, next);
         if (isNew) {
-            styles.push_back({m_mline.style, m_recordLine});
+            namedStyles.push_back({style.handle, style.line + lineCount});
         }
-        m_lastPlace = place->second;
+        places.push_back(place->second);
     }
-    record.namedStyle = m_lastPlace;
+    for (DrawingWarning& warning : other.warnings) {
+        warning.line += lineCount;
+        warnings.push_back(std::move(warning));
+    }
+    records.append(other.records, places);
+    lineEnds.lineFeeds += other.lineEnds.lineFeeds;
+    lineEnds.carriageReturns += other.lineEnds.carriageReturns;
+    lineCount += other.lineCount;
+    highestHandle = std::max(highestHandle, other.highestHandle);
+    hasEnd = other.hasEnd;
 }
 
-std::optional<Failure> cutDrawing(std::string_view bytes, std::size_t start,
-                                  const Progress& progress, CutDrawing& result) {
-    return RecordCutter(bytes, start, result).run(progress);
+void RecordTable::append(const RecordTable& other, const std::vector<std::uint32_t>& stylePlaces) {
+    m_records.pop_back(); // the end, where the other begins
+    m_records.reserve(m_records.size() + other.m_records.size());
+    for (Record record : other.m_records) {
+        record.namedStyle = stylePlaces[record.namedStyle];
+        m_records.push_back(record);
+    }
 }
 
 } // namespace orvex

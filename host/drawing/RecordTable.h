@@ -56,6 +56,9 @@ public:
 
 private:
     friend class RecordCutter;
+    friend struct CutDrawing;
+    void append(const RecordTable& other, const std::vector<std::uint32_t>& stylePlaces);
+
     std::vector<Record> m_records; // and one after the last for the end
 };
 
@@ -68,6 +71,9 @@ struct CutDrawing {
     std::vector<NamedStyle> namedStyles; // each once, in the order of the file
     std::vector<DrawingWarning> warnings;
     bool hasEnd = false; // an EOF record
+
+    // Takes what follows in the file, with lines counted from there.
+    void append(CutDrawing&& other);
 };
 
 // Cuts `bytes` from `start` on into records and checks the multilines on the way. Stops at EOF.

@@ -1,8 +1,13 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstring>
 #include <string_view>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace orvex {
 
@@ -38,8 +43,7 @@ public:
         if (value == to) {
             return Result::noValue;
         }
-        const auto* lineFeed = static_cast<const char*>(
-            std::memchr(value, '\n', static_cast<std::size_t>(to - value)));
+        const char* const lineFeed = findLineFeed(value, to);
         const char* valueEnd = lineFeed != nullptr ? lineFeed : to;
         const char* const next = lineFeed != nullptr ? lineFeed + 1 : to;
         if (valueEnd != value && valueEnd[-1] == '\r') {
@@ -61,8 +65,50 @@ public:
     [[nodiscard]] std::size_t carriageReturns() const { return m_carriageReturns; }
 
 private:
+    // Null when there is none.
+    static const char* findLineFeed(const char* at, const char* end) {
+#ifdef __SSE2__
+        // Most lines are shorter than a call of memchr is long.
+        constexpr std::ptrdiff_t kAtOnce = 16;
+        if (end - at >= kAtOnce) {
+            const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+            const int found = _mm_movemask_epi8(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('\n')));
+            if (found != 0) {
+                return at + std::countr_zero(static_cast<unsigned>(found));
+            }
+            at += kAtOnce;
+        }
+#endif
+        return static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)));
+    }
+
+    // The usual form: three characters, blanks before digits, and a line feed. Null for any other.
+    static const char* readUsualCode(const char* at, const char* end, int& code) {
+        constexpr std::ptrdiff_t kLine = 4;
+        if (end - at < kLine || at[3] != '\n') {
+            return nullptr;
+        }
+        const auto digit = [at](int place) { return static_cast<unsigned>(at[place] - '0'); };
+        const bool hasTens = at[1] != ' ';
+        const bool hasHundreds = at[0] != ' ';
+        const unsigned tens = hasTens ? digit(1) : 0;
+        const unsigned hundreds = hasHundreds ? digit(0) : 0;
+        if (digit(2) > 9 || tens > 9 || hundreds > 9 || (hasHundreds && !hasTens)) {
+            return nullptr;
+        }
+        code = static_cast<int>(hundreds * 100 + tens * 10 + digit(2));
+        return at + kLine;
+    }
+
     // Returns where the next line starts; null when the line holds no integer.
     const char* readCode(const char* at, const char* end, int& code) {
+        if (const char* const next = readUsualCode(at, end, code)) {
+            return next;
+        }
+        return readAnyCode(at, end, code);
+    }
+
+    const char* readAnyCode(const char* at, const char* end, int& code) {
         constexpr int kCeiling = 100000000; // codes beyond mean nothing to anybody
         while (at != end && (*at == ' ' || *at == '\t')) {
             ++at;

@@ -3,13 +3,42 @@
 #include "DrawingText.h"
 #include "NumberText.h"
 
+#include <bit>
+#include <charconv>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
+#include <random>
 
 namespace {
 
 using namespace orvex;
+
+// By the standard library, which knows no shortcut.
+TEST(NumberText, readsDecimalsToTheBit) {
+    std::mt19937 numbers(5);
+    const auto below = [&numbers](unsigned end) { return static_cast<unsigned>(numbers() % end); };
+    for (int i = 0; i < 20'000; ++i) {
+        std::string text = below(2) == 0 ? "-" : "";
+        for (unsigned left = below(19); left > 0; --left) {
+            text += static_cast<char>('0' + below(10));
+        }
+        if (const unsigned place = below(20); place < text.size()) {
+            text.insert(place, ".");
+        }
+        double expected = 0.0;
+        const char* const end = text.data() + text.size();
+        const auto [stop, error] = std::from_chars(text.data(), end, expected);
+        const bool isNumber = stop == end && error == std::errc();
+        EXPECT_EQ(isReal(text), isNumber) << text;
+        const auto value = parseReal(text);
+        ASSERT_EQ(value.has_value(), isNumber) << text;
+        if (value) {
+            EXPECT_EQ(std::bit_cast<std::uint64_t>(*value), std::bit_cast<std::uint64_t>(expected))
+                << text;
+        }
+    }
+}
 
 TEST(NumberText, readsWhatProgramsWriteAndNothingElse) {
     const struct {
@@ -37,7 +66,13 @@ TEST(NumberText, readsWhatProgramsWriteAndNothingElse) {
                                    "1e-400x", "0x10", "+-1", "1d5", "--1"}) {
         EXPECT_FALSE(parseReal(text)) << text;
     }
+    for (const auto& [digits, isFinite] : {std::pair{300, true}, {308, true}, {309, false}}) {
+        EXPECT_EQ(isReal(std::string(digits, '9')), isFinite) << digits;
+        EXPECT_EQ(parseReal(std::string(digits, '9')).has_value(), isFinite) << digits;
+    }
     EXPECT_EQ(parseInteger("     3"), 3);
+    EXPECT_EQ(parseInteger("-123456789"), -123456789);
+    EXPECT_EQ(parseInteger("-2147483648"), std::numeric_limits<int>::min());
     for (const char* const text : {"", "3.0", "2147483648", "F"}) {
         EXPECT_FALSE(parseInteger(text)) << text;
     }
