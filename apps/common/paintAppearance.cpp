@@ -1,5 +1,6 @@
 #include "paintAppearance.h"
 
+#include "LineQueue.h"
 #include "clipChain.h"
 #include "dashCycle.h"
 #include "geometry.h"
@@ -42,14 +43,16 @@ std::vector<PlanPoint> toPixels(const std::vector<PlanPoint>& points, const Plan
 
 class Painting {
 public:
-    Painting(QPainter& painter, const PlanView& view, const PaintSettings& settings)
-        : m_painter(painter), m_view(view), m_settings(settings) {
+    Painting(QPainter& painter, const PlanView& view, const PaintSettings& settings,
+             LineQueue* lines)
+        : m_painter(painter), m_view(view), m_settings(settings), m_lines(lines) {
         // Somewhat more than what is seen, so that no line's end shows at the edge.
         const double margin = 16.0 + 2.0 * settings.lineWidth;
         m_frame = {{-margin, -margin}, {view.width() + margin, view.height() + margin}};
     }
 
     void fill(const Fill& fill) {
+        settleLines();
         QPainterPath path;
         // Bounded to what painters can count with; far outside nobody sees the difference.
         constexpr double kFar = 1e6;
@@ -65,6 +68,10 @@ public:
 
     void stroke(const Stroke& stroke, const Appearance& appearance) {
         const double width = paintedWidth(stroke, m_settings);
+        if (isTaken(stroke, width)) {
+            return;
+        }
+        settleLines();
         QPen pen(color(stroke.rgb), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
         DashCycle cycle;
         if (stroke.dashes > 0 && stroke.dashes <= appearance.dashPatterns.size()) {
@@ -103,6 +110,7 @@ public:
         const QString text = QString::fromStdWString(label.text);
         const double width = QFontMetricsF(font).horizontalAdvance(text);
         const double scale = height / kCapitalOfFontSize / kFontPixels;
+        settleLines();
         m_painter.save();
         m_painter.translate(anchor.x, anchor.y);
         m_painter.rotate(toDegrees(-label.angle));
@@ -121,6 +129,21 @@ private:
     [[nodiscard]] QColor color(std::uint32_t rgb) const {
         return QColor::fromRgb(paintedRgb(rgb, m_settings));
     }
+    [[nodiscard]] bool isTaken(const Stroke& stroke, double width) const {
+        if (m_lines == nullptr || stroke.points.size() != 2 || stroke.dashes != 0) {
+            return false;
+        }
+        const PlanPoint from = m_view.toPixels(stroke.points[0]);
+        const PlanPoint to = m_view.toPixels(stroke.points[1]);
+        return m_lines->take({from.x, from.y}, {to.x, to.y}, width,
+                             paintedRgb(stroke.rgb, m_settings));
+    }
+    // Before the painter paints, so that what comes later lies over what came before.
+    void settleLines() {
+        if (m_lines != nullptr) {
+            m_lines->settle();
+        }
+    }
     [[nodiscard]] static QVector<qreal> inPenWidths(const DashCycle& cycle, double width) {
         QVector<qreal> pattern;
         for (const double length : cycle.lengths) {
@@ -132,6 +155,7 @@ private:
     QPainter& m_painter;
     const PlanView& m_view;
     const PaintSettings& m_settings;
+    LineQueue* m_lines;
     PlanBox m_frame; // pixels
 };
 
@@ -155,8 +179,8 @@ std::uint32_t paintedRgb(std::uint32_t rgb, const PaintSettings& settings) {
 }
 
 void paintAppearance(QPainter& painter, const Appearance& appearance, const PlanView& view,
-                     const PaintSettings& settings, PaintParts parts) {
-    Painting painting(painter, view, settings);
+                     const PaintSettings& settings, PaintParts parts, LineQueue* lines) {
+    Painting painting(painter, view, settings, lines);
     if (parts != PaintParts::linesAndLabels) {
         for (const Fill& fill : appearance.fills) {
             painting.fill(fill);

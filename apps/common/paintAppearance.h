@@ -10,6 +10,8 @@ class QPainter;
 
 namespace orvex {
 
+class LineQueue;
+
 struct PaintSettings {
     double lineWidth = 1.0;           // pixels
     double pixelsPerMillimetre = 0.0; // of line weights; 0: all lines have the one width
@@ -27,8 +29,10 @@ double paintedWidth(const Stroke& stroke, const PaintSettings& settings);
 std::uint32_t paintedRgb(std::uint32_t rgb, const PaintSettings& settings);
 
 // Paints what an entity looks like. The painter's coordinates are the view's pixels; its pen,
-// brush and font are changed.
+// brush and font are changed. Where there are `lines` for the same picture, they take what they
+// can; the painter has to be antialiasing and unclipped then, and they have to settle at the end.
 void paintAppearance(QPainter& painter, const Appearance& appearance, const PlanView& view,
-                     const PaintSettings& settings, PaintParts parts = PaintParts::all);
+                     const PaintSettings& settings, PaintParts parts = PaintParts::all,
+                     LineQueue* lines = nullptr);
 
 } // namespace orvex

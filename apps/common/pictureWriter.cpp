@@ -2,6 +2,7 @@
 
 #include "AtomicFile.h"
 #include "KdDbStub.h"
+#include "LineQueue.h"
 #include "PlanView.h"
 #include "Scene.h"
 #include "SvgPicture.h"
@@ -9,6 +10,7 @@
 #include "mlineNumbers.h"
 #include "paintAppearance.h"
 #include "textCodec.h"
+#include "workThreads.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -52,6 +54,7 @@ struct Draft {
     void
     visitMarks(const std::function<void(const Appearance&, const PaintSettings&)>& visit) const;
     void visitEntities(const std::function<void(KdDbStub&, const Appearance&)>& visit) const;
+    void visitFilled(const std::function<void(KdDbStub&, const Appearance&)>& visit) const;
 };
 
 Failure unwritable(std::string text) {
@@ -82,6 +85,11 @@ void Draft::visitEntities(const std::function<void(KdDbStub&, const Appearance&)
     const PlanPoint low = view.toPlan({0.0, static_cast<double>(view.height())});
     const PlanPoint high = view.toPlan({static_cast<double>(view.width()), 0.0});
     scene.visit({low, high}, visit);
+}
+
+void Draft::visitFilled(const std::function<void(KdDbStub&, const Appearance&)>& visit) const {
+    // What a window shows was made for it once, and is kept.
+    options.window ? visitEntities(visit) : scene.visitFilled(visit);
 }
 
 void Draft::visitMarks(
@@ -121,16 +129,20 @@ bool haveGuiApplication() {
     return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
 }
 
-// All fills first, so that none hides a line.
-void paintDraft(QPainter& painter, const Draft& draft) {
+// All fills first, so that none hides a line. Most drawings have few, so they are looked for among
+// those that may have some.
+void paintDraft(QPainter& painter, const Draft& draft, LineQueue* lines = nullptr) {
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const PaintParts parts : {PaintParts::fills, PaintParts::linesAndLabels}) {
-        draft.visitEntities([&](KdDbStub&, const Appearance& appearance) {
-            paintAppearance(painter, appearance, draft.view, draft.settings, parts);
-        });
-    }
+    draft.visitFilled([&](KdDbStub&, const Appearance& appearance) {
+        paintAppearance(painter, appearance, draft.view, draft.settings, PaintParts::fills);
+    });
+    draft.visitEntities([&](KdDbStub&, const Appearance& appearance) {
+        paintAppearance(painter, appearance, draft.view, draft.settings, PaintParts::linesAndLabels,
+                        lines);
+    });
     draft.visitMarks([&](const Appearance& appearance, const PaintSettings& settings) {
-        paintAppearance(painter, appearance, draft.view, settings, PaintParts::linesAndLabels);
+        paintAppearance(painter, appearance, draft.view, settings, PaintParts::linesAndLabels,
+                        lines);
     });
 }
 
@@ -168,8 +180,10 @@ Result<QByteArray> pngPicture(const Draft& draft) {
     const bool isDark = draft.options.ground == PictureGround::dark;
     image.fill(isTransparent ? QColor(Qt::transparent)
                              : QColor::fromRgb(isDark ? kDarkGround : 0xFFFFFFU));
+    LineQueue lines(image, workThreads());
     QPainter painter(&image);
-    paintDraft(painter, draft);
+    paintDraft(painter, draft, &lines);
+    lines.settle();
     painter.end();
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);

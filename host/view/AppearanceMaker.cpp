@@ -57,10 +57,10 @@ Appearance AppearanceMaker::appearance(const KdDbEntity& entity) {
     return appearance;
 }
 
-PlanBox AppearanceMaker::box(const KdDbStub& entity) {
+AppearanceMaker::Extent AppearanceMaker::extent(const KdDbStub& entity) {
     BoxSink sink;
     draw(entity, sink);
-    return sink.box();
+    return {sink.box(), sink.hasFill()};
 }
 
 bool AppearanceMaker::isShared(const KdDbStub& changed) const {

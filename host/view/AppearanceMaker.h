@@ -25,7 +25,11 @@ public:
     // nothing then.
     [[nodiscard]] Appearance appearance(const KdDbEntity& entity);
     // The box alone, for far less; empty for an entity that isn't seen.
-    [[nodiscard]] PlanBox box(const KdDbStub& entity);
+    struct Extent {
+        PlanBox box;
+        bool hasFill = false;
+    };
+    [[nodiscard]] Extent extent(const KdDbStub& entity);
 
     // Before many appearances or boxes are made: what their inserts may cost together begins anew.
     void startWalk() {

@@ -109,6 +109,7 @@ void BoxSink::takeStroke(std::span<const PlanPoint> points, StrokeRole, const Pe
 }
 
 void BoxSink::takeFill(std::span<const PlanPoint> outline, std::uint32_t) {
+    m_hasFill = true;
     for (const PlanPoint& point : outline) {
         m_box.include(point);
     }

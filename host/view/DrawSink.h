@@ -73,6 +73,7 @@ private:
 class BoxSink final : public DrawSink {
 public:
     [[nodiscard]] const PlanBox& box() const { return m_box; }
+    [[nodiscard]] bool hasFill() const { return m_hasFill; }
     [[nodiscard]] bool wantsPens() const override { return false; }
 
 private:
@@ -82,6 +83,7 @@ private:
     void takeLabel(const Label& label) override;
 
     PlanBox m_box;
+    bool m_hasFill = false;
 };
 
 } // namespace orvex

@@ -49,6 +49,7 @@ struct Scene::State {
     std::vector<std::uint32_t> indexOf;    // by a stub's ordinal
     std::size_t indexedCount = 0;          // entities of model space that have their index
     CompactAppearances compactAppearances; // by index
+    std::vector<bool> hasFill;             // by index, as of when the box was made
     Difference difference;
     std::unordered_set<const KdDbStub*> hidden;
     std::vector<KdDbStub*> shownOrHidden; // since the last settlement
@@ -60,11 +61,11 @@ struct Scene::State {
     [[nodiscard]] bool isSeen(const KdDbStub& entity, const Appearance& appearance) const {
         return appearance.seen && !hidden.contains(&entity);
     }
-    PlanBox boxOf(const KdDbStub& entity) {
-        return hidden.contains(&entity) ? PlanBox{} : maker.box(entity);
-    }
+    PlanBox boxOf(std::size_t index);
 
     const Appearance& appearance(const KdDbStub& entity);
+    void visitUnkept(KdDbStub& entity,
+                     const std::function<void(KdDbStub&, const Appearance&)>& visitor);
     std::vector<KdDbStub*> takeChanges();
     void settle();
     void rebuild();
@@ -82,6 +83,17 @@ const Appearance& Scene::State::appearance(const KdDbStub& entity) {
         return *known;
     }
     return cache.keep(entity, maker.appearance(entity));
+}
+
+// Appearances that are made for one walk alone aren't kept: the next one needs all of them again.
+void Scene::State::visitUnkept(KdDbStub& entity,
+                               const std::function<void(KdDbStub&, const Appearance&)>& visitor) {
+    const Appearance* const known = cache.find(entity);
+    const Appearance made = known != nullptr ? Appearance{} : maker.appearance(entity);
+    const Appearance& appearance = known != nullptr ? *known : made;
+    if (isSeen(entity, appearance)) {
+        visitor(entity, appearance);
+    }
 }
 
 std::vector<KdDbStub*> Scene::State::takeChanges() {
@@ -145,8 +157,16 @@ void Scene::State::noteDifference(const PlanBox& area) {
     }
 }
 
+PlanBox Scene::State::boxOf(std::size_t index) {
+    const KdDbStub& entity = *entities()[index];
+    const auto extent = hidden.contains(&entity) ? AppearanceMaker::Extent{} : maker.extent(entity);
+    hasFill.resize(std::max(hasFill.size(), index + 1));
+    hasFill[index] = extent.hasFill;
+    return extent.box;
+}
+
 void Scene::State::updateBox(std::uint32_t index) {
-    const PlanBox box = boxOf(*entities()[index]);
+    const PlanBox box = boxOf(index);
     noteDifference(pickIndex.box(index));
     noteDifference(box);
     pickIndex.set(index, box);
@@ -175,7 +195,7 @@ bool Scene::State::buildIndex(Deadline deadline) {
         const KdDbStub& entity = *entities()[index];
         indexOf[entity.ordinal] = static_cast<std::uint32_t>(index);
         indexedCount = index + 1;
-        return boxOf(entity);
+        return boxOf(index);
     };
     if (!build.advance(entities().size(), boxAt, deadline)) {
         return false;
@@ -230,14 +250,20 @@ void Scene::visitNearest(const PlanBox& area, PlanPoint place, std::size_t most,
 void Scene::visitAll(const std::function<void(KdDbStub&, const Appearance&)>& visitor) {
     m_state->settle();
     for (KdDbStub* entity : m_state->entities()) {
-        // Appearances that are made for this walk alone aren't kept: the next one needs all of
-        // them again.
-        const Appearance* known = m_state->cache.find(*entity);
-        const Appearance made =
-            known != nullptr ? Appearance{} : m_state->maker.appearance(*entity);
-        const Appearance& appearance = known != nullptr ? *known : made;
-        if (m_state->isSeen(*entity, appearance)) {
-            visitor(*entity, appearance);
+        m_state->visitUnkept(*entity, visitor);
+    }
+}
+
+void Scene::visitFilled(const std::function<void(KdDbStub&, const Appearance&)>& visitor) {
+    m_state->prepare();
+    if (!m_state->maker.partlyDrawn().empty()) {
+        visitAll(visitor); // how much is left out depends on all that is drawn before
+        return;
+    }
+    const auto& all = m_state->entities();
+    for (std::size_t index = 0; index < all.size(); ++index) {
+        if (m_state->hasFill[index]) {
+            m_state->visitUnkept(*all[index], visitor);
         }
     }
 }
