@@ -3,10 +3,10 @@
 #include "BlockList.h"
 #include "DatabaseCore.h"
 #include "DictionaryContent.h"
+#include "EntityReader.h"
 #include "KdDbDatabase.h"
 #include "KdDbDictionary.h"
 #include "KdDbLinetypeTable.h"
-#include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
 #include "ObjectTable.h"
@@ -81,17 +81,18 @@ void forEachMline(KdDbDatabase& database, const std::function<void(const ListedM
         if (stub.kind != ObjectKind::mline || stub.erased) {
             continue;
         }
-        const Opened<KdDbMline> mline(KdDbObjectId(&stub), kForRead);
-        if (!mline) {
+        // Read for this moment only: a list doesn't need all of the drawing in memory.
+        const auto reading = readEntity(stub);
+        if (!reading) {
             continue;
         }
-        const std::shared_ptr<const ObjectContent> held = mline->content();
-        const auto& content = static_cast<const MlineContent&>(*held);
+        const MlineContent& content =
+            *std::get<std::shared_ptr<const MlineContent>>(reading->geometry);
         const BlockEntities* const block = core.blocks().blockOf(stub);
         ListedMline listed;
         listed.handle = handleText(stub.handle);
         listed.block = block != nullptr ? listedText(block->name) : std::string();
-        listed.layer = listedText(mline->layer());
+        listed.layer = listedText(reading->traits().layer);
         listed.style = styleName(content);
         listed.flags = content.flags();
         listed.content = &content;

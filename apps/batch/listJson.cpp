@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <span>
@@ -48,10 +49,18 @@ public:
             m_text += "null";
             return;
         }
-        std::array<char, 64> digits{};
-        const char* const end =
-            nlohmann::detail::to_chars(digits.data(), digits.data() + digits.size(), number);
-        m_text.append(static_cast<const char*>(digits.data()), end);
+        std::array<char, 64> digits; // NOLINT(cppcoreguidelines-pro-type-member-init): written next
+        char* const last = digits.data() + digits.size();
+        // Most are whole, and those have but one shortest form.
+        constexpr double kWhole = 1e15;
+        if (std::abs(number) < kWhole && number == std::trunc(number)) {
+            m_text += std::signbit(number) ? "-" : "";
+            const auto whole = static_cast<std::int64_t>(std::abs(number));
+            m_text.append(digits.data(), std::to_chars(digits.data(), last, whole).ptr);
+            m_text += ".0";
+            return;
+        }
+        m_text.append(digits.data(), nlohmann::detail::to_chars(digits.data(), last, number));
     }
     void value(int number) {
         separate();
