@@ -21,6 +21,7 @@ ROUNDS = 5
 class Sample:
     seconds: float
     peak_bytes: int
+    cpu_seconds: float = 0.0
 
 
 def run(command):
@@ -33,7 +34,7 @@ def run(command):
     process.returncode = os.waitstatus_to_exitcode(status)
     if process.returncode != 0:
         sys.exit(f"{' '.join(map(str, command))}: status {process.returncode}\n{complaints.decode(errors='replace')}")
-    return Sample(seconds, usage.ru_maxrss * 1024)
+    return Sample(seconds, usage.ru_maxrss * 1024, usage.ru_utime + usage.ru_stime)
 
 
 def interleaved(commands, rounds=ROUNDS):
@@ -51,6 +52,7 @@ def median(samples):
     return Sample(
         statistics.median(sample.seconds for sample in samples),
         int(statistics.median(sample.peak_bytes for sample in samples)),
+        statistics.median(sample.cpu_seconds for sample in samples),
     )
 
 
