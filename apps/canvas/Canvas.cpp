@@ -231,6 +231,33 @@ bool Canvas::isSettled() const {
     return !m_state->work.isActive();
 }
 
+bool Canvas::event(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::Enter:
+    case QEvent::WindowActivate:
+    case QEvent::Move:
+    case QEvent::Resize:
+        QMetaObject::invokeMethod(this, &Canvas::followMouse, Qt::QueuedConnection);
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(event);
+}
+
+// The mouse may lie elsewhere on the canvas without having moved: a menu or a dialog was closed, a
+// panel was opened.
+void Canvas::followMouse() {
+    const QPoint at = mapFromGlobal(QCursor::pos());
+    const bool isHere = isActiveWindow() && QApplication::activePopupWidget() == nullptr &&
+                        QApplication::widgetAt(QCursor::pos()) == this;
+    if (isHere && !m_state->isCrossOn && m_state->cursor != at) {
+        QMouseEvent move(QEvent::MouseMove, at, Qt::NoButton, QGuiApplication::mouseButtons(),
+                         QGuiApplication::keyboardModifiers());
+        mouseMoveEvent(&move);
+    }
+}
+
 void Canvas::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     // What marks are painted on, for their colours.

@@ -114,6 +114,7 @@ signals:
     void settled();
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -129,6 +130,8 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    void followMouse();
+
     struct State;
     std::unique_ptr<State> m_state;
 };

@@ -1,5 +1,7 @@
 #include "CanvasGrips.h"
 
+#include "canvasMarks.h"
+
 #include <QColor>
 #include <QPainter>
 #include <QPen>
@@ -78,8 +80,9 @@ void CanvasGrips::paint(QPainter& painter, const PlanView& view,
     for (const std::size_t index : m_shown) {
         const QPointF middle = pixelOf(view, m_places[index]);
         const bool isHovered = hovered == index;
-        painter.setPen(QPen(isHovered ? kUnderCursorColor : kGripColor, 1.5));
-        painter.setBrush(isHovered ? QBrush(kUnderCursorColor) : QBrush(QColor(0x1E, 0x21, 0x27)));
+        const QColor color = onGround(painter, isHovered ? kUnderCursorColor : kGripColor);
+        painter.setPen(QPen(color, 1.5));
+        painter.setBrush(isHovered ? color : painter.background().color());
         painter.drawRect(
             QRectF(middle - QPointF(kHalfSize, kHalfSize), middle + QPointF(kHalfSize, kHalfSize)));
     }

@@ -142,6 +142,10 @@ void Canvas::State::showView() {
     shown = viewState;
     guided.reset();
     isGuideStale = aim.guide != nullptr;
+    if (cursor && !isGuideStale) { // it points elsewhere now
+        const PlanPoint at = planAtCursor();
+        emit canvas.cursorMoved(at.x, at.y);
+    }
     picture.setView(view(), canvas.devicePixelRatioF());
     canvas.update();
     startWork();

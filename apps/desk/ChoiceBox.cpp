@@ -1,5 +1,6 @@
 #include "ChoiceBox.h"
 
+#include <QKeyEvent>
 #include <QStandardItemModel>
 #include <QWheelEvent>
 
@@ -16,7 +17,7 @@ QString shortened(const QString& text) {
 } // namespace
 
 ChoiceBox::ChoiceBox(QWidget* parent) : QComboBox(parent) {
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus); // a click leaves it where one types
     setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(this, qOverload<int>(&QComboBox::activated), this, [this](int index) {
         const QString value = itemData(index).toString();
@@ -53,6 +54,25 @@ void ChoiceBox::hidePopup() {
     // Also after a popup that was closed without a choice; one that was made is told later.
     QMetaObject::invokeMethod(
         this, [this] { showCurrent(m_current); }, Qt::QueuedConnection);
+}
+
+// The list opens by keys as by a click; what else is typed goes to the window.
+void ChoiceBox::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_F4:
+        showPopup();
+        break;
+    case Qt::Key_Escape:
+        emit left();
+        break;
+    default:
+        event->ignore();
+    }
 }
 
 void ChoiceBox::wheelEvent(QWheelEvent* event) {

@@ -8,7 +8,7 @@
 namespace orvex {
 
 // A box of a tool bar that shows what holds now, and asks for the choices only when it is opened.
-// It never has the focus: one goes on typing into the command line. The wheel does nothing, since a
+// A click leaves the focus where one types; keys come to it by Tab. The wheel does nothing, since a
 // value is changed by it too easily.
 class ChoiceBox final : public QComboBox {
     Q_OBJECT
@@ -35,8 +35,10 @@ public:
 signals:
     // Nothing has changed yet; the box goes on showing what holds.
     void chosen(const QString& value);
+    void left(); // by Escape
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:

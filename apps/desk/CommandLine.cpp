@@ -28,6 +28,11 @@ bool isModifier(int key) {
            key == Qt::Key_AltGr || key == Qt::Key_Meta || key == Qt::Key_CapsLock;
 }
 
+bool scrolls(const QEvent& press) {
+    const int key = static_cast<const QKeyEvent&>(press).key();
+    return key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
+
 QPlainTextEdit* makeHistory(QWidget* parent) {
     auto* const history = new QPlainTextEdit(parent);
     history->setObjectName(QStringLiteral("commandHistory"));
@@ -69,6 +74,7 @@ CommandLine::CommandLine(QWidget* parent)
     rows->addWidget(field);
 
     setFocusProxy(m_input);
+    m_input->installEventFilter(this);
     m_history->installEventFilter(this);
     m_history->viewport()->installEventFilter(this);
     connect(m_keywords, &KeywordBar::chosen, this, &CommandLine::entered);
@@ -168,11 +174,14 @@ void CommandLine::takeKey(const QKeyEvent& event) {
 }
 
 bool CommandLine::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_input && event->type() == QEvent::KeyPress && scrolls(*event)) {
+        QCoreApplication::sendEvent(m_history, event);
+        return true;
+    }
     if (watched == m_history && event->type() == QEvent::KeyPress) {
         const auto& key = *static_cast<QKeyEvent*>(event);
         const bool isPlain = (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
-        const bool scrolls = key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown;
-        if ((isPlain || typesText(key)) && !scrolls) {
+        if ((isPlain || typesText(key)) && !scrolls(key)) {
             takeKey(key);
             return true;
         }

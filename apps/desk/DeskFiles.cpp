@@ -1,6 +1,6 @@
 #include "DeskFiles.h"
 
-#include "hostText.h"
+#include "fileKind.h"
 #include "pictureWriter.h"
 
 #include <QApplication>
@@ -51,6 +51,15 @@ void DeskFiles::askAndOpen() {
 }
 
 void DeskFiles::open(const QString& path) {
+    emit openingEnded(openFile(path));
+}
+
+bool DeskFiles::openFile(const QString& path) {
+    if (const QString kind = otherThanFile(path); !kind.isEmpty()) {
+        emit missing(path);
+        report(tr("The drawing can't be opened."), tr("%1 is %2 and no file.").arg(path, kind));
+        return false;
+    }
     auto opened = m_opener.open(path);
     if (!opened) {
         if (opened.failure().cause == FailureCause::interrupted) {
@@ -60,20 +69,22 @@ void DeskFiles::open(const QString& path) {
             report(tr("The drawing can't be opened."),
                    QString::fromStdString(messageOf(opened.failure())));
         }
-        return;
+        return false;
     }
     std::unique_ptr<DrawingFile> file = std::move(*opened);
     m_settings.setText(DeskSettings::kDrawingFolder, QFileInfo(path).absolutePath());
     emit printed(tr("Opened %1").arg(path));
-    reportWarnings(*file, path);
+    reportWarnings(file->warnings(), path);
     m_take(std::move(file), path);
     emit used(path);
+    return true;
 }
 
-void DeskFiles::reportWarnings(const DrawingFile& file, const QString& path) {
-    for (const DrawingWarning& warning : file.warnings()) {
-        emit printed(QString::fromStdString(locatedText(path.toStdString(), warning.line,
-                                                        hostText("warning: %1", {warning.text}))));
+void DeskFiles::reportWarnings(const std::vector<DrawingWarning>& warnings, const QString& path) {
+    for (const DrawingWarning& warning : warnings) {
+        emit printed(tr("Warning: %1")
+                         .arg(QString::fromStdString(
+                             locatedText(path.toStdString(), warning.line, warning.text))));
     }
 }
 
@@ -138,6 +149,7 @@ bool DeskFiles::saveInto(const QString& path) {
         return false;
     }
     emit printed(tr("Saved into %1").arg(path));
+    reportWarnings(m_drawing.session()->drawing().savingWarnings(), path);
     emit used(path);
     emit saved();
     return true;

@@ -48,12 +48,15 @@ signals:
     void missing(const QString& path); // can't be opened
     void printed(const QString& line);
     void saved();
+    // A drawing was opened, or wasn't.
+    void openingEnded(bool isOpen);
 
 private:
     bool saveInto(const QString& path);
     bool mayOverwrite();
     bool mayReplace(const QString& path);
-    void reportWarnings(const DrawingFile& file, const QString& path);
+    bool openFile(const QString& path);
+    void reportWarnings(const std::vector<DrawingWarning>& warnings, const QString& path);
     void report(const QString& what, const QString& why);
 
     QWidget& m_window;

@@ -29,7 +29,7 @@ public:
     static constexpr const wchar_t* kDirection = L"Direction";       // ORTHO, POLAR or ANY
     static constexpr const wchar_t* kPictureFolder = L"PictureFolder";
     static constexpr const wchar_t* kUndoMemory = L"UndoMemory"; // MiB
-    static constexpr const wchar_t* kLanguage = L"Language"; // "de"; empty for the system's
+    static constexpr const wchar_t* kLanguage = L"Language";     // "de"; empty for the system's
     static constexpr const wchar_t* kScriptFolder = L"ScriptFolder";
 };
 

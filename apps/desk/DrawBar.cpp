@@ -95,8 +95,8 @@ DrawBar::DrawBar(QMainWindow& window, CommandRunner& runner, DeskPrompts& prompt
     m_bar->addWidget(m_layer);
     m_bar->addWidget(new QLabel(tr(" Scale "), m_bar));
     m_scale->setMaximumWidth(m_scale->fontMetrics().averageCharWidth() * (kScaleCharacters + 2));
-    m_scale->setFocusPolicy(Qt::ClickFocus);
     markNumberField(*m_scale);
+    m_scale->setFocusPolicy(Qt::StrongFocus);
     m_scale->installEventFilter(this);
     m_bar->addWidget(m_scale);
     m_bar->addWidget(m_justification);
@@ -143,6 +143,10 @@ void DrawBar::fillBoxes() {
 }
 
 void DrawBar::connectBoxes() {
+    for (ChoiceBox* const box : {m_style, m_layer, m_justification}) {
+        connect(box, &ChoiceBox::chosen, this, &DrawBar::left);
+        connect(box, &ChoiceBox::left, this, &DrawBar::left);
+    }
     connect(m_style, &ChoiceBox::chosen, this, [this](const QString& name) {
         choose({"ST", "CMLSTYLE"}, name, name);
     });

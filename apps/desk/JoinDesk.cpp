@@ -5,6 +5,7 @@
 #include "DeskPrompts.h"
 #include "JoinPanel.h"
 #include "Session.h"
+#include "panelScroll.h"
 
 #include <QDockWidget>
 #include <QMainWindow>
@@ -23,7 +24,7 @@ JoinDesk::JoinDesk(QMainWindow& window, Canvas& canvas, CommandRunner& runner, D
     : QObject(&window), m_canvas(canvas), m_prompts(prompts), m_panel(new JoinPanel(&window)) {
     auto* const dock = new QDockWidget(tr("Join plan"), &window);
     dock->setObjectName(QStringLiteral("joinDock"));
-    dock->setWidget(m_panel);
+    dock->setWidget(panelScroll(m_panel));
     window.addDockWidget(Qt::RightDockWidgetArea, dock);
     dock->hide();
     m_toggle = dock->toggleViewAction();

@@ -66,7 +66,7 @@ JoinPanel::KindButtons JoinPanel::addKinds(QGridLayout& grid, int row, const cha
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         button->setAutoRaise(true);
         button->setCheckable(true);
-        button->setFocusPolicy(Qt::NoFocus);
+        button->setFocusPolicy(Qt::TabFocus);
         group->addButton(button);
         const auto index = static_cast<std::size_t>(words.kind);
         grid.addWidget(button, row, static_cast<int>(index) + 1);
@@ -81,7 +81,7 @@ JoinPanel::KindButtons JoinPanel::addKinds(QGridLayout& grid, int row, const cha
 void JoinPanel::addCorners(QGridLayout& grid, int row) {
     m_corners = new QCheckBox(tr("Join corners"), m_choices);
     m_corners->setObjectName(QStringLiteral("joinCorners"));
-    m_corners->setFocusPolicy(Qt::NoFocus);
+    m_corners->setFocusPolicy(Qt::TabFocus);
     grid.addWidget(m_corners, row, 1, 1, 4);
     connect(m_corners, &QCheckBox::clicked, this, [this](bool isOn) {
         emit answered(
@@ -107,14 +107,14 @@ void JoinPanel::addResults(QGridLayout& grid, int row) {
     m_summary->setWordWrap(true);
     m_list = new QListWidget(this);
     m_list->setObjectName(QStringLiteral("joinLeft"));
-    m_list->setFocusPolicy(Qt::NoFocus);
+    m_list->setFocusPolicy(Qt::TabFocus);
     m_list->setWordWrap(true);
     m_go = new QPushButton(this);
     m_go->setObjectName(QStringLiteral("joinGo"));
-    m_go->setFocusPolicy(Qt::NoFocus);
+    m_go->setFocusPolicy(Qt::TabFocus);
     m_cancel = new QPushButton(tr("Cancel"), this);
     m_cancel->setObjectName(QStringLiteral("joinCancel"));
-    m_cancel->setFocusPolicy(Qt::NoFocus);
+    m_cancel->setFocusPolicy(Qt::TabFocus);
     grid.addWidget(m_summary, row, 0, 1, 2);
     grid.addWidget(m_list, row + 1, 0, 1, 2);
     grid.addWidget(m_go, row + 2, 0);
@@ -122,6 +122,8 @@ void JoinPanel::addResults(QGridLayout& grid, int row) {
     grid.setRowStretch(row + 1, 1);
     grid.setColumnStretch(0, 1);
     connect(m_list, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* item) { emit placeChosen(m_list->row(item)); });
+    connect(m_list, &QListWidget::itemActivated, this,
             [this](QListWidgetItem* item) { emit placeChosen(m_list->row(item)); });
     connect(m_go, &QPushButton::clicked, this, &JoinPanel::press);
     connect(m_cancel, &QPushButton::clicked, this, &JoinPanel::cancelled);
@@ -143,6 +145,9 @@ void JoinPanel::setStage(Stage stage, const QString& text, bool hasChoices) {
 }
 
 void JoinPanel::showIdle() {
+    if (m_stage == Stage::selection) {
+        m_summary->clear(); // it was cancelled
+    }
     setStage(Stage::idle, tr("Join a plan"), false);
 }
 
@@ -210,9 +215,13 @@ void JoinPanel::giveTolerance() {
         {QStringLiteral("Tolerance"), text.isEmpty() ? QStringLiteral("Automatic") : text});
 }
 
-// Enter in a field ends the field, not the command.
+// Enter in a field ends the field, not the command, and presses a button.
 void JoinPanel::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* const button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (isEnter && button != nullptr && button->hasFocus()) {
+        button->click();
+    }
     event->setAccepted(isEnter);
 }
 

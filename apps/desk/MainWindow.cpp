@@ -14,14 +14,12 @@
 #include "aimOf.h"
 #include "clickedPoint.h"
 #include "commandNames.h"
-#include "hostText.h"
 #include "partlyDrawnText.h"
 #include "qtWide.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
@@ -59,7 +57,9 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
       m_grips(new GripDesk(*this, *m_canvas, m_runner, *m_select, m_settings)),
       m_properties(new PropertyDesk(*this, *m_select)), m_status(*statusBar()),
       m_tool(new ToolDesk(*this, *m_canvas, m_runner, m_prompts, m_status)),
-      m_snap(new SnapDesk(*this, *m_canvas, m_prompts, m_settings)), m_help(new HelpWindow(this)),
+      m_snap(new SnapDesk(*this, *m_canvas, m_prompts, m_settings)),
+      m_help(new HelpDesk(*this, m_runner)), m_mark(new ChangeMark(*this, m_drawing, m_runner)),
+      m_focus(new FocusRing(*this, *m_canvas, *m_commandLine, *m_drawBar->bar())),
       m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
     setAcceptDrops(true);
@@ -96,6 +96,8 @@ void MainWindow::makeCommandDock() {
     m_menus.view->addAction(m_properties->toggleAction());
     m_menus.view->addSeparator();
     m_menus.view->addActions(m_snap->actions());
+    m_menus.view->addSeparator();
+    m_menus.view->addActions(m_focus->actions());
 }
 
 void MainWindow::connectCommandLine() {
@@ -103,7 +105,6 @@ void MainWindow::connectCommandLine() {
     connect(m_commandLine, &CommandLine::cancelled, this, &MainWindow::escape);
     connect(m_drawBar, &DrawBar::complained, m_commandLine, &CommandLine::complain);
     connect(m_drawBar, &DrawBar::left, m_commandLine, [this] { m_commandLine->setFocus(); });
-    connect(m_snap, &SnapDesk::canvasLeft, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(m_properties, &PropertyDesk::left, m_commandLine,
             [this] { m_commandLine->setFocus(); });
     connect(m_undo, &UndoDesk::printed, m_commandLine, &CommandLine::print);
@@ -165,6 +166,18 @@ void MainWindow::connectFiles() {
     connect(&m_files, &DeskFiles::used, &m_recent, &RecentFiles::add);
     connect(&m_files, &DeskFiles::missing, &m_recent, &RecentFiles::remove);
     connect(&m_files, &DeskFiles::saved, this, &MainWindow::showChange);
+    connect(&m_files, &DeskFiles::openingEnded, this, [this](bool isOpen) {
+        showIdle();
+        if (!isOpen) {
+            m_pasted->breakOff(); // what was typed meanwhile was for that drawing
+        }
+    });
+    m_files.opener().setKeyTaker([this](const QKeyEvent& key) {
+        CommandLine::Question question; // which completes nothing
+        question.text = tr("Command, once the drawing is open:");
+        m_commandLine->setQuestion(question);
+        m_commandLine->takeKey(key);
+    });
     connect(&m_recent, &RecentFiles::chosen, this, &MainWindow::open);
 }
 
@@ -201,6 +214,7 @@ void MainWindow::post(std::function<void()> task) {
 void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& path) {
     m_canvas->setSession(nullptr);
     m_runner.setSession(nullptr);
+    m_properties->dropSession();
     m_drawing.replace(std::move(file), path);
     m_join->setSession(*session());
     m_snap->setSession(*session());
@@ -226,7 +240,7 @@ void MainWindow::reportPartlyDrawn() {
     if (!handles.empty()) {
         m_isPartlyDrawnReported = true;
         m_commandLine->print(
-            QString::fromStdString(hostText("warning: %1", {partlyDrawnText(handles)})));
+            tr("Warning: %1").arg(QString::fromStdString(partlyDrawnText(handles))));
     }
 }
 
@@ -280,13 +294,20 @@ void MainWindow::perform(WindowAct act) {
     case WindowAct::zoomOut:
         return m_canvas->zoomBy(1.0 / kZoomStep);
     case WindowAct::help:
-        return m_help->showTopic(m_runner.running());
+        return m_help->show();
     case WindowAct::about:
-        return about();
+        return m_help->about();
     }
 }
 
 void MainWindow::enterLine(const QString& line) {
+    if (m_files.opener().isOpening()) {
+        if (!line.isEmpty() || m_pasted->isPlaying()) {
+            m_commandLine->print(tr("%1 waits until the drawing is open.").arg(line));
+            m_pasted->play({line});
+        }
+        return;
+    }
     if (m_undo->takeLine(line)) {
         return;
     }
@@ -352,31 +373,15 @@ void MainWindow::showIdle() {
 }
 
 void MainWindow::showChange() {
-    setWindowTitle(m_drawing.name() + tr("[*] \u2014 Orvex"));
-    setWindowModified(m_drawing.isChanged());
-    setWindowFilePath(m_drawing.path());
+    m_mark->show();
     m_drawBar->showValues();
     m_status.showStyle(m_drawing.currentStyle());
 }
 
-// What a command changes shows at its next question. Whether the drawing differs from its file is
-// looked at only after an edit.
+// What a command changes shows at its next question.
 void MainWindow::showDuringCommand() {
     m_status.showStyle(m_drawing.currentStyle());
-    if (!isWindowModified() && m_drawing.wasEdited()) {
-        setWindowModified(m_drawing.isChanged());
-    }
-}
-
-void MainWindow::about() {
-    QMessageBox box(QMessageBox::NoIcon, tr("About Orvex"),
-                    tr("Orvex %1").arg(QLatin1String(ORVEX_VERSION)), QMessageBox::Ok, this);
-    box.setIconPixmap(windowIcon().pixmap(64, 64));
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(
-        tr("Opens real drawings and edits their multilines: walls, roads, pipes.\n"
-           "What isn't edited is saved byte for byte."));
-    box.exec();
+    m_mark->look();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

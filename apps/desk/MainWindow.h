@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ChangeMark.h"
 #include "CommandRunner.h"
 #include "DeskDrawing.h"
 #include "DeskFiles.h"
@@ -8,8 +9,9 @@
 #include "DeskPrompts.h"
 #include "DeskSettings.h"
 #include "DrawBar.h"
+#include "FocusRing.h"
 #include "GripDesk.h"
-#include "HelpWindow.h"
+#include "HelpDesk.h"
 #include "JoinDesk.h"
 #include "PropertyDesk.h"
 #include "RecentFiles.h"
@@ -81,7 +83,6 @@ private:
     void showDuringCommand();
     void showChange(); // after a command, an opening or a save
     void reportPartlyDrawn();
-    void about();
 
     DeskSettings m_settings;
     HostProfileStore m_profile;
@@ -106,7 +107,9 @@ private:
     StatusLine m_status;
     ToolDesk* m_tool;
     SnapDesk* m_snap;
-    HelpWindow* m_help;
+    HelpDesk* m_help;
+    ChangeMark* m_mark;
+    FocusRing* m_focus;
     RecentFiles m_recent;
     bool m_mayClose = false;
     bool m_isPartlyDrawnReported = false;

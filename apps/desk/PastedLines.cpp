@@ -46,7 +46,7 @@ PastedLines::PastedLines(QObject* parent, CommandRunner& runner, DeskPrompts& pr
 }
 
 void PastedLines::play(const QStringList& lines) {
-    m_lines = lines;
+    m_lines += lines;
     if (!m_lines.isEmpty()) {
         m_timer.start();
     }
@@ -74,7 +74,7 @@ void PastedLines::breakOff() {
     const int left = m_lines.size();
     stop();
     if (left > 0) {
-        const QString text = tr("The pasted lines that follow are left out: %1.").arg(left);
+        const QString text = tr("The lines that follow are left out: %1.").arg(left);
         // After the reason, whoever listens first.
         QMetaObject::invokeMethod(
             this, [this, text] { emit complained(text); }, Qt::QueuedConnection);

@@ -17,8 +17,8 @@ QString onOneLine(const QString& pasted);
 // What `onOneLine` made one of; a single line is a list of it. Comments of a script are left out.
 QStringList linesIn(const QString& shown);
 
-// Plays several lines that were pasted as if they were typed, each as soon as something is asked.
-// The first complaint ends it.
+// Plays lines that were pasted, or typed while they couldn't be taken, as if they were typed, each
+// as soon as something is asked. The first complaint ends it.
 class PastedLines final : public QObject {
     Q_OBJECT
 
@@ -28,16 +28,19 @@ public:
     // Both outlive it, as what `enter` needs does.
     PastedLines(QObject* parent, CommandRunner& runner, DeskPrompts& prompts, Enter enter);
 
+    // After those that are left from before.
     void play(const QStringList& lines);
+    [[nodiscard]] bool isPlaying() const { return !m_lines.isEmpty(); }
     // Forgets the lines that are left.
     void stop();
+    // The same, and says how many there were.
+    void breakOff();
 
 signals:
     void complained(const QString& line);
 
 private:
     void enterNext();
-    void breakOff();
 
     CommandRunner& m_runner;
     DeskPrompts& m_prompts;

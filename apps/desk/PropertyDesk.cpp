@@ -4,6 +4,7 @@
 #include "SelectDesk.h"
 #include "Session.h"
 #include "drawingNames.h"
+#include "panelScroll.h"
 
 #include <QAction>
 #include <QDockWidget>
@@ -15,7 +16,7 @@ PropertyDesk::PropertyDesk(QMainWindow& window, SelectDesk& select)
     : QObject(&window), m_select(select), m_dock(new QDockWidget(tr("Properties"), &window)),
       m_panel(new PropertyPanel(m_dock)) {
     m_dock->setObjectName(QStringLiteral("propertyDock"));
-    m_dock->setWidget(m_panel);
+    m_dock->setWidget(panelScroll(m_panel));
     window.addDockWidget(Qt::RightDockWidgetArea, m_dock);
     m_dock->hide();
     toggleAction()->setObjectName(QStringLiteral("properties"));

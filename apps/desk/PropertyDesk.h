@@ -22,6 +22,7 @@ public:
     PropertyDesk(QMainWindow& window, SelectDesk& select);
 
     void setSession(Session& session);
+    void dropSession() { m_session = nullptr; } // before it goes
     [[nodiscard]] QAction* toggleAction() const;
 
 signals:

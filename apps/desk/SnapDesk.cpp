@@ -61,18 +61,6 @@ SnapDesk::SnapDesk(QMainWindow& window, Canvas& canvas, DeskPrompts& prompts,
     window.statusBar()->addPermanentWidget(m_word);
     makeSnapButton(window);
     makeDirectionButtons(window);
-    QAction* const cross =
-        addAction(window, "crossByKeys", tr("&Cross by Keys"),
-                  tr("Arrows move the cross, with Shift by 10, with Ctrl to the next target; Enter "
-                     "clicks"),
-                  Qt::Key_F6, {}, nullptr);
-    connect(cross, &QAction::triggered, this, [this] {
-        if (m_canvas.isCrossOn()) {
-            emit canvasLeft();
-        } else {
-            m_canvas.startCross();
-        }
-    });
     connect(&m_prompts, &DeskPrompts::answered, this, [this] { dropWord(); });
     qApp->installEventFilter(this);
     show();
@@ -175,6 +163,8 @@ void SnapDesk::makeSnapButton(QMainWindow& window) {
     menu->addAction(tr("A&perture..."), this, [this, &window] { askAperture(window); });
     m_snap = addAction(window, "snap", tr("&Snap"), tr("Draw points to targets near the cursor"),
                        Qt::Key_F3, tr("SNAP"), menu);
+    menu->setTitle(tr("Snap &Modes"));
+    m_actions.append(menu->menuAction());
     connect(m_snap, &QAction::triggered, this, [this](bool on) {
         m_guide.isSnapOn = on;
         changed();
@@ -201,6 +191,8 @@ void SnapDesk::makeDirectionButtons(QMainWindow& window) {
     m_steps = addAction(window, "polar", tr("Angle Ste&ps"),
                         tr("Draw lines to angles in steps as they come near"), Qt::Key_F10,
                         tr("POLAR"), menu);
+    menu->setTitle(tr("Steps of &Angles"));
+    m_actions.append(menu->menuAction());
     connect(m_square, &QAction::triggered, this,
             [this](bool on) { setDirection(on ? PointDirection::square : PointDirection::any); });
     connect(m_steps, &QAction::triggered, this,

@@ -17,8 +17,8 @@ class Canvas;
 class DeskPrompts;
 class DeskSettings;
 
-// Points where one means them: snap, directions and the keyboard's cross, with their buttons in the
-// status bar, keys, words and settings.
+// Points where one means them: snap and directions, with their buttons in the status bar, keys,
+// words and settings.
 class SnapDesk final : public QObject {
     Q_OBJECT
 
@@ -38,9 +38,6 @@ public:
     bool dropWord();
 
     [[nodiscard]] const QList<QAction*>& actions() const { return m_actions; }
-
-signals:
-    void canvasLeft(); // by its key, for the command line
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -15,8 +15,8 @@ inline bool typesText(const QKeyEvent& key) {
             (key.modifiers() & Qt::GroupSwitchModifier) != 0);
 }
 
-// The keypad's decimal key of some keyboards types a comma. Numbers have a point here; a comma parts
-// coordinates.
+// The keypad's decimal key of some keyboards types a comma. Numbers have a point here; a comma
+// parts coordinates.
 inline bool isKeypadComma(const QKeyEvent& key) {
     return (key.modifiers() & Qt::KeypadModifier) != 0 && key.text() == QLatin1String(",");
 }

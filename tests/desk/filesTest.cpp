@@ -9,6 +9,8 @@
 #include <QProgressDialog>
 #include <QPushButton>
 
+#include <sys/stat.h>
+
 namespace orvex::testing {
 
 namespace {
@@ -66,32 +68,79 @@ TEST_F(FilesOfDesk, aDrawingThatCannotBeOpenedLeavesTheOneThatIsThere) {
     EXPECT_EQ(readFile(plan), original);
 }
 
-TEST_F(FilesOfDesk, aCancelledOpeningLeavesTheDrawingThatIsThere) {
-    const fs::path large = fs::temp_directory_path() / "large.dxf";
-    std::string comments;
-    while (comments.size() < (std::size_t{40} << 20U)) {
-        comments += "999\nnothing of note\n";
+TEST_F(FilesOfDesk, whatIsNoFileIsRefusedWithItsName) {
+    const fs::path pipe = fs::temp_directory_path() / "pipe.dxf";
+    fs::remove(pipe);
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    for (const auto& [path, word] : {std::pair{pipe, "a pipe"},
+                                     {fs::path("/dev/zero"), "a device"},
+                                     {fs::temp_directory_path(), "a folder"}}) {
+        QString told;
+        play({
+            [this, name = path] { window->open(QString::fromStdString(name.string())); },
+            inDialog<QMessageBox>([&](QMessageBox& box) {
+                told = box.text();
+                box.accept();
+            }),
+        });
+        EXPECT_THAT(told.toStdString(), ::testing::HasSubstr(word));
     }
-    writeFile(large, comments + original);
+    fs::remove(pipe);
+}
+
+class OpeningLargeFiles : public FilesOfDesk {
+protected:
+    OpeningLargeFiles() {
+        std::string comments;
+        while (comments.size() < (std::size_t{40} << 20U)) {
+            comments += "999\nnothing of note\n";
+        }
+        writeFile(large, comments + original);
+    }
+    ~OpeningLargeFiles() override { fs::remove(large); }
+
+    Step openLarge() {
+        return [this] { window->open(QString::fromStdString(large.string())); };
+    }
+
+    const fs::path large = fs::temp_directory_path() / "large.dxf";
+};
+
+TEST_F(OpeningLargeFiles, takesCommandsForAfterwards) {
+    play({
+        openLarge(),
+        inDialog<QProgressDialog>([](QProgressDialog& dialog) {
+            QTest::keyClicks(&dialog, "mline");
+            QTest::keyClick(&dialog, Qt::Key_Space); // which presses no button
+            QTest::keyClicks(&dialog, "0,0");
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        }),
+        until([this] { return prompt().startsWith("Next point"); }),
+        [this] { EXPECT_EQ(titleOf(*window), "large.dxf"); },
+        key(Qt::Key_Escape),
+    });
+}
+
+TEST_F(OpeningLargeFiles, leavesTheDrawingThatIsThereWhenItIsCancelled) {
     play({
         openPlan(),
         edit(),
-        [&] { window->open(QString::fromStdString(large.string())); },
+        openLarge(),
         answer(QMessageBox::Discard),
         inDialog<QProgressDialog>([&](QProgressDialog& dialog) {
-            QTest::keyClicks(&input(), "U"); // nothing can be started meanwhile
-            QTest::keyClick(&input(), Qt::Key_Return);
+            QTest::keyClicks(&dialog, "U"); // for a drawing that doesn't come
+            QTest::keyClick(&dialog, Qt::Key_Return);
             trigger("undo")();
             trigger("new")();
             dialog.cancel();
         }),
         [this] {
-            EXPECT_TRUE(lastLine().endsWith("was cancelled."));
+            EXPECT_THAT(history().toStdString(), ::testing::HasSubstr("was cancelled."));
+            EXPECT_TRUE(lastLine().endsWith("left out: 1."));
             EXPECT_EQ(titleOf(*window), "plan.dxf");
             EXPECT_TRUE(window->isWindowModified());
         },
     });
-    fs::remove(large);
 }
 
 TEST_F(FilesOfDesk, changesAreAskedAboutBeforeTheyAreLost) {

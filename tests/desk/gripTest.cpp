@@ -238,7 +238,7 @@ TEST_F(GripFixture, gripsAreReachedByKeysAlone) {
     };
     play(then(drawWalls(), {
                                clickAt(200, 0),
-                               trigger("crossByKeys"),
+                               trigger("nextArea"),
                                onCanvas(Qt::Key_Tab),
                                onCanvas(Qt::Key_Tab),
                                onCanvas(Qt::Key_Return),

@@ -1,10 +1,12 @@
 #include "DeskFixture.h"
 #include "HelpTables.h"
 
+#include "HelpWindow.h"
 #include "commandNames.h"
 #include "editTools.h"
 #include "helpPages.h"
 
+#include <QMenu>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QTextCursor>
@@ -70,6 +72,49 @@ TEST_F(DeskFixture, theHelpOpensAtTheToolThatRunsAndIsSearchedThroughAllPages) {
             EXPECT_EQ(browser->source(), helpAddress(helpPages().front()));
             EXPECT_TRUE(browser->toPlainText().contains("twelve tools"));
         },
+    });
+}
+
+TEST_F(DeskFixture, dialogsHaveAHelpThatCanBeUsed) {
+    play({
+        type("mlstyle"),
+        inDialog<QDialog>([](QDialog& dialog) {
+            QTest::keyClick(&dialog, Qt::Key_F1);
+            auto* const help = dialog.findChild<HelpWindow*>();
+            ASSERT_NE(help, nullptr);
+            EXPECT_TRUE(help->isVisible());
+            EXPECT_EQ(help->findChild<QTextBrowser*>()->textCursor().block().text(), "MLSTYLE");
+            dialog.reject();
+        }),
+        [this] { EXPECT_EQ(prompt(), "Command:"); },
+    });
+}
+
+TEST_F(DeskFixture, keysGoRoundTheWindow) {
+    const auto focused = [this] { return window->focusWidget()->objectName().toStdString(); };
+    play({
+        [this] { QApplication::setActiveWindow(window.get()); },
+        trigger("properties"), // which takes the focus, though nothing there can be changed yet
+        trigger("nextArea"),
+        [&] { EXPECT_EQ(focused(), "styleBox"); },
+        trigger("nextArea"),
+        [&] { EXPECT_EQ(focused(), "commandInput"); },
+        trigger("nextArea"),
+        [this] { EXPECT_TRUE(canvas()->isCrossOn()); },
+        trigger("nextArea"),
+        [&] { EXPECT_EQ(focused(), "styleBox") << "the panel has nothing to stop at"; },
+        openPlan(),
+        trigger("selectAll"),
+        trigger("previousArea"),
+        [&] { EXPECT_EQ(focused(), "propertyStyle"); },
+        trigger("previousArea"),
+        [this] {
+            QTest::keyClick(canvas(), Qt::Key_F10, Qt::ShiftModifier);
+            EXPECT_NE(window->findChild<QMenu*>("selectionMenu"), nullptr);
+            QApplication::activePopupWidget()->close();
+        },
+        trigger("properties"),
+        trigger("deselect"),
     });
 }
 

@@ -130,6 +130,9 @@ TEST_F(JoinFixture, thePanelJoinsAsItsEchoDoes) {
 TEST_F(JoinFixture, aCancelledJoinLeavesNoMarksAndASelectionJoinsItselfAlone) {
     play(then(drawWalls(), {
                                trigger("mljoin"),
+                               click("joinCancel"),
+                               [this] { EXPECT_TRUE(summary().isEmpty()); },
+                               trigger("mljoin"),
                                drag({-50, 150}, {450, -150}),
                                [this] {
                                    EXPECT_EQ(window->findChild<QPushButton*>("joinGo")->text(),

@@ -167,7 +167,7 @@ TEST_F(SnapFixture, theKeyboardAloneMovesTheCrossAndClicks) {
         type("400"),
         type("mline"),
         [this] { QApplication::setActiveWindow(window.get()); },
-        trigger("crossByKeys"),
+        trigger("nextArea"),
         [this] {
             EXPECT_TRUE(canvas()->isCrossOn());
             QTest::keyClick(canvas(), Qt::Key_Down, Qt::ControlModifier);
@@ -186,17 +186,17 @@ TEST_F(SnapFixture, theKeyboardAloneMovesTheCrossAndClicks) {
             EXPECT_NEAR(after.y - before.y, pixel, 1.5 * pixel);
         },
         trigger("snap"),
-        trigger("crossByKeys"),
+        trigger("previousArea"),
         [this] { EXPECT_FALSE(canvas()->isCrossOn()); },
         key(Qt::Key_Escape),
         type("erase"), // a selection by keys
-        trigger("crossByKeys"),
+        trigger("nextArea"),
         [this] {
             QTest::keyClick(canvas(), Qt::Key_Down, Qt::ControlModifier);
             QTest::keyClick(canvas(), Qt::Key_Return);
         },
         [this] { EXPECT_EQ(canvas()->selected().size(), 1U); },
-        trigger("crossByKeys"),
+        trigger("previousArea"),
         key(Qt::Key_Escape),
     });
 }

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -20,6 +21,7 @@ namespace orvex::testing {
 inline bool isPartOfAnother(const QWidget& widget) {
     const QWidget* const parent = widget.parentWidget();
     return qobject_cast<const QAbstractScrollArea*>(parent) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(parent) != nullptr ||
            qobject_cast<const QComboBox*>(parent) != nullptr ||
            qobject_cast<const QLineEdit*>(parent) != nullptr;
 }
@@ -29,13 +31,20 @@ inline std::string nameOf(const QWidget& widget) {
                                          : widget.objectName().toStdString();
 }
 
+// What is scrolled may be larger than what is seen of it.
+inline bool isScrolled(const QWidget& widget) {
+    const QWidget* const viewport = widget.parentWidget();
+    return viewport != nullptr &&
+           qobject_cast<const QAbstractScrollArea*>(viewport->parentWidget()) != nullptr;
+}
+
 // The widest text of the choices, with its picture, compared with the room for it.
 inline bool isCut(const QComboBox& combo) {
     QStyleOptionComboBox option;
     option.initFrom(&combo);
     const QRect room = combo.style()->subControlRect(QStyle::CC_ComboBox, &option,
                                                      QStyle::SC_ComboBoxEditField, &combo);
-    constexpr int kMargins = 4; // left and right of the text, as styles draw it
+    constexpr int kMargins = 2; // left and right of the text, as styles draw it
     const int picture =
         combo.itemIcon(combo.currentIndex()).isNull() ? 0 : combo.iconSize().width() + kMargins;
     return combo.fontMetrics().height() > room.height() ||
@@ -114,7 +123,7 @@ inline std::vector<std::string> layoutFaults(const QWidget& window) {
         if (isCut(widget)) {
             faults.push_back(nameOf(widget));
         }
-        if (!widget.parentWidget()->rect().contains(widget.geometry())) {
+        if (!isScrolled(widget) && !widget.parentWidget()->rect().contains(widget.geometry())) {
             faults.push_back(nameOf(widget) + " out of " + nameOf(*widget.parentWidget()));
         }
         for (int other = 0; other < index; ++other) {

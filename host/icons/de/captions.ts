@@ -1524,10 +1524,6 @@
         <translation>Blöcke wiederholen sich zu oft, um ganz gezeichnet zu werden, in der Einfügung %1</translation>
     </message>
     <message>
-        <source>warning: %1</source>
-        <translation>Warnung: %1</translation>
-    </message>
-    <message>
         <source>segment %1 has no length</source>
         <translation>Segment %1 hat keine Länge</translation>
     </message>
@@ -1795,6 +1791,22 @@
         <source>Style to change</source>
         <translation>Zu ändernder Stil</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translation>ein Ordner</translation>
+    </message>
+    <message>
+        <source>a pipe</source>
+        <translation>eine Pipe</translation>
+    </message>
+    <message>
+        <source>a socket</source>
+        <translation>ein Socket</translation>
+    </message>
+    <message>
+        <source>a device</source>
+        <translation>ein Gerät</translation>
+    </message>
 </context>
 <context>
     <name>orvex::Canvas</name>
@@ -1805,6 +1817,13 @@
     <message>
         <source>%1 within</source>
         <translation>%1 darin</translation>
+    </message>
+</context>
+<context>
+    <name>orvex::ChangeMark</name>
+    <message>
+        <source>[*] — Orvex</source>
+        <translation>[*] — Orvex</translation>
     </message>
 </context>
 <context>
@@ -1899,6 +1918,14 @@
         <source>Do you want to save them?</source>
         <translation>Sollen sie gespeichert werden?</translation>
     </message>
+    <message>
+        <source>%1 is %2 and no file.</source>
+        <translation>%1 ist %2 und keine Datei.</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
 </context>
 <context>
     <name>orvex::DrawBar</name>
@@ -1968,6 +1995,25 @@
     </message>
 </context>
 <context>
+    <name>orvex::FocusRing</name>
+    <message>
+        <source>&amp;Next Area</source>
+        <translation>&amp;Nächster Bereich</translation>
+    </message>
+    <message>
+        <source>Go on to the canvas, where arrows move the cross, to panels and bars</source>
+        <translation>Weiter zur Zeichenfläche, wo Pfeiltasten das Kreuz bewegen, zu Bedienfeldern und Leisten</translation>
+    </message>
+    <message>
+        <source>Previo&amp;us Area</source>
+        <translation>Vorheriger &amp;Bereich</translation>
+    </message>
+    <message>
+        <source>Go back to the bars, panels, canvas or command line before</source>
+        <translation>Zurück zu den Leisten, Bedienfeldern, der Zeichenfläche oder Befehlszeile davor</translation>
+    </message>
+</context>
+<context>
     <name>orvex::GripDesk</name>
     <message>
         <source>Move &amp;Common Vertices Together</source>
@@ -1988,6 +2034,23 @@
     <message>
         <source>&amp;Remove Vertex</source>
         <translation>Scheitelpunkt ent&amp;fernen</translation>
+    </message>
+</context>
+<context>
+    <name>orvex::HelpDesk</name>
+    <message>
+        <source>About Orvex</source>
+        <translation>Über Orvex</translation>
+    </message>
+    <message>
+        <source>Orvex %1</source>
+        <translation>Orvex %1</translation>
+    </message>
+    <message>
+        <source>Opens real drawings and edits their multilines: walls, roads, pipes.
+What isn&apos;t edited is saved byte for byte.</source>
+        <translation>Öffnet echte Zeichnungen und bearbeitet ihre Multilinien: Wände, Straßen, Rohre.
+Was nicht bearbeitet wird, wird Byte für Byte gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -2166,29 +2229,23 @@
         <translation>Befehl:</translation>
     </message>
     <message>
-        <source>[*] — Orvex</source>
-        <translation>[*] — Orvex</translation>
+        <source>Command, once the drawing is open:</source>
+        <translation>Befehl, sobald die Zeichnung offen ist:</translation>
     </message>
     <message>
-        <source>About Orvex</source>
-        <translation>Über Orvex</translation>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
     </message>
     <message>
-        <source>Orvex %1</source>
-        <translation>Orvex %1</translation>
-    </message>
-    <message>
-        <source>Opens real drawings and edits their multilines: walls, roads, pipes.
-What isn&apos;t edited is saved byte for byte.</source>
-        <translation>Öffnet echte Zeichnungen und bearbeitet ihre Multilinien: Wände, Straßen, Rohre.
-Was nicht bearbeitet wird, wird Byte für Byte gespeichert.</translation>
+        <source>%1 waits until the drawing is open.</source>
+        <translation>%1 wartet, bis die Zeichnung offen ist.</translation>
     </message>
 </context>
 <context>
     <name>orvex::PastedLines</name>
     <message>
-        <source>The pasted lines that follow are left out: %1.</source>
-        <translation>Die weiteren eingefügten Zeilen werden ausgelassen: %1.</translation>
+        <source>The lines that follow are left out: %1.</source>
+        <translation>Die weiteren Zeilen werden ausgelassen: %1.</translation>
     </message>
 </context>
 <context>
@@ -2330,14 +2387,6 @@ Was nicht bearbeitet wird, wird Byte für Byte gespeichert.</translation>
 <context>
     <name>orvex::SnapDesk</name>
     <message>
-        <source>&amp;Cross by Keys</source>
-        <translation>Kreuz mit &amp;Tasten</translation>
-    </message>
-    <message>
-        <source>Arrows move the cross, with Shift by 10, with Ctrl to the next target; Enter clicks</source>
-        <translation>Pfeiltasten bewegen das Kreuz, mit Umschalt um 10, mit Strg zum nächsten Ziel; die Eingabetaste klickt</translation>
-    </message>
-    <message>
         <source>No snap</source>
         <translation>Kein Fang</translation>
     </message>
@@ -2392,6 +2441,14 @@ Was nicht bearbeitet wird, wird Byte für Byte gespeichert.</translation>
     <message>
         <source>Pixels from the cursor to a target, at most:</source>
         <translation>Pixel vom Cursor bis zu einem Ziel, höchstens:</translation>
+    </message>
+    <message>
+        <source>Snap &amp;Modes</source>
+        <translation>Fang&amp;modi</translation>
+    </message>
+    <message>
+        <source>Steps of &amp;Angles</source>
+        <translation>&amp;Winkelschritte</translation>
     </message>
 </context>
 <context>
