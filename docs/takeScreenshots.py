@@ -220,18 +220,20 @@ def join_desk(window, path):
     window.shoot(path)
 
 
-def grips(window, path):
-    window.look(9000, 5000, 9000)
-    window.click(12000, 6635)
-    window.click(10500, 7000)
-    window.hover(9650, 6300)
-    window.shoot(path, ((3500, 2000), (15000, 9000)))
+def grip(window, path):
+    window.look(2000, 1700, 4000)
+    window.click(1762, 900)
+    window.click(1700, 1600)
+    window.hover(2900, 2050)
+    window.shoot(path, ((-300, 100), (4300, 2700)))
 
 
-def panel(window, path):
+def properties(window, path):
     window.press("ctrl+1")
     window.look(7000, 5000, 12000)
-    window.click(4640, 2000)
+    window.click(4658, 2000)  # a Standard wall, then two PART125
+    window.click(1762, 800)
+    window.click(8000, 2660)
     window.shoot(path)
 
 
@@ -244,8 +246,8 @@ SCENES = {
     "draw-join": (draw_join, "walls", (1000, 633)),
     "draw-door": (draw_door, "joined", (1000, 633)),
     "join-desk": (join_desk, "floorplan", (1180, 780)),
-    "grips": (grips, "floorplan", (1100, 800)),
-    "panel": (panel, "floorplan", (1100, 720)),
+    "grip": (grip, "floorplan", (1100, 800)),
+    "properties": (properties, "floorplan", (1100, 720)),
 }
 
 
