@@ -84,6 +84,18 @@ void layPositions(MlineContent& laid, const MlineContent& old, const ChainFrame&
     }
 }
 
+// At the same angle to another segment. A square one stays square to the last bit, so that moving
+// an end to and fro doesn't wear it.
+KdGeVector3d turnedMiter(const KdGeVector3d& miter, const VertexFrame& was,
+                         const KdGeVector3d& axis, const KdGeVector3d& left) {
+    const double along = dot(miter, was.axis);
+    const double across = dot(miter, was.left);
+    if (std::abs(along) > kRounding || std::abs(std::abs(across) - 1.0) > kRounding) {
+        return axis * along + left * across;
+    }
+    return across > 0.0 ? left : KdGeVector3d() - left; // without a zero below zero
+}
+
 // The miter of an open end keeps its angle to its segment.
 void turnEnds(MlineContent& changed, const ChainFrame& before) {
     std::vector<KdGePoint3d> points;
@@ -95,8 +107,7 @@ void turnEnds(MlineContent& changed, const ChainFrame& before) {
         const VertexFrame& was = before.vertices[end];
         KdGeVector3d& miter = changed.vertices[end].miter;
         if (!changed.closed && (axes[end] - was.axis).length() > was.noise + kRounding) {
-            miter = axes[end] * dot(miter, was.axis) +
-                    leftOf(axes[end], changed.normal) * dot(miter, was.left);
+            miter = turnedMiter(miter, was, axes[end], leftOf(axes[end], changed.normal));
         }
     }
 }

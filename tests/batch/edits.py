@@ -140,6 +140,11 @@ class Edits:
         self.expect("turned", (chain(found[0]), found[0]["scale"]), ([[100, 0], [0, 0]], -1))
         self.expect("gap", line(found[0], 0, 0), [-0.5, 0, 60, 70])
         self.unchanged("REVERSE\nALL\n\nREVERSE\nALL\n\n", "2 of 2 multilines reversed")
+        # Along 3, 4 and back, all of it in whole numbers but for one root.
+        handle = self.handles[1]
+        found = self.edited(f"MLVERTEX\n#{handle}\n1\nMove\n60,100\n")
+        self.expect("end", found[1]["vertices"][1]["miter"], [-0.8, 0.6, 0])
+        self.unchanged(f"MLVERTEX\n#{handle}\n1\nMove\n150,20\nMLVERTEX\n#{handle}\n1\nMove\n100,20\n", "New place")
         self.unchanged("STRETCH\n-5,-5\n5,5\n0,0\n10,0\nSTRETCH\n5,-5\n15,5\n10,0\n0,0\n", "1 of 1")
         self.unchanged("STRETCH\n-5,-5\n5,5\n0,0\n100,0\n", "has no length")
         self.unchanged("STRETCH\n-5,-5\n5,5\n0,0\n0,0,9\n", "plane")
