@@ -12,6 +12,7 @@
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
 
+#include <clocale>
 #include <cstdlib>
 
 namespace orvex {
@@ -76,6 +77,8 @@ public:
         char name[] = "orvex-batch";
         char* argv[] = {name, nullptr};
         const QGuiApplication application(argc, argv);
+        // It takes the user's locale, in which the system would tell of failures.
+        std::setlocale(LC_MESSAGES, "C");
         return withMemory(FailureCause::unwritableOutput, *task.output,
                           [&] { return draw((*drawing)->database(), task); });
     }

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <clocale>
 
 namespace orvex {
 
@@ -47,6 +48,7 @@ void startLanguage(const DeskSettings& settings) {
     const QString code =
         languageFor(settings.text(DeskSettings::kLanguage), QLocale::system().uiLanguages());
     if (code == QLatin1String(kLanguages.front().code)) {
+        std::setlocale(LC_MESSAGES, "C"); // what the system tells of failures
         return;
     }
     setUserLanguage(code.toStdString());

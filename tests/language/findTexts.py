@@ -68,7 +68,8 @@ def is_text(text, calls):
     plain = re.sub(r"\\.|%(?:ls|[\dnsdu])|\{\w*\}", " ", text)
     if re.search(r"[^\W\d_]{2,}['’]?[,.:;]? +[^\W\d_]{2,}|[^\W\d_]{2,}(?:[.:!?]$|: $)", plain):
         return True
-    return bool(calls and calls[0] in SHOWS and re.search(r"[^\W\d_]{2,}", plain))
+    is_name = re.fullmatch(r"[a-z]+[A-Z]\w*", text)  # of an action or a widget
+    return bool(calls and calls[0] in SHOWS and not is_name and re.search(r"[^\W\d_]{2,}", plain))
 
 
 def find(source):
