@@ -6,37 +6,18 @@
 #include "KdDocument.h"
 #include "styleLibraryReader.h"
 #include "styleLibraryWriter.h"
-#include "textCodec.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <string>
 
+#include <sys/mman.h>
 #include <unistd.h>
 
-namespace fs = std::filesystem;
 using namespace mledit;
 
 namespace {
-
-// A drawing for the line types that styles name, and a file, both for the whole run.
-struct World {
-    KdDbDatabase database;
-    KdDocument document{&database};
-    fs::path path = fs::temp_directory_path() / ("library" + std::to_string(getpid()) + ".mln");
-
-    World() { orvex::setCurrentDocument(&document); }
-    ~World() {
-        orvex::setCurrentDocument(nullptr);
-        std::error_code error;
-        fs::remove(path, error);
-    }
-    World(const World&) = delete;
-    World& operator=(const World&) = delete;
-};
 
 void require(bool held) {
     if (!held) {
@@ -44,13 +25,36 @@ void require(bool held) {
     }
 }
 
+// A drawing for the line types that styles name, and a file in memory, both for the whole run.
+class World {
+public:
+    World() { orvex::setCurrentDocument(&m_document); }
+    ~World() {
+        orvex::setCurrentDocument(nullptr);
+        close(m_file);
+    }
+    World(const World&) = delete;
+    World& operator=(const World&) = delete;
+
+    std::wstring store(const std::string& bytes) const {
+        require(ftruncate(m_file, 0) == 0);
+        require(pwrite(m_file, bytes.data(), bytes.size(), 0) ==
+                static_cast<ssize_t>(bytes.size()));
+        return L"/proc/self/fd/" + std::to_wstring(m_file);
+    }
+
+private:
+    KdDbDatabase m_database;
+    KdDocument m_document{&m_database};
+    int m_file = memfd_create("library", MFD_CLOEXEC);
+};
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static World world;
-    std::ofstream(world.path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-    std::wstring path = orvex::widen(world.path.string());
+    static const World world;
+    std::string library(reinterpret_cast<const char*>(data), size);
+    std::wstring path = world.store(library);
     const auto names = listLibraryStyles(path.c_str());
     require(names.has_value());
     constexpr std::size_t kMostNames = 20; // each takes a whole reading
@@ -66,7 +70,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     style.setName(L"fuzzed");
     const std::vector<std::string> lines = styleBlockLines(style);
     const std::string block = withStyleBlock({}, L"fuzzed", lines);
-    std::string library(reinterpret_cast<const char*>(data), size);
     for (int save = 0; save < 2; ++save) {
         library = withStyleBlock(library, L"fuzzed", lines);
         require(library.find(block) != std::string::npos);
