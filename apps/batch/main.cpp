@@ -5,14 +5,24 @@
 #include "batchFiles.h"
 #include "carryOutTask.h"
 #include "endingSignals.h"
+#include "leftBehind.h"
+#include "memoryEnd.h"
 #include "planTasks.h"
 #include "workThreads.h"
 
 #include <cstdio>
+#include <filesystem>
+#include <set>
 
 namespace orvex {
 
 namespace {
+
+// First of all: the parser of options makes its constants before main, and gives up in functions
+// that may not throw.
+[[gnu::constructor(101)]] void prepareForMemoryEnd() {
+    sayWhenMemoryEnds("orvex-batch", static_cast<int>(ExitStatus::unreadable));
+}
 
 std::optional<Failure> answer(const AnsweredCall& call) {
     if (call.isWrong) {
@@ -32,6 +42,21 @@ std::optional<Failure> carryOutOne(Verb& verb, const DrawingTask& task) {
     return verb.carryOut(task, counts);
 }
 
+// What saves left where the results go, that were killed. Once for all of them: a folder may be
+// large.
+void tidyFolders(const std::vector<DrawingTask>& tasks) {
+    std::set<std::string> folders;
+    for (const DrawingTask& task : tasks) {
+        if (task.output && !task.printsResult()) {
+            const std::string folder = std::filesystem::path(*task.output).parent_path().string();
+            folders.insert(folder.empty() ? "." : folder);
+        }
+    }
+    for (const std::string& folder : folders) {
+        removeLeftBehind(folder);
+    }
+}
+
 // The exit status of a call of several drawings goes to `status`.
 std::optional<Failure> carryOut(const VerbCall& call, int& status) {
     const auto tasks = planTasks(call);
@@ -43,6 +68,7 @@ std::optional<Failure> carryOut(const VerbCall& call, int& status) {
     }
     // Jobs share the processors.
     setWorkThreads(call.many.threads.value_or(workThreads() / call.many.jobs));
+    tidyFolders(*tasks);
     if (!call.isOfMany) {
         return carryOutOne(*call.verb, tasks->front());
     }

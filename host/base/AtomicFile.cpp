@@ -1,17 +1,23 @@
 #include "AtomicFile.h"
 
+#include "leftBehind.h"
+
 #include <cerrno>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <random>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace orvex {
 
 namespace {
+
+constexpr int kMostTries = 100; // of names
 
 // A limit on file sizes or a pipe without a reader has to come back as an error: the signal would
 // end the process with the temporary file left behind.
@@ -77,7 +83,7 @@ std::string descriptorPath(int descriptor) {
 }
 
 std::string temporaryPattern(const std::string& target) {
-    return (std::filesystem::path(folderOf(target)) / ".saving-XXXXXX").string();
+    return (std::filesystem::path(folderOf(target)) / kTemporaryPattern).string();
 }
 
 } // namespace
@@ -122,13 +128,7 @@ std::optional<Failure> AtomicFile::open() {
 
 std::optional<Failure> AtomicFile::openRegular(bool exists, unsigned mode) {
     if (!openNameless()) {
-        const HeldSignals held;
-        std::string name = temporaryPattern(m_target);
-        m_descriptor = mkostemp(name.data(), O_CLOEXEC);
-        if (m_descriptor >= 0) {
-            m_temporary = std::move(name);
-            m_note.note(m_temporary);
-        }
+        openNamed();
     }
     if (m_descriptor < 0 && exists && m_closedFolder == ClosedFolder::writeInPlace) {
         return openDirectly(O_WRONLY | O_TRUNC);
@@ -149,6 +149,24 @@ bool AtomicFile::openNameless() {
     }
     m_isNameless = m_descriptor >= 0;
     return m_isNameless;
+}
+
+void AtomicFile::openNamed() {
+    const HeldSignals held;
+    for (int i = 0; i < kMostTries && m_descriptor < 0; ++i) {
+        std::string name = temporaryPattern(m_target);
+        m_descriptor = mkostemp(name.data(), O_CLOEXEC);
+        if (m_descriptor < 0) {
+            return;
+        }
+        if (lockTemporary(m_descriptor)) {
+            m_temporary = std::move(name);
+            m_note.note(m_temporary);
+        } else {
+            close(std::exchange(m_descriptor, -1));
+            errno = EAGAIN;
+        }
+    }
 }
 
 std::optional<Failure> AtomicFile::openDirectly(int flags) {
@@ -185,17 +203,24 @@ std::optional<Failure> AtomicFile::commit() {
             return unnamed;
         }
     }
-    const int descriptor = m_descriptor;
-    m_descriptor = -1;
-    if (close(descriptor) != 0) {
-        return failure(errno);
+    // Only a close tells that all is written, and would let the lock go while the old name is
+    // there.
+    const int lock = replaces ? fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0) : -1;
+    std::optional<Failure> failed;
+    if (close(std::exchange(m_descriptor, -1)) != 0) {
+        failed = failure(errno);
+    } else if (replaces) {
+        failed = replaceTarget();
     }
-    return replaces ? replaceTarget() : std::nullopt;
+    if (lock >= 0) {
+        close(lock);
+    }
+    return failed;
 }
 
 // A link can't replace a file; only a rename can.
 std::optional<Failure> AtomicFile::giveName() {
-    constexpr int kMostTries = 100;
+    flock(m_descriptor, LOCK_EX | LOCK_NB); // before there is a name that somebody else could see
     const std::string source = descriptorPath(m_descriptor);
     std::random_device random;
     for (int i = 0; i < kMostTries; ++i) {

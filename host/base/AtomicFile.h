@@ -39,6 +39,7 @@ private:
     std::optional<Failure> openRegular(bool exists, unsigned mode);
     std::optional<Failure> openDirectly(int flags);
     bool openNameless();
+    void openNamed();
     std::optional<Failure> giveName();
     std::optional<Failure> replaceTarget();
     [[nodiscard]] Failure failure(int error) const; // an errno

@@ -1,17 +1,21 @@
 #!/usr/bin/python3
-"""Saves in which one system call, or the whole process, fails: torn.py PROGRAM COMPILER [--kills N] [--news N]
+"""Saves in which one system call, or the whole process, fails: torn.py PROGRAM COMPILER [--kills N] [--news N] [--points N]
 
 A preloaded library (spoiltCalls.cpp) makes each call that concerns the folder of the result fail in turn, kills the
 process there, or ends it by a signal: the old file stays or the new one is there, whole, and nothing else; only a
 process that was killed may leave its temporary file. Then one allocation fails: a status that says so, nothing saved.
---kills kills at N random moments as well, --news fails N random allocations of each verb.
+--kills kills at N random moments as well, --news fails N random allocations of each verb, --points each of the first N
+of a call, of opening, of each tool's first edit, and of saving.
 """
 
 import argparse
+import collections
+import fcntl
 import os
 import pathlib
 import random
 import re
+import shutil
 import signal
 import subprocess
 import tempfile
@@ -21,7 +25,7 @@ from program import Report
 
 SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
 OLD = b"what was there before"
-FIRST_ALLOCATION = 3000
+TOOLS = ("CC", "OC", "MC", "CT", "OT", "MT", "CJ", "AV", "DV", "CS", "CA", "WA")
 LEFT_BEHIND = re.compile(r"\.saving-\w{6}")  # by a process that was killed
 STATUSES = {"fail": (0, 4), "half": (0,), "kill": (0, -signal.SIGKILL), "term": (0, 143)}
 
@@ -35,8 +39,10 @@ class Torn:
         source = pathlib.Path(__file__).with_name("spoiltCalls.cpp")
         subprocess.run([compiler, "-std=c++20", "-shared", "-fPIC", "-o", self.library, source, "-ldl"], check=True)
         flat, plan = SAMPLES / "flat.dxf", SAMPLES / "floorplan.dxf"
+        script = folder / "tour.scr"  # ends with what is printed right before the save
+        script.write_text((SAMPLES / "tour.scr").read_text() + "ZOOM\nC\n1,1\n777\n")
         self.calls = {
-            "o.dxf": ("run", plan, "--script", SAMPLES / "tour.scr", "--output", "out/o.dxf"),
+            "o.dxf": ("run", plan, "--script", script, "--output", "out/o.dxf"),
             "j.dxf": ("join", flat, "--output", "out/j.dxf"),
             "b.dxf": ("convert", plan, "--to", "binary", "--output", "out/b.dxf"),
             "e.dxf": ("export", flat, "--output", "out/e.dxf"),
@@ -44,6 +50,7 @@ class Torn:
             "a.dxf": ("audit", flat, "--output", "out/a.dxf"),
         }
         self.report = Report()
+        self.statuses = collections.Counter()
 
     def call(self, arguments, **spoilt):
         self.log.write_bytes(b"")
@@ -92,6 +99,25 @@ class Torn:
                     number += 1
                 self.report.check(number > (2 if how == "half" else 6), f"{name}, {how}: only {number - 1} calls")
 
+    def left_behind(self):
+        """What a later call removes of what lies in the folder: the user's own temporary files that nobody writes."""
+        free, locked, others = self.out / ".saving-aB3dEf", self.out / ".saving-locked", []
+        for name, make in (("a.dxf", None), (".saving-short", None), (".saving-longer7", None), (".saving-a_cdef", None),
+                           ("saving-abcdef", None), (".saving-folder", os.mkdir), (".saving-linked", lambda path: path.symlink_to("a.dxf")),
+                           (".saving-twoone", lambda path: path.hardlink_to(self.out / "a.dxf")), (".saving-piped1", os.mkfifo),
+                           (".saving-others", lambda path: (path.touch(), os.chown(path, 4321, -1)) if os.geteuid() == 0 else path.mkdir())):
+            others.append((name, make))
+        self.prepare()
+        for name, make in others:
+            (make or pathlib.Path.touch)(self.out / name)
+        free.touch()
+        with open(locked, "w", encoding="ascii") as stream:
+            fcntl.flock(stream, fcntl.LOCK_EX)
+            run = self.call(("convert", SAMPLES / "flat.dxf", "--to", "text", "--output", "out/new.dxf"))
+            expected = sorted([*(name for name, _ in others), locked.name, "new.dxf"])
+            self.report.check(run.returncode == 0 and self.names() == expected, f"left behind: {self.names()}, {run}")
+        shutil.rmtree(self.out)
+
     # Whatever lies in the way of the next save is left alone, and doesn't hinder it.
     def kills(self, count):
         rng = random.Random(1)
@@ -123,21 +149,45 @@ class Torn:
                 self.report.check(all(LEFT_BEHIND.fullmatch(each) for each in rest), f"left behind: {rest}")
             print(f"{count} kills of {arguments[0]}: {replaced} of {count * len(names)} results were new")
 
-    # From where the options are read: until then the library that reads them ends the process.
-    def without_memory(self, count):
+    def without_memory(self, name, number, new, beginning=None):
+        """One allocation fails: where a result is there it is whole. False when so many aren't made."""
+        self.prepare(name)
+        run = self.call(self.calls[name], new=number, **({"from": beginning} if beginning else {}))
+        what = f"{name}, allocation {number} from {beginning}: {run.returncode} {run.stderr[-300:]} {self.names()}"
+        found = (self.out / name).read_bytes()
+        self.report.check(run.returncode in (0, 3, 4, 5) and self.names() == [name], what)
+        self.report.check(found == new if run.returncode == 0 else found == OLD and "not enough memory" in run.stderr, what)
+        self.statuses[run.returncode] += 1
+        return b"+" in self.log.read_bytes()
+
+    def random_news(self, count):
         rng = random.Random(2)
         for name, arguments in self.calls.items():
-            self.prepare(name)
-            last = 2000
-            while self.call(arguments, new=last).returncode != 0 or b"+" in self.log.read_bytes():
+            new, _ = self.whole(name)
+            first, last = self.first_allocation(name), 2000
+            while b"+" in (self.call(arguments, new=last), self.log.read_bytes())[1]:
                 last *= 2
-            for number in (rng.randrange(FIRST_ALLOCATION, last) for _ in range(count)):
-                self.prepare(name)
-                run = self.call(arguments, new=number)
-                what = f"{name}, allocation {number}: {run.returncode} {run.stderr[-300:]} {self.names()}"
-                self.report.check(run.returncode in (0, 3, 4, 5) and self.names() == [name], what)
-                self.report.check(run.returncode == 0 or ("not enough memory" in run.stderr and
-                                  (self.out / name).read_bytes() == OLD), what)
+            for _ in range(count):
+                self.without_memory(name, rng.randrange(first, last), new)
+
+    # What the libraries do before the program begins is theirs.
+    def first_allocation(self, name):
+        number = 1
+        while self.call(self.calls[name], new=number).returncode == -signal.SIGABRT:
+            number += 1
+        return number
+
+    def first_news(self, count):
+        name = "o.dxf"
+        new, _ = self.whole(name)
+        first = self.first_allocation(name)
+        self.report.check(first < 60, f"the first {first - 1} allocations end it")
+        for beginning in (None, "floorplan.dxf", *(f"]: {tool}" for tool in TOOLS), ": 777"):
+            for number in range(first if beginning is None else 1, count + (first if beginning is None else 1)):
+                reached = self.without_memory(name, number, new, beginning)
+                self.report.check(reached or number > 1, f"nothing is allocated from {beginning} on")
+        print(f"statuses after {sum(self.statuses.values())} failed allocations:",
+              ", ".join(f"{status}: {times}" for status, times in sorted(self.statuses.items())))
 
 
 def main():
@@ -145,13 +195,20 @@ def main():
     parser.add_argument("program")
     parser.add_argument("compiler")
     parser.add_argument("--kills", type=int, default=3)
-    parser.add_argument("--news", type=int, default=10)
+    parser.add_argument("--news", type=int, default=6)
+    parser.add_argument("--points", type=int, default=3)
+    parser.add_argument("--only", choices=("calls", "kills", "news"), help="one kind of failure alone")
     chosen = parser.parse_args()
     with tempfile.TemporaryDirectory() as scratch:
         torn = Torn(chosen.program, chosen.compiler, pathlib.Path(scratch))
-        torn.spoilt_calls()
-        torn.kills(chosen.kills)
-        torn.without_memory(chosen.news)
+        if chosen.only in (None, "calls"):
+            torn.left_behind()
+            torn.spoilt_calls()
+        if chosen.only in (None, "kills"):
+            torn.kills(chosen.kills)
+        if chosen.only in (None, "news"):
+            torn.random_news(chosen.news)
+            torn.first_news(chosen.points)
         torn.report.finish()
 
 

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace orvex {
+
+// From now on a program that runs out of memory where nothing can be caught (in a function of a
+// library that may not throw, before main) says so and ends with that status, without its
+// temporary files, where it would end by an abort. `program` is for the message, and outlives it.
+void sayWhenMemoryEnds(const char* program, int status);
+
+} // namespace orvex
