@@ -132,26 +132,26 @@ void VertexText::addVertex(std::size_t vertex, std::size_t oldVertex) {
 
 void VertexText::addList(std::size_t vertex, std::size_t oldVertex, std::size_t index) {
     const auto values = listOf(m_content, vertex, index);
-    const MlineLayout::List* const list =
-        oldVertex == MlineLayout::kNone ? nullptr : m_layout.list(oldVertex, index);
-    const auto oldValues =
-        list != nullptr ? listOf(m_old, oldVertex, index) : std::span<const double>();
+    const MlineLayout::List list =
+        oldVertex == MlineLayout::kNone ? MlineLayout::List() : m_layout.list(oldVertex, index);
+    const bool isOld = list.count != MlineLayout::kNone;
+    const auto oldValues = isOld ? listOf(m_old, oldVertex, index) : std::span<const double>();
     const std::string count = std::to_string(values.size());
-    if (list != nullptr) {
-        addOld(list->count, values.size() == oldValues.size() ? nullptr : &count);
+    if (isOld) {
+        addOld(list.count, values.size() == oldValues.size() ? nullptr : &count);
     } else {
         m_text.add(countCode(index), count);
     }
     const Alignment oldIndex{oldValues, values};
     for (std::size_t i = 0; i < values.size(); ++i) {
-        const std::size_t old = list != nullptr ? oldIndex(i) : MlineLayout::kNone;
+        const std::size_t old = isOld ? oldIndex(i) : MlineLayout::kNone;
         if (old == MlineLayout::kNone) {
             m_text.addReal(valueCode(index), values[i]);
         } else if (sameBits(values[i], oldValues[old])) {
-            addOld(list->values[old], nullptr);
+            addOld(list.values[old], nullptr);
         } else {
             const std::string value = realText(values[i]);
-            addOld(list->values[old], &value);
+            addOld(list.values[old], &value);
         }
     }
 }
@@ -181,13 +181,13 @@ MlineLayout::MlineLayout(const std::vector<Tag>& tags)
         if (role == MlineRole::vertex) {
             if (tags[i].code == kCodes[0]) {
                 m_coordinates.emplace_back().fill(kNone);
-                m_lists.emplace_back();
+                m_firstLists.push_back(m_lists.size());
             }
             m_coordinates.back()[placeOf(tags[i].code)] = i;
         } else if (role == MlineRole::lineCount || role == MlineRole::areaCount) {
-            m_lists.back().push_back({i, {}});
+            m_lists.push_back({i, m_values.size()});
         } else {
-            m_lists.back().back().values.push_back(i);
+            m_values.push_back(i);
         }
     }
     if (m_end == 0) {
@@ -208,17 +208,23 @@ std::size_t MlineLayout::behindExtras(std::size_t tag) const {
     return tag;
 }
 
-const MlineLayout::List* MlineLayout::list(std::size_t vertex, std::size_t index) const {
-    return index < m_lists[vertex].size() ? &m_lists[vertex][index] : nullptr;
+MlineLayout::List MlineLayout::list(std::size_t vertex, std::size_t index) const {
+    const std::size_t at = m_firstLists[vertex] + index;
+    const std::size_t end =
+        vertex + 1 < m_firstLists.size() ? m_firstLists[vertex + 1] : m_lists.size();
+    if (at >= end) {
+        return {};
+    }
+    const std::size_t first = m_lists[at].values;
+    const std::size_t last = at + 1 < m_lists.size() ? m_lists[at + 1].values : m_values.size();
+    return {m_lists[at].count, std::span(m_values).subspan(first, last - first)};
 }
 
 void editVertices(RecordEdit& edit, const MlineLayout& layout, const MlineContent& old,
                   const MlineContent& content) {
     VertexText text(edit, layout, old, content);
     edit.insertAfter(layout.verticesBegin() - 1, text.run());
-    for (std::size_t tag = layout.verticesBegin(); tag < layout.verticesEnd(); ++tag) {
-        edit.remove(tag);
-    }
+    edit.remove(layout.verticesBegin(), layout.verticesEnd());
 }
 
 void writeVertices(TagText& target, const MlineContent& content) {

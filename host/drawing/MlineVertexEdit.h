@@ -28,20 +28,27 @@ public:
 
     struct List {
         std::size_t count = kNone; // tag
-        std::vector<std::size_t> values;
+        std::span<const std::size_t> values;
     };
     [[nodiscard]] std::size_t coordinate(std::size_t vertex, std::size_t place) const {
         return m_coordinates[vertex][place];
     }
-    // Lists of lines and of areas in turn. Null when there is none.
-    [[nodiscard]] const List* list(std::size_t vertex, std::size_t index) const;
+    // Lists of lines and of areas in turn. Without a count when there is none.
+    [[nodiscard]] List list(std::size_t vertex, std::size_t index) const;
 
 private:
     std::size_t m_begin;
     std::size_t m_end = 0;
     std::vector<bool> m_isExtra;
+    // A record may have millions of vertices, so all is flat.
+    struct FlatList {
+        std::size_t count;
+        std::size_t values; // in m_values, up to the next list's
+    };
     std::vector<std::array<std::size_t, kPlaces>> m_coordinates;
-    std::vector<std::vector<List>> m_lists;
+    std::vector<std::size_t> m_firstLists; // of each vertex, in m_lists
+    std::vector<FlatList> m_lists;
+    std::vector<std::size_t> m_values;
 };
 
 // Puts the vertices of `content` in the place of those of `old`, which are the record's.

@@ -2,10 +2,14 @@
 
 #include "NumberText.h"
 
+#include <algorithm>
+
 namespace orvex {
 
 RecordEdit::RecordEdit(std::string_view bytes, std::size_t begin, std::size_t end)
     : m_bytes(bytes), m_begin(begin), m_end(end), m_format(TagFormat::of(bytes, begin)) {
+    const auto lines = std::ranges::count(bytes.substr(begin, end - begin), '\n');
+    m_tags.reserve(static_cast<std::size_t>(lines) / 2 + 1); // a record may have millions
     TagReader reader(bytes, begin, end);
     Tag tag;
     while (reader.next(tag) == TagReader::Result::tag) {
@@ -13,21 +17,18 @@ RecordEdit::RecordEdit(std::string_view bytes, std::size_t begin, std::size_t en
     }
 }
 
-RecordEdit::Change& RecordEdit::change(std::size_t tag) {
-    m_changes.resize(m_tags.size());
-    return m_changes[tag];
-}
-
 void RecordEdit::replace(std::size_t tag, std::string_view value) {
-    change(tag).lines = lines(tag, value);
+    m_changes[tag].lines = lines(tag, value);
 }
 
-void RecordEdit::remove(std::size_t tag) {
-    change(tag).removed = true;
+void RecordEdit::remove(std::size_t from, std::size_t to) {
+    if (from < to) {
+        m_changes[from].removed = to - from;
+    }
 }
 
 void RecordEdit::insertAfter(std::size_t tag, std::string_view lines) {
-    change(tag).after += lines;
+    m_changes[tag].after += lines;
 }
 
 std::string RecordEdit::lines(std::size_t tag, std::string_view value) const {
@@ -94,20 +95,29 @@ std::string RecordEdit::text() const {
     }
     std::string text;
     text.reserve(m_end - m_begin);
-    for (std::size_t i = 0; i < m_tags.size(); ++i) {
-        const Change& change = m_changes[i];
+    std::size_t next = 0; // the first tag that is neither in `text` nor passed over
+    const auto keepUpTo = [&](std::size_t tag) {
+        if (next < tag) {
+            text += m_bytes.substr(m_tags[next].begin, m_tags[tag - 1].end - m_tags[next].begin);
+            next = tag;
+        }
+    };
+    for (const auto& [tag, change] : m_changes) {
+        keepUpTo(tag);
         if (change.lines) {
             text += *change.lines;
-        } else if (!change.removed) {
-            text += m_bytes.substr(m_tags[i].begin, m_tags[i].end - m_tags[i].begin);
+            next = std::max(next, tag + 1);
         }
+        next = std::max(next, change.removed > 0 ? tag + change.removed : next);
         if (!change.after.empty()) {
+            keepUpTo(tag + 1);
             if (!text.empty() && !text.ends_with('\n')) {
                 text += m_format.lineEnd;
             }
             text += change.after;
         }
     }
+    keepUpTo(m_tags.size());
     return text;
 }
 

@@ -4,6 +4,7 @@
 #include "TagText.h"
 
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,7 +24,8 @@ public:
 
     // A number keeps the width that it was padded to.
     void replace(std::size_t tag, std::string_view value);
-    void remove(std::size_t tag);
+    void remove(std::size_t tag) { remove(tag, tag + 1); }
+    void remove(std::size_t from, std::size_t to); // the tags [from, to)
     void insertAfter(std::size_t tag, std::string_view lines);
 
     // Brings the fields among the tags [from, to) from what they say to what they should say. A
@@ -39,7 +41,7 @@ public:
 
 private:
     struct Change {
-        bool removed = false;
+        std::size_t removed = 0; // tags from this one on
         std::optional<std::string> lines;
         std::string after;
     };
@@ -51,8 +53,7 @@ private:
     std::size_t m_end;
     std::vector<Tag> m_tags;
     TagFormat m_format;
-    std::vector<Change> m_changes; // one a tag, made at the first change
-    Change& change(std::size_t tag);
+    std::map<std::size_t, Change> m_changes; // by tag
 };
 
 // Behind the group in braces (code 102) that begins at tag `at`; at + 1 for any other tag.

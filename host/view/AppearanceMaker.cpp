@@ -11,7 +11,7 @@ namespace {
 
 // Of all inserts of a walk, about in points. A file can name a block that comes to millions of
 // entities any number of times; the later ones then show their beginnings only.
-constexpr std::int64_t kMostWalkWork = 1'000'000'000;
+constexpr std::int64_t kMostWalkWork = 200'000'000;
 
 } // namespace
 
