@@ -23,6 +23,7 @@ void DeskDrawing::replace(std::unique_ptr<DrawingFile> file, const QString& path
     m_path = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
     m_file = fileState();
     m_savedMark = m_session->drawing().contentMark();
+    m_isRecovered = false;
 }
 
 DeskDrawing::FileState DeskDrawing::fileState() const {
@@ -42,7 +43,8 @@ QString DeskDrawing::name() const {
 }
 
 bool DeskDrawing::isChanged() const {
-    return m_session != nullptr && m_session->drawing().contentMark() != m_savedMark;
+    return m_session != nullptr &&
+           (m_isRecovered || m_session->drawing().contentMark() != m_savedMark);
 }
 
 bool DeskDrawing::wasEdited() {
@@ -56,8 +58,21 @@ std::optional<Failure> DeskDrawing::save(const QString& path) {
         m_path = QFileInfo(path).absoluteFilePath();
         m_file = fileState();
         m_savedMark = drawing.contentMark();
+        m_isRecovered = false;
     }
     return failure;
+}
+
+AutosavedDrawing DeskDrawing::original() const {
+    const bool isThere = m_file.written.isValid();
+    return {m_path.toStdString(), isThere ? m_file.written.toMSecsSinceEpoch() : -1, m_file.size};
+}
+
+void DeskDrawing::setUnsaved(const AutosavedDrawing& original) {
+    m_isRecovered = true;
+    m_file = original.written >= 0
+                 ? FileState{QDateTime::fromMSecsSinceEpoch(original.written), original.size}
+                 : FileState();
 }
 
 QString DeskDrawing::currentStyle() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AutosaveStore.h"
 #include "ChangeFeed.h"
 #include "DrawingFile.h"
 #include "ModuleLoader.h"
@@ -42,6 +43,11 @@ public:
     [[nodiscard]] bool wasWrittenElsewhere() const;
     std::optional<Failure> save(const QString& path);
 
+    // For an autosave, and for the drawing that was opened from one: it differs from its file,
+    // which may have been written elsewhere since.
+    [[nodiscard]] AutosavedDrawing original() const;
+    void setUnsaved(const AutosavedDrawing& original);
+
     [[nodiscard]] QString currentStyle() const;
 
 private:
@@ -61,6 +67,7 @@ private:
     QString m_path;
     FileState m_file; // as it was opened or saved
     std::size_t m_savedMark = 0;
+    bool m_isRecovered = false; // and not saved since
 };
 
 } // namespace orvex

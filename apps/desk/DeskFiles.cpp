@@ -1,6 +1,7 @@
 #include "DeskFiles.h"
 
 #include "fileKind.h"
+#include "leftBehind.h"
 #include "pictureWriter.h"
 
 #include <QApplication>
@@ -60,6 +61,7 @@ bool DeskFiles::openFile(const QString& path) {
         report(tr("The drawing can't be opened."), tr("%1 is %2 and no file.").arg(path, kind));
         return false;
     }
+    removeLeftBehind(QFileInfo(path).absolutePath().toStdString());
     auto opened = m_opener.open(path);
     if (!opened) {
         if (opened.failure().cause == FailureCause::interrupted) {
@@ -77,6 +79,19 @@ bool DeskFiles::openFile(const QString& path) {
     reportWarnings(file->warnings(), path);
     m_take(std::move(file), path);
     emit used(path);
+    return true;
+}
+
+bool DeskFiles::recover(const AutosavedDrawing& original, const QString& autosave) {
+    auto opened = m_opener.open(autosave);
+    if (!opened) {
+        report(tr("The autosave can't be opened."),
+               QString::fromStdString(messageOf(opened.failure())));
+        return false;
+    }
+    m_take(std::move(*opened), QString::fromStdString(original.path));
+    m_drawing.setUnsaved(original);
+    emit printed(tr("Recovered %1, which isn't saved yet").arg(m_drawing.name()));
     return true;
 }
 

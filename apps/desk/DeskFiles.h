@@ -27,10 +27,12 @@ public:
         : m_window(window), m_drawing(drawing), m_settings(settings), m_take(std::move(take)),
           m_opener(window) {}
 
-    // These three let the drawing go; whether it may has been asked.
+    // These let the drawing go; whether it may has been asked.
     void newDrawing();
     void askAndOpen();
     void open(const QString& path);
+    // Opens an autosave as an unsaved state of its drawing; false when it can't be read.
+    bool recover(const AutosavedDrawing& original, const QString& autosave);
     bool save(); // false when it isn't saved
     bool saveAs();
     void exportPicture();

@@ -30,6 +30,7 @@ public:
     static constexpr const wchar_t* kPictureFolder = L"PictureFolder";
     static constexpr const wchar_t* kUndoMemory = L"UndoMemory"; // MiB
     static constexpr const wchar_t* kLanguage = L"Language";     // "de"; empty for the system's
+    static constexpr const wchar_t* kAutosave = L"Autosave";     // seconds; 0 for none
     static constexpr const wchar_t* kScriptFolder = L"ScriptFolder";
 };
 

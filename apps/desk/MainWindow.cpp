@@ -48,6 +48,8 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
       m_commandLine(new CommandLine(this)),
       m_menus(*this, [this](const DeskAct& act) { perform(act); }),
       m_join(new JoinDesk(*this, *m_canvas, m_runner, m_prompts)),
+      m_autosave(
+          new AutosaveDesk(*this, m_drawing, m_files, m_leave, m_runner, m_prompts, m_settings)),
       m_undo(new UndoDesk(*this, *m_canvas, m_runner, m_prompts, m_settings)),
       m_play(new PlayScript(*this, m_runner, m_settings)),
       m_pasted(new PastedLines(this, m_runner, m_prompts,
@@ -107,6 +109,7 @@ void MainWindow::connectCommandLine() {
     connect(m_drawBar, &DrawBar::left, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(m_properties, &PropertyDesk::left, m_commandLine,
             [this] { m_commandLine->setFocus(); });
+    connect(m_autosave, &AutosaveDesk::complained, m_commandLine, &CommandLine::complain);
     connect(m_undo, &UndoDesk::printed, m_commandLine, &CommandLine::print);
     connect(&m_prompts, &DeskPrompts::printed, m_commandLine, &CommandLine::print);
     connect(m_play, &PlayScript::printed, m_commandLine, &CommandLine::print);
@@ -212,6 +215,7 @@ void MainWindow::post(std::function<void()> task) {
 }
 
 void MainWindow::takeDrawing(std::unique_ptr<DrawingFile> file, const QString& path) {
+    m_autosave->drop();
     m_canvas->setSession(nullptr);
     m_runner.setSession(nullptr);
     m_properties->dropSession();
@@ -270,6 +274,10 @@ void MainWindow::perform(WindowAct act) {
         return post([this] { m_files.saveAs(); });
     case WindowAct::exportPicture:
         return post([this] { m_files.exportPicture(); });
+    case WindowAct::recover:
+        return m_autosave->offerOrSayNone();
+    case WindowAct::autosave:
+        return m_autosave->askPause();
     case WindowAct::playScript:
         return m_play->askAndPlay();
     case WindowAct::saveHistory:
@@ -386,6 +394,7 @@ void MainWindow::showDuringCommand() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (m_mayClose || (!m_runner.isBusy() && m_files.mayLeave())) {
+        m_autosave->drop();
         storePlace();
         event->accept();
         return;

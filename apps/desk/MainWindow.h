@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AutosaveDesk.h"
 #include "ChangeMark.h"
 #include "CommandRunner.h"
 #include "DeskDrawing.h"
@@ -46,6 +47,8 @@ public:
 
     // Opens a drawing as soon as nothing else runs, and changes to the one before were asked about.
     void open(const QString& path);
+    // Asks about what windows that died left unsaved, as soon as this one is shown.
+    void offerAutosaves() { QTimer::singleShot(0, m_autosave, &AutosaveDesk::offer); }
     // Starts a command as if it was typed.
     void start(const QString& command, const QStringList& answers = {});
 
@@ -97,6 +100,7 @@ private:
     CommandLine* m_commandLine;
     DeskMenus m_menus;
     JoinDesk* m_join;
+    AutosaveDesk* m_autosave;
     UndoDesk* m_undo;
     PlayScript* m_play;
     PastedLines* m_pasted;

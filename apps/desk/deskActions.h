@@ -16,6 +16,8 @@ enum class WindowAct : std::uint8_t {
     save,
     saveAs,
     exportPicture,
+    recover,
+    autosave,
     playScript,
     saveHistory,
     exit,

@@ -5,6 +5,7 @@
 #include "MainWindow.h"
 #include "ResourceLibraries.h"
 #include "deskLanguage.h"
+#include "memoryEnd.h"
 #include "moduleFiles.h"
 #include "resourceLibrary.h"
 
@@ -20,6 +21,10 @@ namespace orvex {
 namespace {
 
 enum ExitStatus { kDone = 0, kFailed = 1, kWrongCall = 2 };
+
+[[gnu::constructor(101)]] void prepareForMemoryEnd() {
+    sayWhenMemoryEnds("orvex-desk", kFailed);
+}
 
 void complain(const std::string& text) {
     std::fprintf(stderr, "orvex-desk: %s\n", text.c_str());
@@ -72,6 +77,7 @@ int showWindow(const DeskCall& call, int argc, char** argv) {
     if (call.drawing) {
         window.open(QString::fromStdString(*call.drawing));
     }
+    window.offerAutosaves();
     return QApplication::exec();
 }
 

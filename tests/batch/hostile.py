@@ -70,6 +70,29 @@ def with_styles(count):
     return text[:entry] + entries + text[entry:end] + records + text[end:]
 
 
+def chain(count):
+    """One multiline of that many vertices, a zigzag, and a wall that crosses its first segment."""
+    document = ezdxf.new("R2000")
+    for points in ([(0, 0), (10, 5)], [(5, -50), (5, 50)]):
+        document.modelspace().add_mline(points, dxfattribs={"justification": 1})
+    text = text_of(document)
+    start = text.index("\n 11\n", text.index("\nMLINE\n")) + 1
+    end = text.index("\n  0\n", start) + 1
+    cosine, sine = 2 / 5**0.5, 1 / 5**0.5
+    stretch = 1 / cosine  # of offsets along a miter between two segments
+
+    def vertex(k):
+        rise = sine if k % 2 == 0 else -sine
+        is_end = k in (0, count - 1)
+        rise = -rise if k == count - 1 else rise
+        miter, offset = ((-rise, cosine), 0.5) if is_end else ((0.0, 1.0), 0.5 * stretch)
+        elements = "".join(f" 74\n2\n 41\n{value}\n 41\n0.0\n 75\n0\n" for value in (offset, -offset))
+        return (f" 11\n{10.0 * k}\n 21\n{5.0 * (k % 2)}\n 31\n0.0\n 12\n{cosine}\n 22\n{rise}\n 32\n0.0\n"
+                f" 13\n{miter[0]}\n 23\n{miter[1]}\n 33\n0.0\n{elements}")
+
+    return with_value(text[:start] + "".join(map(vertex, range(count))) + text[end:], "MLINE", 72, str(count))
+
+
 class Hostile:
     def __init__(self, program, folder):
         self.program, self.folder = program, folder
@@ -120,6 +143,18 @@ class Hostile:
                 script = answer.replace("{}", big).encode()
                 self.play(f"{what} name of a megabyte, {answer[:12]!r}", drawing, script, (0, 5), ("run",), 60)
 
+    def long_chain(self, count, factor):
+        """Each tool on a chain of so many vertices."""
+        drawing = chain(count).encode()
+        on, off = b"1,0.5\n", b"5,-20\n"
+        picks = {"CC": on + off, "OC": on + off, "MC": on + off, "CT": off + on, "OT": off + on, "MT": off + on, "CJ": on + off,
+                 "AV": on, "DV": b"11,4.5\n", "CS": on + b"3,1.5\n", "CA": on + b"3,1.5\n", "WA": on + b"3,1.5\n"}
+        for tool, places in picks.items():
+            script = b"ZOOM\nC\n20,5\n200\n-MLEDIT\n" + tool.encode() + b"\n" + places
+            self.play(f"{tool} on {count} vertices", drawing, script, verbs=("run",), factor=factor)
+        script = b"ZOOM\nC\n20,5\n200\nMOVE\nALL\n\n0,0\n1,1\nU\nREVERSE\nALL\n\nLIST\nALL\n\n"
+        self.play(f"commands on {count} vertices", drawing, script, (0, 5), ("list", "show", "join", "audit", "run"), factor)
+
     def many(self, count, length):
         self.play(f"{count} styles", with_styles(count), f"MLINE\nST\nS{count // 2}\nST\nnone\n".encode(), (0, 5), factor=30)
         flat = text_of(plan()).encode()
@@ -144,6 +179,7 @@ def main():
         hostile.blocks()
         hostile.numbers()
         hostile.names()
+        hostile.long_chain(*((1_000_000, 14) if chosen.large else (20_000, 20)))
         hostile.many(*((100_000, 100_000_000) if chosen.large else (3_000, 2_000_000)))
         hostile.report.finish()
 

@@ -26,6 +26,7 @@ public:
         // The cache folder stays the user's: fontconfig would search all fonts anew each time.
         setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
         setenv("XDG_DATA_HOME", folder.c_str(), 1);
+        setenv("XDG_STATE_HOME", folder.c_str(), 1);
         setenv("XDG_RUNTIME_DIR", folder.c_str(), 1);
         unsetenv("ORVEX_ROOT");
         // No test depends on the screen it happens to run on; one that wants a screen says which.

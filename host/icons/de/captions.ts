@@ -1807,6 +1807,45 @@
         <source>a device</source>
         <translation>ein Gerät</translation>
     </message>
+    <message>
+        <source>the user has no home folder</source>
+        <translation>der Benutzer hat keinen persönlichen Ordner</translation>
+    </message>
+    <message>
+        <source>Re&amp;cover...</source>
+        <translation>&amp;Wiederherstellen...</translation>
+    </message>
+    <message>
+        <source>Open what a window that ended by a fault had not saved</source>
+        <translation>Öffnet, was ein durch einen Fehler beendetes Fenster nicht gespeichert hatte</translation>
+    </message>
+    <message>
+        <source>Au&amp;tosave...</source>
+        <translation>Au&amp;tomatisch sichern...</translation>
+    </message>
+    <message>
+        <source>How soon unsaved work is kept against faults</source>
+        <translation>Wie bald nicht Gespeichertes gegen Fehler gesichert wird</translation>
+    </message>
+</context>
+<context>
+    <name>orvex::AutosaveDesk</name>
+    <message>
+        <source>No autosave: %1</source>
+        <translation>Nicht automatisch gesichert: %1</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>Es gibt nichts wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>Autosave</source>
+        <translation>Automatisch sichern</translation>
+    </message>
+    <message>
+        <source>Seconds without input after which unsaved work is kept; 0 for never:</source>
+        <translation>Sekunden ohne Eingabe, nach denen nicht Gespeichertes gesichert wird; 0 für nie:</translation>
+    </message>
 </context>
 <context>
     <name>orvex::Canvas</name>
@@ -1926,6 +1965,14 @@
         <source>Warning: %1</source>
         <translation>Warnung: %1</translation>
     </message>
+    <message>
+        <source>The autosave can&apos;t be opened.</source>
+        <translation>Die Sicherung kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Recovered %1, which isn&apos;t saved yet</source>
+        <translation>%1 ist wiederhergestellt und noch nicht gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>orvex::DrawBar</name>
@@ -2011,6 +2058,17 @@
     <message>
         <source>Go back to the bars, panels, canvas or command line before</source>
         <translation>Zurück zu den Leisten, Bedienfeldern, der Zeichenfläche oder Befehlszeile davor</translation>
+    </message>
+</context>
+<context>
+    <name>orvex::ForkedSave</name>
+    <message>
+        <source>not enough memory</source>
+        <translation>zu wenig Speicher</translation>
+    </message>
+    <message>
+        <source>the process that saved it ended by a fault</source>
+        <translation>der Prozess, der sicherte, endete durch einen Fehler</translation>
     </message>
 </context>
 <context>
@@ -2375,6 +2433,57 @@ Was nicht bearbeitet wird, wird Byte für Byte gespeichert.</translation>
     <message>
         <source>&apos;%1&apos; is no scale.</source>
         <translation>„%1“ ist kein Maßstab.</translation>
+    </message>
+</context>
+<context>
+    <name>orvex::RecoverDialog</name>
+    <message>
+        <source>, before its file was written</source>
+        <translation>, bevor die Datei geschrieben wurde</translation>
+    </message>
+    <message>
+        <source>Unnamed drawing</source>
+        <translation>Unbenannte Zeichnung</translation>
+    </message>
+    <message>
+        <source>Recover drawings</source>
+        <translation>Zeichnungen wiederherstellen</translation>
+    </message>
+    <message>
+        <source>A window ended before these drawings were saved. Their files are as they were saved last; what was done since then was kept at the times below.</source>
+        <translation>Ein Fenster endete, bevor diese Zeichnungen gespeichert waren. Ihre Dateien sind, wie sie zuletzt gespeichert wurden; was seitdem getan wurde, wurde zu den Zeiten unten gesichert.</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Zeichnung</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>Gesichert</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>&amp;Verwerfen...</translation>
+    </message>
+    <message>
+        <source>Ask &amp;Later</source>
+        <translation>&amp;Später fragen</translation>
+    </message>
+    <message>
+        <source>Orvex</source>
+        <translation>Orvex</translation>
+    </message>
+    <message>
+        <source>What was kept of %1 will be lost.</source>
+        <translation>Was von %1 gesichert wurde, geht verloren.</translation>
     </message>
 </context>
 <context>
