@@ -35,7 +35,7 @@ QString languageFor(const QString& setting, const QStringList& usersLanguages) {
         return setting;
     }
     for (const QString& each : usersLanguages) {
-        const QString code = each.section('-', 0, 0).section('_', 0, 0);
+        QString code = each.section('-', 0, 0).section('_', 0, 0);
         if (isThere(code)) {
             return code;
         }
