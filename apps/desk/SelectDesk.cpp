@@ -149,9 +149,10 @@ void SelectDesk::pick(double x, double y, bool takesAway) {
     const QStringList lines =
         pickLines(progress.value_or(SelectionProgress()), {x, y}, found->handle, takesAway,
                   m_session->view().unitsPerPixel());
-    if (m_prompts.request() != nullptr) {
+    const PromptRequest* const request = m_prompts.request();
+    if (request != nullptr && request->kind == PromptKind::selection) {
         m_prompts.answerLines(lines);
-    } else {
+    } else { // nothing is taken while a command asks for something else
         take({found}, takesAway, lines);
     }
 }

@@ -3,6 +3,7 @@
 #include "KdDbStub.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orvex {
 
@@ -61,8 +62,17 @@ void HandleIndex::build(std::deque<KdDbStub>& stubs) {
     if (!std::is_sorted(m_sorted.begin(), m_sorted.end(), isBelow)) {
         std::stable_sort(m_sorted.begin(), m_sorted.end(), isBelow);
     }
-    const auto isSame = [](const Entry& a, const Entry& b) { return a.handle == b.handle; };
-    m_sorted.erase(std::unique(m_sorted.begin(), m_sorted.end(), isSame), m_sorted.end());
+    // Of each handle the first that isn't erased, else the first.
+    auto kept = m_sorted.begin();
+    for (const Entry& each : m_sorted) {
+        const bool isNew = kept == m_sorted.begin() || std::prev(kept)->handle != each.handle;
+        if (isNew) {
+            *kept++ = each;
+        } else if (std::prev(kept)->stub->erased && !each.stub->erased) {
+            *std::prev(kept) = each;
+        }
+    }
+    m_sorted.erase(kept, m_sorted.end());
 }
 
 } // namespace orvex

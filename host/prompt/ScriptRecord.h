@@ -20,7 +20,7 @@ public:
 
     // Whether it does all of it.
     [[nodiscard]] bool isWhole() const { return m_isWhole; }
-    [[nodiscard]] bool isEmpty() const { return m_lines.empty(); }
+    [[nodiscard]] std::size_t lineCount() const { return m_lines.size(); }
     // UTF-8, each line with its end.
     [[nodiscard]] std::string text() const;
 

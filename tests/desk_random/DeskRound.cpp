@@ -18,7 +18,7 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <functional>
+#include <map>
 #include <memory>
 
 namespace orvex::testing {
@@ -123,6 +123,7 @@ private:
             return;
         }
         ++m_result.events;
+        noteState();
         m_lastAct = m_user->act().toStdString();
         if (m_plan.log != nullptr) {
             std::fprintf(m_plan.log, "%d %s\n", m_result.events, m_lastAct.c_str());
@@ -158,6 +159,13 @@ private:
         m_application.takeLongest(); // a check is nobody's event
     }
 
+    // What the drawing is between two commands.
+    void noteState() {
+        if (!m_window->isBusy()) {
+            m_states[m_window->session()->record().lineCount()] = bytes();
+        }
+    }
+
     void replay() {
         const ScriptRecord& record = m_window->session()->record();
         m_result.isReplayed = record.isWhole();
@@ -172,30 +180,32 @@ private:
                                                : std::move(*DrawingFile::openBytes(m_original));
         setup.source = &source;
         Session session(std::move(setup), m_modules);
-        while (!source.atEnd()) {
+        while (!source.atEnd() && m_result.faults.empty()) {
             const std::wstring command = session.askCommand();
             const auto failure = command.empty() ? std::nullopt : session.run(command);
+            const std::string line = "line " + std::to_string(source.line()) + " of the history: ";
             if (failure) {
-                fault("line " + std::to_string(source.line()) +
-                      " of the history: " + messageOf(*failure));
+                fault(line + messageOf(*failure));
+            } else if (source.failure()) {
+                fault(line + messageOf(*source.failure()));
+            } else if (const auto state = m_states.find(source.line()); state != m_states.end()) {
+                expectSame(session.drawing().bytes(), state->second, line);
             }
         }
-        if (source.failure()) {
-            fault("the history as a script: " + messageOf(*source.failure()));
-        }
-        const std::string played = session.drawing().bytes();
-        if (played != m_reached) {
-            fault("the history played: " + differenceOf(played, m_reached));
-        }
-        if (!m_result.faults.empty() && m_plan.log != nullptr) {
+        if (m_result.faults.empty()) {
+            expectSame(session.drawing().bytes(), m_reached, "the whole history: ");
+        } else if (m_plan.log != nullptr) {
             std::fprintf(m_plan.log, "---- the history ----\n%s", script.c_str());
         }
     }
 
     void trigger(const char* action) { m_window->findChild<QAction*>(action)->trigger(); }
     void expectBytes(const std::string& expected, const char* when) {
-        if (const std::string now = bytes(); now != expected) {
-            fault(std::string(when) + ": " + differenceOf(now, expected));
+        expectSame(bytes(), expected, std::string(when) + ": ");
+    }
+    void expectSame(const std::string& is, const std::string& expected, const std::string& what) {
+        if (is != expected) {
+            fault(what + differenceOf(is, expected));
         }
     }
     void fault(const std::string& what) {
@@ -218,6 +228,7 @@ private:
     QEventLoop m_loop;
     Phase m_phase = nullptr;
     RoundResult m_result;
+    std::map<std::size_t, std::string> m_states; // by the lines of the history until then
     std::string m_original;
     std::string m_reached;
     std::string m_lastAct;

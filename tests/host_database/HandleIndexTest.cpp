@@ -65,6 +65,22 @@ TEST(Handles, theNextIsAboveTheSeedAndAllHandlesWhileThereIsRoom) {
     EXPECT_EQ(full.core().objects().takeHandle(), 7U);
 }
 
+TEST(Handles, theFirstLookUpFindsTheLiveOneOfThoseThatHadAHandle) {
+    KdDbDatabase database;
+    DatabaseCore& core = database.core();
+    const auto make = [&core]() -> KdDbStub& {
+        core.changes().beginCommand();
+        KdDbStub& stub = core.adopt(std::make_unique<KdDbMline>(), ObjectKind::mline, nullptr);
+        core.changes().endCommand();
+        return stub;
+    };
+    const std::uint64_t handle = make().handle;
+    core.changes().undo();
+    KdDbStub& live = make();
+    ASSERT_EQ(live.handle, handle);
+    EXPECT_EQ(core.objects().findHandle(handle), &live);
+}
+
 TEST(Handles, aHandleGivenAgainLeadsToTheLiveObject) {
     KdDbDatabase database;
     DatabaseCore& core = database.core();
