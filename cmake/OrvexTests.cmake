@@ -123,6 +123,9 @@ function(orvex_fuzzer name)
         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/fuzz
         INSTALL_RPATH ${ORVEX_BESIDE_BIN_RPATH})
     orvex_link_rooms(${name} ${arg_USES})
+    if("orvex::host" IN_LIST arg_USES)
+        orvex_depend_on_run_time_files(${name}) # it loads the module
+    endif()
     if(ORVEX_FUZZ)
         target_link_options(${name} PRIVATE -fsanitize=fuzzer,address)
         set(play -runs=0)
