@@ -160,7 +160,11 @@ QString CommandLine::history() const {
 
 void CommandLine::putBack(const QString& text, int place) {
     m_input->setText(text);
-    m_input->setCursorPosition(place);
+    if (place == 0) {
+        m_input->selectAll(); // what is typed next replaces it
+    } else {
+        m_input->setCursorPosition(place);
+    }
 }
 
 void CommandLine::takeKey(const QKeyEvent& event) {

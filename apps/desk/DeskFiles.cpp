@@ -97,9 +97,9 @@ bool DeskFiles::recover(const AutosavedDrawing& original, const QString& autosav
 
 void DeskFiles::reportWarnings(const std::vector<DrawingWarning>& warnings, const QString& path) {
     for (const DrawingWarning& warning : warnings) {
-        emit printed(tr("Warning: %1")
-                         .arg(QString::fromStdString(
-                             locatedText(path.toStdString(), warning.line, warning.text))));
+        emit complained(tr("Warning: %1")
+                            .arg(QString::fromStdString(
+                                locatedText(path.toStdString(), warning.line, warning.text))));
     }
 }
 
@@ -215,7 +215,7 @@ bool DeskFiles::mayLeave() {
 }
 
 void DeskFiles::report(const QString& what, const QString& why) {
-    emit printed(why);
+    emit complained(why);
     // All in one, for names of files are no markup, and the text below is always looked through for
     // some.
     QMessageBox box(QMessageBox::Critical, tr("Orvex"), what + QLatin1String("\n\n") + why,

@@ -49,6 +49,7 @@ signals:
     void used(const QString& path);    // opened or saved
     void missing(const QString& path); // can't be opened
     void printed(const QString& line);
+    void complained(const QString& line);
     void saved();
     // A drawing was opened, or wasn't.
     void openingEnded(bool isOpen);

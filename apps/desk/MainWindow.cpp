@@ -166,6 +166,7 @@ void MainWindow::connectCanvas() {
 
 void MainWindow::connectFiles() {
     connect(&m_files, &DeskFiles::printed, m_commandLine, &CommandLine::print);
+    connect(&m_files, &DeskFiles::complained, m_commandLine, &CommandLine::complain);
     connect(&m_files, &DeskFiles::used, &m_recent, &RecentFiles::add);
     connect(&m_files, &DeskFiles::missing, &m_recent, &RecentFiles::remove);
     connect(&m_files, &DeskFiles::saved, this, &MainWindow::showChange);
@@ -189,12 +190,12 @@ void MainWindow::loadModule(const std::vector<std::string>& files) {
         std::error_code ignored;
         if (std::filesystem::exists(file, ignored)) {
             if (const auto failure = m_modules.load(file)) {
-                m_commandLine->print(QString::fromStdString(messageOf(*failure)));
+                m_commandLine->complain(QString::fromStdString(messageOf(*failure)));
             }
             return;
         }
     }
-    m_commandLine->print(tr("The module of the multiline commands can't be found."));
+    m_commandLine->complain(tr("The module of the multiline commands can't be found."));
 }
 
 void MainWindow::open(const QString& path) {

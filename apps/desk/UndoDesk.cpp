@@ -89,7 +89,7 @@ void UndoDesk::undo() {
 
 void UndoDesk::redo() {
     if (const PromptRequest* const request = m_prompts.request()) {
-        if (!request->isWithin && m_session->toolWatch().stage() == Stage::first) {
+        if (redoesCycles(*request)) {
             m_prompts.answerText(QStringLiteral("'REDO"));
         }
     } else if (!m_runner.isBusy()) {
@@ -97,16 +97,23 @@ void UndoDesk::redo() {
     }
 }
 
+bool UndoDesk::redoesCycles(const PromptRequest& request) const {
+    return !request.isWithin && m_session->toolWatch().stage() == Stage::first;
+}
+
 bool UndoDesk::takeLine(const QString& line) {
-    if (line.trimmed().compare(QLatin1String("U"), Qt::CaseInsensitive) != 0) {
+    const QString word = line.trimmed().toUpper();
+    const bool isUndo = word == QLatin1String("U");
+    const PromptRequest* const request = m_prompts.request();
+    if (!isUndo &&
+        (word != QLatin1String("REDO") || request == nullptr || !redoesCycles(*request))) {
         return false;
     }
-    const PromptRequest* const request = m_prompts.request();
-    if (request != nullptr &&
-        (request->kind == PromptKind::text || matchKeyword(request->keywords, L"U").has_value())) {
+    if (request != nullptr && (request->kind == PromptKind::text ||
+                               matchKeyword(request->keywords, toWide(word)).has_value())) {
         return false; // an answer like any other
     }
-    undo();
+    isUndo ? undo() : redo();
     return true;
 }
 

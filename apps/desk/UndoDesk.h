@@ -17,7 +17,7 @@ class DeskSettings;
 class Session;
 struct PromptRequest;
 
-// What undo and redo mean in each state of the window, whether by key, button or a typed U:
+// What undo and redo mean in each state of the window, by key, button or typed as U or REDO:
 //
 // | state                              | undo                                                    |
 // |------------------------------------|---------------------------------------------------------|
@@ -58,6 +58,7 @@ signals:
 
 private:
     void undoAtQuestion(const PromptRequest& request);
+    [[nodiscard]] bool redoesCycles(const PromptRequest& request) const;
     void commandEnded();
     void showNames();
     void applyMemory();

@@ -157,11 +157,11 @@ TEST_F(UndoInWindow, tenTeesAreTakenBackOneByOneAndBroughtBack) {
               }),
         times(10, undo),
         {[this] { EXPECT_FALSE(changes().mark()); }},
-        times(10,
-              [&](int i) {
-                  return std::deque<Step>{trigger("redo"),
-                                          expectState(static_cast<std::size_t>(i + 1))};
-              }),
+        times(
+            10,
+            [&](int i) {
+                return std::deque<Step>{type("REDO"), expectState(static_cast<std::size_t>(i + 1))};
+            }),
         times(4, undo),
         {key(Qt::Key_Return), expectPrompt("Command:"), expectState(6)},
         times(4,
