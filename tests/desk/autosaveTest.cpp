@@ -31,11 +31,14 @@ mode_t modeOf(const fs::path& path) {
 }
 
 // What a desk leaves that dies.
-void leaveAutosave(const AutosavedDrawing& original, const std::string& bytes) {
+void leaveAutosave(const AutosavedDrawing& original, const std::string& bytes,
+                   std::chrono::seconds age = {}) {
     auto entry = AutosaveEntry::make(autosaveFolder());
     ASSERT_TRUE(entry);
     EXPECT_FALSE((*entry).writeOriginal(original));
-    writeFile((*entry).drawingFile(), bytes);
+    const fs::path file = (*entry).drawingFile();
+    writeFile(file, bytes);
+    fs::last_write_time(file, fs::last_write_time(file) - age);
 }
 
 TEST(AutosaveStore, isTakenOverFromTheDeadAlone) {
@@ -182,7 +185,7 @@ TEST_F(AutosaveOfDesk, isOfferedAndOpensAsAnUnsavedChangeOfItsDrawing) {
 TEST_F(AutosaveOfDesk, doesNotReplaceWithoutAWordWhatWasWrittenSince) {
     AutosavedDrawing before = ofPlan();
     before.written -= 5000;
-    leaveAutosave(before, original + "999\nas it was\n");
+    leaveAutosave(before, original + "999\nas it was\n", std::chrono::seconds(5));
     leaveAutosave({}, original);
     play({
         trigger("recover"),
