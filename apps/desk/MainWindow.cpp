@@ -81,6 +81,7 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
 }
 
 MainWindow::~MainWindow() {
+    hide(); // the canvas tells that it loses the focus, as long as those live whom it tells
     m_canvas->setSession(nullptr); // the session goes first
 }
 

@@ -18,6 +18,7 @@
 #include "promptLibrary.h"
 #include "promptStatus.h"
 #include "textCodec.h"
+#include "typedPoint.h"
 #include "userFrame.h"
 
 #include <algorithm>
@@ -96,6 +97,23 @@ std::optional<Entities> askLayer(Session& session) {
     return found;
 }
 
+// The corners of a box are points that were given: "@" means the same after a box that was drawn
+// before the command as after one that answered it.
+void leaveLastCorner(const std::vector<std::wstring>& lines) {
+    KdGePoint3d& lastPoint = PromptSession::current().lastPoint;
+    for (std::size_t i = 0; i + 2 < lines.size(); ++i) {
+        if (lines[i] != L"C" && lines[i] != L"W") {
+            i += lines[i] == L"STYLE" || lines[i] == L"LAYER" ? 1 : 0; // a name follows
+            continue;
+        }
+        i += 2;
+        const PointReading corner = readPoint(lines[i], worldToUser(lastPoint));
+        if (const auto* const typed = std::get_if<TypedPoint>(&corner)) {
+            lastPoint = userToWorld(typed->point);
+        }
+    }
+}
+
 // A selection while it is made.
 class SelectionInProgress {
 public:
@@ -145,6 +163,7 @@ public:
             printLines(prompt() + line);
             m_session.record().line(line);
         }
+        leaveLastCorner(lines);
         take(chosen);
     }
 

@@ -42,8 +42,8 @@ TEST_F(SelectFixture, whatIsSelectedByHandServesTheNextCommand) {
                                marks(2),
                                type("MOVE"),
                                selects(2),
-                               type("0,0"),
-                               type("0,-250"),
+                               type("@"), // the window's last corner
+                               type("760,-300"),
                                marks(0),
                                trigger("selectPrevious"),
                                type("COPY"),

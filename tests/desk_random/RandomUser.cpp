@@ -31,7 +31,7 @@ namespace orvex::testing {
 namespace {
 
 // Leave the drawing, or ask for files.
-const QStringList kLeftAlone{"new",    "open",       "exit",   "saveAs",
+const QStringList kLeftAlone{"new",    "open",       "exit",   "saveAs",    "recover",
                              "export", "playScript", "recent", "undoMemory"};
 
 template <class Item, class Test>
