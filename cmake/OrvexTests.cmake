@@ -8,7 +8,7 @@
 #       "TestPaths.h" says where the source tree and bin/ are. Each process has a temporary folder and settings of its
 #       own, removed at its end, and the offscreen platform unless QT_QPA_PLATFORM says otherwise.
 #
-#   orvex_script_test(<name> SCRIPT <file> [ARGS <argument>...] [TIMEOUT <seconds>])
+#   orvex_script_test(<name> SCRIPT <file> [ARGS <argument>...])
 #       A Python script that is a test: 0 is passed.
 #
 #   orvex_benchmark(<name> SOURCES <file>... [USES <target>...])
@@ -73,17 +73,14 @@ function(orvex_test name)
 endfunction()
 
 function(orvex_script_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "SCRIPT;TIMEOUT" "ARGS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "SCRIPT" "ARGS")
     orvex_refuse_rest("orvex_script_test(${name})" "${arg_UNPARSED_ARGUMENTS}" "${arg_KEYWORDS_MISSING_VALUES}")
     if(NOT ORVEX_BUILD_TESTS)
         return()
     endif()
-    if(NOT arg_TIMEOUT)
-        set(arg_TIMEOUT ${ORVEX_TEST_TIMEOUT})
-    endif()
     add_test(NAME ${name} COMMAND ${ORVEX_PYTHON} ${CMAKE_CURRENT_SOURCE_DIR}/${arg_SCRIPT} ${arg_ARGS})
     set_tests_properties(${name} PROPERTIES
-        LABELS ${name} TIMEOUT ${arg_TIMEOUT} ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+        LABELS ${name} TIMEOUT ${ORVEX_TEST_TIMEOUT} ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 endfunction()
 
 function(orvex_benchmark name)

@@ -133,10 +133,6 @@ bool ChangeLog::rollBackToMark() {
     return m_inCommand && m_undo->rollBack();
 }
 
-bool ChangeLog::restoreMark() {
-    return m_inCommand && m_undo->restoreMark();
-}
-
 bool ChangeLog::rollForward() {
     return m_inCommand && m_undo->rollForward();
 }

@@ -45,7 +45,6 @@ public:
     // Marks of the running command, see UndoLog. Nothing outside of commands.
     bool mark();
     bool rollBackToMark();
-    bool restoreMark();
     bool rollForward();
 
     // Steps, their memory, and what goes with them.

@@ -28,8 +28,6 @@ public:
     KdDbStub& addStub(ObjectKind kind, std::uint64_t handle, std::uint32_t record, KdDbStub* owner);
     // For an object made in memory.
     KdDbStub& makeStub(ObjectKind kind, std::uint64_t handle, KdDbStub* owner);
-    // Announces how many stubs are about to be added.
-    void reserveStubs(std::size_t count) { m_handles.reserve(count); }
 
     [[nodiscard]] std::deque<KdDbStub>& stubs() { return m_stubs; }
     // By handle; the live object where one was erased and its handle given again. Null if none.

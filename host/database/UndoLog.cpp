@@ -135,14 +135,6 @@ bool UndoLog::rollBack() {
     return true;
 }
 
-bool UndoLog::restoreMark() {
-    current().dropWhatIsAsBefore();
-    const bool changed = !current().isEmpty();
-    exchange(current());
-    m_segments.back() = StateImages(m_core);
-    return changed;
-}
-
 bool UndoLog::rollForward() {
     noteNews();
     if (m_rolledBack.empty()) {

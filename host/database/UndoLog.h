@@ -53,8 +53,6 @@ public:
     // Takes back what changed since the last mark; where nothing did, since the one before. False
     // when the drawing is as it was at the command's begin.
     bool rollBack();
-    // Takes back what changed since the last mark and forgets it; false where nothing did.
-    bool restoreMark();
     // Brings again what was rolled back last, until something new is done in the command. What is
     // left of it at the command's end is brought again by redo, unless the command changed nothing
     // and an older step is waiting for that.

@@ -113,10 +113,6 @@ WallEnd JoinWall::endAtEnd(unsigned segment) const {
     return !m_closed && segment + 2 == vertexCount() ? WallEnd::end : WallEnd::none;
 }
 
-unsigned JoinWall::segmentAt(WallEnd end) const {
-    return end == WallEnd::end ? segmentCount() - 1 : 0;
-}
-
 bool JoinWall::capSuppressed(WallEnd end) const {
     return end != WallEnd::none && m_capSuppressed[end == WallEnd::end ? 1 : 0];
 }

@@ -72,8 +72,6 @@ public:
     // The open end of the chain at which a segment begins (or ends), none at a bend.
     [[nodiscard]] WallEnd endAtStart(unsigned segment) const;
     [[nodiscard]] WallEnd endAtEnd(unsigned segment) const;
-    // The segment that has this end.
-    [[nodiscard]] unsigned segmentAt(WallEnd end) const;
     [[nodiscard]] bool capSuppressed(WallEnd end) const;
 
     // The list of an element without its first value, as it is stored.
