@@ -3,6 +3,8 @@
 #include "geometry.h"
 #include "newChain.h"
 
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <random>
 
@@ -124,5 +126,17 @@ private:
 
     std::mt19937 m_random;
 };
+
+// 2000 of them, each with its style, until a check fails.
+template <class Check>
+void forRandomMlines(unsigned seed, Check&& check) {
+    RandomMline random(seed);
+    for (unsigned i = 0; i < 2000 && !::testing::Test::HasFatalFailure(); ++i) {
+        SCOPED_TRACE(i);
+        const StyleLayout style = random.style();
+        const MlineContent mline = random.mline(style);
+        check(random, mline, style);
+    }
+}
 
 } // namespace orvex::testing

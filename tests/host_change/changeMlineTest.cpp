@@ -4,6 +4,7 @@
 #include "RandomMline.h"
 #include "auditMline.h"
 #include "geometry.h"
+#include "straightMline.h"
 
 #include <gmock/gmock.h>
 
@@ -12,11 +13,7 @@
 namespace {
 
 using namespace orvex;
-using orvex::testing::drawnPlaces;
-using orvex::testing::farthest;
-using orvex::testing::RandomMline;
-
-constexpr unsigned kMlines = 2000;
+using namespace orvex::testing;
 
 // The distances of gaps' ends along their segments, from where the chain's vertex lies.
 std::vector<double> gapEnds(const MlineContent& mline, unsigned segments) {
@@ -36,83 +33,64 @@ std::vector<double> gapEnds(const MlineContent& mline, unsigned segments) {
 }
 
 TEST(ChangeMline, laysRightAndLeavesGapsWhereTheyLie) {
-    RandomMline random(41);
-    for (unsigned i = 0; i < kMlines; ++i) {
-        const StyleLayout style = random.style();
-        const MlineContent mline = random.mline(style);
-        MlineChange change;
-        change.justification = static_cast<int>(random.upTo(2));
-        if (random.upTo(1) == 0) {
-            change.scale = random.between(0.5, 3.0);
-        }
-        if (random.upTo(1) == 0) {
-            change.closed = mline.closed ? random.upTo(1) == 0 : false;
-        }
-        StyleLayout other = random.style();
-        if (other.offsets.size() == style.offsets.size()) {
-            change.style = MlineChange::Style{KdDbObjectId(), other};
-        } else {
-            other = style;
-        }
-        const auto result = changed(mline, &style, change);
-        ASSERT_TRUE(result) << i;
-        ASSERT_THAT(auditMline(result->mline, &other), ::testing::IsEmpty()) << i;
-        if (!result->mline.closed) { // the ends are cut as the style wants it
-            const ChainVertex& start = result->mline.vertices.front();
-            const ChainVertex& end = result->mline.vertices.back();
-            ASSERT_NEAR(dot(start.miter, start.axis), std::cos(other.startAngle), 1e-9) << i;
-            ASSERT_NEAR(dot(end.miter, end.axis), std::cos(other.endAngle), 1e-9) << i;
-        }
-        const unsigned segments = MlineChain(result->mline).segmentCount();
-        const auto was = gapEnds(mline, segments);
-        const auto is = gapEnds(result->mline, segments);
-        ASSERT_EQ(was.size(), is.size()) << i;
-        for (std::size_t g = 0; g < was.size(); ++g) {
-            ASSERT_NEAR(was[g], is[g], 1e-9) << i;
-        }
-    }
+    forRandomMlines(
+        41, [&](RandomMline& random, const MlineContent& mline, const StyleLayout& style) {
+            MlineChange change;
+            change.justification = static_cast<int>(random.upTo(2));
+            if (random.upTo(1) == 0) {
+                change.scale = random.between(0.5, 3.0);
+            }
+            if (random.upTo(1) == 0) {
+                change.closed = mline.closed ? random.upTo(1) == 0 : false;
+            }
+            StyleLayout other = random.style();
+            if (other.offsets.size() == style.offsets.size()) {
+                change.style = MlineChange::Style{KdDbObjectId(), other};
+            } else {
+                other = style;
+            }
+            const auto result = changed(mline, &style, change);
+            ASSERT_TRUE(result);
+            ASSERT_THAT(auditMline(result->mline, &other), ::testing::IsEmpty());
+            if (!result->mline.closed) { // the ends are cut as the style wants it
+                const ChainVertex& start = result->mline.vertices.front();
+                const ChainVertex& end = result->mline.vertices.back();
+                ASSERT_NEAR(dot(start.miter, start.axis), std::cos(other.startAngle), 1e-9);
+                ASSERT_NEAR(dot(end.miter, end.axis), std::cos(other.endAngle), 1e-9);
+            }
+            const unsigned segments = MlineChain(result->mline).segmentCount();
+            const auto was = gapEnds(mline, segments);
+            const auto is = gapEnds(result->mline, segments);
+            ASSERT_EQ(was.size(), is.size());
+            for (std::size_t g = 0; g < was.size(); ++g) {
+                ASSERT_NEAR(was[g], is[g], 1e-9);
+            }
+        });
 }
 
 TEST(ChangeMline, keepsTheLinesUnderAnotherJustification) {
-    RandomMline random(42);
     unsigned kept = 0;
-    for (unsigned i = 0; i < kMlines; ++i) {
-        const StyleLayout style = random.style();
-        const MlineContent mline = random.mline(style);
-        MlineChange change;
-        change.justification = (mline.justification + 1) % 3;
-        change.keepsLines = true;
-        const auto result = changed(mline, &style, change);
-        if (!result) {
-            continue;
-        }
-        ++kept;
-        ASSERT_THAT(auditMline(result->mline, &style), ::testing::IsEmpty()) << i;
-        ASSERT_LT(farthest(drawnPlaces(mline), drawnPlaces(result->mline)), 1e-9) << i;
-    }
-    EXPECT_GT(kept, kMlines * 9 / 10);
+    forRandomMlines(
+        42, [&](RandomMline& /*random*/, const MlineContent& mline, const StyleLayout& style) {
+            MlineChange change;
+            change.justification = (mline.justification + 1) % 3;
+            change.keepsLines = true;
+            const auto result = changed(mline, &style, change);
+            if (!result) {
+                return;
+            }
+            ++kept;
+            ASSERT_THAT(auditMline(result->mline, &style), ::testing::IsEmpty());
+            ASSERT_LT(farthest(drawnPlaces(mline), drawnPlaces(result->mline)), 1e-9);
+        });
+    EXPECT_GT(kept, 1800U);
 }
 
 // Along x from 0 to 100, elements at 5 and -5 with these breaks.
-MlineContent wall(const std::vector<double>& upper, const std::vector<double>& lower) {
-    MlineContent mline;
-    mline.justification = 1;
-    mline.vertices = {{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, {{100, 0, 0}, {1, 0, 0}, {0, 1, 0}}};
-    for (unsigned v = 0; v < 2; ++v) {
-        VoVector<KdMLSegment> record;
-        for (const bool isUpper : {true, false}) {
-            KdMLSegment element;
-            element.m_lineParams.append(isUpper ? 5.0 : -5.0);
-            for (const double value :
-                 v == 1 ? std::vector<double>{0.0} : (isUpper ? upper : lower)) {
-                element.m_lineParams.append(value);
-            }
-            record.append(element);
-        }
-        mline.lists.appendVertex();
-        mline.lists.setNested(v, record);
-    }
-    return mline;
+MlineContent wall(std::vector<double> upper, std::vector<double> lower) {
+    upper.insert(upper.begin(), 5.0);
+    lower.insert(lower.begin(), -5.0);
+    return straightMline({}, 100, {upper, lower});
 }
 
 // 10 to 20 is a gap of both, 40 to 50 of the upper one, 70 to the end of the lower one.

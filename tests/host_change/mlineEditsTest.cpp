@@ -5,6 +5,7 @@
 #include "layRight.h"
 #include "mlineTrack.h"
 #include "moveEnd.h"
+#include "straightMline.h"
 
 #include <gmock/gmock.h>
 
@@ -13,9 +14,7 @@
 namespace {
 
 using namespace orvex;
-using orvex::testing::RandomMline;
-
-constexpr unsigned kMlines = 2000;
+using namespace orvex::testing;
 
 void putPosition(MlineContent& mline, unsigned vertex, unsigned element, double position) {
     VoVector<KdMLSegment> record = mline.lists.nested(vertex);
@@ -49,23 +48,19 @@ double largestCoordinate(const MlineContent& mline) {
 }
 
 TEST(LayRight, whatLiesRightHasNoFindingAndKeepsEveryBit) {
-    RandomMline random(1);
-    for (unsigned i = 0; i < kMlines; ++i) {
-        const StyleLayout style = random.style();
-        const MlineContent mline = random.mline(style);
-        ASSERT_THAT(auditMline(mline, &style), ::testing::IsEmpty()) << i;
-        const auto laid = layRight(mline, style);
-        ASSERT_TRUE(laid && laid->equals(mline)) << i;
-    }
+    forRandomMlines(
+        1, [&](RandomMline& /*random*/, const MlineContent& mline, const StyleLayout& style) {
+            ASSERT_THAT(auditMline(mline, &style), ::testing::IsEmpty());
+            const auto laid = layRight(mline, style);
+            ASSERT_TRUE(laid && laid->equals(mline));
+        });
 }
 
 // Elements are put beside their places and miters and axes turned; all of it is found, and laid
 // right once and for all, with gaps where they were.
 TEST(LayRight, putsRightWhatWasDisturbedAndLeavesGapsWhereTheyLie) {
-    RandomMline random(2);
-    for (unsigned i = 0; i < kMlines; ++i) {
-        const StyleLayout style = random.style();
-        const MlineContent mline = random.mline(style);
+    forRandomMlines(2, [&](RandomMline& random, const MlineContent& mline,
+                           const StyleLayout& style) {
         MlineContent damaged = mline;
         const auto vertex = random.upTo(static_cast<unsigned>(mline.vertices.size()) - 1);
         const unsigned element = random.upTo(mline.elementCount() - 1);
@@ -82,28 +77,28 @@ TEST(LayRight, putsRightWhatWasDisturbedAndLeavesGapsWhereTheyLie) {
                 return finding.code == code && finding.vertex == vertex && finding.element == at;
             });
         };
-        ASSERT_TRUE(isAt(FindingCode::position, element)) << i;
-        ASSERT_EQ(isAt(FindingCode::miter, {}), isInner) << i;
+        ASSERT_TRUE(isAt(FindingCode::position, element));
+        ASSERT_EQ(isAt(FindingCode::miter, {}), isInner);
 
         const auto laid = layRight(damaged, style);
-        ASSERT_TRUE(laid) << i;
-        ASSERT_THAT(auditMline(*laid, &style), ::testing::IsEmpty()) << i;
+        ASSERT_TRUE(laid);
+        ASSERT_THAT(auditMline(*laid, &style), ::testing::IsEmpty());
         const auto again = layRight(*laid, style);
-        ASSERT_TRUE(again && again->equals(*laid)) << i;
+        ASSERT_TRUE(again && again->equals(*laid));
         const double tolerance = 1e-9 * std::max(1.0, largestCoordinate(mline));
         for (unsigned s = 0; s < MlineChain(mline).segmentCount(); ++s) {
             ASSERT_EQ(laid->vertices[s].position, mline.vertices[s].position);
             for (unsigned e = 0; e < mline.elementCount(); ++e) {
                 const auto was = gapEnds(damaged, s, e);
                 const auto is = gapEnds(*laid, s, e);
-                ASSERT_EQ(was.size(), is.size()) << i;
+                ASSERT_EQ(was.size(), is.size());
                 const KdGeVector3d way = MlineChain(*laid).track(s, e).direction;
                 for (std::size_t g = 0; g < was.size(); ++g) {
-                    ASSERT_NEAR(dot(is[g] - was[g], way), 0.0, tolerance) << i << " segment " << s;
+                    ASSERT_NEAR(dot(is[g] - was[g], way), 0.0, tolerance) << "segment " << s;
                 }
             }
         }
-    }
+    });
 }
 
 StyleLayout pairStyle() {
@@ -113,28 +108,9 @@ StyleLayout pairStyle() {
 }
 
 // Along x from 0 to 100, elements at 5 and -5.
-MlineContent wall(const std::vector<double>& upperBreaks) {
-    MlineContent content;
-    content.justification = 1;
-    content.vertices = {{{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, {{100, 0, 0}, {1, 0, 0}, {0, 1, 0}}};
-    for (unsigned v = 0; v < 2; ++v) {
-        VoVector<KdMLSegment> record;
-        for (const double position : {5.0, -5.0}) {
-            KdMLSegment element;
-            element.m_lineParams.append(position);
-            if (position > 0.0 && v == 0) {
-                for (const double value : upperBreaks) {
-                    element.m_lineParams.append(value);
-                }
-            } else {
-                element.m_lineParams.append(0.0);
-            }
-            record.append(element);
-        }
-        content.lists.appendVertex();
-        content.lists.setNested(v, record);
-    }
-    return content;
+MlineContent wall(std::vector<double> upperBreaks) {
+    upperBreaks.insert(upperBreaks.begin(), 5.0);
+    return straightMline({}, 100, {upperBreaks, {-5.0, 0.0}});
 }
 
 TEST(Audit, tellsWhatListsAndStylesContradict) {

@@ -3,6 +3,7 @@
 #include "DrawnPlaces.h"
 #include "RandomMline.h"
 #include "auditMline.h"
+#include "straightMline.h"
 
 #include <gmock/gmock.h>
 
@@ -11,11 +12,8 @@
 namespace {
 
 using namespace orvex;
-using orvex::testing::drawnPlaces;
-using orvex::testing::farthest;
-using orvex::testing::RandomMline;
+using namespace orvex::testing;
 
-constexpr unsigned kMlines = 2000;
 constexpr KdGeVector3d kUp{0.0, 0.0, 1.0};
 
 struct ThereAndBack {
@@ -44,42 +42,27 @@ KdGePoint3d image(const PlanMotion& motion, const KdGePoint3d& point) {
 }
 
 TEST(PlanMotion, takesAllThatIsDrawnAlongAndBack) {
-    RandomMline random(21);
-    for (unsigned i = 0; i < kMlines; ++i) {
-        const StyleLayout style = random.style();
-        const MlineContent mline = random.mline(style);
-        const ThereAndBack motion = randomMotion(random, i % 3, mline.normal);
-        const auto moved = movedBy(mline, motion.there);
-        ASSERT_TRUE(moved) << i;
-        ASSERT_THAT(auditMline(*moved, &style), ::testing::IsEmpty()) << i;
-        std::vector<KdGePoint3d> expected = drawnPlaces(mline);
-        for (KdGePoint3d& place : expected) {
-            place = image(motion.there, place);
-        }
-        ASSERT_LT(farthest(drawnPlaces(*moved), expected), 1e-9) << i;
-        const auto back = movedBy(*moved, motion.back);
-        ASSERT_TRUE(back) << i;
-        ASSERT_LT(farthest(drawnPlaces(*back), drawnPlaces(mline)), 1e-9) << i;
-        ASSERT_EQ(back->scale, mline.scale) << i;
-    }
+    forRandomMlines(
+        21, [&](RandomMline& random, const MlineContent& mline, const StyleLayout& style) {
+            const ThereAndBack motion = randomMotion(random, random.upTo(2), mline.normal);
+            const auto moved = movedBy(mline, motion.there);
+            ASSERT_TRUE(moved);
+            ASSERT_THAT(auditMline(*moved, &style), ::testing::IsEmpty());
+            std::vector<KdGePoint3d> expected = drawnPlaces(mline);
+            for (KdGePoint3d& place : expected) {
+                place = image(motion.there, place);
+            }
+            ASSERT_LT(farthest(drawnPlaces(*moved), expected), 1e-9);
+            const auto back = movedBy(*moved, motion.back);
+            ASSERT_TRUE(back);
+            ASSERT_LT(farthest(drawnPlaces(*back), drawnPlaces(mline)), 1e-9);
+            ASSERT_EQ(back->scale, mline.scale);
+        });
 }
 
 // Elements at 1 and 0 along x, from (1, 2) to (5, 2).
 MlineContent plain() {
-    MlineContent mline;
-    mline.vertices = {{{1, 2, 0}, {1, 0, 0}, {0, 1, 0}}, {{5, 2, 0}, {1, 0, 0}, {0, 1, 0}}};
-    for (unsigned v = 0; v < 2; ++v) {
-        VoVector<KdMLSegment> record;
-        for (const double position : {1.0, 0.0}) {
-            KdMLSegment element;
-            element.m_lineParams.append(position);
-            element.m_lineParams.append(0.0);
-            record.append(element);
-        }
-        mline.lists.appendVertex();
-        mline.lists.setNested(v, record);
-    }
-    return mline;
+    return straightMline({1, 2, 0}, 4, {{1, 0}, {0, 0}});
 }
 
 TEST(PlanMotion, isExactForWholeNumbersAndQuarters) {

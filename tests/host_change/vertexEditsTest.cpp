@@ -12,19 +12,13 @@
 namespace {
 
 using namespace orvex;
-using orvex::testing::drawnPlaces;
-using orvex::testing::farthest;
-using orvex::testing::RandomMline;
-
-constexpr unsigned kMlines = 2000;
+using namespace orvex::testing;
 
 // Elements keep their offsets, and gaps of segments that don't turn stay to the last digit; those
 // of segments that do lie on the line square to the middle of both directions.
 TEST(VertexMoved, keepsOffsetsAndGapsAndLeadsBack) {
-    RandomMline random(41);
-    for (unsigned i = 0; i < kMlines; ++i) {
-        const StyleLayout style = random.style();
-        const MlineContent mline = random.mline(style);
+    forRandomMlines(41, [&](RandomMline& random, const MlineContent& mline,
+                            const StyleLayout& style) {
         const unsigned vertex = random.upTo(static_cast<unsigned>(mline.vertices.size()) - 1);
         const KdGePoint3d from = mline.vertices[vertex].position;
         const KdGePoint3d inPlane = from + random.inPlaneOf(mline, 8.0);
@@ -32,10 +26,10 @@ TEST(VertexMoved, keepsOffsetsAndGapsAndLeadsBack) {
         to.z +=
             random.between(-5.0, 5.0); // it stays in its plane, in the place that the plan shows
         const auto result = withVertexMoved(mline, style, vertex, to);
-        ASSERT_TRUE(result) << i;
+        ASSERT_TRUE(result);
         ASSERT_EQ(result->lostGaps, 0U);
-        ASSERT_LT((result->mline.vertices[vertex].position - inPlane).length(), 1e-9) << i;
-        ASSERT_THAT(auditMline(result->mline, &style), ::testing::IsEmpty()) << i;
+        ASSERT_LT((result->mline.vertices[vertex].position - inPlane).length(), 1e-9);
+        ASSERT_THAT(auditMline(result->mline, &style), ::testing::IsEmpty());
         const MlineChain was(mline);
         const MlineChain is(result->mline);
         for (unsigned s = 0; s < was.segmentCount(); ++s) {
@@ -44,63 +38,59 @@ TEST(VertexMoved, keepsOffsetsAndGapsAndLeadsBack) {
             for (unsigned e = 0; e < was.elementCount(); ++e) {
                 const auto before = was.line(s, e);
                 const auto after = is.line(s, e);
-                ASSERT_EQ(before.size(), after.size()) << i;
+                ASSERT_EQ(before.size(), after.size());
                 const MlineTrack old = was.track(s, e);
                 const MlineTrack track = is.track(s, e);
                 for (std::size_t g = 2; g < before.size(); ++g) {
                     const KdGeVector3d off = track.at(after[g]) - old.at(before[g]);
-                    ASSERT_NEAR(dot(off, track.direction + old.direction), 0.0, 1e-9) << i;
-                    ASSERT_TRUE(turns || off.length() < 1e-9) << i;
+                    ASSERT_NEAR(dot(off, track.direction + old.direction), 0.0, 1e-9);
+                    ASSERT_TRUE(turns || off.length() < 1e-9);
                 }
             }
         }
         const auto back = withVertexMoved(result->mline, style, vertex, from);
         ASSERT_TRUE(back);
-        ASSERT_LT(farthest(drawnPlaces(back->mline), drawnPlaces(mline)), 1e-9) << i;
-    }
+        ASSERT_LT(farthest(drawnPlaces(back->mline), drawnPlaces(mline)), 1e-9);
+    });
 }
 
 // A vertex on its segment changes nothing that is seen; away from it and removed leads back.
 TEST(VertexAdded, andRemovedLeadsBack) {
-    RandomMline random(42);
-    for (unsigned i = 0; i < kMlines; ++i) {
-        const StyleLayout style = random.style();
-        const MlineContent mline = random.mline(style);
-        const MlineChain chain(mline);
-        const unsigned segment = random.upTo(chain.segmentCount() - 1);
-        const KdGePoint3d start = chain.vertex(segment).position;
-        const KdGeVector3d way = chain.vertex(chain.next(segment)).position - start;
-        const KdGePoint3d middle = start + way * random.between(0.1, 0.9);
-        const auto added =
-            withVertexAdded(mline, style, segment, middle + random.inPlaneOf(mline, 5.0));
-        ASSERT_TRUE(added) << i;
-        ASSERT_EQ(added->mline.vertices.size(), mline.vertices.size() + 1);
-        ASSERT_EQ(added->mline.closed, mline.closed);
-        ASSERT_THAT(auditMline(added->mline, &style), ::testing::IsEmpty()) << i;
-        const auto removed = withVertexRemoved(added->mline, style, segment + 1);
-        ASSERT_TRUE(removed) << i;
-        ASSERT_THAT(auditMline(removed->mline, &style), ::testing::IsEmpty()) << i;
-        ASSERT_LT(farthest(drawnPlaces(removed->mline), drawnPlaces(mline)), 1e-9) << i;
-    }
+    forRandomMlines(
+        42, [&](RandomMline& random, const MlineContent& mline, const StyleLayout& style) {
+            const MlineChain chain(mline);
+            const unsigned segment = random.upTo(chain.segmentCount() - 1);
+            const KdGePoint3d start = chain.vertex(segment).position;
+            const KdGeVector3d way = chain.vertex(chain.next(segment)).position - start;
+            const KdGePoint3d middle = start + way * random.between(0.1, 0.9);
+            const auto added =
+                withVertexAdded(mline, style, segment, middle + random.inPlaneOf(mline, 5.0));
+            ASSERT_TRUE(added);
+            ASSERT_EQ(added->mline.vertices.size(), mline.vertices.size() + 1);
+            ASSERT_EQ(added->mline.closed, mline.closed);
+            ASSERT_THAT(auditMline(added->mline, &style), ::testing::IsEmpty());
+            const auto removed = withVertexRemoved(added->mline, style, segment + 1);
+            ASSERT_TRUE(removed);
+            ASSERT_THAT(auditMline(removed->mline, &style), ::testing::IsEmpty());
+            ASSERT_LT(farthest(drawnPlaces(removed->mline), drawnPlaces(mline)), 1e-9);
+        });
 }
 
 TEST(VertexRemoved, laysRightWhatIsLeft) {
-    RandomMline random(43);
     unsigned refused = 0;
-    for (unsigned i = 0; i < kMlines; ++i) {
-        const StyleLayout style = random.style();
-        const MlineContent mline = random.mline(style);
-        const auto count = static_cast<unsigned>(mline.vertices.size());
-        const unsigned vertex = random.upTo(count - 1);
-        const auto result = withVertexRemoved(mline, style, vertex);
-        refused += result ? 0 : 1;
-        ASSERT_EQ(bool(result), !mline.closed || count > 3) << i;
-        if (result) {
-            ASSERT_EQ(result->mline.vertices.size(), count - 1);
-            ASSERT_THAT(auditMline(result->mline, &style), ::testing::IsEmpty()) << i;
-            ASSERT_LE(heldGaps(result->mline) + result->lostGaps, heldGaps(mline));
-        }
-    }
+    forRandomMlines(43,
+                    [&](RandomMline& random, const MlineContent& mline, const StyleLayout& style) {
+                        const auto count = static_cast<unsigned>(mline.vertices.size());
+                        const unsigned vertex = random.upTo(count - 1);
+                        const auto result = withVertexRemoved(mline, style, vertex);
+                        refused += result ? 0 : 1;
+                        ASSERT_EQ(bool(result), !mline.closed || count > 3);
+                        if (result) {
+                            ASSERT_EQ(result->mline.vertices.size(), count - 1);
+                            ASSERT_THAT(auditMline(result->mline, &style), ::testing::IsEmpty());
+                            ASSERT_LE(heldGaps(result->mline) + result->lostGaps, heldGaps(mline));
+                        }
+                    });
     EXPECT_GT(refused, 0U);
 }
 
