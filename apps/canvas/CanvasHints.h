@@ -21,8 +21,6 @@ struct CanvasHints {
     bool changesTarget = false; // what a pick at the cursor would find is among them
     QString words;              // why a pick did nothing, or would do nothing
     bool flashes = false;       // the pick box, in the colour of the words
-
-    [[nodiscard]] bool hasGhost() const { return !after.empty(); }
 };
 
 // What a pick means, and a note of it at the cursor.

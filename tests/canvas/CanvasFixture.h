@@ -5,9 +5,9 @@
 #include "KdDbDatabase.h"
 #include "ModuleLoader.h"
 #include "PromptSession.h"
-#include "ScriptSource.h"
 #include "Session.h"
 #include "TestPaths.h"
+#include "playOn.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -100,19 +100,7 @@ protected:
         settle();
     }
 
-    // Plays all commands of a script on the session.
-    void play(const std::string& text) {
-        ScriptSource script(text, [](const std::wstring&) {});
-        session->setSource(&script);
-        while (!script.atEnd()) {
-            const std::wstring name = session->askCommand();
-            if (!name.empty()) {
-                EXPECT_FALSE(session->run(name)) << text;
-            }
-        }
-        EXPECT_FALSE(script.failure()) << text;
-        session->setSource(nullptr);
-    }
+    void play(const std::string& text) { playOn(*session, text); }
 
     [[nodiscard]] PlanPoint planAt(const QPoint& pixel) const {
         return session->view().toPlan({pixel.x() + 0.5, pixel.y() + 0.5});

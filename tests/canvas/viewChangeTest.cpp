@@ -7,21 +7,6 @@
 namespace orvex::testing {
 namespace {
 
-TEST(ViewChange, zoomingKeepsThePlanUnderThePixel) {
-    PlanView view(640, 480);
-    view.setView({1e5, -300}, 77.0);
-    const PlanPoint pixel{100.5, 33.5};
-    const PlanPoint before = view.toPlan(pixel);
-    for (const double factor : {1.2, 1 / 1.2, 40.0, 0.001}) {
-        const ViewState state = zoomedAt(view, pixel, factor);
-        EXPECT_DOUBLE_EQ(state.height, 77.0 / factor);
-        PlanView zoomed(640, 480);
-        zoomed.setView(state.center, state.height);
-        EXPECT_NEAR(zoomed.toPlan(pixel).x, before.x, 1e-7);
-        EXPECT_NEAR(zoomed.toPlan(pixel).y, before.y, 1e-7);
-    }
-}
-
 TEST(ViewChange, aWindowFitsWhicheverWayItIsDrawn) {
     PlanView view(600, 300); // 0.1 a pixel
     view.setView({0, 0}, 30.0);

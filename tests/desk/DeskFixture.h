@@ -3,15 +3,17 @@
 #include "Canvas.h"
 #include "CommandLine.h"
 #include "MainWindow.h"
-#include "ScriptSource.h"
 #include "TestPaths.h"
 #include "forgetDeskSettings.h"
-#include "textCodec.h"
+#include "playOn.h"
+#include "wholeFiles.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QTest>
 #include <QTimer>
@@ -21,18 +23,11 @@
 
 #include <deque>
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <memory>
 #include <string>
 
 namespace orvex::testing {
-
-inline std::string readFile(const std::filesystem::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 // Drives the real window on a copy of the sample plan. What a user does is a list of steps: a
 // question of a command holds its event loop up, so steps come from there, each as soon as the
@@ -72,6 +67,13 @@ protected:
     }
 
     // ---- what a user does ----
+    static std::deque<Step> joined(std::initializer_list<std::deque<Step>> parts) {
+        std::deque<Step> all;
+        for (const auto& part : parts) {
+            all.insert(all.end(), part.begin(), part.end());
+        }
+        return all;
+    }
     Step openPlan() {
         return [this] { window->open(QString::fromStdString(plan.string())); };
     }
@@ -87,6 +89,17 @@ protected:
             }
             QTest::keyClick(&input(), Qt::Key_Return);
         };
+    }
+    std::deque<Step> lines(const QString& text) {
+        std::deque<Step> all;
+        for (const QString& line : text.split('\n')) {
+            all.push_back(type(line));
+        }
+        return all;
+    }
+    // Any change of the drawing.
+    Step edit() {
+        return [this] { window->start("MLINE", {"0,0", "1000,0", "", ""}); };
     }
     Step key(Qt::Key which) {
         return [this, which] { QTest::keyClick(canvas(), which); };
@@ -107,9 +120,21 @@ protected:
             PlanView& view = window->session()->view();
             view.setView({x, y}, view.viewHeight());
             canvas()->viewChanged();
-            const PlanPoint pixel = view.toPixels({x, y});
-            QTest::mouseClick(canvas(), Qt::LeftButton, {},
-                              {static_cast<int>(pixel.x), static_cast<int>(pixel.y)});
+            clickAt(x, y)();
+        };
+    }
+    Step clickAt(double x, double y, Qt::KeyboardModifiers modifiers = {}) {
+        return [this, x, y, modifiers] {
+            QTest::mouseClick(canvas(), Qt::LeftButton, modifiers, pixelAt(x, y));
+        };
+    }
+    // The mouse without a button.
+    Step hover(double x, double y) {
+        return [this, x, y] {
+            const QPoint at = pixelAt(x, y);
+            QMouseEvent move(QEvent::MouseMove, at, canvas()->mapToGlobal(at), Qt::NoButton,
+                             Qt::NoButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(canvas(), &move);
         };
     }
     // Waits for what goes on by itself.
@@ -129,8 +154,15 @@ protected:
             act(*dialog);
         };
     }
+    Step answer(QMessageBox::StandardButton button) {
+        return inDialog<QMessageBox>([button](QMessageBox& box) { box.button(button)->click(); });
+    }
 
     // ---- what a user sees ----
+    [[nodiscard]] QPoint pixelAt(double x, double y) const {
+        const PlanPoint pixel = window->session()->view().toPixels({x, y});
+        return {static_cast<int>(pixel.x), static_cast<int>(pixel.y)};
+    }
     [[nodiscard]] Canvas* canvas() const { return window->findChild<Canvas*>(); }
     [[nodiscard]] QLineEdit& input() const {
         return *window->findChild<QLineEdit*>("commandInput");
@@ -144,23 +176,26 @@ protected:
     // What was typed and clicked on the drawing, as a script.
     [[nodiscard]] std::string script() const { return window->session()->record().text(); }
 
-    // The plan after a script. There is one session at a time, so the window goes.
+    [[nodiscard]] std::string bytes() const { return window->session()->drawing().bytes(); }
+
+    // A drawing after a script. There is one session at a time, so the window goes.
     std::string bytesByScript(const std::string& script) {
+        return bytesByScript(script, std::move(*DrawingFile::openBytes(original)));
+    }
+    std::string bytesByScript(const std::string& script, std::unique_ptr<DrawingFile> drawing) {
         window.reset();
-        ScriptSource source(script, [](const std::wstring&) {});
         SessionSetup setup;
-        setup.drawing =
-            std::move(*DrawingFile::openBytes(readFile(sourceDir() / "samples/floorplan.dxf")));
-        setup.source = &source;
+        setup.drawing = std::move(drawing);
         Session session(std::move(setup), modules);
-        while (!source.atEnd()) {
-            const std::wstring command = session.askCommand();
-            if (!command.empty()) {
-                EXPECT_FALSE(session.run(command)) << narrow(command);
-            }
-        }
-        EXPECT_FALSE(source.failure()) << messageOf(*source.failure());
+        playOn(session, script);
         return session.drawing().bytes();
+    }
+    // The plan was changed and saved, and its script makes the same of it.
+    void expectSavedByScript() {
+        const std::string typed = script();
+        const std::string saved = readFile(plan);
+        EXPECT_NE(saved, original);
+        EXPECT_EQ(saved, bytesByScript(typed.substr(0, typed.find("Saved"))));
     }
 
     const std::filesystem::path plan = std::filesystem::temp_directory_path() / "plan.dxf";

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "HelpWindow.h"
+#include "commandNames.h"
+#include "editTools.h"
 #include "helpPages.h"
 
+#include <QAction>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTextCursor>
@@ -45,6 +49,24 @@ inline void expectLinksLeadSomewhere() {
             const QUrl target = helpAddress(page).resolved(QUrl(it.next().captured(1)));
             EXPECT_TRUE(QFile::exists(":" + target.path()))
                 << page.toStdString() << " links to " << target.toString().toStdString();
+        }
+    }
+}
+
+// The tables, by their first heads, have all commands, tools and keys; keys under these names.
+template <class KeyName>
+void expectHelpHasAll(const QWidget& window, const QString& command, const QString& key,
+                      KeyName&& nameOf) {
+    EXPECT_EQ(firstCells("help/commands.md", command), commandNames());
+    QTextDocument tools;
+    tools.setMarkdown(helpText("help/tools.md"));
+    for (const EditTool& tool : editTools()) {
+        EXPECT_GE(topicPlace(tools, tool.keyword), 0) << tool.keyword;
+    }
+    const QStringList keys = firstCells("help/keys.md", key);
+    for (const QAction* const action : window.findChildren<QAction*>()) {
+        for (const QKeySequence& each : action->shortcuts()) {
+            EXPECT_TRUE(keys.contains(nameOf(each))) << nameOf(each).toStdString();
         }
     }
 }

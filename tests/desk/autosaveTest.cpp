@@ -13,10 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void writeFile(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
 std::vector<std::string> filesIn(const fs::path& folder) {
     std::vector<std::string> names;
     for (const auto& file : fs::directory_iterator(folder)) {
@@ -97,9 +93,6 @@ protected:
     AutosaveOfDesk() { DeskSettings().setInteger(DeskSettings::kAutosave, 1); }
     ~AutosaveOfDesk() override { DeskSettings().setInteger(DeskSettings::kAutosave, 60); }
 
-    Step edit() {
-        return [this] { window->start("MLINE", {"0,0", "1000,0", "", ""}); };
-    }
     // Waits for an autosave, as a kill wouldn't.
     Step untilKept(std::string& bytes) {
         return until([&bytes] {
@@ -115,9 +108,6 @@ protected:
             }
             return !bytes.empty();
         });
-    }
-    Step answer(QMessageBox::StandardButton button) {
-        return inDialog<QMessageBox>([button](QMessageBox& box) { box.button(button)->click(); });
     }
     Step open() {
         return inDialog<RecoverDialog>(

@@ -61,10 +61,7 @@ TEST_F(DrawBarFixture, whatTheBarSetsIsWhatItsLinesSet) {
         [this] { EXPECT_TRUE(window->findChild<ChoiceBox*>("layerBox")->isEnabled()); },
         trigger("save"),
     });
-    const QString typed = QString::fromStdString(script()).section("Saved", 0, 0);
-    const std::string saved = readFile(plan);
-    EXPECT_NE(saved, original);
-    EXPECT_EQ(saved, bytesByScript(typed.toStdString()));
+    expectSavedByScript();
 }
 
 TEST_F(DrawBarFixture, aHiddenLayerCantBeChosenAndALockedOneCan) {
@@ -77,7 +74,7 @@ TEST_F(DrawBarFixture, aHiddenLayerCantBeChosenAndALockedOneCan) {
     };
     setFlag("WALL-EXT", "     1");
     setFlag("Defpoints", "     4");
-    std::ofstream(plan, std::ios::binary) << text;
+    writeFile(plan, text);
     play({
         openPlan(),
         [this] {

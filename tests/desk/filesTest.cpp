@@ -9,6 +9,8 @@
 #include <QProgressDialog>
 #include <QPushButton>
 
+#include <fstream>
+
 #include <sys/stat.h>
 
 namespace orvex::testing {
@@ -17,22 +19,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void writeFile(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
 QString titleOf(const QWidget& window) {
     return window.windowTitle().section('[', 0, 0);
 }
 
 class FilesOfDesk : public DeskFixture {
 protected:
-    Step edit() {
-        return [this] { window->start("MLINE", {"0,0", "1000,0", "", ""}); };
-    }
-    Step answer(QMessageBox::StandardButton button) {
-        return inDialog<QMessageBox>([button](QMessageBox& box) { box.button(button)->click(); });
-    }
     Step choose(const fs::path& path) {
         return inDialog<QFileDialog>([path](QFileDialog& dialog) {
             dialog.selectFile(QString::fromStdString(path.string()));

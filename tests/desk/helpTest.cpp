@@ -1,11 +1,6 @@
 #include "DeskFixture.h"
 #include "HelpTables.h"
 
-#include "HelpWindow.h"
-#include "commandNames.h"
-#include "editTools.h"
-#include "helpPages.h"
-
 #include <QMenu>
 #include <QPushButton>
 #include <QTextBrowser>
@@ -16,27 +11,14 @@ namespace orvex::testing {
 
 namespace {
 
-const char* const kCommands = "help/commands.md";
-
 TEST(Help, linksAndPicturesLeadToWhatIsThere) {
     expectLinksLeadSomewhere();
 }
 
 TEST_F(DeskFixture, theHelpHasWhatTheTablesHave) {
-    EXPECT_EQ(firstCells(kCommands, "command"),
-              commandNames()); // the window has loaded the module's
-    QTextDocument tools;
-    tools.setMarkdown(helpText("help/tools.md"));
-    for (const EditTool& tool : editTools()) {
-        EXPECT_GE(topicPlace(tools, tool.keyword), 0) << tool.keyword;
-    }
-    const QStringList keys = firstCells("help/keys.md", "key");
-    for (const QAction* const action : window->findChildren<QAction*>()) {
-        for (const QKeySequence& key : action->shortcuts()) {
-            const QString shown = key.toString(QKeySequence::PortableText);
-            EXPECT_TRUE(keys.contains(shown)) << shown.toStdString();
-        }
-    }
+    expectHelpHasAll(*window, "command", "key", [](const QKeySequence& key) {
+        return key.toString(QKeySequence::PortableText);
+    });
 }
 
 TEST_F(DeskFixture, theHelpOpensAtTheToolThatRunsAndIsSearchedThroughAllPages) {
@@ -63,7 +45,7 @@ TEST_F(DeskFixture, theHelpOpensAtTheToolThatRunsAndIsSearchedThroughAllPages) {
                 EXPECT_EQ(browser->textCursor().selectedText(), "PICKBOX");
                 found << browser->source();
             }
-            EXPECT_TRUE(found.contains(helpAddress(kCommands)));
+            EXPECT_TRUE(found.contains(helpAddress("help/commands.md")));
             EXPECT_TRUE(found.contains(helpAddress("glossary.md")));
             window->findChild<QPushButton*>("helpContents")->click();
             emit browser->anchorClicked(helpAddress("help/keys.md"));

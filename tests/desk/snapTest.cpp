@@ -14,38 +14,17 @@ protected:
             PlanView& view = window->session()->view();
             view.setView({x, y}, view.viewHeight());
             canvas()->viewChanged();
-            const PlanPoint middle = view.toPixels({x, y});
-            const QPoint pixel(static_cast<int>(middle.x), static_cast<int>(middle.y));
-            QTest::mouseClick(canvas(), Qt::LeftButton, held, pixel + pixels);
+            QTest::mouseClick(canvas(), Qt::LeftButton, held, pixelAt(x, y) + pixels);
         };
     }
     // Two multilines, 20 wide, in an empty part of the plan, with ends that aren't short in
     // decimals. A pixel is less than a unit.
-    std::deque<Step> walls() {
-        return {openPlan(),
-                type("zoom"),
-                type("c"),
-                type("-5000,-5000"),
-                type("400"),
-                type("mline"),
-                type("st"),
-                type("standard"),
-                type("s"),
-                type("20"),
-                type("j"),
-                type("z"),
-                type("-5000.1,-5000.300000000001"),
-                type("-4900,-5000.300000000001"),
-                type(""),
-                type("mline"),
-                type("-5000.1,-4800"),
-                type("-4900,-4700"),
-                type("")};
-    }
     void playAfterWalls(std::deque<Step> then) {
-        std::deque<Step> all = walls();
-        all.insert(all.end(), then.begin(), then.end());
-        play(std::move(all));
+        play(joined({{openPlan()},
+                     lines("zoom\nc\n-5000,-5000\n400\nmline\nst\nstandard\ns\n20\nj\nz\n"
+                           "-5000.1,-5000.300000000001\n-4900,-5000.300000000001\n\n"
+                           "mline\n-5000.1,-4800\n-4900,-4700\n"),
+                     std::move(then)}));
     }
     [[nodiscard]] QString given() const { return lastLine().section(": ", -1); }
     [[nodiscard]] bool isChecked(const char* action) const {
@@ -55,7 +34,7 @@ protected:
 };
 
 TEST_F(SnapFixture, snappedPointsAreGivenInFullAndPlayTheSameBytes) {
-    std::string bytes;
+    std::string byHand;
     playAfterWalls({
         type("mline"),
         clickBeside(-5000.1, -5000.3, {5, 4}),
@@ -67,9 +46,9 @@ TEST_F(SnapFixture, snappedPointsAreGivenInFullAndPlayTheSameBytes) {
         clickBeside(-4900, -4700, {-4, 4}),
         [this] { EXPECT_EQ(given(), "-4900,-4700"); },
         type(""),
-        [this, &bytes] { bytes = window->session()->drawing().bytes(); },
+        [&] { byHand = bytes(); },
     });
-    EXPECT_EQ(bytes, bytesByScript(script()));
+    EXPECT_EQ(byHand, bytesByScript(script()));
 }
 
 TEST_F(SnapFixture, aWordHoldsForTheNextPointAndGoesWithEscapeFirst) {

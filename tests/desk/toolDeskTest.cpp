@@ -15,41 +15,21 @@ namespace {
 
 class ToolDeskTest : public DeskFixture {
 protected:
-    // The mouse without a button, to a point that the view shows.
-    Step move(double x, double y) {
-        return [this, x, y] {
-            const PlanPoint pixel = window->session()->view().toPixels({x, y});
-            const QPoint at(static_cast<int>(pixel.x), static_cast<int>(pixel.y));
-            QMouseEvent event(QEvent::MouseMove, at, canvas()->mapToGlobal(at), Qt::NoButton,
-                              Qt::NoButton, Qt::NoModifier);
-            QApplication::sendEvent(canvas(), &event);
-        };
-    }
-    Step click(double x, double y) {
-        return [this, x, y] {
-            const PlanPoint pixel = window->session()->view().toPixels({x, y});
-            QTest::mouseClick(canvas(), Qt::LeftButton, {},
-                              {static_cast<int>(pixel.x), static_cast<int>(pixel.y)});
-        };
+    // Two walls of 100 by 20 that cross, in a new drawing; the second lies there twice.
+    void playOnWalls(std::deque<Step> then) {
+        play(joined({lines("MLINE\ns\n20\nj\nz\n0,0\n100,0\n\nMLINE\n50,-50\n50,50\n\n"
+                           "MLINE\n50,-50\n50,50\n\nZOOM\nc\n50,0\n200"),
+                     std::move(then)}));
     }
     // As long as it takes the mouse to be at rest, and a step more, so that timers come first.
     static Step rest() {
         return [] { QThread::msleep(150); };
     }
-    static Step nothing() {
-        return [] {};
-    }
     [[nodiscard]] const CanvasHints& hints() const { return canvas()->hints(); }
     [[nodiscard]] QString status(const char* label) const {
         return window->findChild<QLabel*>(label)->text();
     }
-    [[nodiscard]] std::string bytes() const { return window->session()->drawing().bytes(); }
 };
-
-// Two walls of 100 by 20 that cross, in a new drawing; the second lies there twice.
-const QStringList kWalls{"MLINE", "s",     "20",     "j",     "z",    "0,0",   "100,0",
-                         "",      "MLINE", "50,-50", "50,50", "",     "MLINE", "50,-50",
-                         "50,50", "",      "ZOOM",   "c",     "50,0", "200"};
 
 // Where the chain is closed or its ends are cut slanting, the lists measure along a slanting miter.
 TEST_F(ToolDeskTest, tellsHowWideAWallIsSquareToItself) {
@@ -66,13 +46,9 @@ TEST_F(ToolDeskTest, tellsHowWideAWallIsSquareToItself) {
 }
 
 TEST_F(ToolDeskTest, showsWhatAClickWillDoAndWhatWasPicked) {
-    std::deque<Step> all;
-    for (const QString& line : kWalls) {
-        all.push_back(type(line));
-    }
     std::string before;
     std::vector<Stroke> ghost;
-    const std::deque<Step> clicks{
+    playOnWalls({
         type("-MLEDIT"),
         clickKeyword("CC"),
         [&] {
@@ -81,23 +57,23 @@ TEST_F(ToolDeskTest, showsWhatAClickWillDoAndWhatWasPicked) {
             EXPECT_EQ(status("statusTool"), "Closed Cross");
             EXPECT_TRUE(hints().lit.empty());
         },
-        click(20, 10),
+        clickAt(20, 10),
         [&] { EXPECT_EQ(hints().lit.size(), 1U); },
-        move(60, 40),
-        [&] { EXPECT_FALSE(hints().hasGhost()) << "the mouse may be on its way"; },
+        hover(60, 40),
+        [&] { EXPECT_TRUE(hints().after.empty()) << "the mouse may be on its way"; },
         rest(),
-        nothing(),
-        nothing(),
+        [] {},
+        [] {},
         [&] {
-            ASSERT_TRUE(hints().hasGhost());
+            ASSERT_FALSE(hints().after.empty());
             ghost = hints().after.front().strokes;
             EXPECT_NE(ghost.size(), hints().before.front().strokes.size());
             EXPECT_EQ(bytes(), before) << "nothing is changed by looking";
             EXPECT_THAT(status("statusHovered").toStdString(), ::testing::HasSubstr("20 wide"));
         },
-        click(60, 40),
+        clickAt(60, 40),
         [&] {
-            EXPECT_FALSE(hints().hasGhost());
+            EXPECT_TRUE(hints().after.empty());
             EXPECT_TRUE(hints().lit.empty());
             KdDbStub* const wall = window->session()->scene().pick({20, 10}, 1);
             ASSERT_NE(wall, nullptr);
@@ -108,16 +84,16 @@ TEST_F(ToolDeskTest, showsWhatAClickWillDoAndWhatWasPicked) {
             }
         },
         // Over the same wall as before, the tool would do nothing.
-        click(20, 10),
-        move(80, 10),
+        clickAt(20, 10),
+        hover(80, 10),
         rest(),
-        nothing(),
-        nothing(),
+        [] {},
+        [] {},
         [&] {
-            EXPECT_FALSE(hints().hasGhost());
+            EXPECT_TRUE(hints().after.empty());
             EXPECT_EQ(hints().words, "this is the same multiline");
         },
-        click(80, -80),
+        clickAt(80, -80),
         [&] {
             EXPECT_EQ(hints().words, "nothing here");
             EXPECT_TRUE(hints().flashes);
@@ -125,21 +101,14 @@ TEST_F(ToolDeskTest, showsWhatAClickWillDoAndWhatWasPicked) {
         },
         key(Qt::Key_Escape),
         [&] { EXPECT_EQ(status("statusTool"), ""); },
-    };
-    all.insert(all.end(), clicks.begin(), clicks.end());
-    play(std::move(all));
+    });
 }
 
 TEST_F(ToolDeskTest, anotherClickInTheSamePlaceTakesTheNextAndSaysWhich) {
-    std::deque<Step> all;
-    for (const QString& line : kWalls) {
-        all.push_back(type(line));
-    }
     QStringList picked;
     const auto note = [&] { picked << history().section('#', -1).section('\n', 0, 0); };
-    all.insert(all.end(), {type("-MLEDIT"), clickKeyword("AV"), click(60, 40), note, click(60, 40),
-                           note, click(60, 40), note, click(61, -40), note, key(Qt::Key_Escape)});
-    play(std::move(all));
+    playOnWalls({type("-MLEDIT"), clickKeyword("AV"), clickAt(60, 40), note, clickAt(60, 40), note,
+                 clickAt(60, 40), note, clickAt(61, -40), note, key(Qt::Key_Escape)});
     ASSERT_EQ(picked.size(), 4);
     EXPECT_NE(picked[0], picked[1]);
     EXPECT_EQ(picked[0], picked[2]);

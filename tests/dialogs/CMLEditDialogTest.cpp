@@ -9,11 +9,7 @@
 #include <gmock/gmock.h>
 
 using mledit::ToolRow;
-using orvex::testing::child;
-using orvex::testing::kLargeTextSize;
-using orvex::testing::press;
-using orvex::testing::runDialog;
-using orvex::testing::TextSize;
+using namespace orvex::testing;
 
 namespace {
 

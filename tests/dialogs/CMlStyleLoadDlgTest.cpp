@@ -11,10 +11,7 @@
 #include <fstream>
 
 namespace fs = std::filesystem;
-using orvex::testing::child;
-using orvex::testing::runDialog;
-using orvex::testing::StyleWorld;
-using orvex::testing::textsOf;
+using namespace orvex::testing;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

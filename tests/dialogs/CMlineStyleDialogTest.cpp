@@ -9,6 +9,7 @@
 #include "resourceLibrary.h"
 #include "styleSample.h"
 #include "systemVariables.h"
+#include "wholeFiles.h"
 
 #include <QHelpEvent>
 #include <QLabel>
@@ -20,14 +21,9 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <fstream>
 
 namespace fs = std::filesystem;
-using orvex::testing::child;
-using orvex::testing::inNextDialog;
-using orvex::testing::runDialog;
-using orvex::testing::StyleWorld;
-using orvex::testing::textsOf;
+using namespace orvex::testing;
 using testing::ElementsAre;
 using namespace mledit;
 
@@ -242,8 +238,7 @@ TEST_F(StyleManager, savesTheSelectedStyleIntoTheChosenLibrary) {
         EXPECT_EQ(m_chooser.asked, L"");
         close();
     });
-    std::ifstream stream(library);
-    const std::string text{std::istreambuf_iterator<char>(stream), {}};
+    const std::string text = readFile(library);
     EXPECT_THAT(text, testing::StartsWith("MLSTYLE\n2\n Wall\n70\n 0\n3\n brick\n"));
     EXPECT_THAT(text, testing::HasSubstr("\n0\nMLSTYLE\n2\n Pipe\n"));
 }

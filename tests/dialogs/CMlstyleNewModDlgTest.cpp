@@ -20,11 +20,7 @@
 #include <array>
 #include <functional>
 
-using orvex::testing::child;
-using orvex::testing::kUsualTextSize;
-using orvex::testing::runDialog;
-using orvex::testing::StyleWorld;
-using orvex::testing::TextSize;
+using namespace orvex::testing;
 using testing::ElementsAre;
 
 namespace {

@@ -16,13 +16,7 @@
 
 #include <functional>
 
-using orvex::testing::child;
-using orvex::testing::kLargeTextSize;
-using orvex::testing::kUsualTextSize;
-using orvex::testing::layoutFaults;
-using orvex::testing::runDialog;
-using orvex::testing::StyleWorld;
-using orvex::testing::TextSize;
+using namespace orvex::testing;
 using testing::IsEmpty;
 
 namespace {

@@ -13,17 +13,18 @@
 #include "supportFiles.h"
 #include "systemVariables.h"
 #include "textCodec.h"
+#include "wholeFiles.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;
 using namespace mledit;
+using orvex::testing::readFile;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -37,11 +38,6 @@ const std::string kWall =
     "51\n 90.00000000000000\n52\n 90.00000000000000\n71\n 2\n"
     "49\n 0.50000000000000\n62\n 256\n6\n ByLayer\n"
     "49\n -0.50000000000000\n62\n 150\n420\n -1040154369\n6\n Continuous\n0\n";
-
-std::string readFile(const fs::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 class StyleLibrary : public testing::Test {
 protected:
@@ -77,7 +73,7 @@ protected:
     }
 
     std::wstring write(const std::string& bytes) {
-        std::ofstream(m_path, std::ios::binary) << bytes;
+        orvex::testing::writeFile(m_path, bytes);
         return orvex::widen(m_path.string());
     }
     // What a library's block makes of a fresh style, open or to be closed.

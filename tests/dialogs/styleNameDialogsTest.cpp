@@ -9,9 +9,7 @@
 
 #include <tuple>
 
-using orvex::testing::child;
-using orvex::testing::runDialog;
-using orvex::testing::StyleWorld;
+using namespace orvex::testing;
 
 namespace {
 

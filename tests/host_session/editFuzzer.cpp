@@ -22,8 +22,7 @@
 namespace {
 
 using namespace orvex;
-using orvex::testing::FuzzAnswers;
-using orvex::testing::FuzzBytes;
+using namespace orvex::testing;
 
 void require(bool holds, const char* what, const std::wstring& command) {
     if (!holds) {

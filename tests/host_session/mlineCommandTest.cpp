@@ -6,8 +6,8 @@
 #include "PromptSession.h"
 #include "WellKnownObjects.h"
 #include "textCodec.h"
+#include "wholeFiles.h"
 
-#include <fstream>
 #include <tuple>
 
 namespace {
@@ -101,8 +101,8 @@ TEST_F(SessionFixture, mlineLiesInTheUserSystemAtTheLevelOfItsStart) {
 
 // The drawing with styles STANDARD (2E) and WALL (2F), with another entry for STANDARD.
 std::string withEntry(const std::string& entry) {
-    std::ifstream stream(orvex::testing::sourceDir() / "tests/host_drawing/corpus/sample.dxf");
-    std::string text{std::istreambuf_iterator<char>(stream), {}};
+    std::string text = orvex::testing::readFile(orvex::testing::sourceDir() /
+                                                "tests/host_drawing/corpus/sample.dxf");
     const std::string old = "STANDARD\n350\n2E\n";
     return text.replace(text.find(old), old.size(), entry);
 }

@@ -14,8 +14,7 @@
 
 #include <climits>
 
-using orvex::testing::Logic;
-using orvex::testing::textOf;
+using namespace orvex::testing;
 
 namespace {
 

@@ -1,9 +1,7 @@
 #include "DeskFixture.h"
 #include "HelpTables.h"
 
-#include "commandNames.h"
 #include "deskLanguage.h"
-#include "editTools.h"
 #include "resourceLibrary.h"
 
 #include <QDialog>
@@ -104,18 +102,7 @@ TEST_F(GermanDesk, hasTheHelpInGermanWithAllThatTheTablesHave) {
     for (const QString& page : helpPages()) {
         EXPECT_TRUE(helpText(page).contains(" der ")) << page.toStdString();
     }
-    EXPECT_EQ(firstCells("help/commands.md", "Befehl"), commandNames());
-    QTextDocument tools;
-    tools.setMarkdown(helpText("help/tools.md"));
-    for (const EditTool& tool : editTools()) {
-        EXPECT_GE(topicPlace(tools, tool.keyword), 0) << tool.keyword;
-    }
-    const QStringList keys = firstCells("help/keys.md", "Taste");
-    for (const QAction* const action : window->findChildren<QAction*>()) {
-        for (const QKeySequence& key : action->shortcuts()) {
-            EXPECT_TRUE(keys.contains(germanKey(key))) << germanKey(key).toStdString();
-        }
-    }
+    expectHelpHasAll(*window, "Befehl", "Taste", germanKey);
 }
 
 } // namespace

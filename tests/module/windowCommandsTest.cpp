@@ -21,10 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using orvex::Session;
-using orvex::testing::child;
-using orvex::testing::clickText;
-using orvex::testing::inNextDialog;
-using orvex::testing::press;
+using namespace orvex::testing;
 
 // Plays a script and gives a dialog that asks for a file the one that is set.
 class User final : public orvex::PromptSource {
