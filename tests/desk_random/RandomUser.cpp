@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -24,7 +23,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <array>
+#include <map>
 
 namespace orvex::testing {
 
@@ -45,6 +44,24 @@ QString placeText(const QPoint& at) {
 
 QString nameOf(const QObject& object) {
     return object.objectName().isEmpty() ? object.metaObject()->className() : object.objectName();
+}
+
+// What stands in it for the user, by the mouse or by keys.
+QList<QWidget*> usable(const QWidget& parent) {
+    QList<QWidget*> widgets = parent.findChildren<QWidget*>();
+    eraseIf(widgets, [](const QWidget* widget) {
+        const bool isPanelButton = qobject_cast<const QAbstractButton*>(widget) != nullptr;
+        return !widget->isVisible() || !widget->isEnabled() ||
+               (widget->focusPolicy() == Qt::NoFocus && !isPanelButton);
+    });
+    return widgets;
+}
+
+QString press(QWidget& widget, const QString& keys) {
+    const int key = QKeySequence(keys)[0];
+    const int held = key & static_cast<int>(Qt::KeyboardModifierMask);
+    QTest::keyClick(&widget, static_cast<Qt::Key>(key - held), Qt::KeyboardModifiers(held));
+    return keys + " in " + nameOf(widget);
 }
 
 void sendMove(QWidget& widget, const QPoint& at, Qt::MouseButtons buttons,
@@ -71,59 +88,38 @@ QString RandomUser::act() {
     if (request() != nullptr && !m_chance.oneIn(3)) {
         return m_chance.oneIn(2) ? click() : typeAnswer();
     }
-    constexpr std::array kChoices{
-        Choice{24, &RandomUser::click},       Choice{6, &RandomUser::moveMouse},
-        Choice{6, &RandomUser::drag},         Choice{8, &RandomUser::turnWheel},
-        Choice{14, &RandomUser::pressKey},    Choice{6, &RandomUser::triggerAction},
-        Choice{12, &RandomUser::typeCommand}, Choice{18, &RandomUser::typeAnswer},
-        Choice{5, &RandomUser::workPanel},    Choice{1, &RandomUser::pasteLines},
+    using Act = QString (RandomUser::*)();
+    static const std::map<int, Act> kUpTo{
+        // out of 100 events
+        {24, &RandomUser::click},       {30, &RandomUser::moveMouse},
+        {36, &RandomUser::drag},        {44, &RandomUser::turnWheel},
+        {58, &RandomUser::pressKey},    {64, &RandomUser::triggerAction},
+        {76, &RandomUser::typeCommand}, {94, &RandomUser::typeAnswer},
+        {99, &RandomUser::workPanel},   {100, &RandomUser::pasteLines},
     };
-    int weights = 0;
-    for (const Choice& choice : kChoices) {
-        weights += choice.weight;
-    }
-    int left = m_chance.below(weights);
-    for (const Choice& choice : kChoices) {
-        left -= choice.weight;
-        if (left < 0) {
-            return (this->*choice.act)();
-        }
-    }
-    return {};
+    return (this->*kUpTo.upper_bound(m_chance.below(100))->second)();
 }
 
 void RandomUser::escape() {
     QWidget* const popup = QApplication::activePopupWidget();
     QWidget* const dialog = QApplication::activeModalWidget();
     QWidget& target = popup != nullptr ? *popup : dialog != nullptr ? *dialog : m_canvas;
-    QTest::keyClick(&target, Qt::Key_Escape);
+    press(target, "Esc");
 }
 
-// ---- menus, lists that fold out, dialogs
-// ----------------------------------------------------------
+// ---- menus, lists that fold out, dialogs --------------------------------------------------------
 
 QString RandomUser::inPopup(QWidget& popup) {
-    const Qt::Key key = std::array{Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Return,
-                                   Qt::Key_Escape}[static_cast<std::size_t>(m_chance.below(5))];
-    QTest::keyClick(&popup, key);
-    return QString("key %1 in %2").arg(key).arg(nameOf(popup));
+    return press(popup, m_chance.of("Down|Down|Up|Return|Esc"));
 }
 
 QString RandomUser::inDialog(QWidget& dialog) {
     const QString name = "dialog " + dialog.windowTitle() + ": ";
+    QList<QWidget*> widgets = usable(dialog);
     if (qobject_cast<QFileDialog*>(&dialog) != nullptr || m_chance.oneIn(6)) {
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-        return name + "Escape";
+        return name + press(dialog, "Esc");
     }
-    QList<QWidget*> widgets = dialog.findChildren<QWidget*>();
-    eraseIf(widgets, [](QWidget* widget) {
-        return !widget->isVisible() || !widget->isEnabled() || widget->focusPolicy() == Qt::NoFocus;
-    });
-    if (widgets.isEmpty()) {
-        QTest::keyClick(&dialog, Qt::Key_Return);
-        return name + "Enter";
-    }
-    return name + onWidget(*m_chance.of(widgets));
+    return name + (widgets.isEmpty() ? press(dialog, "Return") : onWidget(*m_chance.of(widgets)));
 }
 
 QString RandomUser::onWidget(QWidget& widget) {
@@ -148,26 +144,20 @@ QString RandomUser::onWidget(QWidget& widget) {
 }
 
 QString RandomUser::workPanel() {
-    QList<QWidget*> all;
-    for (const QWidget* const bar : m_window.findChildren<QToolBar*>()) {
-        all += bar->findChildren<QWidget*>();
+    QList<QWidget*> all = usable(*m_window.statusBar());
+    for (const QToolBar* const bar : m_window.findChildren<QToolBar*>()) {
+        all += usable(*bar);
     }
-    for (const QWidget* const dock : m_window.findChildren<QDockWidget*>()) {
-        all += dock->findChildren<QWidget*>();
+    for (const QDockWidget* const dock : m_window.findChildren<QDockWidget*>()) {
+        all += usable(*dock);
     }
-    all += m_window.statusBar()->findChildren<QWidget*>();
     eraseIf(all, [this](const QWidget* widget) {
         const auto* const button = qobject_cast<const QToolButton*>(widget);
-        const bool isAction = button != nullptr && button->defaultAction() != nullptr;
-        return !widget->isVisible() || !widget->isEnabled() ||
-               (isAction && kLeftAlone.contains(button->defaultAction()->objectName())) ||
+        const QAction* const action = button != nullptr ? button->defaultAction() : nullptr;
+        return (action != nullptr && kLeftAlone.contains(action->objectName())) ||
                (button != nullptr && button->menu() != nullptr && m_chance.oneIn(2)) ||
-               (qobject_cast<const QAbstractButton*>(widget) == nullptr &&
-                qobject_cast<const QLineEdit*>(widget) == nullptr &&
-                qobject_cast<const QComboBox*>(widget) == nullptr &&
-                qobject_cast<const QAbstractItemView*>(widget) == nullptr);
+               widget->objectName() == "styleButton";
     });
-    eraseIf(all, [](const QWidget* widget) { return widget->objectName() == "styleButton"; });
     return all.isEmpty() ? QString("no panel") : onWidget(*m_chance.of(all));
 }
 
@@ -251,52 +241,15 @@ QString RandomUser::turnWheel() {
     return QString("wheel %1 at %2").arg(turn).arg(placeText(at));
 }
 
-// ---- keys and lines
-// --------------------------------------------------------------------------------
+// ---- keys and lines -----------------------------------------------------------------------------
 
 QString RandomUser::pressKey() {
-    struct Key {
-        Qt::Key key;
-        Qt::KeyboardModifiers held = Qt::NoModifier;
-    };
-    constexpr std::array kKeys{
-        Key{Qt::Key_Return},
-        Key{Qt::Key_Return},
-        Key{Qt::Key_Space},
-        Key{Qt::Key_Escape},
-        Key{Qt::Key_Escape},
-        Key{Qt::Key_Tab},
-        Key{Qt::Key_F3},
-        Key{Qt::Key_F8},
-        Key{Qt::Key_F10},
-        Key{Qt::Key_F6},
-        Key{Qt::Key_Left},
-        Key{Qt::Key_Right, Qt::ShiftModifier},
-        Key{Qt::Key_Up, Qt::ControlModifier},
-        Key{Qt::Key_Down},
-        Key{Qt::Key_Delete},
-        Key{Qt::Key_Backspace},
-        Key{Qt::Key_Z, Qt::ControlModifier},
-        Key{Qt::Key_Z, Qt::ControlModifier},
-        Key{Qt::Key_Z, Qt::ControlModifier},
-        Key{Qt::Key_Y, Qt::ControlModifier},
-        Key{Qt::Key_Y, Qt::ControlModifier},
-        Key{Qt::Key_A, Qt::ControlModifier},
-        Key{Qt::Key_0, Qt::ControlModifier},
-        Key{Qt::Key_W, Qt::ControlModifier},
-        Key{Qt::Key_Backspace, Qt::ControlModifier},
-        Key{Qt::Key_Plus, Qt::ControlModifier},
-        Key{Qt::Key_Minus, Qt::ControlModifier},
-        Key{Qt::Key_1, Qt::ControlModifier},
-        Key{Qt::Key_S, Qt::ControlModifier},
-        Key{Qt::Key_At},
-        Key{Qt::Key_7},
-        Key{Qt::Key_Comma},
-    };
-    const Key& key = m_chance.of(kKeys);
     QWidget* const focus = QApplication::focusWidget();
-    QTest::keyClick(m_chance.oneIn(3) || focus == nullptr ? &m_canvas : focus, key.key, key.held);
-    return QString("key %1 with %2").arg(key.key).arg(key.held);
+    return press(
+        m_chance.oneIn(3) || focus == nullptr ? m_canvas : *focus,
+        m_chance.of("Return|Return|Space|Esc|Esc|Tab|F3|F6|F8|F10|Left|Shift+Right|Ctrl+Up|"
+                    "Down|Del|Backspace|Ctrl+Z|Ctrl+Z|Ctrl+Z|Ctrl+Y|Ctrl+Y|Ctrl+A|Ctrl+0|"
+                    "Ctrl+W|Ctrl+Backspace|Ctrl++|Ctrl+-|Ctrl+1|Ctrl+S|@|7|,"));
 }
 
 QString RandomUser::triggerAction() {
@@ -318,13 +271,10 @@ QString RandomUser::typeCommand() {
     if (m_window.session()->scene().extents().isEmpty()) {
         return enter("MLINE");
     }
-    QStringList names = commandNames();
-    for (const char* const often : {"-MLEDIT", "MLINE"}) {
-        for (int i = 0; i < 12; ++i) {
-            names << often;
-        }
+    if (m_chance.oneIn(2)) {
+        return enter(m_chance.of("-MLEDIT|-MLEDIT|-MLEDIT|MLINE|MLINE|MLINE|MLEDIT|U|MLCHANGE"));
     }
-    names << QStringList{"MLEDIT", "MLEDIT", "U", "REDO", "MLCHANGE"};
+    QStringList names = commandNames();
     if (!m_changesStyles) {
         names.removeAll("MLSTYLE");
         names.removeAll("MLSTYLEINUSE");

@@ -31,12 +31,6 @@ public:
     void escape();
 
 private:
-    using Act = QString (RandomUser::*)();
-    struct Choice {
-        int weight;
-        Act act;
-    };
-
     QString inPopup(QWidget& popup);
     QString inDialog(QWidget& dialog);
     QString onWidget(QWidget& widget);
