@@ -11,7 +11,7 @@ import tempfile
 
 import ezdxf
 
-from program import Report, call, listed, make_drawing, play
+from program import Checks, call, listed, make_drawing, play
 
 
 def lines(mline):
@@ -24,16 +24,7 @@ def audit(program, drawing, *options):
     return json.loads(run.stdout)["findings"]
 
 
-class Changes:
-    def __init__(self, program, folder):
-        self.program = program
-        self.folder = folder
-        self.out = folder / "out.dxf"
-        self.report = Report()
-
-    def expect(self, what, found, wanted):
-        self.report.check(found == wanted, f"{what}: {found}, expected {wanted}")
-
+class Changes(Checks):
     def play(self, drawing, script, status=0):
         run = play(self.program, drawing, script, self.out)
         self.expect(f"status of {script!r} ({run.stderr})", run.returncode, status)

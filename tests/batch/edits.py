@@ -13,7 +13,7 @@ import tempfile
 import ezdxf
 from ezdxf.math import OCS, Vec3
 
-from program import Report, call, listed, make_drawing, play
+from program import Checks, call, listed, make_drawing, play
 
 SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
 
@@ -44,19 +44,14 @@ def make_plan(path):
     return path
 
 
-class Edits:
+class Edits(Checks):
     def __init__(self, program, folder):
-        self.program = program
-        self.out = folder / "out.dxf"
+        super().__init__(program, folder)
         self.plan = make_plan(folder / "plan.dxf")
         self.bytes = self.plan.read_bytes()
         self.mlines = listed(program, self.plan)["multilines"]
         self.handles = [mline["handle"] for mline in self.mlines]
         self.faults = self.errors_of(self.plan)
-        self.report = Report()
-
-    def expect(self, what, found, wanted):
-        self.report.check(found == wanted, f"{what}: {found}, expected {wanted}")
 
     @staticmethod
     def errors_of(path):

@@ -19,7 +19,7 @@ import ezdxf
 from ezdxf.entities.mline import MLineVertex
 from ezdxf.math import OCS, Vec3
 
-from program import Report, call, play
+from program import Checks, call, play
 
 TOLERANCE = 1e-9
 COLORS = (1, 256, 0, 5)  # of the elements; by layer and by block among them
@@ -155,16 +155,7 @@ def audited(document):
     return len(auditor.errors) + len(auditor.fixes)
 
 
-class Exports:
-    def __init__(self, program, folder):
-        self.program = program
-        self.folder = folder
-        self.out = folder / "out.dxf"
-        self.report = Report()
-
-    def expect(self, what, found, wanted):
-        self.report.check(found == wanted, f"{what}: {found}, expected {wanted}")
-
+class Exports(Checks):
     def random_plan(self, seed):
         pick = random.Random(seed)
         document = ezdxf.new("R2004", setup=True)

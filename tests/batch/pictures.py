@@ -8,7 +8,7 @@ import tempfile
 
 import ezdxf
 
-from program import Report, call, listed
+from program import Checks, call, listed
 
 
 def make_plan(path, unit=0):
@@ -48,15 +48,10 @@ def chains(svg):
             for data in re.findall(r'<path stroke[^>]* d="M([^"]*)"', svg) for chain in data.split("M")]
 
 
-class Pictures:
+class Pictures(Checks):
     def __init__(self, program, folder):
-        self.program = program
-        self.folder = folder
+        super().__init__(program, folder)
         self.plan = make_plan(folder / "plan.dxf")
-        self.report = Report()
-
-    def expect(self, what, found, wanted):
-        self.report.check(found == wanted, f"{what}: {found}, expected {wanted}")
 
     def near(self, what, found, wanted):
         good = len(found) == len(wanted) and all(abs(a - b) < 0.02 for a, b in zip(found, wanted))

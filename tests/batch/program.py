@@ -49,3 +49,16 @@ class Report:
     def finish(self):
         print("\n".join(self.wrong) or f"{self.count} checks passed")
         sys.exit(1 if self.wrong or not self.count else 0)
+
+
+class Checks:
+    """Checks of a program's results, which it writes into a folder."""
+
+    def __init__(self, program, folder):
+        self.program = program
+        self.folder = folder
+        self.out = folder / "out.dxf"
+        self.report = Report()
+
+    def expect(self, what, found, wanted):
+        self.report.check(found == wanted, f"{what}: {found}, expected {wanted}")

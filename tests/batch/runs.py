@@ -10,7 +10,7 @@ import sys
 import tempfile
 
 import ezdxf
-from program import Report, call, listed, make_drawing, play
+from program import Checks, call, listed, make_drawing, play
 
 
 def lines(mline):
@@ -23,13 +23,7 @@ def close(left, right):
     return math.isclose(left, right, abs_tol=1e-9)
 
 
-class Runs:
-    def __init__(self, program, folder):
-        self.program = program
-        self.folder = folder
-        self.out = folder / "out.dxf"
-        self.report = Report()
-
+class Runs(Checks):
     def play(self, drawing, script):
         run = play(self.program, drawing, script, self.out)
         self.report.check(run.returncode == 0, f"{script!r}: status {run.returncode}, {run.stderr}")
