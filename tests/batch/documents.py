@@ -1,9 +1,11 @@
 #!/usr/bin/python3
 """Plays what README, guide and manual show: documents.py PROGRAM TREE
 
-Each block of code is a list of calls, a script or Python, and is carried out in the order of its document.
+Each block of code is a list of calls, a script or Python, and is carried out in the order of its document. Of calls
+that build, measure or draw, in any document, what they name has to be there: files, presets, tests, options.
 """
 
+import json
 import os
 import pathlib
 import re
@@ -27,6 +29,35 @@ def blocks(text):
 def manual_example(text):
     example = re.search(r"^\.nf\n(.*?)^\.fi$", text, re.DOTALL | re.MULTILINE)[1]
     return example.replace(r"\en", r"\n").replace(r"\-", "-")
+
+
+def building_calls(text):
+    """The words of each call on a tool of the tree, and of files that are named alone."""
+    spans = re.findall(r"`([^`\n]+)`", re.sub(r"^```.*?^```$", "", text, flags=re.DOTALL | re.MULTILINE))
+    for fenced in re.finditer(r"^```\n(.*?)^```$", text, re.DOTALL | re.MULTILINE):
+        spans += re.sub(r"#.*", "", fenced[1]).splitlines()
+    for span in spans:
+        if re.match(r"(\./\w|(tools|docs|samples|bench|tests|packaging|build)/[\w/.]+( |$)|(cmake|ctest) -)", span):
+            yield span.split()
+
+
+def missing(tree, words):
+    """What a call names and isn't there."""
+    presets = {preset["name"] for preset in json.loads((tree / "CMakePresets.json").read_text())["configurePresets"]}
+    builds = "".join(path.read_text() for path in tree.glob("tests/**/CMakeLists.txt"))
+    programs = set(re.findall(r"orvex_(?:test|fuzzer)\((\w+)", builds)) | {"orvex-batch", "orvex-desk", "bin", "package"}
+    built = [word.split("/") for word in words if word.startswith("build/")]
+    named = {option: words[words.index(option) + 1] for option in ("--preset", "--target", "-L") if option in words}
+    lacking = {named.pop("--preset", "dev"), *(path[1] for path in built)} - presets
+    lacking |= {*named.values(), *(path[-1] for path in built if len(path) > 2)} - programs
+    if words[0] in ("cmake", "ctest"):
+        return lacking
+    path = tree / words[0]
+    sources = list(tree.glob("tests/*/*.cpp")) if words[0].startswith("build/") else [path]
+    if not path.exists() and sources == [path]:
+        return {words[0]}
+    code = "".join(source.read_text() for source in sources) if len(words) > 1 else ""
+    return lacking | {word for word in words if re.match(r"--(?!gtest)", word) and word not in code}
 
 
 class Player:
@@ -80,6 +111,13 @@ def main():
             for language, text in blocks((tree / document).read_text()):
                 player.play(language, text)
         player.shell(manual_example((tree / "apps/batch/orvex-batch.1").read_text()))
+    looked = 0
+    for document in (path for path in tree.rglob("*.md") if "build" not in path.parts):
+        for words in building_calls(document.read_text()):
+            lacking = missing(tree, words)
+            report.check(not lacking, f"{document.name}: {' '.join(words)}: no {', '.join(lacking)}")
+            looked += 1
+    report.check(looked > 30, f"only {looked} calls and files were found")
     report.finish()
 
 
