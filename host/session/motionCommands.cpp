@@ -17,10 +17,19 @@ namespace orvex {
 
 namespace {
 
-// Empty for a cancel, too; then it has been told.
-std::vector<KdDbStub*> askMlines(Session& session) {
+struct MotionStart {
+    std::vector<KdDbStub*> mlines;
+    KdGePoint3d base;
+};
+
+// Nothing for a cancel, or where nothing was selected, which has been told then.
+std::optional<MotionStart> askStart(Session& session, const std::wstring& question) {
     std::optional<Selection> selection = askSelection(session, SelectionKind::mlines);
-    return selection ? std::move(selection->entities) : std::vector<KdDbStub*>();
+    if (!selection || selection->entities.empty()) {
+        return std::nullopt;
+    }
+    const auto base = askPoint(question.c_str());
+    return base ? std::optional(MotionStart{std::move(selection->entities), *base}) : std::nullopt;
 }
 
 void moveAll(const std::vector<KdDbStub*>& mlines, const PlanMotion& motion,
@@ -69,60 +78,55 @@ KdGeVector3d userNormal() {
 } // namespace
 
 void moveCommand(Session& session) {
-    const std::vector<KdDbStub*> mlines = askMlines(session);
-    const auto base =
-        mlines.empty() ? std::nullopt : askPoint(wideHostText("Base point: ").c_str());
-    if (!base) {
+    const auto start = askStart(session, wideHostText("Base point: "));
+    if (!start) {
         return;
     }
-    const PreviewScope preview(shiftFrom(mlines, *base));
+    const auto& [mlines, base] = *start;
+    const PreviewScope preview(shiftFrom(mlines, base));
     if (const auto second = askPoint(wideHostText("Second point: ").c_str(), base)) {
-        moveAll(mlines, shiftBy(*second - *base), hostText("%1 of %2 multilines moved."));
+        moveAll(mlines, shiftBy(*second - base), hostText("%1 of %2 multilines moved."));
     }
 }
 
 void copyCommand(Session& session) {
-    const std::vector<KdDbStub*> mlines = askMlines(session);
-    const auto base =
-        mlines.empty() ? std::nullopt : askPoint(wideHostText("Base point: ").c_str());
-    if (!base) {
+    const auto start = askStart(session, wideHostText("Base point: "));
+    if (!start) {
         return;
     }
-    const PreviewScope preview(shiftFrom(mlines, *base));
+    const auto& [mlines, base] = *start;
+    const PreviewScope preview(shiftFrom(mlines, base));
     while (const auto second = askPoint(wideHostText("Second point: ").c_str(), base)) {
-        copyAll(mlines, shiftBy(*second - *base));
+        copyAll(mlines, shiftBy(*second - base));
     }
 }
 
 void rotateCommand(Session& session) {
-    const std::vector<KdDbStub*> mlines = askMlines(session);
-    const auto base =
-        mlines.empty() ? std::nullopt : askPoint(wideHostText("Base point: ").c_str());
-    if (!base) {
+    const auto start = askStart(session, wideHostText("Base point: "));
+    if (!start) {
         return;
     }
+    const auto& [mlines, base] = *start;
     const PreviewScope preview(
-        PromptMotion{mlines, [base = *base](const KdGePoint3d& cursor) -> std::optional<PlanMap> {
+        PromptMotion{mlines, [base = base](const KdGePoint3d& cursor) -> std::optional<PlanMap> {
                          return planMapOf(turnAbout(base, userNormal(), userDegrees(base, cursor)));
                      }});
     const PromptAnswer answer =
         askUser(PromptKind::real, wideHostText("Degrees counter-clockwise: ").c_str(), base);
     if (answer.kind == PromptAnswer::Kind::number) {
-        moveAll(mlines, turnAbout(*base, userNormal(), answer.number),
+        moveAll(mlines, turnAbout(base, userNormal(), answer.number),
                 hostText("%1 of %2 multilines rotated."));
     }
 }
 
 void mirrorCommand(Session& session) {
-    const std::vector<KdDbStub*> mlines = askMlines(session);
-    const auto first = mlines.empty()
-                           ? std::nullopt
-                           : askPoint(wideHostText("First point of the mirror line: ").c_str());
-    if (!first) {
+    const auto start = askStart(session, wideHostText("First point of the mirror line: "));
+    if (!start) {
         return;
     }
+    const auto& [mlines, first] = *start;
     const PreviewScope preview(
-        PromptMotion{mlines, [first = *first](const KdGePoint3d& cursor) -> std::optional<PlanMap> {
+        PromptMotion{mlines, [first = first](const KdGePoint3d& cursor) -> std::optional<PlanMap> {
                          const Result<PlanMotion> motion = mirrorAt(first, cursor, userNormal());
                          return motion ? std::optional(planMapOf(*motion)) : std::nullopt;
                      }});
@@ -130,7 +134,7 @@ void mirrorCommand(Session& session) {
     if (!second) {
         return;
     }
-    const Result<PlanMotion> motion = mirrorAt(*first, *second, userNormal());
+    const Result<PlanMotion> motion = mirrorAt(first, *second, userNormal());
     if (!motion) {
         kdutPrintf(L"%ls",
                    widen(hostText("Nothing mirrored: %1.", {motion.failure().text})).c_str());
