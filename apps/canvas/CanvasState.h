@@ -53,12 +53,10 @@ struct Canvas::State {
         GuidedPoint point;
     };
     std::optional<Guided> guided;
-    // The keyboard moves the cross; where it was sent to, until it is moved on; and it is the
-    // keyboard that presses or moves the mouse just now.
-    bool isCrossOn = false;
-    std::optional<GuidedPoint> crossTarget;
-    bool isCrossActing = false;
-    bool isGuideStale = false; // and nobody was notified of where the cursor is
+    std::optional<GuidedPoint> crossTarget; // where the keyboard sent the cross, until it moves on
+    bool isCrossOn = false;                 // the keyboard moves it
+    bool isCrossActing = false;             // it is what presses or moves the mouse just now
+    bool isGuideStale = false;              // and nobody was notified of where the cursor is
     Qt::KeyboardModifiers heldKeys = Qt::NoModifier; // at the last look
 
     struct Click {
@@ -76,18 +74,17 @@ struct Canvas::State {
         bool isOnSelected = false;         // while nothing asks
     };
     std::optional<Press> press;
-    // A grip is in hand and the button down: where it is let go answers the question that follows.
-    bool isGripDragged = false;
-    std::optional<Click> waitingDrop; // it was let go before the question
-    // A window of a selection: its first corner, and whether it ends as the button is let go.
-    std::optional<PlanPoint> selectionFrom;
-    bool isSelectionDragged = false;
+    std::optional<Click> waitingDrop;       // a grip was let go before the question
+    std::optional<PlanPoint> selectionFrom; // the first corner of a selection's window
     std::optional<std::size_t> windowCount; // of what it would take; nothing until it is known
     bool isWindowCountStale = false;
+    bool isSelectionDragged = false; // it ends as the button is let go
+    // A grip is in hand and the button down: where it is let go answers the question that follows.
+    bool isGripDragged = false;
 
-    std::optional<QPoint> panFrom;
-    Qt::MouseButton panButton = Qt::NoButton;
     WindowStep windowStep = WindowStep::off;
+    Qt::MouseButton panButton = Qt::NoButton;
+    std::optional<QPoint> panFrom;
     QPoint windowCorner;
     QElapsedTimer sinceWheel;
 

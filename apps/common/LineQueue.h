@@ -28,8 +28,8 @@ private:
     struct Line {
         QPointF from;
         QPointF to;
-        double width;
-        std::uint32_t rgb;
+        double width = 0.0;
+        std::uint32_t rgb = 0;
     };
     void paint(const std::vector<Line>& lines);
     void work();
