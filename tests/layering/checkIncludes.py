@@ -38,14 +38,14 @@ RULES = {
     "host/resources": host("base", "resources"),
     "host/registry": host("base", "resources", "registry"),
     # Knows no file format, no view and no widget, or no drawing could be changed without them.
-    "host/database": host("base", "resources", "database"),
+    "host/database": host("base", "database"),
     # Geometry and edits of contents: a multiline in, a multiline out, whoever asks.
-    "host/change": host("base", "resources", "database"),
+    "host/change": host("base", "database"),
     # Pure: values of the database alone.
-    "host/join": host("base", "resources", "database") + ["host/change"],
-    "host/prompt": host("base", "resources", "database", "prompt"),
-    "host/view": host("base", "resources", "database", "prompt", "view") + ["host/change"],
-    "host/drawing": host("base", "resources", "database"),
+    "host/join": host("base", "database"),
+    "host/prompt": host("base", "database", "prompt"),
+    "host/view": host("base", "database", "prompt", "view") + ["host/change"],
+    "host/drawing": host("base", "database"),
     # Puts the others together, without a window.
     "host/session": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join"],
     "host/window": host("base", "window"),
@@ -53,9 +53,9 @@ RULES = {
     # The module. It takes the host's interface, never its insides.
     "primitives": interface("base", "database", "prompt", "view"),
     "streams": interface("base", "database"),
-    "record": interface("base", "database", "prompt", "view", "resources") + ["primitives"],
+    "record": interface("base", "database", "prompt"),
     "engine": interface("base", "database", "prompt", "view", "resources") + ["record", "primitives", "resources"],
-    "controls": interface("base", "resources", *WINDOWS),
+    "controls": interface("base", "window"),
     "dialogs": interface("base", "database", "prompt", "view", "resources", *WINDOWS)
     + ["controls", "engine", "record", "primitives", "resources"],
     "module": interface(*SUBJECTS, *WINDOWS)
