@@ -7,6 +7,7 @@
 #include "Scene.h"
 #include "SvgPicture.h"
 #include "handleText.h"
+#include "hostText.h"
 #include "mlineNumbers.h"
 #include "paintAppearance.h"
 #include "textCodec.h"
@@ -175,7 +176,7 @@ Result<QByteArray> pngPicture(const Draft& draft) {
     QImage image(view.width(), view.height(),
                  isTransparent ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     if (image.isNull() || !haveGuiApplication()) {
-        return unwritable("there is no memory or no application for the picture");
+        return unwritable(hostText("there is no memory or no application for the picture"));
     }
     const bool isDark = draft.options.ground == PictureGround::dark;
     image.fill(isTransparent ? QColor(Qt::transparent)
@@ -188,14 +189,14 @@ Result<QByteArray> pngPicture(const Draft& draft) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     if (!image.save(&buffer, "PNG")) {
-        return unwritable("the picture can't be packed");
+        return unwritable(hostText("the picture can't be packed"));
     }
     return buffer.data();
 }
 
 Result<QByteArray> pdfPicture(const Draft& draft) {
     if (!haveGuiApplication()) {
-        return unwritable("there is no application for the picture");
+        return unwritable(hostText("there is no application for the picture"));
     }
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -215,7 +216,7 @@ Result<QByteArray> pdfPicture(const Draft& draft) {
                              : kPixelsPerInch);
     QPainter painter;
     if (!painter.begin(&writer)) {
-        return unwritable("the page can't be begun");
+        return unwritable(hostText("the page can't be begun"));
     }
     if (draft.options.ground == PictureGround::dark) {
         painter.fillRect(QRectF({0, 0}, pixels), QColor::fromRgb(kDarkGround));
@@ -298,7 +299,7 @@ std::optional<Failure> checkPicture(PictureKind kind, const PictureSize& size) {
 std::optional<Failure> checkPicture(const std::string& path, const PictureSize& size) {
     const auto kind = pictureKindOf(path);
     if (!kind) {
-        return wrongCall(path, "the name of a picture has to end in .svg, .png or .pdf");
+        return wrongCall(path, hostText("the name of a picture has to end in .svg, .png or .pdf"));
     }
     auto failure = checkPicture(*kind, size);
     if (failure) {

@@ -47,6 +47,18 @@ for table in source.glob("*/**/texts.txt"):
         if number in range(4000, 5000) and ours[number].isupper() and theirs[number] != ours[number]:
             faults.append(f"{table}: {number} are keywords, the same in every language")
 
+
+def rows(page):
+    """How many rows each table of a page has."""
+    return [table.count("\n|") for table in re.findall(r"(?:^\|.*\n)+", page.read_text(encoding="utf-8"), re.M)]
+
+
+# Peculiarities of a caption go with the caption.
+for page in [*source.glob("docs/*/*.md"), *source.glob("docs/help/*/*.md")]:
+    english = page.parent.parent / page.name
+    if english.exists() and page.stem != "peculiarities" and rows(page) != rows(english):
+        faults.append(f"{page}: tables of {rows(page)} rows, in English of {rows(english)}")
+
 checked = 0
 for table in [*source.glob("resources/*/captions.ts"), *source.glob("host/icons/*/captions.ts")]:
     for message in xml.parse(table).getroot().iter("message"):

@@ -6,10 +6,12 @@ import sys
 
 MARKS = {"tr", "translate", "QT_TR_NOOP", "QT_TRANSLATE_NOOP", "hostText", "wideHostText", "markedText"}
 SHOWS = {"setText", "setToolTip", "setStatusTip", "setWindowTitle", "setPlaceholderText", "addAction", "addMenu", "QLabel",
-         "setTitle", "addRow", "addItem", "showMessage", "setInformativeText", "printed", "complained"}
+         "setTitle", "addRow", "addItem", "showMessage", "setInformativeText", "printed", "complained", "QAction", "QCheckBox",
+         "QDockWidget", "QGroupBox", "QMenu", "QProgressDialog", "QPushButton", "QRadioButton", "addButton", "addTab", "getInt",
+         "getText", "setAccessibleName", "setHorizontalHeaderLabels", "setLabelText", "setWhatsThis"}
 # Calls whose texts are for people who make the program.
 INNER = {"assert", "static_assert", "length_error", "runtime_error", "invalid_argument", "logic_error", "qWarning"}
-ROOMS = ["apps/desk", "apps/canvas", "host/session", "host/prompt", "host/change", "host/join", "host/view",
+ROOMS = ["apps/desk", "apps/canvas", "apps/common", "host/session", "host/prompt", "host/change", "host/join", "host/view",
          "host/registry", "host/database", "host/drawing", "host/base", "host/resources", "host/ui", "host/window"]
 
 # (file, literal, why); both are patterns for the whole.
@@ -17,6 +19,10 @@ ALLOWED = [
     (r"apps/desk/(DeskCall|main)\.cpp", r".*", "what a terminal is told at the start, in English as by orvex-batch"),
     (r"apps/desk/SnapDesk\.cpp", r"\w+", "names of actions"),
     (r"apps/desk/helpPages\.cpp", r"qrc:", "an address"),
+    (r"apps/common/SvgPicture\.cpp", r".*", "what a picture is written with"),
+    (r"apps/common/paintAppearance\.cpp", r"DejaVu Sans", "a font"),
+    (r"apps/common/memoryEnd\.cpp", r".*", "what a terminal is told when there is no memory for more"),
+    (r"apps/common/pictureWriter\.cpp", r"(each side of|a \.png) .*", "of sizes, which are orvex-batch's"),
     (r"host/session/\w+\.cpp", r"(Look Repair|Top Zero Bottom|Both Start End None|STyle SCale .*|Axis Outer|Yes No|Tolerance Cross .*|"
      r"Justification Scale .*|Close Undo|ALL Window .*|Move Add .*|Extents Center)", "keywords"),
     (r"apps/desk/PlayScript\.cpp", r"; what was done to ", "a comment in a script that is saved"),

@@ -1261,7 +1261,7 @@
     </message>
     <message>
         <source>%1 other than multilines left out.</source>
-        <translation>%1 andere als Multilinien ausgelassen.</translation>
+        <translation>%1 andere Objekte als Multilinien ausgelassen.</translation>
     </message>
     <message>
         <source>First corner: </source>
@@ -1826,6 +1826,26 @@
     <message>
         <source>How soon unsaved work is kept against faults</source>
         <translation>Wie bald nicht Gespeichertes gegen Fehler gesichert wird</translation>
+    </message>
+    <message>
+        <source>there is no memory or no application for the picture</source>
+        <translation>für das Bild fehlt der Speicher oder eine Anwendung</translation>
+    </message>
+    <message>
+        <source>the picture can&apos;t be packed</source>
+        <translation>das Bild kann nicht gepackt werden</translation>
+    </message>
+    <message>
+        <source>there is no application for the picture</source>
+        <translation>für das Bild fehlt eine Anwendung</translation>
+    </message>
+    <message>
+        <source>the page can&apos;t be begun</source>
+        <translation>die Seite kann nicht begonnen werden</translation>
+    </message>
+    <message>
+        <source>the name of a picture has to end in .svg, .png or .pdf</source>
+        <translation>der Name eines Bildes muss auf .svg, .png oder .pdf enden</translation>
     </message>
 </context>
 <context>
