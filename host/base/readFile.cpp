@@ -55,16 +55,20 @@ public:
     // `size` is what it should be: some files of the system have none and hold bytes.
     [[nodiscard]] Result<std::string> readAll(std::size_t size, const Progress& progress,
                                               std::uint64_t largest) const {
-        constexpr std::size_t kPiece = std::size_t{1} << 20U;
+        constexpr std::size_t kSmallestPiece = 4096;
+        constexpr std::size_t kLargestPiece = std::size_t{1} << 20U;
         if (size > largest) {
             return failure(std::strerror(EFBIG));
         }
         std::string bytes;
-        bytes.reserve(size + kPiece); // with room to see its end
+        bytes.reserve(size + kSmallestPiece); // with room to see its end
         wantLargePages(bytes.data(), bytes.capacity());
         for (std::size_t filled = 0;;) {
-            bytes.resize(filled + kPiece);
-            const ssize_t got = readPiece(bytes.data() + filled, kPiece);
+            // Not more than what is left: clearing memory takes as long as reading.
+            const std::size_t left = size == 0 ? filled : size - std::min(size, filled);
+            const std::size_t piece = std::clamp(left, kSmallestPiece, kLargestPiece);
+            bytes.resize(filled + piece);
+            const ssize_t got = readPiece(bytes.data() + filled, piece);
             if (got < 0) {
                 return failure(std::strerror(errno));
             }

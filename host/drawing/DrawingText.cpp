@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <utility>
 
 namespace orvex {
 
@@ -33,7 +34,13 @@ QTextCodec* codecFor(std::string_view codePage) {
     std::ranges::transform(page, page.begin(), [](char c) {
         return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
     });
-    QTextCodec* codec = nullptr;
+    // Qt compares a name with those of all its codecs.
+    thread_local std::string lastPage;
+    thread_local QTextCodec* codec = nullptr;
+    if (page == std::exchange(lastPage, page)) {
+        return codec;
+    }
+    codec = nullptr;
     if (const auto* const found = std::ranges::find(kNames, page, &Names::page);
         found != kNames.end()) {
         codec = QTextCodec::codecForName(found->codec);
