@@ -159,6 +159,34 @@ TEST(Conversion, keepsValuesThereAndBack) {
     EXPECT_EQ(converted(binaryOf(text), DrawingForm::binary), binaryOf(text));
 }
 
+// Where another kind of value begins and ends: a value takes as many bytes as its kind has.
+TEST(Conversion, knowsTheKindOfEachCode) {
+    const struct {
+        std::vector<int> firstAndLast;
+        const char* value;
+        std::size_t size;
+    } kinds[] = {
+        {{1,   9,   80,  89,  100, 109, 150, 159, 180, 209,  240,  269,  300,
+          309, 320, 369, 390, 399, 410, 419, 430, 439, 1000, 1003, 1005, 1009},
+         "1.50",
+         5},
+        {{10, 59, 110, 149, 210, 239, 460, 469, 1010, 1059}, "1.5", 8},
+        {{60, 79, 170, 179, 270, 289, 370, 389, 400, 409, 1060, 1070}, "-2", 2},
+        {{90, 99, 420, 429, 440, 459, 1071}, "70000", 4},
+        {{160, 169}, "5000000000", 8},
+        {{290, 299}, "255", 1},
+        {{310, 319, 1004}, "0A", 2}, // with its length
+    };
+    const std::string head = "0 SECTION\n9 $ACADVER\n1 AC1018\n";
+    for (const auto& [codes, value, size] : kinds) {
+        for (const int code : codes) {
+            const std::string tag = std::to_string(code) + " " + value;
+            EXPECT_EQ(binaryOf(dxf(head + tag)).size(), binaryOf(dxf(head)).size() + 2 + size)
+                << tag;
+        }
+    }
+}
+
 TEST(Conversion, refusesWhatTheBinaryFormLacks) {
     const std::string chunk(512, 'A');
     const struct {
@@ -197,6 +225,7 @@ TEST(Conversion, refusesWhatTheBinaryFormLacks) {
     ASSERT_EQ(result->warnings.size(), 2U);
     EXPECT_EQ(result->warnings[0].line, 2U);
     EXPECT_THAT(result->warnings[0].text, HasSubstr("2 left out"));
+    EXPECT_EQ(result->warnings[1].line, 9U); // after four tags
 }
 
 } // namespace

@@ -120,6 +120,7 @@ TEST(Cutting, canBeGivenUp) {
         bytes, 0, [](double) { return false; }, drawing);
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->cause, FailureCause::interrupted);
+    EXPECT_EQ(failure->line, 0U); // no line is to blame
 }
 
 } // namespace

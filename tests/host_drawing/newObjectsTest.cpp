@@ -5,6 +5,7 @@
 #include "DatabaseCore.h"
 #include "KdDbBlockTable.h"
 #include "KdDbDictionary.h"
+#include "KdDbLayerTable.h"
 #include "KdDbLinetypeTable.h"
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
@@ -60,6 +61,25 @@ KdDbStub& addLinetype(DrawingFile& file, const wchar_t* name) {
     KdDbObjectId id;
     table->add(id, linetype.release());
     return *id.stub();
+}
+
+// Everything about it is unusual.
+void addLayer(DrawingFile& file, const wchar_t* name) {
+    DatabaseCore& core = file.database().core();
+    auto layer = std::make_unique<KdDbLayerTableRecord>();
+    layer->setName(name);
+    layer->setIsOff(true);
+    layer->setIsFrozen(true);
+    layer->setIsLocked(true);
+    layer->setLinetype(L"DOTS");
+    layer->setLineweight(25);
+    KdCmColor color;
+    color.setColorIndex(3);
+    layer->setColor(color);
+    auto* const table =
+        dynamic_cast<KdDbLayerTable*>(core.open(*core.wellKnown().layerTable, true));
+    KdDbObjectId id;
+    table->add(id, layer.release());
 }
 
 std::uint64_t highestHandle(DrawingFile& file) {
@@ -203,6 +223,51 @@ TEST(NewObjects, areWrittenWhereverTheFileBreaksOff) {
         core.changes().undo();
         ASSERT_TRUE(sameText(file->bytes(), cut));
     }
+}
+
+// All of each record, in the order in which other readers want it. What is added has the handles 1
+// to 4, dictionaries, STANDARD and tables those after.
+TEST(NewObjects, areWrittenInFullWhereThereIsNothing) {
+    const auto file = openDrawing(dxf("0 EOF"));
+    KdDbStub& style = addStyle(*file, L"Zaun");
+    addMline(*file, file->database().core().blocks().modelSpace(), &style);
+    addLinetype(*file, L"DOTS");
+    addLayer(*file, L"Hidden");
+    const std::string usual =
+        "70 0\n3 \n62 256\n51 90.0\n52 90.0\n71 2\n49 0.5\n62 256\n6 BYLAYER\n"
+        "49 -0.5\n62 256\n6 BYLAYER\n";
+    const std::string owned = "102 {ACAD_REACTORS\n330 5\n102 }\n330 5\n100 AcDbMlineStyle\n";
+    const std::string expected =
+        "0 SECTION\n2 HEADER\n9 $ACADVER\n1 AC1015\n9 $HANDSEED\n5 A\n0 ENDSEC\n"
+        "0 SECTION\n2 TABLES\n0 TABLE\n2 LTYPE\n5 8\n330 0\n100 AcDbSymbolTable\n70 1\n"
+        "0 LTYPE\n5 3\n330 8\n100 AcDbSymbolTableRecord\n100 AcDbLinetypeTableRecord\n"
+        "2 DOTS\n70 0\n3 Dots . . .\n72 65\n73 2\n40 0.25\n49 0.0\n74 0\n49 -0.25\n74 0\n"
+        "0 ENDTAB\n0 TABLE\n2 LAYER\n5 9\n330 0\n100 AcDbSymbolTable\n70 1\n"
+        "0 LAYER\n5 4\n330 9\n100 AcDbSymbolTableRecord\n100 AcDbLayerTableRecord\n"
+        "2 Hidden\n70 5\n62 -3\n6 DOTS\n370 25\n0 ENDTAB\n0 ENDSEC\n"
+        "0 SECTION\n2 ENTITIES\n0 MLINE\n5 2\n100 AcDbEntity\n8 0\n" +
+        replaced(replaced(kNewMline, "WALL", "Zaun"), "340 2F", "340 1") +
+        "0 ENDSEC\n0 SECTION\n2 OBJECTS\n"
+        "0 DICTIONARY\n5 6\n330 0\n100 AcDbDictionary\n281 1\n3 ACAD_MLINESTYLE\n350 5\n"
+        "0 DICTIONARY\n5 5\n102 {ACAD_REACTORS\n330 6\n102 }\n330 6\n100 AcDbDictionary\n"
+        "281 1\n3 STANDARD\n350 7\n3 Zaun\n350 1\n" +
+        "0 MLINESTYLE\n5 7\n" + owned + "2 STANDARD\n" + usual + "0 MLINESTYLE\n5 1\n" + owned +
+        "2 Zaun\n" + usual + "0 ENDSEC\n0 EOF";
+    EXPECT_TRUE(sameText(file->bytes(), dxf(expected)));
+}
+
+// Readers take the first object for the root of all, also where that place's own object is changed.
+TEST(NewObjects, comeAfterTheRootDictionary) {
+    const auto file = openDrawing(dxf("0 SECTION\n2 OBJECTS\n0 MLINESTYLE\n5 2F\n2 WALL\n71 0\n"
+                                      "0 ENDSEC\n0 EOF"));
+    auto* const wall =
+        dynamic_cast<KdDbMlineStyle*>(file->database().core().open(stubOf(*file, 0x2F), true));
+    ASSERT_NE(wall, nullptr);
+    wall->setFilled(true);
+    addStyle(*file, L"Zaun");
+    const std::string bytes = file->bytes();
+    EXPECT_NE(bytes.find(dxf("2 OBJECTS\n0 DICTIONARY")), std::string::npos) << bytes;
+    EXPECT_NE(bytes.find(dxf("70 1")), std::string::npos) << bytes;
 }
 
 } // namespace

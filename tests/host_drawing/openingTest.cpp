@@ -5,6 +5,7 @@
 #include "KdDbBlockTable.h"
 #include "KdDbLayerTable.h"
 #include "KdDbLinetypeTable.h"
+#include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
 #include "ObjectTable.h"
@@ -153,6 +154,27 @@ TEST(Opening, putsEntitiesIntoTheirBlocks) {
     EXPECT_EQ(core.blocks().blockOf(stubOf(*file, 0x41)), room);
 }
 
+TEST(Opening, takesUsualValuesForWhatIsLeftOut) {
+    const auto file = openDrawing(
+        dxf("0 SECTION\n2 ENTITIES\n0 MLINE\n5 51\n2 BARE\n72 1\n73 0\n11 1\n21 2\n31 3\n12 1\n"
+            "22 0\n13 0\n23 1\n0 MLINE\n5 52\n2 BARE\n71 12\n72 0\n73 0\n0 ENDSEC\n"
+            "0 SECTION\n2 OBJECTS\n0 MLINESTYLE\n5 2F\n2 BARE\n71 0\n0 ENDSEC\n0 EOF"));
+    DatabaseCore& core = file->database().core();
+    const auto* const mline = dynamic_cast<KdDbMline*>(core.load(stubOf(*file, 0x51)));
+    const auto* const flagged = dynamic_cast<KdDbMline*>(core.load(stubOf(*file, 0x52)));
+    const auto* const style = dynamic_cast<KdDbMlineStyle*>(core.load(stubOf(*file, 0x2F)));
+    ASSERT_TRUE(mline != nullptr && flagged != nullptr && style != nullptr);
+    EXPECT_EQ(mline->scale(), 1.0);
+    EXPECT_EQ(mline->justification(), 0);
+    EXPECT_EQ(mline->normal(), (KdGeVector3d{0.0, 0.0, 1.0}));
+    EXPECT_FALSE(mline->closedMline() || mline->supressStartCaps() || mline->supressEndCaps());
+    EXPECT_TRUE(flagged->supressStartCaps() && flagged->supressEndCaps());
+    EXPECT_DOUBLE_EQ(style->startAngle(), 1.5707963267948966);
+    EXPECT_DOUBLE_EQ(style->endAngle(), 1.5707963267948966);
+    EXPECT_EQ(style->fillColor().colorIndex(), 256);
+    EXPECT_EQ(style->values().flags, 0);
+}
+
 TEST(Opening, readsStylesTablesAndVariables) {
     // What stands in another program's group of a record isn't the record's own.
     const auto file = openDrawing(
@@ -179,6 +201,7 @@ TEST(Opening, readsStylesTablesAndVariables) {
     const auto* const layer =
         dynamic_cast<KdDbLayerTableRecord*>(core.load(*core.wellKnown().findLayer(L"WALLS")));
     ASSERT_NE(layer, nullptr);
+    EXPECT_EQ(layer->name(), L"Walls");
     EXPECT_TRUE(layer->isOff());
     EXPECT_TRUE(layer->isLocked());
     EXPECT_FALSE(layer->isFrozen());

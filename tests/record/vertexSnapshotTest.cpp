@@ -57,6 +57,11 @@ TEST(VertexSnapshot, repeatsTheLastElementAtAVertexThatHasFewer) {
     EXPECT_EQ(fewer[0].elem[2].lineParams[0], -1.0);
     EXPECT_EQ(fewer[1].elem[2].lineParams[0], 5.0);
 
+    mline.setParametersAt(0, entry);
+    const Snapshot single(ret_vert(&mline));
+    ASSERT_NE(single[0].elem, nullptr);
+    EXPECT_EQ(single[0].elem[0].lineParams[0], 5.0);
+
     record.resize(0);
     mline.setParametersAt(0, entry);
     const Snapshot none(ret_vert(&mline));

@@ -163,6 +163,10 @@ TEST_F(VoBitStreamFormsTest, aValueThatIsCutOffGivesZerosForWhatIsMissing) {
     EXPECT_EQ(stream.tell(), 10U);
     EXPECT_THAT(reports(), ElementsAre(kBitsReport));
 
+    VoBitStream(&buffer, 16).readUInt16(whole); // 14 of 16 bits
+    EXPECT_EQ(whole, 3U);
+    EXPECT_THAT(reports(), ElementsAre(kBitsReport));
+
     stream.seek(11, VoIO::fromStart);
     stream.readUInt16(whole);
     EXPECT_EQ(whole, 0U);

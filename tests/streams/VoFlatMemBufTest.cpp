@@ -84,6 +84,7 @@ TEST_F(VoFlatMemBufTest, writingCutsOrOverwrites) {
     expect([](Buf& b) { b.writeBytes("1234", 2); }, "ab12|");
     expect([](Buf& b) { b.writeBytes("1234", 4); }, "ab1234|");
     expect([](Buf& b) { b.writeBytes("1234", 0); }, "ab|");
+    expect([](Buf& b) { b.writeBytes(nullptr, 0); }, "ab|");
     expect([](Buf& b) { b.writeBytes(nullptr, 2); }, "ab|cde");
     expect([](Buf& b) { b.writeBytes(b.buffer(), 5); }, "ababcde|");
     expect([](Buf& b) { b.writeBytes(3, "1234", 4); }, "abc|1234");
