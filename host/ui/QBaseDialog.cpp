@@ -1,12 +1,17 @@
 #include "QBaseDialog.h"
 
+#include "fitToScreen.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QShowEvent>
 #include <QWindow>
 
 namespace {
+
+constexpr QSize kFrame(10, 40); // pixels of a window's borders and title
 
 QPushButton* defaultButton(const QDialog& dialog) {
     for (auto* const button : dialog.findChildren<QPushButton*>()) {
@@ -52,6 +57,15 @@ void QBaseDialog::OnCancel() {
 // Qt's way out of a dialog, by its close control too.
 void QBaseDialog::reject() {
     OnCancel();
+}
+
+void QBaseDialog::setVisible(bool visible) {
+    if (visible && !isVisible()) {
+        const QWidget* const below = parentWidget() == nullptr ? windowBelow(*this) : nullptr;
+        const QScreen& target = *(below != nullptr ? below : this)->screen();
+        orvex::fitInto(*this, target.availableSize() - kFrame);
+    }
+    QDialog::setVisible(visible);
 }
 
 void QBaseDialog::keyPressEvent(QKeyEvent* event) {

@@ -3,7 +3,9 @@
 
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QScreen>
 #include <QSignalSpy>
+#include <QVBoxLayout>
 #include <QWindow>
 
 namespace {
@@ -102,6 +104,29 @@ TEST(BaseDialog, enterPressesTheButtonThatHasTheFocus) {
     });
     EXPECT_EQ(pressed.count(), 1);
     EXPECT_EQ(dialog.clicks, 1);
+}
+
+TEST(BaseDialog, scrollsWhatTheScreenHasNoRoomFor) {
+    for (const int height : {200, 4000}) {
+        QBaseDialog dialog;
+        auto* const column = new QVBoxLayout(&dialog);
+        auto* const first = new QPushButton("First");
+        auto* const last = new QPushButton("Last");
+        first->setMinimumHeight(height);
+        column->addWidget(first);
+        column->addWidget(last);
+        dialog.setMaximumSize(500, 500);
+        first->setFocus();
+        orvex::testing::whenActive(dialog, [&] {
+            EXPECT_LE(dialog.height(), dialog.screen()->availableSize().height());
+            EXPECT_TRUE(first->hasFocus());
+            QTest::keyClick(first, Qt::Key_Tab);
+            EXPECT_TRUE(last->hasFocus());
+            EXPECT_FALSE(last->visibleRegion().isEmpty()) << height;
+            dialog.reject();
+        });
+        dialog.exec();
+    }
 }
 
 TEST(BaseDialog, staysAboveTheWindowItWasOpenedFrom) {

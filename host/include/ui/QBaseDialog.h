@@ -20,6 +20,9 @@ public:
 
     void reject() override;
 
+    // Before it is shown: where the screen has too little room, what is in it scrolls.
+    void setVisible(bool visible) override;
+
 signals:
     void shown(); // each time, once it is placed
 
