@@ -14,11 +14,8 @@ namespace orvex {
 
 namespace {
 
-const QColor kSelectedColor(0x5A, 0xA8, 0xF0);
 const QColor kPlannedColor(0x58, 0xC8, 0x78);
 const QColor kLeftColor(0xFF, 0x8A, 0x3C);
-constexpr double kGlowWidth = 5.0; // pixels
-constexpr double kGlowOpacity = 0.55;
 constexpr double kMarkRadius = 7.0; // pixels
 // More of them than these are shown by their boxes, which cost less than their lines.
 constexpr std::size_t kMostGlowing = 2000;
@@ -102,7 +99,7 @@ void CanvasOverlay::render(Scene& scene, const PlanView& view, double ratio, con
     seen.include(view.toPlan({-kGlowWidth, -kGlowWidth}));
     seen.include(view.toPlan({size.width() + kGlowWidth, size.height() + kGlowWidth}));
     painter.setOpacity(kGlowOpacity);
-    const QColor glow = onGround(painter, kSelectedColor);
+    const QColor glow = glowColor(painter);
     const bool byBoxes = m_selected.size() > kMostGlowing;
     for (KdDbStub* const entity : m_selected) {
         const Appearance& appearance = scene.appearance(*entity);

@@ -87,9 +87,11 @@ void GroupGhost::collect(Scene& scene) {
 
 void GroupGhost::paintShifted(QPainter& painter, const PlanView& view, double ratio,
                               const PlanMap& map) {
-    if (m_picture.isNull() || !(stateOf(view) == m_shown) ||
+    const std::uint32_t ground = painter.background().color().rgb() & 0xFFFFFFU;
+    if (m_picture.isNull() || !(stateOf(view) == m_shown) || ground != m_ground ||
         m_picture.devicePixelRatio() != ratio) {
         m_shown = stateOf(view);
+        m_ground = ground;
         // As far as a shift can bring into view what is outside of it.
         PlanBox box;
         for (const Stroke& stroke : m_strokes) {
@@ -112,7 +114,7 @@ void GroupGhost::paintShifted(QPainter& painter, const PlanView& view, double ra
         inside.translate(-m_corner);
         Appearance picture;
         picture.strokes = m_strokes;
-        paintAppearance(inside, picture, view, {});
+        paintAppearance(inside, picture, view, {.ground = ground});
     }
     const double unit = 1.0 / view.unitsPerPixel();
     painter.drawPixmap(m_corner + QPointF(map.dx * unit, -map.dy * unit), m_picture);

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QPointF>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -49,6 +50,7 @@ private:
     QPixmap m_picture;
     QPointF m_corner; // of the picture, in the view's pixels
     ViewState m_shown;
+    std::uint32_t m_ground = 0;
 };
 
 } // namespace orvex

@@ -74,6 +74,10 @@ QColor onGround(const QPainter& painter, const QColor& color) {
     return QColor::fromRgb(readableRgb(color.rgb(), groundOf(painter)));
 }
 
+QColor glowColor(const QPainter& painter) {
+    return isDark(groundOf(painter)) ? QColor(0x5A, 0xA8, 0xF0) : QColor(0x00, 0x50, 0xE0);
+}
+
 void paintCrosshair(QPainter& painter, const QPoint& cursor, const QSize& view, int pickBox) {
     painter.setPen(onGround(painter, kCrosshairColor));
     const int gap = pickBox + 1;

@@ -28,6 +28,12 @@ inline const QColor kWordsGround(0, 0, 0, 200);
 // The colour as it can be read on the painter's background.
 QColor onGround(const QPainter& painter, const QColor& color);
 
+// A glow over what is selected or was picked, through which it shows: so wide in pixels, and of a
+// colour that has a contrast of 3 by this opacity, too.
+inline constexpr double kGlowWidth = 5.0;
+inline constexpr double kGlowOpacity = 0.65;
+QColor glowColor(const QPainter& painter);
+
 // Across the whole view, with the pick box in the middle unless `pickBox` is negative.
 void paintCrosshair(QPainter& painter, const QPoint& cursor, const QSize& view, int pickBox);
 // The square of 2 * pickBox + 1 pixels.

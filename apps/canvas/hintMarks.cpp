@@ -18,8 +18,6 @@ const QColor kGoneColor(0xF0, 0x50, 0x48);
 const QColor kNewColor(0x70, 0xE0, 0x90);
 const QColor kNoteColor(0xE0, 0xE4, 0xEA);
 const QColor kRefusalColor(0xFF, 0x9A, 0x5C);
-constexpr double kGlowWidth = 5.0; // pixels
-constexpr double kGlowOpacity = 0.55;
 constexpr double kGhostWidth = 3.0; // pixels; what stays covers what goes
 constexpr double kGoneWidth = 2.0;
 constexpr double kPointReach = 6.0;
@@ -31,7 +29,7 @@ void paintLines(QPainter& painter, const PlanView& view, const Appearance& appea
                 const QColor& color, double width) {
     Appearance lines;
     lines.strokes = appearance.strokes;
-    const std::uint32_t rgb = onGround(painter, color).rgb() & 0xFFFFFFU;
+    const std::uint32_t rgb = color.rgb() & 0xFFFFFFU;
     for (Stroke& stroke : lines.strokes) {
         stroke.dashes = 0;
         stroke.rgb = rgb;
@@ -57,14 +55,14 @@ void paintTool(QPainter& painter, const PlanView& view, const CanvasHints& hints
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(kGlowOpacity);
     for (const Appearance& appearance : hints.lit) {
-        paintLines(painter, view, appearance, kLitColor, kGlowWidth);
+        paintLines(painter, view, appearance, glowColor(painter), kGlowWidth);
     }
     painter.setOpacity(1.0);
     for (const Appearance& appearance : hints.before) {
-        paintLines(painter, view, appearance, kGoneColor, kGoneWidth);
+        paintLines(painter, view, appearance, onGround(painter, kGoneColor), kGoneWidth);
     }
     for (const Appearance& appearance : hints.after) {
-        paintLines(painter, view, appearance, kNewColor, kGhostWidth);
+        paintLines(painter, view, appearance, onGround(painter, kNewColor), kGhostWidth);
     }
     if (hints.firstPoint) {
         paintFirstPoint(painter, view, *hints.firstPoint);
