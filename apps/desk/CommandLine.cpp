@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include "ShortenedLabel.h"
 #include "readableColor.h"
 
 #include "keyText.h"
@@ -19,7 +20,8 @@ namespace orvex {
 namespace {
 
 constexpr int kMostLines = 5000;
-constexpr int kMargin = 4; // pixels
+constexpr int kMargin = 4;      // pixels
+constexpr int kLeastInput = 16; // characters, however long the question
 const QColor kDarkRed(0xB0, 0x20, 0x18);
 const QColor kLightRed(0xFF, 0x90, 0x80);
 
@@ -39,7 +41,8 @@ QPlainTextEdit* makeHistory(QWidget* parent) {
     history->setReadOnly(true);
     history->setFrameShape(QFrame::NoFrame);
     history->setMaximumBlockCount(kMostLines);
-    history->setMinimumHeight(history->fontMetrics().lineSpacing() * 2);
+    // As high as the rest leaves it.
+    history->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     history->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     return history;
 }
@@ -48,11 +51,14 @@ QPlainTextEdit* makeHistory(QWidget* parent) {
 
 CommandLine::CommandLine(QWidget* parent)
     : QWidget(parent), m_history(makeHistory(this)), m_keywords(new KeywordBar(this)),
-      m_prompt(new QLabel(this)), m_input(new CommandInput(this)), m_lineCount(new QLabel(this)) {
+      m_prompt(new ShortenedLabel(this)), m_input(new CommandInput(this)),
+      m_lineCount(new QLabel(this)) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    // A line and what an edit keeps free around its text; less shows none.
+    m_history->setMinimumHeight(m_history->fontMetrics().lineSpacing() + 2 * kMargin + 2);
+    m_input->setMinimumWidth(m_input->fontMetrics().averageCharWidth() * kLeastInput);
     m_input->setObjectName(QStringLiteral("commandInput"));
     m_prompt->setObjectName(QStringLiteral("commandPrompt"));
-    m_prompt->setTextFormat(Qt::PlainText); // a command's text is no markup
 
     auto* const field = new QWidget(this);
     field->setBackgroundRole(QPalette::Base);

@@ -1,5 +1,6 @@
 #include "DeskFiles.h"
 
+#include "boxButtons.h"
 #include "fileKind.h"
 #include "leftBehind.h"
 #include "pictureWriter.h"
@@ -133,6 +134,7 @@ bool DeskFiles::mayReplace(const QString& path) {
     QMessageBox box(QMessageBox::Warning, tr("Orvex"),
                     tr("%1 exists already.").arg(QFileInfo(path).fileName()),
                     QMessageBox::Save | QMessageBox::Cancel, &m_window);
+    nameButtons(box);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(tr("Do you want to replace it?"));
     box.setDefaultButton(QMessageBox::Cancel);
@@ -144,6 +146,7 @@ bool DeskFiles::mayOverwrite() {
     QMessageBox box(QMessageBox::Warning, tr("Orvex"),
                     tr("%1 was written by another program meanwhile.").arg(m_drawing.name()),
                     QMessageBox::Save | QMessageBox::Cancel, &m_window);
+    nameButtons(box);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(tr("Saving here loses what is in it now. Save all the same?"));
     box.setDefaultButton(QMessageBox::Cancel);
@@ -200,6 +203,7 @@ Leave DeskFiles::askLeave(bool willChange) {
     QMessageBox box(QMessageBox::Warning, tr("Orvex"),
                     tr("%1 has changes that aren't saved.").arg(m_drawing.name()),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
+    nameButtons(box);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(tr("Do you want to save them?"));
     box.setDefaultButton(QMessageBox::Save);

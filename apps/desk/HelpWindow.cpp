@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextBrowser>
@@ -62,7 +63,8 @@ HelpWindow::HelpWindow(QWidget* parent)
     auto* const column = new QVBoxLayout(this);
     column->addLayout(row);
     column->addWidget(m_browser, 1);
-    resize(kFirstSize);
+    constexpr double kMostOfScreen = 0.9; // the rest is left to the window's frame
+    resize(kFirstSize.boundedTo(screen()->availableSize() * kMostOfScreen));
 
     connect(m_browser, &QTextBrowser::anchorClicked, this,
             [this](const QUrl& address) { showPage(pageAt(address)); });

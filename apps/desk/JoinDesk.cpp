@@ -7,10 +7,12 @@
 #include "Session.h"
 #include "panelScroll.h"
 
+#include <QAction>
 #include <QDockWidget>
 #include <QMainWindow>
 
 #include <cstddef>
+#include <utility>
 
 namespace orvex {
 
@@ -21,27 +23,46 @@ constexpr const char* kCommand = "MLJOIN";
 } // namespace
 
 JoinDesk::JoinDesk(QMainWindow& window, Canvas& canvas, CommandRunner& runner, DeskPrompts& prompts)
-    : QObject(&window), m_canvas(canvas), m_prompts(prompts), m_panel(new JoinPanel(&window)) {
-    auto* const dock = new QDockWidget(tr("Join plan"), &window);
-    dock->setObjectName(QStringLiteral("joinDock"));
-    dock->setWidget(panelScroll(m_panel));
-    window.addDockWidget(Qt::RightDockWidgetArea, dock);
-    dock->hide();
-    m_toggle = dock->toggleViewAction();
+    : QObject(&window), m_canvas(canvas), m_prompts(prompts), m_panel(new JoinPanel(&window)),
+      m_dock(new QDockWidget(tr("Join plan"), &window)) {
+    m_dock->setObjectName(QStringLiteral("joinDock"));
+    m_dock->setWidget(panelScroll(m_panel));
+    window.addDockWidget(Qt::RightDockWidgetArea, m_dock);
+    m_dock->hide();
 
     connect(m_panel, &JoinPanel::started, &runner,
             [&runner] { runner.start(QLatin1String(kCommand)); });
     connect(m_panel, &JoinPanel::answered, &m_prompts, &DeskPrompts::answerLines);
     connect(m_panel, &JoinPanel::cancelled, &m_prompts, &DeskPrompts::cancel);
     connect(m_panel, &JoinPanel::placeChosen, this, &JoinDesk::lookAt);
-    connect(&m_prompts, &DeskPrompts::asked, this, [this, dock] {
+    connect(&m_prompts, &DeskPrompts::asked, this, [this] {
         if (m_isJoining) {
-            dock->show();
+            open();
             showQuestion();
         }
     });
     connect(&runner, &CommandRunner::commandStarted, this, &JoinDesk::commandStarted);
     connect(&runner, &CommandRunner::commandEnded, this, &JoinDesk::commandEnded);
+}
+
+QAction* JoinDesk::toggleAction() const {
+    return m_dock->toggleViewAction();
+}
+
+void JoinDesk::open() {
+    if (m_dock->isHidden()) {
+        m_isOpener = true;
+        m_dock->show();
+    }
+}
+
+// What the command opened and has no use for.
+void JoinDesk::close() {
+    const bool hadFocus = m_dock->isAncestorOf(m_dock->window()->focusWidget());
+    m_dock->hide();
+    if (hadFocus) {
+        emit left();
+    }
 }
 
 void JoinDesk::setSession(Session& session) {
@@ -59,7 +80,8 @@ void JoinDesk::showQuestion() {
 }
 
 void JoinDesk::take(const JoinReport& report) {
-    m_isPreview = !report.isPlayed;
+    m_isPlayed = report.isPlayed;
+    m_isPreview = !m_isPlayed;
     m_panel->showReport(report);
     m_canvas.setMarks(joinMarks(report));
 }
@@ -68,6 +90,8 @@ void JoinDesk::take(const JoinReport& report) {
 void JoinDesk::commandStarted(const QString& name) {
     m_isJoining = name.compare(QLatin1String(kCommand), Qt::CaseInsensitive) == 0;
     m_canvas.setMarks({});
+    m_isOpener = false;
+    m_isPlayed = false;
 }
 
 void JoinDesk::commandEnded() {
@@ -77,6 +101,9 @@ void JoinDesk::commandEnded() {
         m_panel->clearReport();
     }
     m_isJoining = false;
+    if (std::exchange(m_isOpener, false) && !m_isPlayed) {
+        close(); // before a button that has the focus is disabled
+    }
     m_panel->showIdle();
 }
 

@@ -5,6 +5,7 @@
 #include <QObject>
 
 class QAction;
+class QDockWidget;
 class QMainWindow;
 
 namespace orvex {
@@ -26,9 +27,14 @@ public:
 
     // A new session, which has nothing to show yet.
     void setSession(Session& session);
-    [[nodiscard]] QAction* toggleAction() const { return m_toggle; }
+    [[nodiscard]] QAction* toggleAction() const;
+
+signals:
+    void left(); // the panel closed, and had the focus
 
 private:
+    void open();
+    void close();
     void showQuestion();
     void take(const JoinReport& report);
     void commandStarted(const QString& name);
@@ -38,9 +44,11 @@ private:
     Canvas& m_canvas;
     DeskPrompts& m_prompts;
     JoinPanel* m_panel;
-    QAction* m_toggle = nullptr;
+    QDockWidget* m_dock;
     Session* m_session = nullptr;
     bool m_isJoining = false;
+    bool m_isOpener = false;  // the command, of the panel
+    bool m_isPlayed = false;  // what was reported
     bool m_isPreview = false; // what the marks are of
 };
 

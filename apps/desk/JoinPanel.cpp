@@ -47,6 +47,9 @@ JoinPanel::JoinPanel(QWidget* parent) : QWidget(parent), m_choices(new QWidget(t
     addTolerance(*choices, 3);
     grid->addWidget(m_choices, 0, 0, 1, 2);
     addResults(*grid, 1);
+    for (auto* const button : findChildren<QAbstractButton*>()) {
+        button->installEventFilter(this);
+    }
     showOptions(JoinOptions());
     showIdle();
 }
@@ -213,6 +216,35 @@ void JoinPanel::giveTolerance() {
     }
     emit answered(
         {QStringLiteral("Tolerance"), text.isEmpty() ? QStringLiteral("Automatic") : text});
+}
+
+// Arrows go from button to button as Tab does, but not out of the panel.
+bool JoinPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        auto& button = *qobject_cast<QAbstractButton*>(watched);
+        const int key = static_cast<const QKeyEvent*>(event)->key();
+        const bool goesOn = key == Qt::Key_Down || key == Qt::Key_Right;
+        const bool goesBack = key == Qt::Key_Up || key == Qt::Key_Left;
+        if (button.group() == nullptr && (goesOn || goesBack)) {
+            step(button, goesOn);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void JoinPanel::step(QWidget& from, bool forward) {
+    QWidget* next = &from;
+    do {
+        next = forward ? next->nextInFocusChain() : next->previousInFocusChain();
+        const bool takesTab = (next->focusPolicy() & Qt::TabFocus) != 0;
+        if (takesTab && next->isVisible() && next->isEnabled()) {
+            break;
+        }
+    } while (next != &from);
+    if (isAncestorOf(next)) {
+        next->setFocus(Qt::TabFocusReason);
+    }
 }
 
 // Enter in a field ends the field, not the command, and presses a button.

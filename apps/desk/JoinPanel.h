@@ -47,6 +47,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     enum class Stage { idle, selection, options };
@@ -60,6 +61,7 @@ private:
     void showOptions(const JoinOptions& options);
     void giveTolerance();
     void press();
+    void step(QWidget& from, bool forward);
 
     Stage m_stage = Stage::idle;
     QStringList m_goAnswer; // what the button answers

@@ -7,6 +7,7 @@
 #include "strokeIcon.h"
 
 #include <QCoreApplication>
+#include <QResizeEvent>
 #include <QTextDocument>
 #include <QToolButton>
 
@@ -48,10 +49,17 @@ std::vector<KeywordButton> keywordButtons(const PromptRequest& request, const QP
     return buttons;
 }
 
-KeywordBar::KeywordBar(QWidget* parent) : QWidget(parent) {
+KeywordBar::KeywordBar(QWidget* parent) : QScrollArea(parent) {
     setObjectName(QStringLiteral("commandKeywords"));
-    auto* const flow = new FlowLayout(this, kSpacing);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Maximum);
+    setWidgetResizable(true);
+    auto* const content = new QWidget(this);
+    auto* const flow = new FlowLayout(content, kSpacing);
     flow->setContentsMargins(kMargin, 0, kMargin, 0);
+    setWidget(content);
     hide();
 }
 
@@ -62,7 +70,7 @@ void KeywordBar::setKeywords(const std::vector<KeywordButton>& keywords) {
         old->deleteLater(); // it may be the one that was clicked
     }
     for (const KeywordButton& each : keywords) {
-        auto* const button = new QToolButton(this);
+        auto* const button = new QToolButton(widget());
         button->setText(QString(each.text).replace('&', QLatin1String("&&")));
         button->setToolTip(Qt::convertFromPlainText(each.hint));
         if (!each.icon.isNull()) {
@@ -73,19 +81,31 @@ void KeywordBar::setKeywords(const std::vector<KeywordButton>& keywords) {
         button->setFocusPolicy(Qt::NoFocus);
         connect(button, &QToolButton::clicked, this,
                 [this, keyword = each.keyword] { emit chosen(keyword); });
-        layout()->addWidget(button);
+        widget()->layout()->addWidget(button);
+        button->show(); // what is hidden has no place in a line
     }
     setVisible(!keywords.empty());
     fitHeight();
 }
 
-void KeywordBar::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    fitHeight();
+void KeywordBar::fitHeight() {
+    widget()->setMinimumHeight(widget()->layout()->heightForWidth(viewport()->width()));
+    updateGeometry();
 }
 
-void KeywordBar::fitHeight() {
-    setFixedHeight(layout()->heightForWidth(width()));
+QSize KeywordBar::sizeHint() const {
+    return {minimumSizeHint().width(), widget()->layout()->heightForWidth(width())};
+}
+
+QSize KeywordBar::minimumSizeHint() const {
+    return widget()->layout()->minimumSize();
+}
+
+void KeywordBar::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) {
+        fitHeight(); // there may be more lines, or fewer
+    }
 }
 
 } // namespace orvex

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QIcon>
-#include <QWidget>
+#include <QScrollArea>
 
 #include <vector>
 
@@ -20,14 +20,18 @@ struct KeywordButton {
 // The keywords of a question; those of the tools with their pictures and names.
 std::vector<KeywordButton> keywordButtons(const PromptRequest& request, const QPalette& palette);
 
-// Buttons for them, in as many lines as they need. Hidden while there are none.
-class KeywordBar final : public QWidget {
+// Buttons for them, in as many lines as they need, of which one is always seen. Hidden while there
+// are none.
+class KeywordBar final : public QScrollArea {
     Q_OBJECT
 
 public:
     explicit KeywordBar(QWidget* parent = nullptr);
 
     void setKeywords(const std::vector<KeywordButton>& keywords);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
     void chosen(const QString& keyword);

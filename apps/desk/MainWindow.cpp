@@ -3,6 +3,7 @@
 #include "Canvas.h"
 #include "CommandDock.h"
 #include "CommandLine.h"
+#include "FileDrop.h"
 #include "KdDbEntity.h"
 #include "KdDbStub.h"
 #include "KeypadPoint.h"
@@ -20,11 +21,9 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QUrl>
 
 #include <filesystem>
 
@@ -33,7 +32,8 @@ namespace orvex {
 namespace {
 
 constexpr QSize kFirstSize(1200, 800);
-constexpr double kMostOfScreen = 0.9; // the rest is left to the window's frame
+constexpr QSize kLeastOfPlan(200, 100); // pixels; panels and command line give way to it
+constexpr double kMostOfScreen = 0.9;   // the rest is left to the window's frame
 
 } // namespace
 
@@ -64,7 +64,7 @@ MainWindow::MainWindow(ModuleLoader& modules, const std::vector<std::string>& mo
       m_focus(new FocusRing(*this, *m_canvas, *m_commandLine, *m_drawBar->bar())),
       m_recent(*m_menus.recent, m_settings) {
     setCentralWidget(m_canvas);
-    setAcceptDrops(true);
+    m_canvas->setMinimumSize(kLeastOfPlan);
     makeCommandDock();
     connectCommandLine();
     connectCanvas();
@@ -108,6 +108,7 @@ void MainWindow::connectCommandLine() {
     connect(m_commandLine, &CommandLine::cancelled, this, &MainWindow::escape);
     connect(m_drawBar, &DrawBar::complained, m_commandLine, &CommandLine::complain);
     connect(m_drawBar, &DrawBar::left, m_commandLine, [this] { m_commandLine->setFocus(); });
+    connect(m_join, &JoinDesk::left, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(m_properties, &PropertyDesk::left, m_commandLine,
             [this] { m_commandLine->setFocus(); });
     connect(m_autosave, &AutosaveDesk::complained, m_commandLine, &CommandLine::complain);
@@ -184,6 +185,7 @@ void MainWindow::connectFiles() {
         m_commandLine->takeKey(key);
     });
     connect(&m_recent, &RecentFiles::chosen, this, &MainWindow::open);
+    connect(new FileDrop(*this, m_files.opener()), &FileDrop::dropped, this, &MainWindow::open);
 }
 
 void MainWindow::loadModule(const std::vector<std::string>& files) {
@@ -343,8 +345,8 @@ void MainWindow::escape() {
         m_prompts.cancel();
     } else if (m_play->isPlaying()) {
         m_play->stop();
-    } else if (!m_runner.isBusy() && !m_select->clear()) {
-        m_commandLine->print(tr("Command: %1").arg(QLatin1String("*CANCEL*")));
+    } else if (!m_runner.isBusy()) {
+        m_select->clear();
     }
 }
 
@@ -425,18 +427,6 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 // Whatever has the focus, one types into the command line.
 void MainWindow::keyPressEvent(QKeyEvent* event) {
     m_commandLine->takeKey(*event);
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.front().isLocalFile() && !m_files.opener().isOpening()) {
-        event->acceptProposedAction();
-    }
-}
-
-void MainWindow::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
-    open(event->mimeData()->urls().front().toLocalFile());
 }
 
 void MainWindow::restorePlace() {

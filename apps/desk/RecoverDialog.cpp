@@ -1,5 +1,7 @@
 #include "RecoverDialog.h"
 
+#include "boxButtons.h"
+
 #include <QDateTime>
 #include <QDialogButtonBox>
 #include <QFileInfo>
@@ -88,6 +90,7 @@ void RecoverDialog::discard() {
     QMessageBox box(QMessageBox::Warning, tr("Orvex"),
                     tr("What was kept of %1 will be lost.").arg(m_list->currentItem()->text(0)),
                     QMessageBox::Discard | QMessageBox::Cancel, this);
+    nameButtons(box);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Cancel);
     if (row < 0 || box.exec() != QMessageBox::Discard) {

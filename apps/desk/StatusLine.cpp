@@ -1,8 +1,8 @@
 #include "StatusLine.h"
 
+#include "ShortenedLabel.h"
 #include "clickedPoint.h"
 
-#include <QLabel>
 #include <QStatusBar>
 
 namespace orvex {
@@ -10,9 +10,8 @@ namespace orvex {
 namespace {
 
 QLabel* addLabel(QStatusBar& bar, const char* name, int characters) {
-    auto* const label = new QLabel(&bar);
+    auto* const label = new ShortenedLabel(&bar);
     label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
     label->setMinimumWidth(label->fontMetrics().averageCharWidth() * characters);
     bar.addPermanentWidget(label);
     return label;
@@ -31,7 +30,7 @@ QString numberText(double value, int decimals) {
 
 StatusLine::StatusLine(QStatusBar& bar)
     : QObject(&bar), m_tool(addLabel(bar, "statusTool", 0)),
-      m_hovered(addLabel(bar, "statusHovered", 0)), m_cursor(addLabel(bar, "statusCursor", 26)),
+      m_hovered(addLabel(bar, "statusHovered", 0)), m_cursor(addLabel(bar, "statusCursor", 20)),
       m_style(addLabel(bar, "statusStyle", 0)) {}
 
 void StatusLine::showCursor(double x, double y, double unitsPerPixel) {

@@ -4,26 +4,28 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace orvex {
 
 namespace {
 
-// As wide as the panel, which scrolls up and down only.
+constexpr int kLeastWidth = 160; // pixels
+
+// As wide as the panel where the window has room for it, so that it scrolls up and down only.
 class PanelScroll final : public QScrollArea {
 public:
     explicit PanelScroll(QWidget* panel) {
         setFrameShape(QFrame::NoFrame);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setWidgetResizable(true);
         setFocusPolicy(Qt::NoFocus);
         setWidget(panel);
     }
 
     QSize minimumSizeHint() const override {
-        return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
-                QScrollArea::minimumSizeHint().height()};
+        return {std::min(wholeWidth(), kLeastWidth), QScrollArea::minimumSizeHint().height()};
     }
-    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize sizeHint() const override { return widget()->sizeHint().expandedTo({wholeWidth(), 0}); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -31,6 +33,11 @@ protected:
             updateGeometry();
         }
         return QScrollArea::eventFilter(watched, event);
+    }
+
+private:
+    [[nodiscard]] int wholeWidth() const {
+        return widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
     }
 };
 

@@ -159,7 +159,8 @@ void DrawingReader::warnOfForm(std::size_t start) {
         warn(cut.lineCount, "the last line has no end");
     }
     if (!cut.hasEnd) {
-        warn(cut.lineCount, "the drawing stops without EOF");
+        warn(cut.lineCount,
+             m_document.bytes.empty() ? "the file is empty" : "the drawing stops without EOF");
     }
     if (end < m_document.bytes.size()) {
         warn(cut.lineCount + 1, "bytes follow after EOF");

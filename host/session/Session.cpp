@@ -153,8 +153,11 @@ void Session::recordCommand(const std::wstring& name) {
 }
 
 Result<Session::CommandFunction> Session::findModuleCommand(const std::wstring& name) {
-    const Failure withoutWindow =
-        unplayable(wideHostText("the command '%1' needs a window", {name}));
+    const Failure withoutWindow = unplayable(
+        m_isSeen ? wideHostText("a script can't answer the dialog of '%1'; of the editing tools, "
+                                "it can play -MLEDIT",
+                                {name})
+                 : wideHostText("the command '%1' needs a window", {name}));
     if (needsWindow(name) && !m_setup.hasWindow) {
         return withoutWindow;
     }

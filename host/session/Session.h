@@ -77,6 +77,7 @@ public:
     [[nodiscard]] PromptSource* source() const { return m_setup.source; }
     // Whether commands with dialogs may run; false while a script plays.
     void setHasWindow(bool hasWindow) { m_setup.hasWindow = hasWindow; }
+    [[nodiscard]] bool hasWindow() const { return m_setup.hasWindow; }
 
     // Asks the source for a command's name; empty for an empty line or a cancel.
     [[nodiscard]] std::wstring askCommand();

@@ -8,6 +8,7 @@
 #include "MlineStyleContent.h"
 #include "Opened.h"
 #include "PromptSession.h"
+#include "ScriptSource.h"
 #include "Session.h"
 #include "commandOutput.h"
 #include "editMlines.h"
@@ -108,11 +109,21 @@ bool hasSameCaps(const MlineContent& mline) {
 } // namespace
 
 void stretchCommand(Session& session) {
-    const std::optional<PlanBox> box = askBox();
+    std::optional<PlanBox> box = askBox();
+    std::vector<KdDbStub*> mlines;
+    while (box) {
+        mlines = mlinesTouching(session, *box);
+        if (!mlines.empty() || !session.hasWindow()) {
+            break; // a script has answers for what comes next
+        }
+        kdutPrintf(L"%ls", wideHostText("No multiline is touched by these corners.").c_str());
+        session.record().line(ScriptSource::kCancel); // of the base point, which a script is asked
+        session.record().line(L"STRETCH");
+        box = askBox();
+    }
     if (!box) {
         return;
     }
-    const std::vector<KdDbStub*> mlines = mlinesTouching(session, *box);
     const auto base = askPoint(wideHostText("Base point: ").c_str());
     if (!base) {
         return;

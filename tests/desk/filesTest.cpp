@@ -3,11 +3,14 @@
 #include "PlayScript.h"
 #include "fileQuestion.h"
 
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QUrl>
 
 #include <fstream>
 
@@ -225,6 +228,27 @@ TEST_F(FilesOfDesk, savingAsAndExportingAskForAFileAndTellWhatFails) {
     EXPECT_EQ(readFile(plan), original);
 }
 
+TEST_F(FilesOfDesk, aDroppedDrawingOpensUnlessItsSourceIsGone) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(plan.string()))});
+    const QMimeData gone;
+    const auto drop = [this, &data](const QMimeData& dropped) {
+        return [this, &data, &dropped] {
+            QDragEnterEvent enter({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(window.get(), &enter);
+            EXPECT_TRUE(enter.isAccepted());
+            QDropEvent end({50, 50}, Qt::CopyAction, &dropped, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(window.get(), &end);
+        };
+    };
+    play({
+        drop(gone),
+        [this] { EXPECT_EQ(titleOf(*window), "Unnamed drawing"); },
+        drop(data),
+        [this] { EXPECT_EQ(titleOf(*window), "plan.dxf"); },
+    });
+}
+
 TEST_F(FilesOfDesk, aScriptPlaysUntilItFailsOrIsStopped) {
     const fs::path path = fs::temp_directory_path() / "walls.scr";
     const std::string walls = "MLINE\n0,0\n1000,0\n\nMLINE\n0,500\n1000,500\n\n";
@@ -239,7 +263,7 @@ TEST_F(FilesOfDesk, aScriptPlaysUntilItFailsOrIsStopped) {
         choose(path),
         [&] {
             EXPECT_THAT(lastLine().toStdString(),
-                        ::testing::HasSubstr(path.string() + ":9: the command 'MLEDIT' needs"));
+                        ::testing::HasSubstr(path.string() + ":9: a script can't answer"));
             EXPECT_EQ(prompt(), "Command:");
         },
         trigger("undo"),

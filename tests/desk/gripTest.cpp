@@ -153,6 +153,9 @@ TEST_F(GripFixture, movingCommandsShowWhatTheyMove) {
         type("50,100"),
         clickAt(300, 50),
         type("STRETCH"),
+        clickAt(900, 900), // nothing lies there
+        clickAt(950, 950),
+        [this] { EXPECT_TRUE(prompt().startsWith("First corner")); },
         clickAt(250, 150),
         clickAt(350, 60),
         type("300,100"),

@@ -85,6 +85,7 @@ TEST_F(JoinFixture, thePanelJoinsAsItsEchoDoes) {
         [this, &before] {
             EXPECT_TRUE(summary().startsWith("1 joint was made: 1 tee")) << summary().toStdString();
             EXPECT_EQ(marks(), std::pair(0, 1)) << "until the next command";
+            EXPECT_FALSE(window->findChild<QWidget*>("joinDock")->isHidden());
             EXPECT_NE(bytes(), before);
         },
     });
@@ -114,8 +115,21 @@ TEST_F(JoinFixture, thePanelJoinsAsItsEchoDoes) {
 TEST_F(JoinFixture, aCancelledJoinLeavesNoMarksAndASelectionJoinsItselfAlone) {
     playOnWalls({
         trigger("mljoin"),
+        [this] {
+            auto& go = *window->findChild<QPushButton*>("joinGo");
+            auto& cancel = *window->findChild<QPushButton*>("joinCancel");
+            go.setFocus();
+            for (QWidget* const last : {&cancel, &cancel}) {
+                QTest::keyClick(window->focusWidget(), Qt::Key_Down);
+                EXPECT_EQ(window->focusWidget(), last);
+            }
+        },
         click("joinCancel"),
-        [this] { EXPECT_TRUE(summary().isEmpty()); },
+        [this] {
+            EXPECT_TRUE(summary().isEmpty());
+            EXPECT_TRUE(window->findChild<QWidget*>("joinDock")->isHidden());
+            EXPECT_EQ(window->focusWidget(), &input());
+        },
         trigger("mljoin"),
         drag({-50, 150}, {450, -150}),
         [this] {

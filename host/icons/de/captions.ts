@@ -1847,6 +1847,22 @@
         <source>the name of a picture has to end in .svg, .png or .pdf</source>
         <translation>der Name eines Bildes muss auf .svg, .png oder .pdf enden</translation>
     </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>No multiline is touched by these corners.</source>
+        <translation>Von diesen Ecken wird keine Multilinie berührt.</translation>
+    </message>
+    <message>
+        <source>a script can&apos;t answer the dialog of &apos;%1&apos;; of the editing tools, it can play -MLEDIT</source>
+        <translation>ein Skript kann den Dialog von &apos;%1&apos; nicht beantworten; von den Bearbeitungswerkzeugen kann es -MLEDIT abspielen</translation>
+    </message>
 </context>
 <context>
     <name>orvex::AutosaveDesk</name>
