@@ -16,7 +16,7 @@
 #include "clickedPoint.h"
 #include "commandNames.h"
 #include "partlyDrawnText.h"
-#include "qtWide.h"
+#include "questionLine.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -352,18 +352,7 @@ void MainWindow::escape() {
 
 void MainWindow::showQuestion() {
     const PromptRequest& request = *m_prompts.request();
-    CommandLine::Question question;
-    question.text = m_tool->promptPrefix() + toQt(request.text).trimmed();
-    question.keywords = keywordButtons(request, palette());
-    question.completions = toQt(request.keywords) + toQt(request.completions);
-    const bool isText = request.kind == PromptKind::text;
-    const bool isPick = request.kind == PromptKind::entity || request.kind == PromptKind::selection;
-    question.blank = isText   ? BlankKey::types
-                     : isPick ? BlankKey::entersUnlessXy
-                              : BlankKey::enters;
-    question.takesLengths = request.kind == PromptKind::point;
-    question.takesPoints = question.takesLengths || isPick;
-    m_commandLine->setQuestion(question);
+    m_commandLine->setQuestion(questionLine(request, m_tool->promptPrefix(), palette()));
     showDuringCommand();
     const auto& progress = session()->selectionMemory().progress;
     Aim aim = aimOf(request, session()->scene(), progress);
