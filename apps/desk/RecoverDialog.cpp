@@ -21,7 +21,8 @@ constexpr QSize kFirstSize(720, 260);
 enum Column { kDrawing, kFolder, kSavedAt };
 
 QString timeText(std::int64_t milliseconds) {
-    return QLocale().toString(QDateTime::fromMSecsSinceEpoch(milliseconds), QLocale::ShortFormat);
+    return QLocale::system().toString(QDateTime::fromMSecsSinceEpoch(milliseconds),
+                                      QLocale::ShortFormat);
 }
 
 QTreeWidgetItem* makeRow(const AutosaveEntry& entry) {
