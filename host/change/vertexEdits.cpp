@@ -27,7 +27,7 @@ std::optional<Failure> objectionTo(const MlineContent& mline, const StyleLayout&
     if (vertex >= mline.vertices.size()) {
         return impossible(hostText("it has no vertex %1", {std::to_string(vertex)}));
     }
-    if (const auto contradiction = gapContradiction(mline)) {
+    if (auto contradiction = gapContradiction(mline)) {
         return contradiction;
     }
     const Result<ChainFrame> frame = chainFrameOf(mline, style);

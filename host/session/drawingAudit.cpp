@@ -32,6 +32,7 @@ std::vector<AuditedFinding> compared(const std::vector<Finding>& before,
 
 std::vector<AuditedFinding> withResult(const std::vector<Finding>& findings, FindingResult result) {
     std::vector<AuditedFinding> all;
+    all.reserve(findings.size());
     for (const Finding& finding : findings) {
         all.push_back({finding, result});
     }
