@@ -201,6 +201,17 @@ Meeting overlapping(Meeting meeting, const PlanSegment& a, const PlanSegment& b)
     return meeting;
 }
 
+PlaceKind kindOf(Relation atA, Relation atB) {
+    return isEnd(atA) && isEnd(atB)   ? PlaceKind::corner
+           : isEnd(atA) || isEnd(atB) ? PlaceKind::tee
+                                      : PlaceKind::cross;
+}
+
+void noteBend(Meeting& meeting, const PlanSegment& bent, Relation relation) {
+    meeting.bendWall = bent.wall;
+    meeting.bendVertex = relation == Relation::bendAtTo ? bent.endVertex : bent.segment;
+}
+
 std::optional<Meeting> overlapOnly(Meeting meeting, const PlanSegment& a, const PlanSegment& b,
                                    JoinReason reason, double rounding) {
     if (!stripsOverlap(a, b, rounding)) {
@@ -249,17 +260,12 @@ std::optional<Meeting> meeting(const PlanSegment& a, const PlanSegment& b, doubl
     }
     meeting.a = sideOf(a, atA);
     meeting.b = sideOf(b, atB);
-    const bool ends = isEnd(atA) || isEnd(atB);
-    meeting.kind = isEnd(atA) && isEnd(atB) ? PlaceKind::corner
-                   : ends                   ? PlaceKind::tee
-                                            : PlaceKind::cross;
+    meeting.kind = kindOf(atA, atB);
     if (isBend(atA) || isBend(atB)) {
-        const PlanSegment& bent = isBend(atA) ? a : b;
-        const Relation relation = isBend(atA) ? atA : atB;
-        meeting.bendWall = bent.wall;
-        meeting.bendVertex = relation == Relation::bendAtTo ? bent.endVertex : bent.segment;
+        noteBend(meeting, isBend(atA) ? a : b, isBend(atA) ? atA : atB);
         // An end that is short of a bend is told, too.
-        return overlapOnly(meeting, a, b, JoinReason::bend, ends ? -within : rounding);
+        return overlapOnly(meeting, a, b, JoinReason::bend,
+                           meeting.kind == PlaceKind::cross ? rounding : -within);
     }
     if (atA == Relation::atBoth || atB == Relation::atBoth) {
         return overlapOnly(meeting, a, b, JoinReason::bothEnds, rounding);

@@ -109,8 +109,8 @@ private:
     struct Arc {
         Arc(const KdGePoint3d& middle, const KdGeVector3d& radius, const KdGeVector3d& top,
             const KdGeVector3d& wanted)
-            : center(middle), major(radius), minor(top), normal(cross(radius, top).normalize()) {
-            isReversed = dot(normal, wanted) < 0.0;
+            : center(middle), major(radius), minor(top), normal(cross(radius, top).normalize()),
+              isReversed(dot(normal, wanted) < 0.0) {
             normal = isReversed ? -normal : normal;
             // What misses it by rounding lies in the multiline's own plane.
             constexpr double kSame = 1e-12;
@@ -122,7 +122,7 @@ private:
         KdGeVector3d major;
         KdGeVector3d minor;
         KdGeVector3d normal;
-        bool isReversed = false; // it runs clockwise around the normal
+        bool isReversed; // it runs clockwise around the normal
     };
 
     void add(const SharedEntityTraits& traits, EntityShape shape) {
