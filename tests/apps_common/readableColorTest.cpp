@@ -1,8 +1,4 @@
 #include "readableColor.h"
-#include "canvasMarks.h"
-
-#include <QImage>
-#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -36,18 +32,6 @@ TEST(ReadableColor, everyColorIsReadableOnEitherGround) {
         for (const std::uint32_t ground : {kDarkGround, kLightGround}) {
             EXPECT_GE(contrastOf(readableRgb(rgb, ground), ground), 3.0) << std::hex << rgb;
         }
-    }
-}
-
-TEST(ReadableColor, aGlowIsReadableThroughItsOpacity) {
-    for (const std::uint32_t ground : {kDarkGround, kLightGround}) {
-        QImage image(1, 1, QImage::Format_RGB32);
-        image.fill(QColor::fromRgb(ground));
-        QPainter painter(&image);
-        painter.setBackground(QColor::fromRgb(ground));
-        painter.setOpacity(kGlowOpacity);
-        painter.fillRect(image.rect(), glowColor(painter));
-        EXPECT_GE(contrastOf(image.pixel(0, 0) & 0xFFFFFFU, ground), 3.0) << std::hex << ground;
     }
 }
 

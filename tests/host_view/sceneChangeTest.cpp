@@ -1,10 +1,8 @@
 #include "Scene.h"
 
-#include "AppearanceCache.h"
 #include "AppearanceMaker.h"
 #include "BlockList.h"
 #include "ChangeLog.h"
-#include "CompactAppearance.h"
 #include "MlineSample.h"
 #include "TestDrawing.h"
 #include "pickDistance.h"
@@ -48,28 +46,6 @@ TEST(SceneChange, followsLayersStylesAndBlocks) {
 
     drawing.core.erase(inBlock);
     EXPECT_EQ(scene.pick({5, 100}, 1), nullptr);
-}
-
-TEST(AppearanceCache, staysWithinItsMemoryAndKeepsWhatIsUsed) {
-    constexpr std::size_t kBytes = 64 << 10;
-    AppearanceCache cache(kBytes);
-    std::vector<KdDbStub> stubs(1000);
-    const auto appearance = [](double x) {
-        Appearance made;
-        made.strokes.push_back({.points = std::vector<PlanPoint>(10, {x, 0})});
-        return made;
-    };
-    for (std::size_t i = 0; i < stubs.size(); ++i) {
-        const Appearance& kept = cache.keep(stubs[i], appearance(static_cast<double>(i)));
-        const Appearance* first = cache.find(stubs.front()); // used all the time
-        ASSERT_NE(first, nullptr) << i;
-        EXPECT_EQ(first->strokes[0].points[0].x, 0.0);
-        EXPECT_EQ(kept.strokes[0].points[0].x, static_cast<double>(i));
-    }
-    EXPECT_LT(cache.size(), kBytes / sizeof(Appearance));
-    EXPECT_GT(cache.size(), 20U);
-    cache.drop(stubs.front());
-    EXPECT_EQ(cache.find(stubs.front()), nullptr);
 }
 
 // A drawing that goes on changing, compared with what a search through all of it says.
@@ -247,48 +223,6 @@ TEST(SceneSteps, takeChangesInWhileTheIndexIsMade) {
               walls + static_cast<unsigned>(added));
     EXPECT_EQ(scene.entitiesIn({{99, -1}, {106, 1e6}}).size(), static_cast<std::size_t>(added));
     EXPECT_GT(added, 5);
-}
-
-TEST(CompactAppearance, hasTheLinesOfTheAppearance) {
-    Appearance appearance;
-    std::vector<PlanPoint> chain;
-    chain.reserve(600);
-    for (int i = 0; i < 600; ++i) {
-        chain.push_back({1000.0 + i, 50.0 + std::sin(i * 0.1)});
-    }
-    appearance.strokes.push_back({.points = chain, .rgb = 0x123456, .dashes = 1});
-    appearance.strokes.push_back({.points = {{1000, 60}}, .rgb = 0xFFFFFF}); // a dot
-    appearance.fills.push_back({.outline = {{1000, 50}, {1100, 50}, {1000, 51}}, .rgb = 0x00FF00});
-    appearance.dashPatterns = {{3.0, -1.5}};
-    appearance.labels.push_back({.anchor = {1001, 52}, .height = 2.5, .text = L"A"});
-    const PlanBox box = appearance.box();
-    CompactAppearances compactAppearances;
-    CompactAppearance compactAppearance(compactAppearances.keep(7, appearance, box));
-    EXPECT_EQ(compactAppearance.rgb(), 0x123456U);
-    EXPECT_TRUE(compactAppearance.hasFills());
-    EXPECT_EQ(compactAppearance.labelHeight(), 2.5F);
-    CompactAppearance::Line line;
-    ASSERT_TRUE(compactAppearance.next(line));
-    EXPECT_TRUE(line.isFill);
-    EXPECT_EQ(line.rgb, 0x00FF00U);
-    EXPECT_EQ(line.points.size(), 3U);
-    ASSERT_TRUE(compactAppearance.next(line));
-    EXPECT_EQ(line.rgb, 0x123456U);
-    EXPECT_EQ(line.period, 4.5F);
-    ASSERT_EQ(line.points.size(), chain.size());
-    for (std::size_t i = 0; i < chain.size(); ++i) {
-        const PlanPoint drawn = CompactAppearance::decoded(line.points[i], box);
-        EXPECT_NEAR(drawn.x, chain[i].x, 600 / 65535.0);
-        EXPECT_NEAR(drawn.y, chain[i].y, 12 / 65535.0);
-    }
-    ASSERT_TRUE(compactAppearance.next(line));
-    EXPECT_FALSE(line.isFill);
-    EXPECT_EQ(line.points.size(), 1U);
-    EXPECT_FALSE(compactAppearance.next(line));
-    EXPECT_FALSE(compactAppearances.find(7).empty());
-    compactAppearances.drop(7);
-    EXPECT_TRUE(compactAppearances.find(7).empty());
-    EXPECT_TRUE(compactAppearances.find(8).empty());
 }
 
 } // namespace
