@@ -55,7 +55,7 @@ CommandLine::CommandLine(QWidget* parent)
       m_lineCount(new QLabel(this)) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     // A line and what an edit keeps free around its text; less shows none.
-    m_history->setMinimumHeight(m_history->fontMetrics().lineSpacing() + 2 * kMargin + 2);
+    m_history->setMinimumHeight(m_history->fontMetrics().lineSpacing() + 2 * kMargin + 4);
     m_input->setMinimumWidth(m_input->fontMetrics().averageCharWidth() * kLeastInput);
     m_input->setObjectName(QStringLiteral("commandInput"));
     m_prompt->setObjectName(QStringLiteral("commandPrompt"));

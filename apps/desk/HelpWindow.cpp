@@ -3,7 +3,10 @@
 #include "helpPages.h"
 
 #include <QHBoxLayout>
+#include <QImage>
+#include <QImageReader>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -26,12 +29,29 @@ public:
     using QTextBrowser::QTextBrowser;
 
     QVariant loadResource(int kind, const QUrl& address) override {
+        if (kind == QTextDocument::ImageResource) {
+            return picture(address);
+        }
         if (kind != QTextDocument::HtmlResource) {
             return QTextBrowser::loadResource(kind, address);
         }
         QTextDocument document;
         document.setMarkdown(helpText(pageAt(address)));
         return document.toHtml();
+    }
+
+private:
+    // They are drawn for white paper, whatever the ground of the text; as fine as the screen is.
+    [[nodiscard]] QImage picture(const QUrl& address) const {
+        QImageReader reader(':' + address.path());
+        const double ratio = devicePixelRatioF();
+        reader.setScaledSize(reader.size() * ratio);
+        const QImage drawn = reader.read();
+        QImage paper(drawn.size(), QImage::Format_RGB32);
+        paper.fill(Qt::white);
+        QPainter(&paper).drawImage(0, 0, drawn);
+        paper.setDevicePixelRatio(ratio);
+        return paper;
     }
 };
 

@@ -110,7 +110,7 @@ void JoinPanel::addResults(QGridLayout& grid, int row) {
     m_summary->setWordWrap(true);
     m_list = new QListWidget(this);
     m_list->setObjectName(QStringLiteral("joinLeft"));
-    m_list->setFocusPolicy(Qt::TabFocus);
+    m_list->setFocusPolicy(Qt::NoFocus);
     m_list->setWordWrap(true);
     m_go = new QPushButton(this);
     m_go->setObjectName(QStringLiteral("joinGo"));
@@ -189,11 +189,13 @@ void JoinPanel::showReport(const JoinReport& report) {
     for (const LeftPlace& place : m_left) {
         m_list->addItem(place.text);
     }
+    m_list->setFocusPolicy(m_left.empty() ? Qt::NoFocus : Qt::TabFocus);
 }
 
 void JoinPanel::clearReport() {
     m_left.clear();
     m_list->clear();
+    m_list->setFocusPolicy(Qt::NoFocus); // there is nothing to do in it
     m_summary->clear();
 }
 

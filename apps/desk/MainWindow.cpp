@@ -111,6 +111,7 @@ void MainWindow::connectCommandLine() {
     connect(m_join, &JoinDesk::left, m_commandLine, [this] { m_commandLine->setFocus(); });
     connect(m_properties, &PropertyDesk::left, m_commandLine,
             [this] { m_commandLine->setFocus(); });
+    connect(m_tool, &ToolDesk::complained, m_commandLine, &CommandLine::complain);
     connect(m_autosave, &AutosaveDesk::complained, m_commandLine, &CommandLine::complain);
     connect(m_undo, &UndoDesk::printed, m_commandLine, &CommandLine::print);
     connect(&m_prompts, &DeskPrompts::printed, m_commandLine, &CommandLine::print);

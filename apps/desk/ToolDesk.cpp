@@ -136,9 +136,10 @@ void ToolDesk::refused(const RefusedPick& refused) {
     m_flash.start(kFlashTime);
     if (!refused.isTold) {
         const QString remedy = toQt(refusalRemedy(refused.reason));
-        m_prompts.print(toWide(capitalised(m_refusal) +
-                               (remedy.isEmpty() ? remedy : QLatin1String("; ") + remedy) +
-                               QLatin1Char('.')));
+        // Not by the prompts, whose complaints end what is played.
+        emit complained(capitalised(m_refusal) +
+                        (remedy.isEmpty() ? remedy : QLatin1String("; ") + remedy) +
+                        QLatin1Char('.'));
     }
     showHints();
 }

@@ -43,6 +43,9 @@ public:
     // and nothing was answered, at any other question.
     bool answerPick(PlanPoint place);
 
+signals:
+    void complained(const QString& line); // of a pick that did nothing
+
 private:
     void chosen(unsigned dialog, int button);
     void showQuestion();

@@ -31,7 +31,12 @@ TEST_F(DeskFixture, theHelpOpensAtTheToolThatRunsAndIsSearchedThroughAllPages) {
         type("-mledit"),
         type("ot"),
         trigger("help"),
-        [&] { EXPECT_THAT(place().toStdString(), ::testing::StartsWith("OT ")); },
+        [&] {
+            EXPECT_THAT(place().toStdString(), ::testing::StartsWith("OT "));
+            const QUrl address("qrc:/docs/pictures/ot.svg");
+            const QVariant picture = browser->loadResource(QTextDocument::ImageResource, address);
+            EXPECT_EQ(picture.value<QImage>().pixelColor(500, 200), QColor(Qt::white));
+        },
         key(Qt::Key_Escape),
         type("rotate"),
         trigger("help"),
