@@ -160,7 +160,7 @@ void DrawingReader::warnOfForm(std::size_t start) {
     }
     if (!cut.hasEnd) {
         warn(cut.lineCount,
-             m_document.bytes.empty() ? "the file is empty" : "the drawing stops without EOF");
+             m_document.bytes.empty() ? "the drawing is empty" : "the drawing stops without EOF");
     }
     if (end < m_document.bytes.size()) {
         warn(cut.lineCount + 1, "bytes follow after EOF");
