@@ -9,6 +9,7 @@
 #include "pickTests.h"
 #include "vectorMath.h"
 
+#include <algorithm>
 #include <vector>
 
 using namespace mledit;
@@ -21,6 +22,7 @@ constexpr double kFarthest = 4294967295.0;
 
 std::vector<ChainPoint> chainOf(const CMlineSegment& seg) {
     std::vector<ChainPoint> chain;
+    chain.reserve(static_cast<std::size_t>(std::max(seg.m_numVertices, 0)));
     for (int vertex = 0; vertex < seg.m_numVertices; ++vertex) {
         const KdGePoint3d at = seg.m_mline->vertexAt(vertex);
         chain.push_back({{at.x, at.y, at.z}});

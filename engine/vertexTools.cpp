@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 
 using namespace mledit;
@@ -37,19 +38,6 @@ EditFrame frameOf(const KdDbMline* mline) {
     double normal[3] = {0.0, 0.0, 0.0};
     GetNormal(mline, normal);
     return EditFrame::overlaid(normal);
-}
-
-// Both lists of an element at one vertex.
-void carryLists(const KdDbMline* from, int oldVertex, KdDbMline* to, int newVertex, int element) {
-    storeLineList(to, newVertex, element, lineList(from, oldVertex, element));
-    storeAreaList(to, newVertex, element, areaList(from, oldVertex, element));
-}
-
-void carryVertex(const KdDbMline* from, int oldVertex, KdDbMline* to, int newVertex,
-                 int numElements) {
-    for (int k = 0; k < numElements; ++k) {
-        carryLists(from, oldVertex, to, newVertex, k);
-    }
 }
 
 // Direction in plan between two points, in the frame.
@@ -75,7 +63,8 @@ bool isElementPosition(const CMlineSegment& seg, const double* position) {
 // Removes vertices of an entity, one after the other at the same index D. Each removal turns the
 // two vertices next to D and rewrites their lists; all others keep theirs. The entity is taken
 // apart once and put together once, so that a removal costs the same in a chain of any length: what
-// is removed stays in a gap that begins at D and that `column` steps over.
+// is removed stays in a gap that begins at D and that `column` steps over. A chain may have
+// millions of vertices, so lists are copied only where they change.
 class VertexRemoval {
 public:
     // `seg` has its table of positions, which serves as working memory.
@@ -84,10 +73,6 @@ public:
           m_count(seg.m_numVertices), m_elements(seg.m_numElements), m_closed(isClosed(m_mline)),
           m_frame(frameOf(m_mline)), m_ends(ends), m_chain(VertexChain::of(m_mline)) {
         GetNormal(m_mline, m_normal);
-        m_lists.reserve(static_cast<std::size_t>(m_count));
-        for (int v = 0; v < m_count; ++v) {
-            m_lists.push_back(elementLists(*m_mline, v, m_elements));
-        }
     }
 
     // Before each removal there has to be a vertex D, and enough others.
@@ -139,6 +124,7 @@ private:
         m_firstBefore = column(0);
         ++m_gap;
         --m_count;
+        m_rewritten.erase(static_cast<std::size_t>(m_d + m_gap) - 1);
         turnPrevious();
         turnNext(isNextFree);
         rewritePrevious();
@@ -238,20 +224,28 @@ private:
         }
     }
 
-    [[nodiscard]] std::vector<double> lineListAt(std::size_t column, int k) const {
-        const VoVector<double>& values = m_lists[column].at(k).m_lineParams;
+    // The lists of a vertex that was turned.
+    [[nodiscard]] VertexParameters& listsOf(std::size_t column) {
+        const auto [found, isNew] = m_rewritten.try_emplace(column);
+        if (isNew) {
+            found->second = elementLists(*m_mline, static_cast<int>(column), m_elements);
+        }
+        return found->second;
+    }
+    [[nodiscard]] std::vector<double> lineListAt(std::size_t column, int k) {
+        const VoVector<double>& values = std::as_const(listsOf(column)).at(k).m_lineParams;
         return {values.begin(), values.end()};
     }
     void setLineList(std::size_t column, int k, const std::vector<double>& list) {
         VoVector<double> fresh(static_cast<unsigned>(list.size()));
         std::copy(list.begin(), list.end(), fresh.data());
-        m_lists[column].at(k).m_lineParams = fresh;
+        listsOf(column).at(k).m_lineParams = fresh;
     }
 
     // Where the elements pass a vertex that was turned.
     void placeElements(std::optional<std::size_t> column) {
         for (int k = 0; column && k < m_elements; ++k) {
-            const VoVector<double>& list = std::as_const(m_lists[*column]).at(k).m_lineParams;
+            const VoVector<double>& list = std::as_const(listsOf(*column)).at(k).m_lineParams;
             const double offset = list.isEmpty() ? 0.0 : list.at(0);
             for (std::size_t i = 0; i < 3; ++i) {
                 m_positions[k][*column][i] =
@@ -263,15 +257,32 @@ private:
     void store() {
         int elements = 0;
         GetSegmentsSize(m_mline, &elements);
+        // Those that move up come from vertices that aren't written yet.
+        for (int v = 0; v < m_count; ++v) {
+            storeLists(v, elements);
+        }
         SetNumVertices(m_mline, m_count);
-        SetSegmentsSize(m_mline, elements);
         for (std::vector<Xyz>* const points : {&m_chain.vertices, &m_chain.axes, &m_chain.miters}) {
             points->erase(points->begin() + m_d, points->begin() + m_d + m_gap);
         }
         m_chain.store(m_mline);
-        for (int v = 0; v < m_count; ++v) {
-            storeElementLists(*m_mline, v, m_lists[column(v)]);
+    }
+
+    void storeLists(int vertex, int elements) {
+        const std::size_t from = column(vertex);
+        const auto rewritten = m_rewritten.find(from);
+        const VertexParameters lists =
+            rewritten != m_rewritten.end()
+                ? rewritten->second
+                : elementLists(*m_mline, static_cast<int>(from), m_elements);
+        VertexParameters records = vertexParameters(*m_mline, vertex);
+        if (elements > 0) {
+            records.resize(static_cast<unsigned>(elements));
         }
+        for (int k = 0; k < std::min(static_cast<int>(records.size()), m_elements); ++k) {
+            records.at(k) = lists.at(k);
+        }
+        storeVertexParameters(*m_mline, vertex, records);
     }
 
     CMlineEdit& m_edit;
@@ -285,7 +296,7 @@ private:
     EditFrame m_frame;
     EndAngles m_ends;
     VertexChain m_chain;
-    std::vector<VertexParameters> m_lists;
+    std::unordered_map<std::size_t, VertexParameters> m_rewritten; // by column
     double m_normal[3] = {0.0, 0.0, 0.0};
     Around m_around;               // of the last removal
     std::size_t m_firstBefore = 0; // the column that vertex 0 had before it
@@ -398,8 +409,8 @@ void CMlineEdit::add_OneVertex(CMlineSegment* seg) {
 
     for (int old = 0; old < seg->m_numVertices; ++old) {
         if (old != seg->m_segment) {
-            carryVertex(copy.get(), old, mline, old < seg->m_segment ? old : old + 1,
-                        seg->m_numElements);
+            storeElementLists(*mline, old < seg->m_segment ? old : old + 1,
+                              elementLists(*copy, old, seg->m_numElements));
         }
     }
     splitLists(*this, seg, *copy, from.data(), to.data(), normal);

@@ -59,9 +59,8 @@ Status KdDbMline::getParametersAt(int vertex, KdArray<void*>& parameters) const 
     if (!isIndex(content, vertex)) {
         return Status::invalidInput;
     }
-    // The interface hands out a pointer without const; callers copy what it points to.
-    const auto& record = content.lists.nested(static_cast<unsigned>(vertex));
-    parameters.append(const_cast<VoVector<KdMLSegment>*>(&record));
+    content.lists.readNested(static_cast<unsigned>(vertex), m_imp->m_lent);
+    parameters.append(&m_imp->m_lent);
     return Status::done;
 }
 
@@ -70,7 +69,6 @@ Status KdDbMline::setParametersAt(int vertex, const KdArray<void*>& parameters) 
         !isIndex(m_imp->content(), vertex)) {
         return Status::invalidInput;
     }
-    // Shared at once: the pointer may be to our own record, which the change below unshares.
     const VoVector<KdMLSegment> record(*static_cast<const VoVector<KdMLSegment>*>(parameters[0]));
     m_imp->changeContent().lists.setNested(static_cast<unsigned>(vertex), record);
     return Status::done;

@@ -25,8 +25,7 @@ struct ChainVertex {
 };
 
 // The parameter lists of a chain, for each vertex and element one of lines and one of areas. What
-// was read from a file lies flat in one array; a vertex that was written to, or whose record was
-// asked for, has its nested record beside it.
+// was read from a file lies flat in one array; a vertex that was written to has lists of its own.
 class ParameterLists {
 public:
     // From a file: `counts` has, for each vertex and element, the number of line and of area
@@ -42,9 +41,10 @@ public:
     [[nodiscard]] std::span<const double> line(unsigned vertex, unsigned element) const;
     [[nodiscard]] std::span<const double> area(unsigned vertex, unsigned element) const;
 
-    // The nested record, made at the first call and kept at its address until the vertex is
-    // written or dropped.
-    [[nodiscard]] const VoVector<KdMLSegment>& nested(unsigned vertex) const;
+    // The lists of a vertex as the interface has them, made at each call.
+    [[nodiscard]] VoVector<KdMLSegment> nested(unsigned vertex) const;
+    // The same into a record; arrays of it that nobody shares and that fit serve again.
+    void readNested(unsigned vertex, VoVector<KdMLSegment>& record) const;
     void setNested(unsigned vertex, const VoVector<KdMLSegment>& record);
     void appendVertex(); // as many empty records as vertex 0 has
     void dropLastVertex();
@@ -56,21 +56,24 @@ public:
     friend bool operator==(const ParameterLists& a, const ParameterLists& b);
 
 private:
-    using Record = VoVector<KdMLSegment>;
-
     struct Flat {
         unsigned elements = 0;
         std::vector<std::uint32_t> ends; // of each list in `values`, lines and areas in turn
         std::vector<double> values;
     };
-    [[nodiscard]] const Record* nestedOrNull(unsigned vertex) const;
-    [[nodiscard]] std::span<const double> flatList(std::size_t index) const;
+    // The lists of one vertex in one piece, since a chain may have millions: the number of
+    // elements, where each list ends among the values, lines and areas in turn, and the values.
+    using OwnLists = std::shared_ptr<const double[]>;
+
+    [[nodiscard]] static OwnLists pack(const VoVector<KdMLSegment>& record);
+    [[nodiscard]] const double* ownOrNull(unsigned vertex) const;
+    [[nodiscard]] std::span<const double> list(unsigned vertex, std::size_t index) const;
 
     unsigned m_vertices = 0;
     std::shared_ptr<const Flat> m_flat; // shared by copies
     // A null entry, and every entry of an empty array, is as in m_flat. Most multilines are only
     // looked at and never have any.
-    mutable std::vector<std::shared_ptr<const Record>> m_nested;
+    std::vector<OwnLists> m_own;
 };
 
 // The bits of a multiline's flags in files and listings.

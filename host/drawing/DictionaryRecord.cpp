@@ -29,7 +29,7 @@ struct PairTags {
     std::uint64_t value = 0;
 };
 
-std::vector<PairTags> findPairs(const std::vector<Tag>& tags) {
+std::vector<PairTags> findPairs(const TagList& tags) {
     std::vector<PairTags> pairs;
     std::size_t key = 0; // 0: none
     for (std::size_t i = 1; i < tags.size() && tags[i].code < 1000; i = skipGroup(tags, i)) {
@@ -56,12 +56,8 @@ std::size_t findPair(const std::vector<PairTags>& pairs, const std::vector<bool>
     return pairs.size();
 }
 
-std::vector<Tag> tagsOf(std::string_view bytes, const RecordSpan& span) {
-    return RecordEdit(bytes, span.begin, span.end).tags();
-}
-
 // Where a dictionary without pairs gets its first one: after what is its own.
-std::size_t lastOwnTag(const std::vector<Tag>& tags) {
+std::size_t lastOwnTag(const TagList& tags) {
     std::size_t last = 0;
     for (std::size_t i = 0; i < tags.size() && tags[i].code < 1000; i = skipGroup(tags, i)) {
         last = skipGroup(tags, i) - 1;
@@ -69,9 +65,10 @@ std::size_t lastOwnTag(const std::vector<Tag>& tags) {
     return last;
 }
 
-bool endsInsideGroup(const std::vector<Tag>& tags) {
+bool endsInsideGroup(const TagList& tags) {
     bool inside = false;
-    for (const Tag& tag : tags) {
+    for (std::size_t i = 0; i < tags.size(); ++i) {
+        const Tag tag = tags[i];
         inside = tag.code == 102 ? tag.value.starts_with('{') : inside;
     }
     return inside;
@@ -86,7 +83,7 @@ void addPair(TagText& target, const RecordContext& context, const DictionaryEntr
 } // namespace
 
 std::vector<DictionaryPair> readPairs(std::string_view bytes, const RecordSpan& span) {
-    const std::vector<Tag> tags = tagsOf(bytes, span);
+    const TagList tags(bytes, span.begin, span.end);
     std::vector<DictionaryPair> result;
     for (const PairTags& pair : findPairs(tags)) {
         result.push_back({tags[pair.key].value, pair.value});
@@ -97,7 +94,7 @@ std::vector<DictionaryPair> readPairs(std::string_view bytes, const RecordSpan& 
 std::optional<std::string> editDictionary(const RecordContext& context, const RecordSpan& span,
                                           const std::vector<DictionaryEntry>& entries) {
     RecordEdit edit(context.bytes, span.begin, span.end);
-    const std::vector<Tag>& tags = edit.tags();
+    const TagList& tags = edit.tags();
     std::vector<PairTags> pairs = findPairs(tags);
     const int handleCode = pairs.empty() ? kSoftOwner : tags[pairs.front().handle].code;
     const std::size_t place = pairs.empty() ? lastOwnTag(tags) : pairs.front().key - 1;
@@ -120,7 +117,7 @@ std::optional<std::string> editDictionary(const RecordContext& context, const Re
             continue;
         }
         used[old] = true;
-        const Tag& key = tags[pairs[old].key];
+        const Tag key = tags[pairs[old].key];
         const bool sameKey = context.text.decode(trimBlanks(key.value)) == entry.key;
         same = same && sameKey;
         fresh.addLines(sameKey ? edit.lines(pairs[old].key)

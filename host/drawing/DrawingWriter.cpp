@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <limits>
 #include <unordered_set>
+#include <utility>
 
 namespace orvex {
 
@@ -55,7 +56,7 @@ private:
     void drop(const KdDbStub& stub);
     void noteReplacements();
     [[nodiscard]] bool isUntouched(const KdDbStub& stub) const;
-    void replace(const KdDbStub& stub, const std::optional<std::string>& text);
+    void replace(const KdDbStub& stub, std::optional<std::string> text);
 
     // Sees to it that the object is in the file.
     void require(KdDbStub* stub);
@@ -129,15 +130,15 @@ void DrawingWriter::edit(KdDbStub& stub) {
     const RecordSpan span = m_document.span(stub.record);
     if (stub.kind == ObjectKind::mline) {
         if (const auto* const content = contentOf<MlineContent>(stub)) {
-            if (const auto text = editMline(m_context, span, *content)) {
-                replace(stub, text);
+            if (auto text = editMline(m_context, span, *content)) {
+                replace(stub, std::move(text));
                 requireMline(*content);
             }
         }
     } else if (stub.kind == ObjectKind::mlineStyle) {
         if (const auto* const content = contentOf<MlineStyleContent>(stub)) {
-            if (const auto text = editStyle(m_context, span, *content)) {
-                replace(stub, text);
+            if (auto text = editStyle(m_context, span, *content)) {
+                replace(stub, std::move(text));
                 requireStyle(*content);
             }
         }
@@ -146,9 +147,9 @@ void DrawingWriter::edit(KdDbStub& stub) {
     }
 }
 
-void DrawingWriter::replace(const KdDbStub& stub, const std::optional<std::string>& text) {
+void DrawingWriter::replace(const KdDbStub& stub, std::optional<std::string> text) {
     if (text) {
-        m_layout.replace(m_document.span(stub.record), *text);
+        m_layout.replace(m_document.span(stub.record), std::move(*text));
     }
 }
 

@@ -12,7 +12,7 @@ namespace orvex {
 namespace {
 
 // The value of the first tag with the code outside of groups in braces; 0 for none.
-std::uint64_t handleUnder(const std::vector<Tag>& tags, int code) {
+std::uint64_t handleUnder(const TagList& tags, int code) {
     for (std::size_t i = 1; i < tags.size(); i = skipGroup(tags, i)) {
         if (tags[i].code == code) {
             return parseHandle(tags[i].value).value_or(0);
@@ -21,7 +21,7 @@ std::uint64_t handleUnder(const std::vector<Tag>& tags, int code) {
     return 0;
 }
 
-std::uint64_t extensionDictionary(const std::vector<Tag>& tags) {
+std::uint64_t extensionDictionary(const TagList& tags) {
     for (std::size_t i = 1; i + 1 < tags.size(); ++i) {
         if (tags[i].code == 102 && trimBlanks(tags[i].value) == "{ACAD_XDICTIONARY" &&
             tags[i + 1].code == 360) {
@@ -111,7 +111,7 @@ GoneReferences::Reading GoneReferences::settleGroup(std::uint32_t record, FileLa
     constexpr int kMember = 340;
     const RecordSpan span = m_document.span(record);
     RecordEdit edit(m_document.bytes, span.begin, span.end);
-    const std::vector<Tag>& tags = edit.tags();
+    const TagList& tags = edit.tags();
     std::size_t left = 0;
     bool isConcerned = false;
     bool isReadable = true;
@@ -162,7 +162,7 @@ void GoneReferences::dropEntries(FileLayout& layout) {
     for (const auto& [record, handles] : m_entries) {
         const RecordSpan span = m_document.span(record);
         RecordEdit edit(m_document.bytes, span.begin, span.end);
-        const std::vector<Tag>& tags = edit.tags();
+        const TagList& tags = edit.tags();
         for (std::size_t i = 2; i < tags.size(); ++i) {
             const bool isEntry =
                 (tags[i].code == 350 || tags[i].code == 360) && tags[i - 1].code == 3;
@@ -183,7 +183,7 @@ GoneReferences::Reading GoneReferences::settleSortTable(std::uint32_t record, Fi
     constexpr int kBlock = 330;
     const RecordSpan span = m_document.span(record);
     RecordEdit edit(m_document.bytes, span.begin, span.end);
-    const std::vector<Tag>& tags = edit.tags();
+    const TagList& tags = edit.tags();
     bool isConcerned = false;
     bool isReadable = true;
     std::uint64_t block = 0; // the last such handle; the one before is the table's owner

@@ -62,12 +62,12 @@ std::optional<HeaderValue> scalar(const Row& row, std::string_view value, const 
 }
 
 // The value whose name is at tags[name].
-std::optional<HeaderValue> readValue(const Row& row, const std::vector<Tag>& tags, std::size_t name,
+std::optional<HeaderValue> readValue(const Row& row, const TagList& tags, std::size_t name,
                                      const DrawingText& text) {
     KdGePoint3d point;
     bool found = false;
     for (std::size_t i = name + 1; i < tags.size() && tags[i].code != kNameCode; ++i) {
-        const Tag& tag = tags[i];
+        const Tag tag = tags[i];
         if (row.code != 10) {
             if (tag.code == row.code) {
                 return scalar(row, tag.value, text);
@@ -135,7 +135,7 @@ HeaderBasics readBasics(std::string_view bytes, const RecordSpan& span) {
 
 void readVariables(const RecordContext& context, const RecordSpan& span) {
     const RecordEdit record(context.bytes, span.begin, span.end);
-    const std::vector<Tag>& tags = record.tags();
+    const TagList& tags = record.tags();
     for (std::size_t i = 0; i < tags.size(); ++i) {
         const Row* const row = findRow(variableName(tags[i]));
         if (row != nullptr && row->code != 1) { // the version is the document's matter
@@ -161,7 +161,7 @@ VariableChanges changedVariables(const HeaderVariables& before, const HeaderVari
 std::string editVariables(const RecordContext& context, const RecordSpan& span,
                           const VariableChanges& changes) {
     RecordEdit edit(context.bytes, span.begin, span.end);
-    const std::vector<Tag>& tags = edit.tags();
+    const TagList& tags = edit.tags();
     for (const auto& [name, value] : changes) {
         const Row* const row = findRow(name);
         std::size_t at = 0;

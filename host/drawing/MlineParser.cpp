@@ -3,6 +3,7 @@
 #include "NumberText.h"
 #include "handleText.h"
 
+#include <algorithm>
 #include <array>
 
 namespace orvex {
@@ -49,7 +50,8 @@ double& coordinate(ChainVertex& vertex, unsigned place) {
 
 } // namespace
 
-void MlineParser::begin() {
+void MlineParser::begin(std::size_t recordBytes) {
+    m_recordBytes = recordBytes;
     styleName = {};
     style = 0;
     scale = 1.0;
@@ -207,6 +209,7 @@ MlineRole MlineParser::feedCoordinate(const Tag& tag, unsigned place) {
             fail("a vertex is not complete");
         }
         if (m_keepsVertices) {
+            takeRoom();
             vertices.emplace_back();
         }
         ++m_vertexCount;
@@ -230,6 +233,20 @@ MlineRole MlineParser::feedCoordinate(const Tag& tag, unsigned place) {
         judgeReal(tag);
     }
     return MlineRole::vertex;
+}
+
+// As much as the counts ask for and the record can have.
+void MlineParser::takeRoom() {
+    if (!vertices.empty()) {
+        return;
+    }
+    constexpr std::size_t kShortestTag = 4;     // "74", a line end, a digit
+    constexpr std::size_t kNeededPerVertex = 6; // coordinates
+    const std::size_t most = m_recordBytes / (kShortestTag * kNeededPerVertex);
+    const std::size_t room = std::min(most, static_cast<std::size_t>(vertexCount));
+    vertices.reserve(room);
+    counts.reserve(
+        std::min(m_recordBytes / kShortestTag, room * static_cast<std::size_t>(elementCount) * 2));
 }
 
 MlineRole MlineParser::feedCount(const Tag& tag, bool areas) {

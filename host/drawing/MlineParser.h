@@ -35,7 +35,9 @@ public:
     explicit MlineParser(Keeps keeps = Keeps::everything)
         : m_keepsVertices(keeps == Keeps::everything) {}
 
-    void begin();
+    // The record has at most so many bytes: room for no more is taken at once, whatever the counts
+    // say.
+    void begin(std::size_t recordBytes = 0);
     MlineRole feed(const Tag& tag); // every tag after the record's code 0
     // Fails where something doesn't fit together; the result is then of no use.
     [[nodiscard]] std::optional<Failure> finish();
@@ -71,7 +73,10 @@ private:
         }
     }
 
+    void takeRoom();
+
     bool m_keepsVertices;
+    std::size_t m_recordBytes = 0;
     std::size_t m_vertexCount = 0; // so far
     Stage m_stage = Stage::fields;
     bool m_inGroup = false;         // between the braces of code 102

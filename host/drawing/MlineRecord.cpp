@@ -74,7 +74,22 @@ Fields mlineFields(const RecordContext& context, const MlineContent& content, in
     return fields;
 }
 
-std::shared_ptr<MlineContent> contentOf(const RecordContext& context, const MlineParser& parser) {
+// A copy of exact size. What is large is taken over instead: the parser keeps its memory.
+template <class T>
+std::vector<T> take(std::vector<T>& values) {
+    constexpr std::size_t kLarge = std::size_t{1} << 20U; // bytes
+    if (values.size() * sizeof(T) < kLarge) {
+        return {values.begin(), values.end()};
+    }
+    std::vector<T> taken = std::move(values);
+    values = {};
+    if (taken.capacity() - taken.size() > taken.size() / 8) {
+        taken.shrink_to_fit();
+    }
+    return taken;
+}
+
+std::shared_ptr<MlineContent> contentOf(const RecordContext& context, MlineParser& parser) {
     auto content = std::make_shared<MlineContent>();
     content->styleName = context.text.decode(trimBlanks(parser.styleName));
     content->style = KdDbObjectId(findStyle(context, parser, content->styleName));
@@ -84,13 +99,12 @@ std::shared_ptr<MlineContent> contentOf(const RecordContext& context, const Mlin
     content->startCapsSuppressed = (parser.flags & kMlineNoStartCaps) != 0;
     content->endCapsSuppressed = (parser.flags & kMlineNoEndCaps) != 0;
     content->normal = parser.normal;
-    content->vertices.assign(parser.vertices.begin(), parser.vertices.end());
+    content->vertices = take(parser.vertices);
     if (parser.elementCount > 0) {
-        content->lists.assignFlat(static_cast<unsigned>(parser.elementCount),
-                                  {parser.counts.begin(), parser.counts.end()},
-                                  {parser.values.begin(), parser.values.end()});
+        content->lists.assignFlat(static_cast<unsigned>(parser.elementCount), take(parser.counts),
+                                  take(parser.values));
     } else {
-        for (std::size_t i = 0; i < parser.vertices.size(); ++i) {
+        for (std::size_t i = 0; i < content->vertices.size(); ++i) {
             content->lists.appendVertex();
         }
     }
@@ -120,7 +134,7 @@ KdDbStub* findStyle(DatabaseCore& core, std::uint64_t handle) {
 
 std::shared_ptr<MlineContent> readMline(const RecordContext& context, const RecordSpan& span,
                                         MlineParser& parser) {
-    parser.begin();
+    parser.begin(span.end - span.begin);
     TagReader reader(context.bytes, span.begin, span.end);
     Tag tag;
     reader.next(tag); // the code 0

@@ -10,9 +10,9 @@ namespace orvex {
 
 namespace {
 
-constexpr std::array<int, MlineLayout::kPlaces> kCodes{11, 21, 31, 12, 22, 32, 13, 23, 33};
+constexpr std::array<int, VertexTags::kPlaces> kCodes{11, 21, 31, 12, 22, 32, 13, 23, 33};
 
-std::array<double, MlineLayout::kPlaces> coordinates(const ChainVertex& vertex) {
+std::array<double, VertexTags::kPlaces> coordinates(const ChainVertex& vertex) {
     return {vertex.position.x, vertex.position.y, vertex.position.z, vertex.axis.x, vertex.axis.y,
             vertex.axis.z,     vertex.miter.x,    vertex.miter.y,    vertex.miter.z};
 }
@@ -23,26 +23,27 @@ std::size_t placeOf(int code) {
 
 // Pairs what a list was with what it is: equal heads and tails belong together, what lies between
 // goes by index. So an entry that was put in or taken out doesn't shift the text of the others.
+template <class T>
 class Alignment {
 public:
-    template <class T>
-    Alignment(std::span<const T> old, std::span<const T> now)
+    template <class IsSame>
+    Alignment(std::span<const T> old, std::span<const T> now, IsSame isSame)
         : m_old(old.size()), m_now(now.size()) {
         const std::size_t shorter = std::min(m_old, m_now);
-        while (m_head < shorter && sameBits(old[m_head], now[m_head])) {
+        while (m_head < shorter && isSame(old[m_head], now[m_head])) {
             ++m_head;
         }
         while (m_tail < shorter - m_head &&
-               sameBits(old[m_old - 1 - m_tail], now[m_now - 1 - m_tail])) {
+               isSame(old[m_old - 1 - m_tail], now[m_now - 1 - m_tail])) {
             ++m_tail;
         }
     }
-    // The old index of what is `now`; kNone when it is new.
+    // The old index of what is `now`; kNone when it is new. It grows with `now`.
     [[nodiscard]] std::size_t operator()(std::size_t now) const {
         if (now + m_tail >= m_now) {
             return now + m_old - m_now;
         }
-        return now < m_head || now + m_tail < m_old ? now : MlineLayout::kNone;
+        return now < m_head || now + m_tail < m_old ? now : VertexTags::kNone;
     }
 
 private:
@@ -51,15 +52,6 @@ private:
     std::size_t m_head = 0;
     std::size_t m_tail = 0;
 };
-
-std::vector<KdGePoint3d> positions(const MlineContent& content) {
-    std::vector<KdGePoint3d> result;
-    result.reserve(content.vertices.size());
-    for (const ChainVertex& vertex : content.vertices) {
-        result.push_back(vertex.position);
-    }
-    return result;
-}
 
 std::span<const double> listOf(const MlineContent& content, std::size_t vertex, std::size_t index) {
     const auto v = static_cast<unsigned>(vertex);
@@ -74,47 +66,88 @@ int valueCode(std::size_t index) {
     return index % 2 == 0 ? 41 : 42;
 }
 
-// Writes the vertices anew out of the old tags and new ones.
+// Writes the vertices that aren't as they were anew, out of their old tags and new ones. Those that
+// are stay where they stand in the record.
 class VertexText {
 public:
-    VertexText(const RecordEdit& edit, const MlineLayout& layout, const MlineContent& old,
+    VertexText(RecordEdit& edit, const MlineLayout& layout, const MlineContent& old,
                const MlineContent& content)
-        : m_edit(edit), m_layout(layout), m_old(old), m_content(content), m_text(edit.format()) {}
+        : m_edit(edit), m_layout(layout), m_old(old), m_content(content), m_text(edit.format()),
+          m_next(layout.verticesBegin()) {}
 
-    std::string run();
+    void run();
 
 private:
+    [[nodiscard]] bool isAsItWas(std::size_t vertex, std::size_t oldVertex) const;
+    // Puts what was written so far in the place of the tags from m_next to this one.
+    void settle(std::size_t tag);
     void addVertex(std::size_t vertex, std::size_t oldVertex);
     void addList(std::size_t vertex, std::size_t oldVertex, std::size_t index);
     // An old tag, with another value where one is given, and what stands after it.
     void addOld(std::size_t tag, const std::string* value);
 
-    const RecordEdit& m_edit;
+    RecordEdit& m_edit;
     const MlineLayout& m_layout;
     const MlineContent& m_old;
     const MlineContent& m_content;
     TagText m_text;
+    VertexTags m_tags;  // of the old vertex at hand
+    std::size_t m_next; // the first tag that is neither kept nor replaced yet
 };
 
-std::string VertexText::run() {
-    const std::vector<KdGePoint3d> before = positions(m_old);
-    const std::vector<KdGePoint3d> now = positions(m_content);
-    const Alignment oldIndex{std::span<const KdGePoint3d>(before),
-                             std::span<const KdGePoint3d>(now)};
-    for (std::size_t vertex = 0; vertex < now.size(); ++vertex) {
-        addVertex(vertex, oldIndex(vertex));
+void VertexText::run() {
+    const Alignment<ChainVertex> oldIndex(m_old.vertices, m_content.vertices,
+                                          [](const ChainVertex& a, const ChainVertex& b) {
+                                              return sameBits(a.position, b.position);
+                                          });
+    for (std::size_t vertex = 0; vertex < m_content.vertices.size(); ++vertex) {
+        const std::size_t oldVertex = oldIndex(vertex);
+        if (oldVertex == VertexTags::kNone) {
+            addVertex(vertex, oldVertex);
+        } else if (isAsItWas(vertex, oldVertex)) {
+            settle(m_layout.vertexBegin(oldVertex));
+            m_next = m_layout.vertexBegin(oldVertex + 1);
+        } else {
+            m_layout.readVertex(oldVertex, m_tags);
+            addVertex(vertex, oldVertex);
+        }
     }
-    return m_text.take();
+    settle(m_layout.verticesEnd());
+}
+
+bool VertexText::isAsItWas(std::size_t vertex, std::size_t oldVertex) const {
+    const auto v = static_cast<unsigned>(vertex);
+    const auto o = static_cast<unsigned>(oldVertex);
+    const unsigned elements = m_content.elementCount();
+    if (!sameBits(m_content.vertices[vertex], m_old.vertices[oldVertex]) ||
+        m_old.elementCount() != elements) {
+        return false;
+    }
+    for (unsigned element = 0; element < elements; ++element) {
+        if (!sameBits(m_content.lists.line(v, element), m_old.lists.line(o, element)) ||
+            !sameBits(m_content.lists.area(v, element), m_old.lists.area(o, element))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void VertexText::settle(std::size_t tag) {
+    m_edit.remove(m_next, tag);
+    if (std::string text = m_text.take(); !text.empty()) {
+        m_edit.insertAfter(m_next - 1, std::move(text));
+    }
+    m_next = tag;
 }
 
 void VertexText::addVertex(std::size_t vertex, std::size_t oldVertex) {
     const auto values = coordinates(m_content.vertices[vertex]);
-    const bool isNew = oldVertex == MlineLayout::kNone;
+    const bool isNew = oldVertex == VertexTags::kNone;
     const auto oldValues = isNew ? values : coordinates(m_old.vertices[oldVertex]);
     for (std::size_t place = 0; place < values.size(); ++place) {
-        const std::size_t tag = isNew ? MlineLayout::kNone : m_layout.coordinate(oldVertex, place);
+        const std::size_t tag = isNew ? VertexTags::kNone : m_tags.coordinate(place);
         const bool same = sameBits(values[place], oldValues[place]);
-        if (tag == MlineLayout::kNone) {
+        if (tag == VertexTags::kNone) {
             if (isNew || !same) {
                 m_text.addReal(kCodes[place], values[place]);
             }
@@ -132,9 +165,9 @@ void VertexText::addVertex(std::size_t vertex, std::size_t oldVertex) {
 
 void VertexText::addList(std::size_t vertex, std::size_t oldVertex, std::size_t index) {
     const auto values = listOf(m_content, vertex, index);
-    const MlineLayout::List list =
-        oldVertex == MlineLayout::kNone ? MlineLayout::List() : m_layout.list(oldVertex, index);
-    const bool isOld = list.count != MlineLayout::kNone;
+    const VertexTags::List list =
+        oldVertex == VertexTags::kNone ? VertexTags::List() : m_tags.list(index);
+    const bool isOld = list.count != VertexTags::kNone;
     const auto oldValues = isOld ? listOf(m_old, oldVertex, index) : std::span<const double>();
     const std::string count = std::to_string(values.size());
     if (isOld) {
@@ -142,10 +175,11 @@ void VertexText::addList(std::size_t vertex, std::size_t oldVertex, std::size_t 
     } else {
         m_text.add(countCode(index), count);
     }
-    const Alignment oldIndex{oldValues, values};
+    const Alignment<double> oldIndex(oldValues, values,
+                                     [](double a, double b) { return sameBits(a, b); });
     for (std::size_t i = 0; i < values.size(); ++i) {
-        const std::size_t old = isOld ? oldIndex(i) : MlineLayout::kNone;
-        if (old == MlineLayout::kNone) {
+        const std::size_t old = isOld ? oldIndex(i) : VertexTags::kNone;
+        if (old == VertexTags::kNone) {
             m_text.addReal(valueCode(index), values[i]);
         } else if (sameBits(values[i], oldValues[old])) {
             addOld(list.values[old], nullptr);
@@ -166,28 +200,31 @@ void VertexText::addOld(std::size_t tag, const std::string* value) {
 
 } // namespace
 
-MlineLayout::MlineLayout(const std::vector<Tag>& tags)
-    : m_begin(tags.size()), m_isExtra(tags.size(), true) {
-    MlineParser parser;
+VertexTags::List VertexTags::list(std::size_t index) const {
+    if (index >= m_lists.size()) {
+        return {};
+    }
+    const std::size_t first = m_lists[index].values;
+    const std::size_t last =
+        index + 1 < m_lists.size() ? m_lists[index + 1].values : m_values.size();
+    return {m_lists[index].count, std::span(m_values).subspan(first, last - first)};
+}
+
+MlineLayout::MlineLayout(const TagList& tags)
+    : m_tags(tags), m_begin(tags.size()), m_isExtra(tags.size(), true) {
+    MlineParser parser(MlineParser::Keeps::fieldsOnly);
     parser.begin();
     for (std::size_t i = 1; i < tags.size(); ++i) {
-        const MlineRole role = parser.feed(tags[i]);
+        const Tag tag = tags[i];
+        const MlineRole role = parser.feed(tag);
         m_isExtra[i] = role == MlineRole::extra;
         if (role == MlineRole::extra || role == MlineRole::field) {
             continue;
         }
         m_begin = std::min(m_begin, i);
         m_end = i + 1;
-        if (role == MlineRole::vertex) {
-            if (tags[i].code == kCodes[0]) {
-                m_coordinates.emplace_back().fill(kNone);
-                m_firstLists.push_back(m_lists.size());
-            }
-            m_coordinates.back()[placeOf(tags[i].code)] = i;
-        } else if (role == MlineRole::lineCount || role == MlineRole::areaCount) {
-            m_lists.push_back({i, m_values.size()});
-        } else {
-            m_values.push_back(i);
+        if (role == MlineRole::vertex && tag.code == kCodes[0]) {
+            m_vertices.push_back(i);
         }
     }
     if (m_end == 0) {
@@ -208,23 +245,28 @@ std::size_t MlineLayout::behindExtras(std::size_t tag) const {
     return tag;
 }
 
-MlineLayout::List MlineLayout::list(std::size_t vertex, std::size_t index) const {
-    const std::size_t at = m_firstLists[vertex] + index;
-    const std::size_t end =
-        vertex + 1 < m_firstLists.size() ? m_firstLists[vertex + 1] : m_lists.size();
-    if (at >= end) {
-        return {};
+void MlineLayout::readVertex(std::size_t vertex, VertexTags& result) const {
+    result.m_coordinates.fill(VertexTags::kNone);
+    result.m_lists.clear();
+    result.m_values.clear();
+    for (std::size_t i = vertexBegin(vertex); i < vertexBegin(vertex + 1); ++i) {
+        if (m_isExtra[i]) {
+            continue;
+        }
+        const int code = m_tags[i].code;
+        if (code == countCode(0) || code == countCode(1)) {
+            result.m_lists.push_back({i, result.m_values.size()});
+        } else if (code == valueCode(0) || code == valueCode(1)) {
+            result.m_values.push_back(i);
+        } else {
+            result.m_coordinates[placeOf(code)] = i;
+        }
     }
-    const std::size_t first = m_lists[at].values;
-    const std::size_t last = at + 1 < m_lists.size() ? m_lists[at + 1].values : m_values.size();
-    return {m_lists[at].count, std::span(m_values).subspan(first, last - first)};
 }
 
 void editVertices(RecordEdit& edit, const MlineLayout& layout, const MlineContent& old,
                   const MlineContent& content) {
-    VertexText text(edit, layout, old, content);
-    edit.insertAfter(layout.verticesBegin() - 1, text.run());
-    edit.remove(layout.verticesBegin(), layout.verticesEnd());
+    VertexText(edit, layout, old, content).run();
 }
 
 void writeVertices(TagText& target, const MlineContent& content) {

@@ -7,15 +7,8 @@
 namespace orvex {
 
 RecordEdit::RecordEdit(std::string_view bytes, std::size_t begin, std::size_t end)
-    : m_bytes(bytes), m_begin(begin), m_end(end), m_format(TagFormat::of(bytes, begin)) {
-    const auto lines = std::ranges::count(bytes.substr(begin, end - begin), '\n');
-    m_tags.reserve(static_cast<std::size_t>(lines) / 2 + 1); // a record may have millions
-    TagReader reader(bytes, begin, end);
-    Tag tag;
-    while (reader.next(tag) == TagReader::Result::tag) {
-        m_tags.push_back(tag);
-    }
-}
+    : m_bytes(bytes), m_begin(begin), m_end(end), m_tags(bytes, begin, end),
+      m_format(TagFormat::of(bytes, begin)) {}
 
 void RecordEdit::replace(std::size_t tag, std::string_view value) {
     m_changes[tag].lines = lines(tag, value);
@@ -27,12 +20,17 @@ void RecordEdit::remove(std::size_t from, std::size_t to) {
     }
 }
 
-void RecordEdit::insertAfter(std::size_t tag, std::string_view lines) {
-    m_changes[tag].after += lines;
+void RecordEdit::insertAfter(std::size_t tag, std::string lines) {
+    std::string& after = m_changes[tag].after;
+    if (after.empty()) {
+        after = std::move(lines);
+    } else {
+        after += lines;
+    }
 }
 
 std::string RecordEdit::lines(std::size_t tag, std::string_view value) const {
-    const Tag& old = m_tags[tag];
+    const Tag old = m_tags[tag];
     const auto valueBegin = static_cast<std::size_t>(old.value.data() - m_bytes.data());
     std::string text(m_bytes.substr(old.begin, valueBegin - old.begin));
     const std::size_t width = old.value.starts_with(' ') ? old.value.size() : 0;
@@ -49,7 +47,7 @@ std::string RecordEdit::lines(std::size_t tag, std::string_view value) const {
 }
 
 std::string RecordEdit::lines(std::size_t tag) const {
-    std::string text(m_bytes.substr(m_tags[tag].begin, m_tags[tag].end - m_tags[tag].begin));
+    std::string text(m_tags.lines(tag, tag + 1));
     if (!text.ends_with('\n')) {
         text += m_format.lineEnd;
     }
@@ -98,7 +96,7 @@ std::string RecordEdit::text() const {
     std::size_t next = 0; // the first tag that is neither in `text` nor passed over
     const auto keepUpTo = [&](std::size_t tag) {
         if (next < tag) {
-            text += m_bytes.substr(m_tags[next].begin, m_tags[tag - 1].end - m_tags[next].begin);
+            text += m_tags.lines(next, tag);
             next = tag;
         }
     };
@@ -119,18 +117,6 @@ std::string RecordEdit::text() const {
     }
     keepUpTo(m_tags.size());
     return text;
-}
-
-std::size_t skipGroup(const std::vector<Tag>& tags, std::size_t at) {
-    if (tags[at].code != 102 || !tags[at].value.starts_with('{')) {
-        return at + 1;
-    }
-    for (std::size_t i = at + 1; i < tags.size(); ++i) {
-        if (tags[i].code == 102) {
-            return i + 1;
-        }
-    }
-    return tags.size();
 }
 
 } // namespace orvex

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TagReader.h"
+#include "TagList.h"
 #include "TagText.h"
 
 #include <cstddef>
@@ -8,7 +8,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace orvex {
 
@@ -19,14 +18,14 @@ public:
     // code 0.
     RecordEdit(std::string_view bytes, std::size_t begin, std::size_t end);
 
-    [[nodiscard]] const std::vector<Tag>& tags() const { return m_tags; }
+    [[nodiscard]] const TagList& tags() const { return m_tags; }
     [[nodiscard]] const TagFormat& format() const { return m_format; }
 
     // A number keeps the width that it was padded to.
     void replace(std::size_t tag, std::string_view value);
     void remove(std::size_t tag) { remove(tag, tag + 1); }
     void remove(std::size_t from, std::size_t to); // the tags [from, to)
-    void insertAfter(std::size_t tag, std::string_view lines);
+    void insertAfter(std::size_t tag, std::string lines);
 
     // Brings the fields among the tags [from, to) from what they say to what they should say. A
     // new one goes after the nearest field before it in the list, or after tag from - 1.
@@ -51,12 +50,9 @@ private:
     std::string_view m_bytes;
     std::size_t m_begin;
     std::size_t m_end;
-    std::vector<Tag> m_tags;
+    TagList m_tags;
     TagFormat m_format;
     std::map<std::size_t, Change> m_changes; // by tag
 };
-
-// Behind the group in braces (code 102) that begins at tag `at`; at + 1 for any other tag.
-[[nodiscard]] std::size_t skipGroup(const std::vector<Tag>& tags, std::size_t at);
 
 } // namespace orvex

@@ -190,7 +190,7 @@ Fields elementFields(const RecordContext& context, const StyleElement& element) 
 }
 
 // Tag indices where elements begin, and where the last one ends.
-std::vector<std::size_t> elementBounds(const std::vector<Tag>& tags) {
+std::vector<std::size_t> elementBounds(const TagList& tags) {
     std::vector<std::size_t> bounds;
     std::size_t i = 1;
     for (; i < tags.size() && tags[i].code < 1000; i = skipGroup(tags, i)) {

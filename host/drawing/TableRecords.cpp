@@ -176,7 +176,7 @@ void writeTable(TagText& target, const RecordContext& context, std::string_view 
 std::optional<std::string> editTableCount(std::string_view bytes, const RecordSpan& span,
                                           int present, int added) {
     RecordEdit edit(bytes, span.begin, span.end);
-    const std::vector<Tag>& tags = edit.tags();
+    const TagList& tags = edit.tags();
     for (std::size_t i = 1; i < tags.size(); i = skipGroup(tags, i)) {
         if (tags[i].code == 70 && parseInteger(tags[i].value) == present) {
             edit.replace(i, std::to_string(present + added));

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orvex {
@@ -36,7 +37,7 @@ public:
     void addLines(std::string_view lines) { m_text += lines; }
 
     [[nodiscard]] const TagFormat& format() const { return m_format; }
-    [[nodiscard]] std::string take() { return std::move(m_text); }
+    [[nodiscard]] std::string take() { return std::exchange(m_text, {}); }
     [[nodiscard]] const std::string& text() const { return m_text; }
 
 private:

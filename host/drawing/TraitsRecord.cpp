@@ -70,7 +70,7 @@ EntityTraits readTraits(std::string_view bytes, std::size_t begin, std::size_t e
     return traits;
 }
 
-std::size_t commonPartEnd(const std::vector<Tag>& tags) {
+std::size_t commonPartEnd(const TagList& tags) {
     std::size_t i = 1;
     while (i < tags.size() && !endsCommonPart(tags[i])) {
         i = skipGroup(tags, i);

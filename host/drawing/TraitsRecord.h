@@ -27,7 +27,7 @@ void writeCommonPart(TagText& target, const RecordContext& context, std::string_
                      const EntityTraits* traits, const EntityPlace& place);
 
 // Index of the first tag that is not of the common part.
-[[nodiscard]] std::size_t commonPartEnd(const std::vector<Tag>& tags);
+[[nodiscard]] std::size_t commonPartEnd(const TagList& tags);
 
 // ---- colours: index under 62, true colour under 420, name under 430 ---------------------------
 

@@ -3,6 +3,7 @@
 #include "KdArray.h"
 #include "KdGePoint3d.h"
 #include "KdGeVector3d.h"
+#include "KdMLSegment.h"
 #include "Status.h"
 
 #include <memory>
@@ -35,4 +36,5 @@ private:
     friend class KdDbMline;
     KdDbMline* m_mline; // not owned
     std::shared_ptr<orvex::MlineContent> m_content;
+    VoVector<KdMLSegment> m_lent; // what getParametersAt gave last
 };
