@@ -64,6 +64,22 @@ Miter storedOrStyleMiter(const KdGeVector3d& stored, const VertexFrame& frame,
     return {stored, sine};
 }
 
+// Whether elements lie rather on the other side of a vertex than the one that is called left.
+bool areMirrored(const MlineContent& mline, unsigned v, const KdGeVector3d& left,
+                 std::span<const double> distances) {
+    const double sine = dot(left, mline.vertices[v].miter);
+    double fromLeft = 0.0;
+    double fromRight = 0.0;
+    for (unsigned e = 0; e < std::min<std::size_t>(mline.lists.elementCount(v), distances.size());
+         ++e) {
+        const auto line = mline.lists.line(v, e);
+        const double stored = line.empty() ? 0.0 : line.front() * sine;
+        fromLeft += std::abs(stored - distances[e]);
+        fromRight += std::abs(stored + distances[e]);
+    }
+    return fromRight < fromLeft;
+}
+
 } // namespace
 
 bool isFinite(const MlineContent& mline) {
@@ -121,6 +137,11 @@ Result<ChainFrame> chainFrameOf(const MlineContent& mline, const StyleLayout& st
                        ? storedOrStyleMiter(mline.vertices[v].miter, at, mline.normal,
                                             isStart ? style.startAngle : style.endAngle)
                        : jointMiter(axes[before], axes[v], mline.normal);
+        if (!isStart && !isEnd && turnsStraightBack(axes[before], axes[v], mline.normal) &&
+            areMirrored(mline, v, at.left, frame.distances)) {
+            at.left = leftOf(axes[before], mline.normal);
+            at.miter.direction = at.left;
+        }
     }
     if (const auto objection = objectionTo(mline, frame)) {
         return impossible(*objection);

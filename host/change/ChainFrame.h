@@ -12,7 +12,9 @@ namespace orvex {
 // What its chain asks of a vertex.
 struct VertexFrame {
     KdGeVector3d axis; // unit; at the last vertex of an open chain of the segment before
-    KdGeVector3d left; // unit, square to it
+    // Unit, square to it. Where the chain turns straight back, the left of the one segment is the
+    // right of the other: it is that of the segment before where the elements are stored like that.
+    KdGeVector3d left;
     // That the elements' positions should lie on: halves the angle, at an open end as stored. An
     // end whose stored one lies along the segment has the style's.
     Miter miter;

@@ -28,15 +28,20 @@ Miter endMiter(const KdGeVector3d& axis, const KdGeVector3d& normal, double angl
     return {axis * cosine + left * sine, sine};
 }
 
+bool turnsStraightBack(const KdGeVector3d& incoming, const KdGeVector3d& outgoing,
+                       const KdGeVector3d& normal) {
+    return (leftOf(incoming, normal) + leftOf(outgoing, normal)).isZeroLength();
+}
+
 // The sum of both left sides is the long diagonal of a rhombus: it halves the angle, and half its
 // length is the sine of the angle between miter and axis.
 Miter jointMiter(const KdGeVector3d& incoming, const KdGeVector3d& outgoing,
                  const KdGeVector3d& normal) {
-    KdGeVector3d sum = leftOf(incoming, normal) + leftOf(outgoing, normal);
-    const double length = sum.length();
-    if (sum.isZeroLength()) { // straight back
+    if (turnsStraightBack(incoming, outgoing, normal)) {
         return {leftOf(outgoing, normal), 1.0};
     }
+    const KdGeVector3d sum = leftOf(incoming, normal) + leftOf(outgoing, normal);
+    const double length = sum.length();
     return {{sum.x / length, sum.y / length, sum.z / length}, length / 2.0};
 }
 

@@ -29,6 +29,10 @@ struct Miter {
 // there is no end.
 [[nodiscard]] Miter endMiter(const KdGeVector3d& axis, const KdGeVector3d& normal, double angle);
 
+// Whether the second segment runs along the first, against it.
+[[nodiscard]] bool turnsStraightBack(const KdGeVector3d& incoming, const KdGeVector3d& outgoing,
+                                     const KdGeVector3d& normal);
+
 // Between two segments: it halves the angle. Where the chain turns straight back, it is square to
 // the outgoing one.
 [[nodiscard]] Miter jointMiter(const KdGeVector3d& incoming, const KdGeVector3d& outgoing,

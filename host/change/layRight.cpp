@@ -112,6 +112,18 @@ void turnEnds(MlineContent& changed, const ChainFrame& before) {
     }
 }
 
+// Elements that change their distances stay on their side where the chain turns straight back.
+void keepSides(ChainFrame& frame, const ChainFrame& before) {
+    for (std::size_t v = 0; v < frame.vertices.size(); ++v) {
+        VertexFrame& fresh = frame.vertices[v];
+        const VertexFrame& was = before.vertices[v];
+        if (dot(fresh.axis, was.axis) > 0.0 && dot(fresh.left, was.left) < 0.0) {
+            fresh.left = KdGeVector3d() - fresh.left;
+            fresh.miter.direction = fresh.left;
+        }
+    }
+}
+
 bool isSameTrack(const MlineTrack& a, const MlineTrack& b) {
     return a.start == b.start && a.end == b.end;
 }
@@ -206,10 +218,11 @@ Result<MlineContent> laidAnew(MlineContent changed, const MlineContent& old,
         return oldFrame.failure();
     }
     turnEnds(changed, *oldFrame);
-    const Result<ChainFrame> frame = chainFrameOf(changed, style);
+    Result<ChainFrame> frame = chainFrameOf(changed, style);
     if (!frame) {
         return frame.failure();
     }
+    keepSides(*frame, *oldFrame);
     layDirections(changed, *frame);
     layPositions(changed, old, *frame, *oldFrame, true);
     layBreaks(changed, old, shifts, measure);

@@ -33,7 +33,8 @@ public:
         return layout;
     }
 
-    MlineContent mline(const StyleLayout& style) {
+    // With a spur, a closed one turns straight back once.
+    MlineContent mline(const StyleLayout& style, bool hasSpur = false) {
         MlineSettings settings;
         static_cast<StyleLayout&>(settings) = style;
         settings.scale = between(-3.0, 3.0);
@@ -43,8 +44,11 @@ public:
         content.justification = settings.justification;
         content.closed = upTo(2) == 0;
         content.normal = normal();
-        const NewChain chain = makeNewChain(points(content.closed, content.normal), content.closed,
-                                            content.normal, settings);
+        std::vector<KdGePoint3d> way = points(content.closed, content.normal);
+        if (hasSpur && content.closed) {
+            way.insert(way.begin() + 2, {way[1] + (way[1] - way[0]) * 0.5, way[1]});
+        }
+        const NewChain chain = makeNewChain(way, content.closed, content.normal, settings);
         content.vertices = chain.vertices;
         for (unsigned v = 0; v < chain.vertices.size(); ++v) {
             VoVector<KdMLSegment> record;
@@ -129,12 +133,12 @@ private:
 
 // 2000 of them, each with its style, until a check fails.
 template <class Check>
-void forRandomMlines(unsigned seed, Check&& check) {
+void forRandomMlines(unsigned seed, Check&& check, bool haveSpurs = false) {
     RandomMline random(seed);
     for (unsigned i = 0; i < 2000 && !::testing::Test::HasFatalFailure(); ++i) {
         SCOPED_TRACE(i);
         const StyleLayout style = random.style();
-        const MlineContent mline = random.mline(style);
+        const MlineContent mline = random.mline(style, haveSpurs && i % 2 == 0);
         check(random, mline, style);
     }
 }

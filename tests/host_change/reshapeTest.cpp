@@ -18,7 +18,8 @@ bool isBefore(const KdGePoint3d& a, const KdGePoint3d& b) {
 
 TEST(Reverse, looksTheSameAndLeadsBack) {
     forRandomMlines(
-        31, [&](RandomMline& /*random*/, const MlineContent& mline, const StyleLayout& style) {
+        31,
+        [&](RandomMline& /*random*/, const MlineContent& mline, const StyleLayout& style) {
             const auto turned = reversed(mline);
             ASSERT_TRUE(turned);
             ASSERT_THAT(auditMline(*turned, &style), ::testing::IsEmpty());
@@ -30,7 +31,8 @@ TEST(Reverse, looksTheSameAndLeadsBack) {
             std::sort(is.begin(), is.end(), isBefore);
             ASSERT_LT(farthest(was, is), 1e-9);
             ASSERT_LT(farthest(drawnPlaces(*reversed(*turned)), drawnPlaces(mline)), 1e-9);
-        });
+        },
+        true);
 }
 
 // Gaps go with segments of which both vertices go; along all others they stay where they are.
