@@ -179,8 +179,9 @@ private:
         }
         const std::size_t at = *m_around.previous;
         const double turn = angleOf(m_chain.miters[at]) - angleOf(m_chain.axes[at]);
+        VertexParameters& lists = listsOf(at);
         for (int k = 0; k < m_elements; ++k) {
-            setLineList(at, k, unbrokenList(offsetOf(k), turn));
+            setLineList(lists, k, unbrokenList(offsetOf(k), turn));
         }
     }
 
@@ -191,15 +192,17 @@ private:
         }
         const std::size_t at = *m_around.next;
         const double turn = angleOf(m_chain.axes[at]) + kPi - angleOf(m_chain.miters[at]);
+        VertexParameters& lists = listsOf(at);
         for (int k = 0; k < m_elements; ++k) {
-            std::vector<double> list = lineListAt(at, k);
+            const VoVector<double>& values = std::as_const(lists).at(k).m_lineParams;
+            std::vector<double> list(values.begin(), values.end());
             if (!list.empty()) {
                 list[0] = alongMiter(offsetOf(k), turn);
                 if (m_around.afterNext) {
                     followStart(list, at, k);
                 }
             }
-            setLineList(at, k, list);
+            setLineList(lists, k, list);
         }
     }
 
@@ -232,20 +235,22 @@ private:
         }
         return found->second;
     }
-    [[nodiscard]] std::vector<double> lineListAt(std::size_t column, int k) {
-        const VoVector<double>& values = std::as_const(listsOf(column)).at(k).m_lineParams;
-        return {values.begin(), values.end()};
-    }
-    void setLineList(std::size_t column, int k, const std::vector<double>& list) {
-        VoVector<double> fresh(static_cast<unsigned>(list.size()));
-        std::copy(list.begin(), list.end(), fresh.data());
-        listsOf(column).at(k).m_lineParams = fresh;
+    static void setLineList(VertexParameters& lists, int k, const std::vector<double>& list) {
+        VoVector<double>& present = lists.at(k).m_lineParams;
+        if (present.size() != list.size()) {
+            present = VoVector<double>(static_cast<unsigned>(list.size()));
+        }
+        std::copy(list.begin(), list.end(), present.data());
     }
 
     // Where the elements pass a vertex that was turned.
     void placeElements(std::optional<std::size_t> column) {
-        for (int k = 0; column && k < m_elements; ++k) {
-            const VoVector<double>& list = std::as_const(listsOf(*column)).at(k).m_lineParams;
+        if (!column) {
+            return;
+        }
+        const VertexParameters& lists = listsOf(*column);
+        for (int k = 0; k < m_elements; ++k) {
+            const VoVector<double>& list = lists.at(k).m_lineParams;
             const double offset = list.isEmpty() ? 0.0 : list.at(0);
             for (std::size_t i = 0; i < 3; ++i) {
                 m_positions[k][*column][i] =

@@ -111,6 +111,17 @@ std::shared_ptr<MlineContent> contentOf(const RecordContext& context, MlineParse
     return content;
 }
 
+// What the parser has read; null where it contradicts itself.
+std::shared_ptr<MlineContent> finished(const RecordContext& context, const RecordSpan& span,
+                                       MlineParser& parser) {
+    if (parser.finish()) {
+        return nullptr;
+    }
+    auto content = contentOf(context, parser);
+    content->traits = shareTraits(readTraits(context.bytes, span.begin, span.end, context.text));
+    return content;
+}
+
 // Some fields keep what the file says: without vertices nothing says the elements and the start,
 // and neither name nor handle of a style is judged as long as it is the same style.
 void keepFileFields(Fields& before, Fields& after, const MlineContent& old,
@@ -141,31 +152,26 @@ std::shared_ptr<MlineContent> readMline(const RecordContext& context, const Reco
     while (reader.next(tag) == TagReader::Result::tag) {
         parser.feed(tag);
     }
-    if (parser.finish()) {
-        return nullptr;
-    }
-    auto content = contentOf(context, parser);
-    content->traits = shareTraits(readTraits(context.bytes, span.begin, span.end, context.text));
-    return content;
+    return finished(context, span, parser);
 }
 
 std::optional<std::string> editMline(const RecordContext& context, const RecordSpan& span,
                                      const MlineContent& content) {
     MlineParser parser;
-    const std::shared_ptr<MlineContent> old = readMline(context, span, parser);
+    RecordEdit edit(context.bytes, span.begin, span.end);
+    const MlineLayout layout(edit.tags(), parser);
+    const std::shared_ptr<MlineContent> old = finished(context, span, parser);
     if (old == nullptr || old->equals(content)) {
         return std::nullopt;
     }
     if (content.style != old->style) {
         ensureHandle(context, content.style);
     }
-    RecordEdit edit(context.bytes, span.begin, span.end);
     const std::size_t commonEnd = commonPartEnd(edit.tags());
     const EntityTraits& traits = content.traits != nullptr ? *content.traits : *old->traits;
     edit.apply(traitsFields(*old->traits, context.text), traitsFields(traits, context.text), 1,
                commonEnd);
 
-    const MlineLayout layout(edit.tags());
     const std::size_t fieldsEnd = layout.verticesBegin();
     Fields before = mlineFields(context, *old, parser.flags);
     Fields after = mlineFields(context, content, parser.flags);

@@ -210,10 +210,9 @@ VertexTags::List VertexTags::list(std::size_t index) const {
     return {m_lists[index].count, std::span(m_values).subspan(first, last - first)};
 }
 
-MlineLayout::MlineLayout(const TagList& tags)
+MlineLayout::MlineLayout(const TagList& tags, MlineParser& parser)
     : m_tags(tags), m_begin(tags.size()), m_isExtra(tags.size(), true) {
-    MlineParser parser(MlineParser::Keeps::fieldsOnly);
-    parser.begin();
+    parser.begin(tags.lines(0, tags.size()).size());
     for (std::size_t i = 1; i < tags.size(); ++i) {
         const Tag tag = tags[i];
         const MlineRole role = parser.feed(tag);

@@ -11,6 +11,8 @@
 
 namespace orvex {
 
+class MlineParser;
+
 // Where a vertex and its lists have their tags in a multiline's record.
 class VertexTags {
 public:
@@ -40,8 +42,9 @@ private:
 // Where in a multiline's record its vertices have their tags.
 class MlineLayout {
 public:
-    // Of a record that doesn't contradict itself. The tags have to outlive the layout.
-    explicit MlineLayout(const TagList& tags);
+    // Of a record that doesn't contradict itself, which the parser finds out by the way: it reads
+    // the record. The tags have to outlive the layout.
+    MlineLayout(const TagList& tags, MlineParser& parser);
 
     // The tags of the first vertex up to the last list; equal when there are none.
     [[nodiscard]] std::size_t verticesBegin() const { return m_begin; }
