@@ -77,10 +77,13 @@ protected:
     Step openPlan() {
         return [this] { window->open(QString::fromStdString(plan.string())); };
     }
-    // A line with Enter, typed where the focus is not.
-    Step type(const QString& line) {
-        return [this, line] {
-            for (const QChar each : line) {
+    // Lines with Enter, typed where the focus is not.
+    Step type(const QString& text) {
+        return [this, text] {
+            if (text.contains('\n')) {
+                steps.push_front(type(text.section('\n', 1)));
+            }
+            for (const QChar each : text.section('\n', 0, 0)) {
                 if (each == ' ') { // a blank is Enter at most questions
                     input().insert(" ");
                 } else {
@@ -89,13 +92,6 @@ protected:
             }
             QTest::keyClick(&input(), Qt::Key_Return);
         };
-    }
-    std::deque<Step> lines(const QString& text) {
-        std::deque<Step> all;
-        for (const QString& line : text.split('\n')) {
-            all.push_back(type(line));
-        }
-        return all;
     }
     // Any change of the drawing.
     Step edit() {

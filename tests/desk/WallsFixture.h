@@ -8,12 +8,12 @@ namespace orvex::testing {
 class WallsFixture : public DeskFixture {
 protected:
     void playOnWalls(std::deque<Step> then) {
-        play(joined({{trigger("new")},
-                     lines("MLINE\nS\n20\n0,0\n400,0\n\n"
+        play(joined({{trigger("new"),
+                      type("MLINE\nS\n20\n0,0\n400,0\n\n"
                            "MLINE\n100,-100\n100,100\n\n"
                            "MLINE\n300,100\n300,4\n\n"
                            "MLINE\n600,0\n700,0\n\nMLINE\n600,0\n700,0\n"),
-                     {[this] { showPlan(); }},
+                      [this] { showPlan(); }},
                      std::move(then)}));
     }
     void showPlan() {

@@ -13,19 +13,16 @@ TEST_F(DeskFixture, anAnswerThatFitsNoQuestionIsToldAndAskedAgain) {
     play({
         type("nonsense"),
         [this] { EXPECT_THAT(lastLine().toStdString(), ::testing::HasSubstr("no command")); },
-        type("-MLEDIT"),
-        type("XX"),
+        type("-MLEDIT\nXX"),
         [this] {
             EXPECT_THAT(lastLine().toStdString(), ::testing::HasSubstr("'XX' is not a keyword"));
             EXPECT_TRUE(prompt().startsWith("Enter an editing tool"));
         },
         key(Qt::Key_Escape),
-        type("MLINE"),
-        type("5;5"),
+        type("MLINE\n5;5"),
         [this] { EXPECT_THAT(history().toStdString(), ::testing::HasSubstr("/LAyer]: 5;5\n")); },
         key(Qt::Key_Escape),
-        type("SETVAR"),
-        type("NOTHING"),
+        type("SETVAR\nNOTHING"),
         [this] {
             EXPECT_EQ(lastLine(), "There is no variable 'NOTHING'");
             EXPECT_EQ(prompt(), "Command:");
@@ -41,8 +38,7 @@ TEST_F(DeskFixture, blanksAreTypedWhereATextOrAHandleIsAsked) {
             EXPECT_EQ(input().text(), "a b");
         },
         key(Qt::Key_Escape),
-        type("-MLEDIT"),
-        type("CC"),
+        type("-MLEDIT\nCC"),
         [this] {
             QTest::keyClicks(&input(), "1,2 #3");
             EXPECT_EQ(input().text(), "1,2 #3");
@@ -71,9 +67,7 @@ TEST_F(DeskFixture, keysOfMenusWorkFromTheCommandLine) {
     QString menu;
     play({
         openPlan(),
-        type("MLINE"),
-        type("0,0"),
-        type("1000,0"),
+        type("MLINE\n0,0\n1000,0"),
         key(Qt::Key_Return),
         [this] { QTest::keyClick(&input(), Qt::Key_Z, Qt::ControlModifier); },
         [this] { EXPECT_FALSE(window->isWindowModified()); },
@@ -115,8 +109,7 @@ TEST_F(DeskFixture, namesAreCompletedAndFormerInputsFetched) {
             EXPECT_EQ(input().text(), "-MLEDIT");
             input().clear();
         },
-        type("ZOOM"),
-        type("E"),
+        type("ZOOM\nE"),
         [this] {
             QTest::keyClick(&input(), Qt::Key_Up);
             QTest::keyClick(&input(), Qt::Key_Up);

@@ -91,9 +91,7 @@ TEST_F(DrawBarFixture, aHiddenLayerCantBeChosenAndALockedOneCan) {
 TEST_F(DrawBarFixture, aWrongStyleNameListsThoseThereAreAndTabCompletesOne) {
     play({
         openPlan(),
-        type("MLINE"),
-        type("ST"),
-        type("nothing"),
+        type("MLINE\nST\nnothing"),
         [this] {
             EXPECT_THAT(history().toStdString(),
                         ::testing::ContainsRegex("no style 'nothing'; there are .*CAVITY300"));

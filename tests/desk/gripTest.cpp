@@ -132,8 +132,7 @@ TEST_F(GripFixture, thePanelChangesAllThatIsSelected) {
 TEST_F(GripFixture, movingCommandsShowWhatTheyMove) {
     playOnWalls({
         clickAt(200, 0),
-        type("ROTATE"),
-        type("0,0"),
+        type("ROTATE\n0,0"),
         [this] {
             const Aim& aim = canvas()->aim();
             ASSERT_EQ(aim.kind, AimKind::point);
@@ -144,8 +143,7 @@ TEST_F(GripFixture, movingCommandsShowWhatTheyMove) {
         },
         clickAt(0, 200),
         trigger("selectPrevious"),
-        type("MIRROR"),
-        type("50,0"),
+        type("MIRROR\n50,0"),
         [this] {
             EXPECT_FALSE(canvas()->aim().group.map({50, 0}));
             EXPECT_TRUE(canvas()->aim().group.map({50, 10}));

@@ -28,8 +28,7 @@ TEST_F(DeskFixture, theHelpOpensAtTheToolThatRunsAndIsSearchedThroughAllPages) {
     play({
         trigger("help"),
         [&] { EXPECT_EQ(browser->source(), helpAddress(helpPages().front())); },
-        type("-mledit"),
-        type("ot"),
+        type("-mledit\not"),
         trigger("help"),
         [&] {
             EXPECT_THAT(place().toStdString(), ::testing::StartsWith("OT "));

@@ -46,8 +46,7 @@ TEST_F(History, isSavedAsAScript) {
     playOnWalls({
         type("MOVE"),
         clickAt(200, 0),
-        type(""),
-        type("0,0"),
+        type("\n0,0"),
         type("nonsense"), // isn't answered
         type("@0,7"),
         trigger("undo"),
@@ -65,12 +64,10 @@ TEST_F(History, aNewDrawingHasRoomForAHouseAndExtentsHaveWhatIsDrawn) {
     play({
         trigger("new"),
         [&] { EXPECT_GE(height(), 297 * 50); },
-        type("MLINE"),
-        type("0,0"),
+        type("MLINE\n0,0"),
         trigger("zoomExtents"),
         [&] { EXPECT_GE(height(), 297 * 50); },
-        type("90000,0"),
-        type("90000,70000"),
+        type("90000,0\n90000,70000"),
         trigger("zoomExtents"),
         [&] {
             EXPECT_GE(height(), 70000);
@@ -91,11 +88,9 @@ TEST_F(History, pointsComeOutRoundWhereOnlyRoundingPartsThemFromIt) {
         look({0, 0}, 1000),
         trigger("ortho"),
         trigger("snap"),
-        type("MLINE"),
-        type("120.35,0"),
+        type("MLINE\n120.35,0"),
         hover(300, 0),
-        type("244.65"),
-        type(""),
+        type("244.65\n"),
     });
     EXPECT_THAT(script(), ::testing::HasSubstr("\n365,0\n"));
     makeWindow(); // remembers

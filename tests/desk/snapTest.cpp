@@ -20,11 +20,11 @@ protected:
     // Two multilines, 20 wide, in an empty part of the plan, with ends that aren't short in
     // decimals. A pixel is less than a unit.
     void playAfterWalls(std::deque<Step> then) {
-        play(joined({{openPlan()},
-                     lines("zoom\nc\n-5000,-5000\n400\nmline\nst\nstandard\ns\n20\nj\nz\n"
-                           "-5000.1,-5000.300000000001\n-4900,-5000.300000000001\n\n"
-                           "mline\n-5000.1,-4800\n-4900,-4700\n"),
-                     std::move(then)}));
+        play(joined(
+            {{openPlan(), type("zoom\nc\n-5000,-5000\n400\nmline\nst\nstandard\ns\n20\nj\nz\n"
+                               "-5000.1,-5000.300000000001\n-4900,-5000.300000000001\n\n"
+                               "mline\n-5000.1,-4800\n-4900,-4700\n")},
+             std::move(then)}));
     }
     [[nodiscard]] QString given() const { return lastLine().section(": ", -1); }
     [[nodiscard]] bool isChecked(const char* action) const {
@@ -53,8 +53,7 @@ TEST_F(SnapFixture, snappedPointsAreGivenInFullAndPlayTheSameBytes) {
 
 TEST_F(SnapFixture, aWordHoldsForTheNextPointAndGoesWithEscapeFirst) {
     playAfterWalls({
-        type("mline"),
-        type("mid"),
+        type("mline\nmid"),
         [this] { EXPECT_EQ(word(), "MID"); },
         key(Qt::Key_Escape),
         [this] {
@@ -103,8 +102,7 @@ TEST_F(SnapFixture, switchModesAndStepAreKept) {
             EXPECT_TRUE(isChecked("step30"));
             EXPECT_TRUE(isChecked("polar"));
         },
-        type("snap"),
-        type("all"),
+        type("snap\nall"),
         [this] {
             EXPECT_TRUE(isChecked("snap"));
             EXPECT_TRUE(isChecked("snapEND"));
@@ -114,8 +112,7 @@ TEST_F(SnapFixture, switchModesAndStepAreKept) {
 
 TEST_F(SnapFixture, directionsKeepPointsOnRaysUnlessATargetWins) {
     playAfterWalls({
-        type("mline"),
-        type("-5000.1,-4900.7"),
+        type("mline\n-5000.1,-4900.7"),
         trigger("ortho"),
         clickBeside(-4930, -4913, {0, 0}),
         [this] { EXPECT_EQ(given().section(',', 1), "-4900.7") << "level with its base"; },
@@ -140,11 +137,7 @@ TEST_F(SnapFixture, directionsKeepPointsOnRaysUnlessATargetWins) {
 
 TEST_F(SnapFixture, theKeyboardAloneMovesTheCrossAndClicks) {
     playAfterWalls({
-        type("zoom"),
-        type("c"),
-        type("-5000.1,-4900"),
-        type("400"),
-        type("mline"),
+        type("zoom\nc\n-5000.1,-4900\n400\nmline"),
         [this] { QApplication::setActiveWindow(window.get()); },
         trigger("nextArea"),
         [this] {

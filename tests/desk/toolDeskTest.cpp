@@ -17,8 +17,8 @@ class ToolDeskTest : public DeskFixture {
 protected:
     // Two walls of 100 by 20 that cross, in a new drawing; the second lies there twice.
     void playOnWalls(std::deque<Step> then) {
-        play(joined({lines("MLINE\ns\n20\nj\nz\n0,0\n100,0\n\nMLINE\n50,-50\n50,50\n\n"
-                           "MLINE\n50,-50\n50,50\n\nZOOM\nc\n50,0\n200"),
+        play(joined({{type("MLINE\ns\n20\nj\nz\n0,0\n100,0\n\nMLINE\n50,-50\n50,50\n\n"
+                           "MLINE\n50,-50\n50,50\n\nZOOM\nc\n50,0\n200")},
                      std::move(then)}));
     }
     // As long as it takes the mouse to be at rest, and a step more, so that timers come first.

@@ -66,10 +66,7 @@ TEST_F(UndoInWindow, endsWhatIsNearestAndNeverWhatWasFinishedBeforeTheCommand) {
             window->findChild<UndoDesk*>()->addHold([&] { return std::exchange(isHeld, false); });
         },
         // In a chain: the window, what is held, the points, at last the command.
-        type("MLINE"),
-        type("0,20"),
-        type("50,20"),
-        type("50,40"),
+        type("MLINE\n0,20\n50,20\n50,40"),
         [&] { isHeld = true; },
         trigger("zoomWindow"),
         expectPrompt("(first corner of the zoom window)"),
@@ -96,14 +93,12 @@ TEST_F(UndoInWindow, endsWhatIsNearestAndNeverWhatWasFinishedBeforeTheCommand) {
         expectPrompt("Command:"),
         expectState(0),
         // At other questions the command goes and nothing else, whichever way one asks for it.
-        type("MOVE"),
-        type("U"),
+        type("MOVE\nU"),
         expectPrompt("Command:"),
         type("-MLEDIT"),
         [this] { QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier); },
         expectPrompt("Command:"),
-        type("-MLEDIT"),
-        type("OT"),
+        type("-MLEDIT\nOT"),
         trigger("redo"),
         expectPrompt(firstPick),
         trigger("undo"),
@@ -183,13 +178,9 @@ TEST_F(UndoInWindow, aRefusedPickOfTheCornerJointLeadsNowhereElse) {
         [this] {
             window->start("MLINE", {"300,0", "350,0", "350,50", "C"});
         },
-        type("ZOOM"),
-        type("E"),
-        type("-MLEDIT"),
-        type("CJ"),
+        type("ZOOM\nE\n-MLEDIT\nCJ"),
         note(),
-        type("25,0"),
-        type("60,40"),
+        type("25,0\n60,40"),
         note(),
         type("225,0"),
         type("325,0"), // closed
@@ -203,8 +194,7 @@ TEST_F(UndoInWindow, aRefusedPickOfTheCornerJointLeadsNowhereElse) {
         trigger("redo"),
         expectState(1),
         trigger("undo"),
-        type("25,0"),
-        type("60,40"),
+        type("25,0\n60,40"),
         key(Qt::Key_Return),
         expectState(1),
         trigger("undo"), // the one run of the tool that the user knows of
@@ -216,19 +206,14 @@ TEST_F(UndoInWindow, aFirstPickIsDroppedAndTheCommandLineStaysAScript) {
     play({
         openPlan(),
         note(),
-        type("-MLEDIT"),
-        type("CA"),
-        type("2200,0 #7A"),
-        type("4210,0 #7A"),
+        type("-MLEDIT\nCA\n2200,0 #7A\n4210,0 #7A"),
         note(),
         type("5000,0 #7A"),
         trigger("undo"),
         expectState(1),
-        type("6500,0 #7A"),
-        type("7510,0 #7A"),
+        type("6500,0 #7A\n7510,0 #7A"),
         note(),
-        type("8500,0 #7A"),
-        type("9000,0 #7A"),
+        type("8500,0 #7A\n9000,0 #7A"),
         trigger("undo"),
         expectState(2),
         key(Qt::Key_Return),
@@ -237,20 +222,15 @@ TEST_F(UndoInWindow, aFirstPickIsDroppedAndTheCommandLineStaysAScript) {
         expectState(0),
         trigger("redo"),
         expectState(2),
-        type("MLINE"),
-        type("0,0"),
-        type("1000,0"),
+        type("MLINE\n0,0\n1000,0"),
         trigger("undo"),
         type("2000,0"),
         key(Qt::Key_Escape), // keeps what was confirmed
         note(),
-        type("MLINE"),
-        type("0,500"),
+        type("MLINE\n0,500"),
         key(Qt::Key_Escape), // one point is nothing
         expectState(3),
-        type("MLINE"),
-        type("0,700"),
-        type("900,700"),
+        type("MLINE\n0,700\n900,700"),
         trigger("save"), // ends the chain likewise
         expectPrompt("Command:"),
     });
@@ -262,9 +242,7 @@ TEST_F(UndoInWindow, aFirstPickIsDroppedAndTheCommandLineStaysAScript) {
 TEST_F(UndoInWindow, theQuestionAboutChangesLeavesTheCommandRunning) {
     play({
         openPlan(),
-        type("MLINE"),
-        type("0,0"),
-        type("1000,0"),
+        type("MLINE\n0,0\n1000,0"),
         trigger("new"), // the chain is no change yet, but will be one
         answer(QMessageBox::Cancel),
         expectPrompt("Next point"),
