@@ -254,6 +254,12 @@ TEST(NewObjects, areWrittenInFullWhereThereIsNothing) {
         "0 MLINESTYLE\n5 7\n" + owned + "2 STANDARD\n" + usual + "0 MLINESTYLE\n5 1\n" + owned +
         "2 Zaun\n" + usual + "0 ENDSEC\n0 EOF";
     EXPECT_TRUE(sameText(file->bytes(), dxf(expected)));
+
+    const auto again = openDrawing(dxf(expected));
+    DatabaseCore& core = again->database().core();
+    auto* const hidden = core.load(*core.wellKnown().findLayer(L"Hidden"));
+    ASSERT_NE(hidden, nullptr);
+    EXPECT_TRUE(dynamic_cast<KdDbLayerTableRecord&>(*hidden).isFrozen());
 }
 
 // Readers take the first object for the root of all, also where that place's own object is changed.
