@@ -53,6 +53,15 @@ def rows(page):
     return [table.count("\n|") for table in re.findall(r"(?:^\|.*\n)+", page.read_text(encoding="utf-8"), re.M)]
 
 
+def figures(page):
+    """The numbers of each row, whichever way their thousands are parted."""
+    return [sorted(re.sub(r"\D", "", number) for number in re.findall(r"\d+(?:[,\u202f\u00a0]\d{3})*(?:\.\d+)?", row))
+            for row in re.findall(r"^\|.*$", page.read_text(encoding="utf-8"), re.M)]
+
+
+if figures(source / "docs/limits.md") != figures(source / "docs/de/limits.md"):
+    faults.append("docs/de/limits.md has other figures than in English")
+
 # Peculiarities of a caption go with the caption.
 for page in [*source.glob("docs/*/*.md"), *source.glob("docs/help/*/*.md")]:
     english = page.parent.parent / page.name
