@@ -75,8 +75,8 @@ void ChangeLog::tellFeeds(KdDbStub& stub) {
 
 void ChangeLog::beginCommand(std::wstring name) {
     if (!m_inCommand) {
+        m_undo->begin(std::move(name)); // may find no memory
         m_inCommand = true;
-        m_undo->begin(std::move(name));
     }
 }
 

@@ -33,8 +33,15 @@ std::optional<HeaderValue> StateImages::valueOf(std::string_view name) const {
 }
 
 void StateImages::keepImage(Image image) {
-    if (m_kept.insert(image.stub).second) {
+    const auto [place, isNew] = m_kept.insert(image.stub);
+    if (!isNew) {
+        return;
+    }
+    try {
         m_images.push_back(std::move(image));
+    } catch (...) {
+        m_kept.erase(place);
+        throw;
     }
 }
 
