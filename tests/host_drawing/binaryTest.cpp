@@ -109,7 +109,7 @@ TEST(BinaryForm, staysOrIsRefusedWhenDamaged) {
         const std::string ones = code + std::string(whole.size() - 2, '\xFF');
         const std::string zeros = code + std::string(whole.size() - 2, '\0');
         for (const std::string& other : {std::string(), whole + whole, ones, zeros, code}) {
-            const std::string damaged = before + other + after;
+            const std::string damaged = std::string(before).append(other).append(after);
             const auto file = DrawingFile::openBytes(damaged);
             if (file) {
                 ++opened;
