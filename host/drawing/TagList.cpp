@@ -1,11 +1,13 @@
 #include "TagList.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace orvex {
 
 TagList::TagList(std::string_view bytes, std::size_t begin, std::size_t end)
     : m_bytes(bytes), m_end(end), m_tagsEnd(begin) {
+    assert(bytes.data() != nullptr);
     const auto lines = std::ranges::count(bytes.substr(begin, end - begin), '\n');
     m_begins.reserve(static_cast<std::size_t>(lines) / 2 + 1);
     TagReader reader(bytes, begin, end);
