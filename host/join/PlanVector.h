@@ -9,7 +9,12 @@ struct PlanVector {
     double x = 0.0;
     double y = 0.0;
 
-    [[nodiscard]] double length() const { return std::hypot(x, y); }
+    // A square root is the same on every machine, while the last bit of hypot depends on its
+    // library; that is left to what would overflow or vanish.
+    [[nodiscard]] double length() const {
+        const double squares = x * x + y * y;
+        return std::isnormal(squares) ? std::sqrt(squares) : std::hypot(x, y);
+    }
     // Turned by a quarter to the left.
     [[nodiscard]] PlanVector left() const { return {-y, x}; }
 
