@@ -18,6 +18,7 @@
 #include "partlyDrawnText.h"
 #include "questionLine.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -328,12 +329,16 @@ void MainWindow::enterLine(const QString& line) {
         if (!m_snap->takeWord(line)) {
             m_prompts.answerText(line);
         }
-    } else if (!m_runner.isBusy()) { // else a dialog of a command is open
-        if (line.isEmpty()) {
-            m_runner.repeat();
-        } else {
-            start(line);
+    } else if (m_runner.isBusy() || m_runner.isAwaited()) {
+        // Before it asks, a command may have to look through a large drawing.
+        const bool isUnderDialog = QApplication::activeModalWidget() != nullptr;
+        if (!isUnderDialog && (!line.isEmpty() || m_pasted->isPlaying())) {
+            m_pasted->play({line});
         }
+    } else if (line.isEmpty()) {
+        m_runner.repeat();
+    } else {
+        start(line);
     }
 }
 

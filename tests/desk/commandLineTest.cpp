@@ -162,6 +162,19 @@ TEST_F(DeskFixture, pastedLinesPlayAfterEnterUntilOneFails) {
     });
 }
 
+TEST_F(DeskFixture, whatIsTypedBeforeACommandAsksAnswersIt) {
+    play({
+        [this] {
+            for (const char* const line : {"MLINE", "0,0", "1000,0", ""}) {
+                input().setText(line);
+                QTest::keyClick(&input(), Qt::Key_Return);
+            }
+        },
+        until([this] { return prompt() == "Command:" && history().contains(": 1000,0\n"); }),
+    });
+    EXPECT_EQ(script(), "MLINE\n0,0\n1000,0\n\n");
+}
+
 TEST(InputHistory, keepsTheLineThatWasBeingTypedAndStaysAtItsEnds) {
     InputHistory history;
     EXPECT_EQ(history.earlier("x"), "x");
