@@ -276,6 +276,7 @@ def main():
     unknown = set(arguments.names) - set(SCENES)
     if unknown:
         sys.exit(f"no such picture: {', '.join(sorted(unknown))}; there are {', '.join(SCENES)}")
+    arguments.to.mkdir(parents=True, exist_ok=True)
     for name in arguments.names or SCENES:
         print(name)
         take(name, arguments.bin.resolve(), arguments.to.resolve())
