@@ -33,9 +33,7 @@ public:
         double least = kFar;
         for (unsigned s = 0; s < m_chain.segmentCount(); ++s) {
             const KdGeVector3d way = point - m_chain.vertex(s).position;
-            // A damaged chain's axis may point away from its segment.
-            const double length = std::max(lengthOf(s), 0.0);
-            const double distance = std::clamp(dot(way, m_chain.vertex(s).axis), 0.0, length);
+            const double distance = std::clamp(dot(way, m_chain.vertex(s).axis), 0.0, lengthOf(s));
             const double off = (point - at({s, distance})).length();
             if (off < least) {
                 least = off;
