@@ -169,9 +169,11 @@ struct NearEnd {
 };
 
 NearEnd nearEnd(const PlanSegment& a, const PlanSegment& b) {
-    const auto distance = [&](double at) {
+    // Between sharp bends of a wall that lies beside its chain a strip may end before it begins.
+    const auto [low, high] = std::minmax(b.from, b.to);
+    const auto distance = [&, low = low, high = high](double at) {
         const PlanVector point = a.middle.at(at);
-        const double along = std::clamp(b.middle.along(point), b.from, b.to);
+        const double along = std::clamp(b.middle.along(point), low, high);
         return (b.middle.at(along) - point).length();
     };
     const double from = distance(a.from);
