@@ -17,11 +17,9 @@ namespace orvex {
 
 namespace {
 
-constexpr const wchar_t* kCancelEcho = L"*CANCEL*"; // as scripts have it
-
 PromptAnswer cancelled() {
     PromptAnswer answer;
-    answer.echo = kCancelEcho;
+    answer.echo = kCancelText;
     return answer;
 }
 

@@ -1,6 +1,6 @@
 #include "ScriptRecord.h"
 
-#include "ScriptSource.h"
+#include "answerFromText.h"
 #include "textCodec.h"
 
 namespace orvex {
@@ -11,7 +11,7 @@ void ScriptRecord::begin(const std::wstring& command, bool isPlayable) {
 }
 
 void ScriptRecord::answer(const PromptAnswer& answer) {
-    line(answer.kind == PromptAnswer::Kind::cancel ? ScriptSource::kCancel : answer.echo);
+    line(answer.kind == PromptAnswer::Kind::cancel ? kCancelText : answer.echo);
 }
 
 void ScriptRecord::line(const std::wstring& line) {
@@ -21,7 +21,7 @@ void ScriptRecord::line(const std::wstring& line) {
 void ScriptRecord::refuseLast() {
     if (!m_lines.empty()) {
         m_lines.pop_back();
-        line(ScriptSource::kCancel);
+        line(kCancelText);
     }
 }
 

@@ -85,7 +85,7 @@ std::optional<std::size_t> ScriptSource::firstLineThatIsNoUtf8(std::string_view 
 PromptAnswer ScriptSource::ask(const PromptRequest& request) {
     if (atEnd()) {
         PromptAnswer end;
-        end.echo = kCancel;
+        end.echo = kCancelText;
         return end;
     }
     const std::wstring text = widen(std::string_view(m_text).substr(m_nextAt, m_nextSize));
@@ -97,16 +97,12 @@ PromptAnswer ScriptSource::ask(const PromptRequest& request) {
 }
 
 PromptAnswer ScriptSource::answerTo(const PromptRequest& request, const std::wstring& text) {
-    PromptAnswer answer;
-    if (text == kCancel) {
-        return answer;
-    }
     TextReading reading = answerFromText(request, text);
     if (auto* const understood = std::get_if<PromptAnswer>(&reading)) {
         return std::move(*understood);
     }
     reject(complaintAbout(request, text, reading));
-    return answer;
+    return {};
 }
 
 void ScriptSource::reject(const std::wstring& reason) {

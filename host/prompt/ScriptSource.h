@@ -19,8 +19,6 @@ class ScriptSource final : public PromptSource {
 public:
     using Printer = std::function<void(const std::wstring&)>;
 
-    static constexpr const wchar_t* kCancel = L"*CANCEL*";
-
     ScriptSource(std::string_view utf8, Printer printer);
 
     // The line (from 1) of the first byte that makes the text no UTF-8; nothing when it is.

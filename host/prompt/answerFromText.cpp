@@ -78,7 +78,10 @@ TextReading readPointAnswer(const PromptRequest& request, const std::wstring& te
 
 TextReading answerFromText(const PromptRequest& request, const std::wstring& text) {
     using Kind = PromptAnswer::Kind;
-    PromptAnswer answer;
+    PromptAnswer answer; // cancels
+    if (text == kCancelText) {
+        return answer;
+    }
     if (text.empty()) {
         answer.kind = Kind::empty;
         return answer;

@@ -12,6 +12,9 @@ namespace orvex {
 // that fits (std::monostate).
 using TextReading = std::variant<std::monostate, PromptAnswer, BrokenPoint>;
 
+// A line of a script or of a user that cancels the question.
+inline constexpr const wchar_t* kCancelText = L"*CANCEL*";
+
 // Blanks at the text's ends must be gone already. An empty line is no input. Keywords go before
 // everything else; "@" counts from LASTPOINT. The echo stays empty.
 TextReading answerFromText(const PromptRequest& request, const std::wstring& text);

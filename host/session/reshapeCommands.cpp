@@ -8,8 +8,8 @@
 #include "MlineStyleContent.h"
 #include "Opened.h"
 #include "PromptSession.h"
-#include "ScriptSource.h"
 #include "Session.h"
+#include "answerFromText.h"
 #include "commandOutput.h"
 #include "editMlines.h"
 #include "hostText.h"
@@ -117,7 +117,7 @@ void stretchCommand(Session& session) {
             break; // a script has answers for what comes next
         }
         kdutPrintf(L"%ls", wideHostText("No multiline is touched by these corners.").c_str());
-        session.record().line(ScriptSource::kCancel); // of the base point, which a script is asked
+        session.record().line(kCancelText); // of the base point, which a script is asked
         session.record().line(L"STRETCH");
         box = askBox();
     }

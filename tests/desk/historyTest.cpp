@@ -40,6 +40,16 @@ TEST_F(History, hasAZoomWhereAPickWouldMissInAScriptAndNowhereElse) {
     expectSameBy(script());
 }
 
+TEST_F(History, hasWhatIsTypedToCancelAsACancel) {
+    play({
+        type("MLRESTYLE"),
+        type("*CANCEL*"), // of a name, which it isn't
+        [this] { EXPECT_FALSE(window->isBusy()); },
+        type("MLINE\n0,0\n500,0\n*CANCEL*"),
+        [this] { EXPECT_EQ(script(), "MLRESTYLE\n*CANCEL*\nMLINE\n0,0\n500,0\n*CANCEL*\n"); },
+    });
+}
+
 TEST_F(History, isSavedAsAScript) {
     const QTemporaryDir folder;
     const QString path = folder.filePath("history.scr");
