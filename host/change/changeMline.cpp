@@ -77,10 +77,10 @@ Result<MlineContent> closedChain(MlineContent mline) {
 
 // The ends get the miters of the style.
 Result<MlineContent> openChain(MlineContent mline, const StyleLayout& style) {
-    const std::size_t last = mline.vertices.size() - 1;
-    if (last < 1) {
+    if (mline.vertices.size() < 2) {
         return impossible(hostText("it has fewer than two vertices"));
     }
+    const std::size_t last = mline.vertices.size() - 1;
     mline.closed = false;
     unbreakLast(mline);
     ChainVertex& end = mline.vertices[last];

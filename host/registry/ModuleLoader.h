@@ -11,7 +11,8 @@
 namespace orvex {
 
 // Opens module files, calls their entries in the order that "moduleEntry.h" gives, and closes them
-// at its own end, the last one first. Nothing is unloaded while a command runs.
+// at its own end, the last one first. That has to come before the end of statics, which the
+// registry is. Nothing is unloaded while a command runs.
 class ModuleLoader {
 public:
     ModuleLoader();

@@ -17,6 +17,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -31,9 +32,10 @@ void require(bool holds, const char* what, const std::wstring& command) {
     }
 }
 
-// Loaded once: what a module keeps from one drawing to the next is tried as well.
+// Loaded once: what a module keeps from one drawing to the next is tried as well. Never unloaded:
+// the registry may be gone when statics end.
 ModuleLoader& modules() {
-    static ModuleLoader loader;
+    static ModuleLoader& loader = *std::make_unique<ModuleLoader>().release();
     return loader;
 }
 
