@@ -124,7 +124,7 @@ function(orvex_fuzzer name)
         orvex_depend_on_run_time_files(${name}) # it loads the module
     endif()
     if(ORVEX_FUZZ)
-        target_link_options(${name} PRIVATE -fsanitize=fuzzer,address)
+        target_link_options(${name} PRIVATE -fsanitize=fuzzer)
         set(play -runs=0)
     else()
         target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/replayMain.cpp)

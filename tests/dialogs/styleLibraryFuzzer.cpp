@@ -57,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::wstring path = world.store(library);
     const auto names = listLibraryStyles(path.c_str());
     require(names.has_value());
-    constexpr std::size_t kMostNames = 20; // each takes a whole reading
+    constexpr std::size_t kMostNames = 4; // each takes a whole reading
     KdDbMlineStyle style;
     for (std::size_t i = 0; i < std::min(names->size(), kMostNames); ++i) {
         style.initMlineStyle();
