@@ -119,11 +119,8 @@ void cutLoopOut(CMlineEdit& run, CMlineSegment& seg, int laterSegment, const dou
 }
 
 // Both ends move to the corner, and each element stops at its crossing with itself.
-void closeLoop(CMlineEdit& run, CMlineSegment& seg, int earlierSegment, const double* corner) {
-    const int last = seg.m_segment;
-    removeVertices(run, seg, last + 2, seg.m_numVertices - last - 2);
-    moveEnd(run, seg, last + 1, corner);
-    removeVertices(run, seg, 0, earlierSegment);
+void closeLoop(CMlineEdit& run, CMlineSegment& seg, const double* corner) {
+    moveEnd(run, seg, seg.m_numVertices - 1, corner);
     moveEnd(run, seg, 0, corner);
     run.change71GroupNumber(seg.m_mline, 1, 1, -1, 1);
     for (int k = 0; k < seg.m_numElements; ++k) {
@@ -134,9 +131,9 @@ void closeLoop(CMlineEdit& run, CMlineSegment& seg, int earlierSegment, const do
     }
 }
 
-// The first record is on the earlier segment or the later one. The earlier one keeping its start
-// and the later one its end means that the loop between them is removed; the other way round it is
-// closed at the corner.
+// The first record is on the first segment or the last one. The first one keeping its start and the
+// last one its end means that the loop between them is removed; the other way round it is closed at
+// the corner.
 StepOutcome joinWithItself(CMlineEdit& run, const double* corner, bool firstKeepsStart,
                            bool secondKeepsStart) {
     CMlineSegment& first = run.m_first;
@@ -151,7 +148,7 @@ StepOutcome joinWithItself(CMlineEdit& run, const double* corner, bool firstKeep
     if (earlierKeepsStart) {
         cutLoopOut(run, earlier, later.m_segment, corner);
     } else {
-        closeLoop(run, later, earlier.m_segment, corner);
+        closeLoop(run, later, corner);
     }
     return StepOutcome::done;
 }
