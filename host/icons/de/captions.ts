@@ -2593,7 +2593,7 @@ Was nicht bearbeitet wird, wird Byte für Byte gespeichert.</translation>
     </message>
     <message>
         <source>Steps of &amp;Angles</source>
-        <translation>&amp;Winkelschritte</translation>
+        <translation>Schrittweite der Win&amp;kel</translation>
     </message>
 </context>
 <context>
