@@ -97,7 +97,8 @@ std::vector<double> remeasured(std::span<const double> list, const TrackMove& mo
     std::vector<MlineStretch> kept;
     const Remeasurer remeasure(move);
     for (const MlineStretch& old : stretchesOf(list)) {
-        const MlineStretch fresh = remeasure(old);
+        // An empty one at an end that moves would get a length.
+        const MlineStretch fresh = old.begin < old.end ? remeasure(old) : old;
         if (fresh.begin < fresh.end) {
             kept.push_back(fresh);
         }
