@@ -99,6 +99,19 @@ bool isFarOrSound(const MlineContent& mline) {
     return isFar(mline) || isSound(mline);
 }
 
+// Turned round, what begins before its segment reaches beyond it, which the audit finds.
+bool beginsOnSegments(const MlineContent& mline) {
+    for (unsigned v = 0; v < mline.lists.vertexCount(); ++v) {
+        for (unsigned e = 0; e < mline.lists.elementCount(v); ++e) {
+            const auto line = mline.lists.line(v, e);
+            if (line.size() > 1 && line[1] < 0.0) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 std::wstring styleName(const MlineContent& mline) {
     KdDbMlineStyle* style = nullptr;
     kddbOpenObject(style, mline.style, kForRead);
@@ -154,7 +167,8 @@ private:
     }
 
     void step(const std::wstring& command) {
-        const bool wereSound = holdsForAll(isNearAndSound);
+        const bool wereSound =
+            holdsForAll(isNearAndSound) && (command != L"REVERSE" || holdsForAll(beginsOnSegments));
         const std::size_t depth = changes().undoDepth();
         m_answers.begin();
         const auto failure = m_session->run(command);
