@@ -47,7 +47,7 @@ protected:
     static EditTool withStep(Tool tool) {
         EditTool row = editTool(tool);
         row.initialise = &CMlineEdit::mlineEditInitialize;
-        row.step = [](CMlineEdit& run) { return static_cast<TestRun&>(run).step(); };
+        row.step = [](CMlineEdit& edit) { return static_cast<TestRun&>(edit).step(); };
         return row;
     }
     int play(std::initializer_list<orvex::PromptAnswer> answers) {
