@@ -64,7 +64,8 @@ public:
     // Up to `reach` along both axes of the multiline's plane.
     KdGeVector3d inPlaneOf(const MlineContent& mline, double reach) {
         const PlaneAxes axes = arbitraryAxes(mline.normal);
-        return axes.x * between(-reach, reach) + axes.y * between(-reach, reach);
+        const KdGeVector3d alongX = axes.x * between(-reach, reach); // in one order by any compiler
+        return alongX + axes.y * between(-reach, reach);
     }
 
 private:
