@@ -33,8 +33,7 @@ std::optional<Failure> RecordCutter::run(const Progress& progress) {
     }
     endRecord();
     const bool isDrawing = !m_result.records.m_records.empty();
-    m_result.records.m_records.push_back(
-        {m_reader.position(), 0, RecordKind::other, false, false, 0});
+    m_result.records.m_records.emplace_back().offset = m_reader.position();
     m_result.lineCount = 2 * m_reader.tagCount();
     m_result.lineEnds = {m_result.lineCount, m_reader.carriageReturns()};
     if (read != TagReader::Result::badCode && read != TagReader::Result::noValue) {
@@ -52,7 +51,7 @@ void RecordCutter::startRecord(const Tag& tag) {
     m_kind = recordKind(trimBlanks(tag.value));
     m_hasHandle = m_kind == RecordKind::section; // the header's code 5 names no section
     m_recordLine = line() - 2;
-    m_result.records.m_records.push_back({tag.begin, 0, m_kind, false, false, 0});
+    m_result.records.m_records.push_back({tag.begin, 0, m_kind});
     if (m_kind == RecordKind::mline) {
         m_mline.begin();
     }

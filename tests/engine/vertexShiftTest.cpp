@@ -1,6 +1,8 @@
 #include "DatabaseCore.h"
 #include "ToolWorld.h"
 
+#include <array>
+
 using namespace mledit;
 
 namespace {
@@ -74,6 +76,23 @@ TEST_F(VertexShift, endAnglesTurnWithTheNormalAndTheUserSystem) {
         EXPECT_EQ(directions(mline, 0), "1,0 / " + cosine + "," + c.y);
         EXPECT_EQ(directions(mline, 1), "1,0 / -" + cosine + "," + c.y);
         EXPECT_EQ(lists(mline, 1), c.lists);
+        mline->erase();
+    }
+}
+
+// Also where it points the other way than a new one would, in the plane of x and z.
+TEST_F(VertexShift, theMiterOfTheNextVertexKeepsItsSense) {
+    for (const double sense : {1.0, -1.0}) {
+        KdDbMline* const mline = add("0,0 4,0 10,0 20,0 : 1 -1");
+        const double miter[3] = {0.0, 0.0, sense};
+        std::array<double[3], 4> miters;
+        for (double(&each)[3] : miters) {
+            copyPoint(miter, each);
+        }
+        SetMilters(mline, miters.data());
+        mline->setNormal({0, -1, 0});
+        move(mline, 1, {6, 0, 0});
+        EXPECT_EQ(mline->miterAt(2).z, sense);
         mline->erase();
     }
 }

@@ -221,6 +221,8 @@ TEST(Conversion, refusesWhatTheBinaryFormLacks) {
             EXPECT_THAT(result.failure().text, HasSubstr(reason));
         }
     }
+    EXPECT_THAT(convertBytes(dxf("1 x\n0 EOF"), DrawingForm::binary).failure().text,
+                HasSubstr("has to begin with the group code 0"));
     const auto result =
         convertBytes(dxf("999 a\n0 SECTION\n999 b\n0 EOF\n") + "x", DrawingForm::binary);
     ASSERT_TRUE(result);

@@ -15,12 +15,14 @@
 #include "WellKnownObjects.h"
 #include "sampleDrawing.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace {
 
 using namespace orvex;
 using namespace orvex::testing;
+using ::testing::HasSubstr;
 
 KdDbStub& addMline(DrawingFile& file, BlockEntities& block, KdDbStub* style) {
     DatabaseCore& core = file.database().core();
@@ -63,11 +65,17 @@ KdDbStub& addLinetype(DrawingFile& file, const wchar_t* name) {
     return *id.stub();
 }
 
-// Everything about it is unusual.
-void addLayer(DrawingFile& file, const wchar_t* name) {
+void addLayer(DrawingFile& file, std::unique_ptr<KdDbLayerTableRecord> layer) {
     DatabaseCore& core = file.database().core();
+    auto* const table =
+        dynamic_cast<KdDbLayerTable*>(core.open(*core.wellKnown().layerTable, true));
+    KdDbObjectId id;
+    table->add(id, layer.release());
+}
+
+std::unique_ptr<KdDbLayerTableRecord> unusualLayer() {
     auto layer = std::make_unique<KdDbLayerTableRecord>();
-    layer->setName(name);
+    layer->setName(L"Hidden");
     layer->setIsOff(true);
     layer->setIsFrozen(true);
     layer->setIsLocked(true);
@@ -76,10 +84,7 @@ void addLayer(DrawingFile& file, const wchar_t* name) {
     KdCmColor color;
     color.setColorIndex(3);
     layer->setColor(color);
-    auto* const table =
-        dynamic_cast<KdDbLayerTable*>(core.open(*core.wellKnown().layerTable, true));
-    KdDbObjectId id;
-    table->add(id, layer.release());
+    return layer;
 }
 
 std::uint64_t highestHandle(DrawingFile& file) {
@@ -152,6 +157,12 @@ TEST(NewStyle, isListedInTheDictionary) {
     EXPECT_TRUE(sameText(file->bytes(), expected));
 }
 
+TEST(NewStyle, isWrittenOnceItIsCurrent) {
+    const auto file = openDrawing(dxf("0 SECTION\n2 HEADER\n9 $CMLSTYLE\n2 GONE\n0 ENDSEC\n0 EOF"));
+    file->database().core().setVariable("CMLSTYLE", std::wstring(L"STANDARD"));
+    EXPECT_THAT(file->bytes(), HasSubstr(dxf("100 AcDbMlineStyle\n2 STANDARD")));
+}
+
 TEST(NewLinetype, isCountedWhereTheTableCountedRight) {
     const std::string sample = sampleDrawing();
     for (const char* const count : {"2", "7"}) {
@@ -178,6 +189,17 @@ TEST(NewLinetype, isCountedInATableThatItsSectionEnds) {
     EXPECT_EQ(core.wellKnown().findLinetype(L"B"), nullptr) << "in a table of another kind";
     addLinetype(*file, L"DOTS");
     EXPECT_NE(file->bytes().find(dxf("2 LTYPE\n70 2")), std::string::npos) << file->bytes();
+}
+
+TEST(NewLayer, hasNoFlagsAndNoLineweightUnlessTheyAreSet) {
+    const auto file = openDrawing(sampleDrawing());
+    auto layer = std::make_unique<KdDbLayerTableRecord>();
+    layer->setName(L"Plain");
+    KdCmColor color;
+    color.setColorIndex(7);
+    layer->setColor(color);
+    addLayer(*file, std::move(layer));
+    EXPECT_THAT(file->bytes(), HasSubstr(dxf("2 Plain\n70 0\n62 7\n6 Continuous\n0 ENDTAB")));
 }
 
 // The multiline A1 names a style A3 that the file doesn't have, and still does so afterwards.
@@ -232,7 +254,7 @@ TEST(NewObjects, areWrittenInFullWhereThereIsNothing) {
     KdDbStub& style = addStyle(*file, L"Zaun");
     addMline(*file, file->database().core().blocks().modelSpace(), &style);
     addLinetype(*file, L"DOTS");
-    addLayer(*file, L"Hidden");
+    addLayer(*file, unusualLayer());
     const std::string usual =
         "70 0\n3 \n62 256\n51 90.0\n52 90.0\n71 2\n49 0.5\n62 256\n6 BYLAYER\n"
         "49 -0.5\n62 256\n6 BYLAYER\n";

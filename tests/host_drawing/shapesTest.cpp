@@ -54,6 +54,7 @@ TEST(Shapes, ofArcsInTheirPlane) {
     expectNear(arc.minor, 0.0, 2.0, 0.0);
     EXPECT_DOUBLE_EQ(arc.start, 1.5 * kPi);
     EXPECT_DOUBLE_EQ(arc.end, 2.5 * kPi);
+    EXPECT_DOUBLE_EQ(shapeOf<ConicShape>("0 ARC\n50 90\n51 90").end, 2.5 * kPi);
     // N = (1,0,0): x axis (0,0,1) x N = (0,1,0), y axis N x X = (0,0,1).
     const auto circle =
         shapeOf<ConicShape>("0 CIRCLE\n10 1\n20 2\n30 3\n40 4\n210 7\n220 0\n230 0");
@@ -66,6 +67,7 @@ TEST(Shapes, ofArcsInTheirPlane) {
     expectNear(ellipse.center, 1.0, 1.0, 0.0);
     expectNear(ellipse.minor, -2.0, 0.0, 0.0); // N x major, half as long
     EXPECT_DOUBLE_EQ(ellipse.end, 1.5);
+    EXPECT_DOUBLE_EQ(shapeOf<ConicShape>("0 ELLIPSE\n11 1\n41 1\n42 1").end, 1.0 + 2.0 * kPi);
 }
 
 TEST(Shapes, ofPolylines) {
@@ -104,10 +106,17 @@ TEST(Shapes, ofTexts) {
     EXPECT_EQ(text.vertical, 2);
     EXPECT_EQ(text.lines, (std::vector<std::wstring>{L"45\u00B0 top\u00E9"}));
     expectNear(shapeOf<TextShape>("0 TEXT\n10 1\n20 2\n11 5\n21 6\n1 x").position, 1.0, 2.0, 0.0);
+    for (const char* const spanning : {"3", "5"}) {
+        const auto between = shapeOf<TextShape>("0 TEXT\n10 1\n20 2\n11 4\n21 6\n72 " +
+                                                std::string(spanning) + "\n1 x");
+        expectNear(between.position, 1.0, 2.0, 0.0);
+        expectNear(between.direction, 0.6, 0.8, 0.0);
+    }
 
     const auto paragraph = shapeOf<TextShape>(
         "0 MTEXT\n10 1\n40 2\n71 5\n3 {\\fArial|b1;Bold} \\S1^2;\\P\\H2.5x;sec\n1 ond \\\\ "
         "\\{\\~}\\C");
+    expectNear(shapeOf<TextShape>("0 MTEXT\n50 30\n11 3\n21 -4\n1 x").direction, 0.6, -0.8, 0.0);
     EXPECT_EQ(paragraph.horizontal, 1);
     EXPECT_EQ(paragraph.vertical, 2);
     EXPECT_EQ(paragraph.lines, (std::vector<std::wstring>{L"Bold 1/2", L"second \\ { "}));

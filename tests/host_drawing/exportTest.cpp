@@ -1,0 +1,211 @@
+// Multilines that leave the file: what stands for them, and what named them.
+
+#include "AtomicFile.h"
+#include "BlockList.h"
+#include "ChangeLog.h"
+#include "DatabaseCore.h"
+#include "DrawingExport.h"
+#include "MlineContent.h"
+#include "sampleDrawing.h"
+#include "wholeFiles.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <regex>
+#include <unistd.h>
+
+namespace {
+
+using namespace orvex;
+using namespace orvex::testing;
+
+// Multilines with the handles 10 and 12. Both groups have the first, which has data of its own;
+// the second has a place in the drawing order by its handle alone.
+std::string drawing() {
+    return dxf("0 SECTION\n2 HEADER\n9 $ACADVER\n1 AC1018\n9 $HANDSEED\n5 20\n0 ENDSEC\n"
+               "0 SECTION\n2 TABLES\n0 TABLE\n2 BLOCK_RECORD\n5 1\n70 1\n"
+               "0 BLOCK_RECORD\n5 2\n2 *Model_Space\n0 ENDTAB\n0 ENDSEC\n"
+               "0 SECTION\n2 BLOCKS\n0 BLOCK\n2 *Model_Space\n0 ENDBLK\n"
+               "0 BLOCK\n2 ORVEX_12\n0 ENDBLK\n0 ENDSEC\n"
+               "0 SECTION\n2 ENTITIES\n"
+               "0 MLINE\n5 10\n102 {ACAD_XDICTIONARY\n360 A\n102 }\n8 Walls\n60 1\n"
+               "2 STANDARD\n72 0\n73 0\n"
+               "0 LINE\n5 11\n0 MLINE\n5 12\n8 Doors\n2 STANDARD\n72 0\n73 0\n0 ENDSEC\n"
+               "0 SECTION\n2 OBJECTS\n0 DICTIONARY\n5 3\n3 ACAD_GROUP\n350 4\n"
+               "0 DICTIONARY\n5 4\n330 3\n3 ALONE\n350 5\n3 BOTH\n350 6\n"
+               "0 GROUP\n5 5\n330 4\n340 10\n0 GROUP\n5 6\n330 4\n340 10\n340 11\n"
+               "0 DICTIONARY\n5 A\n330 10\n3 MINE\n360 B\n3 YOURS\n360 6\n0 XRECORD\n5 B\n330 A\n"
+               "0 SORTENTSTABLE\n5 C\n330 3\n330 2\n331 10\n5 FF\n331 11\n5 FE\n0 ENDSEC\n0 EOF");
+}
+
+constexpr const char* kFirst = "0 MLINE\n5 10\n102 {ACAD_XDICTIONARY\n360 A\n102 }\n8 Walls\n60 1\n"
+                               "2 STANDARD\n72 0\n73 0";
+constexpr const char* kSecond = "0 MLINE\n5 12\n8 Doors\n2 STANDARD\n72 0\n73 0";
+constexpr const char* kOwned = "0 DICTIONARY\n5 A\n330 10\n3 MINE\n360 B\n3 YOURS\n360 6\n"
+                               "0 XRECORD\n5 B\n330 A";
+constexpr const char* kGroups = "0 GROUP\n5 5\n330 4\n340 10\n0 GROUP\n5 6\n330 4\n340 10\n340 11";
+constexpr const char* kOrder = "331 10\n5 FF\n331 11\n5 FE";
+
+// The same with other texts in it.
+std::string changed(const std::vector<std::pair<const char*, std::string>>& changes) {
+    std::string text = drawing();
+    for (const auto& [from, to] : changes) {
+        text = replaced(text, dxf(from), dxf(to));
+    }
+    return text;
+}
+
+// A quarter of a circle, and a triangle that is looked at from below.
+Result<std::vector<PlainContent>> explode(const MlineContent& content) {
+    constexpr double kQuarter = 1.5707963267948966;
+    PlainContent arc;
+    arc.traits = content.traits;
+    arc.shape = ConicShape{{1.0, 2.0, 3.0}, {0.0, 2.0, 0.0}, {-2.0, 0.0, 0.0}, 0.0, kQuarter};
+    PlainContent solid;
+    solid.traits = content.traits;
+    solid.shape = SolidShape{{{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {1.0, 1.0, 0.0}}};
+    solid.normal = {0.0, 0.0, -1.0};
+    return std::vector{arc, solid};
+}
+// What is written of them; `common` begins after the handle.
+std::string partTags(const std::string& arc, const std::string& solid, const std::string& common) {
+    return "0 ARC\n5 " + arc + "\n" + common +
+           "100 AcDbCircle\n10 1.0\n20 2.0\n30 3.0\n40 2.0\n100 AcDbArc\n50 90.0\n51 180.0\n"
+           "0 SOLID\n5 " +
+           solid + "\n" + common +
+           "100 AcDbTrace\n10 0.0\n20 0.0\n30 0.0\n11 -1.0\n21 0.0\n31 0.0\n"
+           "12 -1.0\n22 1.0\n32 0.0\n13 -1.0\n23 1.0\n33 0.0\n210 0.0\n220 0.0\n230 -1.0\n";
+}
+std::string insertTags(const std::string& handle, const std::string& traits,
+                       const std::string& name) {
+    return "0 INSERT\n5 " + handle + "\n330 2\n100 AcDbEntity\n" + traits +
+           "100 AcDbBlockReference\n2 " + name + "\n10 0.0\n20 0.0\n30 0.0\n";
+}
+std::string recordTags(const std::string& handle, const std::string& name) {
+    return "0 BLOCK_RECORD\n5 " + handle +
+           "\n330 1\n100 AcDbSymbolTableRecord\n"
+           "100 AcDbBlockTableRecord\n2 " +
+           name + "\n340 0\n";
+}
+// A block with parts, and all its handles.
+std::string blockTags(const std::vector<std::string>& handles, const std::string& layer,
+                      const std::string& name) {
+    const std::string common = "330 " + handles[0] + "\n100 AcDbEntity\n8 " + layer + "\n";
+    return "0 BLOCK\n5 " + handles[1] + "\n" + common + "100 AcDbBlockBegin\n2 " + name +
+           "\n70 0\n10 0.0\n20 0.0\n30 0.0\n3 " + name + "\n1 \n" +
+           partTags(handles[2], handles[3], common) + "0 ENDBLK\n5 " + handles[4] + "\n" + common +
+           "100 AcDbBlockEnd\n";
+}
+
+struct Exported {
+    std::string bytes;
+    std::string warnings;
+};
+Exported exported(const std::string& bytes, const MlineExport& how) {
+    const auto file = openDrawing(bytes);
+    const auto path =
+        std::filesystem::temp_directory_path() / ("export-" + std::to_string(getpid()) + ".dxf");
+    AtomicFile target(path.string());
+    EXPECT_FALSE(file->saveExported(target, how));
+    Exported result{readFile(path), {}};
+    for (const DrawingWarning& warning : file->savingWarnings()) {
+        result.warnings += warning.text + "\n";
+    }
+    std::filesystem::remove(path);
+    return result;
+}
+
+TEST(Export, putsPlainEntitiesInTheirPlace) {
+    const auto [bytes, warnings] = exported(drawing(), {ExportForm::lines, explode});
+    EXPECT_EQ(warnings, "");
+    const std::string expected = changed({
+        {"9 $HANDSEED\n5 20", "9 $HANDSEED\n5 24"},
+        {kFirst, partTags("20", "21", "330 2\n100 AcDbEntity\n8 Walls\n60 1\n")},
+        {kSecond, partTags("22", "23", "330 2\n100 AcDbEntity\n8 Doors\n")},
+        {kGroups, "0 GROUP\n5 5\n330 4\n340 20\n340 21\n"
+                  "0 GROUP\n5 6\n330 4\n340 20\n340 21\n340 11"},
+        {kOwned, ""},
+        {kOrder, "331 20\n5 FF\n331 21\n5 FF\n331 11\n5 FE\n331 22\n5 12\n331 23\n5 12"},
+    });
+    EXPECT_TRUE(sameText(bytes, expected));
+}
+
+TEST(Export, putsInsertsInTheirPlace) {
+    const auto [bytes, warnings] = exported(drawing(), {ExportForm::blocks, explode});
+    EXPECT_EQ(warnings, "");
+    const std::string expected = changed({
+        {"9 $HANDSEED\n5 20", "9 $HANDSEED\n5 2C"},
+        {"5 1\n70 1", "5 1\n70 3"},
+        {"0 ENDTAB", recordTags("20", "ORVEX_10") + recordTags("26", "ORVEX_12_2") + "0 ENDTAB"},
+        {"2 ORVEX_12\n0 ENDBLK",
+         "2 ORVEX_12\n0 ENDBLK\n" + blockTags({"20", "21", "22", "23", "24"}, "Walls", "ORVEX_10") +
+             blockTags({"26", "27", "28", "29", "2A"}, "Doors", "ORVEX_12_2")},
+        {kFirst, insertTags("25", "8 Walls\n60 1\n", "ORVEX_10")},
+        {kSecond, insertTags("2B", "8 Doors\n", "ORVEX_12_2")},
+        {kGroups, "0 GROUP\n5 5\n330 4\n340 25\n0 GROUP\n5 6\n330 4\n340 25\n340 11"},
+        {kOwned, ""},
+        {kOrder, "331 25\n5 FF\n331 11\n5 FE\n331 2B\n5 12"},
+    });
+    EXPECT_TRUE(sameText(bytes, expected));
+}
+
+// Without a table of block records, and without classes.
+TEST(Export, writesOldDrawingsAsTheyAre) {
+    const std::string head = "0 SECTION\n2 HEADER\n9 $ACADVER\n1 AC1009\n9 $HANDSEED\n5 ";
+    const std::string entities = "\n0 ENDSEC\n0 SECTION\n2 ENTITIES\n";
+    const std::string mline = "0 MLINE\n5 10\n8 Walls\n2 STANDARD\n72 0\n73 0\n";
+    const std::string end = "0 ENDSEC\n0 EOF";
+    const std::string block = blockTags({"", "11", "12", "13", "14"}, "Walls", "ORVEX_10");
+    const std::string insert = insertTags("15", "8 Walls\n", "ORVEX_10");
+    const std::string expected =
+        head + "16\n0 ENDSEC\n0 SECTION\n2 BLOCKS\n" + block + entities.substr(1) + insert + end;
+    const auto [bytes, warnings] =
+        exported(dxf(head + "11" + entities + mline + end), {ExportForm::blocks, explode});
+    EXPECT_TRUE(
+        sameText(bytes, dxf(std::regex_replace(expected, std::regex("(330|100) [^\n]*\n"), ""))));
+}
+
+TEST(Export, leavesWhatNothingCanStandFor) {
+    const auto refuse = [](const MlineContent&) -> Result<std::vector<PlainContent>> {
+        return Failure{FailureCause::programFault, {}, 0, "no element"};
+    };
+    const auto [bytes, warnings] = exported(drawing(), {ExportForm::blocks, refuse});
+    EXPECT_TRUE(sameText(bytes, drawing()));
+    EXPECT_EQ(warnings, "multiline #10 stays as it is: no element\n"
+                        "multiline #12 stays as it is: no element\n");
+}
+
+TEST(Erasing, takesAMultilineOutOfWhatNamesIt) {
+    const auto erased = [](const std::string& bytes, std::string& warnings) {
+        const auto file = openDrawing(bytes);
+        file->database().core().changes().beginCommand();
+        file->database().core().erase(stubOf(*file, 0x10));
+        file->database().core().changes().endCommand();
+        const auto path =
+            std::filesystem::temp_directory_path() / ("erase-" + std::to_string(getpid()) + ".dxf");
+        EXPECT_FALSE(file->save(path.string()));
+        std::filesystem::remove(path);
+        for (const DrawingWarning& warning : file->savingWarnings()) {
+            warnings += warning.text + "\n";
+        }
+        return file->bytes();
+    };
+    std::string warnings;
+    EXPECT_TRUE(
+        sameText(erased(drawing(), warnings), changed({{kFirst, ""},
+                                                       {"3 ALONE\n350 5", ""},
+                                                       {kGroups, "0 GROUP\n5 6\n330 4\n340 11"},
+                                                       {kOwned, ""},
+                                                       {kOrder, "331 11\n5 FE"}})));
+    EXPECT_EQ(warnings, "");
+    // A member or a place that can't be read: the record stays.
+    const std::string damaged =
+        replaced(replaced(drawing(), dxf("340 11"), dxf("340 x")), dxf("331 11"), dxf("331 x"));
+    EXPECT_THAT(erased(damaged, warnings), ::testing::HasSubstr(dxf("340 10\n340 x")));
+    EXPECT_EQ(warnings,
+              "the group #6 can't be read and still names what was erased\n"
+              "the table of drawing order #C can't be read and still names what was erased\n");
+}
+
+} // namespace
