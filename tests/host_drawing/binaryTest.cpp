@@ -155,6 +155,9 @@ TEST(Conversion, keepsValuesThereAndBack) {
             "160 -9223372036854775808\n290 1\n310 00FFA1\n1071 -1\n1004 \n0 EOF\n");
     const std::string back = converted(binaryOf(text), DrawingForm::text);
     EXPECT_TRUE(sameText(back, text));
+    // Where codes have one byte, 255 begins a longer one.
+    const std::string old = dxf("0 SECTION\n9 $ACADVER\n1 AC1009\n254 a\n255 b\n256 c\n0 EOF\n");
+    EXPECT_TRUE(sameText(converted(binaryOf(old), DrawingForm::text), old));
     const std::string noted = replaced(text, "  1\nAC1015", "999\nnote\n  1\nAC1015");
     EXPECT_EQ(binaryOf(noted), binaryOf(text));
     EXPECT_EQ(converted(text, DrawingForm::text), text);

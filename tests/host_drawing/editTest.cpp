@@ -194,6 +194,18 @@ TEST(ChangedMline, keepsCommentsOtherDataAndTheLineEndsOfItsRecord) {
     expectEdit(withReturns(sample), edit, withReturns(expected));
 }
 
+TEST(ChangedMline, keepsTheWidthOfItsNumbers) {
+    const auto edit = [](DrawingFile& file) {
+        auto& mline = opened<KdDbMline>(file, 0x41);
+        mline.appendSeg({2.5, 0.0, 0.0});
+    };
+    const std::string sample =
+        replaced(sampleDrawing(), " 73\n2\n 10\n0.0", " 73\n2\n 10\n     0.0");
+    const auto file = openDrawing(sample);
+    edit(*file);
+    EXPECT_NE(file->bytes().find(" 73\n0\n 10\n     2.5"), std::string::npos) << file->bytes();
+}
+
 TEST(ChangedMline, isErased) {
     expectMline([](KdDbMline& mline) { mline.erase(); },
                 between("  0\nMLINE\n  5\n51", "  0\nMLINE\n  5\n52"), "");

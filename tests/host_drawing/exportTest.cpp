@@ -6,6 +6,7 @@
 #include "DatabaseCore.h"
 #include "DrawingExport.h"
 #include "MlineContent.h"
+#include "handleText.h"
 #include "sampleDrawing.h"
 #include "wholeFiles.h"
 
@@ -56,46 +57,47 @@ std::string changed(const std::vector<std::pair<const char*, std::string>>& chan
     return text;
 }
 
-// A quarter of a circle, and a triangle that is looked at from below.
+// A quarter of a circle, a triangle that is looked at from below, and a line.
 Result<std::vector<PlainContent>> explode(const MlineContent& content) {
     constexpr double kQuarter = 1.5707963267948966;
-    PlainContent arc;
-    arc.traits = content.traits;
-    arc.shape = ConicShape{{1.0, 2.0, 3.0}, {0.0, 2.0, 0.0}, {-2.0, 0.0, 0.0}, 0.0, kQuarter};
-    PlainContent solid;
-    solid.traits = content.traits;
-    solid.shape = SolidShape{{{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {1.0, 1.0, 0.0}}};
-    solid.normal = {0.0, 0.0, -1.0};
-    return std::vector{arc, solid};
+    std::vector<PlainContent> parts(3);
+    for (PlainContent& part : parts) {
+        part.traits = content.traits;
+    }
+    parts[0].shape = ConicShape{{1.0, 2.0, 3.0}, {0.0, 2.0, 0.0}, {-2.0, 0.0, 0.0}, 0.0, kQuarter};
+    parts[1].shape = SolidShape{{{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {1.0, 1.0, 0.0}}};
+    parts[1].normal = {0.0, 0.0, -1.0};
+    parts[2].shape = LineShape{{1.0, 2.0, 0.0}, {3.0, 4.0, 5.0}};
+    return parts;
 }
-// What is written of them; `common` begins after the handle.
-std::string partTags(const std::string& arc, const std::string& solid, const std::string& common) {
-    return "0 ARC\n5 " + arc + "\n" + common +
+
+// What is written of them, with the handles from `first` on; `common` comes after each.
+std::string partTags(std::uint64_t first, const std::string& common) {
+    return "0 ARC\n5 " + handleText(first) + "\n" + common +
            "100 AcDbCircle\n10 1.0\n20 2.0\n30 3.0\n40 2.0\n100 AcDbArc\n50 90.0\n51 180.0\n"
            "0 SOLID\n5 " +
-           solid + "\n" + common +
+           handleText(first + 1) + "\n" + common +
            "100 AcDbTrace\n10 0.0\n20 0.0\n30 0.0\n11 -1.0\n21 0.0\n31 0.0\n"
-           "12 -1.0\n22 1.0\n32 0.0\n13 -1.0\n23 1.0\n33 0.0\n210 0.0\n220 0.0\n230 -1.0\n";
+           "12 -1.0\n22 1.0\n32 0.0\n13 -1.0\n23 1.0\n33 0.0\n210 0.0\n220 0.0\n230 -1.0\n"
+           "0 LINE\n5 " +
+           handleText(first + 2) + "\n" + common +
+           "100 AcDbLine\n10 1.0\n20 2.0\n30 0.0\n11 3.0\n21 4.0\n31 5.0\n";
 }
-std::string insertTags(const std::string& handle, const std::string& traits,
-                       const std::string& name) {
-    return "0 INSERT\n5 " + handle + "\n330 2\n100 AcDbEntity\n" + traits +
+
+// A block of these parts in the order of its handles: its record, the block, the parts, its end.
+std::string recordTags(std::uint64_t first, const std::string& name) {
+    return "0 BLOCK_RECORD\n5 " + handleText(first) +
+           "\n330 1\n100 AcDbSymbolTableRecord\n100 AcDbBlockTableRecord\n2 " + name + "\n340 0\n";
+}
+std::string blockTags(std::uint64_t first, const std::string& layer, const std::string& name) {
+    const std::string common = "330 " + handleText(first) + "\n100 AcDbEntity\n8 " + layer + "\n";
+    return "0 BLOCK\n5 " + handleText(first + 1) + "\n" + common + "100 AcDbBlockBegin\n2 " + name +
+           "\n70 0\n10 0.0\n20 0.0\n30 0.0\n3 " + name + "\n1 \n" + partTags(first + 2, common) +
+           "0 ENDBLK\n5 " + handleText(first + 5) + "\n" + common + "100 AcDbBlockEnd\n";
+}
+std::string insertTags(std::uint64_t handle, const std::string& traits, const std::string& name) {
+    return "0 INSERT\n5 " + handleText(handle) + "\n330 2\n100 AcDbEntity\n" + traits +
            "100 AcDbBlockReference\n2 " + name + "\n10 0.0\n20 0.0\n30 0.0\n";
-}
-std::string recordTags(const std::string& handle, const std::string& name) {
-    return "0 BLOCK_RECORD\n5 " + handle +
-           "\n330 1\n100 AcDbSymbolTableRecord\n"
-           "100 AcDbBlockTableRecord\n2 " +
-           name + "\n340 0\n";
-}
-// A block with parts, and all its handles.
-std::string blockTags(const std::vector<std::string>& handles, const std::string& layer,
-                      const std::string& name) {
-    const std::string common = "330 " + handles[0] + "\n100 AcDbEntity\n8 " + layer + "\n";
-    return "0 BLOCK\n5 " + handles[1] + "\n" + common + "100 AcDbBlockBegin\n2 " + name +
-           "\n70 0\n10 0.0\n20 0.0\n30 0.0\n3 " + name + "\n1 \n" +
-           partTags(handles[2], handles[3], common) + "0 ENDBLK\n5 " + handles[4] + "\n" + common +
-           "100 AcDbBlockEnd\n";
 }
 
 struct Exported {
@@ -120,13 +122,14 @@ TEST(Export, putsPlainEntitiesInTheirPlace) {
     const auto [bytes, warnings] = exported(drawing(), {ExportForm::lines, explode});
     EXPECT_EQ(warnings, "");
     const std::string expected = changed({
-        {"9 $HANDSEED\n5 20", "9 $HANDSEED\n5 24"},
-        {kFirst, partTags("20", "21", "330 2\n100 AcDbEntity\n8 Walls\n60 1\n")},
-        {kSecond, partTags("22", "23", "330 2\n100 AcDbEntity\n8 Doors\n")},
-        {kGroups, "0 GROUP\n5 5\n330 4\n340 20\n340 21\n"
-                  "0 GROUP\n5 6\n330 4\n340 20\n340 21\n340 11"},
+        {"9 $HANDSEED\n5 20", "9 $HANDSEED\n5 26"},
+        {kFirst, partTags(0x20, "330 2\n100 AcDbEntity\n8 Walls\n60 1\n")},
+        {kSecond, partTags(0x23, "330 2\n100 AcDbEntity\n8 Doors\n")},
+        {kGroups, "0 GROUP\n5 5\n330 4\n340 20\n340 21\n340 22\n"
+                  "0 GROUP\n5 6\n330 4\n340 20\n340 21\n340 22\n340 11"},
         {kOwned, ""},
-        {kOrder, "331 20\n5 FF\n331 21\n5 FF\n331 11\n5 FE\n331 22\n5 12\n331 23\n5 12"},
+        {kOrder, "331 20\n5 FF\n331 21\n5 FF\n331 22\n5 FF\n331 11\n5 FE\n"
+                 "331 23\n5 12\n331 24\n5 12\n331 25\n5 12"},
     });
     EXPECT_TRUE(sameText(bytes, expected));
 }
@@ -135,17 +138,16 @@ TEST(Export, putsInsertsInTheirPlace) {
     const auto [bytes, warnings] = exported(drawing(), {ExportForm::blocks, explode});
     EXPECT_EQ(warnings, "");
     const std::string expected = changed({
-        {"9 $HANDSEED\n5 20", "9 $HANDSEED\n5 2C"},
+        {"9 $HANDSEED\n5 20", "9 $HANDSEED\n5 2E"},
         {"5 1\n70 1", "5 1\n70 3"},
-        {"0 ENDTAB", recordTags("20", "ORVEX_10") + recordTags("26", "ORVEX_12_2") + "0 ENDTAB"},
-        {"2 ORVEX_12\n0 ENDBLK",
-         "2 ORVEX_12\n0 ENDBLK\n" + blockTags({"20", "21", "22", "23", "24"}, "Walls", "ORVEX_10") +
-             blockTags({"26", "27", "28", "29", "2A"}, "Doors", "ORVEX_12_2")},
-        {kFirst, insertTags("25", "8 Walls\n60 1\n", "ORVEX_10")},
-        {kSecond, insertTags("2B", "8 Doors\n", "ORVEX_12_2")},
-        {kGroups, "0 GROUP\n5 5\n330 4\n340 25\n0 GROUP\n5 6\n330 4\n340 25\n340 11"},
+        {"0 ENDTAB", recordTags(0x20, "ORVEX_10") + recordTags(0x27, "ORVEX_12_2") + "0 ENDTAB"},
+        {"2 ORVEX_12\n0 ENDBLK", "2 ORVEX_12\n0 ENDBLK\n" + blockTags(0x20, "Walls", "ORVEX_10") +
+                                     blockTags(0x27, "Doors", "ORVEX_12_2")},
+        {kFirst, insertTags(0x26, "8 Walls\n60 1\n", "ORVEX_10")},
+        {kSecond, insertTags(0x2D, "8 Doors\n", "ORVEX_12_2")},
+        {kGroups, "0 GROUP\n5 5\n330 4\n340 26\n0 GROUP\n5 6\n330 4\n340 26\n340 11"},
         {kOwned, ""},
-        {kOrder, "331 25\n5 FF\n331 11\n5 FE\n331 2B\n5 12"},
+        {kOrder, "331 26\n5 FF\n331 11\n5 FE\n331 2D\n5 12"},
     });
     EXPECT_TRUE(sameText(bytes, expected));
 }
@@ -156,10 +158,10 @@ TEST(Export, writesOldDrawingsAsTheyAre) {
     const std::string entities = "\n0 ENDSEC\n0 SECTION\n2 ENTITIES\n";
     const std::string mline = "0 MLINE\n5 10\n8 Walls\n2 STANDARD\n72 0\n73 0\n";
     const std::string end = "0 ENDSEC\n0 EOF";
-    const std::string block = blockTags({"", "11", "12", "13", "14"}, "Walls", "ORVEX_10");
-    const std::string insert = insertTags("15", "8 Walls\n", "ORVEX_10");
+    const std::string block = blockTags(0x10, "Walls", "ORVEX_10");
+    const std::string insert = insertTags(0x16, "8 Walls\n", "ORVEX_10");
     const std::string expected =
-        head + "16\n0 ENDSEC\n0 SECTION\n2 BLOCKS\n" + block + entities.substr(1) + insert + end;
+        head + "17\n0 ENDSEC\n0 SECTION\n2 BLOCKS\n" + block + entities.substr(1) + insert + end;
     const auto [bytes, warnings] =
         exported(dxf(head + "11" + entities + mline + end), {ExportForm::blocks, explode});
     EXPECT_TRUE(

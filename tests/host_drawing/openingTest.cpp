@@ -81,7 +81,9 @@ TEST(Opening, takesRegularFilesOnly) {
 TEST(Opening, tellsOfWhatIsOdd) {
     const std::string sample = sampleDrawing();
     const std::size_t lastLine = std::count(sample.begin(), sample.end(), '\n');
-    const auto odd = [&](const char* from, const char* to) { return replaced(sample, from, to); };
+    const auto odd = [&](const char* from, const std::string& to) {
+        return replaced(sample, from, to);
+    };
     const struct {
         std::string bytes;
         std::string text; // of the only warning; with its line where one is to blame
@@ -104,7 +106,6 @@ TEST(Opening, tellsOfWhatIsOdd) {
         {odd("340\n2F\n", ""), ": a multiline names its style by name alone"},
         {odd("  2\nWALL\n340\n2F\n", ""), ": a multiline contradicts itself, it names no style"},
         {odd("340\n2F\n", "340\nX\n"), ", its style's handle is no handle"},
-        {odd("340\n2F\n", "340\n2F\n340\n2F\n"), ", a value is there twice"},
         {odd("50\n 70\n     1", "50\n 70\n     3"), ", its justification is none of the three"},
         {odd("50\n 70\n     1", "50\n 70\n    -1"), ", a count is invalid"},
         {odd(" 71\n     1", " 71\n     x"), ", its flags are no number"},
@@ -119,7 +120,18 @@ TEST(Opening, tellsOfWhatIsOdd) {
         {odd(" 71\n2\n 49\n0.50", " 71\n3\n 49\n0.50"), ": a multiline style contradicts itself"},
         {odd(" 51\n45.000", " 51\nx"), ": a multiline style contradicts itself, a value is no fin"},
     };
+    for (const char* const field : {"2 WALL", "340 2F", "40 1", "70 1", "71 1", "72 3", "73 2",
+                                    "10 0", "20 0", "30 0", "210 0", "220 0", "230 1"}) {
+        EXPECT_THAT(warningsOf(odd("AcDbMline\n", "AcDbMline\n" + dxf(field))),
+                    HasSubstr(", a value is there twice"))
+            << field;
+    }
     EXPECT_EQ(warningsOf(sample), "");
+    // Data of other applications may stand before the vertices; what follows after them is theirs.
+    EXPECT_EQ(warningsOf(odd(" 11\n0.0\n 21\n0.0\n 31\n0.0\n 12\n1.00",
+                             "1000\nx\n 11\n0.0\n 21\n0.0\n 31\n0.0\n 12\n1.00")),
+              "");
+    EXPECT_EQ(warningsOf(odd("1001\nOTHER_APP\n", "1001\nOTHER_APP\n 11\n1.0\n 40\n1.0\n")), "");
     // All styles that contradict themselves are named.
     const std::string styles = warningsOf(dxf("0 SECTION\n2 OBJECTS\n0 MLINESTYLE\n2 A\n71 5\n"
                                               "0 MLINESTYLE\n2 B\n71 0\n0 MLINESTYLE\n2 C\n71 5"));
@@ -164,6 +176,9 @@ TEST(Opening, putsEntitiesIntoTheirBlocks) {
     EXPECT_EQ(room->basePoint, (KdGePoint3d{1.5, 2.5, 0.0}));
     EXPECT_EQ(room->record, &stubOf(*file, 0x1C));
     EXPECT_EQ(core.blocks().blockOf(stubOf(*file, 0x41)), room);
+    // A block that its section ends has what stands in it.
+    const auto open = openDrawing(dxf("0 SECTION\n2 BLOCKS\n0 BLOCK\n2 A\n0 LINE\n5 B\n0 ENDSEC"));
+    EXPECT_EQ(handles(*open->database().core().blocks().find(L"a")), (Handles{0xB}));
 }
 
 TEST(Opening, takesUsualValuesForWhatIsLeftOut) {
@@ -189,8 +204,9 @@ TEST(Opening, takesUsualValuesForWhatIsLeftOut) {
 
 TEST(Opening, readsStylesTablesAndVariables) {
     // What stands in another program's group of a record isn't the record's own.
-    const auto file = openDrawing(
-        replaced(sampleDrawing(), "\n  6\nDASHED\n", "\n  6\nDASHED\n102\n{X\n  6\nDOT\n102\n}\n"));
+    const auto file = openDrawing(replaced(
+        replaced(sampleDrawing(), "\n  6\nDASHED\n", "\n  6\nDASHED\n102\n{X\n  6\nDOT\n102\n}\n"),
+        "45.000\n 52\n90.0", "45.000\n 52\n135.0"));
     DatabaseCore& core = file->database().core();
     const auto* const style = dynamic_cast<KdDbMlineStyle*>(core.load(stubOf(*file, 0x2F)));
     ASSERT_NE(style, nullptr);
@@ -199,6 +215,7 @@ TEST(Opening, readsStylesTablesAndVariables) {
     EXPECT_EQ(style->values().flags, 1297);
     EXPECT_EQ(style->fillColor().colorIndex(), 2);
     EXPECT_DOUBLE_EQ(style->startAngle(), 0.7853981633974483);
+    EXPECT_DOUBLE_EQ(style->endAngle(), 2.356194490192345);
     double offset = 0.0;
     KdCmColor color;
     KdDbObjectId linetype;

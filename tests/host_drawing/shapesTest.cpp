@@ -157,6 +157,16 @@ TEST(Shapes, ofHatches) {
     expectNear(hatch.arcs[1].minor, 0.0, 1.0, 0.0);
     EXPECT_DOUBLE_EQ(hatch.arcs[1].start, 1.5 * kPi);
     EXPECT_DOUBLE_EQ(hatch.arcs[1].end, 2.5 * kPi); // past zero
+    // A spline whose degree, knots and points don't fit together is drawn as its points.
+    for (const char* const unfit :
+         {"94 0\n95 3\n96 2\n40 0\n40 1\n40 2", "94 26\n95 2\n96 2\n40 0\n40 1",
+          "94 2\n95 5\n96 2\n40 0\n40 0\n40 0\n40 1\n40 1", "94 1\n95 3\n96 2\n40 0\n40 0\n40 1",
+          "94 1\n95 4\n96 2\n40 0\n40 1\n40 0\n40 1"}) {
+        const auto spline = shapeOf<OutlinesShape>("0 HATCH\n92 0\n93 1\n72 4\n" +
+                                                   std::string(unfit) + "\n10 0\n20 2\n10 8\n20 6");
+        ASSERT_EQ(spline.paths.size(), 1U) << unfit;
+        EXPECT_EQ(spline.paths[0].vertices.size(), 2U) << unfit;
+    }
 }
 
 TEST(Shapes, ofDamagedEntitiesAreHarmless) {

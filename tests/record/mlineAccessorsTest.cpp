@@ -120,6 +120,27 @@ TEST_F(MlineAccessors, positionsAxesAndMitersReplaceWhatIsThere) {
     EXPECT_EQ(lines(2, 1).size(), 2U);
 }
 
+TEST_F(MlineAccessors, refuseANullMultilineAndNullValues) {
+    KdDbMline* const none = nullptr;
+    int number = 9;
+    double values[1][3] = {{9, 9, 9}};
+    KdDbMlineStyle* style = nullptr;
+    for (const int result :
+         {SetFlag(none, 2), GetFlag(none, &number), SetNumVertices(none, 3),
+          GetSegmentsSize(none, &number), SetSegmentsSize(none, 2), SetNumLine(none, 1, 0, 0),
+          GetNumLine(none, &number, 0, 0), SetLineArray(none, values[0], 0, 0),
+          GetLineArray(none, values[0], 3, 0, 0), SetVertices(none, values),
+          SetVertices(&mline, nullptr), GetVertices(none, values), GetVertices(&mline, nullptr),
+          SetAxis(none, values), SetAxis(&mline, nullptr), GetMlStyle(none, &style),
+          GetNormal(none, values[0]), SetNumLine(&mline, -1, 0, 0),
+          SetLineArray(&mline, nullptr, 0, 0)}) {
+        EXPECT_EQ(result, 0);
+    }
+    EXPECT_EQ(number, 9);
+    EXPECT_EQ(values[0][0], 9.0);
+    EXPECT_FALSE(isClosed(none));
+}
+
 TEST_F(MlineAccessors, theStyleIsOpenedWhenThereIsOne) {
     KdDbMlineStyle* style = nullptr;
     EXPECT_EQ(GetMlStyle(&mline, &style), 1);

@@ -126,6 +126,23 @@ TEST_F(StyleAccessors, linetypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
     EXPECT_EQ(offsets(3), (Offsets{1, 2, 3}));
 }
 
+TEST_F(StyleAccessors, refuseANullStyle) {
+    double offset = 9.0;
+    int color = 9;
+    const unsigned rgb = 9;
+    wchar_t text[] = L"a$b";
+    wchar_t* name = text;
+    EXPECT_EQ(SetNumElements(nullptr, 2), 0);
+    EXPECT_EQ(SetElemLtype(nullptr, &name, 1, &database), 0);
+    EXPECT_EQ(SetElemOffset(nullptr, &offset, 1), 0);
+    EXPECT_EQ(GetElemOffset(nullptr, &offset, 1), 0);
+    EXPECT_EQ(SetElemColor(nullptr, &color, 1), 0);
+    EXPECT_EQ(SetElemRgb(nullptr, &rgb, 1), 0);
+    EXPECT_EQ(SetElemName(nullptr, &name, 1), 0);
+    EXPECT_EQ(SetFlag(static_cast<KdDbMlineStyle*>(nullptr), 1), 0);
+    EXPECT_EQ(offset, 9.0);
+}
+
 TEST_F(StyleAccessors, writesEachFlagForItself) {
     using Style = KdDbMlineStyle;
     const std::pair<int, bool (Style::*)() const> flags[] = {
