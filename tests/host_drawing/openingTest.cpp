@@ -114,6 +114,8 @@ TEST(Opening, tellsOfWhatIsOdd) {
         {odd(" 72\n     3\n", ""), ", a count is missing"},
         {odd(" 12\n1.00\n 22\n0.00\n", " 22\n0.00\n 12\n1.00\n"), ", a vertex is not complete"},
         {odd(" 22\n0.00\n 32\n0.0\n", " 32\n0.0\n 22\n0.00\n"), ", a vertex is not complete"},
+        {odd(" 13\n0.0\n 23\n1.0\n 33\n0.0\n", " 13\n0.0\n"), ", its lists don't match"},
+        {dxf("0 MLINE\n2 A\n72 1\n73 0\n11 1\n21 2\n12 1\n22 0\n13 0"), ", its last vertex is not"},
         {odd(" 13\n0.0\n 23\n1.0", " 13\n0.0"), ", a vertex is not complete"},
         {odd(" 12\n1.00\n", " 12\n1.00\n 12\n1.0\n"), ", a vertex is out of order"},
         {odd("340\n2F", "340\nFFF"), ": a multiline names a style that the drawing doesn't have"},
