@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-class KdGePoint3d;
+struct KdGePoint3d;
 struct KdDbStub;
 
 namespace orvex {

@@ -43,6 +43,7 @@ public:
     void start(const ToolKind& tool, int cycles) {
         m_tool = &tool;
         m_left = cycles;
+        m_picksLeft = kMostPicks;
     }
 
     PromptAnswer ask(const PromptRequest& request) override {
@@ -51,7 +52,7 @@ public:
         if (request.kind == PromptKind::keyword) {
             answer.kind = PromptAnswer::Kind::keyword;
             answer.keyword = m_tool->keyword;
-        } else if (request.kind != PromptKind::entity || m_left <= 0) {
+        } else if (request.kind != PromptKind::entity || m_left <= 0 || --m_picksLeft < 0) {
             answer.kind = PromptAnswer::Kind::empty;
         } else if (!request.keywords.empty() && chance() < 0.5) {
             answer.kind = PromptAnswer::Kind::keyword;
@@ -66,6 +67,8 @@ public:
     [[nodiscard]] const Tally& tally() const { return m_tally; }
 
 private:
+    static constexpr int kMostPicks = 1000; // where nothing is left that fits
+
     double chance() { return std::uniform_real_distribution<>(0.0, 1.0)(m_random); }
     template <class List>
     auto& oneOf(List& list) {
@@ -79,8 +82,10 @@ private:
         KdDbStub& stub = onFirst ? *first->mline : *oneOf(m_mlines);
         const Content content = contentOf(stub);
         const orvex::MlineChain chain(*content);
-        const auto track = chain.track(static_cast<unsigned>(chance() * chain.segmentCount()),
-                                       static_cast<unsigned>(chance() * chain.elementCount()));
+        // One draw a statement: in the operands of one, compilers choose the order.
+        const auto element = static_cast<unsigned>(chance() * chain.elementCount());
+        const auto segment = static_cast<unsigned>(chance() * chain.segmentCount());
+        const auto track = chain.track(segment, element);
         if (chance() < 0.2) { // the view may change between two picks
             m_session.view().setView({500.0, 500.0}, 400.0 + 800.0 * chance());
         }
@@ -139,6 +144,7 @@ private:
     std::mt19937 m_random;
     const ToolKind* m_tool = nullptr;
     int m_left = 0;
+    int m_picksLeft = 0;
     std::optional<ToolGhost> m_ghost;
     std::vector<Content> m_before; // by multiline
     Tally m_tally;
@@ -155,8 +161,8 @@ protected:
             const bool isClosed = i % 4 == 3;
             script += "MLINE\nS\n" + std::to_string(10 + 7 * i % 40) + "\n";
             for (int points = isClosed ? 4 : 2 + i % 4; points > 0; --points) {
-                script +=
-                    std::to_string(place(random)) + "," + std::to_string(place(random)) + "\n";
+                const std::string y = std::to_string(place(random));
+                script += std::to_string(place(random)) + "," + y + "\n";
             }
             script += isClosed ? "C\n" : "\n";
         }
