@@ -33,7 +33,9 @@ std::vector<double> mirrored(std::span<const double> list, double length) {
         result.push_back(stretch.toTrackEnd ? 0.0 : length - stretch.end);
         const bool isLast = &stretch == &stretches.back();
         if (!isLast || stretch.begin != 0.0 || spellsEnd) {
-            result.push_back(length - stretch.begin);
+            // What would begin beyond the end is empty, and stays it.
+            result.push_back(stretch.toTrackEnd ? std::max(0.0, length - stretch.begin)
+                                                : length - stretch.begin);
         }
     }
     return result;
