@@ -5,6 +5,7 @@
 #include "EngineWorld.h"
 #include "ObjectContent.h"
 #include "parameterLists.h"
+#include "promptLibrary.h"
 
 using namespace mledit;
 
@@ -72,6 +73,12 @@ TEST_F(EditCycle, endsWithTheStatusOfTheLastPrompt) {
     TestRun fresh;
     EXPECT_EQ(runTool(fresh, EditTool(), resources), 5100) << "without a step nothing runs";
     EXPECT_TRUE(user.prompts.empty());
+}
+
+TEST_F(EditCycle, offersNoKeywordsThatAnotherCommandLeft) {
+    kdedInitGet(0, L"OTHER");
+    play({onA, cancel()});
+    EXPECT_EQ(user.prompts, (Prompts{L"#4004", L"#4005"}));
 }
 
 TEST_F(EditCycle, repeatsItsPromptsUntilAMultilineIsPicked) {

@@ -80,6 +80,22 @@ TEST_F(VertexShift, endAnglesTurnWithTheNormalAndTheUserSystem) {
     }
 }
 
+TEST_F(VertexShift, aSegmentWithoutLengthHasNoDirection) {
+    const auto make = [this] {
+        KdDbMline* const mline = add("0,0 10,0 10,0 20,0 : 1 -1");
+        storeLineList(mline, 1, 0, {1, 0, 3});
+        storeLineList(mline, 1, 1, {-1, 0, 3});
+        return mline;
+    };
+    KdDbMline* const start = make();
+    move(start, 1, {5, 0, 0});
+    EXPECT_EQ(chain(start), "0,0 5,0 10,0 20,0");
+    EXPECT_EQ(lists(start, 1), "1 | -1");
+    KdDbMline* const end = make();
+    move(end, 2, {15, 0, 0});
+    EXPECT_EQ(chain(end), "0,0 10,0 10,0 20,0") << "it stays";
+}
+
 // Also where it points the other way than a new one would, in the plane of x and z.
 TEST_F(VertexShift, theMiterOfTheNextVertexKeepsItsSense) {
     for (const double sense : {1.0, -1.0}) {

@@ -55,6 +55,17 @@ TEST(BinaryForm, editsAsTheTextFormDoes) {
     }
 }
 
+// A value that doesn't fit into its two bytes.
+TEST(BinaryForm, isNotSavedWithWhatItHasNoRoomFor) {
+    const auto file = openDrawing(binaryOf(sampleDrawing()));
+    file->database().core().setVariable("CMLJUST", 70000);
+    const auto failure = file->save("/dev/null");
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->cause, FailureCause::unwritableOutput);
+    EXPECT_THAT(messageOf(*failure),
+                ::testing::StartsWith("/dev/null: the value 70000 of group code 70: "));
+}
+
 // A line end in a text and a number that is no number have no text of their own.
 TEST(BinaryForm, keepsOddTagsOfAnEditedRecord) {
     std::string bytes = binaryOf(sampleDrawing());

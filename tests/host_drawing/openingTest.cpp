@@ -129,6 +129,7 @@ TEST(Opening, tellsOfWhatIsOdd) {
             << field;
     }
     EXPECT_EQ(warningsOf(sample), "");
+    EXPECT_EQ(warningsOf(odd("AcDbMline\n", "AcDbMline\n102\n{X\n 40\nx\n102\n}\n")), "");
     // Data of other applications may stand before the vertices; what follows after them is theirs.
     EXPECT_EQ(warningsOf(odd(" 11\n0.0\n 21\n0.0\n 31\n0.0\n 12\n1.00",
                              "1000\nx\n 11\n0.0\n 21\n0.0\n 31\n0.0\n 12\n1.00")),

@@ -43,6 +43,7 @@ TEST_F(VoDwgStreamTest, handlesCountTheirBytesHighestFirst) {
     VoFlatMemBuf buffer;
     VoDwgStream stream(&buffer);
     stream.writeHandle(KdDbHandle{0xABC});
+    EXPECT_EQ(bytesOf(buffer)[0], 0x02);
     stream.seek(0, VoIO::fromStart);
     KdDbHandle handle;
     stream.readHandle(handle);
