@@ -11,6 +11,17 @@ namespace orvex {
 
 namespace {
 
+// The character whose number, of three digits, the text begins with; 0 when none can be seen.
+wchar_t numberedCharacter(std::wstring_view text) {
+    constexpr std::size_t kDigits = 3;
+    const std::wstring_view digits = text.substr(0, kDigits);
+    if (digits.size() < kDigits || digits.find_first_not_of(L"0123456789") != std::string::npos) {
+        return 0;
+    }
+    const int number = (digits[0] - L'0') * 100 + (digits[1] - L'0') * 10 + (digits[2] - L'0');
+    return number >= L' ' && number <= 255 ? static_cast<wchar_t>(number) : L'\0';
+}
+
 // %%d, %%p and %%c stand for signs, %%u and %%o switch lines on and off, %%nnn is a character.
 std::wstring replaceSigns(std::wstring_view text) {
     std::wstring result;
@@ -18,6 +29,11 @@ std::wstring replaceSigns(std::wstring_view text) {
         if (!text.starts_with(L"%%") || text.size() < 3) {
             result += text.front();
             text.remove_prefix(1);
+            continue;
+        }
+        if (const wchar_t character = numberedCharacter(text.substr(2)); character != 0) {
+            result += character;
+            text.remove_prefix(5);
             continue;
         }
         const wchar_t sign = text[2];

@@ -106,12 +106,6 @@ TEST(Shapes, ofTexts) {
     EXPECT_EQ(text.vertical, 2);
     EXPECT_EQ(text.lines, (std::vector<std::wstring>{L"45\u00B0 top\u00E9"}));
     expectNear(shapeOf<TextShape>("0 TEXT\n10 1\n20 2\n11 5\n21 6\n1 x").position, 1.0, 2.0, 0.0);
-    for (const char* const spanning : {"3", "5"}) {
-        const auto between = shapeOf<TextShape>("0 TEXT\n10 1\n20 2\n11 4\n21 6\n72 " +
-                                                std::string(spanning) + "\n1 x");
-        expectNear(between.position, 1.0, 2.0, 0.0);
-        expectNear(between.direction, 0.6, 0.8, 0.0);
-    }
 
     const auto paragraph = shapeOf<TextShape>(
         "0 MTEXT\n10 1\n40 2\n71 5\n3 {\\fArial|b1;Bold} \\S1^2;\\P\\H2.5x;sec\n1 ond \\\\ "
@@ -122,10 +116,67 @@ TEST(Shapes, ofTexts) {
     EXPECT_EQ(paragraph.lines, (std::vector<std::wstring>{L"Bold 1/2", L"second \\ { "}));
 }
 
+TEST(Shapes, ofControlCodesInTexts) {
+    const struct {
+        const char* kind;
+        const char* text;
+        std::vector<std::wstring> lines;
+    } cases[] = {
+        {"TEXT", "%%d%%D%%p%%P%%c%%C", {L"\u00B0\u00B0\u00B1\u00B1\u2205\u2205"}},
+        {"TEXT", "%%ua%%Ub%%oc%%Od%%ke%%Kf", {L"abcdef"}},
+        {"TEXT", "%%%%%x 5% %%", {L"%%%x 5% %%"}},
+        {"TEXT", "%%065%%2550%%032%%176", {L"A\u00FF0 \u00B0"}},
+        {"TEXT", "%%031%%256%%06/%%06:%%65", {L"%%031%%256%%06/%%06:%%65"}}, // no characters
+        {"MTEXT", "a\\Pb\\Nc\\Xd\\~e%%d", {L"a", L"b", L"c", L"d e\u00B0"}},
+        {"MTEXT", "{\\La\\l\\Ob\\o\\Kc\\k}\\}", {L"abc}"}},
+        {"MTEXT", "a^Ib^ c^", {L"a b^c^"}},
+        {"MTEXT", "\\S1#2;\\S3/4;\\Sx\\fArial\\", {L"1/23/4xArial\\"}}, // without a semicolon
+    };
+    for (const auto& [kind, text, lines] : cases) {
+        const std::string tags = std::string("0 ") + kind + "\n1 " + text;
+        EXPECT_EQ(shapeOf<TextShape>(tags).lines, lines) << text;
+    }
+}
+
+// At their first point, (1,2), or at the second one, which they have in code 11 and which of their
+// own points stands there.
+TEST(Shapes, ofAlignedTexts) {
+    const struct {
+        const char* tags;
+        double x;
+        int horizontal;
+        int vertical;
+        KdGeVector3d direction;
+    } cases[] = {
+        {"TEXT\n72 4\n73 1\n11 4", 4.0, 1, 2, {0.0, 1.0, 0.0}}, // the middle of all
+        {"TEXT\n72 2\n73 3\n11 4", 4.0, 2, 3, {0.0, 1.0, 0.0}},
+        {"TEXT\n72 0\n73 1\n11 4", 4.0, 0, 1, {0.0, 1.0, 0.0}},
+        {"TEXT\n72 9\n73 9\n11 4", 4.0, 2, 3, {0.0, 1.0, 0.0}},
+        {"TEXT\n72 2\n73 3", 1.0, 0, 0, {0.0, 1.0, 0.0}},
+        {"TEXT\n72 5\n73 3\n11 4\n21 2", 1.0, 0, 0, {1.0, 0.0, 0.0}},
+        {"TEXT\n72 3\n11 1\n21 2", 1.0, 0, 0, {0.0, 1.0, 0.0}}, // no way to go
+        {"TEXT\n72 3\n11 4\n21 6", 1.0, 0, 0, {0.6, 0.8, 0.0}},
+        {"TEXT\n72 3", 1.0, 0, 0, {0.0, 1.0, 0.0}},
+        {"MTEXT", 1.0, 0, 3, {0.0, 1.0, 0.0}}, // at the top left
+        {"MTEXT\n71 8\n11 2", 1.0, 1, 1, {1.0, 0.0, 0.0}},
+        {"MTEXT\n71 10\n11 0", 1.0, 2, 1, {0.0, 1.0, 0.0}},
+        {"MTEXT\n71 0", 1.0, 0, 3, {0.0, 1.0, 0.0}},
+    };
+    for (const auto& [tags, x, horizontal, vertical, direction] : cases) {
+        SCOPED_TRACE(tags);
+        const auto text = shapeOf<TextShape>("0 " + std::string(tags) + "\n10 1\n20 2\n50 90\n1 x");
+        EXPECT_EQ(text.position.x, x);
+        EXPECT_EQ(text.horizontal, horizontal);
+        EXPECT_EQ(text.vertical, vertical);
+        expectNear(text.direction, direction.x, direction.y, direction.z);
+    }
+}
+
 TEST(Shapes, ofInsertsWithTheirAttributes) {
     const auto insert = shapeOf<InsertShape>(
         "0 INSERT\n66 1\n2 Room\n10 1\n20 2\n41 2\n42 3\n50 90\n70 4\n71 32767\n44 10\n45 20\n"
-        "0 ATTRIB\n10 7\n20 8\n40 1\n1 shown\n70 0\n0 ATTRIB\n1 hidden\n70 1\n0 SEQEND");
+        "0 ATTRIB\n10 7\n20 8\n11 9\n40 1\n1 shown\n70 0\n73 1\n74 3\n"
+        "0 ATTRIB\n1 hidden\n70 1\n0 SEQEND");
     EXPECT_EQ(insert.block, L"Room");
     expectNear(insert.xAxis, 0.0, 2.0, 0.0);
     expectNear(insert.yAxis, -3.0, 0.0, 0.0);
@@ -136,6 +187,7 @@ TEST(Shapes, ofInsertsWithTheirAttributes) {
     expectNear(insert.rowStep, -20.0, 0.0, 0.0);
     ASSERT_EQ(insert.attributes.size(), 1U);
     EXPECT_EQ(insert.attributes[0].lines[0], L"shown");
+    EXPECT_EQ(insert.attributes[0].vertical, 3);
 }
 
 TEST(Shapes, ofHatches) {
