@@ -24,11 +24,19 @@ QTextCodec* codecFor(std::string_view codePage) {
         const char* codec;
     };
     static constexpr std::array kNames{
-        Names{"ANSI_874", "windows-874"}, Names{"ANSI_932", "windows-31j"},
-        Names{"ANSI_936", "GBK"},         Names{"ANSI_949", "windows-949"},
-        Names{"ANSI_950", "Big5"},        Names{"ANSI_1361", "johab"},
-        Names{"GB2312", "GBK"},           Names{"UTF-8", "UTF-8"},
-        Names{"UTF8", "UTF-8"},           Names{"MACINTOSH", "macintosh"},
+        Names{"ANSI_874", "windows-874"},
+        Names{"ANSI_932", "windows-31j"},
+        Names{"ANSI_936", "GBK"},
+        Names{"ANSI_949", "windows-949"},
+        Names{"ANSI_950", "Big5"},
+        Names{"ANSI_1361", "johab"},
+        Names{"GB2312", "GBK"},
+        Names{"UTF-8", "UTF-8"},
+        Names{"UTF8", "UTF-8"},
+        Names{"MACINTOSH", "macintosh"},
+        Names{"BIG5", "Big5"},
+        Names{"KSC5601", "windows-949"},
+        Names{"DOS932", "windows-31j"},
     };
     std::string page(trimBlanks(codePage));
     std::ranges::transform(page, page.begin(), [](char c) {

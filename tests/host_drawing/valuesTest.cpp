@@ -102,6 +102,17 @@ TEST(DrawingText, readsAndWritesInTheFilesCodePage) {
         {"AC1015", "ANSI_932", "\x95\x5C", L"\u8868"},
         {"AC1015", "ANSI_936", "\xC7\xBD", L"\u5899"},
         {"AC1015", "ANSI_1251", "\xD1\xF2", L"\u0421\u0442"},
+        {"AC1015", "DOS850", "\x81\\U+0416", L"\u00FC\u0416"},
+        {"AC1015", "dos866", "\x80", L"\u0410"},
+        {"AC1015", "ISO8859-5", "\xB0", L"\u0410"},
+        {"AC1015", "BIG5", "\xC0\xF0", L"\u7246"},
+        {"AC1015", "KSC5601", "\xBA\xAE", L"\uBCBD"},
+        {"AC1015", "", "\\U+007F", L"\x7F"},
+        {"AC1015", "", "\\U+DBFF\\U+DFFF", L"\U0010FFFF"},
+        {"AC1015", "", "\\U+D800\\U+E000", L"\xD800\xE000"}, // halves of nothing
+        {"AC1015", "", "\\U+DC00\\U+D800x", L"\xDC00\xD800x"},
+        {"AC1015", "", "\\U+0/00\\U+0:00\\U+0@00\\U+0G00\\U+0`00\\U+0g00",
+         L"\\U+0/00\\U+0:00\\U+0@00\\U+0G00\\U+0`00\\U+0g00"}, // next to the digits
         {"", "", "\xE4", L"\u00E4"},
         {"AC1015", "NO_SUCH_PAGE", "\xE4", L"\u00E4"},
         {"AC1021", "", "a\\U+000Ab", L"a\nb"},
@@ -116,6 +127,8 @@ TEST(DrawingText, readsAndWritesInTheFilesCodePage) {
     const DrawingText text("AC1021", "");
     EXPECT_EQ(text.decode("\xFFx"), L"\uFFFDx");
     EXPECT_EQ(text.encode(std::wstring(1, wchar_t{0xD800})), "\\U+D800");
+    EXPECT_EQ(text.decode("\\u+00fc\\U+a0Af"), L"\u00FC\uA0AF");
+    EXPECT_EQ(text.decode("\\U+DBFF\\U+0041"), L"\xDBFF" + std::wstring(L"A"));
 }
 
 } // namespace
