@@ -24,6 +24,8 @@ public:
     // The paper space whose entities stand among those of model space.
     [[nodiscard]] bool isActivePaperSpace(const BlockEntities& block) const;
 
+    // Of several texts for one record the first counts: what leaves with its owner doesn't come
+    // back for what it named.
     void replace(const RecordSpan& span, std::string text);
     void addEntity(const BlockEntities& block, std::string_view text);
     void addBlocks(std::string text) { m_newBlocks = std::move(text); }

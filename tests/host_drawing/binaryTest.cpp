@@ -66,13 +66,17 @@ TEST(BinaryForm, isNotSavedWithWhatItHasNoRoomFor) {
                 ::testing::StartsWith("/dev/null: the value 70000 of group code 70: "));
 }
 
-// A line end in a text and a number that is no number have no text of their own.
+// A line end in a text and numbers that are no numbers have no text of their own; of those that
+// would have the same one each stays where it is.
 TEST(BinaryForm, keepsOddTagsOfAnEditedRecord) {
     std::string bytes = binaryOf(sampleDrawing());
     const std::string handle("\x05\0"
                              "51\0",
                              5);
-    const std::string odd("\x01\0a\nb\r\0\x30\0\x01\x02\x03\x04\x05\x06\xF8\x7F", 17);
+    const std::string odd("\x01\0a\nb\r\0\x30\0\x01\x02\x03\x04\x05\x06\xF8\x7F"
+                          "\x30\0\x02\x02\x03\x04\x05\x06\xF8\x7F\x30\0\0\0\0\0\0\0\xF0\x7F"
+                          "\x30\0\0\0\0\0\0\0\xF0\xFF",
+                          47);
     ASSERT_NE(bytes.find(handle), std::string::npos);
     const std::size_t place = bytes.find(handle) + handle.size();
     bytes.insert(place, odd);
@@ -175,6 +179,21 @@ TEST(Conversion, keepsValuesThereAndBack) {
     EXPECT_EQ(converted(binaryOf(text), DrawingForm::binary), binaryOf(text));
 }
 
+TEST(Conversion, readsNumbersAsProgramsWriteThem) {
+    const struct {
+        const char* tag;
+        const char* value;
+    } tags[] = {
+        {"70 +5", "5"},       {"70 \t-7 ", "-7"},    {"90 0012", "12"},        {"40 +1.50", "1.5"},
+        {"40 1E3", "1000.0"}, {"310  0aF9", "0AF9"}, {"310 abcdef", "ABCDEF"}, {"290 +255", "255"},
+    };
+    for (const auto& [tag, value] : tags) {
+        const std::string back = converted(
+            binaryOf(dxf("0 SECTION\n" + std::string(tag) + "\n0 EOF")), DrawingForm::text);
+        EXPECT_THAT(back, HasSubstr("\n" + std::string(value) + "\n")) << tag;
+    }
+}
+
 // Where another kind of value begins and ends: a value takes as many bytes as its kind has.
 TEST(Conversion, knowsTheKindOfEachCode) {
     const struct {
@@ -220,6 +239,17 @@ TEST(Conversion, refusesWhatTheBinaryFormLacks) {
         {"40 one", "finite"},
         {"310 ABC", "odd"},
         {"310 AX", "hexadecimal"},
+        {"310 GA", "hexadecimal"},
+        {"310 0/", "hexadecimal"}, // and what else stands next to the digits
+        {"310 :0", "hexadecimal"},
+        {"310 0@", "hexadecimal"},
+        {"310 `0", "hexadecimal"},
+        {"70 +", "integer"},
+        {"70 +-5", "integer"},
+        {"70 ", "integer"},
+        {"290 -1", "too large"},
+        {"90 -2147483649", "too large"},
+        {std::string("1 a\0b", 5), "zero byte"},
         {"310 " + chunk.substr(2), ""},
         {"310 " + chunk, "255"},
         {"-1 x", "no such group code"},

@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <map>
 #include <regex>
 #include <unistd.h>
 
@@ -45,6 +46,7 @@ constexpr const char* kFirst = "0 MLINE\n5 10\n102 {ACAD_XDICTIONARY\n360 A\n102
 constexpr const char* kSecond = "0 MLINE\n5 12\n8 Doors\n2 STANDARD\n72 0\n73 0";
 constexpr const char* kOwned = "0 DICTIONARY\n5 A\n330 10\n3 MINE\n360 B\n3 YOURS\n360 6\n"
                                "0 XRECORD\n5 B\n330 A";
+constexpr const char* kAlone = "3 ALONE\n350 5"; // in the dictionary of groups
 constexpr const char* kGroups = "0 GROUP\n5 5\n330 4\n340 10\n0 GROUP\n5 6\n330 4\n340 10\n340 11";
 constexpr const char* kOrder = "331 10\n5 FF\n331 11\n5 FE";
 
@@ -55,6 +57,27 @@ std::string changed(const std::vector<std::pair<const char*, std::string>>& chan
         text = replaced(text, dxf(from), dxf(to));
     }
     return text;
+}
+
+// A part of the drawing in another form, and what has to become of it.
+struct Part {
+    const char* part;
+    std::string before;
+    std::string after;
+};
+Part kept(const char* part, const std::string& text) {
+    return {part, text, text};
+}
+// The drawing with such parts; what isn't one of them becomes the usual.
+std::pair<std::string, std::string> beforeAndAfter(const std::vector<Part>& parts,
+                                                   std::map<const char*, std::string> usual) {
+    std::vector<std::pair<const char*, std::string>> before;
+    for (const Part& each : parts) {
+        before.emplace_back(each.part, each.before);
+        usual[each.part] = each.after;
+    }
+    const std::vector<std::pair<const char*, std::string>> after(usual.begin(), usual.end());
+    return {changed(before), changed(after)};
 }
 
 // A quarter of a circle, a triangle that is looked at from below, and a line.
@@ -119,19 +142,34 @@ Exported exported(const std::string& bytes, const MlineExport& how) {
 }
 
 TEST(Export, putsPlainEntitiesInTheirPlace) {
-    const auto [bytes, warnings] = exported(drawing(), {ExportForm::lines, explode});
-    EXPECT_EQ(warnings, "");
-    const std::string expected = changed({
+    const std::string first = partTags(0x20, "330 2\n100 AcDbEntity\n8 Walls\n60 1\n");
+    const std::string firstPlace = "331 20\n5 FF\n331 21\n5 FF\n331 22\n5 FF\n331 11\n5 FE";
+    const std::string secondPlace = "\n331 23\n5 12\n331 24\n5 12\n331 25\n5 12";
+    const std::map<const char*, std::string> usual{
         {"9 $HANDSEED\n5 20", "9 $HANDSEED\n5 26"},
-        {kFirst, partTags(0x20, "330 2\n100 AcDbEntity\n8 Walls\n60 1\n")},
+        {kFirst, first},
         {kSecond, partTags(0x23, "330 2\n100 AcDbEntity\n8 Doors\n")},
         {kGroups, "0 GROUP\n5 5\n330 4\n340 20\n340 21\n340 22\n"
                   "0 GROUP\n5 6\n330 4\n340 20\n340 21\n340 22\n340 11"},
         {kOwned, ""},
-        {kOrder, "331 20\n5 FF\n331 21\n5 FF\n331 22\n5 FF\n331 11\n5 FE\n"
-                 "331 23\n5 12\n331 24\n5 12\n331 25\n5 12"},
-    });
-    EXPECT_TRUE(sameText(bytes, expected));
+        {kOrder, firstPlace + secondPlace},
+    };
+    const std::string line = "0 LINE\n5 10\n"; // which may be meant as well by what names 10
+    const std::vector<std::vector<Part>> cases{
+        {},
+        {kept(kOrder, "")},
+        {kept("330 3\n330 2", "330 3\n330 9"), {kOrder, kOrder, firstPlace}}, // another block's
+        {kept("330 3\n330 2", ""), {kOrder, kOrder, firstPlace}},
+        {{kFirst, line + kFirst, line + first},
+         kept(kGroups, kGroups),
+         {kOrder, kOrder, kOrder + secondPlace}},
+    };
+    for (const auto& parts : cases) {
+        const auto [before, after] = beforeAndAfter(parts, usual);
+        const auto [bytes, warnings] = exported(before, {ExportForm::lines, explode});
+        EXPECT_EQ(warnings, "");
+        EXPECT_TRUE(sameText(bytes, after)) << before;
+    }
 }
 
 TEST(Export, putsInsertsInTheirPlace) {
@@ -152,20 +190,47 @@ TEST(Export, putsInsertsInTheirPlace) {
     EXPECT_TRUE(sameText(bytes, expected));
 }
 
-// Without a table of block records, and without classes.
-TEST(Export, writesOldDrawingsAsTheyAre) {
-    const std::string head = "0 SECTION\n2 HEADER\n9 $ACADVER\n1 AC1009\n9 $HANDSEED\n5 ";
-    const std::string entities = "\n0 ENDSEC\n0 SECTION\n2 ENTITIES\n";
+// Old ones without a table of block records, owners and classes; one that doesn't say its version
+// gets one that has them.
+TEST(Export, writesEachVersionAsItIs) {
+    const auto edited = [](const std::string& tags, const char* what, const char* with) {
+        return std::regex_replace(tags, std::regex(what), with);
+    };
+    const auto header = [](const std::string& version, const std::string& seed) {
+        return "0 SECTION\n2 HEADER\n9 $ACADVER\n1 " + version + "\n9 $HANDSEED\n5 " + seed +
+               "\n0 ENDSEC\n";
+    };
+    const std::string old = header("AC1009", "11");
+    const std::string start = "0 SECTION\n2 ENTITIES\n";
     const std::string mline = "0 MLINE\n5 10\n8 Walls\n2 STANDARD\n72 0\n73 0\n";
     const std::string end = "0 ENDSEC\n0 EOF";
-    const std::string block = blockTags(0x10, "Walls", "ORVEX_10");
-    const std::string insert = insertTags(0x16, "8 Walls\n", "ORVEX_10");
-    const std::string expected =
-        head + "17\n0 ENDSEC\n0 SECTION\n2 BLOCKS\n" + block + entities.substr(1) + insert + end;
-    const auto [bytes, warnings] =
-        exported(dxf(head + "11" + entities + mline + end), {ExportForm::blocks, explode});
-    EXPECT_TRUE(
-        sameText(bytes, dxf(std::regex_replace(expected, std::regex("(330|100) [^\n]*\n"), ""))));
+    const std::string parts = partTags(0x11, "100 AcDbEntity\n8 Walls\n");
+    const std::string blocks = "0 SECTION\n2 BLOCKS\n";
+    const std::string oldBlock = blocks + blockTags(0x10, "Walls", "ORVEX_10") + "0 ENDSEC\n" +
+                                 start + insertTags(0x16, "8 Walls\n", "ORVEX_10");
+    const std::string record = edited(recordTags(0x12, "ORVEX_10"), "330 1\n", "330 11\n");
+    const std::string block = blockTags(0x12, "Walls", "ORVEX_10");
+    const std::string insert = insertTags(0x18, "8 Walls\n", "ORVEX_10");
+    const struct {
+        std::string head;
+        ExportForm form;
+        std::string expected;
+    } cases[] = {
+        {old, ExportForm::lines,
+         edited(header("AC1009", "14") + start + parts, "(330|100) [^\n]*\n", "")},
+        {old, ExportForm::blocks,
+         edited(header("AC1009", "17") + oldBlock, "(330|100) [^\n]*\n", "")},
+        {"", ExportForm::lines, header("AC1015", "14") + start + parts},
+        {"", ExportForm::blocks,
+         header("AC1015", "19") +
+             "0 SECTION\n2 TABLES\n0 TABLE\n2 BLOCK_RECORD\n5 11\n330 0\n100 AcDbSymbolTable\n" +
+             "70 1\n" + record + "0 ENDTAB\n0 ENDSEC\n" + blocks + block + "0 ENDSEC\n" + start +
+             edited(insert, "330 2\n", "")},
+    };
+    for (const auto& [head, form, expected] : cases) {
+        const auto result = exported(dxf(head + start + mline + end), {form, explode});
+        EXPECT_TRUE(sameText(result.bytes, dxf(expected + end)));
+    }
 }
 
 TEST(Export, leavesWhatNothingCanStandFor) {
@@ -178,36 +243,59 @@ TEST(Export, leavesWhatNothingCanStandFor) {
                         "multiline #12 stays as it is: no element\n");
 }
 
+// The bytes without the multiline 10, and what is told.
+Exported erased(const std::string& bytes) {
+    const auto file = openDrawing(bytes);
+    file->database().core().changes().beginCommand();
+    file->database().core().erase(stubOf(*file, 0x10));
+    file->database().core().changes().endCommand();
+    const auto path =
+        std::filesystem::temp_directory_path() / ("erase-" + std::to_string(getpid()) + ".dxf");
+    EXPECT_FALSE(file->save(path.string()));
+    std::filesystem::remove(path);
+    Exported result{file->bytes(), {}};
+    for (const DrawingWarning& warning : file->savingWarnings()) {
+        result.warnings += warning.text + "\n";
+    }
+    return result;
+}
+
 TEST(Erasing, takesAMultilineOutOfWhatNamesIt) {
-    const auto erased = [](const std::string& bytes, std::string& warnings) {
-        const auto file = openDrawing(bytes);
-        file->database().core().changes().beginCommand();
-        file->database().core().erase(stubOf(*file, 0x10));
-        file->database().core().changes().endCommand();
-        const auto path =
-            std::filesystem::temp_directory_path() / ("erase-" + std::to_string(getpid()) + ".dxf");
-        EXPECT_FALSE(file->save(path.string()));
-        std::filesystem::remove(path);
-        for (const DrawingWarning& warning : file->savingWarnings()) {
-            warnings += warning.text + "\n";
-        }
-        return file->bytes();
+    const std::map<const char*, std::string> usual{{kFirst, ""},
+                                                   {kAlone, ""},
+                                                   {kGroups, "0 GROUP\n5 6\n330 4\n340 11"},
+                                                   {kOwned, ""},
+                                                   {kOrder, "331 11\n5 FE"}};
+    const std::string end = " can't be read and still names what was erased\n";
+    const std::string order = "the table of drawing order #C" + end;
+    const struct {
+        std::vector<Part> parts;
+        std::string warnings;
+    } cases[] = {
+        {{}, ""},
+        {{kept(kOrder, "331 10\n5 FF\n331 x\n5 FE")}, order},
+        {{kept(kOrder, "331 10\n331 11\n5 FE")}, order}, // without a place
+        {{kept(kOrder, "331 11\n5 FE\n331 10")}, order},
+        {{kept(kOrder, "331 x\n331 11")}, ""}, // odd, but nothing of it leaves
+        {{{kAlone, "350 5\n3 ALONE\n360 5\n3 X\n350 x", "350 5\n3 X\n350 x"}}, ""},
+        {{kept(kAlone, kAlone), kept(kGroups, "0 GROUP\n5 6\n330 4\n340 10\n340 x")},
+         "the group #6" + end},
+        {{kept(kAlone, kAlone), kept(kGroups, "0 GROUP\n5 6\n330 4\n340 11\n340 x")}, ""},
+        {{kept(kAlone, kAlone), {kGroups, "0 GROUP\n5 5\n340 10", ""}}, ""}, // nobody's
+        {{kept(kOwned, "0 DICTIONARY\n5 A\n330 11\n3 MINE\n360 B\n0 XRECORD\n5 B\n330 A")}, ""},
+        {{kept(kOwned, "0 DICTIONARY\n5 D\n330 10")}, ""},
+        // Groups that belong to it go with it.
+        {{kept(kAlone, kAlone),
+          {kGroups, "0 GROUP\n5 5\n330 A\n340 10\n0 GROUP\n5 6\n330 A\n340 10\n340 11", ""},
+          {kOwned, "0 DICTIONARY\n5 A\n330 10\n3 ONE\n360 5\n3 TWO\n360 6", ""}},
+         ""},
     };
-    std::string warnings;
-    EXPECT_TRUE(
-        sameText(erased(drawing(), warnings), changed({{kFirst, ""},
-                                                       {"3 ALONE\n350 5", ""},
-                                                       {kGroups, "0 GROUP\n5 6\n330 4\n340 11"},
-                                                       {kOwned, ""},
-                                                       {kOrder, "331 11\n5 FE"}})));
-    EXPECT_EQ(warnings, "");
-    // A member or a place that can't be read: the record stays.
-    const std::string damaged =
-        replaced(replaced(drawing(), dxf("340 11"), dxf("340 x")), dxf("331 11"), dxf("331 x"));
-    EXPECT_THAT(erased(damaged, warnings), ::testing::HasSubstr(dxf("340 10\n340 x")));
-    EXPECT_EQ(warnings,
-              "the group #6 can't be read and still names what was erased\n"
-              "the table of drawing order #C can't be read and still names what was erased\n");
+    for (const auto& [parts, warnings] : cases) {
+        const auto [before, after] = beforeAndAfter(parts, usual);
+        const Exported result = erased(before);
+        EXPECT_TRUE(sameText(result.bytes, after)) << before;
+        EXPECT_EQ(result.warnings, warnings);
+    }
 }
 
 } // namespace
