@@ -105,12 +105,10 @@ TEST(Shapes, ofTexts) {
     EXPECT_EQ(text.horizontal, 1);
     EXPECT_EQ(text.vertical, 2);
     EXPECT_EQ(text.lines, (std::vector<std::wstring>{L"45\u00B0 top\u00E9"}));
-    expectNear(shapeOf<TextShape>("0 TEXT\n10 1\n20 2\n11 5\n21 6\n1 x").position, 1.0, 2.0, 0.0);
 
     const auto paragraph = shapeOf<TextShape>(
         "0 MTEXT\n10 1\n40 2\n71 5\n3 {\\fArial|b1;Bold} \\S1^2;\\P\\H2.5x;sec\n1 ond \\\\ "
         "\\{\\~}\\C");
-    expectNear(shapeOf<TextShape>("0 MTEXT\n50 30\n11 3\n21 -4\n1 x").direction, 0.6, -0.8, 0.0);
     EXPECT_EQ(paragraph.horizontal, 1);
     EXPECT_EQ(paragraph.vertical, 2);
     EXPECT_EQ(paragraph.lines, (std::vector<std::wstring>{L"Bold 1/2", L"second \\ { "}));
@@ -152,13 +150,14 @@ TEST(Shapes, ofAlignedTexts) {
         {"TEXT\n72 2\n73 3\n11 4", 4.0, 2, 3, {0.0, 1.0, 0.0}},
         {"TEXT\n72 0\n73 1\n11 4", 4.0, 0, 1, {0.0, 1.0, 0.0}},
         {"TEXT\n72 9\n73 9\n11 4", 4.0, 2, 3, {0.0, 1.0, 0.0}},
+        {"TEXT\n11 4", 1.0, 0, 0, {0.0, 1.0, 0.0}},
         {"TEXT\n72 2\n73 3", 1.0, 0, 0, {0.0, 1.0, 0.0}},
         {"TEXT\n72 5\n73 3\n11 4\n21 2", 1.0, 0, 0, {1.0, 0.0, 0.0}},
         {"TEXT\n72 3\n11 1\n21 2", 1.0, 0, 0, {0.0, 1.0, 0.0}}, // no way to go
         {"TEXT\n72 3\n11 4\n21 6", 1.0, 0, 0, {0.6, 0.8, 0.0}},
         {"TEXT\n72 3", 1.0, 0, 0, {0.0, 1.0, 0.0}},
         {"MTEXT", 1.0, 0, 3, {0.0, 1.0, 0.0}}, // at the top left
-        {"MTEXT\n71 8\n11 2", 1.0, 1, 1, {1.0, 0.0, 0.0}},
+        {"MTEXT\n71 8\n11 3\n21 -4", 1.0, 1, 1, {0.6, -0.8, 0.0}},
         {"MTEXT\n71 10\n11 0", 1.0, 2, 1, {0.0, 1.0, 0.0}},
         {"MTEXT\n71 0", 1.0, 0, 3, {0.0, 1.0, 0.0}},
     };
@@ -222,6 +221,26 @@ TEST(Shapes, ofHatches) {
 }
 
 TEST(Shapes, ofDamagedEntitiesAreHarmless) {
+    const std::string line = "\n72 1\n10 0\n20 0\n11 1\n21 1";
+    const std::string path = "0 HATCH\n92 0\n93 9\n";
+    // What comes after weights, fit points and directions is read; after a broken edge it is the
+    // next path.
+    const auto spline = shapeOf<OutlinesShape>(
+        path +
+        "72 4\n94 1\n95 4\n96 2\n40 0\n40 0\n40 1\n40 1\n10 0\n20 2\n42 1\n10 8\n20 6\n42 "
+        "2\n97 2\n11 0\n21 2\n11 8\n21 6\n12 1\n22 0\n13 0\n23 1" +
+        line);
+    ASSERT_EQ(spline.paths.size(), 2U);
+    expectNear(spline.paths[0].vertices.back().position, 8.0, 6.0, 0.0);
+    for (const char* const broken :
+         {"72 1\n10 0\n11 1\n21 1", "72 1\n10 0\n20 0\n11 1", "72 2\n10 0\n40 1",
+          "72 2\n10 0\n20 0\n50 0", "72 3\n20 0", "72 3\n10 0\n20 0\n40 1",
+          "72 3\n10 0\n20 0\n11 1\n21 0\n50 0", "72 4\n95 0\n96 0", "72 4\n94 1\n96 0",
+          "72 4\n94 1\n95 0", "72 5", "92 2\n73 1\n10 0\n20 0", "92 0\n72 1"}) {
+        const auto shape = shapeOf<OutlinesShape>(path + broken + line + "\n92 0\n93 1" + line);
+        EXPECT_EQ(shape.paths.size(), 1U) << broken;
+        EXPECT_TRUE(shape.arcs.empty()) << broken;
+    }
     const std::string hatch = "0 HATCH\n91 999999999\n92 1\n93 999999999\n72 4\n94 3\n95 "
                               "999999999\n96 999999999\n40 0\n40 1\n10 0\n20 0";
     EXPECT_EQ(shapeOf<OutlinesShape>(hatch).paths.size(), 1U);
