@@ -101,7 +101,7 @@ TEST_F(VertexShift, theMiterOfTheNextVertexKeepsItsSense) {
     for (const double sense : {1.0, -1.0}) {
         KdDbMline* const mline = add("0,0 4,0 10,0 20,0 : 1 -1");
         const double miter[3] = {0.0, 0.0, sense};
-        std::array<double[3], 4> miters;
+        std::array<double[3], 4> miters{};
         for (double(&each)[3] : miters) {
             copyPoint(miter, each);
         }

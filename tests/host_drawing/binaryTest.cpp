@@ -255,6 +255,8 @@ TEST(Conversion, refusesWhatTheBinaryFormLacks) {
             EXPECT_THAT(result.failure().text, HasSubstr(reason));
         }
     }
+    EXPECT_EQ(convertBytes(dxf("0 SECTION") + "  x\nHEADER\n", DrawingForm::binary).failure().line,
+              3U);
     EXPECT_THAT(convertBytes(dxf("1 x\n0 EOF"), DrawingForm::binary).failure().text,
                 HasSubstr("has to begin with the group code 0"));
     const auto result =

@@ -216,6 +216,10 @@ TEST(ChangedMline, isErased) {
 
 TEST(ChangedStyle, keepsTheTextOfWhatIsTheSame) {
     using Style = KdDbMlineStyle;
+    expectEdit(
+        replaced(sampleDrawing(), "Thick wall", "    Thick wall"),
+        [](DrawingFile& file) { opened<Style>(file, 0x2F).setDescription(L"Thin"); },
+        replaced(sampleDrawing(), "Thick wall", "Thin")); // a text isn't padded
     const std::string element = dxf("49 0.50\n62 1\n420 16711680\n6 DASHED");
     expectStyle([](Style& style) { style.setDescription(L"\u00DCber\nall"); }, "Thick wall",
                 "\xDC"

@@ -11,6 +11,7 @@
 #include "wholeFiles.h"
 
 #include <filesystem>
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
@@ -244,12 +245,17 @@ TEST(Export, leavesWhatNothingCanStandFor) {
                         "multiline #12 stays as it is: no element\n");
 }
 
-// The bytes without the multiline 10, and what is told.
-Exported erased(const std::string& bytes) {
+using Edit = std::function<void(DatabaseCore&, KdDbStub&)>;
+
+// The bytes without the multiline 10, which `edit` gets, too; and what is told.
+Exported erased(
+    const std::string& bytes, const Edit& edit = [](DatabaseCore&, KdDbStub&) {}) {
     const auto file = openDrawing(bytes);
-    file->database().core().changes().beginCommand();
-    file->database().core().erase(stubOf(*file, 0x10));
-    file->database().core().changes().endCommand();
+    DatabaseCore& core = file->database().core();
+    core.changes().beginCommand();
+    core.erase(stubOf(*file, 0x10));
+    edit(core, stubOf(*file, 0x10));
+    core.changes().endCommand();
     EXPECT_FALSE(file->save("/dev/null"));
     return {file->bytes(), savingWarnings(*file)};
 }
@@ -278,6 +284,10 @@ TEST(Erasing, takesAMultilineOutOfWhatNamesIt) {
         {{kept(kAlone, kAlone), {kGroups, "0 GROUP\n5 5\n340 10", ""}}, ""}, // nobody's
         {{kept(kOwned, "0 DICTIONARY\n5 A\n330 11\n3 MINE\n360 B\n0 XRECORD\n5 B\n330 A")}, ""},
         {{kept(kOwned, "0 DICTIONARY\n5 D\n330 10")}, ""},
+        // Its record breaks off where its dictionary would be named.
+        {{{kFirst, "0 MLINE\n5 10\n2 STANDARD\n72 0\n73 0\n102 {ACAD_XDICTIONARY", ""},
+          kept(kOwned, kOwned)},
+         ""},
         // Groups that belong to it go with it.
         {{kept(kAlone, kAlone),
           {kGroups, "0 GROUP\n5 5\n330 A\n340 10\n0 GROUP\n5 6\n330 A\n340 10\n340 11", ""},
@@ -290,6 +300,32 @@ TEST(Erasing, takesAMultilineOutOfWhatNamesIt) {
         EXPECT_TRUE(sameText(result.bytes, after)) << before;
         EXPECT_EQ(result.warnings, warnings);
     }
+}
+
+TEST(Erasing, putsWhatWasMadeOfAMultilineInItsGroupsAndItsPlace) {
+    const auto [bytes, warnings] = erased(drawing(), [](DatabaseCore& core, KdDbStub& gone) {
+        auto content = std::make_shared<PlainContent>();
+        content->traits = shareTraits(EntityTraits());
+        content->shape = LineShape{{1.0, 2.0, 0.0}, {3.0, 4.0, 5.0}};
+        content->replaces = KdDbObjectId(&gone);
+        auto line = std::make_unique<PlainEntity>();
+        line->setContent(content);
+        BlockEntities& model = core.blocks().modelSpace();
+        core.blocks().appendEntity(model,
+                                   core.adopt(std::move(line), ObjectKind::entity, model.record));
+    });
+    EXPECT_EQ(warnings, "");
+    const std::string expected = changed({
+        {"9 $HANDSEED\n5 20", "9 $HANDSEED\n5 21"},
+        {kFirst, ""},
+        {kSecond, std::string(kSecond) + "\n0 LINE\n5 20\n330 2\n100 AcDbEntity\n8 0\n"
+                                         "100 AcDbLine\n10 1.0\n20 2.0\n30 0.0\n"
+                                         "11 3.0\n21 4.0\n31 5.0"},
+        {kGroups, "0 GROUP\n5 5\n330 4\n340 20\n0 GROUP\n5 6\n330 4\n340 20\n340 11"},
+        {kOwned, ""},
+        {kOrder, "331 20\n5 FF\n331 11\n5 FE"},
+    });
+    EXPECT_TRUE(sameText(bytes, expected));
 }
 
 } // namespace

@@ -116,6 +116,7 @@ TEST(DrawingText, readsAndWritesInTheFilesCodePage) {
         {"", "", "\xE4", L"\u00E4"},
         {"AC1015", "NO_SUCH_PAGE", "\xE4", L"\u00E4"},
         {"AC1021", "", "a\\U+000Ab", L"a\nb"},
+        {"AC1015", "ANSI_1252", "~\\U+007F", L"~\u007F"},
         {"AC1021", "", "\\U+005CU+0041", L"\\U+0041"}, // not an A
         {"AC1021", "", "C:\\User \\P \\U+00G1", L"C:\\User \\P \\U+00G1"},
     };

@@ -8,6 +8,18 @@ namespace {
 
 using orvex::testing::FakeDocument;
 
+TEST(Frames, withoutADrawingTheUsersSystemIsTheWorlds) {
+    const double point[3] = {1.0, 2.0, 3.0};
+    for (const bool displacement : {false, true}) {
+        double user[3] = {};
+        double world[3] = {};
+        EXPECT_TRUE(wc2uc(point, user, displacement));
+        EXPECT_TRUE(uc2wc(user, world, displacement));
+        EXPECT_EQ(user[2], 3.0);
+        EXPECT_EQ(world[0], 1.0);
+    }
+}
+
 TEST(Frames, displayCoordinatesAreTheViewsAndFlat) {
     const double point[3] = {1.0, 2.0, 3.0};
     for (int links = 0; links <= 3; ++links) {

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -44,6 +45,15 @@ protected:
         KdDbLinetypeTableRecord* record = nullptr;
         kddbOpenObject(record, element(i).second, kForRead);
         return record != nullptr ? record->name() : L"";
+    }
+    void addLinetype(const std::wstring& name) {
+        KdDbLinetypeTable* table = nullptr;
+        kddbOpenObject(table, database.linetypeTableId(), kForWrite);
+        auto record = std::make_unique<KdDbLinetypeTableRecord>();
+        record->setName(name.c_str());
+        KdDbObjectId id;
+        table->add(id, record.release());
+        table->close();
     }
     std::vector<double> offsets(int count) const {
         std::vector<double> all(static_cast<std::size_t>(count), 99.0);
@@ -123,6 +133,11 @@ TEST_F(StyleAccessors, linetypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
     database.setMeasurement(1);
     SetElemLtype(&style, names, 3, &database);
     EXPECT_EQ(asked, (std::vector<std::wstring>{L"orvex.lin", L"orvexiso.lin"}));
+    std::wstring longest(2048, L'x');
+    addLinetype(longest);
+    names[0] = longest.data();
+    SetElemLtype(&style, names, 3, &database);
+    EXPECT_EQ(linetype(0), longest);
     EXPECT_EQ(offsets(3), (Offsets{1, 2, 3}));
 }
 
