@@ -4,6 +4,7 @@
 #include "EditTool.h"
 #include "EngineWorld.h"
 #include "ObjectContent.h"
+#include "kddbObjects.h"
 #include "parameterLists.h"
 #include "promptLibrary.h"
 
@@ -88,6 +89,17 @@ TEST_F(EditCycle, repeatsItsPromptsUntilAMultilineIsPicked) {
     EXPECT_EQ(run.steps, 1);
     EXPECT_TRUE(user.lines.empty());
     EXPECT_FALSE(isOpen(a));
+    EXPECT_FALSE(isOpen(b));
+}
+
+TEST_F(EditCycle, closesAtItsEndWhatTheLastCycleHadPickedSecond) {
+    user.onPrompt = [this] {
+        if (user.prompts.size() == 3) {
+            KdDbMline* again = nullptr;
+            kddbOpenObject(again, b->objectId(), kForRead);
+        }
+    };
+    play({onA, onB, cancel()});
     EXPECT_FALSE(isOpen(b));
 }
 
