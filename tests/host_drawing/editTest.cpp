@@ -277,6 +277,14 @@ TEST(ChangedVariables, areWrittenInPlaceOrAtTheEndOfTheHeader) {
     }
 }
 
+// A new header is written as the first record is: here its codes aren't padded, all others are.
+TEST(ChangedVariables, beginAFileThatHasHadNone) {
+    const auto file = openDrawing("0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n");
+    file->database().core().setVariable("CMLSCALE", 1.5);
+    EXPECT_NE(file->bytes().find("\n9\n$CMLSCALE\n40\n1.5\n0\nENDSEC\n"), std::string::npos)
+        << file->bytes();
+}
+
 // One of many edits, of which most can be made again and again; what isn't there stays untouched.
 void editSomething(DrawingFile& file, std::vector<KdDbStub*>& mlines, std::mt19937& random) {
     DatabaseCore& core = file.database().core();
