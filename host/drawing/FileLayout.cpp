@@ -184,11 +184,11 @@ std::vector<FileEdit> FileLayout::takeEdits() {
     std::ranges::stable_sort(m_edits, [](const FileEdit& a, const FileEdit& b) {
         return a.offset != b.offset ? a.offset < b.offset : a.length == 0 && b.length != 0;
     });
-    const auto [again, end] =
-        std::ranges::unique(m_edits, [](const FileEdit& a, const FileEdit& b) {
+    const auto again =
+        std::unique(m_edits.begin(), m_edits.end(), [](const FileEdit& a, const FileEdit& b) {
             return a.offset == b.offset && a.length != 0 && b.length != 0;
         });
-    m_edits.erase(again, end);
+    m_edits.erase(again, m_edits.end());
     return std::move(m_edits);
 }
 

@@ -109,8 +109,6 @@ TEST(Shapes, ofTexts) {
     const auto paragraph = shapeOf<TextShape>(
         "0 MTEXT\n10 1\n40 2\n71 5\n3 {\\fArial|b1;Bold} \\S1^2;\\P\\H2.5x;sec\n1 ond \\\\ "
         "\\{\\~}\\C");
-    EXPECT_EQ(paragraph.horizontal, 1);
-    EXPECT_EQ(paragraph.vertical, 2);
     EXPECT_EQ(paragraph.lines, (std::vector<std::wstring>{L"Bold 1/2", L"second \\ { "}));
 }
 
@@ -140,10 +138,10 @@ TEST(Shapes, ofControlCodesInTexts) {
 // own points stands there.
 TEST(Shapes, ofAlignedTexts) {
     const struct {
-        const char* tags;
-        double x;
-        int horizontal;
-        int vertical;
+        const char* tags = "";
+        double x = 0.0;
+        int horizontal = 0;
+        int vertical = 0;
         KdGeVector3d direction;
     } cases[] = {
         {"TEXT\n72 4\n73 1\n11 4", 4.0, 1, 2, {0.0, 1.0, 0.0}}, // the middle of all
@@ -222,6 +220,7 @@ TEST(Shapes, ofHatches) {
 
 TEST(Shapes, ofDamagedEntitiesAreHarmless) {
     const std::string line = "\n72 1\n10 0\n20 0\n11 1\n21 1";
+    const std::string rest = line + "\n92 0\n93 1" + line;
     const std::string path = "0 HATCH\n92 0\n93 9\n";
     // What comes after weights, fit points and directions is read; after a broken edge it is the
     // next path.
@@ -237,7 +236,7 @@ TEST(Shapes, ofDamagedEntitiesAreHarmless) {
           "72 2\n10 0\n20 0\n50 0", "72 3\n20 0", "72 3\n10 0\n20 0\n40 1",
           "72 3\n10 0\n20 0\n11 1\n21 0\n50 0", "72 4\n95 0\n96 0", "72 4\n94 1\n96 0",
           "72 4\n94 1\n95 0", "72 5", "92 2\n73 1\n10 0\n20 0", "92 0\n72 1"}) {
-        const auto shape = shapeOf<OutlinesShape>(path + broken + line + "\n92 0\n93 1" + line);
+        const auto shape = shapeOf<OutlinesShape>(path + (broken + rest));
         EXPECT_EQ(shape.paths.size(), 1U) << broken;
         EXPECT_TRUE(shape.arcs.empty()) << broken;
     }
