@@ -82,11 +82,12 @@ private:
         return static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)));
     }
 
-    // The usual form: three characters, blanks before digits, and a line feed. Null for any other.
-    static const char* readUsualCode(const char* at, const char* end, int& code) {
-        constexpr std::ptrdiff_t kLine = 4;
-        if (end - at < kLine || at[3] != '\n') {
-            return nullptr;
+    static constexpr std::ptrdiff_t kUsualLine = 4;
+
+    // The usual form: three characters, blanks before digits, and a line feed. False for any other.
+    static bool readUsualCode(const char* at, const char* end, int& code) {
+        if (end - at < kUsualLine || at[3] != '\n') {
+            return false;
         }
         const auto digit = [at](int place) { return static_cast<unsigned>(at[place] - '0'); };
         const bool hasTens = at[1] != ' ';
@@ -94,18 +95,15 @@ private:
         const unsigned tens = hasTens ? digit(1) : 0;
         const unsigned hundreds = hasHundreds ? digit(0) : 0;
         if (digit(2) > 9 || tens > 9 || hundreds > 9 || (hasHundreds && !hasTens)) {
-            return nullptr;
+            return false;
         }
         code = static_cast<int>(hundreds * 100 + tens * 10 + digit(2));
-        return at + kLine;
+        return true;
     }
 
     // Returns where the next line starts; null when the line holds no integer.
     const char* readCode(const char* at, const char* end, int& code) {
-        if (const char* const next = readUsualCode(at, end, code)) {
-            return next;
-        }
-        return readAnyCode(at, end, code);
+        return readUsualCode(at, end, code) ? at + kUsualLine : readAnyCode(at, end, code);
     }
 
     const char* readAnyCode(const char* at, const char* end, int& code) {
