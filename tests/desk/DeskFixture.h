@@ -134,7 +134,7 @@ protected:
         };
     }
     // Waits for what goes on by itself.
-    Step until(std::function<bool()> isReached) {
+    Step until(const std::function<bool()>& isReached) {
         return [this, isReached] {
             if (!isReached()) {
                 steps.push_front(until(isReached));
