@@ -4,6 +4,8 @@
 #include "chainMiter.h"
 #include "geometry.h"
 
+#include <utility>
+
 namespace orvex {
 
 namespace {
@@ -31,7 +33,7 @@ std::vector<double> withOpenEnd(std::vector<double> list, double length) {
 
 } // namespace
 
-ChainPart::ChainPart(const MlineContent& pattern) : m_result(pattern) {
+ChainPart::ChainPart(MlineContent pattern) : m_result(std::move(pattern)) {
     m_result.closed = false;
     m_result.vertices.clear();
     m_result.lists = ParameterLists();
@@ -66,7 +68,7 @@ void ChainPart::addJoint(const MlineContent& incoming, const MlineContent& outgo
     const ChainVertex& start = outgoing.vertices.front();
     const Miter miter = jointMiter(end.axis, start.axis, incoming.normal);
     add({end.position, start.axis, miter.direction}, outgoing, 0,
-        sineAt(start, start.axis, outgoing.normal) / miter.sine, {&outgoing, 0, false});
+        sineAt(start, start.axis, outgoing.normal) / miter.sine, {&outgoing, 0, true});
 }
 
 void ChainPart::relist(MlineContent& result, unsigned segment) const {
@@ -74,12 +76,13 @@ void ChainPart::relist(MlineContent& result, unsigned segment) const {
     const MlineChain before(*origin.mline);
     const MlineContent positioned = result;
     const MlineChain after(positioned);
-    const bool isNewStart = origin.isPlace;
-    const bool isNewEnd = m_origins[segment + 1].isPlace;
+    const bool isNewStart = origin.isNew;
+    const bool isNewEnd = m_origins[segment + 1].isNew;
     const auto anew = [&](std::span<const double> list, double position, const MlineTrack& was,
                           const MlineTrack& is) {
         std::vector<double> fresh(list.begin(), list.end());
-        if (!(was.start == is.start && was.end == is.end)) {
+        const bool isSame = was.start == is.start && was.end == is.end;
+        if (!isSame || isNewStart || isNewEnd) {
             fresh = remeasured(list, {was, is, !isNewStart, !isNewEnd});
             fresh = isNewEnd ? withOpenEnd(std::move(fresh), is.length) : fresh;
         }

@@ -55,6 +55,10 @@ public:
 
 private:
     [[nodiscard]] double measured(double distance) const {
+        if (m_move.before.start == m_move.after.start &&
+            m_move.before.direction == m_move.after.direction) {
+            return distance;
+        }
         const KdGeVector3d way = m_move.before.at(distance) - m_move.after.start;
         const KdGeVector3d& direction = m_move.after.direction;
         if (m_move.measure == GapMeasure::halfway && !(direction == m_move.before.direction)) {

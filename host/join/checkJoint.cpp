@@ -198,10 +198,12 @@ bool isJoinedInAnyKind(const JoinPlace& place, const JoinPair& walls) {
     return isJoinedAs(turned, JoinKind::closed, {walls.second, walls.first}, true);
 }
 
+bool keepsSegments(const JoinWall& before, const JoinWall& now) {
+    return before.vertexCount() == now.vertexCount() && before.isClosed() == now.isClosed() &&
+           before.elementCount() == now.elementCount();
+}
+
 bool keepsLines(const JoinWall& before, const JoinWall& now) {
-    if (before.vertexCount() != now.vertexCount() || before.elementCount() != now.elementCount()) {
-        return false;
-    }
     const double slack = joinTolerance(before, now);
     for (unsigned s = 0; s < now.segmentCount(); ++s) {
         for (unsigned e = 0; e < now.elementCount(); ++e) {

@@ -16,8 +16,11 @@ struct JoinPair {
 [[nodiscard]] bool isJoined(const JoinPlace& place, const JoinPair& walls);
 [[nodiscard]] bool isJoinedInAnyKind(const JoinPlace& place, const JoinPair& walls);
 
+// Whether a wall still has its segments and elements: a tool that takes vertices out makes no
+// joint.
+[[nodiscard]] bool keepsSegments(const JoinWall& before, const JoinWall& now);
 // Whether each element still lies on the line it lay on, segment by segment; ends may have moved
-// along their own segment.
+// along their own segment. Both have the same segments and elements.
 [[nodiscard]] bool keepsLines(const JoinWall& before, const JoinWall& now);
 
 // A list that has to be set for a joint to be right: `stops` is the list without its first value.

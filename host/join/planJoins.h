@@ -11,6 +11,7 @@ namespace orvex {
 //   2. planJoins(walls, options). Places whose result isn't `planned` are done with.
 //   3. for each index in `order`: make the two walls anew from what they are now ("before"), ask
 //      joinSteps (joinSteps.h), play the moves and the tool, make the walls anew ("now"), and
+//      - give up where keepsSegments (checkJoint.h) says no: as where isJoined does;
 //      - lay elements right where keepsLines (checkJoint.h) says no;
 //      - set the stops that renewedStops (checkJoint.h) gives; what is as it should be gives none,
 //        so that a joint whose lines are kept and that leaves no stops to renew has disturbed

@@ -150,6 +150,10 @@ bool JoinRun::layRight(unsigned wall, const JoinWall& before, JoinScript& script
 
 // Lays elements right and stops them anew where the tool disturbed them.
 bool JoinRun::settle(const JoinPlace& place, const JoinPair& before, JoinScript& script) {
+    const JoinPair now = pairOf(place);
+    if (!keepsSegments(before.first, now.first) || !keepsSegments(before.second, now.second)) {
+        return false;
+    }
     if (!layRight(place.first.wall, before.first, script) ||
         !layRight(place.second.wall, before.second, script)) {
         return false;

@@ -135,6 +135,10 @@ TEST(CheckJoint, anElementThatLeavesItsLineIsSeen) {
     MlineContent aside = content;
     aside.vertices.back().position.x += 1e-3;
     EXPECT_FALSE(keepsLines(before, JoinWall(1, 0, aside)));
+    MlineContent longer = content;
+    longer.vertices.push_back(aside.vertices.back());
+    EXPECT_TRUE(keepsSegments(before, JoinWall(1, 0, aside)));
+    EXPECT_FALSE(keepsSegments(before, JoinWall(1, 0, longer)));
 }
 
 } // namespace
