@@ -8,24 +8,19 @@ namespace mledit {
 
 namespace {
 
-constexpr double kSameBreak = 1e-10;
-
-bool areEqual(double a, double b) {
-    return VoMath::isEqual(a, b, kSameBreak);
-}
-
 // The first entry after the offset that is not before `from`; all of them when `from` is the
 // segment's start. The size when there is none.
 std::size_t firstReached(const BreakList& list, double from) {
     std::size_t k = 1;
-    while (k < list.size() && !(list[k] > from || areEqual(from, 0.0) || areEqual(list[k], from))) {
+    while (k < list.size() &&
+           !(list[k] > from || areEqualBreaks(from, 0.0) || areEqualBreaks(list[k], from))) {
         ++k;
     }
     return k;
 }
 
 bool isBeforeOrAt(double entry, double to) {
-    return entry < to || areEqual(entry, to);
+    return entry < to || areEqualBreaks(entry, to);
 }
 
 BreakList::iterator at(BreakList& list, std::size_t index) {
@@ -33,6 +28,11 @@ BreakList::iterator at(BreakList& list, std::size_t index) {
 }
 
 } // namespace
+
+bool areEqualBreaks(double a, double b) {
+    constexpr double kSameBreak = 1e-10;
+    return VoMath::isEqual(a, b, kSameBreak);
+}
 
 BreakList cutWithin(BreakList list, double from, double to, bool insertsEnds) {
     if (list.empty()) {

@@ -14,6 +14,9 @@ namespace mledit {
 // merged afterwards; a break equal to an end of the gap, within 1e-10, counts as reached.
 using BreakList = std::vector<double>;
 
+// Within 1e-10 drawing units.
+bool areEqualBreaks(double a, double b);
+
 // A gap within one segment. `insertsEnds` is false when the gap's end lies on the segment's start.
 BreakList cutWithin(BreakList list, double from, double to, bool insertsEnds);
 

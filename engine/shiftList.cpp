@@ -1,7 +1,5 @@
 #include "shiftList.h"
 
-#include "VoMath.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -9,8 +7,7 @@ namespace mledit {
 
 namespace {
 
-constexpr double kEqualBreaks = 1e-10; // drawing units
-constexpr double kLeastTurn = 0.005;   // radians, instead of 0
+constexpr double kLeastTurn = 0.005; // radians, instead of 0
 
 void addAfterOffset(BreakList& list, double distance) {
     for (std::size_t index = 1; index < list.size(); ++index) {
@@ -65,7 +62,7 @@ BreakList growAtStart(BreakList list, double distance, double offset) {
         return list;
     }
     addAfterOffset(list, distance);
-    if (list.size() > 1 && VoMath::isEqual(list[1], distance, kEqualBreaks)) {
+    if (list.size() > 1 && areEqualBreaks(list[1], distance)) {
         list[1] = 0.0;
     }
     list[0] = offset;

@@ -1,12 +1,8 @@
 #include "trimList.h"
 
-#include "VoMath.h"
-
 namespace mledit {
 
 namespace {
-
-constexpr double kEqualBreaks = 1e-10; // drawing units
 
 BreakList::iterator at(BreakList& list, std::size_t index) {
     return list.begin() + static_cast<BreakList::difference_type>(index);
@@ -23,14 +19,13 @@ BreakList keepUpTo(BreakList list, double distance, bool ahead) {
         return list;
     }
     std::size_t stop = list.size() - 1;
-    while (stop > 0 && list[stop] >= distance &&
-           !VoMath::isEqual(list[stop], distance, kEqualBreaks)) {
+    while (stop > 0 && list[stop] >= distance && !areEqualBreaks(list[stop], distance)) {
         --stop;
     }
     const std::size_t erased = list.size() - 1 - stop;
     list.resize(stop + 1);
     // After an odd number the point lay in an interval, which now extends to the segment's end.
-    if (erased % 2 == 0 && !VoMath::isEqual(list.back(), distance, kEqualBreaks)) {
+    if (erased % 2 == 0 && !areEqualBreaks(list.back(), distance)) {
         list.push_back(distance);
     }
     return list;

@@ -1,6 +1,5 @@
 #include "weldList.h"
 
-#include "VoMath.h"
 #include "comparisons.h"
 
 #include <algorithm>
@@ -8,8 +7,6 @@
 namespace mledit {
 
 namespace {
-
-constexpr double kEqualBreaks = 1e-10; // drawing units
 
 using Index = std::size_t;
 
@@ -22,7 +19,7 @@ Index firstFromLower(const BreakList& list, const WeldEnd& lower, double toleran
     Index index = 1;
     while (index < list.size()) {
         const double x = list[index];
-        if (x > lower.distance || VoMath::isEqual(lower.distance, list[1], kEqualBreaks) ||
+        if (x > lower.distance || areEqualBreaks(lower.distance, list[1]) ||
             (lower.takesBreakAtIt && mlineRealEqual(x, lower.distance, tolerance))) {
             return index;
         }

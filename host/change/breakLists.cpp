@@ -13,8 +13,7 @@ namespace orvex {
 
 namespace {
 
-constexpr double kReachTolerance = 1e-9; // of 1 drawing unit or of the track's length
-constexpr double kStraightBack = 1e-6;   // there is nothing halfway
+constexpr double kStraightBack = 1e-6; // there is nothing halfway
 constexpr double kOpenEnd = std::numeric_limits<double>::infinity();
 
 std::vector<MlineStretch> stretchesOf(std::span<const double> list) {
@@ -92,10 +91,6 @@ private:
 };
 
 } // namespace
-
-double reachTolerance(double trackLength) {
-    return kReachTolerance * std::max(1.0, trackLength);
-}
 
 std::vector<double> remeasured(std::span<const double> list, const TrackMove& move) {
     std::vector<MlineStretch> kept;

@@ -14,9 +14,6 @@ namespace orvex {
 // A list of line or area parameters: the position along the miter, then the distances at which
 // drawn stretches begin and end in turn.
 
-// By how much a distance may miss an end of a track and still be meant to reach it.
-double reachTolerance(double trackLength);
-
 // By how much a distance may lie beyond the end of its track before that is a fault, drawing units.
 inline constexpr double kReachBeyond = 1e-7;
 

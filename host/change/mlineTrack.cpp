@@ -6,17 +6,11 @@
 
 namespace orvex {
 
-namespace {
-
-// Break distances come out of trigonometry; what misses an end by no more than this, of 1 drawing
-// unit or of the segment's length, reaches it.
-constexpr double kReachTolerance = 1e-9;
-
-double reachTolerance(double length) {
-    return kReachTolerance * std::max(1.0, length);
+double reachTolerance(double trackLength) {
+    // Break distances come out of trigonometry.
+    constexpr double kReachTolerance = 1e-9; // of 1 drawing unit or of the track's length
+    return kReachTolerance * std::max(1.0, trackLength);
 }
-
-} // namespace
 
 unsigned MlineChain::segmentCount() const {
     const unsigned count = vertexCount();

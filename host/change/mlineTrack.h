@@ -24,6 +24,9 @@ struct MlineStretch {
     bool toTrackEnd = false; // a last stretch that no value ends
 };
 
+// By how much a distance may miss an end of a track and still be meant to reach it, drawing units.
+double reachTolerance(double trackLength);
+
 // Reads the chain of a multiline. Lists that are missing read as empty, so nothing has to be
 // asked for twice.
 class MlineChain {
