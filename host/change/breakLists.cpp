@@ -44,6 +44,12 @@ public:
     explicit Remeasurer(const TrackMove& move)
         : m_move(move), m_tolerance(reachTolerance(move.before.length)) {}
 
+    // At an end that moves an empty stretch would get a length.
+    [[nodiscard]] bool isEmpty(const MlineStretch& old) const {
+        return old.toTrackEnd ? old.begin >= m_move.before.length - m_tolerance
+                              : old.begin >= old.end;
+    }
+
     [[nodiscard]] MlineStretch operator()(const MlineStretch& old) const {
         MlineStretch fresh{atBegin(old.begin), m_move.after.length, old.toTrackEnd};
         if (!old.toTrackEnd) {
@@ -96,13 +102,14 @@ std::vector<double> remeasured(std::span<const double> list, const TrackMove& mo
     std::vector<MlineStretch> kept;
     const Remeasurer remeasure(move);
     for (const MlineStretch& old : stretchesOf(list)) {
-        // An empty one at an end that moves would get a length.
-        const MlineStretch fresh = old.begin < old.end ? remeasure(old) : old;
-        if (fresh.begin < fresh.end) {
+        const MlineStretch fresh = remeasure(old);
+        if (!remeasure.isEmpty(old) && fresh.begin < fresh.end) {
             kept.push_back(fresh);
         }
     }
-    return listOf(list, kept);
+    const std::vector<double> fresh = listOf(list, kept);
+    // On a track that runs back, as a narrow bend leaves it, they may overlap.
+    return ascends(fresh) ? fresh : inOrder(fresh);
 }
 
 bool ascends(std::span<const double> list) {

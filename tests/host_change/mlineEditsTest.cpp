@@ -176,6 +176,7 @@ TEST(MoveEnd, keepsOffsetsAndGapsWhereTheyLie) {
         {MlineEnd::start, 0, {0, 40, 60}, {5, 0, 40, 60}},
         {MlineEnd::start, -20, {0, 0, 0}, {5, 0}}, // what is empty gets no length
         {MlineEnd::end, 150, {0, 40, 100, 100}, {5, 0, 40}},
+        {MlineEnd::end, 150, {0, 40, 100}, {5, 0, 40}},
     };
     for (const Case& each : cases) {
         const auto moved = moveEnd(wall(each.before), each.end, {each.x, 3.0, 0.0});
