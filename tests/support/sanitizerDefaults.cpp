@@ -17,16 +17,17 @@ const char* __lsan_default_options() {
     return "print_suppressions=0";
 }
 
-// Qt's offscreen platform forgets its screen at the end, and fontconfig keeps its cache. The inner
-// parts of a QObject are let pass alone: an object of ours that leaks is reported by its own
-// allocation. A module keeps one opening of its resource library to the end of the process, on
-// purpose.
+// Qt's offscreen platform forgets its screen at the end, its main window an animation of a panel
+// that still runs, and fontconfig keeps its cache. The inner parts of a QObject are let pass alone:
+// an object of ours that leaks is reported by its own allocation. A module keeps one opening of its
+// resource library to the end of the process, on purpose.
 const char* __lsan_default_suppressions() {
     return "leak:libqoffscreen\n"
            "leak:QScreen::QScreen\n"
            "leak:QPlatformScreen::QPlatformScreen\n"
            "leak:QWindowSystemInterface::handleScreenAdded\n"
            "leak:QObject::QObject\n"
+           "leak:QPropertyAnimation::QPropertyAnimation\n"
            "leak:QtSharedPointer::ExternalRefCountData::getAndRef\n"
            "leak:QResource::registerResource\n"
            "leak:libfontconfig\n";
