@@ -11,6 +11,7 @@
 #include "Session.h"
 #include "TestPaths.h"
 #include "auditMline.h"
+#include "chainMiter.h"
 #include "mlineEdits.h"
 
 #include <algorithm>
@@ -115,6 +116,18 @@ bool staysOnSegments(const MlineContent& mline) {
     return isSound(withCaps);
 }
 
+// Where a chain turns straight back its elements lie on the wrong side of one of both segments; a
+// part that ends there has them where they were.
+bool neverTurnsBack(const MlineContent& mline) {
+    for (std::size_t v = 0; v < mline.vertices.size(); ++v) {
+        const ChainVertex& before = mline.vertices[v == 0 ? mline.vertices.size() - 1 : v - 1];
+        if (turnsStraightBack(before.axis, mline.vertices[v].axis, mline.normal)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 std::wstring styleName(const MlineContent& mline) {
     KdDbMlineStyle* style = nullptr;
     kddbOpenObject(style, mline.style, kForRead);
@@ -171,8 +184,9 @@ private:
 
     void step(const std::wstring& command) {
         const bool turns = command == L"REVERSE" || command == L"MLCHANGE";
-        const bool wereSound =
-            holdsForAll(isNearAndSound) && (!turns || holdsForAll(staysOnSegments));
+        const bool wereSound = holdsForAll(isNearAndSound) &&
+                               (!turns || holdsForAll(staysOnSegments)) &&
+                               (command != L"MLBREAK" || holdsForAll(neverTurnsBack));
         const std::size_t depth = changes().undoDepth();
         m_answers.begin();
         const auto failure = m_session->run(command);
