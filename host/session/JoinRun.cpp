@@ -148,7 +148,8 @@ bool JoinRun::layRight(unsigned wall, const JoinWall& before, JoinScript& script
     return true;
 }
 
-// Lays elements right and stops them anew where the tool disturbed them.
+// Lays elements right and stops them anew where the tool disturbed them; false where it took
+// vertices out, as it may of elements at one place.
 bool JoinRun::settle(const JoinPlace& place, const JoinPair& before, JoinScript& script) {
     const JoinPair now = pairOf(place);
     if (!keepsSegments(before.first, now.first) || !keepsSegments(before.second, now.second)) {
