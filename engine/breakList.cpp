@@ -23,10 +23,6 @@ bool isBeforeOrAt(double entry, double to) {
     return entry < to || areEqualBreaks(entry, to);
 }
 
-BreakList::iterator at(BreakList& list, std::size_t index) {
-    return list.begin() + static_cast<std::ptrdiff_t>(index);
-}
-
 } // namespace
 
 bool areEqualBreaks(double a, double b) {
@@ -45,15 +41,15 @@ BreakList cutWithin(BreakList list, double from, double to, bool insertsEnds) {
     }
     // An end of the gap inside a drawn interval becomes a break of its own.
     if (insertsEnds && high % 2 == 1) {
-        list.insert(at(list, high + 1), to);
+        list.insert(entryAt(list, high + 1), to);
     }
     if (insertsEnds && low % 2 == 0) {
-        list.insert(at(list, low), from);
+        list.insert(entryAt(list, low), from);
         ++low;
         ++high;
     }
     if (low <= high) {
-        list.erase(at(list, low), at(list, high + 1));
+        list.erase(entryAt(list, low), entryAt(list, high + 1));
     }
     return list;
 }
@@ -76,9 +72,9 @@ BreakList cutFromSegmentStart(BreakList list, double to, bool insertsEnd) {
     while (stop > 1 && !isBeforeOrAt(list[stop - 1], to)) {
         --stop;
     }
-    list.erase(at(list, 1), at(list, stop));
+    list.erase(entryAt(list, 1), entryAt(list, stop));
     if (insertsEnd) {
-        list.insert(at(list, 1), to);
+        list.insert(entryAt(list, 1), to);
     }
     return list;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 namespace mledit {
@@ -16,6 +17,11 @@ using BreakList = std::vector<double>;
 
 // Within 1e-10 drawing units.
 bool areEqualBreaks(double a, double b);
+
+// The entry at an index up to the list's size.
+inline BreakList::iterator entryAt(BreakList& list, std::size_t index) {
+    return list.begin() + static_cast<BreakList::difference_type>(index);
+}
 
 // A gap within one segment. `insertsEnds` is false when the gap's end lies on the segment's start.
 BreakList cutWithin(BreakList list, double from, double to, bool insertsEnds);

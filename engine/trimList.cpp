@@ -2,14 +2,6 @@
 
 namespace mledit {
 
-namespace {
-
-BreakList::iterator at(BreakList& list, std::size_t index) {
-    return list.begin() + static_cast<BreakList::difference_type>(index);
-}
-
-} // namespace
-
 BreakList keepUpTo(BreakList list, double distance, bool ahead) {
     if (list.empty()) {
         return list;
@@ -47,9 +39,9 @@ BreakList keepFrom(BreakList list, double distance, TrimPosition place) {
     while (stop > 1 && !(list[stop] < start)) {
         --stop;
     }
-    list.erase(at(list, 1), at(list, stop + 1));
+    list.erase(entryAt(list, 1), entryAt(list, stop + 1));
     if (stop % 2 == 1) {
-        list.insert(at(list, 1), start);
+        list.insert(entryAt(list, 1), start);
     }
     return list;
 }

@@ -10,10 +10,6 @@ namespace {
 
 using Index = std::size_t;
 
-BreakList::iterator at(BreakList& list, Index index) {
-    return list.begin() + static_cast<BreakList::difference_type>(index);
-}
-
 // The first break at or after the lower end; the size when there is none.
 Index firstFromLower(const BreakList& list, const WeldEnd& lower, double tolerance) {
     Index index = 1;
@@ -48,7 +44,7 @@ Index eraseRange(BreakList& list, Index from, Index stop) {
     if (from >= stop) {
         return 0;
     }
-    list.erase(at(list, from), at(list, stop));
+    list.erase(entryAt(list, from), entryAt(list, stop));
     return stop - from;
 }
 
@@ -84,7 +80,7 @@ BreakList weldToSegmentEnd(BreakList list, const WeldEnd& lower, double toleranc
 BreakList weldFromSegmentStart(BreakList list, const WeldEnd& upper, double tolerance) {
     const Index erased = eraseRange(list, 1, stopAtUpper(list, upper, tolerance));
     if (erased % 2 == 1) {
-        list.insert(at(list, 1), 0.0);
+        list.insert(entryAt(list, 1), 0.0);
     }
     return list;
 }
