@@ -17,6 +17,7 @@ namespace {
 constexpr double kAlongTheSegment = 1e-9; // sine of the angle
 constexpr double kFlatness = 1e-9;        // of the largest coordinate
 constexpr double kRoundings = 4.0;        // steps of rounding that a direction goes through
+constexpr double kMostRounding = 1e-3;    // sine of the angle; beyond it a miter is another one
 
 double largestOf(const KdGePoint3d& p) {
     return std::max({std::abs(p.x), std::abs(p.y), std::abs(p.z)});
@@ -159,7 +160,13 @@ double miterDeviation(const KdGeVector3d& stored, const VertexFrame& frame) {
 }
 
 double sineOf(const KdGeVector3d& stored, const VertexFrame& frame) {
-    return stored == frame.miter.direction ? frame.miter.sine : dot(frame.left, stored);
+    // Where a chain nearly turns back the lefts of both segments nearly cancel, and their sum turns
+    // with the last digits of the coordinates: a sine by a miter that did keeps few digits.
+    const double rounding = std::min(frame.noise / std::abs(frame.miter.sine), kMostRounding);
+    if (miterDeviation(stored, frame) > rounding) {
+        return dot(frame.left, stored);
+    }
+    return std::copysign(stored.length(), dot(stored, frame.miter.direction)) * frame.miter.sine;
 }
 
 bool endsInJoint(const MlineContent& mline, unsigned segment) {
