@@ -17,7 +17,7 @@ namespace {
 constexpr double kAlongTheSegment = 1e-9; // sine of the angle
 constexpr double kFlatness = 1e-9;        // of the largest coordinate
 constexpr double kRoundings = 4.0;        // steps of rounding that a direction goes through
-constexpr double kMostRounding = 1e-3;    // sine of the angle; beyond it a miter is another one
+constexpr double kMostNoise = 1e-3;       // radians; beyond it a miter is another one
 
 double largestOf(const KdGePoint3d& p) {
     return std::max({std::abs(p.x), std::abs(p.y), std::abs(p.z)});
@@ -132,12 +132,13 @@ Result<ChainFrame> chainFrameOf(const MlineContent& mline, const StyleLayout& st
         const unsigned outgoing = isEnd ? before : v;
         at.axis = axes[v];
         at.left = leftOf(at.axis, mline.normal);
-        at.noise = rounding / (points[chain.next(incoming)] - points[incoming]).length() +
-                   rounding / (points[chain.next(outgoing)] - points[outgoing]).length();
+        at.axisNoise = rounding / (points[chain.next(incoming)] - points[incoming]).length() +
+                       rounding / (points[chain.next(outgoing)] - points[outgoing]).length();
         at.miter = isStart || isEnd
                        ? storedOrStyleMiter(mline.vertices[v].miter, at, mline.normal,
                                             isStart ? style.startAngle : style.endAngle)
                        : jointMiter(axes[before], axes[v], mline.normal);
+        at.miterNoise = std::min(at.axisNoise / std::abs(at.miter.sine), kMostNoise);
         if (!isStart && !isEnd && turnsStraightBack(axes[before], axes[v], mline.normal) &&
             areMirrored(mline, v, at.left, frame.distances)) {
             at.left = leftOf(axes[before], mline.normal);
@@ -160,10 +161,8 @@ double miterDeviation(const KdGeVector3d& stored, const VertexFrame& frame) {
 }
 
 double sineOf(const KdGeVector3d& stored, const VertexFrame& frame) {
-    // Where a chain nearly turns back the lefts of both segments nearly cancel, and their sum turns
-    // with the last digits of the coordinates: a sine by a miter that did keeps few digits.
-    const double rounding = std::min(frame.noise / std::abs(frame.miter.sine), kMostRounding);
-    if (miterDeviation(stored, frame) > rounding) {
+    // What only rounding keeps from the right miter has its sine: its own keeps too few digits.
+    if (miterDeviation(stored, frame) > frame.miterNoise) {
         return dot(frame.left, stored);
     }
     return std::copysign(stored.length(), dot(stored, frame.miter.direction)) * frame.miter.sine;

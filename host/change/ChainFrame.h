@@ -18,7 +18,10 @@ struct VertexFrame {
     // That the elements' positions should lie on: halves the angle, at an open end as stored. An
     // end whose stored one lies along the segment has the style's.
     Miter miter;
-    double noise = 0.0; // by what rounded coordinates alone turn directions, radians
+    // By what rounded coordinates alone turn the directions, radians. Where a chain nearly turns
+    // back the lefts of both segments nearly cancel, and their sum turns by more than they do.
+    double axisNoise = 0.0;
+    double miterNoise = 0.0;
 };
 
 struct ChainFrame {

@@ -47,8 +47,8 @@ public:
 private:
     // What an element moves by when directions turn by a small angle doesn't matter below the
     // tolerance of places.
-    [[nodiscard]] bool isWithin(double deviation, const VertexFrame& frame) const {
-        return deviation <= kAngleTolerance + frame.noise ||
+    [[nodiscard]] bool isWithin(double deviation, double noise) const {
+        return deviation <= kAngleTolerance + noise ||
                (deviation <= kLargestTurn && m_widest > 0.0 && deviation * m_widest <= m_place);
     }
 
@@ -56,11 +56,11 @@ private:
         const ChainVertex& vertex = m_chain.vertex(v);
         const VertexFrame& frame = m_frame.vertices[v];
         const double turned = (vertex.axis - frame.axis).length();
-        if (!isWithin(turned, frame)) {
+        if (!isWithin(turned, frame.axisNoise)) {
             const double angle = std::acos(std::clamp(dot(vertex.axis, frame.axis), -1.0, 1.0));
             m_findings.push_back({FindingCode::axis, v, {}, toDegrees(angle), 0.0});
         }
-        if (!isWithin(miterDeviation(vertex.miter, frame), frame)) {
+        if (!isWithin(miterDeviation(vertex.miter, frame), frame.miterNoise)) {
             m_findings.push_back({FindingCode::miter,
                                   v,
                                   {},

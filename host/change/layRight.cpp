@@ -23,11 +23,10 @@ void layDirections(MlineContent& laid, const ChainFrame& frame) {
     for (std::size_t v = 0; v < laid.vertices.size(); ++v) {
         ChainVertex& vertex = laid.vertices[v];
         const VertexFrame& right = frame.vertices[v];
-        const double tolerance = right.noise + kRounding;
-        if ((vertex.axis - right.axis).length() > tolerance) {
+        if ((vertex.axis - right.axis).length() > right.axisNoise + kRounding) {
             vertex.axis = right.axis;
         }
-        if (miterDeviation(vertex.miter, right) > tolerance) {
+        if (miterDeviation(vertex.miter, right) > right.miterNoise + kRounding) {
             vertex.miter = right.miter.direction;
         }
     }
@@ -106,7 +105,7 @@ void turnEnds(MlineContent& changed, const ChainFrame& before) {
     for (const std::size_t end : {std::size_t{0}, points.size() - 1}) {
         const VertexFrame& was = before.vertices[end];
         KdGeVector3d& miter = changed.vertices[end].miter;
-        if (!changed.closed && (axes[end] - was.axis).length() > was.noise + kRounding) {
+        if (!changed.closed && (axes[end] - was.axis).length() > was.axisNoise + kRounding) {
             miter = turnedMiter(miter, was, axes[end], leftOf(axes[end], changed.normal));
         }
     }
