@@ -75,9 +75,12 @@ private:
         }
         const auto line = m_chain.line(v, e);
         const double position = line.empty() ? 0.0 : line.front();
-        const double distance = position * sineOf(m_chain.vertex(v).miter, m_frame.vertices[v]);
-        if (line.empty() || std::abs(distance - m_frame.distances[e]) > m_place) {
-            m_findings.push_back({FindingCode::position, v, e, distance, m_frame.distances[e]});
+        const VertexFrame& frame = m_frame.vertices[v];
+        const double distance = position * sineOf(m_chain.vertex(v).miter, frame);
+        const double should = m_frame.distances[e];
+        const double tolerance = m_place + std::abs(should) * frame.miterNoise;
+        if (line.empty() || std::abs(distance - should) > tolerance) {
+            m_findings.push_back({FindingCode::position, v, e, distance, should});
         }
     }
 
