@@ -139,8 +139,8 @@ Result<ChainFrame> chainFrameOf(const MlineContent& mline, const StyleLayout& st
                                             isStart ? style.startAngle : style.endAngle)
                        : jointMiter(axes[before], axes[v], mline.normal);
         at.miterNoise = std::min(at.axisNoise / std::abs(at.miter.sine), kMostNoise);
-        if (!isStart && !isEnd && turnsStraightBack(axes[before], axes[v], mline.normal) &&
-            areMirrored(mline, v, at.left, frame.distances)) {
+        at.turnsBack = !isStart && !isEnd && turnsStraightBack(axes[before], axes[v], mline.normal);
+        if (at.turnsBack && areMirrored(mline, v, at.left, frame.distances)) {
             at.left = leftOf(axes[before], mline.normal);
             at.miter.direction = at.left;
         }

@@ -15,6 +15,7 @@ struct VertexFrame {
     // Unit, square to it. Where the chain turns straight back, the left of the one segment is the
     // right of the other: it is that of the segment before where the elements are stored like that.
     KdGeVector3d left;
+    bool turnsBack = false;
     // That the elements' positions should lie on: halves the angle, at an open end as stored. An
     // end whose stored one lies along the segment has the style's.
     Miter miter;

@@ -116,7 +116,7 @@ void keepSides(ChainFrame& frame, const ChainFrame& before) {
     for (std::size_t v = 0; v < frame.vertices.size(); ++v) {
         VertexFrame& fresh = frame.vertices[v];
         const VertexFrame& was = before.vertices[v];
-        if (dot(fresh.axis, was.axis) > 0.0 && dot(fresh.left, was.left) < 0.0) {
+        if (fresh.turnsBack && dot(fresh.axis, was.axis) > 0.0 && dot(fresh.left, was.left) < 0.0) {
             fresh.left = KdGeVector3d() - fresh.left;
             fresh.miter.direction = fresh.left;
         }
