@@ -8,7 +8,7 @@ PICTURES = pathlib.Path(__file__).resolve().parent / "pictures"
 # Room, what stands there, what it does; then what is handed on to the next.
 PICK = [
     ("apps/canvas", "Canvas", "where the mouse was pressed", "a point in the drawing"),
-    ("apps/desk", "DeskPrompts", "answers the question that is open", "PromptAnswer"),
+    ("apps/desk/commands", "DeskPrompts", "answers the question that is open", "PromptAnswer"),
     ("host/prompt", "kdedEntSel", "asks which entity lies there", "point, aperture"),
     ("host/view", "Scene, PickIndex", "finds the nearest drawn line", "entity name"),
     ("engine", "CMlineEdit", "matches segment and element, then the tool's step", "lists, positions"),

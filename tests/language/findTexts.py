@@ -17,15 +17,15 @@ ROOMS = ["apps/desk", "apps/canvas", "apps/common", "host/session", "host/prompt
 # (file, literal, why); both are patterns for the whole.
 ALLOWED = [
     (r"apps/desk/(DeskCall|main)\.cpp", r".*", "what a terminal is told at the start, in English as by orvex-batch"),
-    (r"apps/desk/SnapDesk\.cpp", r"\w+", "names of actions"),
-    (r"apps/desk/helpPages\.cpp", r"qrc:", "an address"),
+    (r"apps/desk/pointing/SnapDesk\.cpp", r"\w+", "names of actions"),
+    (r"apps/desk/help/helpPages\.cpp", r"qrc:", "an address"),
     (r"apps/common/SvgPicture\.cpp", r".*", "what a picture is written with"),
     (r"apps/common/paintAppearance\.cpp", r"DejaVu Sans", "a font"),
     (r"apps/common/memoryEnd\.cpp", r".*", "what a terminal is told when there is no memory for more"),
     (r"apps/common/pictureWriter\.cpp", r"(each side of|a \.png) .*", "of sizes, which are orvex-batch's"),
     (r"host/session/\w+\.cpp", r"(Look Repair|Top Zero Bottom|Both Start End None|STyle SCale .*|Axis Outer|Yes No|Tolerance Cross .*|"
      r"Justification Scale .*|Close Undo|ALL Window .*|Move Add .*|Extents Center)", "keywords"),
-    (r"apps/desk/PlayScript\.cpp", r"; what was done to ", "a comment in a script that is saved"),
+    (r"apps/desk/commands/PlayScript\.cpp", r"; what was done to ", "a comment in a script that is saved"),
     (r"host/session/JoinRun\.cpp", r"(What joined|their own;|as before).*", "comments in a script that is saved"),
     (r"host/(drawing|resources)/\w+\.cpp", r".*", "what is wrong inside a file, in English as in reports"),
     (r"host/base/(crashRecorder|readFile)\.cpp", r".*", "reports, and names that reports have"),

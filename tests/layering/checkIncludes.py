@@ -31,6 +31,12 @@ def interface(*subjects):
     return ["host/include/" + subject for subject in subjects]
 
 
+def desk(*rooms):
+    return ["apps/desk/" + room for room in rooms]
+
+
+DESK = host(*SUBJECTS, *WINDOWS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common", "apps/canvas"]
+
 # room: the folders, besides its own, whose headers it may include.
 RULES = {
     # The host. It never sees a module.
@@ -64,12 +70,21 @@ RULES = {
     "apps/common": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session"],
     "apps/batch": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common"],
     "apps/canvas": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common"],
-    "apps/desk": host(*SUBJECTS, *WINDOWS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common", "apps/canvas"],
+    "apps/desk": DESK + desk("commands", "files", "help", "panels", "pointing", "typing", "widgets"),
+    # Each can be read without its neighbours: they meet in the window.
+    "apps/desk/widgets": DESK,
+    "apps/desk/commands": DESK + desk("widgets"),
+    "apps/desk/typing": DESK + desk("commands", "widgets"),
+    "apps/desk/files": DESK + desk("commands", "widgets"),
+    "apps/desk/pointing": DESK + desk("commands", "widgets"),
+    "apps/desk/help": DESK + desk("commands", "widgets"),
+    "apps/desk/panels": DESK + desk("commands", "pointing", "widgets"),
 }
 
 # Headers from outside the tree, and the only rooms that may reach them.
 OUTSIDE = {
-    "QWidget": ["host/window", "host/ui", "controls", "dialogs", "module", "apps/canvas", "apps/desk"],
+    "QWidget": ["host/window", "host/ui", "controls", "dialogs", "module", "apps/canvas", "apps/desk",
+                *desk("widgets", "commands", "typing", "files", "pointing", "help", "panels")],
 }
 
 NOT_ROOMS = ("tests", "bench", "build", "out", "docs", "samples", "tools", "cmake")
