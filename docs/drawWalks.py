@@ -41,8 +41,8 @@ def drawn(steps):
         y = 10 + i * STEP
         lines.append(f'<rect x="10" y="{y}" width="740" height="{BOX}" rx="6" fill="{COLOURS[room[:4]]}" stroke="#9aa5b1"/>')
         lines.append(f'<text x="24" y="{y + 27}" fill="#52606d">{room}</text>')
-        lines.append(f'<text x="140" y="{y + 27}" font-weight="bold" fill="#1f2933">{name}</text>')
-        lines.append(f'<text x="370" y="{y + 27}" fill="#1f2933">{does}</text>')
+        lines.append(f'<text x="176" y="{y + 27}" font-weight="bold" fill="#1f2933">{name}</text>')
+        lines.append(f'<text x="398" y="{y + 27}" fill="#1f2933">{does}</text>')
         if hands_on:
             lines.append(f'<path d="M200 {y + BOX}v17m-5 -6l5 6l5 -6" fill="none" stroke="#1d4ed8" stroke-width="1.5"/>')
             lines.append(f'<text x="214" y="{y + BOX + 15}" font-size="12" fill="#1d4ed8">{hands_on}</text>')
