@@ -156,7 +156,8 @@ public:
 
     void play() {
         constexpr int kMostCommands = 30;
-        for (int i = 0; i < kMostCommands && !m_bytes.isAtEnd(); ++i) {
+        constexpr std::size_t kMostBytes = 1 << 20; // COPY of all, again and again, has no end
+        for (int i = 0; i < kMostCommands && m_now.size() < kMostBytes && !m_bytes.isAtEnd(); ++i) {
             step(m_answers.command());
         }
         const std::string end = m_now;
