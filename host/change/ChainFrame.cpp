@@ -165,7 +165,8 @@ double sineOf(const KdGeVector3d& stored, const VertexFrame& frame) {
     if (miterDeviation(stored, frame) > frame.miterNoise) {
         return dot(frame.left, stored);
     }
-    return std::copysign(stored.length(), dot(stored, frame.miter.direction)) * frame.miter.sine;
+    const KdGeVector3d& right = frame.miter.direction;
+    return std::copysign(stored.length() / right.length(), dot(stored, right)) * frame.miter.sine;
 }
 
 bool endsInJoint(const MlineContent& mline, unsigned segment) {

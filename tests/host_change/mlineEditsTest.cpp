@@ -141,6 +141,10 @@ TEST(Audit, tellsWhatListsAndStylesContradict) {
     EXPECT_THAT(
         codes(along, &style),
         ::testing::ElementsAre(FindingCode::miter, FindingCode::position, FindingCode::position));
+    MlineContent twice =
+        straightMline({}, 100, {{2.5, 0.0}, {-2.5, 0.0}}); // positions are in miters
+    twice.vertices[0].miter = twice.vertices[1].miter = {0, 2, 0};
+    EXPECT_THAT(codes(twice, &style), ::testing::IsEmpty());
     MlineContent empty = wall({0});
     empty.vertices[1].position = {0, 0, 0};
     EXPECT_THAT(codes(empty, &style), ::testing::ElementsAre(FindingCode::chain));

@@ -35,6 +35,7 @@ def desk(*rooms):
     return ["apps/desk/" + room for room in rooms]
 
 
+DESK_ROOMS = desk("commands", "files", "help", "panels", "pointing", "typing", "widgets")
 DESK = host(*SUBJECTS, *WINDOWS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common", "apps/canvas"]
 
 # room: the folders, besides its own, whose headers it may include.
@@ -70,7 +71,7 @@ RULES = {
     "apps/common": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session"],
     "apps/batch": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common"],
     "apps/canvas": host(*SUBJECTS) + ["host/change", "host/drawing", "host/join", "host/session", "apps/common"],
-    "apps/desk": DESK + desk("commands", "files", "help", "panels", "pointing", "typing", "widgets"),
+    "apps/desk": DESK + DESK_ROOMS,
     # Each can be read without its neighbours: they meet in the window.
     "apps/desk/widgets": DESK,
     "apps/desk/commands": DESK + desk("widgets"),
@@ -83,8 +84,7 @@ RULES = {
 
 # Headers from outside the tree, and the only rooms that may reach them.
 OUTSIDE = {
-    "QWidget": ["host/window", "host/ui", "controls", "dialogs", "module", "apps/canvas", "apps/desk",
-                *desk("widgets", "commands", "typing", "files", "pointing", "help", "panels")],
+    "QWidget": ["host/window", "host/ui", "controls", "dialogs", "module", "apps/canvas", "apps/desk", *DESK_ROOMS],
 }
 
 NOT_ROOMS = ("tests", "bench", "build", "out", "docs", "samples", "tools", "cmake")
