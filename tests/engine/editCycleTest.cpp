@@ -140,10 +140,20 @@ TEST_F(EditCycle, hidesWhatTheRowSaysBeforeWritingBack) {
         {Tool::openTee, {"refresh", "hide A", "show A", "show B"}},
         {Tool::mergedTee, {"refresh", "show A", "show B"}},
         {Tool::cornerJoint, {"refresh", "hide A", "show A", "hide B", "show B"}},
+        {Tool::addVertex, {"refresh", "hide A", "show A"}},
+        {Tool::deleteVertex, {"refresh", "hide A", "show A"}},
+        {Tool::cutSingle, {"refresh", "hide A", "show A"}},
+        {Tool::weldAll, {"refresh", "hide A", "show A"}},
     };
     for (const auto& c : cases) {
         tool = withStep(c.number);
-        play({onA, onB, keyword(L"UNDO")});
+        using Second = EditTool::SecondPick;
+        const orvex::PromptAnswer undo = keyword(L"UNDO");
+        if (tool.secondPick == Second::none) {
+            play({onA, undo});
+        } else {
+            play({onA, tool.secondPick == Second::multiline ? onB : onA, undo});
+        }
         EXPECT_EQ(display.events, c.events) << static_cast<int>(c.number);
     }
 }

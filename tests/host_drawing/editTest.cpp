@@ -242,9 +242,14 @@ TEST(ChangedStyle, keepsTheTextOfWhatIsTheSame) {
 
 TEST(ChangedDictionary, followsItsEntries) {
     const std::string sample = sampleDrawing();
-    expectEdit(
-        [](DrawingFile& file) { opened<KdDbDictionary>(file, 0x17).setName(L"WALL", L"Brick"); },
-        "  3\nWALL\n", "  3\nBrick\n");
+    const auto rename = [](DrawingFile& file) {
+        opened<KdDbDictionary>(file, 0x17).setName(L"WALL", L"Brick");
+    };
+    expectEdit(rename, "  3\nWALL\n", "  3\nBrick\n");
+    // What stands in another program's group is no entry.
+    const std::string grouped =
+        replaced(sample, "C\n102\n}\n330\nC\n", "C\n  3\nWALL\n350\n2F\n102\n}\n330\nC\n");
+    expectEdit(grouped, rename, replaced(grouped, "2E\n  3\nWALL\n", "2E\n  3\nBrick\n"));
     expectEdit(
         sample, [](DrawingFile& file) { opened<KdDbDictionary>(file, 0x17).remove(L"WALL"); },
         replaced(replaced(sample, between("  0\nMLINESTYLE\n  5\n2F", "  0\nENDSEC"), ""),

@@ -157,6 +157,13 @@ TEST(NewStyle, isListedInTheDictionary) {
     EXPECT_TRUE(sameText(file->bytes(), expected));
 }
 
+TEST(NewStyle, isListedInADictionaryWithoutEntries) {
+    const auto file = openDrawing(dxf("0 SECTION\n2 OBJECTS\n0 DICTIONARY\n5 C\n3 ACAD_MLINESTYLE\n"
+                                      "350 17\n0 DICTIONARY\n5 17\n281 1\n0 ENDSEC\n0 EOF"));
+    addStyle(*file, L"Zaun");
+    EXPECT_THAT(file->bytes(), HasSubstr(dxf("281 1\n3 STANDARD\n350 19\n3 Zaun\n350 18\n")));
+}
+
 TEST(NewStyle, isWrittenOnceItIsCurrent) {
     const auto file = openDrawing(dxf("0 SECTION\n2 HEADER\n9 $CMLSTYLE\n2 GONE\n0 ENDSEC\n0 EOF"));
     file->database().core().setVariable("CMLSTYLE", std::wstring(L"STANDARD"));

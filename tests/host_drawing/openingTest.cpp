@@ -188,12 +188,15 @@ TEST(Opening, takesUsualValuesForWhatIsLeftOut) {
     const auto file = openDrawing(
         dxf("0 SECTION\n2 ENTITIES\n0 MLINE\n5 51\n2 BARE\n72 1\n73 0\n11 1\n21 2\n31 3\n12 1\n"
             "22 0\n13 0\n23 1\n0 MLINE\n5 52\n2 BARE\n71 12\n72 0\n73 0\n0 ENDSEC\n"
-            "0 SECTION\n2 OBJECTS\n0 MLINESTYLE\n5 2F\n2 BARE\n71 0\n0 ENDSEC\n0 EOF"));
+            "0 SECTION\n2 OBJECTS\n0 MLINESTYLE\n5 2F\n2 BARE\n71 0\n0 ENDSEC\n"
+            "0 SECTION\n2 TABLES\n0 TABLE\n2 LAYER\n0 LAYER\n5 10\n2 BARE\n0 ENDSEC\n0 EOF"));
     DatabaseCore& core = file->database().core();
+    const auto* const layer = dynamic_cast<KdDbLayerTableRecord*>(core.load(stubOf(*file, 0x10)));
     const auto* const mline = dynamic_cast<KdDbMline*>(core.load(stubOf(*file, 0x51)));
     const auto* const flagged = dynamic_cast<KdDbMline*>(core.load(stubOf(*file, 0x52)));
     const auto* const style = dynamic_cast<KdDbMlineStyle*>(core.load(stubOf(*file, 0x2F)));
-    ASSERT_TRUE(mline != nullptr && flagged != nullptr && style != nullptr);
+    ASSERT_TRUE(mline != nullptr && flagged != nullptr && style != nullptr && layer != nullptr);
+    EXPECT_EQ(layer->color().colorIndex(), 7);
     EXPECT_EQ(mline->scale(), 1.0);
     EXPECT_EQ(mline->justification(), 0);
     EXPECT_EQ(mline->normal(), (KdGeVector3d{0.0, 0.0, 1.0}));

@@ -147,6 +147,7 @@ TEST(Shapes, ofAlignedTexts) {
         {"TEXT\n72 4\n73 1\n11 4", 4.0, 1, 2, {0.0, 1.0, 0.0}}, // the middle of all
         {"TEXT\n72 2\n73 3\n11 4", 4.0, 2, 3, {0.0, 1.0, 0.0}},
         {"TEXT\n72 0\n73 1\n11 4", 4.0, 0, 1, {0.0, 1.0, 0.0}},
+        {"TEXT\n72 2\n73 0\n11 4", 4.0, 2, 0, {0.0, 1.0, 0.0}},
         {"TEXT\n72 9\n73 9\n11 4", 4.0, 2, 3, {0.0, 1.0, 0.0}},
         {"TEXT\n11 4", 1.0, 0, 0, {0.0, 1.0, 0.0}},
         {"TEXT\n72 2\n73 3", 1.0, 0, 0, {0.0, 1.0, 0.0}},
@@ -192,13 +193,17 @@ TEST(Shapes, ofHatches) {
         "0 HATCH\n10 0\n20 0\n30 1\n91 2\n92 2\n72 1\n73 1\n93 2\n10 0\n20 0\n42 1\n10 4\n20 0\n"
         "42 0\n97 0\n92 1\n93 4\n72 1\n10 0\n20 0\n11 1\n21 1\n72 2\n10 5\n20 5\n40 2\n50 0\n"
         "51 90\n73 0\n72 3\n10 0\n20 0\n11 2\n21 0\n40 0.5\n50 270\n51 90\n73 1\n"
-        "72 4\n94 1\n73 0\n74 0\n95 4\n96 2\n40 0\n40 0\n40 1\n40 1\n10 0\n20 2\n10 8\n20 6\n97 0\n"
+        "72 4\n94 1\n73 0\n74 0\n95 5\n96 3\n40 0\n40 0\n40 1\n40 2\n40 2\n10 0\n20 2\n10 8\n20 "
+        "6\n10 8\n20 9\n"
+        "97 0\n"
         "75 0");
     ASSERT_EQ(hatch.paths.size(), 3U);
+    EXPECT_TRUE(hatch.paths[0].closed);
     EXPECT_EQ(hatch.paths[0].vertices[0].bulge, 1.0);
     expectNear(hatch.paths[1].vertices[1].position, 1.0, 1.0, 1.0);
-    ASSERT_EQ(hatch.paths[2].vertices.size(), 9U);
-    expectNear(hatch.paths[2].vertices[4].position, 4.0, 4.0, 1.0); // a spline that is straight
+    ASSERT_EQ(hatch.paths[2].vertices.size(), 18U); // a spline of two straight spans
+    expectNear(hatch.paths[2].vertices[4].position, 4.0, 4.0, 1.0);
+    expectNear(hatch.paths[2].vertices[13].position, 8.0, 7.5, 1.0);
     ASSERT_EQ(hatch.arcs.size(), 2U);
     // Clockwise from 0 to 90 degrees is the arc from -90 to 0.
     EXPECT_DOUBLE_EQ(hatch.arcs[0].start, -kPi / 2.0);

@@ -159,6 +159,7 @@ TEST(SpaceCrossing, ofParallels) {
                            {"apart in height", "0,0,0 4,0,0", "0,0,1 4,0,1", -1, kUnwritten},
                            {"other slope", "0,0,0 4,0,0", "5,0,1 9,0,2", -1, kUnwritten},
                            {"touching at the end", "0,0,0 4,0,0", "6,0,0 4,0,0", 3, "4,0,0"},
+                           {"end on the other start", "0,0,0 4,0,0", "4,0,0 6,0,0", 3, "4,0,0"},
                            {"touching at the start", "0,0,0 4,0,0", "0,0,0 -3,0,0", 3, "0,0,0"},
                            {"start on the other end", "0,0,0 4,0,0", "-3,0,0 0,0,0", 3, "0,0,0"},
                            {"touching at a height", "0,1,5 4,1,5", "6,1,5 4,1,5", 3, "4,1,5"},

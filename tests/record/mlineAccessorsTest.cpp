@@ -51,6 +51,8 @@ TEST_F(MlineAccessors, onlyItsOwnFlagsAreSetAndAChainOfTwoKeepsItsClosedBit) {
     EXPECT_EQ(after(0), kFlagHasVertex);
     EXPECT_EQ(SetNumVertices(&mline, 1), 0);
     EXPECT_EQ(mline.numVertices(), 3);
+    EXPECT_EQ(SetNumVertices(&mline, 5), 1);
+    EXPECT_EQ(mline.numVertices(), 5);
     EXPECT_EQ(SetNumVertices(&mline, 2), 1);
     EXPECT_EQ(after(kFlagClosed | kFlagNoStartCaps | kFlagNoEndCaps),
               kFlagHasVertex | kFlagNoStartCaps | kFlagNoEndCaps);

@@ -12,6 +12,12 @@ using ::testing::ElementsAre;
 
 class VoBitStreamTest : public StreamTest {};
 
+// Doesn't show its bytes, so that they have to be copied.
+class HiddenBuf : public VoFlatMemBuf {
+    unsigned char* buffer() override { return nullptr; }
+    [[nodiscard]] const unsigned char* buffer() const override { return nullptr; }
+};
+
 TEST_F(VoBitStreamTest, writesAndReadsMatchAModelOfBits) {
     std::mt19937 random(2);
     const auto below = [&](std::size_t count) { return static_cast<unsigned>(random() % count); };
@@ -50,6 +56,9 @@ TEST_F(VoBitStreamTest, writesAndReadsMatchAModelOfBits) {
         }
         ASSERT_EQ(bitsFrom(stream, 0), model);
         ASSERT_EQ(buffer.length(), model.size() / 8 + 1); // the next byte is there already
+        HiddenBuf hidden;
+        hidden.open(buffer.buffer(), static_cast<unsigned>(buffer.length()), 0);
+        VoBitStream copies(&hidden, model.size());
         stream.seek(0, VoIO::fromStart);
         for (std::size_t at = 0; at + 24 < model.size();) {
             std::array<unsigned char, 2> bytes{};
@@ -59,6 +68,10 @@ TEST_F(VoBitStreamTest, writesAndReadsMatchAModelOfBits) {
             stream.readBytes(bytes.data(), 2);
             ASSERT_EQ(bits(value, count) + bits(bytes[0], 8) + bits(bytes[1], 8),
                       model.substr(at, count + 16));
+            std::array<unsigned char, 2> copied{};
+            copies.seek(at + count, VoIO::fromStart);
+            copies.readBytes(copied.data(), 2);
+            ASSERT_EQ(copied, bytes);
             at += count + 16;
         }
     }
