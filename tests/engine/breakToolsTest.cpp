@@ -74,7 +74,9 @@ TEST_F(BreakTools, cutStopsAtWhatDoesntExist) {
     seg.m_mline = add("0,0 10,0 : 1 -1");
     run.Cut_Mongline(&seg, 2, start, 0, end, 0);
     run.Cut_Mongline(&seg, -1, start, 0, end, 0);
-    run.Cut_Mongline(&seg, 0, start, 0, end, 5);
+    run.Cut_Mongline(&seg, 0, start, 0, end, 2);
+    run.Cut_Mongline(&seg, 0, start, 2, end, 0);
+    run.Cut_Mongline(&seg, 0, start, 2, end, 2);
     run.Cut_Mongline(&seg, 0, start, 0, nowhere, 0);
     EXPECT_EQ(lists(seg.m_mline, 0), "1 0 | -1 0");
     // Where there is no vertex, the origin would be read.

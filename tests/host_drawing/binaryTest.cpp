@@ -15,6 +15,7 @@ namespace {
 using namespace orvex;
 using namespace orvex::testing;
 using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 std::string converted(const std::string& bytes, DrawingForm form) {
     const auto result = convertBytes(bytes, form);
@@ -87,6 +88,8 @@ TEST(BinaryForm, keepsOddTagsOfAnEditedRecord) {
     EXPECT_NE(file->bytes().find(odd), std::string::npos);
     EXPECT_THAT(convertBytes(bytes, DrawingForm::text).failure().text,
                 HasSubstr("at byte " + std::to_string(place) + ":"));
+    EXPECT_THAT(warningsOf(binaryOf(replaced(sampleDrawing(), " 71\n2\n 49", " 71\n3\n 49"))),
+                StartsWith("0: at byte "));
 }
 
 TEST(BinaryForm, opensWhatIsCutAtATagAndRefusesAllElse) {

@@ -4,6 +4,7 @@
 #include "sampleDrawing.h"
 #include "workThreads.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -68,10 +69,8 @@ void expectSame(const std::string& bytes) {
     }
     EXPECT_EQ(different, 0U);
     const auto lines = [](const auto& list) {
-        std::vector<std::size_t> result;
-        for (const auto& each : list) {
-            result.push_back(each.line);
-        }
+        std::vector<std::size_t> result(list.size());
+        std::ranges::transform(list, result.begin(), [](const auto& each) { return each.line; });
         return result;
     };
     EXPECT_EQ(lines(one.namedStyles), lines(two.namedStyles));

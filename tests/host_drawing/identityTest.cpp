@@ -79,11 +79,10 @@ TEST(Identity, holdsForDamagedFiles) {
         const std::size_t next = sample.find('\n', value) + 1;
         const std::string what = "at byte " + std::to_string(at);
         const std::string before = sample.substr(0, at);
-        const std::string tag = sample.substr(at, next - at);
         const std::string behind = sample.substr(next);
         expectIdentity(before, "cut " + what);
         expectIdentity(before + behind, "a tag less " + what);
-        expectIdentity(before + tag + tag + behind, "a tag twice " + what);
+        expectIdentity(sample.substr(0, next) + sample.substr(at), "a tag twice " + what);
         expectIdentity(before + sample.substr(sample.find("\n  0\n", next - 1) + 1),
                        "the rest of a record less " + what);
         for (const char* const other : {"", "-1", "99999", "nan", "1e999", "{", "0", "2147483648",

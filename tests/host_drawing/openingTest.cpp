@@ -51,16 +51,15 @@ TEST(Opening, isRefusedWithTheLine) {
 // The least integer has no absolute value: an index that means nothing, and no undefined result.
 TEST(Opening, takesAnyNumberForAColor) {
     const struct {
-        const char* number;
+        const char* tags;
         int index;
-    } colors[] = {{"7", 7}, {"-7", 7}, {"-2147483648", 0}};
-    for (const auto& [number, index] : colors) {
-        const auto file = openDrawing(
-            replaced(sampleDrawing(), " 62\n2\n", " 62\n" + std::string(number) + "\n"));
+    } colors[] = {{"62 7", 7}, {"62 -7", 7}, {"62 -2147483648", 0}, {"420 255\n62 7", 7}};
+    for (const auto& [tags, index] : colors) {
+        const auto file = openDrawing(replaced(sampleDrawing(), " 62\n2\n", dxf(tags)));
         auto* const style =
             dynamic_cast<KdDbMlineStyle*>(file->database().core().load(stubOf(*file, 0x2F)));
         ASSERT_NE(style, nullptr);
-        EXPECT_EQ(style->fillColor().colorIndex(), index) << number;
+        EXPECT_EQ(style->fillColor().colorIndex(), index) << tags;
     }
 }
 
@@ -120,6 +119,8 @@ TEST(Opening, tellsOfWhatIsOdd) {
         {odd(" 12\n1.00\n", " 12\n1.00\n 12\n1.0\n"), ", a vertex is out of order"},
         {odd("340\n2F", "340\nFFF"), ": a multiline names a style that the drawing doesn't have"},
         {odd(" 71\n2\n 49\n0.50", " 71\n3\n 49\n0.50"), ": a multiline style contradicts itself"},
+        {odd("62\n1\n420", "62\nx\n420"), ": a multiline style contradicts itself, a colour is no"},
+        {odd("420\n16711680", "420\nx"), ": a multiline style contradicts itself, a colour is no"},
         {odd(" 51\n45.000", " 51\nx"), ": a multiline style contradicts itself, a value is no fin"},
     };
     for (const char* const field : {"2 WALL", "340 2F", "40 1", "70 1", "71 1", "72 3", "73 2",
