@@ -267,6 +267,8 @@ TEST(ChangedVariables, areWrittenInPlaceOrAtTheEndOfTheHeader) {
         {"CMLSCALE", 20.0, "20.00", "20.00"},
         {"CMLSTYLE", std::wstring(L"STANDARD"), "STYLE\n  2\nWALL", "STYLE\n  2\nSTANDARD"},
         {"CMLJUST", 2, " 70\n3\n", " 70\n3\n  9\n$CMLJUST\n 70\n2\n"},
+        {"CLAYER", std::wstring(L"Walls"), " 70\n3\n", " 70\n3\n  9\n$CLAYER\n  8\nWalls\n"},
+        {"CELTYPE", std::wstring(L"DASHED"), " 70\n3\n", " 70\n3\n  9\n$CELTYPE\n  6\nDASHED\n"},
         {"UCSORG", KdGePoint3d{1, 2, 3}, " 70\n3\n",
          " 70\n3\n  9\n$UCSORG\n 10\n1.0\n 20\n2.0\n 30\n3.0\n"},
         {"PICKBOX", 5, "", ""},

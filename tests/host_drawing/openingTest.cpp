@@ -181,8 +181,11 @@ TEST(Opening, putsEntitiesIntoTheirBlocks) {
     EXPECT_EQ(room->record, &stubOf(*file, 0x1C));
     EXPECT_EQ(core.blocks().blockOf(stubOf(*file, 0x41)), room);
     // A block that its section ends has what stands in it.
-    const auto open = openDrawing(dxf("0 SECTION\n2 BLOCKS\n0 BLOCK\n2 A\n0 LINE\n5 B\n0 ENDSEC"));
-    EXPECT_EQ(handles(*open->database().core().blocks().find(L"a")), (Handles{0xB}));
+    const auto open =
+        openDrawing(dxf("0 SECTION\n2 BLOCKS\n0 BLOCK\n2 A\n30 4\n0 LINE\n5 B\n0 ENDSEC"));
+    const BlockEntities* const elevated = open->database().core().blocks().find(L"a");
+    EXPECT_EQ(handles(*elevated), (Handles{0xB}));
+    EXPECT_EQ(elevated->basePoint, (KdGePoint3d{0.0, 0.0, 4.0}));
 }
 
 TEST(Opening, takesUsualValuesForWhatIsLeftOut) {
