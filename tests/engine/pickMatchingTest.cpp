@@ -100,9 +100,9 @@ TEST_F(PickMatching, onlyAMultilineEndsAPromptForOne) {
 
 TEST(Collinear, segmentsLieOnOneLineWhateverTheirDirection) {
     const struct {
-        const char* name;
+        const char* name = "";
         KdGePoint3d p[4];
-        bool collinear;
+        bool collinear = false;
     } cases[] = {
         {"against each other", {{0, 0, 0}, {2, 0, 0}, {9, 0, 0}, {5, 0, 0}}, true},
         {"ends meet: the start stands in", {{0, 0, 0}, {2, 0, 0}, {5, 0, 0}, {2, 0, 0}}, true},

@@ -64,7 +64,7 @@ public:
         for (Shape& shape : made.shapes) {
             shape = this->shape(onGrid);
         }
-        const std::size_t one = static_cast<std::size_t>(upTo(1));
+        const auto one = static_cast<std::size_t>(upTo(1));
         const bool same = tool >= kFirstOnOne || upTo(5) == 0;
         made.picks[0] = pick(made, one);
         made.picks[1] = pick(made, same ? one : 1 - one);

@@ -27,7 +27,9 @@ protected:
         (stream.*write)(value);
         ASSERT_EQ(stream.length(), sizeof(T));
         EXPECT_EQ(stream.tell(), sizeof(T));
-        EXPECT_EQ(std::memcmp(buffer.buffer(), &value, sizeof(T)), 0);
+        T image{};
+        std::memcpy(&image, buffer.buffer(), sizeof(T));
+        EXPECT_EQ(image, value);
         stream.seek(0, VoIO::fromStart);
         T other{};
         (stream.*read)(other);
