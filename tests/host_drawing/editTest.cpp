@@ -9,6 +9,7 @@
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineContent.h"
+#include "WellKnownObjects.h"
 #include "sampleDrawing.h"
 
 #include <algorithm>
@@ -232,6 +233,13 @@ TEST(ChangedStyle, keepsTheTextOfWhatIsTheSame) {
     KdCmColor color;
     expectStyle([&](Style& style) { style.setElement(index, 0.5, color, {}); }, element,
                 dxf("49 0.50\n62 256\n6 BYLAYER"));
+    expectEdit(
+        sampleDrawing(),
+        [&](DrawingFile& file) {
+            KdDbStub* const byBlock = file.database().core().wellKnown().findLinetype(L"BYBLOCK");
+            opened<Style>(file, 0x2F).setElement(index, 0.5, color, KdDbObjectId(byBlock));
+        },
+        replaced(sampleDrawing(), element, dxf("49 0.50\n62 256\n6 BYBLOCK")));
     color.setColor(0xC20000FFU);
     color.setNamesFromDictionaryKey(L"BOOK$Sky");
     expectStyle([&](Style& style) { style.addElement(index, 1.5, color, {}, true); },

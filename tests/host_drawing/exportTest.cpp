@@ -30,7 +30,7 @@ std::string drawing() {
                "0 SECTION\n2 TABLES\n0 TABLE\n2 BLOCK_RECORD\n5 1\n70 1\n"
                "0 BLOCK_RECORD\n5 2\n2 *Model_Space\n0 ENDTAB\n0 ENDSEC\n"
                "0 SECTION\n2 BLOCKS\n0 BLOCK\n2 *Model_Space\n0 ENDBLK\n"
-               "0 BLOCK\n2 ORVEX_12\n0 ENDBLK\n0 ENDSEC\n"
+               "0 BLOCK\n2 ORVEX_12\n0 ENDBLK\n0 BLOCK\n2 ORVEX_12_2\n0 ENDBLK\n0 ENDSEC\n"
                "0 SECTION\n2 ENTITIES\n"
                "0 MLINE\n5 10\n102 {ACAD_XDICTIONARY\n360 A\n102 }\n8 Walls\n60 1\n"
                "2 STANDARD\n72 0\n73 0\n"
@@ -182,11 +182,12 @@ TEST(Export, putsInsertsInTheirPlace) {
     const std::string expected = changed({
         {"9 $HANDSEED\n5 20", "9 $HANDSEED\n5 2E"},
         {"5 1\n70 1", "5 1\n70 3"},
-        {"0 ENDTAB", recordTags(0x20, "ORVEX_10") + recordTags(0x27, "ORVEX_12_2") + "0 ENDTAB"},
-        {"2 ORVEX_12\n0 ENDBLK", "2 ORVEX_12\n0 ENDBLK\n" + blockTags(0x20, "Walls", "ORVEX_10") +
-                                     blockTags(0x27, "Doors", "ORVEX_12_2")},
+        {"0 ENDTAB", recordTags(0x20, "ORVEX_10") + recordTags(0x27, "ORVEX_12_3") + "0 ENDTAB"},
+        {"2 ORVEX_12_2\n0 ENDBLK", "2 ORVEX_12_2\n0 ENDBLK\n" +
+                                       blockTags(0x20, "Walls", "ORVEX_10") +
+                                       blockTags(0x27, "Doors", "ORVEX_12_3")},
         {kFirst, insertTags(0x26, "8 Walls\n60 1\n", "ORVEX_10")},
-        {kSecond, insertTags(0x2D, "8 Doors\n", "ORVEX_12_2")},
+        {kSecond, insertTags(0x2D, "8 Doors\n", "ORVEX_12_3")},
         {kGroups, "0 GROUP\n5 5\n330 4\n340 26\n0 GROUP\n5 6\n330 4\n340 26\n340 11"},
         {kOwned, ""},
         {kOrder, "331 26\n5 FF\n331 11\n5 FE\n331 2D\n5 12"},

@@ -76,6 +76,7 @@ TEST(Shapes, ofPolylines) {
     ASSERT_EQ(light.vertices.size(), 2U);
     EXPECT_TRUE(light.closed);
     expectNear(light.vertices[0].position, 1.0, 2.0, 3.0);
+    expectNear(light.vertices[1].position, 4.0, 5.0, 3.0);
     EXPECT_EQ(light.vertices[0].bulge, 0.5);
     EXPECT_EQ(light.vertices[1].bulge, 0.0);
     const auto flat = shapeOf<PolylineShape>(
@@ -193,10 +194,8 @@ TEST(Shapes, ofHatches) {
         "0 HATCH\n10 0\n20 0\n30 1\n91 2\n92 2\n72 1\n73 1\n93 2\n10 0\n20 0\n42 1\n10 4\n20 0\n"
         "42 0\n97 0\n92 1\n93 4\n72 1\n10 0\n20 0\n11 1\n21 1\n72 2\n10 5\n20 5\n40 2\n50 0\n"
         "51 90\n73 0\n72 3\n10 0\n20 0\n11 2\n21 0\n40 0.5\n50 270\n51 90\n73 1\n"
-        "72 4\n94 1\n73 0\n74 0\n95 5\n96 3\n40 0\n40 0\n40 1\n40 2\n40 2\n10 0\n20 2\n10 8\n20 "
-        "6\n10 8\n20 9\n"
-        "97 0\n"
-        "75 0");
+        "72 4\n94 1\n73 0\n74 0\n95 6\n96 4\n40 0\n40 0\n40 1\n40 1\n40 2\n40 2\n"
+        "10 0\n20 2\n10 8\n20 6\n10 8\n20 6\n10 8\n20 9\n97 0\n75 0");
     ASSERT_EQ(hatch.paths.size(), 3U);
     EXPECT_TRUE(hatch.paths[0].closed);
     EXPECT_EQ(hatch.paths[0].vertices[0].bulge, 1.0);

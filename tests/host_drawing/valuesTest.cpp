@@ -108,6 +108,7 @@ TEST(DrawingText, readsAndWritesInTheFilesCodePage) {
         {"AC1015", "KSC5601", "\xBA\xAE", L"\uBCBD"},
         {"AC1015", "", "\\U+007F", L"\x7F"},
         {"AC1015", "", "\\U+DBFF\\U+DFFF", L"\U0010FFFF"},
+        {"AC1015", "", "\\U+D800\\U+DC00", L"\U00010000"},
         {"AC1015", "", "\\U+D800\\U+E000", L"\xD800\xE000"}, // halves of nothing
         {"AC1015", "", "\\U+DC00\\U+D800x", L"\xDC00\xD800x"},
         {"AC1015", "", "\\U+0/00\\U+0:00\\U+0@00\\U+0G00\\U+0`00\\U+0g00",

@@ -48,7 +48,8 @@ TEST(Comparisons, iMvelaRealEqualGrowsWithTheCoordinates) {
 
 TEST(Comparisons, anglesAreBroughtToOneTurnWithoutWrapAround) {
     expectAll(mlineAngleEqual,
-              {{"zero and a full turn less nothing", 0.0, kTwoPi, 1e-10, true},
+              {{"both zero", 0.0, 0.0, 1e-10, true},
+               {"zero and a full turn less nothing", 0.0, kTwoPi, 1e-10, true},
                {"zero and just below a full turn", 0.0, kTwoPi - 1e-6, 1e-10, false},
                {"turns more", 1.0 + 1000.0 * kTwoPi, 1.0, 1e-9, true},
                {"negative", -1.0, kTwoPi - 1.0, 1e-10, true},

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <vector>
 
 using namespace mledit;
@@ -67,6 +68,10 @@ TEST_F(MlineAccessors, theNumberOfElementsChangesAtEveryVertex) {
         EXPECT_EQ(lines(vertex, 0).size(), 2U) << vertex;
         EXPECT_EQ(lines(vertex, 2).size(), 0U) << vertex;
     }
+    EXPECT_EQ(SetSegmentsSize(&mline, 1), 1);
+    int count = 0;
+    EXPECT_EQ(GetSegmentsSize(&mline, &count), 1);
+    EXPECT_EQ(count, 1);
 }
 
 TEST_F(MlineAccessors, readsClampTheirIndicesAndWritesRefuseThem) {
@@ -114,12 +119,12 @@ TEST_F(MlineAccessors, positionsAxesAndMitersReplaceWhatIsThere) {
     double out[3][3][3] = {};
     EXPECT_EQ(GetVertices(&mline, out[0]) + GetAxis(&mline, out[1]) + GetMilters(&mline, out[2]),
               3);
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(out[i][0][0], 1.0 + 10.0 * i);
-        EXPECT_EQ(out[i][2][2], 9.0 + 10.0 * i);
-    }
+    EXPECT_EQ(std::memcmp(out, in, sizeof(in)), 0);
     EXPECT_EQ(mline.numVertices(), 3);
     EXPECT_EQ(lines(2, 1).size(), 2U);
+    double normal[3] = {};
+    EXPECT_EQ(GetNormal(&mline, normal), 1);
+    EXPECT_EQ(normal[2], 1.0);
 }
 
 TEST_F(MlineAccessors, refuseANullMultilineAndNullValues) {
