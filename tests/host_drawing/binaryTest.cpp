@@ -80,14 +80,18 @@ TEST(BinaryForm, keepsOddTagsOfAnEditedRecord) {
                           47);
     ASSERT_NE(bytes.find(handle), std::string::npos);
     const std::size_t place = bytes.find(handle) + handle.size();
+    std::string oddNumbers = bytes;
     bytes.insert(place, odd);
     const auto file = openDrawing(bytes);
     ASSERT_EQ(file->bytes(), bytes);
     rescale(*file, 2.5);
     EXPECT_NE(file->bytes(), bytes);
     EXPECT_NE(file->bytes().find(odd), std::string::npos);
-    EXPECT_THAT(convertBytes(bytes, DrawingForm::text).failure().text,
-                HasSubstr("at byte " + std::to_string(place) + ":"));
+    oddNumbers.insert(place, odd.substr(7));
+    for (const std::string& refused : {bytes, oddNumbers}) {
+        EXPECT_THAT(convertBytes(refused, DrawingForm::text).failure().text,
+                    HasSubstr("at byte " + std::to_string(place) + ":"));
+    }
     EXPECT_THAT(warningsOf(binaryOf(replaced(sampleDrawing(), " 71\n2\n 49", " 71\n3\n 49"))),
                 StartsWith("0: at byte "));
 }
