@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <algorithm>
 #include <vector>
 
 using namespace mledit;
@@ -119,7 +119,7 @@ TEST_F(MlineAccessors, positionsAxesAndMitersReplaceWhatIsThere) {
     double out[3][3][3] = {};
     EXPECT_EQ(GetVertices(&mline, out[0]) + GetAxis(&mline, out[1]) + GetMilters(&mline, out[2]),
               3);
-    EXPECT_EQ(std::memcmp(out, in, sizeof(in)), 0);
+    EXPECT_TRUE(std::equal(&in[0][0][0], &in[0][0][0] + 27, &out[0][0][0]));
     EXPECT_EQ(mline.numVertices(), 3);
     EXPECT_EQ(lines(2, 1).size(), 2U);
     double normal[3] = {};
