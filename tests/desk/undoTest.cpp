@@ -147,14 +147,14 @@ TEST_F(UndoInWindow, tenTeesAreTakenBackOneByOneAndBroughtBack) {
         times(
             10,
             [&](int i) {
-                return std::deque<Step>{type("REDO"), expectState(static_cast<std::size_t>(i + 1))};
+                return std::deque<Step>{type("REDO"), expectState(static_cast<std::size_t>(i) + 1)};
             }),
         times(4, undo),
         {key(Qt::Key_Return), expectPrompt("Command:"), expectState(6)},
         times(4,
               [&](int i) {
                   return std::deque<Step>{trigger("redo"),
-                                          expectState(static_cast<std::size_t>(i + 7))};
+                                          expectState(static_cast<std::size_t>(i) + 7)};
               }),
         // Four steps of their own and the one that the tool made.
         times(5, [&](int) { return std::deque<Step>{trigger("undo")}; }),

@@ -32,7 +32,7 @@ TEST(Arcs, keepToTheCircleAtAnySize) {
 }
 
 struct BulgeCase {
-    double bulge;
+    double bulge = 0.0;
     KdGePoint3d top; // middle of the arc from (0, 0) to (2, 0)
 };
 

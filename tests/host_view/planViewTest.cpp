@@ -8,9 +8,9 @@ namespace orvex {
 namespace {
 
 struct ExtentsCase {
-    const char* what;
+    const char* what = "";
     PlanBox box;
-    double height;
+    double height = 0.0;
     PlanPoint center;
 };
 
