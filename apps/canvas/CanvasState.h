@@ -113,7 +113,7 @@ struct Canvas::State {
     [[nodiscard]] std::optional<std::size_t> gripAt(const QPoint& pixel);
     [[nodiscard]] bool isSelectedAt(const QPoint& pixel) const;
     void takeGrip(std::size_t grip, bool isDragged);
-    void dropGrip(const Click& click);
+    void dropGrip(const Click& drop);
     void pressLeft(const QPoint& pixel, Qt::KeyboardModifiers modifiers);
     void click(const Click& click);
     void startPan(const QPoint& pixel, Qt::MouseButton button);

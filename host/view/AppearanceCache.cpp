@@ -14,8 +14,8 @@ std::size_t bytesOf(const Appearance& appearance) {
         bytes += sizeof(Stroke) + kBlock + stroke.points.size() * sizeof(PlanPoint) +
                  stroke.arcs.size() * sizeof(ArcSpan);
     }
-    for (const auto& chain : appearance.chains) {
-        bytes += sizeof(chain) + kBlock + chain.size() * sizeof(PlanPoint);
+    for (const std::vector<PlanPoint>& chain : appearance.chains) {
+        bytes += sizeof(std::vector<PlanPoint>) + kBlock + chain.size() * sizeof(PlanPoint);
     }
     for (const Fill& fill : appearance.fills) {
         bytes += sizeof(Fill) + kBlock + fill.outline.size() * sizeof(PlanPoint);

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace orvex {
 
@@ -122,7 +121,7 @@ std::optional<SnapTarget> findSnap(Scene& scene, const SnapQuery& query) {
     if (!target) {
         target = search.line();
     }
-    return target ? std::optional(cleaned(std::move(*target))) : std::nullopt;
+    return target ? std::optional(cleaned(*target)) : std::nullopt;
 }
 
 std::optional<SnapTarget> nextSnap(Scene& scene, PlanPoint from, PlanPoint direction,

@@ -43,9 +43,9 @@ protected:
 
 TEST_F(FindSnap, pointsWinOverLinesAndOfPointsTheNearest) {
     struct Row {
-        const char* what;
+        const char* what = "";
         PlanPoint cursor;
-        SnapMode mode;
+        SnapMode mode{};
         PlanPoint at;
     };
     // On the arc's circle: 30 / sqrt(2) beside the centre.
@@ -127,7 +127,7 @@ TEST_F(FindSnap, aTargetIsHeldUntilAnotherIsClearlyNearer) {
     const PlanPoint one{100, 0.1};
     const PlanPoint other{112, 0.1};
     struct Row {
-        double x;
+        double x = 0.0;
         std::optional<PlanPoint> at;
     };
     const SnapModes modes{SnapMode::end};
