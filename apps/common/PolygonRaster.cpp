@@ -20,10 +20,11 @@ int floorOfQuotient(int number, int divisor) {
     return number / divisor - (number % divisor < 0 ? 1 : 0);
 }
 
-// A positive coordinate in 256ths, rounded to 64ths.
+// A positive coordinate in 256ths, rounded to 64ths; what the cast cuts off costs less than a call.
 int rounded(double pixels) {
     constexpr int kSteps = 64;
-    return static_cast<int>(pixels * kSteps + 0.5) * (kPixel / kSteps);
+    constexpr double kHalf = 0.5;
+    return static_cast<int>(pixels * kSteps + kHalf) * (kPixel / kSteps);
 }
 
 // Each of the four bytes times part / 255, rounded.
