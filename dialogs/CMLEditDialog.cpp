@@ -17,7 +17,7 @@ constexpr int kCloseNumber = 13;
 } // namespace
 
 CMLEditDialog::CMLEditDialog(CWnd* parent) : CDialog(kResource, parent) {
-    auto button = m_tools.begin();
+    auto* button = m_tools.data();
     for (const ToolRow& row : kTools) {
         const std::wstring name = row.bitmap;
         // A disabled tool looks like one that has the focus.
@@ -30,7 +30,7 @@ CMLEditDialog::CMLEditDialog(CWnd* parent) : CDialog(kResource, parent) {
 
 void CMLEditDialog::DoDataExchange(CDataExchange* exchange) {
     CDialog::DoDataExchange(exchange);
-    auto button = m_tools.begin();
+    auto* button = m_tools.data();
     for (const ToolRow& row : kTools) {
         DDX_Control(exchange, row.control, *button++);
     }
@@ -38,7 +38,7 @@ void CMLEditDialog::DoDataExchange(CDataExchange* exchange) {
 }
 
 int CMLEditDialog::OnInitDialog() {
-    auto button = m_tools.begin();
+    auto* button = m_tools.data();
     for (const ToolRow& row : kTools) {
         button++->SubclassDlgItem(row.control, this);
     }

@@ -15,6 +15,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -59,10 +60,8 @@ bool isSameFile(const std::string& a, const std::string& b) {
 // Prints which of the named layers take no part.
 Result<std::vector<KdDbStub*>> chosenMlines(Session& session, const std::string& drawing,
                                             const std::vector<std::string>& layerNames) {
-    std::vector<std::wstring> layers;
-    for (const std::string& layer : layerNames) {
-        layers.push_back(widen(layer));
-    }
+    std::vector<std::wstring> layers(layerNames.size());
+    std::ranges::transform(layerNames, layers.begin(), [](auto& name) { return widen(name); });
     JoinMlines found = mlinesToJoin(session.database().core(), layers);
     if (!found.unknownLayers.empty()) {
         return Failure{FailureCause::wrongCall, inputName(drawing), 0,

@@ -257,8 +257,9 @@ void measureSnap(Session& session, const char* name, const PlanView& view, int a
     double sum = 0.0;
     double longest = 0.0;
     for (int i = 0; i < kSide * kSide; ++i) {
-        query.cursor = view.toPlan({kWidth / 2.0 + (i % kSide - kSide / 2) * apart,
-                                    kHeight / 2.0 + (i / kSide - kSide / 2) * apart});
+        const int column = i % kSide - kSide / 2;
+        const int row = i / kSide - kSide / 2;
+        query.cursor = view.toPlan({kWidth / 2.0 + column * apart, kHeight / 2.0 + row * apart});
         query.base = view.center();
         const std::clock_t begin = std::clock();
         query.held = findSnap(session.scene(), query);

@@ -71,7 +71,7 @@ public:
 
 private:
     struct Place {
-        KdDbStub* mline;
+        KdDbStub* mline = nullptr;
         KdGePoint3d at;
     };
     double chance() { return std::uniform_real_distribution<>(0.0, 1.0)(m_random); }

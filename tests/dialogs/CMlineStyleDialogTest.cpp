@@ -105,7 +105,7 @@ TEST_F(StyleManager, enablesTheButtonsOfWhatMayBeDone) {
 TEST_F(StyleManager, keepsItsSizeWhateverTheNameOfTheCurrentStyle) {
     const std::string longName(255, 'W');
     addStyle(std::wstring(255, L'W').c_str());
-    makeCurrent(longName.c_str());
+    makeCurrent(longName);
     manage([&] {
         EXPECT_EQ(m_dialog->GetSafeHwnd()->size(), QSize(520, 500));
         EXPECT_EQ(current(), longName);
