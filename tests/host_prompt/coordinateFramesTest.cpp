@@ -5,8 +5,9 @@
 #include "promptStatus.h"
 
 #include <array>
+#include <bit>
 #include <cmath>
-#include <cstring>
+#include <cstdint>
 
 namespace {
 
@@ -59,7 +60,8 @@ TEST_F(Frames, worldToWorldKeepsEveryBit) {
     odd.restype = kResultShort;
     for (const resbuf& from : {m_world, odd}) {
         const Triple same = convert(point, from, m_world);
-        EXPECT_EQ(std::memcmp(point.data(), same.data(), sizeof(Triple)), 0);
+        using Bits = std::array<std::uint64_t, 3>;
+        EXPECT_EQ(std::bit_cast<Bits>(point), std::bit_cast<Bits>(same));
     }
 }
 
