@@ -39,6 +39,7 @@ TEST(FootOnLine, isBetweenTheEndsOrBeyondThem) {
         const char* foot;
     } cases[] = {
         {"between", "4,3,0 0,0,0 10,0,0", 1, 3.0, "4,0,0"},
+        {"far from the origin", "5,6,9 1,2,3 11,2,3", 1, std::sqrt(52.0), "5,2,3"},
         {"on the end", "10,-2,0 0,0,0 10,0,0", 1, 2.0, "10,0,0"},
         {"past the end", "10.00000000000001,3,0 0,0,0 10,0,0", 0, 3.0, "10,0,0"},
         {"steep line, compared by y", "3,5,0 0,0,0 0,10,0", 1, 3.0, "0,5,0"},
@@ -99,6 +100,7 @@ TEST(PlanCrossing, isOnBothSegmentsOneOrNone) {
               {"z of the second", "0,0,0 10,0,0", "4,-5,2 4,5,6", 3, "4,0,4"},
               // On the first only, z is the first line's: 4/10 of the way from 1 to 6.
               {"z of the first", "0,0,1 10,0,6", "4,1,9 4,5,9", 1, "4,0,3"},
+              {"z of a first elsewhere", "2,1,1 12,1,6", "6,2,9 6,5,9", 1, "6,1,3"},
               {"z of a steep first", "0,0,1 0,10,6", "1,4,9 5,4,9", 1, "0,4,3"},
               // Beyond the second's end its line goes on: y 0 is 1/4 of its length before it.
               {"produced", "5,0,1 10,0,6", "4,1,9 4,5,5", 0, "4,0,10"},
@@ -135,6 +137,7 @@ TEST(SpaceCrossing, ofVerticals) {
               {"overlapping", "1,2,0 1,2,6", "1,2,9 1,2,4", -2, "1,2,4"},
               {"gap", "1,2,0 1,2,3", "1,2,5 1,2,9", -3, kUnwritten},
               {"second: both", "0,0,0 8,0,8", "2,0,0 2,0,5", 3, "2,0,2"},
+              {"second up to the first", "1,2,1 9,6,1", "5,4,0 5,4,1", 3, "5,4,1"},
               {"above the second", "0,0,0 8,0,8", "6,0,0 6,0,5", 1, "6,0,6"},
               {"past the first", "0,0,0 8,0,8", "9,0,0 9,0,20", 2, "9,0,9"},
               {"off the line", "0,0,1 8,4,1", "2,2,0 2,2,5", -4, kUnwritten},
@@ -175,6 +178,7 @@ TEST(SpaceCrossing, ofLinesThatCrossInPlan) {
     check(linexline3d,
           {
               {"both", "0,0,0 8,8,8", "0,8,4 8,0,4", 3, "4,4,4"},
+              {"both elsewhere", "1,2,1 9,10,9", "1,10,5 9,2,5", 3, "5,6,5"},
               {"at different heights", "0,0,0 8,8,0", "0,8,1 8,0,1", -4, kUnwritten},
               {"sloped second misses", "4,-5,2 4,5,2", "0,0,0 8,0,2", -4, kUnwritten},
               {"sloped steep first misses", "4,-5,0 4,5,9", "0,0,2 8,0,2", -4, kUnwritten},
