@@ -110,7 +110,7 @@ void RandomUser::escape() {
 // ---- menus, lists that fold out, dialogs --------------------------------------------------------
 
 QString RandomUser::inPopup(QWidget& popup) {
-    return press(popup, m_chance.of("Down|Down|Up|Return|Esc"));
+    return press(popup, word("Down|Down|Up|Return|Esc"));
 }
 
 QString RandomUser::inDialog(QWidget& dialog) {
@@ -127,7 +127,7 @@ QString RandomUser::onWidget(QWidget& widget) {
     if (qobject_cast<QLineEdit*>(&widget) != nullptr ||
         qobject_cast<QAbstractSpinBox*>(&widget) != nullptr) {
         QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
-        const QString text = m_chance.of("0|1|-2.5|90|1e9|STANDARD|wall|x y|");
+        const QString text = word("0|1|-2.5|90|1e9|STANDARD|wall|x y|");
         QTest::keyClicks(&widget, text);
         QTest::keyClick(&widget, m_chance.oneIn(2) ? Qt::Key_Return : Qt::Key_Tab);
         return name + " takes '" + text + "'";
@@ -245,11 +245,10 @@ QString RandomUser::turnWheel() {
 
 QString RandomUser::pressKey() {
     QWidget* const focus = QApplication::focusWidget();
-    return press(
-        m_chance.oneIn(3) || focus == nullptr ? m_canvas : *focus,
-        m_chance.of("Return|Return|Space|Esc|Esc|Tab|F3|F6|F8|F10|Left|Shift+Right|Ctrl+Up|"
-                    "Down|Del|Backspace|Ctrl+Z|Ctrl+Z|Ctrl+Z|Ctrl+Y|Ctrl+Y|Ctrl+A|Ctrl+0|"
-                    "Ctrl+W|Ctrl+Backspace|Ctrl++|Ctrl+-|Ctrl+1|Ctrl+S|@|7|,"));
+    return press(m_chance.oneIn(3) || focus == nullptr ? m_canvas : *focus,
+                 word("Return|Return|Space|Esc|Esc|Tab|F3|F6|F8|F10|Left|Shift+Right|Ctrl+Up|"
+                      "Down|Del|Backspace|Ctrl+Z|Ctrl+Z|Ctrl+Z|Ctrl+Y|Ctrl+Y|Ctrl+A|Ctrl+0|"
+                      "Ctrl+W|Ctrl+Backspace|Ctrl++|Ctrl+-|Ctrl+1|Ctrl+S|@|7|,"));
 }
 
 QString RandomUser::triggerAction() {
@@ -272,7 +271,7 @@ QString RandomUser::typeCommand() {
         return enter("MLINE");
     }
     if (m_chance.oneIn(2)) {
-        return enter(m_chance.of("-MLEDIT|-MLEDIT|-MLEDIT|MLINE|MLINE|MLINE|MLEDIT|U|MLCHANGE"));
+        return enter(word("-MLEDIT|-MLEDIT|-MLEDIT|MLINE|MLINE|MLINE|MLEDIT|U|MLCHANGE"));
     }
     QStringList names = commandNames();
     if (!m_changesStyles) {
@@ -293,6 +292,11 @@ QString RandomUser::enter(const QString& line) {
     return "line '" + line + "'";
 }
 
+QString RandomUser::word(const char* words) {
+    QStringList all = QString::fromLatin1(words).split('|');
+    return m_chance.of(all);
+}
+
 const PromptRequest* RandomUser::request() const {
     const auto* const prompts = dynamic_cast<const DeskPrompts*>(m_window.session()->source());
     return prompts != nullptr ? prompts->request() : nullptr;
@@ -302,7 +306,7 @@ const PromptRequest* RandomUser::request() const {
 QString RandomUser::answer() {
     const PromptRequest* const asked = request();
     if (asked == nullptr) {
-        return m_chance.of("||REDO|U|'U|NONSENSE|;");
+        return word("||REDO|U|'U|NONSENSE|;");
     }
     const int others = asked->kind == PromptKind::keyword ? 6 : 3;
     if (!asked->keywords.empty() &&
@@ -310,7 +314,7 @@ QString RandomUser::answer() {
         return QString::fromStdWString(m_chance.of(asked->keywords));
     }
     if (m_chance.oneIn(12)) {
-        return m_chance.of("'ZOOM|'U|'REDO|U|@|1,2,3,4|#FFFF|END|NON|INT|<45|x|*CANCEL*");
+        return word("'ZOOM|'U|'REDO|U|@|1,2,3,4|#FFFF|END|NON|INT|<45|x|*CANCEL*");
     }
     switch (asked->kind) {
     case PromptKind::selection:
@@ -329,7 +333,7 @@ QString RandomUser::answer() {
     if (!asked->completions.empty() && !m_chance.oneIn(3)) {
         return QString::fromStdWString(m_chance.of(asked->completions));
     }
-    return m_chance.of("|0|1|STANDARD|CMLSCALE|PICKBOX|VIEWSIZE|CMLJUST|5|20|?|ALL|nowhere");
+    return word("|0|1|STANDARD|CMLSCALE|PICKBOX|VIEWSIZE|CMLJUST|5|20|?|ALL|nowhere");
 }
 
 QString RandomUser::point() {
@@ -352,7 +356,7 @@ QString RandomUser::point() {
 }
 
 QString RandomUser::number() {
-    return m_chance.of("0|1|2|10|45|90|240|0.5|-1|-30|1e-3|1000000|7.25");
+    return word("0|1|2|10|45|90|240|0.5|-1|-30|1e-3|1000000|7.25");
 }
 
 QString RandomUser::handle() {
@@ -362,9 +366,9 @@ QString RandomUser::handle() {
 }
 
 QString RandomUser::pasteLines() {
-    QStringList lines{m_chance.of("-MLEDIT|MLINE|MOVE|ERASE|SETVAR")};
+    QStringList lines{word("-MLEDIT|MLINE|MOVE|ERASE|SETVAR")};
     for (int i = m_chance.below(5); i >= 0; --i) {
-        lines << (m_chance.oneIn(3) ? m_chance.of("OT|CC|ALL|PICKBOX|;a comment|5") : point());
+        lines << (m_chance.oneIn(3) ? word("OT|CC|ALL|PICKBOX|;a comment|5") : point());
     }
     QApplication::clipboard()->setText(lines.join('\n'));
     auto& input = *m_window.findChild<QLineEdit*>("commandInput");

@@ -46,6 +46,7 @@ private:
     QString workPanel();
     QString pasteLines();
 
+    QString word(const char* words); // one of those between the "|"
     [[nodiscard]] const PromptRequest* request() const;
     QString enter(const QString& line);
     QString answer();

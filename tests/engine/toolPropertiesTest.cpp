@@ -1,6 +1,7 @@
 // What holds for every tool on any drawing: random multilines that cross each other, with gaps here
 // and there, and picks on what is drawn of them.
 
+#include "Digest.h"
 #include "ToolWorld.h"
 
 #include <algorithm>
@@ -13,6 +14,7 @@ using namespace mledit;
 namespace {
 
 using orvex::PromptAnswer;
+using orvex::testing::Digest;
 
 constexpr std::array kTools = {
     &CMlineEdit::cmd_mledit_ClosedCross,  &CMlineEdit::cmd_mledit_OpenCross,
@@ -206,24 +208,17 @@ protected:
     }
 };
 
-// Of what the tools made of all scenes, tool by tool: their results are settled. A digest changes
-// when any number does, by more than its rounding.
-constexpr std::array<std::uint64_t, kTools.size()> kSettled = {
-    0xD9DD0E25444575A3, 0xA0A6F812913FCE26, 0x506885A8813DF31E, 0x99D7D158E926AC63,
-    0x6F68A066439FB533, 0x883573E114F122B9, 0xDBCA9454081D41A3, 0xFA3614FE8EF3BC43,
-    0x35B9E9B8611B9D53, 0xB31AF0699925976C, 0x7DDA2658761E4CC1, 0x4684EB9E1E1E3CCF,
+// Of what the tools made of all scenes, tool by tool.
+constexpr std::array<const char*, kTools.size()> kSettled = {
+    "D9DD0E25444575A3", "A0A6F812913FCE26", "506885A8813DF31E", "99D7D158E926AC63",
+    "6F68A066439FB533", "883573E114F122B9", "DBCA9454081D41A3", "FA3614FE8EF3BC43",
+    "35B9E9B8611B9D53", "B31AF0699925976C", "7DDA2658761E4CC1", "4684EB9E1E1E3CCF",
 };
-
-std::uint64_t combined(std::uint64_t digest, double number) {
-    constexpr double kDigits = 1e4;
-    constexpr std::uint64_t kPrime = 0x100000001B3; // of the FNV-1a hash
-    return (digest ^ static_cast<std::uint64_t>(std::llround(number * kDigits))) * kPrime;
-}
 
 TEST_F(ToolProperties, undoRestoresEveryBitAndResultsAreSettled) {
     RandomScenes random(12);
     std::array<int, kTools.size()> changed{};
-    std::array<std::uint64_t, kTools.size()> digests{};
+    std::array<Digest, kTools.size()> digests;
     for (int round = 0; round < 6000; ++round) {
         const std::size_t tool = static_cast<std::size_t>(round) % kTools.size();
         SCOPED_TRACE("round " + std::to_string(round) + ", tool " + std::to_string(tool + 1));
@@ -236,7 +231,7 @@ TEST_F(ToolProperties, undoRestoresEveryBitAndResultsAreSettled) {
         playScene(tool);
         for (const double number : numbers()) {
             ASSERT_TRUE(std::isfinite(number));
-            digests[tool] = combined(digests[tool], number);
+            digests[tool].add(number);
         }
         for (std::size_t i = 0; i < 2; ++i) {
             ASSERT_EQ(elements(mlines[i]), static_cast<int>(scene.shapes[i].offsets.size()));
@@ -258,7 +253,7 @@ TEST_F(ToolProperties, undoRestoresEveryBitAndResultsAreSettled) {
     }
     for (std::size_t tool = 0; tool < kTools.size(); ++tool) {
         EXPECT_GT(changed[tool], 100) << "tool " << tool + 1 << " hardly ever does anything";
-        EXPECT_EQ(digests[tool], kSettled[tool]) << "tool " << tool + 1;
+        EXPECT_EQ(digests[tool].text(), kSettled[tool]) << "tool " << tool + 1;
     }
 }
 

@@ -9,6 +9,7 @@
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineContent.h"
+#include "RandomEdits.h"
 #include "WellKnownObjects.h"
 #include "sampleDrawing.h"
 
@@ -300,80 +301,15 @@ TEST(ChangedVariables, beginAFileThatHasHadNone) {
         << file->bytes();
 }
 
-// One of many edits, of which most can be made again and again; what isn't there stays untouched.
-void editSomething(DrawingFile& file, std::vector<KdDbStub*>& mlines, std::mt19937& random) {
-    DatabaseCore& core = file.database().core();
-    const auto below = [&](std::size_t count) { return static_cast<int>(random() % count); };
-    const double number = below(2) == 0 ? -0.0 : below(5) / 3.0;
-    KdGePoint3d point{number, 1.0, 2.0};
-    auto* const mline = static_cast<KdDbMline*>(core.open(*mlines[random() % mlines.size()], true));
-    auto& style = opened<KdDbMlineStyle>(file, 0x2E);
-    auto& styles = opened<KdDbDictionary>(file, 0x17);
-    auto& walls = opened<KdDbLayerTableRecord>(file, 0x10);
-    const std::wstring key(1, static_cast<wchar_t>(L'A' + below(3)));
-    KdCmColor color;
-    color.setColorIndex(static_cast<std::uint16_t>(1 + below(3)));
-    int index = 0;
-    const std::function<void()> edits[] = {
-        [&] { style.addElement(index, number, color, KdDbObjectId(), true); },
-        [&] { style.removeElementAt(0); },
-        [&] { style.setFilled(below(2) == 0); },
-        [&] { styles.remove(key.c_str()); },
-        [&] { styles.setName(key.c_str(), L"B"); },
-        [&] {
-            KdDbObjectId id;
-            auto* const made = new KdDbMlineStyle;
-            made->initMlineStyle();
-            styles.setAt(key.c_str(), made, id);
-        },
-        [&] { core.setVariable("CMLSCALE", number); },
-        [&] { core.setVariable("UCSORG", point); },
-        [&] { walls.setColor(color); },
-        [&] { walls.setIsFrozen(!walls.isFrozen()); },
-        [&] {
-            auto made = std::make_unique<KdDbMline>();
-            made->setDatabaseDefaults(&file.database());
-            made->appendSeg(point);
-            mlines.push_back(&core.adopt(std::move(made), ObjectKind::mline, nullptr));
-            core.blocks().appendEntity(core.blocks().modelSpace(), *mlines.back());
-        },
-        [&] { mline->setScale(number); },
-        [&] { mline->appendSeg(point); },
-        [&] { mline->removeLastSeg(point); },
-        [&] { mline->setClosedMline(!mline->closedMline()); },
-        [&] { mline->setLayer(key.c_str()); },
-        [&] {
-            mline->setNormal({0.0, number, 1.0});
-        },
-        [&] { mline->erase(); },
-        [&] {
-            if (mline->numVertices() == 3) {
-                setLines(*mline, 0, 0, {number, 1.0, 2.0});
-            }
-        },
-        [&] {
-            KdDbMline copy; // changed and changed back
-            copy.copyFrom(mline);
-            mline->setScale(5.0);
-            mline->copyFrom(&copy);
-        },
-    };
-    constexpr int kFirstOnMline = 11;
-    const int choice = below(std::size(edits));
-    if (choice < kFirstOnMline || mline != nullptr) {
-        edits[choice]();
-    }
-}
-
 // Some edits, each after a mark, and back to some of the marks.
-void editWithMarks(DrawingFile& file, std::vector<KdDbStub*>& mlines, std::mt19937& random,
+void editWithMarks(DrawingFile& file, RandomEdits& edits, std::mt19937& random,
                    const std::function<std::string()>& state) {
     ChangeLog& changes = file.database().core().changes();
     std::vector<std::string> atMarks;
-    for (std::size_t edits = 1 + random() % 4; edits > 0; --edits) {
+    for (std::size_t count = 1 + random() % 4; count > 0; --count) {
         changes.mark();
         atMarks.push_back(state());
-        editSomething(file, mlines, random);
+        edits.edit();
     }
     if (random() % 2 == 0) {
         return;
@@ -401,12 +337,13 @@ TEST(Undo, leadsBackAndForthByteForByte) {
         std::mt19937 random(seed);
         const auto file = openDrawing(sampleDrawing());
         DatabaseCore& core = file->database().core();
-        std::vector<KdDbStub*> mlines{&stubOf(*file, 0x51), &stubOf(*file, 0x52)};
+        RandomEdits edits(*file, random);
         // Of an old layer nothing is written, so it stands beside the file.
         const auto state = [&] {
             const auto& walls = opened<KdDbLayerTableRecord>(*file, 0x10);
             return file->bytes() + std::to_string(walls.color().colorIndex()) +
-                   (walls.isFrozen() ? "frozen" : "");
+                   std::to_string(walls.lineweight()) + (walls.isFrozen() ? "frozen" : "") +
+                   (walls.isLocked() ? "locked" : "");
         };
         std::vector<std::string> states{state()}; // what each number of steps leads to
         const auto walk = [&](std::size_t count, bool (ChangeLog::*step)()) {
@@ -416,7 +353,7 @@ TEST(Undo, leadsBackAndForthByteForByte) {
         };
         for (int i = 0; i < 60; ++i) {
             core.changes().beginCommand();
-            ASSERT_NO_FATAL_FAILURE(editWithMarks(*file, mlines, random, state));
+            ASSERT_NO_FATAL_FAILURE(editWithMarks(*file, edits, random, state));
             if (core.changes().endCommand()) {
                 states.resize(core.changes().undoDepth());
                 states.push_back(state());

@@ -130,6 +130,8 @@ TEST_F(StyleAccessors, linetypesComeFromTheDrawingOrTheFileOfItsMeasurement) {
     EXPECT_EQ(linetype(0), L"ByLayer");
     EXPECT_EQ(linetype(1), L"");
     EXPECT_EQ(linetype(2), L"Continuous") << "what can't be found";
+    EXPECT_EQ(SetElemLtype(&style, names, 3, nullptr), 1);
+    EXPECT_EQ(SetElemLtype(&style, nullptr, 3, &database), 1);
     database.setMeasurement(1);
     SetElemLtype(&style, names, 3, &database);
     EXPECT_EQ(asked, (std::vector<std::wstring>{L"orvex.lin", L"orvexiso.lin"}));

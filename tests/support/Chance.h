@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QString>
-#include <QStringList>
-
+#include <cstddef>
 #include <cstdint>
 #include <random>
 
@@ -25,10 +23,12 @@ public:
     auto& of(List& list) {
         return list[static_cast<decltype(list.size())>(below(static_cast<int>(list.size())))];
     }
-    QString of(const char* words) {
-        const QStringList all = QString::fromLatin1(words).split('|');
-        return all[below(all.size())];
+    template <class Value, std::size_t count>
+    auto& of(Value (&list)[count]) {
+        return list[below(count)];
     }
+    // Any number of up to 64 bits, small ones as often as large ones.
+    std::uint64_t word() { return m_engine() >> below(64); }
 
 private:
     std::mt19937_64 m_engine;

@@ -1,0 +1,228 @@
+#include "RandomEdits.h"
+
+#include "BlockList.h"
+#include "DatabaseCore.h"
+#include "KdDbDictionary.h"
+#include "KdDbLayerTable.h"
+#include "KdDbMline.h"
+#include "KdDbMlineStyle.h"
+#include "MlineContent.h"
+#include "ObjectTable.h"
+#include "PlainEntity.h"
+#include "WellKnownObjects.h"
+
+#include <functional>
+#include <iterator>
+
+namespace orvex::testing {
+
+namespace {
+
+// Gives one element of a vertex another list of lines.
+void setLines(KdDbMline& mline, int vertex, std::initializer_list<double> values) {
+    KdArray<void*> parameters;
+    if (mline.getParametersAt(vertex, parameters) != Status::done) {
+        return;
+    }
+    VoVector<KdMLSegment> record(*static_cast<VoVector<KdMLSegment>*>(parameters[0]));
+    if (record.isEmpty()) {
+        return;
+    }
+    record[0].m_lineParams.resize(0);
+    for (const double value : values) {
+        record[0].m_lineParams.append(value);
+    }
+    KdArray<void*> changed;
+    changed.append(&record);
+    mline.setParametersAt(vertex, changed);
+}
+
+} // namespace
+
+RandomEdits::RandomEdits(DrawingFile& file, std::mt19937& random) : m_file(file), m_random(random) {
+    for (KdDbStub& stub : file.database().core().objects().stubs()) {
+        switch (stub.kind) {
+        case ObjectKind::mline:
+            m_mlines.push_back(&stub);
+            break;
+        case ObjectKind::mlineStyle:
+            m_styles.push_back(&stub);
+            break;
+        case ObjectKind::layer: // of one that the file hasn't, a change may show nowhere
+            if (stub.record != kNoRecord) {
+                m_layers.push_back(&stub);
+            }
+            break;
+        default:
+            break;
+        }
+    }
+}
+
+template <class Object>
+Object* RandomEdits::anyOf(const std::vector<KdDbStub*>& stubs) {
+    if (stubs.empty()) {
+        return nullptr;
+    }
+    KdDbStub& stub = *stubs[m_random() % stubs.size()];
+    return dynamic_cast<Object*>(m_file.database().core().open(stub, true));
+}
+
+void RandomEdits::edit() {
+    const double number = below(2) == 0 ? -0.0 : below(5) / 3.0;
+    const std::wstring key(1, static_cast<wchar_t>(L'A' + below(3)));
+    const std::function<void()> edits[] = {
+        [&] { editMline(number, key.c_str()); },
+        [&] { editMline(number, key.c_str()); },
+        [&] { editMline(number, key.c_str()); },
+        [&] { editStyle(number, key.c_str()); },
+        [&] { editDictionary(key.c_str()); },
+        [&] { editLayer(); },
+        [&] { editVariable(number); },
+        [&] {
+            auto made = std::make_unique<KdDbMline>();
+            made->setDatabaseDefaults(&m_file.database());
+            made->appendSeg({number, 1.0, 2.0});
+            add(std::move(made), ObjectKind::mline);
+        },
+    };
+    edits[m_random() % std::size(edits)]();
+}
+
+void RandomEdits::add(std::unique_ptr<KdDbObject> entity, ObjectKind kind) {
+    DatabaseCore& core = m_file.database().core();
+    KdDbStub& stub = core.adopt(std::move(entity), kind, nullptr);
+    core.blocks().appendEntity(core.blocks().modelSpace(), stub);
+    if (kind == ObjectKind::mline) {
+        m_mlines.push_back(&stub);
+    }
+}
+
+void RandomEdits::editMline(double number, const wchar_t* key) {
+    auto* const mline = anyOf<KdDbMline>(m_mlines);
+    if (mline == nullptr) {
+        return;
+    }
+    const int vertex = mline->numVertices() > 0 ? below(mline->numVertices()) : 0;
+    KdGePoint3d point{number, 1.0, 2.0};
+    const std::function<void()> edits[] = {
+        [&] { mline->setScale(number); },
+        [&] { mline->appendSeg(point); },
+        [&] { mline->removeLastSeg(point); },
+        [&] { mline->setClosedMline(!mline->closedMline()); },
+        [&] { mline->setSupressEndCaps(!mline->supressEndCaps()); },
+        [&] { mline->setJustification(below(3)); },
+        [&] { mline->setLayer(key); },
+        [&] { mline->setLinetype(key); },
+        [&] { mline->setColorIndex(static_cast<std::uint16_t>(below(257))); },
+        [&] {
+            mline->setNormal({0.0, number, 1.0});
+        },
+        [&] {
+            setLines(*mline, vertex, {number, 1.0, 2.0});
+        },
+        [&] {
+            if (auto* const style = anyOf<KdDbMlineStyle>(m_styles)) {
+                mline->setStyle(style->objectId());
+            }
+        },
+        [&] {
+            const auto content = std::static_pointer_cast<const MlineContent>(mline->content());
+            auto moved = std::make_shared<MlineContent>(*content);
+            for (ChainVertex& each : moved->vertices) {
+                each.position.x += number;
+                each.miter.y += number;
+            }
+            mline->setContent(moved);
+        },
+        [&] {
+            auto made = std::make_unique<PlainEntity>();
+            auto content = std::make_shared<PlainContent>();
+            content->traits = shareTraits(mline->traits());
+            content->shape = LineShape{{number, 2.0, 0.0}, {3.0, 4.0, 5.0}};
+            content->replaces = mline->objectId();
+            made->setContent(content);
+            add(std::move(made), ObjectKind::entity);
+            mline->erase();
+        },
+        [&] {
+            KdDbMline copy; // changed and changed back
+            copy.copyFrom(mline);
+            mline->setScale(5.0);
+            mline->copyFrom(&copy);
+        },
+    };
+    edits[m_random() % std::size(edits)]();
+}
+
+void RandomEdits::editStyle(double number, const wchar_t* key) {
+    auto* const style = anyOf<KdDbMlineStyle>(m_styles);
+    if (style == nullptr) {
+        return;
+    }
+    KdCmColor color;
+    color.setColorIndex(static_cast<std::uint16_t>(1 + below(3)));
+    int index = 0;
+    const std::function<void()> edits[] = {
+        [&] { style->addElement(index, number, color, KdDbObjectId(), true); },
+        [&] { style->addElement(index, number, color, KdDbObjectId(), true); },
+        [&] { style->removeElementAt(0); },
+        [&] { style->setFilled(below(2) == 0); },
+        [&] { style->setEndInnerArcs(!style->endInnerArcs()); },
+        [&] { style->setFillColor(color); },
+        [&] { style->setStartAngle(number); },
+        [&] { style->setDescription(key); },
+    };
+    edits[m_random() % std::size(edits)]();
+}
+
+void RandomEdits::editDictionary(const wchar_t* key) {
+    DatabaseCore& core = m_file.database().core();
+    auto* const dictionary =
+        dynamic_cast<KdDbDictionary*>(core.open(*core.wellKnown().styleDictionary, true));
+    if (dictionary == nullptr) {
+        return;
+    }
+    const std::function<void()> edits[] = {
+        [&] { dictionary->remove(key); },
+        [&] { dictionary->setName(key, L"B"); },
+        [&] {
+            KdDbObjectId id;
+            auto* const made = new KdDbMlineStyle;
+            made->initMlineStyle();
+            dictionary->setAt(key, made, id);
+        },
+    };
+    edits[m_random() % std::size(edits)]();
+}
+
+void RandomEdits::editLayer() {
+    auto* const layer = anyOf<KdDbLayerTableRecord>(m_layers);
+    if (layer == nullptr) {
+        return;
+    }
+    KdCmColor color;
+    color.setColorIndex(static_cast<std::uint16_t>(1 + below(3)));
+    const std::function<void()> edits[] = {
+        [&] { layer->setColor(color); },
+        [&] { layer->setIsFrozen(!layer->isFrozen()); },
+        [&] { layer->setIsLocked(!layer->isLocked()); },
+        [&] { layer->setLineweight(below(100)); },
+    };
+    edits[m_random() % std::size(edits)]();
+}
+
+void RandomEdits::editVariable(double number) {
+    DatabaseCore& core = m_file.database().core();
+    const std::function<void()> edits[] = {
+        [&] { core.setVariable("CMLSCALE", number); },
+        [&] { core.setVariable("CMLJUST", below(3)); },
+        [&] { core.setVariable("CLAYER", std::wstring(L"Walls")); },
+        [&] {
+            core.setVariable("UCSORG", KdGePoint3d{number, 1.0, 2.0});
+        },
+    };
+    edits[m_random() % std::size(edits)]();
+}
+
+} // namespace orvex::testing
