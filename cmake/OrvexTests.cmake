@@ -119,6 +119,7 @@ function(orvex_fuzzer name)
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/fuzz
         INSTALL_RPATH ${ORVEX_BESIDE_BIN_RPATH})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support)
     orvex_link_rooms(${name} ${arg_USES})
     if("orvex::host" IN_LIST arg_USES)
         orvex_depend_on_run_time_files(${name}) # it loads the module

@@ -71,28 +71,6 @@ TEST(Identity, holdsForTheNewDrawing) {
     expectIdentity(file->bytes(), "new drawing");
 }
 
-// Cut anywhere, with any tag missing, twice, or with another value: it opens and stays.
-TEST(Identity, holdsForDamagedFiles) {
-    const std::string sample = sampleDrawing();
-    for (std::size_t at = 0; at < sample.size();) {
-        const std::size_t value = sample.find('\n', at) + 1;
-        const std::size_t next = sample.find('\n', value) + 1;
-        const std::string what = "at byte " + std::to_string(at);
-        const std::string before = sample.substr(0, at);
-        const std::string behind = sample.substr(next);
-        expectIdentity(before, "cut " + what);
-        expectIdentity(before + behind, "a tag less " + what);
-        expectIdentity(sample.substr(0, next) + sample.substr(at), "a tag twice " + what);
-        expectIdentity(before + sample.substr(sample.find("\n  0\n", next - 1) + 1),
-                       "the rest of a record less " + what);
-        for (const char* const other : {"", "-1", "99999", "nan", "1e999", "{", "0", "2147483648",
-                                        "FFFFFFFFFFFFFFFF", "1,5", "\xFF\\U+ZZZZ"}) {
-            expectIdentity(sample.substr(0, value) + other + "\n" + behind, "a value " + what);
-        }
-        at = next;
-    }
-}
-
 TEST(Identity, holdsForHugeCountsWithoutMemoryForThem) {
     for (const char* const count : {"2147483647", "65535", "99999999999999999999"}) {
         for (const char* const code :

@@ -266,6 +266,7 @@ void addDrawing(Digests& digests, const std::string& bytes, std::mt19937& random
         return;
     }
     addRead(digests, **opened);
+    ASSERT_TRUE(sameText((*opened)->bytes(), bytes)) << "read, it is saved as it came";
     if (random() % 32 == 0) {
         addExported(digests[kExported], **opened,
                     random() % 2 == 0 ? ExportForm::lines : ExportForm::blocks);
