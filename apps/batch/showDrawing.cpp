@@ -5,6 +5,7 @@
 #include "Scene.h"
 #include "ShowOptions.h"
 #include "batchFiles.h"
+#include "memoryEnd.h"
 #include "partlyDrawnText.h"
 #include "pictureWriter.h"
 #include "verbs.h"
@@ -14,10 +15,30 @@
 
 #include <clocale>
 #include <cstdlib>
+#include <optional>
 
 namespace orvex {
 
 namespace {
+
+// Fonts need an application, which needs no screen here.
+class FontApplication {
+public:
+    FontApplication() {
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        // Qt takes apart what it couldn't make whole, and crashes by it.
+        const MemoryEndIsFinal whileItStarts;
+        m_application.emplace(m_count, m_arguments);
+        // It takes the user's locale, in which the system would tell of failures.
+        std::setlocale(LC_MESSAGES, "C");
+    }
+
+private:
+    int m_count = 1;
+    char m_name[12] = "orvex-batch";
+    char* m_arguments[2] = {m_name, nullptr};
+    std::optional<QGuiApplication> m_application;
+};
 
 // Qt warns of missing folders of the desktop and the like, which don't matter to a picture.
 void ignoreWarnings(QtMsgType kind, const QMessageLogContext& /*context*/, const QString& text) {
@@ -71,14 +92,7 @@ public:
             return drawing.failure();
         }
         qInstallMessageHandler(ignoreWarnings);
-        // Fonts need an application, which needs no screen here.
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        int argc = 1;
-        char name[] = "orvex-batch";
-        char* argv[] = {name, nullptr};
-        const QGuiApplication application(argc, argv);
-        // It takes the user's locale, in which the system would tell of failures.
-        std::setlocale(LC_MESSAGES, "C");
+        const FontApplication application;
         return withMemory(FailureCause::unwritableOutput, *task.output,
                           [&] { return draw((*drawing)->database(), task); });
     }

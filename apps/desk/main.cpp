@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <optional>
 
 namespace orvex {
 
@@ -59,7 +60,11 @@ int showWindow(const DeskCall& call, int argc, char** argv) {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const auto before = qInstallMessageHandler(tellWhyQtStops);
-    const QApplication application(argc, argv);
+    std::optional<QApplication> application;
+    {
+        const MemoryEndIsFinal whileItStarts; // Qt doesn't survive its own exceptions here
+        application.emplace(argc, argv);
+    }
     qInstallMessageHandler(before);
     QApplication::setApplicationName(QStringLiteral("orvex-desk"));
     QApplication::setApplicationVersion(QStringLiteral(ORVEX_VERSION));

@@ -39,7 +39,7 @@ void setLines(KdDbMline& mline, int vertex, std::initializer_list<double> values
 
 } // namespace
 
-RandomEdits::RandomEdits(DrawingFile& file, std::mt19937& random) : m_file(file), m_random(random) {
+RandomEdits::RandomEdits(DrawingFile& file, Chance& chance) : m_file(file), m_chance(chance) {
     for (KdDbStub& stub : file.database().core().objects().stubs()) {
         switch (stub.kind) {
         case ObjectKind::mline:
@@ -64,13 +64,13 @@ Object* RandomEdits::anyOf(const std::vector<KdDbStub*>& stubs) {
     if (stubs.empty()) {
         return nullptr;
     }
-    KdDbStub& stub = *stubs[m_random() % stubs.size()];
+    KdDbStub& stub = *m_chance.of(stubs);
     return dynamic_cast<Object*>(m_file.database().core().open(stub, true));
 }
 
 void RandomEdits::edit() {
-    const double number = below(2) == 0 ? -0.0 : below(5) / 3.0;
-    const std::wstring key(1, static_cast<wchar_t>(L'A' + below(3)));
+    const double number = m_chance.below(2) == 0 ? -0.0 : m_chance.below(5) / 3.0;
+    const std::wstring key(1, static_cast<wchar_t>(L'A' + m_chance.below(3)));
     const std::function<void()> edits[] = {
         [&] { editMline(number, key.c_str()); },
         [&] { editMline(number, key.c_str()); },
@@ -86,7 +86,7 @@ void RandomEdits::edit() {
             add(std::move(made), ObjectKind::mline);
         },
     };
-    edits[m_random() % std::size(edits)]();
+    m_chance.of(edits)();
 }
 
 void RandomEdits::add(std::unique_ptr<KdDbObject> entity, ObjectKind kind) {
@@ -103,7 +103,7 @@ void RandomEdits::editMline(double number, const wchar_t* key) {
     if (mline == nullptr) {
         return;
     }
-    const int vertex = mline->numVertices() > 0 ? below(mline->numVertices()) : 0;
+    const int vertex = mline->numVertices() > 0 ? m_chance.below(mline->numVertices()) : 0;
     KdGePoint3d point{number, 1.0, 2.0};
     const std::function<void()> edits[] = {
         [&] { mline->setScale(number); },
@@ -111,10 +111,10 @@ void RandomEdits::editMline(double number, const wchar_t* key) {
         [&] { mline->removeLastSeg(point); },
         [&] { mline->setClosedMline(!mline->closedMline()); },
         [&] { mline->setSupressEndCaps(!mline->supressEndCaps()); },
-        [&] { mline->setJustification(below(3)); },
+        [&] { mline->setJustification(m_chance.below(3)); },
         [&] { mline->setLayer(key); },
         [&] { mline->setLinetype(key); },
-        [&] { mline->setColorIndex(static_cast<std::uint16_t>(below(257))); },
+        [&] { mline->setColorIndex(static_cast<std::uint16_t>(m_chance.below(257))); },
         [&] {
             mline->setNormal({0.0, number, 1.0});
         },
@@ -152,7 +152,7 @@ void RandomEdits::editMline(double number, const wchar_t* key) {
             mline->copyFrom(&copy);
         },
     };
-    edits[m_random() % std::size(edits)]();
+    m_chance.of(edits)();
 }
 
 void RandomEdits::editStyle(double number, const wchar_t* key) {
@@ -161,19 +161,19 @@ void RandomEdits::editStyle(double number, const wchar_t* key) {
         return;
     }
     KdCmColor color;
-    color.setColorIndex(static_cast<std::uint16_t>(1 + below(3)));
+    color.setColorIndex(static_cast<std::uint16_t>(1 + m_chance.below(3)));
     int index = 0;
     const std::function<void()> edits[] = {
         [&] { style->addElement(index, number, color, KdDbObjectId(), true); },
         [&] { style->addElement(index, number, color, KdDbObjectId(), true); },
         [&] { style->removeElementAt(0); },
-        [&] { style->setFilled(below(2) == 0); },
+        [&] { style->setFilled(m_chance.below(2) == 0); },
         [&] { style->setEndInnerArcs(!style->endInnerArcs()); },
         [&] { style->setFillColor(color); },
         [&] { style->setStartAngle(number); },
         [&] { style->setDescription(key); },
     };
-    edits[m_random() % std::size(edits)]();
+    m_chance.of(edits)();
 }
 
 void RandomEdits::editDictionary(const wchar_t* key) {
@@ -193,7 +193,7 @@ void RandomEdits::editDictionary(const wchar_t* key) {
             dictionary->setAt(key, made, id);
         },
     };
-    edits[m_random() % std::size(edits)]();
+    m_chance.of(edits)();
 }
 
 void RandomEdits::editLayer() {
@@ -202,27 +202,27 @@ void RandomEdits::editLayer() {
         return;
     }
     KdCmColor color;
-    color.setColorIndex(static_cast<std::uint16_t>(1 + below(3)));
+    color.setColorIndex(static_cast<std::uint16_t>(1 + m_chance.below(3)));
     const std::function<void()> edits[] = {
         [&] { layer->setColor(color); },
         [&] { layer->setIsFrozen(!layer->isFrozen()); },
         [&] { layer->setIsLocked(!layer->isLocked()); },
-        [&] { layer->setLineweight(below(100)); },
+        [&] { layer->setLineweight(m_chance.below(100)); },
     };
-    edits[m_random() % std::size(edits)]();
+    m_chance.of(edits)();
 }
 
 void RandomEdits::editVariable(double number) {
     DatabaseCore& core = m_file.database().core();
     const std::function<void()> edits[] = {
         [&] { core.setVariable("CMLSCALE", number); },
-        [&] { core.setVariable("CMLJUST", below(3)); },
+        [&] { core.setVariable("CMLJUST", m_chance.below(3)); },
         [&] { core.setVariable("CLAYER", std::wstring(L"Walls")); },
         [&] {
             core.setVariable("UCSORG", KdGePoint3d{number, 1.0, 2.0});
         },
     };
-    edits[m_random() % std::size(edits)]();
+    m_chance.of(edits)();
 }
 
 } // namespace orvex::testing

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Chance.h"
 #include "DrawingFile.h"
 #include "KdDbStub.h"
 
-#include <random>
 #include <vector>
 
 namespace orvex::testing {
@@ -12,12 +12,11 @@ namespace orvex::testing {
 // and again.
 class RandomEdits {
 public:
-    RandomEdits(DrawingFile& file, std::mt19937& random);
+    RandomEdits(DrawingFile& file, Chance& chance);
 
     void edit();
 
 private:
-    int below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
     template <class Object>
     Object* anyOf(const std::vector<KdDbStub*>& stubs);
     void editMline(double number, const wchar_t* key);
@@ -28,7 +27,7 @@ private:
     void add(std::unique_ptr<KdDbObject> entity, ObjectKind kind);
 
     DrawingFile& m_file;
-    std::mt19937& m_random;
+    Chance& m_chance;
     std::vector<KdDbStub*> m_mlines;
     std::vector<KdDbStub*> m_styles;
     std::vector<KdDbStub*> m_layers;

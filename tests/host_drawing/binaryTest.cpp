@@ -117,34 +117,6 @@ TEST(BinaryForm, opensWhatIsCutAtATagAndRefusesAllElse) {
     EXPECT_GT(at, bytes.size() / 2);
 }
 
-// With any tag missing, twice, or of other bytes: it opens and stays, or is refused with its place.
-TEST(BinaryForm, staysOrIsRefusedWhenDamaged) {
-    const std::string bytes = binaryOf(sampleDrawing());
-    BinaryTagReader reader(bytes, binarySignature().size(), bytes.size(), CodeWidth::two);
-    BinaryTag tag;
-    std::size_t opened = 0;
-    while (reader.next(tag) == BinaryTagReader::Result::tag && tag.end < bytes.size()) {
-        const std::string before = bytes.substr(0, tag.begin);
-        const std::string whole = bytes.substr(tag.begin, tag.end - tag.begin);
-        const std::string after = bytes.substr(tag.end);
-        const std::string code = whole.substr(0, 2);
-        const std::string ones = code + std::string(whole.size() - 2, '\xFF');
-        const std::string zeros = code + std::string(whole.size() - 2, '\0');
-        for (const std::string& other : {std::string(), whole + whole, ones, zeros, code}) {
-            const std::string damaged = std::string(before).append(other).append(after);
-            const auto file = DrawingFile::openBytes(damaged);
-            if (file) {
-                ++opened;
-                ASSERT_TRUE((*file)->bytes() == damaged) << tag.begin;
-            } else {
-                ASSERT_EQ(file.failure().cause, FailureCause::unreadableInput) << tag.begin;
-                ASSERT_THAT(file.failure().text, HasSubstr("at byte ")) << tag.begin;
-            }
-        }
-    }
-    EXPECT_GT(opened, 100U);
-}
-
 TEST(BinaryForm, isRefusedWithTheOffset) {
     const std::string section("\0\0SECTION\0", 10);
     const struct {

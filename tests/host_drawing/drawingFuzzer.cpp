@@ -17,7 +17,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <random>
 #include <string>
 
 namespace {
@@ -49,8 +48,8 @@ void lookAtAll(DatabaseCore& core) {
 
 void editAll(DrawingFile& file) {
     DatabaseCore& core = file.database().core();
-    std::mt19937 random(static_cast<unsigned>(core.objects().stubs().size()));
-    RandomEdits edits(file, random);
+    Chance chance(core.objects().stubs().size());
+    RandomEdits edits(file, chance);
     for (int i = 0; i < 12; ++i) {
         edits.edit();
     }

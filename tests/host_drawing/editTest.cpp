@@ -18,7 +18,6 @@
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <iterator>
-#include <random>
 
 namespace {
 
@@ -302,19 +301,19 @@ TEST(ChangedVariables, beginAFileThatHasHadNone) {
 }
 
 // Some edits, each after a mark, and back to some of the marks.
-void editWithMarks(DrawingFile& file, RandomEdits& edits, std::mt19937& random,
+void editWithMarks(DrawingFile& file, RandomEdits& edits, Chance& chance,
                    const std::function<std::string()>& state) {
     ChangeLog& changes = file.database().core().changes();
     std::vector<std::string> atMarks;
-    for (std::size_t count = 1 + random() % 4; count > 0; --count) {
+    for (int count = 1 + chance.below(4); count > 0; --count) {
         changes.mark();
         atMarks.push_back(state());
         edits.edit();
     }
-    if (random() % 2 == 0) {
+    if (chance.oneIn(2)) {
         return;
     }
-    for (std::string last = state(); random() % 3 != 0; last = state()) {
+    for (std::string last = state(); !chance.oneIn(3); last = state()) {
         while (!atMarks.empty() && atMarks.back() == last) {
             atMarks.pop_back(); // where nothing changed is no mark
         }
@@ -334,10 +333,10 @@ TEST(Undo, leadsBackAndForthByteForByte) {
     std::size_t steps = 0;
     for (unsigned seed = 1; seed <= 40; ++seed) {
         SCOPED_TRACE(seed);
-        std::mt19937 random(seed);
+        Chance chance(seed);
         const auto file = openDrawing(sampleDrawing());
         DatabaseCore& core = file->database().core();
-        RandomEdits edits(*file, random);
+        RandomEdits edits(*file, chance);
         // Of an old layer nothing is written, so it stands beside the file.
         const auto state = [&] {
             const auto& walls = opened<KdDbLayerTableRecord>(*file, 0x10);
@@ -353,7 +352,7 @@ TEST(Undo, leadsBackAndForthByteForByte) {
         };
         for (int i = 0; i < 60; ++i) {
             core.changes().beginCommand();
-            ASSERT_NO_FATAL_FAILURE(editWithMarks(*file, edits, random, state));
+            ASSERT_NO_FATAL_FAILURE(editWithMarks(*file, edits, chance, state));
             if (core.changes().endCommand()) {
                 states.resize(core.changes().undoDepth());
                 states.push_back(state());

@@ -21,11 +21,16 @@ public:
     }
     template <class List>
     auto& of(List& list) {
-        return list[static_cast<decltype(list.size())>(below(static_cast<int>(list.size())))];
+        return list[static_cast<decltype(list.size())>(place(list))];
     }
     template <class Value, std::size_t count>
     auto& of(Value (&list)[count]) {
         return list[below(count)];
+    }
+    // An index of a list that isn't empty.
+    template <class List>
+    std::size_t place(const List& list) {
+        return static_cast<std::size_t>(below(static_cast<int>(list.size())));
     }
     // Any number of up to 64 bits, small ones as often as large ones.
     std::uint64_t word() { return m_engine() >> below(64); }

@@ -43,7 +43,7 @@ private:
             }
         } else if constexpr (requires { std::variant_size<Value>::value; }) {
             addWord(value.index());
-            std::visit([this](const auto& held) { add(held); }, value);
+            std::visit([this](const auto& held) { this->add(held); }, value);
         } else if constexpr (!std::is_same_v<Value, std::monostate>) {
             describe(*this, value);
         }
