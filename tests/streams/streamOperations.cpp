@@ -213,7 +213,8 @@ void playOperations(std::span<const std::uint8_t> input, Digest& digest) {
     for (std::size_t i = 0; i < operations; ++i) {
         Operation operation{*stream, buffer, digest, input[3 + 2 * i]};
         kOperations[input[2 + 2 * i] % std::size(kOperations)](operation);
-        digest.add(stream->tell(), stream->length(), stream->isEOS(), buffer.tell());
+        digest.add(stream->tell(), stream->length(), stream->isEOS(), buffer.tell(),
+                   buffer.bufSize());
         require(buffer.length() < 1U << 24);
     }
     digest.add(bytesOf(buffer));
