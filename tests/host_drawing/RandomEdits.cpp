@@ -4,6 +4,7 @@
 #include "DatabaseCore.h"
 #include "KdDbDictionary.h"
 #include "KdDbLayerTable.h"
+#include "KdDbLinetypeTable.h"
 #include "KdDbMline.h"
 #include "KdDbMlineStyle.h"
 #include "MlineContent.h"
@@ -77,7 +78,7 @@ void RandomEdits::edit() {
         [&] { editMline(number, key.c_str()); },
         [&] { editStyle(number, key.c_str()); },
         [&] { editDictionary(key.c_str()); },
-        [&] { editLayer(); },
+        [&] { editTables(key.c_str()); },
         [&] { editVariable(number); },
         [&] {
             auto made = std::make_unique<KdDbMline>();
@@ -196,20 +197,28 @@ void RandomEdits::editDictionary(const wchar_t* key) {
     m_chance.of(edits)();
 }
 
-void RandomEdits::editLayer() {
+void RandomEdits::editTables(const wchar_t* key) {
+    const WellKnownObjects& known = m_file.database().core().wellKnown();
+    const auto add = [&](KdDbStub* stub, std::unique_ptr<KdDbSymbolTableRecord> record) {
+        KdDbObjectId id;
+        auto* const table = dynamic_cast<KdDbSymbolTable*>(stub->database->open(*stub, true));
+        record->setName(key);
+        if (table->add(id, record.get()) == Status::done) {
+            static_cast<void>(record.release());
+        }
+    };
     auto* const layer = anyOf<KdDbLayerTableRecord>(m_layers);
-    if (layer == nullptr) {
-        return;
-    }
     KdCmColor color;
     color.setColorIndex(static_cast<std::uint16_t>(1 + m_chance.below(3)));
     const std::function<void()> edits[] = {
+        [&] { add(known.layerTable, std::make_unique<KdDbLayerTableRecord>()); },
+        [&] { add(known.linetypeTable, std::make_unique<KdDbLinetypeTableRecord>()); },
         [&] { layer->setColor(color); },
         [&] { layer->setIsFrozen(!layer->isFrozen()); },
         [&] { layer->setIsLocked(!layer->isLocked()); },
         [&] { layer->setLineweight(m_chance.below(100)); },
     };
-    m_chance.of(edits)();
+    edits[m_chance.below(layer == nullptr ? 2 : std::size(edits))]();
 }
 
 void RandomEdits::editVariable(double number) {

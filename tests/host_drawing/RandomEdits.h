@@ -22,7 +22,7 @@ private:
     void editMline(double number, const wchar_t* key);
     void editStyle(double number, const wchar_t* key);
     void editDictionary(const wchar_t* key);
-    void editLayer();
+    void editTables(const wchar_t* key);
     void editVariable(double number);
     void add(std::unique_ptr<KdDbObject> entity, ObjectKind kind);
 
