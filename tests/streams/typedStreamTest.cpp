@@ -168,6 +168,9 @@ TEST_F(TypedStreamTest, streamsCopyWhatTheirBuffersHaveLeft) {
     EXPECT_EQ(stateOf(source), "a|bc");
     from.truncate();
     EXPECT_EQ(stateOf(source), "a|");
+    VoBufStream none(nullptr);
+    EXPECT_EQ(none.tell() + none.seek(1, VoIO::fromStart) + none.length(), 0U);
+    EXPECT_TRUE(none.isEOS());
 }
 
 } // namespace
