@@ -172,7 +172,7 @@ void RandomEdits::editStyle(double number, const wchar_t* key) {
         [&] { style->setEndInnerArcs(!style->endInnerArcs()); },
         [&] { style->setFillColor(color); },
         [&] { style->setStartAngle(number); },
-        [&] { style->setDescription(key); },
+        [&] { style->setDescription((std::wstring(key) + L" \u00E4\n~\u4E2D").c_str()); },
     };
     m_chance.of(edits)();
 }

@@ -22,6 +22,8 @@ TEST(ResultList, endsOnAListTiedIntoARing) {
     second.rbnext = &first;
     resbuf* found = nullptr;
     EXPECT_EQ(gx_Associate(&first, kResultText, &found), -1);
+    resbuf before{&first, kResultShort, {}}; // leads into the ring and is no part of it
+    EXPECT_EQ(gx_Associate(&before, kResultText, &found), -1);
     second.restype = kResultText;
     EXPECT_EQ(gx_Associate(&first, kResultText, &found), 0);
 }
