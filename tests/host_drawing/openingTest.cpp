@@ -9,6 +9,7 @@
 #include "KdDbMlineStyle.h"
 #include "MlineStyleContent.h"
 #include "ObjectTable.h"
+#include "TestPaths.h"
 #include "WellKnownObjects.h"
 #include "sampleDrawing.h"
 
@@ -64,11 +65,12 @@ TEST(Opening, takesAnyNumberForAColor) {
 }
 
 // A pipe without a writer must not hang, a device without an end not fill the memory.
-TEST(Opening, takesRegularFilesOnly) {
+TEST(Opening, takesRegularFilesOnlyAndNamesWhatItRefuses) {
     const std::string pipe = (std::filesystem::temp_directory_path() / "pipe.dxf").string();
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-    for (const std::string& path : {std::string("/nowhere/at/all.dxf"), std::string("/"), pipe,
-                                    std::string("/dev/zero"), std::string("/dev/null")}) {
+    for (const std::string& path :
+         {std::string("/nowhere/at/all.dxf"), std::string("/"), pipe, std::string("/dev/zero"),
+          std::string("/dev/null"), (sourceDir() / "README.md").string()}) {
         const auto opened = DrawingFile::open(path);
         ASSERT_FALSE(opened) << path;
         EXPECT_EQ(opened.failure().cause, FailureCause::unreadableInput);
