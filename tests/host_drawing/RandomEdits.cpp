@@ -2,6 +2,7 @@
 
 #include "BlockList.h"
 #include "DatabaseCore.h"
+#include "DictionaryContent.h"
 #include "KdDbDictionary.h"
 #include "KdDbLayerTable.h"
 #include "KdDbLinetypeTable.h"
@@ -184,9 +185,11 @@ void RandomEdits::editDictionary(const wchar_t* key) {
     if (dictionary == nullptr) {
         return;
     }
+    const std::vector<DictionaryEntry>& entries = dictionary->entries().entries;
+    const std::wstring known = entries.empty() ? L"A" : m_chance.of(entries).key;
     const std::function<void()> edits[] = {
-        [&] { dictionary->remove(key); },
-        [&] { dictionary->setName(key, L"B"); },
+        [&] { dictionary->remove(known.c_str()); },
+        [&] { dictionary->setName(known.c_str(), key); },
         [&] {
             KdDbObjectId id;
             auto* const made = new KdDbMlineStyle;

@@ -98,6 +98,7 @@ TEST(Cutting, doesNotDependOnThreads) {
     expectSame(with(quarter, "no code\nvalue\n")); // faults in either half
     expectSame(with(half + quarter, "x\nvalue\n"));
     expectSame(with(quarter, "one line more\n"));
+    expectSame(with(half + quarter, "  0\nTEXT\n  5\nFFFF0\n")); // the highest handle
     expectSame(whole + " 12");
     // Every value looks like the beginning of a record: only counting from the start tells.
     std::string pairs;
