@@ -185,8 +185,14 @@ void RandomEdits::editDictionary(const wchar_t* key) {
     if (dictionary == nullptr) {
         return;
     }
-    const std::vector<DictionaryEntry>& entries = dictionary->entries().entries;
-    const std::wstring known = entries.empty() ? L"A" : m_chance.of(entries).key;
+    // What is listed there and is no style, the dictionary itself for one, nobody takes for one.
+    std::vector<std::wstring> styles{L"A"};
+    for (const DictionaryEntry& entry : dictionary->entries().entries) {
+        if (entry.id.isValid() && entry.id.stub()->kind == ObjectKind::mlineStyle) {
+            styles.push_back(entry.key);
+        }
+    }
+    const std::wstring known = m_chance.of(styles);
     const std::function<void()> edits[] = {
         [&] { dictionary->remove(known.c_str()); },
         [&] { dictionary->setName(known.c_str(), key); },
