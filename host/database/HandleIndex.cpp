@@ -7,6 +7,14 @@
 
 namespace orvex {
 
+namespace {
+
+bool makesRoom(const KdDbStub& bearer) {
+    return bearer.erased && bearer.record == kNoRecord;
+}
+
+} // namespace
+
 KdDbStub* HandleIndex::find(std::deque<KdDbStub>& stubs, std::uint64_t handle) {
     if (m_taken == 0) {
         build(stubs);
@@ -42,7 +50,7 @@ void HandleIndex::add(KdDbStub& stub) {
     if (m_sorted.empty() || m_sorted.back().handle < stub.handle) {
         m_sorted.push_back({stub.handle, &stub});
     } else if (KdDbStub** const known = place(stub.handle)) {
-        if ((*known)->erased) {
+        if (makesRoom(**known)) {
             *known = &stub;
         }
     } else {
@@ -62,13 +70,13 @@ void HandleIndex::build(std::deque<KdDbStub>& stubs) {
     if (!std::is_sorted(m_sorted.begin(), m_sorted.end(), isBelow)) {
         std::stable_sort(m_sorted.begin(), m_sorted.end(), isBelow);
     }
-    // Of each handle the first that isn't erased, else the first.
+    // Of each handle the first that makes no room, else the first.
     auto kept = m_sorted.begin();
     for (const Entry& each : m_sorted) {
         const bool isNew = kept == m_sorted.begin() || std::prev(kept)->handle != each.handle;
         if (isNew) {
             *kept++ = each;
-        } else if (std::prev(kept)->stub->erased && !each.stub->erased) {
+        } else if (makesRoom(*std::prev(kept)->stub) && !each.stub->erased) {
             *std::prev(kept) = each;
         }
     }

@@ -14,8 +14,9 @@ namespace orvex {
 // objects in ascending order and new objects continue it, so nearly all handles fit into one
 // sorted array, which takes a third of a hash table's room.
 //
-// A handle is given again only after the making of its first bearer was undone, so what was erased
-// makes room for good. Of objects that share a handle in a damaged file the first one has it.
+// A handle is given again only after the making of its first bearer was undone, so what was made in
+// memory and erased makes room for good. Of objects that share a handle in a damaged file the first
+// one has it, erased or not: undo leads back to it.
 class HandleIndex {
 public:
     void reserve(std::size_t count) { m_sorted.reserve(count); }

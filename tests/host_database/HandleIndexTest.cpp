@@ -33,6 +33,7 @@ TEST(Handles, findWhatAPlainMapFinds) {
             if (handle != 0) {
                 model.try_emplace(handle, &stub); // the first of several has it
             }
+            stub.erased = random() % 10 == 0; // which undo may take back
             if (random() % 20 == 0) {
                 const std::uint64_t wanted = random() % 400;
                 const auto found = model.find(wanted);

@@ -35,7 +35,7 @@ public:
 
     int from(int low, int high) { return low + below(high - low + 1); }
     std::vector<double> numbers() {
-        std::vector<double> made(3 * kMost);
+        std::vector<double> made(std::size_t{3} * kMost);
         for (double& number : made) {
             number = from(-40, 40) / 8.0;
         }

@@ -31,7 +31,7 @@ struct Operation {
     VoDwgStream& stream;
     VoFlatMemBuf& buffer;
     Digest& digest;
-    std::uint8_t argument;
+    std::uint8_t argument = 0;
     Chance chance{argument};
 
     double number() {
