@@ -29,8 +29,7 @@
 
 using orvex::testing::Digest;
 
-// ---- what counts of what was read
-// -----------------------------------------------------------------
+// ---- what counts of what was read ---------------------------------------------------------------
 
 static void describe(Digest& digest, const KdCmColor& color) {
     digest.add(color.color(), color.colorIndex(), color.colorNameForDisplay());
@@ -111,8 +110,7 @@ void addContent(Digest& digest, const ObjectContent* content) {
     }
 }
 
-// ---- faults
-// ---------------------------------------------------------------------------------------
+// ---- faults -------------------------------------------------------------------------------------
 
 struct TagLines {
     std::string code, value;
