@@ -210,9 +210,40 @@ TEST(Shapes, ofHatches) {
     expectNear(hatch.arcs[1].minor, 0.0, 1.0, 0.0);
     EXPECT_DOUBLE_EQ(hatch.arcs[1].start, 1.5 * kPi);
     EXPECT_DOUBLE_EQ(hatch.arcs[1].end, 2.5 * kPi); // past zero
+    // A spline whose degree, knots and points don't fit together is drawn as its points.
+    for (const char* const unfit :
+         {"94 0\n95 3\n96 2\n40 0\n40 1\n40 2", "94 26\n95 2\n96 2\n40 0\n40 1",
+          "94 2\n95 5\n96 2\n40 0\n40 0\n40 0\n40 1\n40 1", "94 1\n95 3\n96 2\n40 0\n40 0\n40 1",
+          "94 1\n95 4\n96 2\n40 0\n40 1\n40 0\n40 1"}) {
+        const auto spline = shapeOf<OutlinesShape>("0 HATCH\n92 0\n93 1\n72 4\n" +
+                                                   std::string(unfit) + "\n10 0\n20 2\n10 8\n20 6");
+        ASSERT_EQ(spline.paths.size(), 1U) << unfit;
+        EXPECT_EQ(spline.paths[0].vertices.size(), 2U) << unfit;
+    }
 }
 
 TEST(Shapes, ofDamagedEntitiesAreHarmless) {
+    const std::string line = "\n72 1\n10 0\n20 0\n11 1\n21 1";
+    const std::string rest = line + "\n92 0\n93 1" + line;
+    const std::string path = "0 HATCH\n92 0\n93 9\n";
+    // What comes after weights, fit points and directions is read; after a broken edge it is the
+    // next path.
+    const auto spline = shapeOf<OutlinesShape>(
+        path +
+        "72 4\n94 1\n95 4\n96 2\n40 0\n40 0\n40 1\n40 1\n10 0\n20 2\n42 1\n10 8\n20 6\n42 "
+        "2\n97 2\n11 0\n21 2\n11 8\n21 6\n12 1\n22 0\n13 0\n23 1" +
+        line);
+    ASSERT_EQ(spline.paths.size(), 2U);
+    expectNear(spline.paths[0].vertices.back().position, 8.0, 6.0, 0.0);
+    for (const char* const broken :
+         {"72 1\n10 0\n11 1\n21 1", "72 1\n10 0\n20 0\n11 1", "72 2\n10 0\n40 1",
+          "72 2\n10 0\n20 0\n50 0", "72 3\n20 0", "72 3\n10 0\n20 0\n40 1",
+          "72 3\n10 0\n20 0\n11 1\n21 0\n50 0", "72 4\n95 0\n96 0", "72 4\n94 1\n96 0",
+          "72 4\n94 1\n95 0", "72 5", "92 2\n73 1\n10 0\n20 0", "92 0\n72 1"}) {
+        const auto shape = shapeOf<OutlinesShape>(std::string(path).append(broken).append(rest));
+        EXPECT_EQ(shape.paths.size(), 1U) << broken;
+        EXPECT_TRUE(shape.arcs.empty()) << broken;
+    }
     const std::string hatch = "0 HATCH\n91 999999999\n92 1\n93 999999999\n72 4\n94 3\n95 "
                               "999999999\n96 999999999\n40 0\n40 1\n10 0\n20 0";
     EXPECT_EQ(shapeOf<OutlinesShape>(hatch).paths.size(), 1U);
