@@ -239,7 +239,8 @@ TEST(Shapes, ofDamagedEntitiesAreHarmless) {
          {"72 1\n10 0\n11 1\n21 1", "72 1\n10 0\n20 0\n11 1", "72 2\n10 0\n40 1",
           "72 2\n10 0\n20 0\n50 0", "72 3\n20 0", "72 3\n10 0\n20 0\n40 1",
           "72 3\n10 0\n20 0\n11 1\n21 0\n50 0", "72 4\n95 0\n96 0", "72 4\n94 1\n96 0",
-          "72 4\n94 1\n95 0", "72 5", "92 2\n73 1\n10 0\n20 0", "92 0\n72 1"}) {
+          "72 4\n94 1\n95 0", "72 2\n10 0\n20 0", "72 3\n10 0\n20 0\n11 1\n21 0", "72 5",
+          "92 2\n73 1\n10 0\n20 0", "92 0\n72 1"}) {
         const auto shape = shapeOf<OutlinesShape>(std::string(path).append(broken).append(rest));
         EXPECT_EQ(shape.paths.size(), 1U) << broken;
         EXPECT_TRUE(shape.arcs.empty()) << broken;
